@@ -1,0 +1,19 @@
+// Vectors of the CPU that this build is for.
+#pragma once
+
+#include <hwy/highway.h>
+
+static_assert(HWY_TARGET == QVP_VECTOR_TARGET, "the compiler's flags do not select this build's vector target");
+
+namespace qvp {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Bytes of one 128-bit block, within which byte shuffles work on every CPU.
+inline constexpr int kBlockBytes = 16;
+
+// A load that keeps out of the caches where memory is write-combining. The address must be a multiple of 16.
+HWY_INLINE hn::Vec128<uint8_t> LoadStreaming(const uint8_t* from) {
+  return hn::Vec128<uint8_t>{_mm_stream_load_si128(reinterpret_cast<__m128i*>(const_cast<uint8_t*>(from)))};
+}
+
+}  // namespace qvp

@@ -1,0 +1,42 @@
+// Ordinary and cache-bypassing stores, and when to use which.
+#pragma once
+
+#include <hwy/cache_control.h>
+
+#include "base/simd.h"
+#include "qvpcore.h"
+
+namespace qvp {
+
+enum class Store { kOrdinary, kStreaming };
+
+// Streaming pays once the bytes that a call touches no longer fit into the largest cache: written lines would push out
+// what the caller works on, and would be read before they are overwritten. Small calls do not even ask for the size.
+inline Store StoreFor(int64_t bytes) {
+  if (bytes <= 524288) return Store::kOrdinary;
+  int cache = 0;
+  return qvpGetMaxCacheSizeB(&cache) == qvpStatusNoError && bytes >= cache ? Store::kStreaming : Store::kOrdinary;
+}
+
+// Makes streamed rows visible to other threads before the call returns.
+inline void Fence(Store store) {
+  if (store == Store::kStreaming) hwy::FlushStream();
+}
+
+// A streaming store asks for an address aligned to the vector.
+template <Store kStore, class D, class T = hn::TFromD<D>>
+HWY_INLINE void StoreTo(hn::Vec<D> v, D d, T* to) {
+  if constexpr (kStore == Store::kStreaming) {
+    hn::Stream(v, d, to);
+  } else {
+    hn::StoreU(v, d, to);
+  }
+}
+
+// Bytes from `p` up to the next multiple of the vector length.
+template <class D, class T = hn::TFromD<D>>
+HWY_INLINE ptrdiff_t BytesToAlignment(D, const T* p) {
+  return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (HWY_MAX(hn::MaxLanes(D()) * sizeof(T), 1) - 1));
+}
+
+}  // namespace qvp

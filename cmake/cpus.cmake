@@ -1,0 +1,14 @@
+# One row per CPU build. Outputs lie in <build>/<code>/.
+#
+# i386 callers may keep the stack aligned to 4 bytes only, so g9 realigns it where a function needs more.
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  set(realign -mincoming-stack-boundary=2)
+else()
+  set(realign -mstackrealign)
+endif()
+
+#        code  bits  vector target  file     installed below the library folder in  name in the version record  flags
+qvpi_cpu(g9    32    HWY_SSE4       qvpig9   .                           "qvpIP AVX (g9)"      -m32 -mavx -mfpmath=sse ${realign})
+qvpi_cpu(v2    64    HWY_SSE4       qvpi     .                           "qvpIP SSE4.2 (v2)"   -march=x86-64-v2)
+qvpi_cpu(v3    64    HWY_AVX2       qvpi     glibc-hwcaps/x86-64-v3      "qvpIP AVX2 (v3)"     -march=x86-64-v3)
+qvpi_cpu(v4    64    HWY_AVX3       qvpi     glibc-hwcaps/x86-64-v4      "qvpIP AVX-512 (v4)"  -march=x86-64-v4)

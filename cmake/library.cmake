@@ -1,0 +1,96 @@
+# How the libraries of one CPU build are made. A new source file needs no line here.
+set(QVPI_SOURCE_FOLDERS core arith filter geometry stats transform feature signal)
+set(QVPI_WARNINGS -Wall -Wextra -Wshadow -Wcast-qual -Wmissing-declarations -Werror)
+set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function -fno-sanitize-recover=all
+                    -fno-omit-frame-pointer -g)
+set(QVPI_SOVERSION 10)
+
+# No exceptions, no run-time type information and no C++ run-time library; float results must not depend on the CPU.
+set(QVPI_FLAGS ${QVPI_WARNINGS} -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffp-contract=off
+               -fvisibility=hidden -fno-math-errno -fcf-protection)
+
+find_path(HWY_INCLUDE_DIR hwy/highway.h REQUIRED)
+
+# Writes what is derived from the headers to <folder>: FILES are outputs of tools/derive.py called with ARGS.
+function(qvpi_derive folder)
+  cmake_parse_arguments(PARSE_ARGV 1 D "" "" "FILES;ARGS;HEADERS")
+  list(TRANSFORM D_FILES PREPEND ${folder}/ OUTPUT_VARIABLE outputs)
+  add_custom_command(OUTPUT ${outputs}
+    COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_ARGS} --out ${folder} ${D_HEADERS}
+    COMMAND ${CMAKE_COMMAND} -E touch ${outputs}
+    DEPENDS ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_HEADERS}
+    COMMENT "Deriving ${D_FILES}" VERBATIM)
+endfunction()
+
+# The settings that every library of ours shares.
+function(qvpi_settings target bits)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON LINKER_LANGUAGE C)
+  if(QVPI_SANITIZE)
+    target_compile_options(${target} PRIVATE ${QVPI_SANITIZERS})
+    target_link_options(${target} PRIVATE ${QVPI_SANITIZERS})
+  endif()
+  if(bits EQUAL 32)
+    target_compile_options(${target} PRIVATE -m32)
+    target_link_options(${target} PRIVATE -m32)
+  endif()
+endfunction()
+
+# A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/.
+function(qvpi_shared_and_static name objects output code bits map)
+  add_library(${name} SHARED $<TARGET_OBJECTS:${objects}>)
+  add_library(${name}_static STATIC $<TARGET_OBJECTS:${objects}>)
+  foreach(target ${name} ${name}_static)
+    qvpi_settings(${target} ${bits})
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME ${output} BUILD_RPATH_USE_ORIGIN ON
+      LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${code} ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${code})
+  endforeach()
+  set_target_properties(${name} PROPERTIES VERSION ${QVPI_SOVERSION} SOVERSION ${QVPI_SOVERSION} LINK_DEPENDS ${map})
+  target_link_options(${name} PRIVATE LINKER:--version-script=${map},-z,relro,-z,now,--as-needed,--gc-sections)
+  if(NOT QVPI_SANITIZE)
+    target_link_options(${name} PRIVATE LINKER:-z,defs)
+  endif()
+endfunction()
+
+# The companion runs on any x86, so it gets no flags for a CPU level.
+function(qvpi_companion code bits)
+  set(derived ${PROJECT_BINARY_DIR}/derived/${code}/core)
+  set(header ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
+  qvpi_derive(${derived} FILES exports.map HEADERS ${header})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.cpp)
+  add_library(qvpcore_${code}_objects OBJECT ${sources} ${derived}/exports.map)
+  qvpi_settings(qvpcore_${code}_objects ${bits})
+  target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} -fvisibility=default -fvisibility-inlines-hidden)
+  qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
+endfunction()
+
+function(qvpi_cpu code bits vectors output folder name)
+  if(NOT code IN_LIST QVPI_CPUS)
+    return()
+  endif()
+  qvpi_companion(${code} ${bits})
+
+  set(derived ${PROJECT_BINARY_DIR}/derived/${code})
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
+  qvpi_derive(${derived} FILES rename.h entries.S exports.map ARGS --cpu ${code} --bits ${bits} HEADERS ${headers})
+
+  list(TRANSFORM QVPI_SOURCE_FOLDERS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.cpp" OUTPUT_VARIABLE patterns)
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  set(objects qvpi_${code}_objects)
+  add_library(${objects} OBJECT ${sources} ${derived}/entries.S ${derived}/rename.h)
+  qvpi_settings(${objects} ${bits})
+  target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_include_directories(${objects} SYSTEM PRIVATE ${HWY_INCLUDE_DIR})
+  target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
+    QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
+  target_compile_options(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${ARGN};${QVPI_FLAGS};SHELL:-include ${derived}/rename.h>"
+    $<$<COMPILE_LANGUAGE:ASM>:-fcf-protection>)
+  target_precompile_headers(${objects} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:<hwy/highway.h$<ANGLE-R>>)
+
+  set(library qvpi_${code})
+  qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map)
+  target_link_libraries(${library} PUBLIC qvpcore_${code})
+  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FOLDER ${folder})
+  set_property(GLOBAL APPEND PROPERTY QVPI_CPU_BUILDS ${code})
+  add_custom_target(${code} DEPENDS ${library} ${library}_static)
+endfunction()

@@ -1,0 +1,204 @@
+/** @file qvptypes.h
+ *  Types, status codes and selectors shared by every function of qvpIP.
+ */
+#ifndef QVPTYPES_H
+#define QVPTYPES_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @name Pixel and value types
+ *  @{ */
+typedef uint8_t Qvp8u;   /**< unsigned 8-bit integer */
+typedef int8_t Qvp8s;    /**< signed 8-bit integer */
+typedef uint16_t Qvp16u; /**< unsigned 16-bit integer */
+typedef int16_t Qvp16s;  /**< signed 16-bit integer */
+typedef uint32_t Qvp32u; /**< unsigned 32-bit integer */
+typedef int32_t Qvp32s;  /**< signed 32-bit integer */
+typedef float Qvp32f;    /**< IEEE 754 single precision */
+typedef double Qvp64f;   /**< IEEE 754 double precision */
+
+/** Complex value of two single-precision parts. */
+typedef struct {
+    Qvp32f re; /**< real part */
+    Qvp32f im; /**< imaginary part */
+} Qvp32fc;
+
+/** Complex value of two 32-bit integer parts. */
+typedef struct {
+    Qvp32s re; /**< real part */
+    Qvp32s im; /**< imaginary part */
+} Qvp32sc;
+/** @} */
+
+/** @name Geometry
+ *  Sizes and positions count pixels. Row steps, which stand beside every image pointer, count bytes from the start of
+ *  one row to the start of the next.
+ *  @{ */
+
+/** A length, position or step of the `_L` forms: as wide as a pointer. */
+typedef ptrdiff_t QvpSizeL;
+
+/** Size of a region of interest. */
+typedef struct {
+    int width;  /**< pixels in a row */
+    int height; /**< rows */
+} QvpiSize;
+
+/** A pixel position. */
+typedef struct {
+    int x; /**< column, from the left */
+    int y; /**< row, from the top */
+} QvpiPoint;
+
+/** A rectangle of pixels. */
+typedef struct {
+    int x;      /**< leftmost column */
+    int y;      /**< topmost row */
+    int width;  /**< columns */
+    int height; /**< rows */
+} QvpiRect;
+
+/** Size of a region of interest of the `_L` forms. */
+typedef struct {
+    QvpSizeL width;  /**< pixels in a row */
+    QvpSizeL height; /**< rows */
+} QvpiSizeL;
+
+/** A pixel position of the `_L` forms. */
+typedef struct {
+    QvpSizeL x; /**< column, from the left */
+    QvpSizeL y; /**< row, from the top */
+} QvpiPointL;
+
+/** A rectangle of pixels of the `_L` forms. */
+typedef struct {
+    QvpSizeL x;      /**< leftmost column */
+    QvpSizeL y;      /**< topmost row */
+    QvpSizeL width;  /**< columns */
+    QvpSizeL height; /**< rows */
+} QvpiRectL;
+
+/** Widths of the four borders of a region, in pixels. */
+typedef struct {
+    Qvp32u left;   /**< columns before the region */
+    Qvp32u top;    /**< rows above the region */
+    Qvp32u right;  /**< columns after the region */
+    Qvp32u bottom; /**< rows below the region */
+} QvpiBorderSize;
+/** @} */
+
+/** @name Selectors
+ *  Plain 32-bit integers: a value that is none of the constants reaches a function's checks unharmed.
+ *  @{ */
+
+/** Pixel type, for functions that serve several. */
+typedef int QvpDataType;
+enum {
+    qvp8u = 1,   /**< Qvp8u */
+    qvp16u = 5,  /**< Qvp16u */
+    qvp16s = 7,  /**< Qvp16s */
+    qvp32f = 13, /**< Qvp32f */
+    qvp64f = 19, /**< Qvp64f */
+};
+
+/** Rounding of results that fall between two integers. */
+typedef int QvpRoundMode;
+enum {
+    qvpRoundZero = 0,      /**< toward zero */
+    qvpRoundNear = 1,      /**< to the nearest, ties to even */
+    qvpRoundFinancial = 2, /**< to the nearest, ties away from zero */
+};
+
+/** Speed or accuracy first. Every value but qvpAlgHintAccurate means the fast way. */
+typedef int QvpHintAlgorithm;
+enum {
+    qvpAlgHintFast = 1,     /**< the fast kernel */
+    qvpAlgHintAccurate = 2, /**< double-precision accumulation, or the accurate kernel */
+};
+/** @} */
+
+/** @name Status codes
+ *  @{ */
+
+/** Result of every function: 0 for success, negative for an error, positive for a warning.
+ *
+ *  A call that fails its argument checks writes nothing. After a warning the work was done. qvpGetStatusString() in
+ *  qvpcore.h turns a value into its name and a sentence. */
+typedef int QvpStatus;
+enum {
+    qvpStatusNoError = 0,                   /**< success */
+    qvpStatusNoOperation = 1,               /**< warning: nothing to do, nothing written */
+    qvpStatusDivideByZero = 2,              /**< warning: an element-wise division met a zero divisor */
+    qvpStatusNoIntersection = 29,           /**< warning: the source region has no pixels, nothing written */
+    qvpStatusAntialiasIgnored = 46,         /**< warning: antialiasing asked for where it has no effect */
+    qvpStatusSizeWarning = 48,              /**< warning: a size condition that the call tolerated */
+    qvpStatusAccurateModeNotSupported = 52, /**< warning: the accuracy flag has no effect here */
+    qvpStatusBadArgument = -5,              /**< a parameter outside its domain */
+    qvpStatusSize = -6,                     /**< a width or height below 1, or a size that is not supported */
+    qvpStatusRange = -7,                    /**< a lower bound above the upper bound */
+    qvpStatusNullPointer = -8,              /**< a required pointer is null */
+    qvpStatusMemoryAllocation = -9,         /**< an allocation failed, or a work buffer is missing */
+    qvpStatusDivideByZeroError = -10,       /**< division by a constant that is zero */
+    qvpStatusOutOfRange = -11,              /**< a point, offset or bit count outside its range */
+    qvpStatusScaleRange = -12,              /**< the upper value of a range is not above the lower */
+    qvpStatusContextMatch = -13,            /**< a record that was not made for this function */
+    qvpStatusNotSupportedMode = -14,        /**< a mode or combination that is not implemented */
+    qvpStatusStep = -16,                    /**< a row step below 1, too short, or not a multiple of the element */
+    qvpStatusFftOrder = -17,                /**< a transform order beyond what is supported */
+    qvpStatusFftFlag = -18,                 /**< a normalisation flag other than 1, 2, 4 or 8 */
+    qvpStatusThreshold = -19,               /**< the lower threshold exceeds the upper */
+    qvpStatusMoment00Zero = -21,            /**< the zero-order moment is zero */
+    qvpStatusMirrorFlip = -22,              /**< unknown mirror axis */
+    qvpStatusInterpolation = -23,           /**< an interpolation kind that is not supported */
+    qvpStatusResizeFactor = -24,            /**< a resize factor not above zero */
+    qvpStatusMaskSize = -33,                /**< a mask size that is not supported */
+    qvpStatusAnchor = -34,                  /**< an anchor outside the mask */
+    qvpStatusEps = -36,                     /**< a negative tolerance */
+    qvpStatusStride = -37,                  /**< a row step shorter than the values that are read */
+    qvpStatusChannel = -47,                 /**< a channel count outside 1 to 4, or not allowed for the type */
+    qvpStatusAlphaType = -50,               /**< an unknown alpha-compositing operation */
+    qvpStatusDivisor = -51,                 /**< an integer divisor of zero */
+    qvpStatusNumChannels = -53,             /**< a channel count that is not supported */
+    qvpStatusCoefficient = -56,             /**< degenerate transform coefficients */
+    qvpStatusRect = -57,                    /**< a rectangle with a side below one pixel */
+    qvpStatusQuad = -58,                    /**< a quadrangle that is degenerate or not convex */
+    qvpStatusDataType = -59,                /**< a pixel type that is not supported */
+    qvpStatusChannelOrder = -60,            /**< a channel-order entry outside the channel count */
+    qvpStatusLutLevels = -106,              /**< a look-up table with fewer than 2 levels */
+    qvpStatusHistoLevels = -107,            /**< a histogram with fewer than 2 levels */
+    qvpStatusNotEvenStep = -108,            /**< a step that is not a multiple of 4 bytes where it must be */
+    qvpStatusNoiseRange = -125,             /**< a noise level outside 0 (inclusive) to 1 (exclusive) */
+    qvpStatusQualityIndex = -210,           /**< the denominator of the quality index is zero */
+    qvpStatusWeight = -211,                 /**< a median weight below 1 */
+    qvpStatusDecimateFraction = -212,       /**< a decimation fraction that is not supported */
+    qvpStatusRoundMode = -213,              /**< an unknown rounding mode */
+    qvpStatusBorder = -225,                 /**< a border type that is not supported */
+    qvpStatusMisalignedOffset = -227,       /**< an odd offset where chroma subsampling needs even ones */
+    qvpStatusAlgType = -228,                /**< an algorithm selector that is not supported */
+    qvpStatusWarpDirection = -231,          /**< a transform direction other than forward or backward */
+    qvpStatusSizeOverflow = -232,           /**< a size beyond what can be represented */
+};
+/** @} */
+
+/** Version record of a build. */
+typedef struct {
+    int major;             /**< year of the release */
+    int minor;             /**< number of the release in its year */
+    int majorBuild;        /**< number of the update */
+    int build;             /**< revision */
+    char targetCpu[4];     /**< CPU code, "g9", "v2", "v3" or "v4", filled up with zero bytes */
+    const char *Name;      /**< name of the library and its instruction set */
+    const char *Version;   /**< all of the numbers as text */
+    const char *BuildDate; /**< date of the release */
+} QvpLibraryVersion;
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,122 @@
+#!/usr/bin/env python3
+"""Derive everything mechanical from the prototypes in the public headers.
+
+The headers are the single list of exported names. For one CPU build this writes
+
+  rename.h     one define per function: inside the library `name` means `<cpu>_name`
+  entries.S    the entry table and the stub of each exported name, which jumps through its slot
+  exports.map  the linker's version script
+
+and for the tests
+
+  calls.h      one row per function: its name, its parameters, and a way to call it with arguments made at run time
+"""
+import argparse
+import re
+from pathlib import Path
+
+PROTOTYPE = re.compile(r"^(?P<result>\w[\w ]*?[ *]+)(?P<name>(?:qvp|own)\w+)\((?P<params>[^()]*)\);", re.M)
+
+
+def prototypes(headers):
+    """[(result type, name, [parameter declarations])] in header order."""
+    found = []
+    for header in headers:
+        for match in PROTOTYPE.finditer(header.read_text()):
+            params = [p.strip() for p in match["params"].split(",")]
+            found.append((match["result"].strip(), match["name"], [] if params == ["void"] else params))
+    return found
+
+
+def rename(names, cpu):
+    lines = [f"#define {name} {cpu}_{name}" for name in names]
+    # Declared hidden, so that calls from one function to another are direct ones.
+    hidden = ["#pragma GCC visibility push(hidden)", '#include "qvpi.h"', "#pragma GCC visibility pop"]
+    return "\n".join(lines + hidden) + "\n"
+
+
+STUB = {
+    64: "\tjmp *(table + 8 * {slot})(%rip)\n",
+    # The address of the next instruction comes from the return address of a call; only eax and ecx may be changed.
+    32: "\tcall pc_to_ecx\n0:\tjmp *(table + 4 * {slot} - 0b)(%ecx)\n",
+}
+
+
+def entries(names, cpu, bits):
+    """Assembly: stubs in header order, then the table, filled by the loader and read-only from then on."""
+    text = ["#include <cet.h>\n\t.text\n"]
+    if bits == 32:
+        text.append("pc_to_ecx:\n\tmovl (%esp), %ecx\n\tret\n")
+    for slot, name in enumerate(names):
+        text.append(f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n\t_CET_ENDBR\n"
+                    f"{STUB[bits].format(slot=slot)}\t.size {name}, . - {name}\n")
+    text.append('\t.section .data.rel.ro, "aw", @progbits\n\t.p2align 6\n\t.type table, @object\ntable:\n')
+    word = ".quad" if bits == 64 else ".long"
+    for name in names:
+        text.append(f"\t.hidden {cpu}_{name}\n\t{word} {cpu}_{name}\n")
+    text.append('\t.size table, . - table\n\t.section .note.GNU-stack, "", @progbits\n')
+    return "".join(text)
+
+
+def exports(names):
+    return "{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n"
+
+
+def parameter(declaration):
+    """(type, name) of a parameter; an array counts as a pointer."""
+    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d+\])?", declaration)
+    kind = re.sub(r"\s*\*", "*", match["type"].strip())
+    return (kind + "*" if match["array"] else kind), match["name"]
+
+
+def argument(index, kind):
+    """How argument number `index` is taken out of an array of test::Argument."""
+    if kind.endswith("*"):
+        return f"reinterpret_cast<{kind}>(const_cast<void*>(a[{index}].pointer))"
+    if kind.startswith("Qvpi") and ("Size" in kind or "Point" in kind or "Rect" in kind):
+        return f"As<{kind}>(a[{index}])"
+    return f"static_cast<{kind}>(a[{index}].number)"
+
+
+def calls(functions):
+    lines = []
+    for result, name, params in functions:
+        if result != "QvpStatus":
+            continue
+        split = [parameter(p) for p in params]
+        arguments = ", ".join(argument(i, kind) for i, (kind, _) in enumerate(split))
+        described = ", ".join(f'{{"{kind}", "{label}"}}' for kind, label in split)
+        lines.append(f'{{"{name}", {{{described}}}, [](const Argument* a) -> QvpStatus {{ return {name}({arguments}); }}}},')
+    return "\n".join(lines) + "\n"
+
+
+def write(path, text):
+    """Leave an unchanged file alone, so that nothing is rebuilt for it."""
+    if not path.exists() or path.read_text() != text:
+        path.write_text(text)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
+    parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
+    parser.add_argument("--calls", action="store_true", help="write the tests' calls.h instead")
+    parser.add_argument("--out", type=Path, required=True, help="folder to write to")
+    parser.add_argument("headers", nargs="+", type=Path)
+    options = parser.parse_args()
+    functions = prototypes(options.headers)
+    names = [name for _, name, _ in functions]
+    if len(names) != len(set(names)):
+        raise SystemExit("a name is declared twice: " + ", ".join(sorted({n for n in names if names.count(n) > 1})))
+    options.out.mkdir(parents=True, exist_ok=True)
+    if options.calls:
+        write(options.out / "calls.h", calls(functions))
+        return
+    write(options.out / "exports.map", exports(names))
+    if options.cpu:
+        write(options.out / "rename.h", rename(names, options.cpu))
+        write(options.out / "entries.S", entries(names, options.cpu, options.bits))
+
+
+if __name__ == "__main__":
+    main()
