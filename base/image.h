@@ -17,30 +17,27 @@ struct Size {
   Size(QvpiSizeL size) : width(size.width), height(size.height) {}
 };
 
-// How the channels of a pixel lie in memory.
+// How the channels of a pixel lie in memory. The low bits count the channels.
 enum class Layout {
-  kC1,
-  kC2,
-  kC3,
-  kC4,
-  kAC4,   // four channels; the fourth of a destination keeps its value
-  kC3CR,  // one channel of three: the image pointer is at that channel of the first pixel
-  kC4CR,  // one channel of four
+  kC1 = 1,
+  kC2 = 2,
+  kC3 = 3,
+  kC4 = 4,
+  kAC4 = 4 | 0x10,   // the fourth channel of a destination keeps its value
+  kC3CR = 3 | 0x20,  // one channel of three: the image pointer is at that channel of the first pixel
+  kC4CR = 4 | 0x20,  // one channel of four
 };
 
-constexpr int Channels(Layout layout) {
-  switch (layout) {
-    case Layout::kC1: return 1;
-    case Layout::kC2: return 2;
-    case Layout::kC3:
-    case Layout::kC3CR: return 3;
-    default: return 4;
-  }
+constexpr int Channels(Layout layout) { return static_cast<int>(layout) & 0xF; }
+constexpr bool KeepsAlpha(Layout layout) { return layout == Layout::kAC4; }
+constexpr bool IsChannelOfInterest(Layout layout) { return (static_cast<int>(layout) & 0x20) != 0; }
+
+// Channels that an operation processes, from the first on.
+constexpr int ProcessedChannels(Layout layout) {
+  return IsChannelOfInterest(layout) ? 1 : Channels(layout) - (KeepsAlpha(layout) ? 1 : 0);
 }
 
-constexpr bool IsChannelOfInterest(Layout layout) { return layout == Layout::kC3CR || layout == Layout::kC4CR; }
-
-// An image argument. T is the element type, or a byte where only bits are moved; `elementBytes` then still tells the
+// An image argument; handed on by reference, as it is larger than two registers. T is the element type, or a byte where only bits are moved; `elementBytes` then still tells the
 // size of the caller's elements.
 template <class T>
 struct Image {

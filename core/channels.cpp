@@ -19,29 +19,43 @@ constexpr int kBlocks = static_cast<int>(hn::MaxLanes(D())) / kBlockBytes;
 // What the bytes of the destination become that no source channel feeds.
 enum class Rest { kNone, kFill, kKeep };
 
-// For each byte of a destination block: its source byte in the source block or kNoSource, and for those without a
-// source the fill value (else 0) and whether to keep the byte (0xFF, else 0).
+// For each byte of a destination pixel: its byte in the source pixel or kNoSource, and for those without a source the
+// fill value (else 0) and whether to keep the byte (0xFF, else 0).
 constexpr uint8_t kNoSource = 0xFF;
-struct ByteMap {
-  alignas(16) uint8_t source[4 * kBlockBytes];
-  alignas(16) uint8_t fill[4 * kBlockBytes] = {};
-  alignas(16) uint8_t keep[4 * kBlockBytes] = {};
-};
+struct PixelMap {
+  alignas(16) uint8_t source[kBlockBytes], fill[kBlockBytes] = {}, keep[kBlockBytes] = {};
 
-ByteMap MakeByteMap(const ChannelMap& map, int inChannels, int outChannels, int elementBytes, int bytes,
-                    const uint8_t* fill) {
-  ByteMap bytesOf;
-  for (int to = 0, pixel = 0; to < bytes; pixel += inChannels * elementBytes) {
-    for (int channel = 0; channel < outChannels; ++channel) {
+  PixelMap(const ChannelMap& map, int channels, int elementBytes, const uint8_t* fillElement) {
+    for (int channel = 0, to = 0; channel < channels; ++channel) {
       const int from = map.from[channel];
       for (int i = 0; i < elementBytes; ++i, ++to) {
-        bytesOf.source[to] = from < 0 ? kNoSource : static_cast<uint8_t>(pixel + from * elementBytes + i);
-        if (from == kFillChannel) bytesOf.fill[to] = fill[i];
-        if (from == kKeepChannel) bytesOf.keep[to] = 0xFF;
+        source[to] = from < 0 ? kNoSource : static_cast<uint8_t>(from * elementBytes + i);
+        if (from == kFillChannel) fill[to] = fillElement[i];
+        if (from == kKeepChannel) keep[to] = 0xFF;
       }
     }
   }
-  return bytesOf;
+};
+
+// For each byte of a destination block: which byte of its pixel it is, and where in the source block that pixel starts.
+struct BlockMap {
+  alignas(16) uint8_t byteOfPixel[4 * kBlockBytes], pixelStart[4 * kBlockBytes];
+
+  constexpr BlockMap(int inPixel, int outPixel) : byteOfPixel(), pixelStart() {
+    for (int i = 0; i < 4 * kBlockBytes; ++i) {
+      byteOfPixel[i] = static_cast<uint8_t>(i % outPixel);
+      pixelStart[i] = static_cast<uint8_t>(i / outPixel * inPixel);
+    }
+  }
+};
+
+// Those of elements of 1, 2 and 4 bytes.
+template <int kIn, int kOut>
+const BlockMap& BlockMapFor(int elementBytes) {
+  constexpr int kInChannels = kOut == 1 && kIn == 1 ? 4 : kIn, kOutChannels = kOut == 1 && kIn == 1 ? 4 : kOut;
+  static constexpr BlockMap kMaps[] = {{kInChannels, kOutChannels}, {2 * kInChannels, 2 * kOutChannels},
+                                       {4 * kInChannels, 4 * kOutChannels}};
+  return kMaps[elementBytes / 2];
 }
 
 // Whether vector `out` of a destination block can have bytes from vector `in` of the source block. Pixels of four-byte
@@ -64,19 +78,28 @@ HWY_INLINE V LoadBlocks(const uint8_t* from, int apart) {
   }
 }
 
-HWY_INLINE void StoreBlocks(V v, uint8_t* to, int apart) {
-  const D d;
-  if (kBlocks == 1 || apart == kBlockBytes) return hn::StoreU(v, d, to);
-  const hn::Half<D> half;
-  hn::StoreU(hn::LowerHalf(half, v), half, to);
-  if constexpr (kBlocks == 2) hn::StoreU(hn::UpperHalf(half, v), half, to + apart);
+// From vectors that hold one part of each block to vectors in the order of memory.
+template <int kVectors>
+HWY_INLINE void ToMemoryOrder(V (&v)[kVectors]) {
+  if constexpr (kBlocks == 2 && kVectors > 1) {
+    const D d;
+    V parts[kVectors];
+    std::copy(v, v + kVectors, parts);
+    for (int i = 0; i < kVectors; ++i) {  // memory vector i holds parts 2 i and 2 i + 1, those of one block in a row
+      const V& low = parts[2 * i % kVectors];
+      const V& high = parts[(2 * i + 1) % kVectors];
+      const bool lowOfSecond = 2 * i >= kVectors, highOfSecond = 2 * i + 1 >= kVectors;
+      v[i] = lowOfSecond ? hn::ConcatUpperUpper(d, high, low)
+             : highOfSecond ? hn::ConcatUpperLower(d, high, low) : hn::ConcatLowerLower(d, high, low);
+    }
+  }
 }
 
-// Shuffle indices for source vector `in`: the index itself where the byte is in that vector, else one that yields 0.
-HWY_INLINE V IndicesInto(int in, const uint8_t* source) {
+// Turns places in the source block into shuffle indices for its vector `in`: those outside it yield zeros.
+HWY_INLINE V IndicesInto(int in, V source) {
   const D d;
-  const V relative = hn::Sub(hn::LoadDup128(d, source), hn::Set(d, static_cast<uint8_t>(kBlockBytes * in)));
-  return hn::SaturatedAdd(relative, hn::Set(d, uint8_t{0x70}));  // 0..15 keep their low bits; others reach bit 7
+  const V relative = hn::Sub(source, hn::Set(d, static_cast<uint8_t>(kBlockBytes * in)));
+  return hn::SaturatedAdd(relative, hn::Set(d, uint8_t{0x70}));  // 0 to 15 keep their low bits; others reach bit 7
 }
 
 template <int kIn, int kOut, Rest kRest>
@@ -84,18 +107,23 @@ class Mover {
  public:
   static constexpr int kInBytes = kIn * kBlockBytes, kOutBytes = kOut * kBlockBytes;
 
-  explicit Mover(const ByteMap& map) {
+  Mover(const PixelMap& pixel, const BlockMap& block) {
     for (int out = 0; out < kOut; ++out) {
       const D d;
-      for (int in = 0; in < kIn; ++in) indices_[out][in] = IndicesInto(in, map.source + kBlockBytes * out);
-      fill_[out] = hn::LoadDup128(d, map.fill + kBlockBytes * out);
-      keep_[out] = hn::LoadDup128(d, map.keep + kBlockBytes * out);
+      const V byte = hn::LoadDup128(d, block.byteOfPixel + kBlockBytes * out);
+      const V source = hn::SaturatedAdd(hn::LoadDup128(d, block.pixelStart + kBlockBytes * out),
+                                        hn::TableLookupBytes(hn::LoadDup128(d, pixel.source), byte));
+      for (int in = 0; in < kIn; ++in) indices_[out][in] = IndicesInto(in, source);
+      fill_[out] = hn::TableLookupBytes(hn::LoadDup128(d, pixel.fill), byte);
+      keep_[out] = hn::TableLookupBytes(hn::LoadDup128(d, pixel.keep), byte);
     }
+    ToMemoryOrder(keep_);
   }
 
   HWY_INLINE void Row(const uint8_t* src, ptrdiff_t srcBytes, uint8_t* dst, ptrdiff_t dstBytes) const {
+    const Mover tables = *this;  // in registers: stores of bytes might change what *this points at
     const ptrdiff_t whole = std::min(srcBytes / (kBlocks * kInBytes), dstBytes / (kBlocks * kOutBytes));
-    for (ptrdiff_t i = 0; i < whole; ++i, src += kBlocks * kInBytes, dst += kBlocks * kOutBytes) Move(src, dst);
+    for (ptrdiff_t i = 0; i < whole; ++i, src += kBlocks * kInBytes, dst += kBlocks * kOutBytes) tables.Move(src, dst);
     srcBytes -= whole * kBlocks * kInBytes;
     dstBytes -= whole * kBlocks * kOutBytes;
     if (dstBytes > 0) MoveRest(src, srcBytes, dst, dstBytes);
@@ -103,18 +131,23 @@ class Mover {
 
  private:
   HWY_INLINE void Move(const uint8_t* src, uint8_t* dst) const {
+    const D d;
     V in[kIn], out[kOut];
     for (int i = 0; i < kIn; ++i) in[i] = LoadBlocks(src + kBlockBytes * i, kInBytes);
-    for (int i = 0; i < kOut; ++i) out[i] = Gather(in, i, dst + kBlockBytes * i);
-    for (int i = 0; i < kOut; ++i) StoreBlocks(out[i], dst + kBlockBytes * i, kOutBytes);
+    for (int i = 0; i < kOut; ++i) out[i] = Gather(in, i);
+    ToMemoryOrder(out);
+    for (int i = 0; i < kOut; ++i) {
+      uint8_t* to = dst + kBlocks * kBlockBytes * i;
+      if constexpr (kRest == Rest::kKeep) out[i] = hn::IfVecThenElse(keep_[i], hn::LoadU(d, to), out[i]);
+      hn::StoreU(out[i], d, to);
+    }
   }
 
-  HWY_INLINE V Gather(const V (&in)[kIn], int out, const uint8_t* dst) const {
+  HWY_INLINE V Gather(const V (&in)[kIn], int out) const {
     V sum = kRest == Rest::kNone ? hn::Zero(D()) : fill_[out];
     for (int i = 0; i < kIn; ++i) {
       if (Feeds<kIn, kOut>(i, out)) sum = hn::Or(sum, hn::TableLookupBytesOr0(in[i], indices_[out][i]));
     }
-    if constexpr (kRest == Rest::kKeep) sum = hn::IfVecThenElse(keep_[out], LoadBlocks(dst, kOutBytes), sum);
     return sum;
   }
 
@@ -130,48 +163,49 @@ class Mover {
   V indices_[kOut][kIn], fill_[kOut], keep_[kOut];
 };
 
-struct Task {
-  ConstBytes src;
-  Bytes dst;
-  Size roi;
-  ByteMap map;
-};
-
 template <int kIn, int kOut, Rest kRest>
-void MoveRows(const Task& task) {
-  const Mover<kIn, kOut, kRest> mover(task.map);
-  ForEachRow(task.roi, [&](ptrdiff_t width, const uint8_t* src, uint8_t* dst) {
-    mover.Row(src, task.src.RowBytes(width), dst, task.dst.RowBytes(width));
-  }, task.src, task.dst);
+void MoveRows(const ConstBytes& src, const Bytes& dst, Size roi, const PixelMap& map) {
+  const Mover<kIn, kOut, kRest> mover(map, BlockMapFor<kIn, kOut>(dst.elementBytes));
+  ForEachRow(roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
+    mover.Row(from, src.RowBytes(width), to, dst.RowBytes(width));
+  }, src, dst);
+}
+
+Rest RestOf(const ChannelMap& map, int channels) {
+  Rest rest = Rest::kNone;
+  for (int i = 0; i < channels; ++i) {
+    if (map.from[i] == kKeepChannel) return Rest::kKeep;
+    if (map.from[i] == kFillChannel) rest = Rest::kFill;
+  }
+  return rest;
 }
 
 template <int kIn, int kOut>
-void MoveRows(const Task& task, const ChannelMap& map) {
-  const auto has = [&](int kind) { return std::find(map.from, map.from + Channels(task.dst.layout), kind) !=
-                                          map.from + Channels(task.dst.layout); };
-  if (has(kKeepChannel)) return MoveRows<kIn, kOut, Rest::kKeep>(task);
-  if constexpr (kOut > kIn) {
-    if (has(kFillChannel)) return MoveRows<kIn, kOut, Rest::kFill>(task);
+void MoveRows(const ConstBytes& src, const Bytes& dst, Size roi, const PixelMap& map, Rest rest) {
+  switch (rest) {
+    case Rest::kNone: return MoveRows<kIn, kOut, Rest::kNone>(src, dst, roi, map);
+    case Rest::kFill:  // only for more channels than there were
+      if constexpr (kIn == 3 && kOut == 4) MoveRows<kIn, kOut, Rest::kFill>(src, dst, roi, map);
+      return;
+    case Rest::kKeep: return MoveRows<kIn, kOut, Rest::kKeep>(src, dst, roi, map);
   }
-  MoveRows<kIn, kOut, Rest::kNone>(task);
 }
 
 }  // namespace
 
-void MoveChannels(ConstBytes src, Bytes dst, Size roi, const ChannelMap& map, const void* fill) {
+void MoveChannels(const ConstBytes& src, const Bytes& dst, Size roi, const ChannelMap& map, const void* fill) {
   const int in = Channels(src.layout), out = Channels(dst.layout);
-  const int vectors = in == 4 && out == 4 ? 1 : out;
-  const Task task{src, dst, roi, MakeByteMap(map, in, out, dst.elementBytes, vectors * kBlockBytes,
-                                             static_cast<const uint8_t*>(fill))};
+  const PixelMap pixel(map, out, dst.elementBytes, static_cast<const uint8_t*>(fill));
+  const Rest rest = RestOf(map, out);
   switch (10 * in + out) {
-    case 13: return MoveRows<1, 3>(task, map);
-    case 14: return MoveRows<1, 4>(task, map);
-    case 31: return MoveRows<3, 1>(task, map);
-    case 33: return MoveRows<3, 3>(task, map);
-    case 34: return MoveRows<3, 4>(task, map);
-    case 41: return MoveRows<4, 1>(task, map);
-    case 43: return MoveRows<4, 3>(task, map);
-    default: return MoveRows<1, 1>(task, map);  // 44
+    case 13: return MoveRows<1, 3>(src, dst, roi, pixel, rest);
+    case 14: return MoveRows<1, 4>(src, dst, roi, pixel, rest);
+    case 31: return MoveRows<3, 1>(src, dst, roi, pixel, rest);
+    case 33: return MoveRows<3, 3>(src, dst, roi, pixel, rest);
+    case 34: return MoveRows<3, 4>(src, dst, roi, pixel, rest);
+    case 41: return MoveRows<4, 1>(src, dst, roi, pixel, rest);
+    case 43: return MoveRows<4, 3>(src, dst, roi, pixel, rest);
+    default: return MoveRows<1, 1>(src, dst, roi, pixel, rest);  // 44
   }
 }
 

@@ -36,13 +36,13 @@ void CopyRow(const uint8_t* src, uint8_t* dst, ptrdiff_t n) {
 }
 
 template <Store kStore>
-void CopyRows(ConstBytes src, Bytes dst, Size roi) {
+void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi) {
   ForEachRow(roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
     CopyRow<kStore>(from, to, dst.RowBytes(width));
   }, src, dst);
 }
 
-QvpStatus Copy(ConstBytes src, Bytes dst, Size roi) {
+QvpStatus Copy(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
   const Store store = StoreFor(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
   store == Store::kStreaming ? CopyRows<Store::kStreaming>(src, dst, roi) : CopyRows<Store::kOrdinary>(src, dst, roi);
@@ -51,14 +51,14 @@ QvpStatus Copy(ConstBytes src, Bytes dst, Size roi) {
 }
 
 // Channels in their order, those of an AC4 source or destination without its fourth.
-QvpStatus CopyColours(ConstBytes src, Bytes dst, Size roi) {
+QvpStatus CopyColours(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
   MoveChannels(src, dst, roi, {{0, 1, 2, kKeepChannel}});
   return qvpStatusNoError;
 }
 
 // The channel that the source pointer selects to the one that the destination pointer selects.
-QvpStatus CopyChannel(ConstBytes src, Bytes dst, Size roi) {
+QvpStatus CopyChannel(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
   MoveChannels(src, dst, roi, {{0, kKeepChannel, kKeepChannel, kKeepChannel}});
   return qvpStatusNoError;
@@ -82,7 +82,7 @@ void ManagedRow(const uint8_t* src, uint8_t* dst, ptrdiff_t n) {
 }
 
 template <Store kStore, bool kStreamingLoads>
-void ManagedRows(ConstBytes src, Bytes dst, Size roi) {
+void ManagedRows(const ConstBytes& src, const Bytes& dst, Size roi) {
   ForEachRow(roi, [](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
     ManagedRow<kStore, kStreamingLoads>(from, to, width);
   }, src, dst);
@@ -91,7 +91,7 @@ void ManagedRows(ConstBytes src, Bytes dst, Size roi) {
 
 constexpr int kStreamingStoreFlag = 1, kStreamingLoadFlag = 2;
 
-QvpStatus CopyManaged(ConstBytes src, Bytes dst, Size roi, int flags) {
+QvpStatus CopyManaged(const ConstBytes& src, const Bytes& dst, Size roi, int flags) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
   switch (flags & (kStreamingStoreFlag | kStreamingLoadFlag)) {
     case 0: CopyRows<Store::kOrdinary>(src, dst, roi); break;

@@ -6,6 +6,7 @@
 #include "base/export.h"
 #include "base/rows.h"
 #include "base/simd.h"
+#include "core/fill.h"
 
 namespace {
 using namespace qvp;
@@ -66,7 +67,7 @@ void MaskedRow(ptrdiff_t n, const uint8_t* src, ptrdiff_t advance, const uint8_t
 using RowKernel = void (*)(ptrdiff_t, const uint8_t*, ptrdiff_t, const uint8_t*, uint8_t*);
 
 RowKernel KernelFor(const Bytes& dst) {
-  const bool keepAlpha = dst.layout == Layout::kAC4;
+  const bool keepAlpha = KeepsAlpha(dst.layout);
   switch (dst.PixelBytes()) {
     case 1: return MaskedRow<1, false>;
     case 2: return MaskedRow<2, false>;
@@ -79,7 +80,7 @@ RowKernel KernelFor(const Bytes& dst) {
   }
 }
 
-QvpStatus CopyMasked(ConstBytes src, Bytes dst, Size roi, ConstBytes mask) {
+QvpStatus CopyMasked(const ConstBytes& src, const Bytes& dst, Size roi, const ConstBytes& mask) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst, mask})) return failed;
   const RowKernel row = KernelFor(dst);
   ForEachRow(roi, [&](ptrdiff_t n, const uint8_t* from, uint8_t* to, const uint8_t* where) {
@@ -88,11 +89,13 @@ QvpStatus CopyMasked(ConstBytes src, Bytes dst, Size roi, ConstBytes mask) {
   return qvpStatusNoError;
 }
 
-QvpStatus SetMasked(const void* value, Bytes dst, Size roi, ConstBytes mask) {
+QvpStatus SetMasked(const void* value, const Bytes& dst, Size roi, const ConstBytes& mask) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {dst, mask}, {value})) return failed;
-  uint8_t block[kPixels * 4 * sizeof(Qvp32s)] = {};
-  const int pixel = dst.PixelBytes(), given = dst.layout == Layout::kAC4 ? pixel - dst.elementBytes : pixel;
-  for (int i = 0; i < kPixels; ++i) std::memcpy(block + i * pixel, value, given);
+  const FillPixel pixel(value, dst);
+  uint8_t block[kPixels * kLargestPixel];
+  for (int i = 0; i < kPixels * pixel.size; i += kPixels) {
+    hn::StoreU(pixel.Repeat(D(), pixel.bytes, i % pixel.size), D(), block + i);
+  }
   const RowKernel row = KernelFor(dst);
   ForEachRow(roi, [&](ptrdiff_t n, uint8_t* to, const uint8_t* where) { row(n, block, 0, where, to); }, dst, mask);
   return qvpStatusNoError;

@@ -20,7 +20,7 @@ bool ReadOrder(const int* order, int count, unsigned limit, ChannelMap& map) {
   return true;
 }
 
-QvpStatus SwapChannels(ConstBytes src, Bytes dst, Size roi, const int* dstOrder) {
+QvpStatus SwapChannels(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder) {
   if (const QvpStatus failed = Validate<kPointers, kStepsNotZero, kSize>(roi, {src, dst})) return failed;
   if (const QvpStatus failed = Validate<kPointers>(roi, {}, {dstOrder})) return failed;
   const int written = dst.layout == Layout::kC4 ? 4 : 3;
@@ -30,7 +30,7 @@ QvpStatus SwapChannels(ConstBytes src, Bytes dst, Size roi, const int* dstOrder)
   return qvpStatusNoError;
 }
 
-QvpStatus SwapThreeToFour(ConstBytes src, Bytes dst, Size roi, const int* dstOrder, const void* value) {
+QvpStatus SwapThreeToFour(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder, const void* value) {
   if (const QvpStatus failed = Validate<kPointers, kStepsNotZero, kSize>(roi, {src, dst})) return failed;
   if (const QvpStatus failed = Validate<kPointers>(roi, {}, {dstOrder})) return failed;
   ChannelMap map;
@@ -42,7 +42,7 @@ QvpStatus SwapThreeToFour(ConstBytes src, Bytes dst, Size roi, const int* dstOrd
   return qvpStatusNoError;
 }
 
-QvpStatus Duplicate(ConstBytes src, Bytes dst, Size roi) {
+QvpStatus Duplicate(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
   MoveChannels(src, dst, roi, {{0, 0, 0, 0}});
   return qvpStatusNoError;

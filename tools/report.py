@@ -1,0 +1,78 @@
+#!/usr/bin/env python3
+"""Run benchmark programs and compare each row with its peer and with the machine's limit, worst first.
+
+Every row is timed several times, its parts taking turns, and the fastest time counts: other work on the machine only
+ever adds.
+"""
+import argparse
+import json
+import os
+import re
+import subprocess
+from pathlib import Path
+
+PART = re.compile(r"(?P<row>.*) @(?P<bytes>\d+)/(?P<part>ours|peer: (?P<peer>.*) >= (?P<least>[\d.]+)|limit.*)")
+
+
+def run(program, library, repetitions, only):
+    """{row: {part: nanoseconds}} of one program."""
+    command = [str(program), "--benchmark_format=json", f"--benchmark_repetitions={repetitions}",
+               "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.02"]
+    if only:
+        command.append(f"--benchmark_filter={only}")
+    output = subprocess.run(command, check=True, capture_output=True, text=True,
+                            env={**os.environ, "LD_LIBRARY_PATH": str(library)}).stdout
+    rows = {}
+    for entry in json.loads(output)["benchmarks"]:
+        match = PART.fullmatch(entry["run_name"])
+        if entry["run_type"] != "iteration" or not match:
+            continue
+        row = rows.setdefault(match["row"], {"bytes": int(match["bytes"])})
+        part = "peer" if match["peer"] else "limit" if match["part"].startswith("limit") else "ours"
+        time = entry["real_time"]
+        row[part] = min(time, row.get(part, time))
+        if match["peer"]:
+            row["name"], row["least"] = match["peer"], float(match["least"])
+    return rows
+
+
+def line(name, row):
+    ours, bytes_ = row["ours"], row["bytes"]
+    ratio = row["peer"] / ours if "peer" in row else None
+    least = row.get("least", 0)
+    verdict = "" if not least else "reached" if ratio >= least else "SHORT"
+    return (f"| {name} | {ours:,.0f} | {bytes_ / ours:.1f} | {100 * row['limit'] / ours:.0f} % | {row.get('name', '')} | "
+            f"{f'{ratio:.2f}' if ratio else ''} | {f'{least:g}' if least else ''} | {verdict} |")
+
+
+def shortfall(row):
+    """Worst first: by how far the row is from its target, or from its peer where it has no target."""
+    if "peer" not in row:
+        return 2 + row["limit"] / row["ours"]
+    return row["peer"] / row["ours"] / (row["least"] or 1)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--library", type=Path, required=True, help="folder of the CPU build to measure")
+    parser.add_argument("--out", type=Path, required=True, help="file for the report")
+    parser.add_argument("--repetitions", type=int, default=9)
+    parser.add_argument("--only", help="regular expression: measure only the rows that match")
+    parser.add_argument("programs", nargs="+", type=Path)
+    options = parser.parse_args()
+    rows = {}
+    for program in options.programs:
+        rows.update(run(program, options.library, options.repetitions, options.only))
+    machine = {name: row for name, row in rows.items() if "ours" not in row}
+    text = ["| machine limit | GB/s |", "|---|---|"]
+    text += [f"| {name.removeprefix('machine ')} | {row['bytes'] / row['limit']:.1f} |" for name, row in machine.items()]
+    text += ["", "| row | ours, ns | GB/s | of the limit | peer | peer / ours | at least | |", "|---|---|---|---|---|---|---|---|"]
+    compared = [(name, row) for name, row in rows.items() if "ours" in row]
+    text += [line(name, row) for name, row in sorted(compared, key=lambda item: shortfall(item[1]))]
+    options.out.parent.mkdir(parents=True, exist_ok=True)
+    options.out.write_text("\n".join(text) + "\n")
+    print("\n".join(text))
+
+
+if __name__ == "__main__":
+    main()
