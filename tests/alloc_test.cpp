@@ -1,0 +1,146 @@
+// Image allocation, the version record, and the companion library.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <fstream>
+#include <string>
+
+#include "qvpcore.h"
+#include "qvpi.h"
+
+namespace {
+
+template <class Length, class T>
+void CheckLayout(T* (*allocate)(Length, Length, Length*), int pixelBytes) {
+  for (const Length width : {1, 5, 64, 100}) {
+    Length step = -1;
+    T* image = allocate(width, 3, &step);
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(image) % 64, 0u);
+    EXPECT_EQ(step, (width * pixelBytes + 63) / 64 * 64);
+    std::memset(static_cast<void*>(image), 1, 3 * step);
+    qvpiFree(image);
+  }
+  Length step = -1;
+  EXPECT_EQ(allocate(0, 3, &step), nullptr);
+  EXPECT_EQ(step, 0);
+  step = -1;
+  EXPECT_EQ(allocate(3, -1, &step), nullptr);
+  EXPECT_EQ(step, 0);
+  EXPECT_EQ(allocate(3, 3, nullptr), nullptr);
+}
+
+TEST(Malloc, EveryMember) {
+#define LAYOUT(type, layout, channels)                                                        \
+  CheckLayout<int>(qvpiMalloc_##type##_##layout, channels * int{sizeof(Qvp##type)});          \
+  CheckLayout<QvpSizeL>(qvpiMalloc_##type##_##layout##_L, channels * int{sizeof(Qvp##type)});
+#define LAYOUTS(type) LAYOUT(type, C1, 1) LAYOUT(type, C2, 2) LAYOUT(type, C3, 3) LAYOUT(type, C4, 4) LAYOUT(type, AC4, 4)
+  LAYOUTS(8u) LAYOUTS(16u) LAYOUTS(16s) LAYOUTS(32s) LAYOUTS(32f) LAYOUTS(32sc) LAYOUTS(32fc)
+}
+
+TEST(Malloc, RefusesWhatItsStepCannotTell) {
+  struct { int width, height, step; } cases[] = {
+      {INT_MAX, 1, 0},            // a row of 2147483647 bytes cannot be rounded up
+      {INT_MAX - 63, 2, INT_MAX - 63},  // the row fits, the image does not: the step stays
+      {46341, 46341, 46400},
+  };
+  for (const auto& c : cases) {
+    int step = -1;
+    EXPECT_EQ(qvpiMalloc_8u_C1(c.width, c.height, &step), nullptr);
+    EXPECT_EQ(step, c.step) << c.width;
+  }
+  int step = -1;
+  EXPECT_EQ(qvpiMalloc_32f_C3(INT_MAX / 12 + 1, 1, &step), nullptr);
+  EXPECT_EQ(step, 0);
+  EXPECT_EQ(qvpiMalloc_32fc_C4(INT_MAX, 1, &step), nullptr);
+  EXPECT_EQ(step, 0);
+  QvpSizeL stepL = -1;
+  EXPECT_EQ(qvpiMalloc_8u_C1_L(PTRDIFF_MAX, 1, &stepL), nullptr);
+  EXPECT_EQ(stepL, 0);
+  EXPECT_EQ(qvpiMalloc_32s_C4_L(PTRDIFF_MAX / 8, 1, &stepL), nullptr);
+  EXPECT_EQ(stepL, 0);
+  EXPECT_EQ(qvpiMalloc_8u_C1_L(PTRDIFF_MAX / 2, 4, &stepL), nullptr);
+  EXPECT_EQ(stepL, PTRDIFF_MAX / 2 / 64 * 64 + 64);
+}
+
+TEST(Malloc, TakesImagesBeyondTwoGigabytes) {
+  if (sizeof(void*) < 8) GTEST_SKIP() << "no address space for it";
+  QvpSizeL step = 0;
+  Qvp8u* image = qvpiMalloc_8u_C1_L(65536, 40000, &step);
+  ASSERT_NE(image, nullptr);
+  image[39999 * step + 65535] = 7;
+  EXPECT_EQ(qvpiSet_8u_C1R_L(9, image + 39999 * step, step, {65536, 1}), qvpStatusNoError);
+  EXPECT_EQ(image[39999 * step + 65535], 9);
+  qvpiFree(image);
+}
+
+TEST(Version, NamesTheBuild) {
+  const QvpLibraryVersion* version = qvpiGetLibVersion();
+  EXPECT_EQ(version->major, 2021);
+  EXPECT_EQ(version->minor, 11);
+  EXPECT_EQ(version->build, -854557950);
+  EXPECT_STREQ(version->Version, "2021.11.0 (r0xcd107b02)");
+  EXPECT_STREQ(version->BuildDate, "Jan 30 2024");
+  const char* expected = getenv("QVPI_EXPECTED_CPU");
+  if (expected != nullptr) {
+    EXPECT_STREQ(version->targetCpu, expected);
+    EXPECT_NE(std::string(version->Name).find("(" + std::string(expected) + ")"), std::string::npos);
+  }
+  if (std::string(version->targetCpu) == "g9") EXPECT_STREQ(version->Name, "qvpIP AVX (g9)");
+}
+
+TEST(Companion, AllocatesAlignedBlocks) {
+  for (const int length : {1, 63, 64, 65, 100000}) {
+    void* block = qvpMalloc(length);
+    ASSERT_NE(block, nullptr);
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(block) % 64, 0u);
+    qvpFree(block);
+  }
+  EXPECT_EQ(qvpMalloc(0), nullptr);
+  EXPECT_EQ(qvpMalloc(-1), nullptr);
+  EXPECT_EQ(qvpMalloc_L(PTRDIFF_MAX), nullptr);
+  EXPECT_EQ(qvpMalloc_L(PTRDIFF_MIN), nullptr);
+  qvpFree(nullptr);
+}
+
+// The kernel's own account of the caches and features.
+TEST(Companion, KnowsTheProcessor) {
+  int size = 0;
+  EXPECT_EQ(qvpGetMaxCacheSizeB(nullptr), qvpStatusNullPointer);
+  ASSERT_EQ(qvpGetMaxCacheSizeB(&size), qvpStatusNoError);
+  long largest = 0;
+  for (int i = 0; i < 8; ++i) {
+    const std::string folder = "/sys/devices/system/cpu/cpu0/cache/index" + std::to_string(i) + "/";
+    std::string type, text;
+    if (std::ifstream(folder + "type") >> type && type != "Instruction" && std::ifstream(folder + "size") >> text) {
+      largest = std::max(largest, std::stol(text) * (text.back() == 'M' ? 1L << 20 : 1L << 10));
+    }
+  }
+  if (largest > 0) EXPECT_EQ(size, largest);
+  EXPECT_EQ(qvp_get_cache_line_size(), 64);
+  std::ifstream info("/proc/cpuinfo");
+  const std::string text((std::istreambuf_iterator<char>(info)), {});
+  const auto has = [&](const char* flag) { return text.find(std::string(" ") + flag + " ") != std::string::npos; };
+  const uint64_t features = ownGetFeature();
+  EXPECT_EQ((features & qvpFeatureSSE42) != 0, has("sse4_2"));
+  EXPECT_EQ((features & qvpFeatureAVX) != 0, has("avx"));
+  EXPECT_EQ((features & qvpFeatureAVX2) != 0, has("avx2"));
+  EXPECT_EQ((features & qvpFeatureFMA) != 0, has("fma"));
+  EXPECT_EQ((features & qvpFeatureBMI) != 0, has("bmi2"));
+  EXPECT_EQ((features & qvpFeatureAVX512) != 0, has("avx512vl"));
+}
+
+TEST(Companion, HasATextForEveryStatus) {
+  int known = 0;
+  for (int status = -400; status < 400; ++status) {
+    const std::string text = qvpGetStatusString(status);
+    const bool unknown = text == "Unknown status value.";
+    known += !unknown;
+    EXPECT_TRUE(unknown || (text.starts_with("qvpStatus") && text.find(": ") != std::string::npos)) << text;
+  }
+  EXPECT_EQ(known, 51);
+  EXPECT_STREQ(qvpGetStatusString(qvpStatusNullPointer), "qvpStatusNullPointer: A required pointer is null.");
+}
+
+}  // namespace

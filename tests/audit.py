@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Audit a built library by disassembly: it uses no instruction beyond its CPU level, none whose result differs between
+makers of CPUs, and imports nothing that could allocate, print, wait or depend on the environment.
+
+usage: audit.py CPU FOLDER
+"""
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+BMI = r"andn|bextr|blsi|blsmsk|blsr|bzhi|pdep|pext|rorx|sarx|shlx|shrx|mulx|lzcnt|movbe"
+AVX2_ONLY = r"vpbroadcast\w+|vp?gather\w+|vps[lr][la]v\w+|vperm(?:d|q|ps|pd)|v(?:insert|extract)i128|vpblendd|vcvtp[hs]2p[hs]"
+BEYOND_V4 = (r"vpdp\w+|vperm[it]2?b|vpermi2b|vpmultishiftqb|vpopcnt\w+|vpmadd52\w+|vgf2\w+|vdpbf16\w*|vcvtne\w*bf16"
+             r"|vp(?:compress|expand)[bw]|vpsh[lr]d\w+|vpshufbitqmb")
+EVERYWHERE = r"vfn?m(?:add|sub)\w+|v?r(?:cp|sqrt)(?:ps|ss|14\w+|28\w+)|v?aes\w+|v?pclmul\w+|sha(?:1|256)\w+|f(?:sin|cos|sincos|ptan|yl2x|2xm1)"
+EVEX = r"%zmm|%k[0-7]\b|%[xy]mm(?:1[6-9]|2\d|3[01])"
+LEGACY_SSE = r"(?!v|prefetch|ldmxcsr|stmxcsr|movnti).*"  # a mnemonic without VEX
+
+# Per build: mnemonics that must not occur, and forms (mnemonic and operands) that must not.
+FORBIDDEN = {
+    "g9": (f"{BMI}|{AVX2_ONLY}", rf"{EVEX}|^vp(?!ermil|erm2f128|test)\w+ .*%ymm|^{LEGACY_SSE} .*%xmm"),
+    "v2": (rf"{BMI}|v(?!err|erw)\w+", r"%ymm|" + EVEX),
+    "v3": (r"(?!)", EVEX),
+    "v4": (BEYOND_V4, r"(?!)"),
+    "core": (rf"{BMI}|v(?!err|erw)\w+|p(?:shufb|mulld)", r"%ymm|" + EVEX),
+}
+IMPORTS = {
+    "core": r"aligned_alloc|free",
+    "library": r"mem(?:cpy|set|move|cmp)|qvpFree|qvpMalloc|qvpMalloc_L|qvpGetMaxCacheSizeB|qvp_get_cache_line_size",
+}
+FROM_START_FILES = r"_ITM_\w+|__cxa_finalize|__gmon_start__|__stack_chk_fail"
+INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(?:(?:notrack|rep\w*|lock|bnd|data16|[cdefgs]s)\s+)*(\w+)\s*([^<#]*)")
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+def offences(library, kind):
+    mnemonics, forms = FORBIDDEN[kind]
+    mnemonic_pattern, form_pattern = re.compile(f"(?:{mnemonics}|{EVERYWHERE})"), re.compile(forms)
+    found, count = {}, 0
+    for line in run("objdump", "-d", "--no-show-raw-insn", str(library)).splitlines():
+        match = INSTRUCTION.match(line)
+        if not match:
+            continue
+        count += 1
+        mnemonic, operands = match.groups()
+        if mnemonic_pattern.fullmatch(mnemonic) or form_pattern.search(f"{mnemonic} {operands}"):
+            found.setdefault(mnemonic, line.strip())
+    return count, found
+
+
+def strange_imports(library, kind):
+    allowed = re.compile(f"(?:{IMPORTS['core' if kind == 'core' else 'library']}|{FROM_START_FILES})")
+    names = {line.split()[-1].split("@")[0] for line in run("nm", "-D", "--undefined-only", str(library)).splitlines()}
+    return sorted(name for name in names if not allowed.fullmatch(name))
+
+
+def main():
+    cpu, folder = sys.argv[1], Path(sys.argv[2])
+    failed = False
+    for library in sorted(folder.glob("libqvp*.so.10")):
+        kind = "core" if "core" in library.name else cpu
+        count, found = offences(library, kind)
+        imports = strange_imports(library, kind)
+        print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed, imports not allowed: {imports}")
+        for line in found.values():
+            print("   ", line)
+        failed = failed or bool(found) or bool(imports) or count < 100
+    sys.exit(failed)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,151 @@
+// What holds for every function alike: the order of the first checks, untouched outputs after a refusal, no system call,
+// no change of the floating-point control state, and any alignment of the stack.
+#include <gtest/gtest.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+
+#include <xmmintrin.h>
+
+#include "qvpcore.h"
+#include "tests/support/exports.h"
+
+namespace {
+using test::Export;
+using test::Exports;
+using test::Scene;
+
+constexpr QvpiSize kRoi{37, 5};
+
+bool IsPointer(const test::Parameter& parameter) { return parameter.type.ends_with("*"); }
+
+TEST(EveryFunction, RefusesEachNullPointerAndWritesNothing) {
+  for (const Export& function : Exports()) {
+    for (size_t i = 0; i < function.parameters.size(); ++i) {
+      if (!IsPointer(function.parameters[i])) continue;
+      Scene scene(function, kRoi, 1);
+      const uint64_t before = scene.HashOfOutputs();
+      scene.arguments[i].pointer = nullptr;
+      EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << " argument " << i;
+      EXPECT_EQ(scene.HashOfOutputs(), before) << function.name << " argument " << i;
+    }
+  }
+}
+
+TEST(EveryFunction, RefusesEachNullPlane) {
+  for (const Export& function : Exports()) {
+    for (size_t i = 0; i < function.parameters.size(); ++i) {
+      if (!function.parameters[i].type.ends_with("const*") || !IsPointer(function.parameters[i])) continue;
+      const int planes = function.name.find("3R") != std::string::npos ? 3 : 4;
+      for (int plane = 0; plane < planes; ++plane) {
+        Scene scene(function, kRoi, 1);
+        const_cast<const void**>(static_cast<const void* const*>(scene.arguments[i].pointer))[plane] = nullptr;
+        EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << " plane " << plane;
+      }
+    }
+  }
+}
+
+TEST(EveryFunction, RefusesSizesBelowOneAndWritesNothing) {
+  for (const Export& function : Exports()) {
+    const int roi = function.Find("roiSize");
+    if (roi < 0) continue;
+    for (const QvpiSize size : {QvpiSize{0, 5}, {37, 0}, {-1, 5}, {37, -1}, {INT32_MIN, 5}, {-3, -3}}) {
+      Scene scene(function, kRoi, 2);
+      const uint64_t before = scene.HashOfOutputs();
+      scene.arguments[roi].number = size.width;
+      scene.arguments[roi].second = size.height;
+      EXPECT_EQ(scene.Call(), qvpStatusSize) << function.name << ' ' << size.width << 'x' << size.height;
+      EXPECT_EQ(scene.HashOfOutputs(), before) << function.name;
+    }
+  }
+}
+
+// The first pointer of an image comes before the size in every family.
+TEST(EveryFunction, ChecksImagePointersBeforeTheSize) {
+  for (const Export& function : Exports()) {
+    const int roi = function.Find("roiSize");
+    for (const char* image : {"pSrc", "pDst", "pSrcDst"}) {
+      const int place = function.Find(image);
+      if (roi < 0 || place < 0) continue;
+      Scene scene(function, kRoi, 3);
+      scene.arguments[roi].number = 0;
+      scene.arguments[place].pointer = nullptr;
+      EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << ' ' << image;
+    }
+  }
+}
+
+uint16_t X87Control() {
+  uint16_t word;
+  __asm__ volatile("fnstcw %0" : "=m"(word));
+  return word;
+}
+
+TEST(EveryFunction, LeavesTheFloatingPointControlStateAlone) {
+  for (const unsigned control : {0x1F80u, 0xFF80u}) {  // the default; toward zero, subnormals flushed
+    for (const Export& function : Exports()) {
+      Scene scene(function, kRoi, 4);
+      const unsigned before = _mm_getcsr();
+      const uint16_t x87 = X87Control();
+      _mm_setcsr(control);
+      const QvpStatus status = scene.Call();
+      const unsigned after = _mm_getcsr();
+      _mm_setcsr(before);
+      EXPECT_EQ(status, qvpStatusNoError) << function.name;
+      EXPECT_EQ(after & 0xFFC0, control & 0xFFC0) << function.name;  // without the exception flags
+      EXPECT_EQ(X87Control(), x87) << function.name;
+    }
+  }
+}
+
+#ifdef __i386__
+// Calls with the stack `phase` bytes off a multiple of 16. calls.h is compiled to keep the alignment that it finds.
+QvpStatus CallAtPhase(const Export& function, const test::Argument* arguments, int phase) {
+  QvpStatus status;
+  __asm__ volatile(
+      "movl %%esp, %%esi\n\tandl $-16, %%esp\n\tsubl %2, %%esp\n\tpushl %3\n\tcall *%1\n\tmovl %%esi, %%esp"
+      : "=a"(status) : "r"(function.call), "r"(phase), "r"(arguments) : "esi", "ecx", "edx", "memory", "cc");
+  return status;
+}
+
+TEST(EveryFunction, WorksAtEveryAlignmentOfTheStack) {
+  for (const Export& function : Exports()) {
+    Scene expected(function, kRoi, 5);
+    ASSERT_EQ(expected.Call(), qvpStatusNoError) << function.name;
+    for (const int phase : {0, 4, 8, 12}) {
+      Scene scene(function, kRoi, 5);
+      EXPECT_EQ(CallAtPhase(function, scene.arguments.data(), phase), qvpStatusNoError) << function.name;
+      EXPECT_EQ(scene.HashOfOutputs(), expected.HashOfOutputs()) << function.name << " phase " << phase;
+    }
+  }
+}
+#endif
+
+// In strict mode any system call but read, write and exit kills the process.
+TEST(EveryFunction, MakesNoSystemCall) {
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  GTEST_SKIP() << "the sanitizer makes system calls of its own";
+#endif
+#endif
+  int cache;
+  ASSERT_EQ(qvpGetMaxCacheSizeB(&cache), qvpStatusNoError);
+  std::vector<std::unique_ptr<Scene>> scenes;
+  for (const Export& function : Exports()) scenes.push_back(std::make_unique<Scene>(function, kRoi, 6));
+  std::vector<Qvp8u> large(1 << 20);  // so large that the cache size is asked for
+  const pid_t child = fork();
+  if (child == 0) {
+    prctl(PR_SET_SECCOMP, SECCOMP_MODE_STRICT);
+    int failures = qvpiSet_8u_C1R(1, large.data(), 1024, {1024, 1024}) != qvpStatusNoError;
+    for (const auto& scene : scenes) failures += scene->Call() != qvpStatusNoError;
+    syscall(SYS_exit, failures != 0);
+  }
+  int result = 0;
+  ASSERT_EQ(waitpid(child, &result, 0), child);
+  EXPECT_TRUE(WIFEXITED(result)) << "killed by signal " << WTERMSIG(result);
+  EXPECT_EQ(WEXITSTATUS(result), 0);
+}
+
+}  // namespace

@@ -1,0 +1,87 @@
+// When stores bypass the caches. This program stands in for the companion's cache query, so that the library takes the
+// cache for as large as a test wants, and counts how often the library asks.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "qvpcore.h"
+#include "qvpi.h"
+#include "tests/support/exports.h"
+
+namespace {
+std::optional<int> pretendedCache;
+QvpStatus pretendedStatus = qvpStatusNoError;
+int asked = 0;
+}  // namespace
+
+QvpStatus qvpGetMaxCacheSizeB(int* pSizeByte) {
+  ++asked;
+  if (pretendedStatus != qvpStatusNoError) return pretendedStatus;
+  if (!pretendedCache) {
+    using Query = QvpStatus (*)(int*);
+    static const auto companion = reinterpret_cast<Query>(dlsym(RTLD_NEXT, "qvpGetMaxCacheSizeB"));
+    return companion(pSizeByte);
+  }
+  if (pSizeByte == nullptr) return qvpStatusNullPointer;
+  *pSizeByte = *pretendedCache;
+  return qvpStatusNoError;
+}
+
+namespace {
+
+class Streaming : public testing::Test {
+ protected:
+  void SetUp() override { asked = 0; }
+  void TearDown() override {
+    pretendedCache.reset();
+    pretendedStatus = qvpStatusNoError;
+  }
+};
+
+// A fill of more than 512 KiB asks once, a smaller one never; and only bytes of the region count, not those of gaps.
+TEST_F(Streaming, FillsAskOnlyWhenLarge) {
+  std::vector<Qvp8u> pixels(1 << 20);
+  ASSERT_EQ(qvpiSet_8u_C1R(1, pixels.data(), 1024, {1024, 512}), qvpStatusNoError);
+  ASSERT_EQ(qvpiSet_8u_C1R(1, pixels.data(), 1024, {512, 1024}), qvpStatusNoError);
+  EXPECT_EQ(asked, 0);
+  ASSERT_EQ(qvpiSet_8u_C1R(1, pixels.data(), 1024, {1024, 513}), qvpStatusNoError);
+  EXPECT_EQ(asked, 1);
+}
+
+// The same bytes whichever way they are stored, in rows whose lengths are no multiple of a vector.
+TEST_F(Streaming, ChangesNoResult) {
+  for (const test::Export& function : test::Exports()) {
+    if (!function.name.starts_with("qvpiSet_") && !function.name.starts_with("qvpiCopy_")) continue;
+    for (const QvpiSize roi : {QvpiSize{4099, 130}, QvpiSize{130, 4099}}) {
+      pretendedStatus = qvpStatusNotSupportedMode;
+      test::Scene ordinary(function, roi, 9), streamed(function, roi, 9);
+      ASSERT_EQ(ordinary.Call(), qvpStatusNoError) << function.name;
+      pretendedStatus = qvpStatusNoError;
+      pretendedCache = 524289;
+      ASSERT_EQ(streamed.Call(), qvpStatusNoError) << function.name;
+      ASSERT_EQ(ordinary.HashOfOutputs(), streamed.HashOfOutputs()) << function.name << ' ' << roi.width;
+    }
+  }
+}
+
+// Planes stream only with aligned rows.
+TEST_F(Streaming, PlanesOfAlignedRows) {
+  pretendedCache = 1 << 20;
+  int step, planeStep;
+  const QvpiSize roi{701, 600};
+  Qvp8u* pixels = qvpiMalloc_8u_C3(roi.width, roi.height, &step);
+  Qvp8u* merged = qvpiMalloc_8u_C3(roi.width, roi.height, &step);
+  Qvp8u* planes[3];
+  for (Qvp8u*& plane : planes) plane = qvpiMalloc_8u_C1(roi.width, roi.height, &planeStep);
+  test::Random(3).Fill(pixels, size_t{1} * step * roi.height);
+  ASSERT_EQ(qvpiCopy_8u_C3P3R(pixels, step, planes, planeStep, roi), qvpStatusNoError);
+  ASSERT_EQ(qvpiCopy_8u_P3C3R(planes, planeStep, merged, step, roi), qvpStatusNoError);
+  EXPECT_EQ(asked, 2);
+  for (int y = 0; y < roi.height; ++y) ASSERT_EQ(std::memcmp(pixels + y * step, merged + y * step, 3 * roi.width), 0) << y;
+  for (Qvp8u* plane : planes) qvpiFree(plane);
+  qvpiFree(pixels);
+  qvpiFree(merged);
+}
+
+}  // namespace
