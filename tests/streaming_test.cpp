@@ -49,19 +49,20 @@ TEST_F(Streaming, FillsAskOnlyWhenLarge) {
   EXPECT_EQ(asked, 1);
 }
 
-// The same bytes whichever way they are stored, in rows whose lengths are no multiple of a vector.
+// The same bytes whichever way they are stored, in rows whose lengths are no multiple of a vector. One type of each width
+// stands for the others, which share its kernels.
 TEST_F(Streaming, ChangesNoResult) {
+  constexpr QvpiSize kRoi{4099, 130};
   for (const test::Export& function : test::Exports()) {
-    if (!function.name.starts_with("qvpiSet_") && !function.name.starts_with("qvpiCopy_")) continue;
-    for (const QvpiSize roi : {QvpiSize{4099, 130}, QvpiSize{130, 4099}}) {
-      pretendedStatus = qvpStatusNotSupportedMode;
-      test::Scene ordinary(function, roi, 9), streamed(function, roi, 9);
-      ASSERT_EQ(ordinary.Call(), qvpStatusNoError) << function.name;
-      pretendedStatus = qvpStatusNoError;
-      pretendedCache = 524289;
-      ASSERT_EQ(streamed.Call(), qvpStatusNoError) << function.name;
-      ASSERT_EQ(ordinary.HashOfOutputs(), streamed.HashOfOutputs()) << function.name << ' ' << roi.width;
-    }
+    const auto is = [&](const char* text) { return function.name.find(text) != std::string::npos; };
+    if (!(is("qvpiSet_") || is("qvpiCopy_")) || !(is("_8u_") || is("_16u_") || is("_32f_")) || is("MR")) continue;
+    pretendedStatus = qvpStatusNotSupportedMode;
+    test::Scene ordinary(function, kRoi, 9), streamed(function, kRoi, 9);
+    ASSERT_EQ(ordinary.Call(), qvpStatusNoError) << function.name;
+    pretendedStatus = qvpStatusNoError;
+    pretendedCache = 524289;
+    ASSERT_EQ(streamed.Call(), qvpStatusNoError) << function.name;
+    ASSERT_EQ(ordinary.HashOfOutputs(), streamed.HashOfOutputs()) << function.name;
   }
 }
 
