@@ -7,54 +7,52 @@
 
 // GRID(type, ...) for each of the five types whose pixels are only moved.
 #define QVP_EACH_MOVED_TYPE(GRID, ...) \
-  GRID(8u __VA_OPT__(, ) __VA_ARGS__) \
+  GRID(8u __VA_OPT__(, ) __VA_ARGS__)  \
   GRID(16u __VA_OPT__(, ) __VA_ARGS__) \
   GRID(16s __VA_OPT__(, ) __VA_ARGS__) \
   GRID(32s __VA_OPT__(, ) __VA_ARGS__) \
   GRID(32f __VA_OPT__(, ) __VA_ARGS__)
 
 // Source to destination, bits only: impl(source, destination, size).
-#define QVP_MOVE(name, type, from, to, impl)                                                                       \
-  QvpStatus name(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize) {             \
-    return impl(AsBytes(pSrc, srcStep, Layout::k##from), AsBytes(pDst, dstStep, Layout::k##to), roiSize);          \
+#define QVP_MOVE(name, type, from, to, impl)                                                              \
+  QvpStatus name(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize) {    \
+    return impl(AsBytes(pSrc, srcStep, Layout::k##from), AsBytes(pDst, dstStep, Layout::k##to), roiSize); \
   }
-#define QVP_MOVE_L(name, type, from, to, impl)                                                                     \
-  QvpStatus name(const Qvp##type* pSrc, QvpSizeL srcStep, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) {  \
-    return impl(AsBytes(pSrc, srcStep, Layout::k##from), AsBytes(pDst, dstStep, Layout::k##to), roiSize);          \
+#define QVP_MOVE_L(name, type, from, to, impl)                                                                    \
+  QvpStatus name(const Qvp##type* pSrc, QvpSizeL srcStep, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) { \
+    return impl(AsBytes(pSrc, srcStep, Layout::k##from), AsBytes(pDst, dstStep, Layout::k##to), roiSize);         \
   }
 
 // The same under a mask: impl(source, destination, size, mask).
-#define QVP_MASKED_MOVE(name, type, layout, impl)                                                                  \
-  QvpStatus name(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize,               \
-                 const Qvp8u* pMask, int maskStep) {                                                               \
-    return impl(AsBytes(pSrc, srcStep, Layout::k##layout), AsBytes(pDst, dstStep, Layout::k##layout), roiSize,     \
-                AsBytes(pMask, maskStep, Layout::kC1));                                                            \
+#define QVP_MASKED_MOVE(name, type, layout, impl)                                                              \
+  QvpStatus name(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize,           \
+                 const Qvp8u* pMask, int maskStep) {                                                           \
+    return impl(AsBytes(pSrc, srcStep, Layout::k##layout), AsBytes(pDst, dstStep, Layout::k##layout), roiSize, \
+                AsBytes(pMask, maskStep, Layout::kC1));                                                        \
   }
 
 // A constant to a destination: impl(values, destination, size). `value` is one number for one channel, a pointer else.
-#define QVP_FILL(name, type, layout, impl)                                                                         \
-  QvpStatus name(Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) {                                \
-    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                                       \
+#define QVP_FILL(name, type, layout, impl)                                          \
+  QvpStatus name(Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { \
+    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);        \
   }
-#define QVP_FILL_L(name, type, layout, impl)                                                                       \
-  QvpStatus name(Qvp##type value, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) {                          \
-    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                                       \
+#define QVP_FILL_L(name, type, layout, impl)                                              \
+  QvpStatus name(Qvp##type value, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) { \
+    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);              \
   }
-#define QVP_FILL_CHANNELS(name, type, layout, impl)                                                                \
-  QvpStatus name(const Qvp##type* value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) {                         \
-    return impl(value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                                        \
+#define QVP_FILL_CHANNELS(name, type, layout, impl)                                        \
+  QvpStatus name(const Qvp##type* value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { \
+    return impl(value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                \
   }
-#define QVP_FILL_CHANNELS_L(name, type, layout, impl)                                                              \
-  QvpStatus name(const Qvp##type* value, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) {                   \
-    return impl(value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                                        \
+#define QVP_FILL_CHANNELS_L(name, type, layout, impl)                                            \
+  QvpStatus name(const Qvp##type* value, Qvp##type* pDst, QvpSizeL dstStep, QvpiSizeL roiSize) { \
+    return impl(value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize);                      \
   }
 
 // The same under a mask: impl(values, destination, size, mask).
-#define QVP_MASKED_FILL(name, type, layout, impl)                                                                  \
-  QvpStatus name(Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pMask,              \
-                 int maskStep) {                                                                                   \
-    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize,                                        \
-                AsBytes(pMask, maskStep, Layout::kC1));                                                            \
+#define QVP_MASKED_FILL(name, type, layout, impl)                                                                     \
+  QvpStatus name(Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pMask, int maskStep) { \
+    return impl(&value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize, AsBytes(pMask, maskStep, Layout::kC1));   \
   }
 #define QVP_MASKED_FILL_CHANNELS(name, type, layout, impl)                                                         \
   QvpStatus name(const Qvp##type* value, Qvp##type* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pMask,       \

@@ -37,8 +37,8 @@ constexpr int ProcessedChannels(Layout layout) {
   return IsChannelOfInterest(layout) ? 1 : Channels(layout) - (KeepsAlpha(layout) ? 1 : 0);
 }
 
-// An image argument; handed on by reference, as it is larger than two registers. T is the element type, or a byte where only bits are moved; `elementBytes` then still tells the
-// size of the caller's elements.
+// An image argument; handed on by reference, as it is larger than two registers. T is the element type, or a byte where
+// only bits are moved; `elementBytes` then still tells the size of the caller's elements.
 template <class T>
 struct Image {
   T* data;

@@ -19,7 +19,9 @@ struct Image {
   mutable cv::Mat mat;  // the peer takes its outputs as changeable headers
 
   Image(QvpiSize s, int channels)
-      : pixels(Pixels<T>(size_t{1} * s.width * s.height * channels)), step(s.width * channels * int{sizeof(T)}), size(s),
+      : pixels(Pixels<T>(size_t{1} * s.width * s.height * channels)),
+        step(s.width * channels * int{sizeof(T)}),
+        size(s),
         mat(s.height, s.width, CV_MAKETYPE(cv::DataType<T>::depth, channels), pixels.get()) {}
 
   T* data() const { return pixels.get(); }
@@ -33,43 +35,66 @@ std::string Name(const char* what, QvpiSize size) {
 }
 
 void Copies() {
-  struct { QvpiSize size; double atLeast; } cases[] = {{kTile, 1.6}, {kVga, 1.0}, {kHd, 0}, {kLarge, 1.5}};
+  struct {
+    QvpiSize size;
+    double atLeast;
+  } cases[] = {{kTile, 1.6}, {kVga, 1.0}, {kHd, 0}, {kLarge, 1.5}};
   for (const auto& c : cases) {
     const Image<uint8_t> a(c.size, 1), b(c.size, 1);
-    Add({Name("copy 8u C1", c.size), {a.bytes(), b.bytes()},
+    Add({Name("copy 8u C1", c.size),
+         {a.bytes(), b.bytes()},
          [=] { Require(qvpiCopy_8u_C1R(a.data(), a.step, b.data(), b.step, a.size)); },
-         "OpenCV copyTo", [=] { a.mat.copyTo(b.mat); }, c.atLeast});
+         "OpenCV copyTo",
+         [=] { a.mat.copyTo(b.mat); },
+         c.atLeast});
   }
   const Image<uint8_t> a(kHd, 1), b(kHd, 1);
-  Add({Name("copy 8u C1 inner region", kHd), {a.bytes(), b.bytes()},
-       [=] { Require(qvpiCopy_8u_C1R(a.data(), a.step, b.data(), b.step, {kHd.width - 3, kHd.height})); }, "libyuv CopyPlane",
+  Add({Name("copy 8u C1 inner region", kHd),
+       {a.bytes(), b.bytes()},
+       [=] {
+         Require(qvpiCopy_8u_C1R(a.data(), a.step, b.data(), b.step, {kHd.width - 3, kHd.height}));
+       },
+       "libyuv CopyPlane",
        [=] { libyuv::CopyPlane(a.data(), a.step, b.data(), b.step, kHd.width - 3, kHd.height); }});
   const Image<uint8_t> c(kHd, 4), d(kHd, 4);
-  Add({Name("copy 8u AC4", kHd), {c.bytes(), 0, d.bytes()},
-       [=] { Require(qvpiCopy_8u_AC4R(c.data(), c.step, d.data(), d.step, c.size)); }});
-  Add({Name("copy 8u C4", kHd), {c.bytes(), d.bytes()},
-       [=] { Require(qvpiCopy_8u_C4R(c.data(), c.step, d.data(), d.step, c.size)); }, "OpenCV copyTo",
+  Add({Name("copy 8u AC4", kHd), {c.bytes(), 0, d.bytes()}, [=] {
+         Require(qvpiCopy_8u_AC4R(c.data(), c.step, d.data(), d.step, c.size));
+       }});
+  Add({Name("copy 8u C4", kHd),
+       {c.bytes(), d.bytes()},
+       [=] { Require(qvpiCopy_8u_C4R(c.data(), c.step, d.data(), d.step, c.size)); },
+       "OpenCV copyTo",
        [=] { c.mat.copyTo(d.mat); }});
 }
 
 void Fills() {
-  struct { QvpiSize size; int channels; double atLeast; } cases[] = {
-      {kTile, 1, 10}, {kTile, 3, 0}, {kVga, 3, 1.3}, {kHd, 3, 0}, {kLarge, 3, 1.5}};
+  struct {
+    QvpiSize size;
+    int channels;
+    double atLeast;
+  } cases[] = {{kTile, 1, 10}, {kTile, 3, 0}, {kVga, 3, 1.3}, {kHd, 3, 0}, {kLarge, 3, 1.5}};
   for (const auto& c : cases) {
     const Image<uint8_t> a(c.size, c.channels);
     const Qvp8u value[3] = {1, 2, 3};
-    Add({Name(c.channels == 1 ? "set 8u C1" : "set 8u C3", c.size), {0, a.bytes()},
-         [=] { Require(c.channels == 1 ? qvpiSet_8u_C1R(7, a.data(), a.step, a.size)
-                                       : qvpiSet_8u_C3R(value, a.data(), a.step, a.size)); },
-         "OpenCV setTo", [=] { a.mat.setTo(cv::Scalar(1, 2, 3)); }, c.atLeast});
+    Add({Name(c.channels == 1 ? "set 8u C1" : "set 8u C3", c.size),
+         {0, a.bytes()},
+         [=] {
+           Require(c.channels == 1 ? qvpiSet_8u_C1R(7, a.data(), a.step, a.size)
+                                   : qvpiSet_8u_C3R(value, a.data(), a.step, a.size));
+         },
+         "OpenCV setTo",
+         [=] { a.mat.setTo(cv::Scalar(1, 2, 3)); },
+         c.atLeast});
   }
   const Image<uint8_t> a(kHd, 4);
   const Qvp8u value[3] = {1, 2, 3};
-  Add({Name("set 8u AC4", kHd), {0, 0, a.bytes()},
-       [=] { Require(qvpiSet_8u_AC4R(value, a.data(), a.step, a.size)); }});
+  Add({Name("set 8u AC4", kHd), {0, 0, a.bytes()}, [=] { Require(qvpiSet_8u_AC4R(value, a.data(), a.step, a.size)); }});
   const Image<float> f(kHd, 1);
-  Add({Name("set 32f C1", kHd), {0, f.bytes()}, [=] { Require(qvpiSet_32f_C1R(0.5f, f.data(), f.step, f.size)); },
-       "OpenCV setTo", [=] { f.mat.setTo(cv::Scalar(0.5)); }});
+  Add({Name("set 32f C1", kHd),
+       {0, f.bytes()},
+       [=] { Require(qvpiSet_32f_C1R(0.5f, f.data(), f.step, f.size)); },
+       "OpenCV setTo",
+       [=] { f.mat.setTo(cv::Scalar(0.5)); }});
 }
 
 // Half of the pixels, in no order.
@@ -85,46 +110,72 @@ void Masked() {
   Add({Name("masked copy 8u C3", kHd), traffic,
        [=] { Require(qvpiCopy_8u_C3MR(a.data(), a.step, b.data(), b.step, a.size, mask.data(), mask.step)); },
        "OpenCV copyTo with mask", [=] { a.mat.copyTo(b.mat, mask.mat); }, 30});
-  Add({Name("masked copy 8u C1", kHd), {c.bytes() + mask.bytes(), 0, d.bytes()},
+  Add({Name("masked copy 8u C1", kHd),
+       {c.bytes() + mask.bytes(), 0, d.bytes()},
        [=] { Require(qvpiCopy_8u_C1MR(c.data(), c.step, d.data(), d.step, c.size, mask.data(), mask.step)); },
-       "OpenCV copyTo with mask", [=] { c.mat.copyTo(d.mat, mask.mat); }});
+       "OpenCV copyTo with mask",
+       [=] { c.mat.copyTo(d.mat, mask.mat); }});
   const Qvp8u value[3] = {1, 2, 3};
-  Add({Name("masked set 8u C3", kHd), {mask.bytes(), 0, b.bytes()},
+  Add({Name("masked set 8u C3", kHd),
+       {mask.bytes(), 0, b.bytes()},
        [=] { Require(qvpiSet_8u_C3MR(value, b.data(), b.step, b.size, mask.data(), mask.step)); },
-       "OpenCV setTo with mask", [=] { b.mat.setTo(cv::Scalar(1, 2, 3), mask.mat); }});
+       "OpenCV setTo with mask",
+       [=] { b.mat.setTo(cv::Scalar(1, 2, 3), mask.mat); }});
 }
 
 void ChannelMoves() {
   const Image<uint8_t> a(kHd, 3), b(kHd, 3), four(kHd, 4), other(kHd, 4), grey(kHd, 1);
   static const int reversed[] = {2, 1, 0, 3};
-  Add({Name("swap channels 8u C3", kHd), {a.bytes(), b.bytes()},
+  Add({Name("swap channels 8u C3", kHd),
+       {a.bytes(), b.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C3R(a.data(), a.step, b.data(), b.step, a.size, reversed)); },
-       "OpenCV cvtColor BGR2RGB", [=] { cv::cvtColor(a.mat, b.mat, cv::COLOR_BGR2RGB); }, 1.0});
-  Add({Name("swap channels 8u C3, libyuv", kHd), {a.bytes(), b.bytes()},
+       "OpenCV cvtColor BGR2RGB",
+       [=] { cv::cvtColor(a.mat, b.mat, cv::COLOR_BGR2RGB); },
+       1.0});
+  Add({Name("swap channels 8u C3, libyuv", kHd),
+       {a.bytes(), b.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C3R(a.data(), a.step, b.data(), b.step, a.size, reversed)); },
-       "libyuv RAWToRGB24", [=] { libyuv::RAWToRGB24(a.data(), a.step, b.data(), b.step, kHd.width, kHd.height); }});
+       "libyuv RAWToRGB24",
+       [=] { libyuv::RAWToRGB24(a.data(), a.step, b.data(), b.step, kHd.width, kHd.height); }});
   const Image<uint8_t> s(kTile, 3), t(kTile, 3);
-  Add({Name("swap channels 8u C3", kTile), {s.bytes(), t.bytes()},
+  Add({Name("swap channels 8u C3", kTile),
+       {s.bytes(), t.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C3R(s.data(), s.step, t.data(), t.step, s.size, reversed)); },
-       "OpenCV cvtColor BGR2RGB", [=] { cv::cvtColor(s.mat, t.mat, cv::COLOR_BGR2RGB); }});
-  Add({Name("swap channels 8u C4", kHd), {four.bytes(), other.bytes()},
+       "OpenCV cvtColor BGR2RGB",
+       [=] { cv::cvtColor(s.mat, t.mat, cv::COLOR_BGR2RGB); }});
+  Add({Name("swap channels 8u C4", kHd),
+       {four.bytes(), other.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C4R(four.data(), four.step, other.data(), other.step, four.size, reversed)); },
-       "OpenCV cvtColor BGRA2RGBA", [=] { cv::cvtColor(four.mat, other.mat, cv::COLOR_BGRA2RGBA); }});
-  Add({Name("swap channels 8u C3C4", kHd), {a.bytes(), four.bytes()},
+       "OpenCV cvtColor BGRA2RGBA",
+       [=] { cv::cvtColor(four.mat, other.mat, cv::COLOR_BGRA2RGBA); }});
+  Add({Name("swap channels 8u C3C4", kHd),
+       {a.bytes(), four.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C3C4R(a.data(), a.step, four.data(), four.step, a.size, reversed, 255)); },
-       "OpenCV cvtColor BGR2RGBA", [=] { cv::cvtColor(a.mat, four.mat, cv::COLOR_BGR2RGBA); }});
-  Add({Name("swap channels 8u C4C3", kHd), {four.bytes(), a.bytes()},
+       "OpenCV cvtColor BGR2RGBA",
+       [=] { cv::cvtColor(a.mat, four.mat, cv::COLOR_BGR2RGBA); }});
+  Add({Name("swap channels 8u C4C3", kHd),
+       {four.bytes(), a.bytes()},
        [=] { Require(qvpiSwapChannels_8u_C4C3R(four.data(), four.step, a.data(), a.step, a.size, reversed)); },
-       "OpenCV cvtColor BGRA2RGB", [=] { cv::cvtColor(four.mat, a.mat, cv::COLOR_BGRA2RGB); }});
-  Add({Name("extract channel 8u C3C1", kHd), {a.bytes(), grey.bytes()},
+       "OpenCV cvtColor BGRA2RGB",
+       [=] { cv::cvtColor(four.mat, a.mat, cv::COLOR_BGRA2RGB); }});
+  Add({Name("extract channel 8u C3C1", kHd),
+       {a.bytes(), grey.bytes()},
        [=] { Require(qvpiCopy_8u_C3C1R(a.data() + 1, a.step, grey.data(), grey.step, a.size)); },
-       "OpenCV extractChannel", [=] { cv::extractChannel(a.mat, grey.mat, 1); }, 4.5});
-  Add({Name("insert channel 8u C1C3", kHd), {grey.bytes(), 0, b.bytes()},
+       "OpenCV extractChannel",
+       [=] { cv::extractChannel(a.mat, grey.mat, 1); },
+       4.5});
+  Add({Name("insert channel 8u C1C3", kHd),
+       {grey.bytes(), 0, b.bytes()},
        [=] { Require(qvpiCopy_8u_C1C3R(grey.data(), grey.step, b.data() + 1, b.step, b.size)); },
-       "OpenCV insertChannel", [=] { cv::insertChannel(grey.mat, b.mat, 1); }, 3});
-  Add({Name("duplicate channel 8u C1C3", kHd), {grey.bytes(), b.bytes()},
+       "OpenCV insertChannel",
+       [=] { cv::insertChannel(grey.mat, b.mat, 1); },
+       3});
+  Add({Name("duplicate channel 8u C1C3", kHd),
+       {grey.bytes(), b.bytes()},
        [=] { Require(qvpiDup_8u_C1C3R(grey.data(), grey.step, b.data(), b.step, b.size)); },
-       "OpenCV merge", [=] { cv::merge(std::vector<cv::Mat>(3, grey.mat), b.mat); }, 1.5});
+       "OpenCV merge",
+       [=] { cv::merge(std::vector<cv::Mat>(3, grey.mat), b.mat); },
+       1.5});
 }
 
 template <class T>
@@ -142,10 +193,21 @@ void Planes(const char* type, double atLeast) {
     if constexpr (sizeof(T) == 4) return qvpiCopy_32f_P3C3R(planes, p[0].step, a.data(), a.step, a.size);
   };
   const std::string suffix = std::string(type);
-  Add({Name(("split " + suffix + " C3P3").c_str(), kHd), {a.bytes(), a.bytes()}, [=] { Require(split()); }, "OpenCV split",
-       [=] { std::vector<cv::Mat> out = mats; cv::split(a.mat, out); }, atLeast});
-  Add({Name(("merge " + suffix + " P3C3").c_str(), kHd), {a.bytes(), a.bytes()}, [=] { Require(merge()); }, "OpenCV merge",
-       [=] { cv::merge(mats, a.mat); }, atLeast});
+  Add({Name(("split " + suffix + " C3P3").c_str(), kHd),
+       {a.bytes(), a.bytes()},
+       [=] { Require(split()); },
+       "OpenCV split",
+       [=] {
+         std::vector<cv::Mat> out = mats;
+         cv::split(a.mat, out);
+       },
+       atLeast});
+  Add({Name(("merge " + suffix + " P3C3").c_str(), kHd),
+       {a.bytes(), a.bytes()},
+       [=] { Require(merge()); },
+       "OpenCV merge",
+       [=] { cv::merge(mats, a.mat); },
+       atLeast});
 }
 
 const bool kRegistered = [] {

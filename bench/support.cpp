@@ -66,8 +66,8 @@ void CopyBytes(const uint8_t* from, uint8_t* to, size_t bytes) {
 
 template <bool kStreaming>
 void Limit(const uint8_t* from, uint8_t* to, Traffic traffic) {
-  traffic.reads == traffic.writes && traffic.updates == 0 ? CopyBytes<kStreaming>(from, to, traffic.reads)
-                                  : Touch<kStreaming>(from, to, traffic);
+  traffic.reads == traffic.writes&& traffic.updates == 0 ? CopyBytes<kStreaming>(from, to, traffic.reads)
+                                                         : Touch<kStreaming>(from, to, traffic);
 }
 
 void Time(const std::string& name, std::function<void()> call) {
@@ -82,18 +82,22 @@ void Time(const std::string& name, std::function<void()> call) {
 void AddLimits(const std::string& name, Traffic traffic) {
   const auto from = Pixels<uint8_t>(traffic.reads + 64), to = Pixels<uint8_t>(traffic.writes + traffic.updates + 64);
   Time(name + "/limit", [=] { Limit<false>(from.get(), to.get(), traffic); });
-  if (traffic.writes + traffic.updates > 0) Time(name + "/limit streaming", [=] { Limit<true>(from.get(), to.get(), traffic); });
+  if (traffic.writes + traffic.updates > 0)
+    Time(name + "/limit streaming", [=] { Limit<true>(from.get(), to.get(), traffic); });
 }
 
 // The four classic rates, in and out of cache.
 void AddMachineLimits() {
-  struct { const char* name; double reads, writes; } kinds[] = {
-      {"read", 1, 0}, {"fill", 0, 1}, {"copy", 0.5, 0.5}, {"triad", 2 / 3.0, 1 / 3.0}};
+  struct {
+    const char* name;
+    double reads, writes;
+  } kinds[] = {{"read", 1, 0}, {"fill", 0, 1}, {"copy", 0.5, 0.5}, {"triad", 2 / 3.0, 1 / 3.0}};
   for (const auto& kind : kinds) {
     for (const size_t bytes : {size_t{32} << 10, size_t{512} << 10, size_t{8} << 20, size_t{96} << 20}) {
       const Traffic traffic{static_cast<size_t>(kind.reads * bytes), static_cast<size_t>(kind.writes * bytes)};
       AddLimits("machine " + std::string(kind.name) + " " + std::to_string(bytes >> 10) + " KiB @" +
-                std::to_string(traffic.Total()), traffic);
+                    std::to_string(traffic.Total()),
+                traffic);
     }
   }
 }

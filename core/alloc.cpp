@@ -25,12 +25,12 @@ T* Allocate(Length width, Length height, Layout layout, Length* step, void* (*al
 
 }  // namespace
 
-#define MALLOC(type, layout)                                                                                      \
-  Qvp##type* qvpiMalloc_##type##_##layout(int width, int height, int* pStepBytes) {                               \
-    return Allocate<Qvp##type>(width, height, Layout::k##layout, pStepBytes, qvpMalloc);                          \
-  }                                                                                                               \
-  Qvp##type* qvpiMalloc_##type##_##layout##_L(QvpSizeL width, QvpSizeL height, QvpSizeL* pStepBytes) {            \
-    return Allocate<Qvp##type>(width, height, Layout::k##layout, pStepBytes, qvpMalloc_L);                        \
+#define MALLOC(type, layout)                                                                           \
+  Qvp##type* qvpiMalloc_##type##_##layout(int width, int height, int* pStepBytes) {                    \
+    return Allocate<Qvp##type>(width, height, Layout::k##layout, pStepBytes, qvpMalloc);               \
+  }                                                                                                    \
+  Qvp##type* qvpiMalloc_##type##_##layout##_L(QvpSizeL width, QvpSizeL height, QvpSizeL* pStepBytes) { \
+    return Allocate<Qvp##type>(width, height, Layout::k##layout, pStepBytes, qvpMalloc_L);             \
   }
 #define MALLOC_LAYOUTS(type) MALLOC(type, C1) MALLOC(type, C2) MALLOC(type, C3) MALLOC(type, C4) MALLOC(type, AC4)
 

@@ -49,12 +49,15 @@ struct BlockMap {
   }
 };
 
+constexpr int ChannelsOf(int vectors, bool fourToFour) { return fourToFour ? 4 : vectors; }
+
 // Those of elements of 1, 2 and 4 bytes.
 template <int kIn, int kOut>
 const BlockMap& BlockMapFor(int elementBytes) {
-  constexpr int kInChannels = kOut == 1 && kIn == 1 ? 4 : kIn, kOutChannels = kOut == 1 && kIn == 1 ? 4 : kOut;
-  static constexpr BlockMap kMaps[] = {{kInChannels, kOutChannels}, {2 * kInChannels, 2 * kOutChannels},
-                                       {4 * kInChannels, 4 * kOutChannels}};
+  constexpr bool kFourToFour = kIn == 1 && kOut == 1;
+  constexpr int kInChannels = ChannelsOf(kIn, kFourToFour), kOutChannels = ChannelsOf(kOut, kFourToFour);
+  static constexpr BlockMap kMaps[] = {
+      {kInChannels, kOutChannels}, {2 * kInChannels, 2 * kOutChannels}, {4 * kInChannels, 4 * kOutChannels}};
   return kMaps[elementBytes / 2];
 }
 
@@ -89,8 +92,9 @@ HWY_INLINE void ToMemoryOrder(V (&v)[kVectors]) {
       const V& low = parts[2 * i % kVectors];
       const V& high = parts[(2 * i + 1) % kVectors];
       const bool lowOfSecond = 2 * i >= kVectors, highOfSecond = 2 * i + 1 >= kVectors;
-      v[i] = lowOfSecond ? hn::ConcatUpperUpper(d, high, low)
-             : highOfSecond ? hn::ConcatUpperLower(d, high, low) : hn::ConcatLowerLower(d, high, low);
+      v[i] = lowOfSecond    ? hn::ConcatUpperUpper(d, high, low)
+             : highOfSecond ? hn::ConcatUpperLower(d, high, low)
+                            : hn::ConcatLowerLower(d, high, low);
     }
   }
 }
@@ -166,9 +170,9 @@ class Mover {
 template <int kIn, int kOut, Rest kRest>
 void MoveRows(const ConstBytes& src, const Bytes& dst, Size roi, const PixelMap& map) {
   const Mover<kIn, kOut, kRest> mover(map, BlockMapFor<kIn, kOut>(dst.elementBytes));
-  ForEachRow(roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
+  Rows(src, dst).ForEach(roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
     mover.Row(from, src.RowBytes(width), to, dst.RowBytes(width));
-  }, src, dst);
+  });
 }
 
 Rest RestOf(const ChannelMap& map, int channels) {

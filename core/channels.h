@@ -14,8 +14,9 @@ struct ChannelMap {
   int from[4];
 };
 
-// Moves channels of every pixel by the map, which has an entry for each channel of a destination pixel. Both images have
-// elements of 1, 2 or 4 bytes; `fill` points at one element. In place is safe where both pixels have the same size.
+// Moves channels of every pixel by the map, which has an entry for each channel of a destination pixel. Both images
+// have elements of 1, 2 or 4 bytes; `fill` points at one element. In place is safe where both pixels have the same
+// size.
 void MoveChannels(const ConstBytes& src, const Bytes& dst, Size roi, const ChannelMap& map, const void* fill = nullptr);
 
 }  // namespace qvp

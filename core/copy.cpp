@@ -13,7 +13,8 @@ using namespace qvp;
 using D = hn::ScalableTag<uint8_t>;
 constexpr ptrdiff_t kVector = hn::MaxLanes(D());
 
-// Bytes [0, n). The first and the last vector may overlap their neighbours: bytes are then written twice with one value.
+// Bytes [0, n). The first and the last vector may overlap their neighbours: bytes are then written twice with one
+// value.
 template <Store kStore>
 void CopyRow(const uint8_t* src, uint8_t* dst, ptrdiff_t n) {
   const D d;
@@ -37,9 +38,8 @@ void CopyRow(const uint8_t* src, uint8_t* dst, ptrdiff_t n) {
 
 template <Store kStore>
 void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi) {
-  ForEachRow(roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
-    CopyRow<kStore>(from, to, dst.RowBytes(width));
-  }, src, dst);
+  Rows(src, dst).ForEach(
+      roi, [&](ptrdiff_t width, const uint8_t* from, uint8_t* to) { CopyRow<kStore>(from, to, dst.RowBytes(width)); });
 }
 
 QvpStatus Copy(const ConstBytes& src, const Bytes& dst, Size roi) {
@@ -83,9 +83,9 @@ void ManagedRow(const uint8_t* src, uint8_t* dst, ptrdiff_t n) {
 
 template <Store kStore, bool kStreamingLoads>
 void ManagedRows(const ConstBytes& src, const Bytes& dst, Size roi) {
-  ForEachRow(roi, [](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
+  Rows(src, dst).ForEach(roi, [](ptrdiff_t width, const uint8_t* from, uint8_t* to) {
     ManagedRow<kStore, kStreamingLoads>(from, to, width);
-  }, src, dst);
+  });
   Fence(kStore);
 }
 
@@ -104,29 +104,30 @@ QvpStatus CopyManaged(const ConstBytes& src, const Bytes& dst, Size roi, int fla
 
 }  // namespace
 
-#define COPY(type, layout, impl)                                          \
-  QVP_MOVE(qvpiCopy_##type##_##layout##R, type, layout, layout, impl)     \
+#define COPY(type, layout, impl)                                      \
+  QVP_MOVE(qvpiCopy_##type##_##layout##R, type, layout, layout, impl) \
   QVP_MOVE_L(qvpiCopy_##type##_##layout##R_L, type, layout, layout, impl)
-#define COPY_LAYOUTS(type)          \
-  COPY(type, C1, Copy)              \
-  COPY(type, C3, Copy)              \
-  COPY(type, C4, Copy)              \
+#define COPY_LAYOUTS(type) \
+  COPY(type, C1, Copy)     \
+  COPY(type, C3, Copy)     \
+  COPY(type, C4, Copy)     \
   COPY(type, AC4, CopyColours)
-#define COPY_CHANNEL_LAYOUTS(type)                                    \
-  QVP_MOVE(qvpiCopy_##type##_C3CR, type, C3CR, C3CR, CopyChannel)     \
-  QVP_MOVE(qvpiCopy_##type##_C4CR, type, C4CR, C4CR, CopyChannel)     \
-  QVP_MOVE(qvpiCopy_##type##_C3C1R, type, C3CR, C1, CopyChannel)      \
-  QVP_MOVE(qvpiCopy_##type##_C4C1R, type, C4CR, C1, CopyChannel)      \
-  QVP_MOVE(qvpiCopy_##type##_C1C3R, type, C1, C3CR, CopyChannel)      \
+#define COPY_CHANNEL_LAYOUTS(type)                                \
+  QVP_MOVE(qvpiCopy_##type##_C3CR, type, C3CR, C3CR, CopyChannel) \
+  QVP_MOVE(qvpiCopy_##type##_C4CR, type, C4CR, C4CR, CopyChannel) \
+  QVP_MOVE(qvpiCopy_##type##_C3C1R, type, C3CR, C1, CopyChannel)  \
+  QVP_MOVE(qvpiCopy_##type##_C4C1R, type, C4CR, C1, CopyChannel)  \
+  QVP_MOVE(qvpiCopy_##type##_C1C3R, type, C1, C3CR, CopyChannel)  \
   QVP_MOVE(qvpiCopy_##type##_C1C4R, type, C1, C4CR, CopyChannel)
-#define COPY_THREE_FOUR(type)                                         \
-  QVP_MOVE(qvpiCopy_##type##_C3AC4R, type, C3, AC4, CopyColours)      \
+#define COPY_THREE_FOUR(type)                                    \
+  QVP_MOVE(qvpiCopy_##type##_C3AC4R, type, C3, AC4, CopyColours) \
   QVP_MOVE(qvpiCopy_##type##_AC4C3R, type, AC4, C3, CopyColours)
 
 QVP_EACH_MOVED_TYPE(COPY_LAYOUTS)
 QVP_EACH_MOVED_TYPE(COPY_CHANNEL_LAYOUTS)
 QVP_EACH_MOVED_TYPE(COPY_THREE_FOUR)
 
-QvpStatus qvpiCopyManaged_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int flags) {
+QvpStatus qvpiCopyManaged_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize,
+                                 int flags) {
   return CopyManaged(AsBytes(pSrc, srcStep, Layout::kC1), AsBytes(pDst, dstStep, Layout::kC1), roiSize, flags);
 }

@@ -83,9 +83,9 @@ RowKernel KernelFor(const Bytes& dst) {
 QvpStatus CopyMasked(const ConstBytes& src, const Bytes& dst, Size roi, const ConstBytes& mask) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst, mask})) return failed;
   const RowKernel row = KernelFor(dst);
-  ForEachRow(roi, [&](ptrdiff_t n, const uint8_t* from, uint8_t* to, const uint8_t* where) {
+  Rows(src, dst, mask).ForEach(roi, [&](ptrdiff_t n, const uint8_t* from, uint8_t* to, const uint8_t* where) {
     row(n, from, kPixels * src.PixelBytes(), where, to);
-  }, src, dst, mask);
+  });
   return qvpStatusNoError;
 }
 
@@ -97,20 +97,20 @@ QvpStatus SetMasked(const void* value, const Bytes& dst, Size roi, const ConstBy
     hn::StoreU(pixel.Repeat(D(), pixel.bytes, i % pixel.size), D(), block + i);
   }
   const RowKernel row = KernelFor(dst);
-  ForEachRow(roi, [&](ptrdiff_t n, uint8_t* to, const uint8_t* where) { row(n, block, 0, where, to); }, dst, mask);
+  Rows(dst, mask).ForEach(roi, [&](ptrdiff_t n, uint8_t* to, const uint8_t* where) { row(n, block, 0, where, to); });
   return qvpStatusNoError;
 }
 
 }  // namespace
 
-#define MASKED(type)                                                        \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C1MR, type, C1, CopyMasked)             \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C3MR, type, C3, CopyMasked)             \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C4MR, type, C4, CopyMasked)             \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_AC4MR, type, AC4, CopyMasked)           \
-  QVP_MASKED_FILL(qvpiSet_##type##_C1MR, type, C1, SetMasked)               \
-  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C3MR, type, C3, SetMasked)      \
-  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C4MR, type, C4, SetMasked)      \
+#define MASKED(type)                                                   \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C1MR, type, C1, CopyMasked)        \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C3MR, type, C3, CopyMasked)        \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C4MR, type, C4, CopyMasked)        \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_AC4MR, type, AC4, CopyMasked)      \
+  QVP_MASKED_FILL(qvpiSet_##type##_C1MR, type, C1, SetMasked)          \
+  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C3MR, type, C3, SetMasked) \
+  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C4MR, type, C4, SetMasked) \
   QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_AC4MR, type, AC4, SetMasked)
 
 QVP_EACH_MOVED_TYPE(MASKED)

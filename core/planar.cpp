@@ -13,20 +13,28 @@ namespace {
 using namespace qvp;
 
 template <class D, class T, class V>
-HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[3]) { hn::LoadInterleaved3(d, from, v[0], v[1], v[2]); }
+HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[3]) {
+  hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
+}
 template <class D, class T, class V>
-HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[4]) { hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]); }
+HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[4]) {
+  hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
+}
 template <class D, class T, class V>
-HWY_INLINE void StorePixels(D d, const V (&v)[3], T* to) { hn::StoreInterleaved3(v[0], v[1], v[2], d, to); }
+HWY_INLINE void StorePixels(D d, const V (&v)[3], T* to) {
+  hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
+}
 template <class D, class T, class V>
-HWY_INLINE void StorePixels(D d, const V (&v)[4], T* to) { hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to); }
+HWY_INLINE void StorePixels(D d, const V (&v)[4], T* to) {
+  hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
+}
 
 template <class T, size_t kPlanes>
-using Rows = std::array<T*, kPlanes>;
+using PlaneRows = std::array<T*, kPlanes>;
 
 // One vector of pixels to one vector of each plane, `i` pixels into the rows.
 template <Store kStore, class T, int kPlanes>
-HWY_INLINE void Split(const T* pixels, const Rows<T, kPlanes>& planes, ptrdiff_t i) {
+HWY_INLINE void Split(const T* pixels, const PlaneRows<T, kPlanes>& planes, ptrdiff_t i) {
   const hn::ScalableTag<T> d;
   hn::Vec<decltype(d)> v[kPlanes];
   LoadPixels(d, pixels, v);
@@ -35,7 +43,7 @@ HWY_INLINE void Split(const T* pixels, const Rows<T, kPlanes>& planes, ptrdiff_t
 
 // The way back. Interleaving stores are ordinary ones, so streamed pixels are gathered on the stack first.
 template <Store kStore, class T, int kPlanes>
-HWY_INLINE void Merge(const Rows<const T, kPlanes>& planes, ptrdiff_t i, T* pixels) {
+HWY_INLINE void Merge(const PlaneRows<const T, kPlanes>& planes, ptrdiff_t i, T* pixels) {
   const hn::ScalableTag<T> d;
   constexpr int kLanes = hn::MaxLanes(d);
   hn::Vec<decltype(d)> v[kPlanes];
@@ -53,41 +61,41 @@ struct Staged {
   T pixels[kPlanes * kLanes] = {}, plane[kPlanes][kLanes] = {};
 
   template <class Element = T>
-  Rows<Element, kPlanes> PlaneRows() {
-    Rows<Element, kPlanes> rows;
+  PlaneRows<Element, kPlanes> Planes() {
+    PlaneRows<Element, kPlanes> rows;
     for (int p = 0; p < kPlanes; ++p) rows[p] = plane[p];
     return rows;
   }
 };
 
 template <Store kStore, class T, int kPlanes>
-void SplitRow(ptrdiff_t n, const T* pixels, const Rows<T, kPlanes>& planes) {
+void SplitRow(ptrdiff_t n, const T* pixels, const PlaneRows<T, kPlanes>& planes) {
   using Buffer = Staged<T, kPlanes>;
   ptrdiff_t i = 0;
   for (; i + Buffer::kLanes <= n; i += Buffer::kLanes) Split<kStore, T, kPlanes>(pixels + kPlanes * i, planes, i);
   if (i == n) return;
   Buffer rest;
   std::memcpy(rest.pixels, pixels + kPlanes * i, (n - i) * kPlanes * sizeof(T));
-  Split<Store::kOrdinary, T, kPlanes>(rest.pixels, rest.PlaneRows(), 0);
+  Split<Store::kOrdinary, T, kPlanes>(rest.pixels, rest.Planes(), 0);
   for (int p = 0; p < kPlanes; ++p) std::memcpy(planes[p] + i, rest.plane[p], (n - i) * sizeof(T));
 }
 
 template <Store kStore, class T, int kPlanes>
-void MergeRow(ptrdiff_t n, T* pixels, const Rows<const T, kPlanes>& planes) {
+void MergeRow(ptrdiff_t n, T* pixels, const PlaneRows<const T, kPlanes>& planes) {
   using Buffer = Staged<T, kPlanes>;
   ptrdiff_t i = 0;
   for (; i + Buffer::kLanes <= n; i += Buffer::kLanes) Merge<kStore, T, kPlanes>(planes, i, pixels + kPlanes * i);
   if (i == n) return;
   Buffer rest;
   for (int p = 0; p < kPlanes; ++p) std::memcpy(rest.plane[p], planes[p] + i, (n - i) * sizeof(T));
-  Merge<Store::kOrdinary, T, kPlanes>(rest.template PlaneRows<const T>(), 0, rest.pixels);
+  Merge<Store::kOrdinary, T, kPlanes>(rest.template Planes<const T>(), 0, rest.pixels);
   std::memcpy(pixels + kPlanes * i, rest.pixels, (n - i) * kPlanes * sizeof(T));
 }
 
-// The planes of a planar image as images of their own; null pointers where the array of planes is null.
 template <class T, size_t kPlanes>
 using PlaneImages = std::array<Image<T>, kPlanes>;
 
+// The planes of a planar image as images of their own; null pointers where the array of planes is null.
 template <int kPlanes, class T>
 PlaneImages<T, kPlanes> PlanesOf(T* const* planes, ptrdiff_t step) {
   PlaneImages<T, kPlanes> images;
@@ -103,12 +111,15 @@ QvpStatus Check(Size roi, const Image<P>& pixels, const PlaneImages<T, kPlanes>&
   return Validate<kSize>(roi, {pixels});
 }
 
-// Calls row(pixels, row of the interleaved image, rows of the planes).
-template <class Row, class P, class T, size_t kPlanes>
-void ForEachPlanarRow(Size roi, const Image<P>& pixels, const PlaneImages<T, kPlanes>& planes, const Row& row) {
-  std::apply([&](const auto&... plane) {
-    ForEachRow(roi, [&](ptrdiff_t n, P* at, auto*... to) { row(n, at, Rows<T, kPlanes>{to...}); }, pixels, plane...);
-  }, planes);
+// Calls kernel(pixels, row of the interleaved image, rows of the planes).
+template <class Kernel, class P, class T, size_t kPlanes>
+void ForEachRow(Size roi, const Image<P>& pixels, const PlaneImages<T, kPlanes>& planes, const Kernel& kernel) {
+  const auto walk = [&](const auto&... plane) {
+    Rows(pixels, plane...).ForEach(roi, [&](ptrdiff_t n, P* at, auto*... row) {
+      kernel(n, at, PlaneRows<T, kPlanes>{row...});
+    });
+  };
+  std::apply(walk, planes);
 }
 
 // Streaming asks for aligned rows; those of qvpiMalloc are.
@@ -117,16 +128,22 @@ bool HasAlignedRows(const Image<T>& image) {
   return ((reinterpret_cast<uintptr_t>(image.data) | static_cast<uintptr_t>(image.step)) & 63) == 0;
 }
 
+template <class T>
+Store StoreForRows(Size roi, const Image<T>& pixels, bool aligned) {
+  return aligned ? StoreFor(2 * static_cast<int64_t>(pixels.RowBytes(roi.width)) * roi.height) : Store::kOrdinary;
+}
+
+constexpr Layout LayoutOf(int planes) { return planes == 3 ? Layout::kC3 : Layout::kC4; }
+
 template <int kPlanes, class T>
 QvpStatus SplitPixels(const T* pSrc, ptrdiff_t srcStep, T* const* pDst, ptrdiff_t dstStep, Size roi) {
-  const Image<const T> src{pSrc, srcStep, kPlanes == 3 ? Layout::kC3 : Layout::kC4};
+  const Image<const T> src{pSrc, srcStep, LayoutOf(kPlanes)};
   const auto dst = PlanesOf<kPlanes>(pDst, dstStep);
   if (const QvpStatus failed = Check(roi, src, dst)) return failed;
-  const bool aligned = std::all_of(dst.begin(), dst.end(), HasAlignedRows<T>);
-  const Store store = aligned ? StoreFor(2 * static_cast<int64_t>(src.RowBytes(roi.width)) * roi.height)
-                              : Store::kOrdinary;
-  ForEachPlanarRow(roi, src, dst, store == Store::kStreaming ? SplitRow<Store::kStreaming, T, kPlanes>
-                                                             : SplitRow<Store::kOrdinary, T, kPlanes>);
+  const Store store = StoreForRows(roi, src, std::all_of(dst.begin(), dst.end(), HasAlignedRows<T>));
+  const auto row =
+      store == Store::kStreaming ? SplitRow<Store::kStreaming, T, kPlanes> : SplitRow<Store::kOrdinary, T, kPlanes>;
+  ForEachRow(roi, src, dst, row);
   Fence(store);
   return qvpStatusNoError;
 }
@@ -134,12 +151,12 @@ QvpStatus SplitPixels(const T* pSrc, ptrdiff_t srcStep, T* const* pDst, ptrdiff_
 template <int kPlanes, class T>
 QvpStatus MergePlanes(const T* const* pSrc, ptrdiff_t srcStep, T* pDst, ptrdiff_t dstStep, Size roi) {
   const auto src = PlanesOf<kPlanes>(pSrc, srcStep);
-  const Image<T> dst{pDst, dstStep, kPlanes == 3 ? Layout::kC3 : Layout::kC4};
+  const Image<T> dst{pDst, dstStep, LayoutOf(kPlanes)};
   if (const QvpStatus failed = Check(roi, dst, src)) return failed;
-  const Store store = HasAlignedRows(dst) ? StoreFor(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height)
-                                          : Store::kOrdinary;
-  ForEachPlanarRow(roi, dst, src, store == Store::kStreaming ? MergeRow<Store::kStreaming, T, kPlanes>
-                                                             : MergeRow<Store::kOrdinary, T, kPlanes>);
+  const Store store = StoreForRows(roi, dst, HasAlignedRows(dst));
+  const auto row =
+      store == Store::kStreaming ? MergeRow<Store::kStreaming, T, kPlanes> : MergeRow<Store::kOrdinary, T, kPlanes>;
+  ForEachRow(roi, dst, src, row);
   Fence(store);
   return qvpStatusNoError;
 }
@@ -150,18 +167,18 @@ using Word = hwy::MakeUnsigned<T>;
 
 }  // namespace
 
-#define PLANAR(type, planes)                                                                                       \
-  QvpStatus qvpiCopy_##type##_C##planes##P##planes##R(const Qvp##type* pSrc, int srcStep, Qvp##type* const* pDst,  \
-                                                      int dstStep, QvpiSize roiSize) {                             \
-    using W = Word<Qvp##type>;                                                                                     \
-    return SplitPixels<planes>(reinterpret_cast<const W*>(pSrc), srcStep, reinterpret_cast<W* const*>(pDst),       \
-                               dstStep, roiSize);                                                                  \
-  }                                                                                                                \
-  QvpStatus qvpiCopy_##type##_P##planes##C##planes##R(const Qvp##type* const* pSrc, int srcStep, Qvp##type* pDst,  \
-                                                      int dstStep, QvpiSize roiSize) {                             \
-    using W = Word<Qvp##type>;                                                                                     \
-    return MergePlanes<planes>(reinterpret_cast<const W* const*>(pSrc), srcStep, reinterpret_cast<W*>(pDst),       \
-                               dstStep, roiSize);                                                                  \
+#define PLANAR(type, planes)                                                                                          \
+  QvpStatus qvpiCopy_##type##_C##planes##P##planes##R(const Qvp##type* pSrc, int srcStep, Qvp##type* const* pDst,     \
+                                                      int dstStep, QvpiSize roiSize) {                                \
+    using W = Word<Qvp##type>;                                                                                        \
+    return SplitPixels<planes>(reinterpret_cast<const W*>(pSrc), srcStep, reinterpret_cast<W* const*>(pDst), dstStep, \
+                               roiSize);                                                                              \
+  }                                                                                                                   \
+  QvpStatus qvpiCopy_##type##_P##planes##C##planes##R(const Qvp##type* const* pSrc, int srcStep, Qvp##type* pDst,     \
+                                                      int dstStep, QvpiSize roiSize) {                                \
+    using W = Word<Qvp##type>;                                                                                        \
+    return MergePlanes<planes>(reinterpret_cast<const W* const*>(pSrc), srcStep, reinterpret_cast<W*>(pDst), dstStep, \
+                               roiSize);                                                                              \
   }
 #define PLANAR_LAYOUTS(type) PLANAR(type, 3) PLANAR(type, 4)
 

@@ -61,7 +61,7 @@ void FillRow(const FillPixel& pixel, uint8_t* dst, ptrdiff_t n) {
 
 template <Store kStore, bool kKeep>
 void FillRows(const FillPixel& pixel, const Bytes& dst, Size roi) {
-  ForEachRow(roi, [&](ptrdiff_t width, uint8_t* to) { FillRow<kStore, kKeep>(pixel, to, dst.RowBytes(width)); }, dst);
+  Rows(dst).ForEach(roi, [&](ptrdiff_t width, uint8_t* to) { FillRow<kStore, kKeep>(pixel, to, dst.RowBytes(width)); });
 }
 
 QvpStatus Set(const void* value, const Bytes& dst, Size roi) {
@@ -70,23 +70,24 @@ QvpStatus Set(const void* value, const Bytes& dst, Size roi) {
   const FillPixel pixel(value, dst);
   const bool streams = store == Store::kStreaming;
   (pixel.Keeps() ? streams ? FillRows<Store::kStreaming, true> : FillRows<Store::kOrdinary, true>
-                 : streams ? FillRows<Store::kStreaming, false> : FillRows<Store::kOrdinary, false>)(pixel, dst, roi);
+   : streams ? FillRows<Store::kStreaming, false>
+                 : FillRows<Store::kOrdinary, false>)(pixel, dst, roi);
   Fence(store);
   return qvpStatusNoError;
 }
 
 }  // namespace
 
-#define SET(type)                                               \
-  QVP_FILL(qvpiSet_##type##_C1R, type, C1, Set)                 \
-  QVP_FILL_L(qvpiSet_##type##_C1R_L, type, C1, Set)             \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_C3R, type, C3, Set)        \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C3R_L, type, C3, Set)    \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_C4R, type, C4, Set)        \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C4R_L, type, C4, Set)    \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_AC4R, type, AC4, Set)      \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_AC4R_L, type, AC4, Set)  \
-  QVP_FILL(qvpiSet_##type##_C3CR, type, C3CR, Set)              \
+#define SET(type)                                              \
+  QVP_FILL(qvpiSet_##type##_C1R, type, C1, Set)                \
+  QVP_FILL_L(qvpiSet_##type##_C1R_L, type, C1, Set)            \
+  QVP_FILL_CHANNELS(qvpiSet_##type##_C3R, type, C3, Set)       \
+  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C3R_L, type, C3, Set)   \
+  QVP_FILL_CHANNELS(qvpiSet_##type##_C4R, type, C4, Set)       \
+  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C4R_L, type, C4, Set)   \
+  QVP_FILL_CHANNELS(qvpiSet_##type##_AC4R, type, AC4, Set)     \
+  QVP_FILL_CHANNELS_L(qvpiSet_##type##_AC4R_L, type, AC4, Set) \
+  QVP_FILL(qvpiSet_##type##_C3CR, type, C3CR, Set)             \
   QVP_FILL(qvpiSet_##type##_C4CR, type, C4CR, Set)
 
 QVP_EACH_MOVED_TYPE(SET)

@@ -3,8 +3,7 @@
 
 namespace {
 constexpr QvpLibraryVersion kVersion = {
-    2021,    11, 0, static_cast<int>(0xCD107B02), QVP_CPU_CODE, QVP_BUILD_NAME, "2021.11.0 (r0xcd107b02)",
-    "Jan 30 2024"};
+    2021, 11, 0, static_cast<int>(0xCD107B02), QVP_CPU_CODE, QVP_BUILD_NAME, "2021.11.0 (r0xcd107b02)", "Jan 30 2024"};
 }  // namespace
 
 const QvpLibraryVersion* qvpiGetLibVersion() { return &kVersion; }

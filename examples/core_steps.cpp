@@ -18,8 +18,8 @@ Rgb CopyOf(const Rgb& image) {
 void Original(Demo& demo) {
   const Rgb& photo = demo.photo();
   Rgb copy(photo.size());
-  demo.Time(photo.size(), 3 + 3, CALL(qvpiCopy_8u_C3R, photo.data(), photo.step(), copy.data(), copy.step(),
-                                      photo.size()));
+  demo.Time(photo.size(), 3 + 3,
+            CALL(qvpiCopy_8u_C3R, photo.data(), photo.step(), copy.data(), copy.step(), photo.size()));
   demo.Show("Original", copy);
 }
 
@@ -27,8 +27,9 @@ void SwapRedAndBlue(Demo& demo) {
   const Rgb& photo = demo.photo();
   Rgb swapped(photo.size());
   const int order[3] = {2, 1, 0};
-  demo.Time(photo.size(), 3 + 3, CALL(qvpiSwapChannels_8u_C3R, photo.data(), photo.step(), swapped.data(),
-                                      swapped.step(), photo.size(), order));
+  demo.Time(
+      photo.size(), 3 + 3,
+      CALL(qvpiSwapChannels_8u_C3R, photo.data(), photo.step(), swapped.data(), swapped.step(), photo.size(), order));
   demo.Show("Red and blue swapped", swapped);
 }
 
@@ -48,8 +49,9 @@ void CopyUnderMask(Demo& demo) {
   const Grey mask = Ellipse(photo.size());
   Rgb framed(photo.size());
   Require(qvpiSet_8u_C3R(kBlue, framed.data(), framed.step(), framed.size()));
-  demo.Time(photo.size(), 3 + 1 + 3, CALL(qvpiCopy_8u_C3MR, photo.data(), photo.step(), framed.data(), framed.step(),
-                                          photo.size(), mask.data(), mask.step()));
+  demo.Time(photo.size(), 3 + 1 + 3,
+            CALL(qvpiCopy_8u_C3MR, photo.data(), photo.step(), framed.data(), framed.step(), photo.size(), mask.data(),
+                 mask.step()));
   demo.Show("Copied under an ellipse as mask", framed);
 }
 
@@ -62,8 +64,8 @@ void RemoveBlue(Demo& demo) {
 void ReplaceGreenByRed(Demo& demo) {
   const Rgb& photo = demo.photo();
   Rgb image = CopyOf(photo);
-  demo.Time(image.size(), 1 + 1, CALL(qvpiCopy_8u_C3CR, photo.data(), photo.step(), image.data() + 1, image.step(),
-                                      image.size()));
+  demo.Time(image.size(), 1 + 1,
+            CALL(qvpiCopy_8u_C3CR, photo.data(), photo.step(), image.data() + 1, image.step(), image.size()));
   demo.Show("Green replaced by red", image);
 }
 
@@ -90,8 +92,8 @@ void CopyAndSetBesideAlpha(Demo& demo) {
   const Rgb& photo = demo.photo();
   Rgba image(photo.size());
   SetAlphaGradient(image);
-  demo.Time(photo.size(), 3 + 3, CALL(qvpiCopy_8u_C3AC4R, photo.data(), photo.step(), image.data(), image.step(),
-                                      photo.size()));
+  demo.Time(photo.size(), 3 + 3,
+            CALL(qvpiCopy_8u_C3AC4R, photo.data(), photo.step(), image.data(), image.step(), photo.size()));
   demo.Show("Copied, alpha gradient kept", image);
 
   const QvpiSize size = image.size(), half{std::max(1, size.width / 2), std::max(1, size.height / 2)};

@@ -496,7 +496,10 @@ QvpStatus qvpiSwapChannels_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiSwapChannels_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4]);
 QvpStatus qvpiSwapChannels_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[3]);
 QvpStatus qvpiSwapChannels_32f_C4C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[3]);
+/** @} */
 
+/** @name Swap channels, three to four
+ *  @{ */
 /** Reorders the three channels of the source into four: channel i of a destination pixel becomes channel `dstOrder[i]`
  *  of the source pixel, `val` where the entry is 3, and stays as it was where the entry is greater.
  *
@@ -516,7 +519,10 @@ QvpStatus qvpiSwapChannels_16u_C3C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pD
 QvpStatus qvpiSwapChannels_16s_C3C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp16s val);
 QvpStatus qvpiSwapChannels_32s_C3C4R(const Qvp32s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp32s val);
 QvpStatus qvpiSwapChannels_32f_C3C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp32f val);
+/** @} */
 
+/** @name Swap channels in place
+ *  @{ */
 /** Reorders channels in place: channel i of a pixel becomes what channel `dstOrder[i]` was.
  *
  *  @param pSrcDst,srcDstStep image

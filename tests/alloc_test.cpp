@@ -32,16 +32,19 @@ void CheckLayout(T* (*allocate)(Length, Length, Length*), int pixelBytes) {
 }
 
 TEST(Malloc, EveryMember) {
-#define LAYOUT(type, layout, channels)                                                        \
-  CheckLayout<int>(qvpiMalloc_##type##_##layout, channels * int{sizeof(Qvp##type)});          \
+#define LAYOUT(type, layout, channels)                                               \
+  CheckLayout<int>(qvpiMalloc_##type##_##layout, channels * int{sizeof(Qvp##type)}); \
   CheckLayout<QvpSizeL>(qvpiMalloc_##type##_##layout##_L, channels * int{sizeof(Qvp##type)});
-#define LAYOUTS(type) LAYOUT(type, C1, 1) LAYOUT(type, C2, 2) LAYOUT(type, C3, 3) LAYOUT(type, C4, 4) LAYOUT(type, AC4, 4)
+#define LAYOUTS(type) \
+  LAYOUT(type, C1, 1) LAYOUT(type, C2, 2) LAYOUT(type, C3, 3) LAYOUT(type, C4, 4) LAYOUT(type, AC4, 4)
   LAYOUTS(8u) LAYOUTS(16u) LAYOUTS(16s) LAYOUTS(32s) LAYOUTS(32f) LAYOUTS(32sc) LAYOUTS(32fc)
 }
 
 TEST(Malloc, RefusesWhatItsStepCannotTell) {
-  struct { int width, height, step; } cases[] = {
-      {INT_MAX, 1, 0},            // a row of 2147483647 bytes cannot be rounded up
+  struct {
+    int width, height, step;
+  } cases[] = {
+      {INT_MAX, 1, 0},                  // a row of 2147483647 bytes cannot be rounded up
       {INT_MAX - 63, 2, INT_MAX - 63},  // the row fits, the image does not: the step stays
       {46341, 46341, 46400},
   };

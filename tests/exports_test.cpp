@@ -1,15 +1,15 @@
-// What holds for every function alike: the order of the first checks, untouched outputs after a refusal, no system call,
-// no change of the floating-point control state, and any alignment of the stack.
+// What holds for every function alike: the order of the first checks, untouched outputs after a refusal, no system
+// call, no change of the floating-point control state, and any alignment of the stack.
+#include "tests/support/exports.h"
+
 #include <gtest/gtest.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-
 #include <xmmintrin.h>
 
 #include "qvpcore.h"
-#include "tests/support/exports.h"
 
 namespace {
 using test::Export;
@@ -106,7 +106,9 @@ QvpStatus CallAtPhase(const Export& function, const test::Argument* arguments, i
   QvpStatus status;
   __asm__ volatile(
       "movl %%esp, %%esi\n\tandl $-16, %%esp\n\tsubl %2, %%esp\n\tpushl %3\n\tcall *%1\n\tmovl %%esi, %%esp"
-      : "=a"(status) : "r"(function.call), "r"(phase), "r"(arguments) : "esi", "ecx", "edx", "memory", "cc");
+      : "=a"(status)
+      : "r"(function.call), "r"(phase), "r"(arguments)
+      : "esi", "ecx", "edx", "memory", "cc");
   return status;
 }
 

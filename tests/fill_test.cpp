@@ -25,7 +25,9 @@ T FirstValue() {
 template <class T>
 class GuardedValues {
  public:
-  explicit GuardedValues(int channels) : block_(channels * sizeof(T)) { std::memcpy(block_.data(), kValue, block_.size()); }
+  explicit GuardedValues(int channels) : block_(channels * sizeof(T)) {
+    std::memcpy(block_.data(), kValue, block_.size());
+  }
   const T* get() const { return reinterpret_cast<const T*>(block_.data()); }
 
  private:
@@ -58,27 +60,26 @@ void Check(const Fill& m, int width, int gap, Guard guard) {
 
 std::vector<Fill> Fills() {
   std::vector<Fill> fills;
-#define FILL(type, layout, channels, written, value, ...)                                                           \
-  fills.push_back({"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written,                                  \
-                   [](void* d, int step, QvpiSize size) {                                                           \
-                     return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), step, size);               \
-                   } __VA_OPT__(, ) __VA_ARGS__});
-#define FILL_L(type, layout, channels, written, value)                                                              \
-  fills.push_back({"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written,                                  \
-                   [](void* d, int step, QvpiSize size) {                                                           \
-                     return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), step,                      \
-                                                      {size.width, size.height});                                   \
-                   }});
-#define FILLS(type)                                                                  \
-  FILL(type, C1R, 1, 1, FirstValue<Qvp##type>())                                     \
-  FILL_L(type, C1R_L, 1, 1, FirstValue<Qvp##type>())                                 \
-  FILL(type, C3R, 3, 3, GuardedValues<Qvp##type>(3).get())                           \
-  FILL_L(type, C3R_L, 3, 3, GuardedValues<Qvp##type>(3).get())                       \
-  FILL(type, C4R, 4, 4, GuardedValues<Qvp##type>(4).get())                           \
-  FILL_L(type, C4R_L, 4, 4, GuardedValues<Qvp##type>(4).get())                       \
-  FILL(type, AC4R, 4, 3, GuardedValues<Qvp##type>(3).get())                          \
-  FILL_L(type, AC4R_L, 4, 3, GuardedValues<Qvp##type>(3).get())                      \
-  FILL(type, C3CR, 3, 1, FirstValue<Qvp##type>(), true)                              \
+#define FILL(type, layout, channels, written, value, ...)                                                     \
+  fills.push_back(                                                                                            \
+      {"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written, [](void* d, int step, QvpiSize size) { \
+         return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), step, size);                     \
+       } __VA_OPT__(, ) __VA_ARGS__});
+#define FILL_L(type, layout, channels, written, value)                                                         \
+  fills.push_back(                                                                                             \
+      {"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written, [](void* d, int step, QvpiSize size) {  \
+         return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), step, {size.width, size.height}); \
+       }});
+#define FILLS(type)                                             \
+  FILL(type, C1R, 1, 1, FirstValue<Qvp##type>())                \
+  FILL_L(type, C1R_L, 1, 1, FirstValue<Qvp##type>())            \
+  FILL(type, C3R, 3, 3, GuardedValues<Qvp##type>(3).get())      \
+  FILL_L(type, C3R_L, 3, 3, GuardedValues<Qvp##type>(3).get())  \
+  FILL(type, C4R, 4, 4, GuardedValues<Qvp##type>(4).get())      \
+  FILL_L(type, C4R_L, 4, 4, GuardedValues<Qvp##type>(4).get())  \
+  FILL(type, AC4R, 4, 3, GuardedValues<Qvp##type>(3).get())     \
+  FILL_L(type, AC4R_L, 4, 3, GuardedValues<Qvp##type>(3).get()) \
+  FILL(type, C3CR, 3, 1, FirstValue<Qvp##type>(), true)         \
   FILL(type, C4CR, 4, 1, FirstValue<Qvp##type>(), true)
   FOR_EACH_TYPE(FILLS)
   return fills;
@@ -136,25 +137,25 @@ void Check(const Masked& m, int width, int gap, int maskGap, unsigned seed) {
 
 TEST(Masked, EveryMember) {
   std::vector<Masked> members;
-#define MASKED_COPY(type, layout, channels, written)                                                                \
-  members.push_back({"Copy_" #type "_" #layout, sizeof(Qvp##type), channels, written, true,                         \
-                     [](const void* s, int ss, void* d, int ds, QvpiSize size, const Qvp8u* mask, int ms) {         \
-                       return qvpiCopy_##type##_##layout(static_cast<const Qvp##type*>(s), ss,                      \
-                                                         static_cast<Qvp##type*>(d), ds, size, mask, ms);           \
+#define MASKED_COPY(type, layout, channels, written)                                                        \
+  members.push_back({"Copy_" #type "_" #layout, sizeof(Qvp##type), channels, written, true,                 \
+                     [](const void* s, int ss, void* d, int ds, QvpiSize size, const Qvp8u* mask, int ms) { \
+                       return qvpiCopy_##type##_##layout(static_cast<const Qvp##type*>(s), ss,              \
+                                                         static_cast<Qvp##type*>(d), ds, size, mask, ms);   \
                      }});
-#define MASKED_SET(type, layout, channels, written, value)                                                          \
-  members.push_back({"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written, false,                         \
-                     [](const void*, int, void* d, int ds, QvpiSize size, const Qvp8u* mask, int ms) {              \
-                       return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), ds, size, mask, ms);     \
+#define MASKED_SET(type, layout, channels, written, value)                                                      \
+  members.push_back({"Set_" #type "_" #layout, sizeof(Qvp##type), channels, written, false,                     \
+                     [](const void*, int, void* d, int ds, QvpiSize size, const Qvp8u* mask, int ms) {          \
+                       return qvpiSet_##type##_##layout(value, static_cast<Qvp##type*>(d), ds, size, mask, ms); \
                      }});
-#define MASKED(type)                                                   \
-  MASKED_COPY(type, C1MR, 1, 1)                                        \
-  MASKED_COPY(type, C3MR, 3, 3)                                        \
-  MASKED_COPY(type, C4MR, 4, 4)                                        \
-  MASKED_COPY(type, AC4MR, 4, 3)                                       \
-  MASKED_SET(type, C1MR, 1, 1, FirstValue<Qvp##type>())                \
-  MASKED_SET(type, C3MR, 3, 3, GuardedValues<Qvp##type>(3).get())      \
-  MASKED_SET(type, C4MR, 4, 4, GuardedValues<Qvp##type>(4).get())      \
+#define MASKED(type)                                              \
+  MASKED_COPY(type, C1MR, 1, 1)                                   \
+  MASKED_COPY(type, C3MR, 3, 3)                                   \
+  MASKED_COPY(type, C4MR, 4, 4)                                   \
+  MASKED_COPY(type, AC4MR, 4, 3)                                  \
+  MASKED_SET(type, C1MR, 1, 1, FirstValue<Qvp##type>())           \
+  MASKED_SET(type, C3MR, 3, 3, GuardedValues<Qvp##type>(3).get()) \
+  MASKED_SET(type, C4MR, 4, 4, GuardedValues<Qvp##type>(4).get()) \
   MASKED_SET(type, AC4MR, 4, 3, GuardedValues<Qvp##type>(3).get())
   FOR_EACH_TYPE(MASKED)
   for (const Masked& m : members) {

@@ -1,5 +1,5 @@
-// Everything that moves whole pixels or channels from one interleaved image to another, against one sentence: channel c of
-// a destination pixel is a source channel, the fill value, or what it was.
+// Everything that moves whole pixels or channels from one interleaved image to another, against one sentence: channel c
+// of a destination pixel is a source channel, the fill value, or what it was.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -77,17 +77,18 @@ void CheckGrid(const std::vector<Member>& members, const std::vector<int>& width
 }
 
 std::vector<int> WidthsAroundVectors() {
-  return {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 21, 22, 31, 32, 33, 43, 47, 48, 63, 64, 65, 95, 97, 127, 128, 129, 200, 511};
+  return {1,  2,  3,  4,  5,  7,  8,  9,  15, 16,  17,  21,  22,  31, 32,
+          33, 43, 47, 48, 63, 64, 65, 95, 97, 127, 128, 129, 200, 511};
 }
 
-#define BOUND(type, function, ...)                                                                                  \
-  [=](const void* s, int ss, void* d, int ds, QvpiSize size) {                                                      \
-    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, size __VA_OPT__(, )       \
-                        __VA_ARGS__);                                                                               \
+#define BOUND(type, function, ...)                                                        \
+  [=](const void* s, int ss, void* d, int ds, QvpiSize size) {                            \
+    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, \
+                    size __VA_OPT__(, ) __VA_ARGS__);                                     \
   }
-#define BOUND_L(type, function)                                                                                     \
-  [](const void* s, int ss, void* d, int ds, QvpiSize size) {                                                       \
-    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, {size.width, size.height});\
+#define BOUND_L(type, function)                                                                                       \
+  [](const void* s, int ss, void* d, int ds, QvpiSize size) {                                                         \
+    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, {size.width, size.height}); \
   }
 #define FOR_EACH_TYPE(MEMBERS) MEMBERS(8u) MEMBERS(16u) MEMBERS(16s) MEMBERS(32s) MEMBERS(32f)
 
@@ -96,22 +97,22 @@ TEST(Copy, EveryMember) {
   const std::vector<int> keepAlpha{0, 1, 2, kKeep}, one3{0, kKeep, kKeep}, one4{0, kKeep, kKeep, kKeep};
 #define COPY(type, layout, from, to, ...) \
   members.push_back({#type "_" #layout, sizeof(Qvp##type), from, to, __VA_ARGS__});
-#define COPIES(type)                                                                               \
-  COPY(type, C1R, 1, 1, {0}, BOUND(type, qvpiCopy_##type##_C1R))                                   \
-  COPY(type, C3R, 3, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_C3R))                             \
-  COPY(type, C4R, 4, 4, {0, 1, 2, 3}, BOUND(type, qvpiCopy_##type##_C4R))                          \
-  COPY(type, AC4R, 4, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_AC4R))                           \
-  COPY(type, C1R_L, 1, 1, {0}, BOUND_L(type, qvpiCopy_##type##_C1R_L))                             \
-  COPY(type, C3R_L, 3, 3, {0, 1, 2}, BOUND_L(type, qvpiCopy_##type##_C3R_L))                       \
-  COPY(type, C4R_L, 4, 4, {0, 1, 2, 3}, BOUND_L(type, qvpiCopy_##type##_C4R_L))                    \
-  COPY(type, AC4R_L, 4, 4, keepAlpha, BOUND_L(type, qvpiCopy_##type##_AC4R_L))                     \
-  COPY(type, C3AC4R, 3, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_C3AC4R))                       \
-  COPY(type, AC4C3R, 4, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_AC4C3R))                       \
-  COPY(type, C3CR, 3, 3, one3, BOUND(type, qvpiCopy_##type##_C3CR), true, true)                    \
-  COPY(type, C4CR, 4, 4, one4, BOUND(type, qvpiCopy_##type##_C4CR), true, true)                    \
-  COPY(type, C3C1R, 3, 1, {0}, BOUND(type, qvpiCopy_##type##_C3C1R), true, false)                  \
-  COPY(type, C4C1R, 4, 1, {0}, BOUND(type, qvpiCopy_##type##_C4C1R), true, false)                  \
-  COPY(type, C1C3R, 1, 3, one3, BOUND(type, qvpiCopy_##type##_C1C3R), false, true)                 \
+#define COPIES(type)                                                               \
+  COPY(type, C1R, 1, 1, {0}, BOUND(type, qvpiCopy_##type##_C1R))                   \
+  COPY(type, C3R, 3, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_C3R))             \
+  COPY(type, C4R, 4, 4, {0, 1, 2, 3}, BOUND(type, qvpiCopy_##type##_C4R))          \
+  COPY(type, AC4R, 4, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_AC4R))           \
+  COPY(type, C1R_L, 1, 1, {0}, BOUND_L(type, qvpiCopy_##type##_C1R_L))             \
+  COPY(type, C3R_L, 3, 3, {0, 1, 2}, BOUND_L(type, qvpiCopy_##type##_C3R_L))       \
+  COPY(type, C4R_L, 4, 4, {0, 1, 2, 3}, BOUND_L(type, qvpiCopy_##type##_C4R_L))    \
+  COPY(type, AC4R_L, 4, 4, keepAlpha, BOUND_L(type, qvpiCopy_##type##_AC4R_L))     \
+  COPY(type, C3AC4R, 3, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_C3AC4R))       \
+  COPY(type, AC4C3R, 4, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_AC4C3R))       \
+  COPY(type, C3CR, 3, 3, one3, BOUND(type, qvpiCopy_##type##_C3CR), true, true)    \
+  COPY(type, C4CR, 4, 4, one4, BOUND(type, qvpiCopy_##type##_C4CR), true, true)    \
+  COPY(type, C3C1R, 3, 1, {0}, BOUND(type, qvpiCopy_##type##_C3C1R), true, false)  \
+  COPY(type, C4C1R, 4, 1, {0}, BOUND(type, qvpiCopy_##type##_C4C1R), true, false)  \
+  COPY(type, C1C3R, 1, 3, one3, BOUND(type, qvpiCopy_##type##_C1C3R), false, true) \
   COPY(type, C1C4R, 1, 4, one4, BOUND(type, qvpiCopy_##type##_C1C4R), false, true)
   FOR_EACH_TYPE(COPIES)
   COPY(8u, Dup_C1C3R, 1, 3, {0, 0, 0}, BOUND(8u, qvpiDup_8u_C1C3R))
@@ -162,23 +163,23 @@ TEST(SwapChannels, EveryOrder) {
   std::vector<Member> members;
 #define SWAP(type, layout, from, to, map, ...) \
   members.push_back({#type "_Swap" #layout, sizeof(Qvp##type), from, to, map, BOUND(type, __VA_ARGS__)});
-#define SWAPS(type)                                                                                              \
-  for (const auto& o : Orders(3, 3)) {                                                                           \
-    SWAP(type, C3R, 3, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C3R, o.data())              \
-  }                                                                                                              \
-  for (const auto& o : Orders(3, 4)) {                                                                           \
-    SWAP(type, C4C3R, 4, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C4C3R, o.data())          \
-    SWAP(type, AC4R, 4, 4, (std::vector{o[0], o[1], o[2], kKeep}), qvpiSwapChannels_##type##_AC4R, o.data())     \
-  }                                                                                                              \
-  for (const auto& o : Orders(4, 4)) {                                                                           \
-    SWAP(type, C4R, 4, 4, (std::vector{o[0], o[1], o[2], o[3]}), qvpiSwapChannels_##type##_C4R, o.data())        \
-  }                                                                                                              \
-  for (const auto& o : Orders(4, 5)) {                                                                           \
-    std::vector<int> map;                                                                                        \
-    for (const int entry : o) map.push_back(entry == 3 ? kFill : entry > 3 ? kKeep : entry);                     \
-    Qvp##type value;                                                                                             \
-    std::memcpy(&value, kFillBytes, sizeof(value));                                                              \
-    SWAP(type, C3C4R, 3, 4, map, qvpiSwapChannels_##type##_C3C4R, o.data(), value)                               \
+#define SWAPS(type)                                                                                          \
+  for (const auto& o : Orders(3, 3)) {                                                                       \
+    SWAP(type, C3R, 3, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C3R, o.data())          \
+  }                                                                                                          \
+  for (const auto& o : Orders(3, 4)) {                                                                       \
+    SWAP(type, C4C3R, 4, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C4C3R, o.data())      \
+    SWAP(type, AC4R, 4, 4, (std::vector{o[0], o[1], o[2], kKeep}), qvpiSwapChannels_##type##_AC4R, o.data()) \
+  }                                                                                                          \
+  for (const auto& o : Orders(4, 4)) {                                                                       \
+    SWAP(type, C4R, 4, 4, (std::vector{o[0], o[1], o[2], o[3]}), qvpiSwapChannels_##type##_C4R, o.data())    \
+  }                                                                                                          \
+  for (const auto& o : Orders(4, 5)) {                                                                       \
+    std::vector<int> map;                                                                                    \
+    for (const int entry : o) map.push_back(entry == 3 ? kFill : entry > 3 ? kKeep : entry);                 \
+    Qvp##type value;                                                                                         \
+    std::memcpy(&value, kFillBytes, sizeof(value));                                                          \
+    SWAP(type, C3C4R, 3, 4, map, qvpiSwapChannels_##type##_C3C4R, o.data(), value)                           \
   }
   FOR_EACH_TYPE(SWAPS)
   CheckGrid(members, {1, 5, 33, 64});

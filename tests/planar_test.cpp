@@ -18,8 +18,10 @@ template <class T, int kPlanes>
 void Check(const Member<T, kPlanes>& m, int width, int gap, int planeGap, Guard guard) {
   const int height = 3;
   test::Image<T> pixels(kPlanes * width, height, gap, guard), merged(kPlanes * width, height, gap, guard);
-  const test::Image<T> p[] = {{width, height, planeGap, guard}, {width, height, planeGap, guard},
-                              {width, height, planeGap, guard}, {width, height, planeGap, guard}};
+  const test::Image<T> p[] = {{width, height, planeGap, guard},
+                              {width, height, planeGap, guard},
+                              {width, height, planeGap, guard},
+                              {width, height, planeGap, guard}};
   T* const planes[] = {p[0].data(), p[1].data(), p[2].data(), p[3].data()};
   ASSERT_EQ(m.split(pixels.data(), pixels.step(), planes, p[0].step(), {width, height}), 0) << m.name;
   ASSERT_EQ(m.merge(planes, p[0].step(), merged.data(), merged.step(), {width, height}), 0) << m.name;

@@ -49,8 +49,8 @@ TEST_F(Streaming, FillsAskOnlyWhenLarge) {
   EXPECT_EQ(asked, 1);
 }
 
-// The same bytes whichever way they are stored, in rows whose lengths are no multiple of a vector. One type of each width
-// stands for the others, which share its kernels.
+// The same bytes whichever way they are stored, in rows whose lengths are no multiple of a vector. One type of each
+// width stands for the others, which share its kernels.
 TEST_F(Streaming, ChangesNoResult) {
   constexpr QvpiSize kRoi{4099, 130};
   for (const test::Export& function : test::Exports()) {
@@ -79,7 +79,8 @@ TEST_F(Streaming, PlanesOfAlignedRows) {
   ASSERT_EQ(qvpiCopy_8u_C3P3R(pixels, step, planes, planeStep, roi), qvpStatusNoError);
   ASSERT_EQ(qvpiCopy_8u_P3C3R(planes, planeStep, merged, step, roi), qvpStatusNoError);
   EXPECT_EQ(asked, 2);
-  for (int y = 0; y < roi.height; ++y) ASSERT_EQ(std::memcmp(pixels + y * step, merged + y * step, 3 * roi.width), 0) << y;
+  for (int y = 0; y < roi.height; ++y)
+    ASSERT_EQ(std::memcmp(pixels + y * step, merged + y * step, 3 * roi.width), 0) << y;
   for (Qvp8u* plane : planes) qvpiFree(plane);
   qvpiFree(pixels);
   qvpiFree(merged);

@@ -13,7 +13,10 @@ int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPi
 
 template <class T>
 T As(const Argument& a) {
-  if constexpr (requires(T t) { t.x; t.width; }) {
+  if constexpr (requires(T t) {
+                  t.x;
+                  t.width;
+                }) {
     return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second),
             static_cast<decltype(T::x)>(a.third), static_cast<decltype(T::x)>(a.fourth)};
   } else if constexpr (requires(T t) { t.x; }) {
@@ -35,7 +38,8 @@ const std::vector<Export>& Exports() {
 }
 
 int Export::Find(std::string_view parameter) const {
-  const auto found = std::find_if(parameters.begin(), parameters.end(), [&](const auto& p) { return p.name == parameter; });
+  const auto found =
+      std::find_if(parameters.begin(), parameters.end(), [&](const auto& p) { return p.name == parameter; });
   return found == parameters.end() ? -1 : static_cast<int>(found - parameters.begin());
 }
 

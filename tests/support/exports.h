@@ -1,5 +1,5 @@
-// Every exported function that returns a status, as a list made from the public headers: names, parameters, and a way to
-// call each with arguments made at run time. What must hold for all functions alike is tested once, over this list.
+// Every exported function that returns a status, as a list made from the public headers: names, parameters, and a way
+// to call each with arguments made at run time. What must hold for all functions alike is tested once, over this list.
 #pragma once
 
 #include <memory>

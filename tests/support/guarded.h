@@ -53,8 +53,9 @@ class Random {
   uint64_t state_;
 };
 
-// An image of random bytes. Its rows are `gap` bytes apart; the gaps are marked, and a changed mark is reported when the
-// image goes. Images that take part in one call should have different gaps: a step mixed up between them then shows.
+// An image of random bytes. Its rows are `gap` bytes apart; the gaps are marked, and a changed mark is reported when
+// the image goes. Images that take part in one call should have different gaps: a step mixed up between them then
+// shows.
 template <class T>
 class Image {
  public:
