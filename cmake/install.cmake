@@ -84,3 +84,7 @@ endfunction()
 qvpi_install_headers(development)
 qvpi_install_libraries(64 ${CMAKE_INSTALL_LIBDIR} runtime development)
 qvpi_install_libraries(32 ${QVPI_LIBDIR32} runtime32 development32)
+
+if(PROJECT_IS_TOP_LEVEL)
+  include(cmake/package.cmake)
+endif()
