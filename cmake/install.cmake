@@ -1,0 +1,90 @@
+# What `cmake --install` puts where, of the CPU builds that were made.
+#
+#   <libdir>/            the baseline: the lowest x86-64 build, which is what programs link; and the companion
+#   <libdir>/glibc-hwcaps/<level>/    the builds above it, which the dynamic linker takes instead on CPUs that have them
+#   <libdir32>/          the 32-bit build, with a companion of its own
+#
+# The library folders also get the static archives, a CMake package and pkg-config files.
+set(folder lib32)
+if(CMAKE_INSTALL_LIBDIR MATCHES x86_64-linux-gnu)
+  string(REPLACE x86_64 i386 folder ${CMAKE_INSTALL_LIBDIR})
+endif()
+set(QVPI_LIBDIR32 ${folder} CACHE STRING "Library folder of the 32-bit build, below the install prefix")
+
+include(CMakePackageConfigHelpers)
+
+# The further arguments of these functions go to install(): packages need EXCLUDE_FROM_ALL.
+function(qvpi_install_headers component)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${component}
+    ${ARGN} FILES_MATCHING PATTERN *.h)
+endfunction()
+
+function(qvpi_install_pkgconfig name requires description libdir component)
+  file(RELATIVE_PATH up /prefix/${libdir}/pkgconfig /prefix)
+  set(file ${PROJECT_BINARY_DIR}/install/${libdir}/${name}.pc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/pkgconfig.pc.in ${file} @ONLY)
+  install(FILES ${file} DESTINATION ${libdir}/pkgconfig COMPONENT ${component} ${ARGN})
+endfunction()
+
+function(qvpi_install_cmake_package package bits exports libdir component)
+  set(files ${PROJECT_BINARY_DIR}/install/${package}-config)
+  string(TOUPPER ${CMAKE_BUILD_TYPE} configuration)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/package-config.cmake.in ${files}.cmake @ONLY)
+  # The version file refuses programs of another pointer width, and takes its own from this variable.
+  math(EXPR CMAKE_SIZEOF_VOID_P "${bits} / 8")
+  write_basic_package_version_file(${files}-version.cmake COMPATIBILITY SameMajorVersion)
+
+  set(destination DESTINATION ${libdir}/cmake/${package} COMPONENT ${component} ${ARGN})
+  install(FILES ${files}.cmake ${files}-version.cmake ${destination})
+  install(EXPORT ${exports} FILE ${package}-targets.cmake NAMESPACE ${package}:: ${destination})
+endfunction()
+
+# The libraries that programs link. In CMake they are <package>::<package> and <package>::core, and the archives the
+# same with the suffix _static; the package has the name of the library.
+function(qvpi_install_baseline code libdir runtime development)
+  get_target_property(package qvpi_${code} OUTPUT_NAME)
+  get_target_property(bits qvpi_${code} QVPI_BITS)
+  foreach(suffix "" _static)
+    set_target_properties(qvpi_${code}${suffix} PROPERTIES EXPORT_NAME ${package}${suffix})
+    set_target_properties(qvpcore_${code}${suffix} PROPERTIES EXPORT_NAME core${suffix})
+  endforeach()
+  set_target_properties(qvpi_${code} PROPERTIES INSTALL_RPATH $ORIGIN)
+
+  install(TARGETS qvpi_${code} qvpi_${code}_static qvpcore_${code} qvpcore_${code}_static EXPORT ${package}-${runtime}
+    LIBRARY DESTINATION ${libdir} COMPONENT ${runtime} NAMELINK_COMPONENT ${development} ${ARGN}
+    ARCHIVE DESTINATION ${libdir} COMPONENT ${development} ${ARGN}
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  qvpi_install_cmake_package(${package} ${bits} ${package}-${runtime} ${libdir} ${development} ${ARGN})
+  qvpi_install_pkgconfig(${package} qvpcore "${PROJECT_DESCRIPTION}" ${libdir} ${development} ${ARGN})
+  qvpi_install_pkgconfig(qvpcore "" "Companion library of qvpIP" ${libdir} ${development} ${ARGN})
+endfunction()
+
+# The companion in the library folder, two folders up, serves every level.
+function(qvpi_install_level code libdir runtime development)
+  get_target_property(folder qvpi_${code} QVPI_FOLDER)
+  set_target_properties(qvpi_${code} PROPERTIES INSTALL_RPATH $ORIGIN/../..)
+  install(TARGETS qvpi_${code} qvpi_${code}_static
+    LIBRARY DESTINATION ${libdir}/${folder} COMPONENT ${runtime} NAMELINK_SKIP ${ARGN}
+    ARCHIVE DESTINATION ${libdir}/${folder} COMPONENT ${development} ${ARGN})
+endfunction()
+
+# All builds of one pointer width; the table of CPU builds lists the lowest level first.
+function(qvpi_install_libraries bits)
+  get_property(codes GLOBAL PROPERTY QVPI_CPU_BUILDS)
+  set(rule qvpi_install_baseline)
+  foreach(code IN LISTS codes)
+    get_target_property(code_bits qvpi_${code} QVPI_BITS)
+    if(code_bits EQUAL bits)
+      cmake_language(CALL ${rule} ${code} ${ARGN})
+      set(rule qvpi_install_level)
+    endif()
+  endforeach()
+endfunction()
+
+qvpi_install_headers(development)
+qvpi_install_libraries(64 ${CMAKE_INSTALL_LIBDIR} runtime development)
+qvpi_install_libraries(32 ${QVPI_LIBDIR32} runtime32 development32)
+
+if(PROJECT_IS_TOP_LEVEL)
+  include(cmake/package.cmake)
+endif()

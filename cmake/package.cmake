@@ -1,0 +1,48 @@
+# Debian packages, made by `cpack -G DEB` in the build folder. They use Debian's library folders, whatever those of the
+# install prefix are; so each package is a component of its own that a plain install leaves out.
+qvpi_install_headers(libqvpi-dev EXCLUDE_FROM_ALL)
+qvpi_install_libraries(64 lib/x86_64-linux-gnu libqvpi10 libqvpi-dev EXCLUDE_FROM_ALL)
+qvpi_install_libraries(32 lib/i386-linux-gnu libqvpig9-10 libqvpi-dev EXCLUDE_FROM_ALL)
+
+# Without a CPU build for it, a package has no files and is not made.
+get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
+list(FILTER CPACK_COMPONENTS_ALL INCLUDE REGEX ^libqvp)
+
+set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_NAME libqvpi10)
+set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_ARCHITECTURE amd64)
+set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_LIBQVPI10_DESCRIPTION
+"The shared library, in builds for several levels of the x86-64 instruction set.
+The dynamic linker loads the best one that the CPU has.")
+
+# Scanning for dependencies finds amd64's package of the 32-bit C library, which i386 lacks; so the dependency is named,
+# on the C library of Debian 12.
+set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_NAME libqvpig9-10)
+set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_ARCHITECTURE i386)
+set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_DEPENDS "libc6 (>= 2.36)")
+set(CPACK_DEBIAN_LIBQVPIG9-10_DESCRIPTION "The shared library for 32-bit programs, on CPUs that have AVX.")
+
+set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_NAME libqvpi-dev)
+set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_ARCHITECTURE amd64)
+if(libqvpi10 IN_LIST CPACK_COMPONENTS_ALL)
+  set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_DEPENDS "libqvpi10 (= ${PROJECT_VERSION})")
+endif()
+set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SUGGESTS "libqvpig9-10:i386 (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION
+"Headers, static archives, and files for CMake and pkg-config.
+They serve 64-bit and 32-bit programs. To link the 32-bit shared library,
+install its package too.")
+
+set(CPACK_PACKAGE_NAME qvpi)
+set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
+include(CPack)

@@ -1,0 +1,150 @@
+#!/usr/bin/env python3
+"""Installs the build below a scratch prefix, and builds and runs programs against it in the ways that users have."""
+import argparse
+import os
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
+COMPILERS = {"C": ["cc", "-std=c11"], "CXX": ["c++", "-std=c++17", "-xc++"]}
+
+
+def run(*command, **environment):
+    done = subprocess.run([str(word) for word in command], env={**os.environ, **environment}, text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    require(done.returncode == 0, *command, environment, done.stdout)
+    return done.stdout
+
+
+def require(condition, *explanation):
+    if not condition:
+        raise SystemExit("failed: " + " ".join(map(str, explanation)))
+
+
+def require_output(program, cpu, **environment):
+    """The program works, and the library that it has loaded is the build for this CPU."""
+    lines = run(program, **environment).splitlines()
+    require(lines[0] == cpu and lines[1].startswith("qvpStatusNullPointer: "), program, lines, "but not from", cpu)
+
+
+def require_needs(file, allowed):
+    needed = re.findall(r"NEEDED.*\[(.*)\]", run("readelf", "-d", file))
+    require(set(needed) <= set(allowed), file, "needs", needed)
+
+
+def supported(cpus):
+    """Those of the 64-bit builds that the dynamic linker would load on this machine, lowest first."""
+    levels = re.findall(r"x86-64-(v\d) \(supported", run("/lib64/ld-linux-x86-64.so.2", "--help"))
+    return [cpu for cpu in sorted(cpus) if cpu in levels]
+
+
+def check_files(prefix, build):
+    for file in [*prefix.rglob("*.pc"), *prefix.rglob("*.cmake")]:
+        for folder in (prefix, build, HERE.parents[1]):
+            require(str(folder) not in file.read_text(), file, "names", folder)
+    for library in prefix.rglob("lib*.so.10"):
+        require_needs(library, ["libc.so.6", "libm.so.6", "libqvpcore.so.10"])
+        for companion in re.findall(r"libqvpcore.so.10 => ([^(\n]*)", run("ldd", library)):
+            require(prefix in Path(companion.strip()).resolve().parents, library, "finds", companion)
+
+
+class Package:
+    """The libraries of one pointer width: `name` in `libdir`, of which `cpus` can run here, lowest first."""
+
+    def __init__(self, name, prefix, libdir, cpus, flags):
+        self.name, self.prefix, self.libdir, self.flags = name, prefix, prefix / libdir, [*flags, *WARNINGS]
+        self.cpus, self.baseline, self.best = cpus, cpus[0], cpus[-1]
+
+    def compile(self, output, language, compile_flags, link_flags):
+        program = self.prefix.parent / f"{self.name}_{language}_{output}"
+        run(*COMPILERS[language], *self.flags, *compile_flags, "-c", HERE / "consumer.c", "-o", f"{program}.o")
+        run(COMPILERS[language][0], *self.flags, f"{program}.o", "-o", program, *link_flags)
+        return program
+
+    def require_static(self, program, language):
+        require_output(program, self.baseline)
+        if language == "C":
+            require_needs(program, ["libc.so.6"])
+
+    def cmake_hint(self):
+        """CMake searches few library folders for 32-bit programs, so these name the package's own."""
+        own = f"-D{self.name}_DIR={self.libdir}/cmake/{self.name}"
+        return own if "-m32" in self.flags else f"-DCMAKE_PREFIX_PATH={self.prefix}"
+
+    def try_cmake(self, cmake, language):
+        build = self.prefix.parent / f"{self.prefix.name}_{self.name}_{language}_cmake"
+        flags = [f"-DCMAKE_{name}_FLAGS={' '.join(self.flags)}" for name in COMPILERS]
+        run(cmake, "-S", HERE, "-B", build, f"-DPACKAGE={self.name}", f"-DLANGUAGE={language}", self.cmake_hint(),
+            *flags)
+        run(cmake, "--build", build)
+        require_output(build / "consumer", self.best)
+        self.require_static(build / "consumer_static", language)
+
+    def pkgconfig(self, *options):
+        return run("pkg-config", *options, self.name, "qvpcore", PKG_CONFIG_PATH=f"{self.libdir}/pkgconfig").split()
+
+    def try_pkgconfig(self, language):
+        include = self.pkgconfig("--cflags")
+        shared = self.compile("pc", language, include, self.pkgconfig("--libs"))
+        require_output(shared, self.best, LD_LIBRARY_PATH=str(self.libdir))
+        static = self.compile("pc_static", language, include, ["-static", *self.pkgconfig("--static", "--libs")])
+        require_output(static, self.baseline)
+
+    def try_compiler(self, language):
+        include = [f"-I{self.prefix}/include"]
+        shared = self.compile("cc", language, include, [f"-L{self.libdir}", f"-l{self.name}", "-lqvpcore"])
+        require_output(shared, self.best, LD_LIBRARY_PATH=str(self.libdir))
+        if language == "C":
+            archives = [f"{self.libdir}/lib{self.name}.a", f"{self.libdir}/libqvpcore.a"]
+            static = self.compile("cc_static", language, include, archives)
+            self.require_static(static, language)
+        return shared
+
+    def try_lower_levels(self, program):
+        """A build below the best can be had from its own folder, or by hiding features of the CPU."""
+        for cpu in self.cpus[1:]:
+            path = f"{self.libdir}/glibc-hwcaps/x86-64-{cpu}:{self.libdir}"
+            require_output(program, cpu, LD_LIBRARY_PATH=path)
+        hidden = "glibc.cpu.hwcaps=-AVX2"
+        require_output(program, self.baseline, LD_LIBRARY_PATH=str(self.libdir), GLIBC_TUNABLES=hidden)
+
+    def try_all(self, cmake):
+        for language in COMPILERS:
+            self.try_cmake(cmake, language)
+            self.try_pkgconfig(language)
+            program = self.try_compiler(language)
+        self.try_lower_levels(program)
+
+
+def packages(options, prefix):
+    if cpus := supported(options.cpus):
+        yield Package("qvpi", prefix, options.libdir, cpus, [])
+    if "g9" in options.cpus:
+        yield Package("qvpig9", prefix, options.libdir32, ["g9"], ["-m32"])
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--cmake", default="cmake", help="the CMake program")
+    parser.add_argument("--build", type=Path, required=True, help="build folder to install from")
+    parser.add_argument("--libdir", default="lib", help="library folder below the prefix")
+    parser.add_argument("--libdir32", default="lib32", help="that of the 32-bit build")
+    parser.add_argument("--cpus", nargs="+", required=True, help="codes of the CPU builds made")
+    options = parser.parse_args()
+
+    scratch = options.build.resolve() / "install_test"
+    shutil.rmtree(scratch, ignore_errors=True)
+    prefix = scratch / "prefix"
+    run(options.cmake, "--install", options.build, "--prefix", prefix)
+    check_files(prefix, options.build.resolve())
+    for package in packages(options, prefix):
+        package.try_all(options.cmake)
+    for package in packages(options, prefix.rename(scratch / "moved")):
+        package.try_cmake(options.cmake, "C")
+
+
+if __name__ == "__main__":
+    main()
