@@ -3,11 +3,16 @@
 
 #include <climits>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
 #include "qvpcore.h"
 #include "qvpi.h"
+
+// A refused allocation is part of the tests, not a fault that the sanitizer should end them for.
+extern "C" const char* __asan_default_options();
+extern "C" const char* __asan_default_options() { return "allocator_may_return_null=1"; }
 
 namespace {
 
@@ -85,10 +90,12 @@ TEST(Version, NamesTheBuild) {
   EXPECT_EQ(version->build, -854557950);
   EXPECT_STREQ(version->Version, "2021.11.0 (r0xcd107b02)");
   EXPECT_STREQ(version->BuildDate, "Jan 30 2024");
-  const char* expected = getenv("QVPI_EXPECTED_CPU");
-  if (expected != nullptr) {
-    EXPECT_STREQ(version->targetCpu, expected);
-    EXPECT_NE(std::string(version->Name).find("(" + std::string(expected) + ")"), std::string::npos);
+  // The folder that the loader is sent to has the name of the build.
+  const char* path = getenv("LD_LIBRARY_PATH");
+  if (path != nullptr) {
+    const std::string cpu = std::filesystem::path(path).filename();
+    EXPECT_EQ(version->targetCpu, cpu);
+    EXPECT_TRUE(std::string(version->Name).ends_with("(" + cpu + ")")) << version->Name;
   }
   if (std::string(version->targetCpu) == "g9") EXPECT_STREQ(version->Name, "qvpIP AVX (g9)");
 }
