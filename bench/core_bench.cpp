@@ -210,6 +210,39 @@ void Planes(const char* type, double atLeast) {
        atLeast});
 }
 
+// The same again where the other peer has it.
+void Libyuv() {
+  const Image<uint8_t> a(kHd, 3), b(kHd, 3), grey(kHd, 1), p[3] = {{kHd, 1}, {kHd, 1}, {kHd, 1}};
+  const int width = kHd.width, height = kHd.height, step = grey.step;
+  Add({Name("set 8u C1, libyuv", kHd),
+       {0, grey.bytes()},
+       [=] { Require(qvpiSet_8u_C1R(7, grey.data(), step, kHd)); },
+       "libyuv SetPlane",
+       [=] { libyuv::SetPlane(grey.data(), step, width, height, 7); }});
+  Add({Name("split 8u C3P3, libyuv", kHd),
+       {a.bytes(), a.bytes()},
+       [=] {
+         Qvp8u* const planes[] = {p[0].data(), p[1].data(), p[2].data()};
+         Require(qvpiCopy_8u_C3P3R(a.data(), a.step, planes, step, kHd));
+       },
+       "libyuv SplitRGBPlane",
+       [=] {
+         libyuv::SplitRGBPlane(a.data(), a.step, p[0].data(), step, p[1].data(), step, p[2].data(), step, width,
+                               height);
+       }});
+  Add({Name("merge 8u P3C3, libyuv", kHd),
+       {b.bytes(), b.bytes()},
+       [=] {
+         const Qvp8u* const planes[] = {p[0].data(), p[1].data(), p[2].data()};
+         Require(qvpiCopy_8u_P3C3R(planes, step, b.data(), b.step, kHd));
+       },
+       "libyuv MergeRGBPlane",
+       [=] {
+         libyuv::MergeRGBPlane(p[0].data(), step, p[1].data(), step, p[2].data(), step, b.data(), b.step, width,
+                               height);
+       }});
+}
+
 const bool kRegistered = [] {
   Copies();
   Fills();
@@ -217,6 +250,7 @@ const bool kRegistered = [] {
   ChannelMoves();
   Planes<uint8_t>("8u", 1.5);
   Planes<float>("32f", 0);
+  Libyuv();
   return true;
 }();
 

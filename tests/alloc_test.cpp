@@ -97,7 +97,9 @@ TEST(Version, NamesTheBuild) {
     EXPECT_EQ(version->targetCpu, cpu);
     EXPECT_TRUE(std::string(version->Name).ends_with("(" + cpu + ")")) << version->Name;
   }
-  if (std::string(version->targetCpu) == "g9") EXPECT_STREQ(version->Name, "qvpIP AVX (g9)");
+  if (std::string(version->targetCpu) == "g9") {
+    EXPECT_STREQ(version->Name, "qvpIP AVX (g9)");
+  }
 }
 
 TEST(Companion, AllocatesAlignedBlocks) {
@@ -127,7 +129,9 @@ TEST(Companion, KnowsTheProcessor) {
       largest = std::max(largest, std::stol(text) * (text.back() == 'M' ? 1L << 20 : 1L << 10));
     }
   }
-  if (largest > 0) EXPECT_EQ(size, largest);
+  if (largest > 0) {
+    EXPECT_EQ(size, largest);
+  }
   EXPECT_EQ(qvp_get_cache_line_size(), 64);
   std::ifstream info("/proc/cpuinfo");
   const std::string text((std::istreambuf_iterator<char>(info)), {});

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Audit a built library by disassembly: it uses no instruction beyond its CPU level, none whose result differs between
-makers of CPUs, and imports nothing that could allocate, print, wait or depend on the environment.
+makers of CPUs, imports nothing that could allocate, print, wait or depend on the environment, exports its own functions
+only, and is read-only once loaded.
 
 usage: audit.py CPU FOLDER
 """
@@ -58,17 +59,30 @@ def strange_imports(library, kind):
     return sorted(name for name in names if not allowed.fullmatch(name))
 
 
+def strange_exports(library):
+    names = [line.split()[-1] for line in run("nm", "-D", "--defined-only", str(library)).splitlines()]
+    return [name for name in names if not re.fullmatch(r"qvp\w+|ownGetFeature", name)]
+
+
+def is_read_only(library):
+    """No relocation of code, and the entry table is made read-only before the program starts."""
+    dynamic, segments = run("readelf", "-dW", str(library)), run("readelf", "-lW", str(library))
+    relocated = re.search(r"GNU_RELRO", segments) and re.search(r"\.data\.rel\.ro", segments.split("GNU_RELRO")[-1])
+    return "TEXTREL" not in dynamic and "BIND_NOW" in dynamic and ("core" in library.name or bool(relocated))
+
+
 def main():
     cpu, folder = sys.argv[1], Path(sys.argv[2])
     failed = False
     for library in sorted(folder.glob("libqvp*.so.10")):
         kind = "core" if "core" in library.name else cpu
         count, found = offences(library, kind)
-        imports = strange_imports(library, kind)
-        print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed, imports not allowed: {imports}")
+        imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
+        print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
+              f"exports not allowed: {exports}; read-only: {fixed}")
         for line in found.values():
             print("   ", line)
-        failed = failed or bool(found) or bool(imports) or count < 100
+        failed = failed or bool(found or imports or exports) or not fixed or count < 100
     sys.exit(failed)
 
 

@@ -66,24 +66,29 @@ TEST_F(Streaming, ChangesNoResult) {
   }
 }
 
-// Planes stream only with aligned rows.
-TEST_F(Streaming, PlanesOfAlignedRows) {
+// Planes stream when all of their rows are aligned, and must not be streamed to otherwise: unaligned streaming stores
+// end the process.
+class Planes : public Streaming, public testing::WithParamInterface<int> {};
+
+TEST_P(Planes, ComeBackMerged) {
   pretendedCache = 1 << 20;
-  int step, planeStep;
   const QvpiSize roi{701, 600};
-  Qvp8u* pixels = qvpiMalloc_8u_C3(roi.width, roi.height, &step);
-  Qvp8u* merged = qvpiMalloc_8u_C3(roi.width, roi.height, &step);
-  Qvp8u* planes[3];
-  for (Qvp8u*& plane : planes) plane = qvpiMalloc_8u_C1(roi.width, roi.height, &planeStep);
-  test::Random(3).Fill(pixels, size_t{1} * step * roi.height);
-  ASSERT_EQ(qvpiCopy_8u_C3P3R(pixels, step, planes, planeStep, roi), qvpStatusNoError);
-  ASSERT_EQ(qvpiCopy_8u_P3C3R(planes, planeStep, merged, step, roi), qvpStatusNoError);
-  EXPECT_EQ(asked, 2);
-  for (int y = 0; y < roi.height; ++y)
-    ASSERT_EQ(std::memcmp(pixels + y * step, merged + y * step, 3 * roi.width), 0) << y;
-  for (Qvp8u* plane : planes) qvpiFree(plane);
-  qvpiFree(pixels);
-  qvpiFree(merged);
+  const int step = 3 * 704, planeStep = 704, shift = GetParam();
+  const auto allocate = [](int bytes) {
+    return std::unique_ptr<Qvp8u, decltype(&qvpFree)>(static_cast<Qvp8u*>(qvpMalloc(bytes)), qvpFree);
+  };
+  const auto pixels = allocate(step * 601), merged = allocate(step * 601);
+  const auto a = allocate(planeStep * 601), b = allocate(planeStep * 601), c = allocate(planeStep * 601);
+  Qvp8u* const planes[] = {a.get() + shift, b.get(), c.get() + shift};
+  test::Random(3).Fill(pixels.get(), step * 600);
+  ASSERT_EQ(qvpiCopy_8u_C3P3R(pixels.get(), step, planes, planeStep, roi), qvpStatusNoError);
+  ASSERT_EQ(qvpiCopy_8u_P3C3R(planes, planeStep, merged.get() + shift, step, roi), qvpStatusNoError);
+  EXPECT_EQ(asked, shift == 0 ? 2 : 0);
+  for (int y = 0; y < roi.height; ++y) {
+    ASSERT_EQ(std::memcmp(pixels.get() + y * step, merged.get() + shift + y * step, 3 * roi.width), 0) << y;
+  }
 }
+
+INSTANTIATE_TEST_SUITE_P(Streaming, Planes, testing::Values(0, 1, 16, 32));
 
 }  // namespace

@@ -11,6 +11,7 @@ import re
 import subprocess
 from pathlib import Path
 
+LIMITS = ("limit", "limit streaming")
 PART = re.compile(r"(?P<row>.*) @(?P<bytes>\d+)/(?P<part>ours|peer: (?P<peer>.*) >= (?P<least>[\d.]+)|limit.*)")
 
 
@@ -28,7 +29,7 @@ def run(program, library, repetitions, only):
         if entry["run_type"] != "iteration" or not match:
             continue
         row = rows.setdefault(match["row"], {"bytes": int(match["bytes"])})
-        part = "peer" if match["peer"] else "limit" if match["part"].startswith("limit") else "ours"
+        part = "peer" if match["peer"] else match["part"]
         time = entry["real_time"]
         row[part] = min(time, row.get(part, time))
         if match["peer"]:
@@ -36,19 +37,28 @@ def run(program, library, repetitions, only):
     return rows
 
 
+def limit(row):
+    return min(row[part] for part in LIMITS if part in row)
+
+
+def machine_line(name, row):
+    rates = [f"{row['bytes'] / row[part]:.1f}" if part in row else "" for part in LIMITS]
+    return f"| {name.removeprefix('machine ')} | {rates[0]} | {rates[1]} |"
+
+
 def line(name, row):
     ours, bytes_ = row["ours"], row["bytes"]
     ratio = row["peer"] / ours if "peer" in row else None
     least = row.get("least", 0)
     verdict = "" if not least else "reached" if ratio >= least else "SHORT"
-    return (f"| {name} | {ours:,.0f} | {bytes_ / ours:.1f} | {100 * row['limit'] / ours:.0f} % | {row.get('name', '')} | "
+    return (f"| {name} | {ours:,.0f} | {bytes_ / ours:.1f} | {100 * limit(row) / ours:.0f} % | {row.get('name', '')} | "
             f"{f'{ratio:.2f}' if ratio else ''} | {f'{least:g}' if least else ''} | {verdict} |")
 
 
 def shortfall(row):
     """Worst first: by how far the row is from its target, or from its peer where it has no target."""
     if "peer" not in row:
-        return 2 + row["limit"] / row["ours"]
+        return 2 + limit(row) / row["ours"]
     return row["peer"] / row["ours"] / (row["least"] or 1)
 
 
@@ -64,8 +74,8 @@ def main():
     for program in options.programs:
         rows.update(run(program, options.library, options.repetitions, options.only))
     machine = {name: row for name, row in rows.items() if "ours" not in row}
-    text = ["| machine limit | GB/s |", "|---|---|"]
-    text += [f"| {name.removeprefix('machine ')} | {row['bytes'] / row['limit']:.1f} |" for name, row in machine.items()]
+    text = ["| machine limit | ordinary stores, GB/s | streaming stores, GB/s |", "|---|---|---|"]
+    text += [machine_line(name, row) for name, row in sorted(machine.items())]
     text += ["", "| row | ours, ns | GB/s | of the limit | peer | peer / ours | at least | |", "|---|---|---|---|---|---|---|---|"]
     compared = [(name, row) for name, row in rows.items() if "ours" in row]
     text += [line(name, row) for name, row in sorted(compared, key=lambda item: shortfall(item[1]))]

@@ -8,8 +8,9 @@ namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
-// A row step with room for the largest pixel, another for each place that an image has in the argument list.
-int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPixel + 16 * (place + 1)); }
+// A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
+// begin at every alignment.
+int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPixel + 17 * (place + 1)); }
 
 template <class T>
 T As(const Argument& a) {
