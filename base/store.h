@@ -10,6 +10,9 @@ namespace qvp {
 
 enum class Store { kOrdinary, kStreaming };
 
+// Streaming stores leave the CPU by cache lines.
+inline constexpr int kStreamedLine = 64;
+
 // Streaming pays once the bytes that a call touches no longer fit into the largest cache: written lines would push out
 // what the caller works on, and would be read before they are overwritten. Small calls do not even ask for the size.
 inline Store StoreFor(int64_t bytes) {

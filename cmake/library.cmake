@@ -52,7 +52,7 @@ function(qvpi_shared_and_static name objects output code bits map)
   endif()
 endfunction()
 
-# The companion runs on any x86, so it gets no flags for a CPU level.
+# The companion runs on any x86: it gets no flags for a CPU level, and in 32 bits no vector registers either.
 function(qvpi_companion code bits)
   set(derived ${PROJECT_BINARY_DIR}/derived/${code}/core)
   set(header ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
@@ -60,7 +60,8 @@ function(qvpi_companion code bits)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.cpp)
   add_library(qvpcore_${code}_objects OBJECT ${sources} ${derived}/exports.map)
   qvpi_settings(qvpcore_${code}_objects ${bits})
-  target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} -fvisibility=default -fvisibility-inlines-hidden)
+  target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} -fvisibility=default -fvisibility-inlines-hidden
+    $<$<EQUAL:${bits},32>:-march=i686>)
   qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
 endfunction()
 

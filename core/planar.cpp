@@ -32,13 +32,16 @@ HWY_INLINE void StorePixels(D d, const V (&v)[4], T* to) {
 template <class T, size_t kPlanes>
 using PlaneRows = std::array<T*, kPlanes>;
 
-// One vector of pixels to one vector of each plane, `i` pixels into the rows.
-template <Store kStore, class T, int kPlanes>
+// kVectors vectors of pixels to as many of each plane, `i` pixels into the rows. A plane is written in one go.
+template <Store kStore, int kVectors, class T, int kPlanes>
 HWY_INLINE void Split(const T* pixels, const PlaneRows<T, kPlanes>& planes, ptrdiff_t i) {
   const hn::ScalableTag<T> d;
-  hn::Vec<decltype(d)> v[kPlanes];
-  LoadPixels(d, pixels, v);
-  for (int p = 0; p < kPlanes; ++p) StoreTo<kStore>(v[p], d, planes[p] + i);
+  constexpr int kLanes = hn::MaxLanes(d);
+  hn::Vec<decltype(d)> v[kVectors][kPlanes];
+  for (int k = 0; k < kVectors; ++k) LoadPixels(d, pixels + k * kPlanes * kLanes, v[k]);
+  for (int p = 0; p < kPlanes; ++p) {
+    for (int k = 0; k < kVectors; ++k) StoreTo<kStore>(v[k][p], d, planes[p] + i + k * kLanes);
+  }
 }
 
 // The way back. Interleaving stores are ordinary ones, so streamed pixels are gathered on the stack first.
@@ -72,11 +75,15 @@ template <Store kStore, class T, int kPlanes>
 void SplitRow(ptrdiff_t n, const T* pixels, const PlaneRows<T, kPlanes>& planes) {
   using Buffer = Staged<T, kPlanes>;
   ptrdiff_t i = 0;
-  for (; i + Buffer::kLanes <= n; i += Buffer::kLanes) Split<kStore, T, kPlanes>(pixels + kPlanes * i, planes, i);
+  if constexpr (kStore == Store::kStreaming) {  // lines that are completed one after the other leave the CPU faster
+    constexpr int kLine = kStreamedLine / sizeof(T), kVectors = kLine / Buffer::kLanes;
+    for (; i + kLine <= n; i += kLine) Split<kStore, kVectors, T, kPlanes>(pixels + kPlanes * i, planes, i);
+  }
+  for (; i + Buffer::kLanes <= n; i += Buffer::kLanes) Split<kStore, 1, T, kPlanes>(pixels + kPlanes * i, planes, i);
   if (i == n) return;
   Buffer rest;
   std::memcpy(rest.pixels, pixels + kPlanes * i, (n - i) * kPlanes * sizeof(T));
-  Split<Store::kOrdinary, T, kPlanes>(rest.pixels, rest.Planes(), 0);
+  Split<Store::kOrdinary, 1, T, kPlanes>(rest.pixels, rest.Planes(), 0);
   for (int p = 0; p < kPlanes; ++p) std::memcpy(planes[p] + i, rest.plane[p], (n - i) * sizeof(T));
 }
 
@@ -122,10 +129,10 @@ void ForEachRow(Size roi, const Image<P>& pixels, const PlaneImages<T, kPlanes>&
   std::apply(walk, planes);
 }
 
-// Streaming asks for aligned rows; those of qvpiMalloc are.
+// Planes are streamed to when their rows are aligned to whole lines; those of qvpiMalloc are.
 template <class T>
 bool HasAlignedRows(const Image<T>& image) {
-  return ((reinterpret_cast<uintptr_t>(image.data) | static_cast<uintptr_t>(image.step)) & 63) == 0;
+  return ((reinterpret_cast<uintptr_t>(image.data) | static_cast<uintptr_t>(image.step)) % kStreamedLine) == 0;
 }
 
 template <class T>
