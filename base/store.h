@@ -39,7 +39,7 @@ HWY_INLINE void StoreTo(hn::Vec<D> v, D d, T* to) {
 // Bytes from `p` up to the next multiple of the vector length.
 template <class D, class T = hn::TFromD<D>>
 HWY_INLINE ptrdiff_t BytesToAlignment(D, const T* p) {
-  return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (HWY_MAX(hn::MaxLanes(D()) * sizeof(T), 1) - 1));
+  return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (hn::MaxLanes(D()) * sizeof(T) - 1));
 }
 
 }  // namespace qvp

@@ -9,6 +9,10 @@ set(QVPI_SOVERSION 10)
 set(QVPI_FLAGS ${QVPI_WARNINGS} -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffp-contract=off
                -fvisibility=hidden -fno-math-errno -fcf-protection)
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)  # GCC 12 warns of its own intrinsics; clang warns of ours
+  list(APPEND QVPI_FLAGS -Wno-uninitialized -Wno-maybe-uninitialized)
+endif()
+
 find_path(HWY_INCLUDE_DIR hwy/highway.h REQUIRED)
 
 # Writes what is derived from the headers to <folder>: FILES are outputs of tools/derive.py called with ARGS.
@@ -17,7 +21,6 @@ function(qvpi_derive folder)
   list(TRANSFORM D_FILES PREPEND ${folder}/ OUTPUT_VARIABLE outputs)
   add_custom_command(OUTPUT ${outputs}
     COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_ARGS} --out ${folder} ${D_HEADERS}
-    COMMAND ${CMAKE_COMMAND} -E touch ${outputs}
     DEPENDS ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_HEADERS}
     COMMENT "Deriving ${D_FILES}" VERBATIM)
 endfunction()
@@ -84,9 +87,10 @@ function(qvpi_cpu code bits feature vectors output folder name)
   target_include_directories(${objects} SYSTEM PRIVATE ${HWY_INCLUDE_DIR})
   target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
     QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
-  target_compile_options(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${ARGN};${QVPI_FLAGS};SHELL:-include ${derived}/rename.h>"
+  target_compile_options(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${ARGN};${QVPI_FLAGS}>"
     $<$<COMPILE_LANGUAGE:ASM>:-fcf-protection>)
-  target_precompile_headers(${objects} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:<hwy/highway.h$<ANGLE-R>>)
+  # Every source begins with the precompiled header, and so with the renames.
+  target_precompile_headers(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:<hwy/highway.h$<ANGLE-R>;${derived}/rename.h>")
 
   set(library qvpi_${code})
   qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map)

@@ -90,12 +90,6 @@ def calls(functions):
     return "\n".join(lines) + "\n"
 
 
-def write(path, text):
-    """Leave an unchanged file alone, so that nothing is rebuilt for it."""
-    if not path.exists() or path.read_text() != text:
-        path.write_text(text)
-
-
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
@@ -110,12 +104,12 @@ def main():
         raise SystemExit("a name is declared twice: " + ", ".join(sorted({n for n in names if names.count(n) > 1})))
     options.out.mkdir(parents=True, exist_ok=True)
     if options.calls:
-        write(options.out / "calls.h", calls(functions))
+        (options.out / "calls.h").write_text(calls(functions))
         return
-    write(options.out / "exports.map", exports(names))
+    (options.out / "exports.map").write_text(exports(names))
     if options.cpu:
-        write(options.out / "rename.h", rename(names, options.cpu))
-        write(options.out / "entries.S", entries(names, options.cpu, options.bits))
+        (options.out / "rename.h").write_text(rename(names, options.cpu))
+        (options.out / "entries.S").write_text(entries(names, options.cpu, options.bits))
 
 
 if __name__ == "__main__":

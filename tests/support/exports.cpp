@@ -73,7 +73,7 @@ Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(fu
 
 const void* Scene::ImageFor(const Parameter& parameter, size_t bytes) {
   const bool isOutput = parameter.name == "pDst" || parameter.name == "pSrcDst";
-  const int planes = parameter.type.ends_with("*const*") || parameter.type.ends_with("* const*") ? 4 : 1;
+  const int planes = parameter.type.ends_with("* const*") ? 4 : 1;
   auto pointers = std::make_unique<const void*[]>(planes);
   for (int i = 0; i < planes; ++i) {
     auto block = std::make_unique<Block>(bytes);
