@@ -72,14 +72,21 @@ TEST(Malloc, RefusesWhatItsStepCannotTell) {
   EXPECT_EQ(stepL, PTRDIFF_MAX / 2 / 64 * 64 + 64);
 }
 
-TEST(Malloc, TakesImagesBeyondTwoGigabytes) {
-  if (sizeof(void*) < 8) GTEST_SKIP() << "no address space for it";
+// Rows that are 1 GiB apart: the fourth is out of reach of 32-bit products, in the forms of either width.
+TEST(Malloc, GivesImagesBeyondTwoGigabytes) {
+  if (sizeof(void*) < 8) {
+    GTEST_SKIP() << "no address space for it";
+  }
   QvpSizeL step = 0;
-  Qvp8u* image = qvpiMalloc_8u_C1_L(65536, 40000, &step);
+  Qvp8u* image = qvpiMalloc_8u_C1_L(1 << 30, 4, &step);
   ASSERT_NE(image, nullptr);
-  image[39999 * step + 65535] = 7;
-  EXPECT_EQ(qvpiSet_8u_C1R_L(9, image + 39999 * step, step, {65536, 1}), qvpStatusNoError);
-  EXPECT_EQ(image[39999 * step + 65535], 9);
+  EXPECT_EQ(qvpiSet_8u_C1R_L(9, image, step, {64, 4}), qvpStatusNoError);
+  EXPECT_EQ(qvpiSet_8u_C1R(7, image + 64, static_cast<int>(step), {64, 4}), qvpStatusNoError);
+  EXPECT_EQ(qvpiCopy_8u_C1R(image, static_cast<int>(step), image + 128, static_cast<int>(step), {128, 4}),
+            qvpStatusNoError);
+  for (int y = 0; y < 4; ++y) {
+    for (int x = 0; x < 256; ++x) ASSERT_EQ(image[y * step + x], x % 128 < 64 ? 9 : 7) << x << ',' << y;
+  }
   qvpiFree(image);
 }
 
