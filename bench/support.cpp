@@ -131,7 +131,9 @@ void Add(Row row) {
   // The report reads the target and the traffic out of the name.
   const std::string name = row.name + " @" + std::to_string(row.traffic.Total());
   Time(name + "/ours", row.ours);
-  if (row.peer) Time(name + "/peer: " + row.peerName + " >= " + std::to_string(row.atLeast), row.peer);
+  for (const Peer& peer : row.peers) {
+    Time(name + "/peer: " + peer.name + " >= " + std::to_string(peer.atLeast), peer.call);
+  }
   AddLimits(name, row.traffic);
 }
 

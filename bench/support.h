@@ -17,16 +17,20 @@ struct Traffic {
   size_t Total() const { return reads + writes + 2 * updates; }
 };
 
+struct Peer {
+  std::string name;
+  std::function<void()> call;
+  double atLeast = 0;  // what peer time / our time has to reach; 0 for no claim
+};
+
 struct Row {
   std::string name;
   Traffic traffic;
   std::function<void()> ours;
-  std::string peerName = {};
-  std::function<void()> peer = {};
-  double atLeast = 0;  // what peer time / our time has to reach; 0 for no claim
+  std::vector<Peer> peers = {};
 };
 
-// Adds a row. Its parts are timed as "<name>/ours", "<name>/peer: <peer>" and "<name>/limit".
+// Adds a row. Its parts are timed as "<name>/ours", "<name>/peer: <peer> >= <least>" and "<name>/limit".
 void Add(Row row);
 
 // Fails loudly: a benchmark of a refused call would measure nothing.

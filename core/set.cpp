@@ -59,19 +59,17 @@ void FillRow(const FillPixel& pixel, uint8_t* dst, ptrdiff_t n) {
   last.template WriteTo<Store::kOrdinary>(dst + n - kVector);
 }
 
-template <Store kStore, bool kKeep>
+template <Store kStore>
 void FillRows(const FillPixel& pixel, const Bytes& dst, Size roi) {
-  Rows(dst).ForEach(roi, [&](ptrdiff_t width, uint8_t* to) { FillRow<kStore, kKeep>(pixel, to, dst.RowBytes(width)); });
+  const auto row = pixel.Keeps() ? FillRow<kStore, true> : FillRow<kStore, false>;
+  Rows(dst).ForEach(roi, [&](ptrdiff_t width, uint8_t* to) { row(pixel, to, dst.RowBytes(width)); });
 }
 
 QvpStatus Set(const void* value, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {dst}, {value})) return failed;
   const Store store = StoreFor(static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
   const FillPixel pixel(value, dst);
-  const bool streams = store == Store::kStreaming;
-  (pixel.Keeps() ? streams ? FillRows<Store::kStreaming, true> : FillRows<Store::kOrdinary, true>
-   : streams ? FillRows<Store::kStreaming, false>
-                 : FillRows<Store::kOrdinary, false>)(pixel, dst, roi);
+  (store == Store::kStreaming ? FillRows<Store::kStreaming> : FillRows<Store::kOrdinary>)(pixel, dst, roi);
   Fence(store);
   return qvpStatusNoError;
 }

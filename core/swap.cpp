@@ -1,5 +1,4 @@
 // Channel order and channel duplication.
-#include <algorithm>
 #include <cstring>
 
 #include "base/check.h"
@@ -20,9 +19,13 @@ bool ReadOrder(const int* order, int count, unsigned limit, ChannelMap& map) {
   return true;
 }
 
-QvpStatus SwapChannels(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder) {
+QvpStatus Check(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder) {
   if (const QvpStatus failed = Validate<kPointers, kStepsNotZero, kSize>(roi, {src, dst})) return failed;
-  if (const QvpStatus failed = Validate<kPointers>(roi, {}, {dstOrder})) return failed;
+  return Validate<kPointers>(roi, {}, {dstOrder});
+}
+
+QvpStatus SwapChannels(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder) {
+  if (const QvpStatus failed = Check(src, dst, roi, dstOrder)) return failed;
   const int written = dst.layout == Layout::kC4 ? 4 : 3;
   ChannelMap map{{0, 0, 0, kKeepChannel}};
   if (!ReadOrder(dstOrder, written, Channels(src.layout), map)) return qvpStatusChannelOrder;
@@ -31,8 +34,7 @@ QvpStatus SwapChannels(const ConstBytes& src, const Bytes& dst, Size roi, const 
 }
 
 QvpStatus SwapThreeToFour(const ConstBytes& src, const Bytes& dst, Size roi, const int* dstOrder, const void* value) {
-  if (const QvpStatus failed = Validate<kPointers, kStepsNotZero, kSize>(roi, {src, dst})) return failed;
-  if (const QvpStatus failed = Validate<kPointers>(roi, {}, {dstOrder})) return failed;
+  if (const QvpStatus failed = Check(src, dst, roi, dstOrder)) return failed;
   ChannelMap map;
   if (!ReadOrder(dstOrder, 4, 1u << 31, map)) return qvpStatusChannelOrder;
   for (int& from : map.from) {

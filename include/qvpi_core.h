@@ -131,7 +131,8 @@ void qvpiFree(void* ptr);
  *
  *  AC4 copies three channels and keeps the fourth of the destination. Source and destination may be the same image;
  *  any other overlap gives undefined pixels. Steps are not checked: any value is used as it is, also zero and negative
- *  ones, row 0 first. A copy larger than the largest cache bypasses it.
+ *  ones, row 0 first. When source and destination together have more than 524288 bytes, and at least as many as the
+ *  largest cache, the stores bypass the caches.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -295,8 +296,9 @@ QvpStatus qvpiCopy_32f_AC4C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int
 /** Splits pixels into one plane per channel (C3P3, C4P4), or merges planes into pixels (P3C3, P4C4).
  *
  *  A planar image is an array of pointers to the first value of each plane; all planes share one step. No two of the
- *  images may overlap. Steps are not checked. Images larger than the largest cache bypass it where the rows of the
- *  destination are aligned to 64 bytes, as those of qvpiMalloc are.
+ *  images may overlap. Steps are not checked. When source and destination together have more than 524288 bytes, and at
+ *  least as many as the largest cache, the stores bypass the caches, provided that the rows of the destination are
+ *  aligned to 64 bytes, as those of qvpiMalloc are.
  *
  *  @param pSrc,srcStep source image, or array of planes
  *  @param pDst,dstStep destination image, or array of planes

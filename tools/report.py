@@ -28,12 +28,9 @@ def run(program, library, repetitions, only):
         match = PART.fullmatch(entry["run_name"])
         if entry["run_type"] != "iteration" or not match:
             continue
-        row = rows.setdefault(match["row"], {"bytes": int(match["bytes"])})
-        part = "peer" if match["peer"] else match["part"]
-        time = entry["real_time"]
-        row[part] = min(time, row.get(part, time))
-        if match["peer"]:
-            row["name"], row["least"] = match["peer"], float(match["least"])
+        row = rows.setdefault(match["row"], {"bytes": int(match["bytes"]), "peers": {}})
+        times, key = (row["peers"], (match["peer"], float(match["least"]))) if match["peer"] else (row, match["part"])
+        times[key] = min(entry["real_time"], times.get(key, entry["real_time"]))
     return rows
 
 
@@ -46,20 +43,17 @@ def machine_line(name, row):
     return f"| {name.removeprefix('machine ')} | {rates[0]} | {rates[1]} |"
 
 
-def line(name, row):
-    ours, bytes_ = row["ours"], row["bytes"]
-    ratio = row["peer"] / ours if "peer" in row else None
-    least = row.get("least", 0)
-    verdict = "" if not least else "reached" if ratio >= least else "SHORT"
-    return (f"| {name} | {ours:,.0f} | {bytes_ / ours:.1f} | {100 * limit(row) / ours:.0f} % | {row.get('name', '')} | "
-            f"{f'{ratio:.2f}' if ratio else ''} | {f'{least:g}' if least else ''} | {verdict} |")
-
-
-def shortfall(row):
-    """Worst first: by how far the row is from its target, or from its peer where it has no target."""
-    if "peer" not in row:
-        return 2 + limit(row) / row["ours"]
-    return row["peer"] / row["ours"] / (row["least"] or 1)
+def lines(name, row):
+    """[(rank, line)] of a row, one for each of its peers. Worst first: by how far it is from its target, or from the peer
+    where there is none; rows without a peer come last, by their share of the limit."""
+    ours, share = row["ours"], limit(row) / row["ours"]
+    start = f"| {name} | {ours:,.0f} | {row['bytes'] / ours:.1f} | {100 * share:.0f} % |"
+    found = []
+    for (peer, least), time in row["peers"].items():
+        ratio = time / ours
+        target = f"{least:g} | {'reached' if ratio >= least else 'SHORT'}" if least else " | "
+        found.append((ratio / (least or 1), f"{start} {peer} | {ratio:.2f} | {target} |"))
+    return found or [(1000 + share, f"{start} | | | |")]
 
 
 def main():
@@ -77,8 +71,8 @@ def main():
     text = ["| machine limit | ordinary stores, GB/s | streaming stores, GB/s |", "|---|---|---|"]
     text += [machine_line(name, row) for name, row in sorted(machine.items())]
     text += ["", "| row | ours, ns | GB/s | of the limit | peer | peer / ours | at least | |", "|---|---|---|---|---|---|---|---|"]
-    compared = [(name, row) for name, row in rows.items() if "ours" in row]
-    text += [line(name, row) for name, row in sorted(compared, key=lambda item: shortfall(item[1]))]
+    compared = [ranked for name, row in rows.items() if "ours" in row for ranked in lines(name, row)]
+    text += [line for _, line in sorted(compared)]
     options.out.parent.mkdir(parents=True, exist_ok=True)
     options.out.write_text("\n".join(text) + "\n")
     print("\n".join(text))

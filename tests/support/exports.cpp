@@ -27,8 +27,6 @@ T As(const Argument& a) {
   }
 }
 
-const void* const kNoPointer = nullptr;
-
 }  // namespace
 
 const std::vector<Export>& Exports() {
@@ -55,7 +53,7 @@ Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(fu
     } else if (name.ends_with("Step")) {
       argument.number = StepOf(roi.width, i - 1);
     } else if (name == "roiSize") {
-      argument = {kNoPointer, roi.width, roi.height};
+      argument = {nullptr, roi.width, roi.height};
     } else if (name == "dstOrder") {
       static constexpr int kOrder[] = {2, 0, 1, 3};
       argument.pointer = kOrder;
