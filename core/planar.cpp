@@ -71,8 +71,9 @@ struct Staged {
   }
 };
 
+// Row kernels take the rows of the planes by value: pointers in memory would be read again after every store.
 template <Store kStore, class T, int kPlanes>
-void SplitRow(ptrdiff_t n, const T* pixels, const PlaneRows<T, kPlanes>& planes) {
+void SplitRow(ptrdiff_t n, const T* pixels, PlaneRows<T, kPlanes> planes) {
   using Buffer = Staged<T, kPlanes>;
   ptrdiff_t i = 0;
   if constexpr (kStore == Store::kStreaming) {  // lines that are completed one after the other leave the CPU faster
@@ -88,7 +89,7 @@ void SplitRow(ptrdiff_t n, const T* pixels, const PlaneRows<T, kPlanes>& planes)
 }
 
 template <Store kStore, class T, int kPlanes>
-void MergeRow(ptrdiff_t n, T* pixels, const PlaneRows<const T, kPlanes>& planes) {
+void MergeRow(ptrdiff_t n, T* pixels, PlaneRows<const T, kPlanes> planes) {
   using Buffer = Staged<T, kPlanes>;
   ptrdiff_t i = 0;
   for (; i + Buffer::kLanes <= n; i += Buffer::kLanes) Merge<kStore, T, kPlanes>(planes, i, pixels + kPlanes * i);
