@@ -10,6 +10,7 @@ namespace qvp {
 enum class Check {
   kPointers,      // images, then the other pointers: not null
   kSize,          // both sides of the region: at least 1
+  kSteps,         // steps: at least 1
   kStepsNotZero,  // steps: any but 0
 };
 using enum Check;
@@ -27,7 +28,7 @@ using Pointers = std::initializer_list<const void*>;
 inline bool Passes(Check check, Size roi, Operands images, Pointers others) {
   if (check == kSize) return roi.width >= 1 && roi.height >= 1;
   for (const Operand& image : images) {
-    if (check == kPointers ? image.data == nullptr : image.step == 0) return false;
+    if (check == kPointers ? image.data == nullptr : check == kSteps ? image.step < 1 : image.step == 0) return false;
   }
   for (const void* pointer : others) {
     if (check == kPointers && pointer == nullptr) return false;

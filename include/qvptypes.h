@@ -120,6 +120,80 @@ enum {
     qvpAlgHintFast = 1,     /**< the fast kernel */
     qvpAlgHintAccurate = 2, /**< double-precision accumulation, or the accurate kernel */
 };
+
+/** Relation that two values are tested for. */
+typedef int QvpCmpOp;
+enum {
+    qvpCmpLess = 0,      /**< less than */
+    qvpCmpLessEq = 1,    /**< less than or equal */
+    qvpCmpEq = 2,        /**< equal */
+    qvpCmpGreaterEq = 3, /**< greater than or equal */
+    qvpCmpGreater = 4,   /**< greater than */
+};
+
+/** What an operation finds outside a region: a kind, combined with the sides that are in memory.
+ *
+ *  A side that is in memory is read where it lies, at negative offsets from the pointer or beyond the region, as far as
+ *  the operation reaches. The kind then applies outside of the region so enlarged. qvpBorderInMem stands without a kind
+ *  too. Each function lists the kinds that it takes; all other values give qvpStatusBorder. */
+typedef int QvpiBorderType;
+enum {
+    qvpBorderReplicate = 1,      /**< the nearest edge pixel */
+    qvpBorderMirror = 3,         /**< reflection at the edge pixel, which is not repeated: -1 takes 1, -2 takes 2 */
+    qvpBorderReplicateAlt = 4,   /**< another word for qvpBorderReplicate, for resizing only */
+    qvpBorderConst = 6,          /**< a value that the caller gives */
+    qvpBorderTransparent = 7,    /**< warps only: destination pixels that fall outside keep their value */
+    qvpBorderInMemTop = 0x10,    /**< the rows above the region are in memory */
+    qvpBorderInMemBottom = 0x20, /**< the rows below the region are in memory */
+    qvpBorderInMemLeft = 0x40,   /**< the columns left of the region are in memory */
+    qvpBorderInMemRight = 0x80,  /**< the columns right of the region are in memory */
+    qvpBorderInMem = 0xF0,       /**< all four sides are in memory */
+};
+
+/** Interpolation between pixels. */
+typedef int QvpiInterpolationType;
+enum {
+    qvpInterpolationNearest = 1,          /**< the nearest pixel */
+    qvpInterpolationLinear = 2,           /**< 2x2 pixels, weighted linearly */
+    qvpInterpolationCubicClassic = 4,     /**< 4x4 pixels, cubic with B = 0, C = 0.75; remap only */
+    qvpInterpolationCubic = 6,            /**< 4x4 pixels, cubic with two parameters */
+    qvpInterpolationSuper = 8,            /**< average over the area of a destination pixel */
+    qvpInterpolationLanczos = 16,         /**< windowed sinc of 2 or 3 lobes */
+    qvpSmoothEdge = (-2147483647 - 1),    /**< flag: blends pixels at the image's edge with the destination */
+};
+
+/** Which way the coefficients of a warp map. */
+typedef int QvpiWarpDirection;
+enum {
+    qvpWarpForward = 0,  /**< from source to destination */
+    qvpWarpBackward = 1, /**< from destination to source */
+};
+
+/** The axis that an image is mirrored about. */
+typedef int QvpiAxis;
+enum {
+    qvpAxisHorizontal = 0, /**< rows change places */
+    qvpAxisVertical = 1,   /**< columns change places */
+    qvpAxisBoth = 2,       /**< both: a half turn */
+    qvpAxis45 = 3,         /**< rows become columns */
+    qvpAxis135 = 4,        /**< rows become columns, and both change places */
+};
+/** @} */
+
+/** @name Records
+ *  Opaque: in memory of the caller, of the size that a query tells, filled by an Init function, read by any number of
+ *  threads. A record must not be moved or copied after its Init.
+ *  @{ */
+typedef struct QvpiFilterBorderSpec QvpiFilterBorderSpec; /**< general filter */
+typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
+typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
+typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */
+typedef struct QvpiMomentState_64f QvpiMomentState_64f;   /**< moments */
+typedef struct QvpiFFTSpec_R_32f QvpiFFTSpec_R_32f;       /**< Fourier transform of real images, powers of two */
+typedef struct QvpiFFTSpec_C_32fc QvpiFFTSpec_C_32fc;     /**< Fourier transform of complex images, powers of two */
+typedef struct QvpiDFTSpec_R_32f QvpiDFTSpec_R_32f;       /**< Fourier transform of real images, any size */
+typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform of complex images, any size */
+typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 /** @} */
 
 /** @name Status codes

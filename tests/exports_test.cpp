@@ -93,7 +93,7 @@ TEST(EveryFunction, LeavesTheFloatingPointControlStateAlone) {
       const QvpStatus status = scene.Call();
       const unsigned after = _mm_getcsr();
       _mm_setcsr(before);
-      EXPECT_EQ(status, qvpStatusNoError) << function.name;
+      EXPECT_GE(status, 0) << function.name;
       EXPECT_EQ(after & 0xFFC0, control & 0xFFC0) << function.name;  // without the exception flags
       EXPECT_EQ(X87Control(), x87) << function.name;
     }
@@ -115,10 +115,11 @@ QvpStatus CallAtPhase(const Export& function, const test::Argument* arguments, i
 TEST(EveryFunction, WorksAtEveryAlignmentOfTheStack) {
   for (const Export& function : Exports()) {
     Scene expected(function, kRoi, 5);
-    ASSERT_EQ(expected.Call(), qvpStatusNoError) << function.name;
+    const QvpStatus status = expected.Call();
+    ASSERT_GE(status, 0) << function.name;
     for (const int phase : {0, 4, 8, 12}) {
       Scene scene(function, kRoi, 5);
-      EXPECT_EQ(CallAtPhase(function, scene.arguments.data(), phase), qvpStatusNoError) << function.name;
+      EXPECT_EQ(CallAtPhase(function, scene.arguments.data(), phase), status) << function.name;
       EXPECT_EQ(scene.HashOfOutputs(), expected.HashOfOutputs()) << function.name << " phase " << phase;
     }
   }
@@ -141,7 +142,7 @@ TEST(EveryFunction, MakesNoSystemCall) {
   if (child == 0) {
     prctl(PR_SET_SECCOMP, SECCOMP_MODE_STRICT);
     int failures = qvpiSet_8u_C1R(1, large.data(), 1024, {1024, 1024}) != qvpStatusNoError;
-    for (const auto& scene : scenes) failures += scene->Call() != qvpStatusNoError;
+    for (const auto& scene : scenes) failures += scene->Call() < 0;
     syscall(SYS_exit, failures != 0);
   }
   int result = 0;

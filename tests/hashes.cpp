@@ -13,7 +13,7 @@ int main() {
     for (const QvpiSize roi : {QvpiSize{1, 1}, {37, 5}, {64, 3}, {201, 4}, {1030, 2}}) {
       Scene scene(function, roi, seed++);
       const QvpStatus status = scene.Call();
-      if (status != qvpStatusNoError) throw std::runtime_error(function.name + " returned " + std::to_string(status));
+      if (status < 0) throw std::runtime_error(function.name + " returned " + std::to_string(status));
       hash = hash * 31 + scene.HashOfOutputs();
     }
     std::printf("%s %016" PRIx64 "\n", function.name.c_str(), hash);

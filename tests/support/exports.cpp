@@ -8,6 +8,9 @@ namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
+// One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp.
+constexpr Lesson kLessons[] = {nullptr};
+
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
 int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPixel + 17 * (place + 1)); }
@@ -42,31 +45,38 @@ int Export::Find(std::string_view parameter) const {
   return found == parameters.end() ? -1 : static_cast<int>(found - parameters.begin());
 }
 
-Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(function), random_(seed) {
-  const auto& parameters = function.parameters;
-  for (size_t i = 0; i < parameters.size(); ++i) {
-    const auto& [type, name] = parameters[i];
-    const bool isImage = i + 1 < parameters.size() && parameters[i + 1].name.ends_with("Step");
-    Argument argument;
-    if (isImage) {
-      argument.pointer = ImageFor(parameters[i], StepOf(roi.width, i) * size_t{1} * roi.height);
-    } else if (name.ends_with("Step")) {
-      argument.number = StepOf(roi.width, i - 1);
-    } else if (name == "roiSize") {
-      argument = {nullptr, roi.width, roi.height};
-    } else if (name == "dstOrder") {
-      static constexpr int kOrder[] = {2, 0, 1, 3};
-      argument.pointer = kOrder;
-    } else if (name == "value" || name == "val") {
-      static constexpr uint8_t kValues[kLargestPixel] = {17, 34, 51, 68, 85, 102, 119, 136, 9, 8, 7, 6, 5, 4, 3, 2};
-      argument = {kValues, 23};
-    } else if (name == "flags") {
-      argument.number = static_cast<int>(seed % 4);
-    } else {
-      throw std::invalid_argument(function.name + " has a parameter " + std::string(name));
-    }
-    arguments.push_back(argument);
+Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(function), roi_(roi), random_(seed) {
+  for (size_t i = 0; i < function.parameters.size(); ++i) arguments.push_back(ArgumentFor(i));
+}
+
+Argument Scene::ArgumentFor(size_t place) {
+  const auto& parameters = function_.parameters;
+  const std::string_view name = parameters[place].name;
+  Argument argument;
+  for (const Lesson lesson : kLessons) {
+    if (lesson && lesson(*this, place, argument)) return argument;
   }
+  if (place + 1 < parameters.size() && parameters[place + 1].name.ends_with("Step")) {
+    return {ImageFor(parameters[place], StepOf(roi_.width, place) * size_t{1} * roi_.height)};
+  }
+  if (name.ends_with("Step")) return {nullptr, StepOf(roi_.width, place - 1)};
+  if (name == "roiSize") return {nullptr, roi_.width, roi_.height};
+  if (name == "dstOrder") {
+    static constexpr int kOrder[] = {2, 0, 1, 3};
+    return {kOrder};
+  }
+  if (name == "value" || name == "val") {
+    static constexpr uint8_t kValues[kLargestPixel] = {17, 34, 51, 68, 85, 102, 119, 136, 9, 8, 7, 6, 5, 4, 3, 2};
+    return {kValues, 23};
+  }
+  if (name == "flags") return {nullptr, static_cast<int>(random_.Next() % 4)};
+  throw std::invalid_argument(function_.name + " has a parameter " + std::string(name));
+}
+
+uint8_t* Scene::Add(std::vector<std::unique_ptr<Block>>& list, size_t bytes) {
+  list.push_back(std::make_unique<Block>(bytes));
+  random_.Fill(list.back()->data(), bytes);
+  return list.back()->data();
 }
 
 const void* Scene::ImageFor(const Parameter& parameter, size_t bytes) {

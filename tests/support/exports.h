@@ -36,20 +36,34 @@ const std::vector<Export>& Exports();
 // Valid arguments for one call, with the memory that they point at: seeded, so equal on every build.
 class Scene {
  public:
-  // Throws std::invalid_argument for a parameter whose meaning is not known here.
+  // Throws std::invalid_argument for a parameter whose meaning is known neither here nor to a lesson.
   Scene(const Export& function, QvpiSize roi, uint64_t seed);
 
   std::vector<Argument> arguments;
   QvpStatus Call() const { return function_.call(arguments.data()); }
   uint64_t HashOfOutputs() const;
 
+  // For lessons: memory that lives as long as the scene. Outputs are hashed; both are filled with random bytes.
+  uint8_t* Input(size_t bytes) { return Add(blocks_, bytes); }
+  uint8_t* Output(size_t bytes) { return Add(outputs_, bytes); }
+  const Export& function() const { return function_; }
+  QvpiSize roi() const { return roi_; }
+  Random& random() { return random_; }
+
  private:
+  uint8_t* Add(std::vector<std::unique_ptr<Block>>& list, size_t bytes);
   const void* ImageFor(const Parameter& parameter, size_t bytes);
+  Argument ArgumentFor(size_t place);
 
   const Export& function_;
+  QvpiSize roi_;
   Random random_;
   std::vector<std::unique_ptr<Block>> blocks_, outputs_;
   std::vector<std::unique_ptr<const void*[]>> planes_;
 };
+
+// What a family's parameters mean, where the general rules do not know: sets `argument` for the parameter at `place`
+// and returns true, or returns false. Lessons come first, so that they can overrule.
+using Lesson = bool (*)(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test

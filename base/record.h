@@ -1,0 +1,58 @@
+// Records and work buffers in the caller's memory: places and sizes.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+#include "qvptypes.h"
+
+namespace qvp {
+
+// Records and tables begin at multiples of this; a block has as many spare bytes for the first one.
+inline constexpr int kRecordBoundary = 64;
+
+// The first boundary at or after p.
+template <class T>
+T* AtBoundary(T* p) {
+  const uintptr_t address = reinterpret_cast<uintptr_t>(p);
+  return reinterpret_cast<T*>((address + kRecordBoundary - 1) & ~uintptr_t{kRecordBoundary - 1});
+}
+
+// A count of bytes that remembers when it has left 64 bits, so that no size ever wraps.
+class ByteCount {
+ public:
+  constexpr ByteCount(int64_t n) : n_(n) {}
+
+  friend constexpr ByteCount operator+(ByteCount a, ByteCount b) {
+    int64_t sum = 0;
+    const bool isLost = __builtin_add_overflow(a.n_, b.n_, &sum);
+    return isLost ? ByteCount(kTooLarge) : ByteCount(sum);
+  }
+  friend constexpr ByteCount operator*(ByteCount a, ByteCount b) {
+    int64_t product = 0;
+    const bool isLost = __builtin_mul_overflow(a.n_, b.n_, &product);
+    return isLost ? ByteCount(kTooLarge) : ByteCount(product);
+  }
+  // Rounded up to a multiple of a power of two.
+  constexpr ByteCount RoundedTo(int64_t boundary) const {
+    const ByteCount up = *this + (boundary - 1);
+    return up.n_ == kTooLarge ? up : ByteCount(up.n_ & -boundary);
+  }
+
+  constexpr int64_t value() const { return n_; }
+
+  // Writes the count where it fits, else 0 and the status of a size beyond what can be represented. 32-bit outputs
+  // are limited to 2147483647, pointer-wide ones to what a pointer can tell.
+  template <class Out>
+  QvpStatus StoreTo(Out* out) const {
+    const bool fits = n_ < kTooLarge && n_ <= static_cast<int64_t>(std::numeric_limits<Out>::max());
+    *out = fits ? static_cast<Out>(n_) : 0;
+    return fits ? qvpStatusNoError : qvpStatusSizeOverflow;
+  }
+
+ private:
+  static constexpr int64_t kTooLarge = std::numeric_limits<int64_t>::max();
+  int64_t n_;
+};
+
+}  // namespace qvp
