@@ -1,6 +1,7 @@
 // Argument checks. A family states its documented order as the template arguments of Validate.
 #pragma once
 
+#include <cstring>
 #include <initializer_list>
 
 #include "base/image.h"
@@ -50,6 +51,18 @@ inline QvpStatus Validate(Size roi, Operands images, Pointers others = {}) {
   QvpStatus failed = qvpStatusNoError;
   (void)((Passes(kOrder, roi, images, others) || ((failed = FailureOf(kOrder)), false)) && ...);
   return failed;
+}
+
+// Whether lower <= upper for each processed channel. NaN is in no order.
+template <class T>
+bool AreOrdered(const T* lower, const T* upper, Layout layout) {
+  for (int c = 0; c < ProcessedChannels(layout); ++c) {
+    T from, to;
+    std::memcpy(&from, lower + c, sizeof(T));
+    std::memcpy(&to, upper + c, sizeof(T));
+    if (!(from <= to)) return false;
+  }
+  return true;
 }
 
 }  // namespace qvp

@@ -5,6 +5,31 @@
 #include "base/image.h"
 #include "qvpi.h"
 
+// One value for each channel, as parameters spell it: a number for one channel, a pointer for more.
+#define QVP_VALUES_C1(type) Qvp##type
+#define QVP_VALUES_C3(type) const Qvp##type*
+#define QVP_VALUES_C4(type) const Qvp##type*
+#define QVP_VALUES_AC4(type) const Qvp##type*
+
+namespace qvp {
+// The address of such values.
+template <class T>
+constexpr const T* Values(const T& value) {
+  return &value;
+}
+template <class T>
+constexpr const T* Values(const T* const& values) {
+  return values;
+}
+}  // namespace qvp
+
+// GRID(..., layout) for the layouts of most element-wise functions.
+#define QVP_C1_C3_C4_AC4(GRID, ...) \
+  GRID(__VA_ARGS__, C1)             \
+  GRID(__VA_ARGS__, C3)             \
+  GRID(__VA_ARGS__, C4)             \
+  GRID(__VA_ARGS__, AC4)
+
 // GRID(type, ...) for each of the five types whose pixels are only moved.
 #define QVP_EACH_MOVED_TYPE(GRID, ...) \
   GRID(8u __VA_OPT__(, ) __VA_ARGS__)  \

@@ -82,6 +82,7 @@ template <class T>
 struct Partial {
   HWY_ALIGN T lanes[HWY_MAX_BYTES] = {};  // room for as many lanes as the narrowest type has
 
+  Partial() = default;
   Partial(const T* from, size_t n) { std::memcpy(lanes, from, n * sizeof(T)); }
   void CopyTo(T* to, size_t n) const { std::memcpy(to, lanes, n * sizeof(T)); }
 };

@@ -17,26 +17,26 @@ class PerChannel {
 
   // `values` has one entry for each channel; an alpha channel that is kept needs none.
   template <class S>
-  PerChannel(D d, const S* values, Layout layout) {
-    const int channels = Channels(layout);
+  PerChannel(D, const S* values, Layout layout) {
     T pixel[4] = {};
     for (int c = 0; c < ProcessedChannels(layout); ++c) {
       S value;
       std::memcpy(&value, values + c, sizeof(S));
       pixel[c] = static_cast<T>(value);
     }
-    for (int i = 0; i < kLanes; ++i) lanes_[i] = pixel[i % channels];
-    (void)d;
+    for (int i = 0, c = 0; i < kPeriod; ++i) {
+      lanes_[i] = pixel[c];
+      c = c + 1 == Channels(layout) ? 0 : c + 1;
+    }
+    for (int i = kPeriod; i < kLanes; i += kPeriod) std::memcpy(lanes_ + i, lanes_, sizeof(T) * kPeriod);
   }
 
   // The vector that begins at lane `first` of a row.
-  HWY_INLINE hn::Vec<D> From(ptrdiff_t first) const {
-    constexpr ptrdiff_t kPeriod = 12;
-    return hn::LoadU(D(), lanes_ + first % kPeriod);
-  }
+  HWY_INLINE hn::Vec<D> From(ptrdiff_t first) const { return hn::LoadU(D(), lanes_ + first % kPeriod); }
 
  private:
-  static constexpr int kLanes = hn::MaxLanes(D()) + 12;
+  static constexpr int kPeriod = 12;
+  static constexpr int kLanes = (static_cast<int>(hn::MaxLanes(D())) / kPeriod + 2) * kPeriod;
   HWY_ALIGN T lanes_[kLanes];
 };
 

@@ -1,4 +1,6 @@
 // Copies between interleaved images.
+#include "core/copy.h"
+
 #include <cstring>
 
 #include "base/check.h"
@@ -44,9 +46,7 @@ void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi) {
 
 QvpStatus Copy(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
-  const Store store = StoreFor(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
-  store == Store::kStreaming ? CopyRows<Store::kStreaming>(src, dst, roi) : CopyRows<Store::kOrdinary>(src, dst, roi);
-  Fence(store);
+  CopyPixels(src, dst, roi, StoreFor(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height));
   return qvpStatusNoError;
 }
 
@@ -103,6 +103,11 @@ QvpStatus CopyManaged(const ConstBytes& src, const Bytes& dst, Size roi, int fla
 }
 
 }  // namespace
+
+void qvp::CopyPixels(const ConstBytes& src, const Bytes& dst, Size roi, Store store) {
+  store == Store::kStreaming ? CopyRows<Store::kStreaming>(src, dst, roi) : CopyRows<Store::kOrdinary>(src, dst, roi);
+  Fence(store);
+}
 
 #define COPY(type, layout, impl)                                      \
   QVP_MOVE(qvpiCopy_##type##_##layout##R, type, layout, layout, impl) \

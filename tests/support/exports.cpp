@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "tests/support/lessons.h"
+
 namespace test {
 namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
 // One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp.
-constexpr Lesson kLessons[] = {nullptr};
+constexpr Lesson kLessons[] = {ThresholdLesson};
 
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
@@ -54,7 +56,7 @@ Argument Scene::ArgumentFor(size_t place) {
   const std::string_view name = parameters[place].name;
   Argument argument;
   for (const Lesson lesson : kLessons) {
-    if (lesson && lesson(*this, place, argument)) return argument;
+    if (lesson(*this, place, argument)) return argument;
   }
   if (place + 1 < parameters.size() && parameters[place + 1].name.ends_with("Step")) {
     return {ImageFor(parameters[place], StepOf(roi_.width, place) * size_t{1} * roi_.height)};

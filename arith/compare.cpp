@@ -1,0 +1,244 @@
+// Comparison of two images, or of an image with a constant, into a mask of bytes: 255 where the relation holds for all
+// channels of a pixel.
+#include "base/check.h"
+#include "base/export.h"
+#include "base/map.h"
+#include "base/pack.h"
+#include "base/rows.h"
+
+namespace {
+using namespace qvp;
+
+using Mask = hn::ScalableTag<uint8_t>;
+constexpr ptrdiff_t kMaskLanes = hn::MaxLanes(Mask());
+
+// Relations give all bits of the lanes where they hold. NaN stands in none to anything.
+struct Less {
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    if constexpr (std::is_unsigned_v<hn::TFromD<D>>) {
+      return hn::Not(hn::VecFromMask(d, hn::Eq(hn::Max(a, b), a)));
+    } else {
+      return hn::VecFromMask(d, hn::Lt(a, b));
+    }
+  }
+};
+struct LessOrEqual {
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    if constexpr (std::is_integral_v<hn::TFromD<D>>) {
+      return hn::VecFromMask(d, hn::Eq(hn::Min(a, b), a));
+    } else {
+      return hn::VecFromMask(d, hn::Le(a, b));
+    }
+  }
+};
+struct Equal {
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    return hn::VecFromMask(d, hn::Eq(a, b));
+  }
+};
+struct Within {
+  float eps;
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    return hn::VecFromMask(d, hn::Le(hn::Abs(hn::Sub(a, b)), hn::Set(d, eps)));
+  }
+};
+template <class Relation>
+struct Exchanged {
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V a, V b) const {
+    return Relation()(d, b, a);
+  }
+};
+
+// Lanes of all ones or all zeros to bytes: part(k) is the k-th of as many vectors as fill one of bytes.
+template <class T, class Part>
+HWY_INLINE hn::Vec<Mask> Narrowed(const Part& part) {
+  const hn::ScalableTag<int16_t> d16;
+  const hn::ScalableTag<int32_t> d32;
+  if constexpr (sizeof(T) == 1) {
+    return hn::BitCast(Mask(), part(0));
+  } else if constexpr (sizeof(T) == 2) {
+    return InOrder<2>(hn::BitCast(Mask(), PackBlocks(hn::BitCast(d16, part(0)), hn::BitCast(d16, part(1)))));
+  } else {
+    const auto low = PackBlocks(hn::BitCast(d32, part(0)), hn::BitCast(d32, part(1)));
+    const auto high = PackBlocks(hn::BitCast(d32, part(2)), hn::BitCast(d32, part(3)));
+    return InOrder<4>(hn::BitCast(Mask(), PackBlocks(low, high)));
+  }
+}
+
+// What a relation compares with: the other image's row, or values of the channels.
+template <class D>
+struct OtherRow {
+  const hn::TFromD<D>* row;
+  HWY_INLINE hn::Vec<D> At(ptrdiff_t i, ptrdiff_t) const { return hn::LoadU(D(), row + i); }
+  OtherRow From(ptrdiff_t i) const { return {row + i}; }
+  OtherRow Staged(Partial<hn::TFromD<D>>& stage, size_t n) const {
+    std::memcpy(stage.lanes, row, n * sizeof(hn::TFromD<D>));
+    return {stage.lanes};
+  }
+};
+template <class D>
+struct Constants {
+  const PerChannel<D>* values;
+  HWY_INLINE hn::Vec<D> At(ptrdiff_t, ptrdiff_t phase) const { return values->From(phase); }
+  Constants From(ptrdiff_t) const { return *this; }
+  Constants Staged(Partial<hn::TFromD<D>>&, size_t) const { return *this; }
+};
+
+// One mask byte for each of n samples. The first one belongs to the first channel.
+template <class T, class Relation, class Other>
+void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
+  const hn::ScalableTag<T> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
+  const auto at = [&](const T* from, const Other& to, ptrdiff_t i, ptrdiff_t phase) HWY_ATTR {
+    return Narrowed<T>([&](ptrdiff_t k) HWY_ATTR {
+      return relation(d, hn::LoadU(d, from + i + k * kLanes), to.At(i + k * kLanes, phase + k * kLanes));
+    });
+  };
+  if (n < kMaskLanes) {
+    const Partial<T> left(src, n);
+    Partial<T> right;
+    Partial<uint8_t> out;
+    hn::StoreU(at(left.lanes, other.Staged(right, n), 0, 0), Mask(), out.lanes);
+    return out.CopyTo(mask, n);
+  }
+  const ptrdiff_t end = n - kMaskLanes;
+  const auto last = at(src, other, end, end);
+  ptrdiff_t i = 0;
+  for (; i + 3 * kMaskLanes <= end; i += 3 * kMaskLanes) {
+    for (ptrdiff_t v = 0; v < 3 * kMaskLanes; v += kMaskLanes)
+      hn::StoreU(at(src, other, i + v, v), Mask(), mask + i + v);
+  }
+  for (; i < end; i += kMaskLanes) hn::StoreU(at(src, other, i, i), Mask(), mask + i);
+  hn::StoreU(last, Mask(), mask + end);
+}
+
+// A pixel's mask byte from those of its three channels.
+void MergeThree(const uint8_t* mask, uint8_t* dst, ptrdiff_t pixels) {
+  const auto at = [&](const uint8_t* from) HWY_ATTR {
+    hn::Vec<Mask> a, b, c;
+    hn::LoadInterleaved3(Mask(), from, a, b, c);
+    return hn::And(hn::And(a, b), c);
+  };
+  for (ptrdiff_t i = 0; i < pixels; i += kMaskLanes) hn::StoreU(at(mask + 3 * i), Mask(), dst + i);
+}
+
+// The same of four channels; `ignored` has ones where an alpha channel is.
+void MergeFour(const uint8_t* mask, uint8_t* dst, ptrdiff_t pixels, uint32_t ignored) {
+  const hn::ScalableTag<uint32_t> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint32_t>());
+  const auto alpha = hn::Set(d, ignored), ones = hn::Set(d, 0xFFFFFFFF);
+  for (ptrdiff_t i = 0; i < pixels; i += kMaskLanes) {
+    const auto whole = Narrowed<uint32_t>([&](ptrdiff_t k) HWY_ATTR {
+      const auto channels = hn::LoadU(d, reinterpret_cast<const uint32_t*>(mask + 4 * (i + k * kLanes)));
+      return hn::VecFromMask(d, hn::Eq(hn::Or(channels, alpha), ones));
+    });
+    hn::StoreU(whole, Mask(), dst + i);
+  }
+}
+
+// Rows of more than one channel go by chunks, whose sample masks stay in the first-level cache.
+constexpr ptrdiff_t kChunkPixels = 768;
+
+template <class T, class Relation, class Other>
+void MaskPixels(const Relation& relation, Layout layout, const T* src, Other other, uint8_t* dst, ptrdiff_t pixels) {
+  const int channels = Channels(layout);
+  if (channels == 1) return MaskSamples(relation, src, other, dst, pixels);
+  HWY_ALIGN uint8_t samples[4 * kChunkPixels + 4 * kMaskLanes], merged[kChunkPixels + kMaskLanes];
+  const ptrdiff_t n = std::min(pixels, kChunkPixels);
+  for (ptrdiff_t i = 0; i < pixels; i += kChunkPixels) {
+    const ptrdiff_t count = std::min(n, pixels - i);
+    MaskSamples(relation, src + i * channels, other.From(i * channels), samples, count * channels);
+    if (channels == 3) {
+      MergeThree(samples, merged, count);
+    } else {
+      MergeFour(samples, merged, count, KeepsAlpha(layout) ? 0xFF000000 : 0);
+    }
+    std::memcpy(dst + i, merged, count);
+  }
+}
+
+template <class T, class Relation>
+QvpStatus CompareImages(const Relation& relation, const Image<const T>& a, const Image<const T>& b, const Bytes& dst,
+                        Size roi) {
+  Rows(a, b, dst).ForEach(roi, [&](ptrdiff_t pixels, const T* x, const T* y, uint8_t* to) {
+    MaskPixels(relation, a.layout, x, OtherRow<hn::ScalableTag<T>>{y}, to, pixels);
+  });
+  return qvpStatusNoError;
+}
+
+template <class T, class Relation>
+QvpStatus CompareConstant(const Relation& relation, const Image<const T>& src, const T* values, const Bytes& dst,
+                          Size roi) {
+  const hn::ScalableTag<T> d;
+  const PerChannel<decltype(d)> constants(d, values, src.layout);
+  Rows(src, dst).ForEach(roi, [&](ptrdiff_t pixels, const T* x, uint8_t* to) {
+    MaskPixels(relation, src.layout, x, Constants<decltype(d)>{&constants}, to, pixels);
+  });
+  return qvpStatusNoError;
+}
+
+// A relation that does not exist is silently none: the call succeeds and writes nothing.
+template <class T>
+QvpStatus Compare(const Image<const T>& a, const Image<const T>& b, const Bytes& dst, Size roi, QvpCmpOp relation) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {a, b, dst})) return failed;
+  if (relation == qvpCmpLess) return CompareImages(Less(), a, b, dst, roi);
+  if (relation == qvpCmpLessEq) return CompareImages(LessOrEqual(), a, b, dst, roi);
+  if (relation == qvpCmpEq) return CompareImages(Equal(), a, b, dst, roi);
+  if (relation == qvpCmpGreaterEq) return CompareImages(LessOrEqual(), b, a, dst, roi);
+  if (relation == qvpCmpGreater) return CompareImages(Less(), b, a, dst, roi);
+  return qvpStatusNoError;
+}
+
+template <class T>
+QvpStatus CompareC(const Image<const T>& src, const T* values, const Bytes& dst, Size roi, QvpCmpOp relation) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst}, {values})) return failed;
+  if (relation == qvpCmpLess) return CompareConstant(Less(), src, values, dst, roi);
+  if (relation == qvpCmpLessEq) return CompareConstant(LessOrEqual(), src, values, dst, roi);
+  if (relation == qvpCmpEq) return CompareConstant(Equal(), src, values, dst, roi);
+  if (relation == qvpCmpGreaterEq) return CompareConstant(Exchanged<LessOrEqual>(), src, values, dst, roi);
+  if (relation == qvpCmpGreater) return CompareConstant(Exchanged<Less>(), src, values, dst, roi);
+  return qvpStatusNoError;
+}
+
+QvpStatus EqualEps(const Image<const Qvp32f>& a, const Image<const Qvp32f>& b, const Bytes& dst, Size roi, float eps) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {a, b, dst})) return failed;
+  if (!(eps >= 0)) return qvpStatusEps;
+  return CompareImages(Within{eps}, a, b, dst, roi);
+}
+
+QvpStatus EqualEpsC(const Image<const Qvp32f>& src, const Qvp32f* values, const Bytes& dst, Size roi, float eps) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst}, {values})) return failed;
+  if (!(eps >= 0)) return qvpStatusEps;
+  return CompareConstant(Within{eps}, src, values, dst, roi);
+}
+
+}  // namespace
+
+#define COMPARE_TWO(name, impl, last, type, layout)                                                                 \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
+                                        Qvp8u* pDst, int dstStep, QvpiSize roiSize, last parameter) {               \
+    return impl(Image<const Qvp##type>{pSrc1, src1Step, Layout::k##layout},                                         \
+                Image<const Qvp##type>{pSrc2, src2Step, Layout::k##layout}, Bytes{pDst, dstStep, Layout::kC1},      \
+                roiSize, parameter);                                                                                \
+  }
+#define COMPARE_CONSTANT(name, impl, last, type, layout)                                                     \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(type) value, \
+                                        Qvp8u* pDst, int dstStep, QvpiSize roiSize, last parameter) {        \
+    return impl(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, Values(value),                     \
+                Bytes{pDst, dstStep, Layout::kC1}, roiSize, parameter);                                      \
+  }
+#define COMPARE(type)                                                 \
+  QVP_C1_C3_C4_AC4(COMPARE_TWO, qvpiCompare, Compare, QvpCmpOp, type) \
+  QVP_C1_C3_C4_AC4(COMPARE_CONSTANT, qvpiCompareC, CompareC, QvpCmpOp, type)
+
+COMPARE(8u)
+COMPARE(16u)
+COMPARE(16s)
+COMPARE(32f)
+QVP_C1_C3_C4_AC4(COMPARE_TWO, qvpiCompareEqualEps, EqualEps, Qvp32f, 32f)
+QVP_C1_C3_C4_AC4(COMPARE_CONSTANT, qvpiCompareEqualEpsC, EqualEpsC, Qvp32f, 32f)

@@ -1,0 +1,141 @@
+// Thresholds: values beyond a bound become the bound, or a value of the caller's.
+#include "base/check.h"
+#include "base/export.h"
+#include "base/map.h"
+#include "base/rows.h"
+
+namespace {
+using namespace qvp;
+
+// Unsigned lanes have no comparison of their own below AVX-512, but minimum and maximum.
+template <class V>
+constexpr bool kHasOrder = !std::is_unsigned_v<hn::TFromV<V>>;
+
+// `value` where v is above the bound, else `otherwise`. What is not a number is neither above nor below.
+template <class V>
+HWY_INLINE V IfAbove(V v, V bound, V value, V otherwise) {
+  if constexpr (kHasOrder<V>) {
+    return hn::IfThenElse(hn::Gt(v, bound), value, otherwise);
+  } else {
+    return hn::IfThenElse(hn::Eq(hn::Max(v, bound), bound), otherwise, value);
+  }
+}
+template <class V>
+HWY_INLINE V IfBelow(V v, V bound, V value, V otherwise) {
+  if constexpr (kHasOrder<V>) {
+    return hn::IfThenElse(hn::Lt(v, bound), value, otherwise);
+  } else {
+    return hn::IfThenElse(hn::Eq(hn::Min(v, bound), bound), otherwise, value);
+  }
+}
+
+// The pixel stands second: it is what a comparison with NaN gives.
+struct BoundAbove {
+  template <class V>
+  HWY_INLINE V operator()(V v, V bound) const {
+    return hn::Min(bound, v);
+  }
+};
+struct BoundBelow {
+  template <class V>
+  HWY_INLINE V operator()(V v, V bound) const {
+    return hn::Max(bound, v);
+  }
+};
+struct ValueAbove {
+  template <class V>
+  HWY_INLINE V operator()(V v, V bound, V value) const {
+    return IfAbove(v, bound, value, v);
+  }
+};
+struct ValueBelow {
+  template <class V>
+  HWY_INLINE V operator()(V v, V bound, V value) const {
+    return IfBelow(v, bound, value, v);
+  }
+};
+struct ValuesOutside {
+  template <class V>
+  HWY_INLINE V operator()(V v, V lower, V below, V upper, V above) const {
+    return IfBelow(v, lower, below, IfAbove(v, upper, above, v));
+  }
+};
+
+// The arrays hold one value for each processed channel.
+template <class Op, class T, class... Constant>
+void Apply(const Image<const T>& src, const Image<T>& dst, Size roi, const Constant*... values) {
+  const hn::ScalableTag<T> d;
+  const auto rows = [&](auto keepAlpha, const auto&... constant) {
+    Rows(src, dst).ForEach(roi, [&](ptrdiff_t pixels, const T* from, T* to) {
+      const auto op = [&](auto at, auto v) { return Op()(v, at(constant)...); };
+      MapRowWith<keepAlpha()>(d, to, pixels * Channels(dst.layout), op, from);
+    });
+  };
+  if (KeepsAlpha(dst.layout)) return rows(std::true_type(), PerChannel(d, values, dst.layout)...);
+  rows(std::false_type(), PerChannel(d, values, dst.layout)...);
+}
+
+// One bound: Op is either of the two operations with a bound alone, or with a bound and a value.
+template <class Op, class T, class... Constant>
+QvpStatus OneSided(const Image<const T>& src, const Image<T>& dst, Size roi, const Constant*... values) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {values...})) return failed;
+  Apply<Op>(src, dst, roi, values...);
+  return qvpStatusNoError;
+}
+
+template <class T>
+QvpStatus Threshold(const Image<const T>& src, const Image<T>& dst, Size roi, const T* bound, QvpCmpOp relation) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {bound})) return failed;
+  if (relation != qvpCmpLess && relation != qvpCmpGreater) return qvpStatusNotSupportedMode;
+  relation == qvpCmpGreater ? Apply<BoundAbove>(src, dst, roi, bound) : Apply<BoundBelow>(src, dst, roi, bound);
+  return qvpStatusNoError;
+}
+
+template <class T>
+QvpStatus TwoSided(const Image<const T>& src, const Image<T>& dst, Size roi, const T* lower, const T* below,
+                   const T* upper, const T* above) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {lower, below, upper, above})) {
+    return failed;
+  }
+  if (!AreOrdered(lower, upper, dst.layout)) return qvpStatusThreshold;
+  Apply<ValuesOutside>(src, dst, roi, lower, below, upper, above);
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+// The two exports of a name: the parameters and arguments that follow the size are given in parentheses.
+#define UNWRAP(...) __VA_ARGS__
+#define BOTH_PLACES(name, type, layout, impl, parameters, arguments)                                                \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,           \
+                                        QvpiSize roiSize, UNWRAP parameters) {                                      \
+    return impl(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout},                                           \
+                Image<Qvp##type>{pDst, dstStep, Layout::k##layout}, roiSize, UNWRAP arguments);                     \
+  }                                                                                                                 \
+  QvpStatus name##_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, UNWRAP parameters) { \
+    return impl(Image<const Qvp##type>{pSrcDst, srcDstStep, Layout::k##layout},                                     \
+                Image<Qvp##type>{pSrcDst, srcDstStep, Layout::k##layout}, roiSize, UNWRAP arguments);               \
+  }
+
+#define THRESHOLDS(type, layout)                                                                             \
+  BOTH_PLACES(qvpiThreshold, type, layout, Threshold, (QVP_VALUES_##layout(type) threshold, QvpCmpOp cmpOp), \
+              (Values(threshold), cmpOp))                                                                    \
+  BOTH_PLACES(qvpiThreshold_GT, type, layout, OneSided<BoundAbove>, (QVP_VALUES_##layout(type) threshold),   \
+              (Values(threshold)))                                                                           \
+  BOTH_PLACES(qvpiThreshold_LT, type, layout, OneSided<BoundBelow>, (QVP_VALUES_##layout(type) threshold),   \
+              (Values(threshold)))                                                                           \
+  BOTH_PLACES(qvpiThreshold_GTVal, type, layout, OneSided<ValueAbove>,                                       \
+              (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                        \
+              (Values(threshold), Values(value)))                                                            \
+  BOTH_PLACES(qvpiThreshold_LTVal, type, layout, OneSided<ValueBelow>,                                       \
+              (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                        \
+              (Values(threshold), Values(value)))                                                            \
+  BOTH_PLACES(qvpiThreshold_LTValGTVal, type, layout, TwoSided,                                              \
+              (QVP_VALUES_##layout(type) thresholdLT, QVP_VALUES_##layout(type) valueLT,                     \
+               QVP_VALUES_##layout(type) thresholdGT, QVP_VALUES_##layout(type) valueGT),                    \
+              (Values(thresholdLT), Values(valueLT), Values(thresholdGT), Values(valueGT)))
+
+QVP_C1_C3_C4_AC4(THRESHOLDS, 8u)
+QVP_C1_C3_C4_AC4(THRESHOLDS, 16u)
+QVP_C1_C3_C4_AC4(THRESHOLDS, 16s)
+QVP_C1_C3_C4_AC4(THRESHOLDS, 32f)

@@ -1,0 +1,51 @@
+// Mirror and transpose.
+#include <opencv2/imgproc.hpp>
+
+#include "bench/image.h"
+
+namespace {
+using namespace bench;
+
+void Mirrors() {
+  const Image<uint8_t> a(kHd, 1), b(kHd, 1), c(kHd, 3), d(kHd, 3);
+  const Image<float> f(kHd, 1), g(kHd, 1);
+  Add({Name("mirror columns 8u C1", kHd),
+       {a.bytes(), b.bytes()},
+       [=] { Require(qvpiMirror_8u_C1R(a.data(), a.step, b.data(), b.step, kHd, qvpAxisVertical)); },
+       {{"OpenCV flip", [=] { cv::flip(a.mat, b.mat, 1); }, 10}}});
+  Add({Name("mirror columns 8u C3", kHd),
+       {c.bytes(), d.bytes()},
+       [=] { Require(qvpiMirror_8u_C3R(c.data(), c.step, d.data(), d.step, kHd, qvpAxisVertical)); },
+       {{"OpenCV flip", [=] { cv::flip(c.mat, d.mat, 1); }, 3}}});
+  Add({Name("mirror both 32f C1", kHd),
+       {f.bytes(), g.bytes()},
+       [=] { Require(qvpiMirror_32f_C1R(f.data(), f.step, g.data(), g.step, kHd, qvpAxisBoth)); },
+       {{"OpenCV flip", [=] { cv::flip(f.mat, g.mat, -1); }, 1.2}}});
+  Add({Name("mirror columns in place 8u C3", kHd),
+       {0, 0, c.bytes()},
+       [=] { Require(qvpiMirror_8u_C3IR(c.data(), c.step, kHd, qvpAxisVertical)); },
+       {{"OpenCV flip", [=] { cv::flip(c.mat, c.mat, 1); }}}});
+}
+
+template <class T, class Call>
+void Transposition(const char* name, QvpiSize size, int channels, double atLeast, Call call) {
+  const QvpiSize turned{size.height, size.width};
+  const Image<T> a(size, channels), b(turned, channels);
+  Add({Name(name, size),
+       {a.bytes(), b.bytes()},
+       [=] { Require(call(a.data(), a.step, b.data(), b.step, size)); },
+       {{"OpenCV transpose", [=] { cv::transpose(a.mat, b.mat); }, atLeast}}});
+}
+
+void Transpositions() {
+  Transposition<uint8_t>("transpose 8u C1", kHd, 1, 2, qvpiTranspose_8u_C1R);
+  Transposition<uint8_t>("transpose 8u C3", kHd, 3, 2, qvpiTranspose_8u_C3R);
+  Transposition<uint8_t>("transpose 8u C1", kLarge, 1, 2, qvpiTranspose_8u_C1R);
+  Transposition<uint8_t>("transpose 8u C1", {8192, 6144}, 1, 0, qvpiTranspose_8u_C1R);
+  Transposition<float>("transpose 32f C1", kHd, 1, 1.5, qvpiTranspose_32f_C1R);
+  Transposition<uint16_t>("transpose 16u C3", kHd, 3, 0, qvpiTranspose_16u_C3R);
+}
+
+const bool added = (Mirrors(), Transpositions(), true);
+
+}  // namespace

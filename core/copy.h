@@ -1,0 +1,12 @@
+// The copy of whole pixels, for the families that move rows.
+#pragma once
+
+#include "base/image.h"
+#include "base/store.h"
+
+namespace qvp {
+
+// Copies rows from 0 on, with the kind of store that the caller has decided on.
+void CopyPixels(const ConstBytes& src, const Bytes& dst, Size roi, Store store);
+
+}  // namespace qvp

@@ -1,0 +1,242 @@
+// Mirrors: rows, columns or both reversed, or rows and columns exchanged.
+#include <algorithm>
+#include <cstring>
+
+#include "base/check.h"
+#include "base/export.h"
+#include "base/store.h"
+#include "core/channels.h"
+#include "core/copy.h"
+#include "geometry/transpose.h"
+
+namespace {
+using namespace qvp;
+
+using Wide = hn::ScalableTag<uint8_t>;
+using Block = hn::Full128<uint8_t>;
+
+// Byte i of a block whose pixels stand in reverse order comes from byte order[i]. Blocks of spare bytes hold whole
+// pixels only: 15 or 12 bytes, which stand at the end of a loaded block.
+struct Reversal {
+  alignas(kBlockBytes) uint8_t order[kBlockBytes], keep[kBlockBytes];
+  int used;
+
+  explicit Reversal(const Bytes& dst) {
+    const int bytes = dst.PixelBytes(), kept = KeepsAlpha(dst.layout) ? dst.elementBytes : 0;
+    used = kBlockBytes / bytes * bytes;
+    for (int i = 0; i < kBlockBytes; ++i) {
+      const int pixel = i / bytes, place = i % bytes;
+      order[i] = static_cast<uint8_t>(i < used ? kBlockBytes - (pixel + 1) * bytes + place : 0x80);
+      keep[i] = place >= bytes - kept ? 0xFF : 0;
+    }
+  }
+};
+
+// Row pieces of at most as many bytes as a few blocks, one pixel after the other.
+HWY_NOINLINE void ReversePixels(const uint8_t* end, uint8_t* dst, ptrdiff_t n, int bytes, int copied) {
+  for (ptrdiff_t i = 0; i < n; i += bytes) std::memcpy(dst + i, end - i - bytes, copied);
+}
+
+// Pixels that divide a block: whole vectors. The last vector may overlap the one before it, as both write one value.
+template <bool kKeep>
+void ReverseBlocks(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
+  const Wide d;
+  constexpr ptrdiff_t kVector = hn::MaxLanes(Wide());
+  const auto order = hn::LoadDup128(d, reversal.order), keep = hn::LoadDup128(d, reversal.keep);
+  const auto at = [&](ptrdiff_t i) HWY_ATTR {
+    const auto v = hn::TableLookupBytes(hn::ReverseBlocks(d, hn::LoadU(d, end - i - kVector)), order);
+    hn::StoreU(kKeep ? hn::IfVecThenElse(keep, hn::LoadU(d, dst + i), v) : v, d, dst + i);
+  };
+  for (ptrdiff_t i = 0; i + kVector <= n; i += kVector) at(i);
+  if (n % kVector != 0) at(n - kVector);
+}
+
+// Three channels: blocks with spare bytes, which the next block's store overwrites.
+void ReverseSpare(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n, int bytes) {
+  const Block d;
+  const auto order = hn::Load(d, reversal.order);
+  const ptrdiff_t used = reversal.used;
+  ptrdiff_t i = 0;
+  for (; i + kBlockBytes <= n; i += used) {
+    hn::StoreU(hn::TableLookupBytesOr0(hn::LoadU(d, end - i - kBlockBytes), order), d, dst + i);
+  }
+  ReversePixels(end - i, dst + i, n - i, bytes, bytes);
+}
+
+// dst: n bytes, the pixels before `end` from the last to the first. The rows must not overlap.
+void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
+  const int bytes = image.PixelBytes();
+  if (n < static_cast<ptrdiff_t>(hn::MaxLanes(Wide()))) {
+    ReversePixels(end, dst, n, bytes, ProcessedChannels(image.layout) * image.elementBytes);
+  } else if (reversal.used != kBlockBytes || kBlockBytes % bytes != 0) {
+    ReverseSpare(reversal, end, dst, n, bytes);
+  } else {
+    KeepsAlpha(image.layout) ? ReverseBlocks<true>(reversal, end, dst, n) : ReverseBlocks<false>(reversal, end, dst, n);
+  }
+}
+
+ConstBytes Constant(const Bytes& image) { return {image.data, image.step, image.layout, image.elementBytes}; }
+
+// The same pixels with the rows from the last to the first.
+template <class T>
+Image<T> Upended(const Image<T>& image, ptrdiff_t height) {
+  return {image.Row(height - 1), -image.step, image.layout, image.elementBytes};
+}
+
+void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi, Store store) {
+  if (KeepsAlpha(dst.layout)) return MoveChannels(src, dst, roi, {{0, 1, 2, kKeepChannel}});
+  CopyPixels(src, dst, roi, store);
+}
+
+void ReverseRows(const ConstBytes& src, const Bytes& dst, Size roi) {
+  const Reversal reversal(dst);
+  const ptrdiff_t n = dst.RowBytes(roi.width);
+  for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRow(reversal, dst, src.Row(y) + n, dst.Row(y), n);
+}
+
+// Two pieces of rows change places, one of them being held back in a buffer; both are reversed if asked.
+class Exchange {
+ public:
+  static constexpr ptrdiff_t kMostPixels = 256;
+
+  Exchange(const Bytes& image, bool reverses)
+      : image_(image),
+        buffer_{pixels_, 0, image.layout == Layout::kAC4 ? Layout::kC4 : image.layout, image.elementBytes},
+        reversal_(image),
+        reverses_(reverses) {}
+
+  void operator()(uint8_t* a, uint8_t* b, ptrdiff_t pixels) const {
+    const ptrdiff_t n = pixels * image_.PixelBytes();
+    std::memcpy(pixels_, a, n);
+    Put(b, a, n);
+    Put(pixels_, b, n);
+  }
+
+ private:
+  void Put(const uint8_t* from, uint8_t* to, ptrdiff_t n) const {
+    if (reverses_) return ReverseRow(reversal_, image_, from + n, to, n);
+    const ConstBytes src{from, n, buffer_.layout, image_.elementBytes};
+    CopyRows(src, Bytes{to, n, image_.layout, image_.elementBytes}, Size(n / image_.PixelBytes(), 1), Store::kOrdinary);
+  }
+
+  const Bytes& image_;
+  alignas(kStreamedLine) mutable uint8_t pixels_[kMostPixels * 16];
+  Bytes buffer_;
+  Reversal reversal_;
+  bool reverses_;
+};
+
+void ReverseRowInPlace(const Exchange& exchange, const Bytes& image, uint8_t* row, ptrdiff_t width) {
+  const int bytes = image.PixelBytes();
+  for (ptrdiff_t left = 0, half = width / 2; left < half; left += Exchange::kMostPixels) {
+    const ptrdiff_t n = std::min(Exchange::kMostPixels, half - left);
+    exchange(row + left * bytes, row + (width - left - n) * bytes, n);
+  }
+}
+
+void ReverseRowsInPlace(const Bytes& image, Size roi) {
+  const Exchange exchange(image, true);
+  for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRowInPlace(exchange, image, image.Row(y), roi.width);
+}
+
+// Row y and row H - 1 - y change places, with or without a reversal of both.
+void ExchangeRows(const Bytes& image, Size roi, bool reverses) {
+  const Exchange exchange(image, reverses);
+  const int bytes = image.PixelBytes();
+  for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
+    uint8_t *const upper = image.Row(y), *const lower = image.Row(roi.height - 1 - y);
+    for (ptrdiff_t x = 0; x < roi.width; x += Exchange::kMostPixels) {
+      const ptrdiff_t n = std::min(Exchange::kMostPixels, roi.width - x);
+      exchange(upper + x * bytes, lower + (reverses ? roi.width - x - n : x) * bytes, n);
+    }
+  }
+  if (reverses && roi.height % 2 != 0) ReverseRowInPlace(exchange, image, image.Row(roi.height / 2), roi.width);
+}
+
+bool IsDiagonal(QvpiAxis flip) { return flip == qvpAxis45 || flip == qvpAxis135; }
+
+QvpStatus MirrorInPlace(const Bytes& image, Size roi, QvpiAxis flip) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {image})) return failed;
+  if (IsDiagonal(flip) && roi.width != roi.height) return qvpStatusSize;
+  switch (flip) {
+    case qvpAxisHorizontal: ExchangeRows(image, roi, false); break;
+    case qvpAxisVertical: ReverseRowsInPlace(image, roi); break;
+    case qvpAxisBoth: ExchangeRows(image, roi, true); break;
+    case qvpAxis45: TransposeInPlace(image, roi.width); break;
+    case qvpAxis135:
+      ExchangeRows(image, roi, true);
+      TransposeInPlace(image, roi.width);
+      break;
+    default: return qvpStatusMirrorFlip;
+  }
+  return qvpStatusNoError;
+}
+
+// From its first to behind its last byte.
+struct ByteRange {
+  uintptr_t begin, end;
+
+  ByteRange(const ConstBytes& image, Size size)
+      : begin(reinterpret_cast<uintptr_t>(image.data)),
+        end(reinterpret_cast<uintptr_t>(image.Row(size.height - 1)) + image.RowBytes(size.width)) {}
+};
+
+// Whether two images share bytes. Neighbouring regions of one frame, which interleave row by row, do not: with equal
+// steps their columns are compared, row by row of the frame.
+bool Overlap(const ConstBytes& a, Size aSize, const ConstBytes& b, Size bSize) {
+  const ByteRange first(a, aSize), second(b, bSize);
+  if (first.end <= second.begin || second.end <= first.begin) return false;
+  if (a.step != b.step) return true;
+  const bool isAFirst = first.begin <= second.begin;
+  const uintptr_t distance = isAFirst ? second.begin - first.begin : first.begin - second.begin;
+  const ptrdiff_t earlier = isAFirst ? a.RowBytes(aSize.width) : b.RowBytes(bSize.width);
+  const ptrdiff_t later = isAFirst ? b.RowBytes(bSize.width) : a.RowBytes(aSize.width);
+  const ptrdiff_t column = static_cast<ptrdiff_t>(distance % static_cast<uintptr_t>(a.step));
+  return column < earlier || column + later > a.step;
+}
+
+QvpStatus MirrorDiagonal(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis flip) {
+  if (const QvpStatus failed = Validate<kPointers, kSteps, kSize>(roi, {src, dst})) return failed;
+  const Size turned(roi.height, roi.width);
+  if (Overlap(src, roi, Constant(dst), turned)) return qvpStatusNotSupportedMode;
+  if (flip == qvpAxis45) {
+    TransposePixels(src, dst, roi);
+  } else {
+    TransposePixels(Upended(src, roi.height), Upended(dst, turned.height), roi);
+  }
+  return qvpStatusNoError;
+}
+
+// Images of this many pixels are not read back soon: their rows bypass the caches.
+constexpr int64_t kStreamedPixels = 2097153;
+
+QvpStatus Mirror(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis flip) {
+  if (IsDiagonal(flip)) return MirrorDiagonal(src, dst, roi, flip);
+  if (src.data == dst.data && src.step == dst.step) return MirrorInPlace(dst, roi, flip);
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
+  const bool isLarge = static_cast<int64_t>(roi.width) * roi.height >= kStreamedPixels;
+  switch (flip) {
+    case qvpAxisHorizontal:
+      CopyRows(Upended(src, roi.height), dst, roi, isLarge ? Store::kStreaming : Store::kOrdinary);
+      break;
+    case qvpAxisVertical: ReverseRows(src, dst, roi); break;
+    case qvpAxisBoth: ReverseRows(Upended(src, roi.height), dst, roi); break;
+    default: return qvpStatusMirrorFlip;
+  }
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+#define MIRROR(type, layout)                                                                                        \
+  QvpStatus qvpiMirror_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,       \
+                                            QvpiSize roiSize, QvpiAxis flip) {                                      \
+    return Mirror(AsBytes(pSrc, srcStep, Layout::k##layout), AsBytes(pDst, dstStep, Layout::k##layout), roiSize,    \
+                  flip);                                                                                            \
+  }                                                                                                                 \
+  QvpStatus qvpiMirror_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip) { \
+    return MirrorInPlace(AsBytes(pSrcDst, srcDstStep, Layout::k##layout), roiSize, flip);                           \
+  }
+#define MIRROR_LAYOUTS(type) QVP_C1_C3_C4_AC4(MIRROR, type)
+
+QVP_EACH_MOVED_TYPE(MIRROR_LAYOUTS)

@@ -1,0 +1,256 @@
+// Transposition by tiles that are turned within registers.
+#include "geometry/transpose.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/check.h"
+#include "base/export.h"
+#include "base/store.h"
+#include "core/channels.h"
+#include "core/copy.h"
+
+namespace {
+using namespace qvp;
+
+using Wide = hn::ScalableTag<uint8_t>;
+using Block = hn::Full128<uint8_t>;
+
+// Pixels of kBytes bytes in registers: kUnit bytes each, a power of two, so that three channels are spread over four.
+template <int kBytes>
+struct Unit {
+  static constexpr int kUnit = kBytes % 3 == 0 ? kBytes / 3 * 4 : kBytes;
+  static constexpr bool kIsSpread = kUnit != kBytes;
+  static constexpr int kPixels = kBlockBytes / kUnit;  // in a block
+  static constexpr int kUsed = kPixels * kBytes;       // bytes of a block in memory
+  using Lane = hwy::UnsignedFromSize<kUnit == 16 ? 8 : kUnit>;
+};
+
+// One block from each of as many places as a vector has blocks, `stride` bytes apart.
+HWY_INLINE hn::Vec<Block> LoadBlocks(Block d, const uint8_t* from, ptrdiff_t) { return hn::LoadU(d, from); }
+template <class D>
+HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* from, ptrdiff_t stride) {
+  const hn::Half<D> half;
+  const ptrdiff_t halfBlocks = hn::MaxLanes(half) / kBlockBytes;
+  return hn::Combine(d, LoadBlocks(half, from + halfBlocks * stride, stride), LoadBlocks(half, from, stride));
+}
+
+// In each block, lane j of vector i becomes lane i of vector j. Every round interleaves the two halves of the vectors.
+template <class D, int kSide>
+HWY_INLINE void Turn(D d, hn::Vec<D> (&v)[kSide]) {
+  for (int round = 1; round < kSide; round *= 2) {
+    hn::Vec<D> next[kSide];
+    for (int i = 0; i < kSide / 2; ++i) {
+      next[2 * i] = hn::InterleaveLower(d, v[i], v[i + kSide / 2]);
+      next[2 * i + 1] = hn::InterleaveUpper(d, v[i], v[i + kSide / 2]);
+    }
+    for (int i = 0; i < kSide; ++i) v[i] = next[i];
+  }
+}
+
+// A tile of kColumns columns and kRows rows of the source. With kAlpha the fourth channel of the destination stays.
+template <int kBytes, bool kAlpha, class D>
+struct Tile {
+  using U = Unit<kBytes>;
+  static constexpr ptrdiff_t kBlocks = hn::MaxLanes(D()) / kBlockBytes, kColumns = U::kPixels,
+                             kRows = kColumns * kBlocks;
+
+  // For spread pixels, which bytes of a loaded block make the units, and for each unit's bytes their place in memory.
+  alignas(kBlockBytes) uint8_t spread[kBlockBytes], gather[kBlockBytes], alpha[kBlockBytes];
+  ptrdiff_t lead;
+
+  // Spread blocks are loaded with 4 bytes too many: before the pixels where `lead` is 4, else behind them.
+  explicit Tile(int bytesBefore) : lead(bytesBefore) {
+    std::memset(spread, 0x80, kBlockBytes);
+    std::memset(gather, 0x80, kBlockBytes);
+    for (int i = 0; i < U::kUsed; ++i) {
+      const int place = i / kBytes * U::kUnit + i % kBytes;
+      spread[place] = static_cast<uint8_t>(i + bytesBefore);
+      gather[i] = static_cast<uint8_t>(place);
+    }
+    for (int i = 0; i < kBlockBytes; ++i) alpha[i] = i % kBytes >= kBytes / 4 * 3 ? 0xFF : 0;
+  }
+
+  HWY_INLINE void operator()(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep) const {
+    const D d;
+    const hn::Repartition<typename U::Lane, D> lanes;
+    hn::Vec<decltype(lanes)> v[kColumns];
+    for (ptrdiff_t i = 0; i < kColumns; ++i) {
+      auto bytes = LoadBlocks(d, src + i * srcStep - lead, kColumns * srcStep);
+      if constexpr (U::kIsSpread) bytes = hn::TableLookupBytesOr0(bytes, hn::LoadDup128(d, spread));
+      v[i] = hn::BitCast(lanes, bytes);
+    }
+    if constexpr (kColumns > 1) Turn(lanes, v);
+    for (ptrdiff_t i = 0; i < kColumns; ++i) Put(d, hn::BitCast(d, v[i]), dst + i * dstStep);
+  }
+
+ private:
+  HWY_INLINE void Put(D d, hn::Vec<D> v, uint8_t* to) const {
+    if constexpr (U::kIsSpread) {
+      HWY_ALIGN uint8_t blocks[hn::MaxLanes(D())];
+      hn::Store(hn::TableLookupBytesOr0(v, hn::LoadDup128(d, gather)), d, blocks);
+      for (ptrdiff_t b = 0; b < kBlocks; ++b) std::memcpy(to + b * U::kUsed, blocks + b * kBlockBytes, U::kUsed);
+    } else {
+      hn::StoreU(kAlpha ? hn::IfVecThenElse(hn::LoadDup128(d, alpha), hn::LoadU(d, to), v) : v, d, to);
+    }
+  }
+};
+
+// Tiles are taken by blocks of 64 x 64 pixels, whose lines stay in the first-level cache.
+constexpr ptrdiff_t kBlockSide = 64;
+
+// Calls at(x, y) for tiles that cover an area of at least one tile. The last ones of a row or column may overlap their
+// neighbours: pixels are then written twice with one value.
+template <class At>
+void ForEachTile(Size size, ptrdiff_t columns, ptrdiff_t rows, const At& at) {
+  for (ptrdiff_t top = 0; top < size.height; top += kBlockSide) {
+    for (ptrdiff_t left = 0; left < size.width; left += kBlockSide) {
+      for (ptrdiff_t y = top; y < std::min(top + kBlockSide, size.height); y += rows) {
+        for (ptrdiff_t x = left; x < std::min(left + kBlockSide, size.width); x += columns) {
+          at(std::min(x, size.width - columns), std::min(y, size.height - rows));
+        }
+      }
+    }
+  }
+}
+
+template <int kBytes, bool kAlpha, class D>
+void TransposeTiles(const ConstBytes& src, const Bytes& dst, Size size) {
+  using T = Tile<kBytes, kAlpha, D>;
+  const T tile(0), lastTile(4);
+  const ptrdiff_t spare = T::U::kIsSpread ? kBlockBytes - T::U::kUsed : 0;
+  ForEachTile(size, T::kColumns, T::kRows, [&](ptrdiff_t x, ptrdiff_t y) {
+    const bool isLast = (x + T::kColumns) * kBytes + spare > size.width * kBytes;
+    (isLast ? lastTile : tile)(src.Row(y) + x * kBytes, src.step, dst.Row(x) + y * kBytes, dst.step);
+  });
+}
+
+template <int kBytes, bool kAlpha>
+void TransposeSmall(const ConstBytes& src, const Bytes& dst, Size size) {
+  for (ptrdiff_t x = 0; x < size.width; ++x) {
+    for (ptrdiff_t y = 0; y < size.height; ++y) {
+      std::memcpy(dst.Row(x) + y * kBytes, src.Row(y) + x * kBytes, kAlpha ? kBytes / 4 * 3 : kBytes);
+    }
+  }
+}
+
+template <int kBytes, bool kAlpha>
+void Transpose(const ConstBytes& src, const Bytes& dst, Size size) {
+  const bool isWide = size.width * kBytes >= kBlockBytes;
+  if (isWide && size.height >= Tile<kBytes, kAlpha, Wide>::kRows) {
+    TransposeTiles<kBytes, kAlpha, Wide>(src, dst, size);
+  } else if (isWide && size.height >= Tile<kBytes, kAlpha, Block>::kRows) {
+    TransposeTiles<kBytes, kAlpha, Block>(src, dst, size);
+  } else {
+    TransposeSmall<kBytes, kAlpha>(src, dst, size);
+  }
+}
+
+// Images beyond the caches, in whole blocks and lines: turned into a buffer of lines, which leave for memory at once.
+template <int kBytes>
+void TransposeLarge(const ConstBytes& src, const Bytes& dst, Size size) {
+  constexpr ptrdiff_t kColumns = 16, kRowBytes = kBlockSide * kBytes;
+  alignas(kStreamedLine) uint8_t lines[kColumns * kRowBytes];
+  const Bytes buffer{lines, kRowBytes, dst.layout, dst.elementBytes};
+  const Wide d;
+  for (ptrdiff_t x = 0; x < size.width; x += kColumns) {
+    for (ptrdiff_t y = 0; y < size.height; y += kBlockSide) {
+      const ConstBytes part{src.Row(y) + x * kBytes, src.step, src.layout, src.elementBytes};
+      Transpose<kBytes, false>(part, buffer, Size(kColumns, kBlockSide));
+      for (ptrdiff_t i = 0; i < kColumns; ++i) {
+        uint8_t* to = dst.Row(x + i) + y * kBytes;
+        for (ptrdiff_t b = 0; b < kRowBytes; b += hn::MaxLanes(d))
+          hn::Stream(hn::Load(d, buffer.Row(i) + b), d, to + b);
+      }
+    }
+  }
+  Fence(Store::kStreaming);
+}
+
+bool IsLarge(const ConstBytes& src, const Bytes& dst, Size size) {
+  const auto isMultiple = [](auto n, ptrdiff_t of) { return n % of == 0; };
+  return size.width >= 1025 && isMultiple(size.width, kBlockSide) && isMultiple(size.height, kBlockSide) &&
+         isMultiple(src.step, kBlockBytes) && isMultiple(reinterpret_cast<uintptr_t>(src.data), kBlockBytes) &&
+         isMultiple(dst.step, kStreamedLine) && isMultiple(reinterpret_cast<uintptr_t>(dst.data), kStreamedLine) &&
+         StoreFor(2 * static_cast<int64_t>(size.width) * size.height * src.PixelBytes()) == Store::kStreaming;
+}
+
+template <int kBytes>
+void TransposeAnySize(const ConstBytes& src, const Bytes& dst, Size size) {
+  if constexpr (kBytes % 4 == 0) {
+    if (KeepsAlpha(dst.layout)) return Transpose<kBytes, true>(src, dst, size);
+  }
+  IsLarge(src, dst, size) ? TransposeLarge<kBytes>(src, dst, size) : Transpose<kBytes, false>(src, dst, size);
+}
+
+}  // namespace
+
+void qvp::TransposePixels(const ConstBytes& src, const Bytes& dst, Size size) {
+  switch (dst.PixelBytes()) {
+    case 1: return TransposeAnySize<1>(src, dst, size);
+    case 2: return TransposeAnySize<2>(src, dst, size);
+    case 3: return TransposeAnySize<3>(src, dst, size);
+    case 4: return TransposeAnySize<4>(src, dst, size);
+    case 6: return TransposeAnySize<6>(src, dst, size);
+    case 8: return TransposeAnySize<8>(src, dst, size);
+    case 12: return TransposeAnySize<12>(src, dst, size);
+    default: return TransposeAnySize<16>(src, dst, size);
+  }
+}
+
+// Blocks on both sides of the diagonal change places; a block on it does so with itself.
+void qvp::TransposeInPlace(const Bytes& image, ptrdiff_t side) {
+  constexpr ptrdiff_t kPart = 32;
+  alignas(kStreamedLine) uint8_t pixels[kPart * kPart * 16];
+  const int bytes = image.PixelBytes();
+  const Bytes buffer{pixels, kPart * bytes, image.layout == Layout::kAC4 ? Layout::kC4 : image.layout,
+                     image.elementBytes};
+  const auto at = [&](ptrdiff_t x, ptrdiff_t y) {
+    return Bytes{image.Row(y) + x * bytes, image.step, image.layout, image.elementBytes};
+  };
+  const auto constant = [](const Bytes& b) { return ConstBytes{b.data, b.step, b.layout, b.elementBytes}; };
+  for (ptrdiff_t y = 0; y < side; y += kPart) {
+    const ptrdiff_t height = std::min(kPart, side - y);
+    for (ptrdiff_t x = y; x < side; x += kPart) {
+      const ptrdiff_t width = std::min(kPart, side - x);
+      TransposePixels(constant(at(x, y)), buffer, Size(width, height));
+      if (x != y) TransposePixels(constant(at(y, x)), at(x, y), Size(height, width));
+      if (KeepsAlpha(image.layout)) {
+        MoveChannels(constant(buffer), at(y, x), Size(height, width), {{0, 1, 2, kKeepChannel}});
+      } else {
+        CopyPixels(constant(buffer), at(y, x), Size(height, width), Store::kOrdinary);
+      }
+    }
+  }
+}
+
+namespace {
+
+QvpStatus TransposeInPlaceChecked(const Bytes& image, Size size) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(size, {image})) return failed;
+  if (size.width != size.height) return qvpStatusSize;
+  TransposeInPlace(image, size.width);
+  return qvpStatusNoError;
+}
+
+QvpStatus TransposeChecked(const ConstBytes& src, const Bytes& dst, Size size) {
+  if (src.data == dst.data && src.step == dst.step) return TransposeInPlaceChecked(dst, size);
+  if (const QvpStatus failed = Validate<kPointers, kSize>(size, {src, dst})) return failed;
+  TransposePixels(src, dst, size);
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+#define TRANSPOSE(type, layout)                                                                         \
+  QVP_MOVE(qvpiTranspose_##type##_##layout##R, type, layout, layout, TransposeChecked)                  \
+  QvpStatus qvpiTranspose_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { \
+    return TransposeInPlaceChecked(AsBytes(pSrcDst, srcDstStep, Layout::k##layout), roiSize);           \
+  }
+#define TRANSPOSE_LAYOUTS(type) \
+  TRANSPOSE(type, C1)           \
+  TRANSPOSE(type, C3)           \
+  TRANSPOSE(type, C4)
+
+QVP_EACH_MOVED_TYPE(TRANSPOSE_LAYOUTS)
+QVP_MOVE(qvpiTranspose_32fc_C1R, 32fc, C1, C1, TransposeChecked)

@@ -1,0 +1,10 @@
+// The families' lessons; see Lesson in exports.h.
+#pragma once
+
+#include "tests/support/exports.h"
+
+namespace test {
+
+bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
+
+}  // namespace test
