@@ -6,24 +6,24 @@
 namespace {
 using namespace bench;
 
-void Mirrors() {
-  const Image<uint8_t> a(kHd, 1), b(kHd, 1), c(kHd, 3), d(kHd, 3);
-  const Image<float> f(kHd, 1), g(kHd, 1);
-  Add({Name("mirror columns 8u C1", kHd),
+void Mirrors(QvpiSize size, bool isAsked) {
+  const Image<uint8_t> a(size, 1), b(size, 1), c(size, 3), d(size, 3);
+  const Image<float> f(size, 1), g(size, 1);
+  Add({Name("mirror columns 8u C1", size),
        {a.bytes(), b.bytes()},
-       [=] { Require(qvpiMirror_8u_C1R(a.data(), a.step, b.data(), b.step, kHd, qvpAxisVertical)); },
-       {{"OpenCV flip", [=] { cv::flip(a.mat, b.mat, 1); }, 10}}});
-  Add({Name("mirror columns 8u C3", kHd),
+       [=] { Require(qvpiMirror_8u_C1R(a.data(), a.step, b.data(), b.step, size, qvpAxisVertical)); },
+       {{"OpenCV flip", [=] { cv::flip(a.mat, b.mat, 1); }, isAsked ? 10.0 : 0}}});
+  Add({Name("mirror columns 8u C3", size),
        {c.bytes(), d.bytes()},
-       [=] { Require(qvpiMirror_8u_C3R(c.data(), c.step, d.data(), d.step, kHd, qvpAxisVertical)); },
-       {{"OpenCV flip", [=] { cv::flip(c.mat, d.mat, 1); }, 3}}});
-  Add({Name("mirror both 32f C1", kHd),
+       [=] { Require(qvpiMirror_8u_C3R(c.data(), c.step, d.data(), d.step, size, qvpAxisVertical)); },
+       {{"OpenCV flip", [=] { cv::flip(c.mat, d.mat, 1); }, isAsked ? 3.0 : 0}}});
+  Add({Name("mirror both 32f C1", size),
        {f.bytes(), g.bytes()},
-       [=] { Require(qvpiMirror_32f_C1R(f.data(), f.step, g.data(), g.step, kHd, qvpAxisBoth)); },
-       {{"OpenCV flip", [=] { cv::flip(f.mat, g.mat, -1); }, 1.2}}});
-  Add({Name("mirror columns in place 8u C3", kHd),
+       [=] { Require(qvpiMirror_32f_C1R(f.data(), f.step, g.data(), g.step, size, qvpAxisBoth)); },
+       {{"OpenCV flip", [=] { cv::flip(f.mat, g.mat, -1); }, isAsked ? 1.2 : 0}}});
+  Add({Name("mirror columns in place 8u C3", size),
        {0, 0, c.bytes()},
-       [=] { Require(qvpiMirror_8u_C3IR(c.data(), c.step, kHd, qvpAxisVertical)); },
+       [=] { Require(qvpiMirror_8u_C3IR(c.data(), c.step, size, qvpAxisVertical)); },
        {{"OpenCV flip", [=] { cv::flip(c.mat, c.mat, 1); }}}});
 }
 
@@ -38,6 +38,9 @@ void Transposition(const char* name, QvpiSize size, int channels, double atLeast
 }
 
 void Transpositions() {
+  Transposition<uint8_t>("transpose 8u C1", kTile, 1, 0, qvpiTranspose_8u_C1R);
+  Transposition<uint8_t>("transpose 8u C1", kVga, 1, 0, qvpiTranspose_8u_C1R);
+  Transposition<uint8_t>("transpose 8u C3", kVga, 3, 0, qvpiTranspose_8u_C3R);
   Transposition<uint8_t>("transpose 8u C1", kHd, 1, 2, qvpiTranspose_8u_C1R);
   Transposition<uint8_t>("transpose 8u C3", kHd, 3, 2, qvpiTranspose_8u_C3R);
   Transposition<uint8_t>("transpose 8u C1", kLarge, 1, 2, qvpiTranspose_8u_C1R);
@@ -46,6 +49,6 @@ void Transpositions() {
   Transposition<uint16_t>("transpose 16u C3", kHd, 3, 0, qvpiTranspose_16u_C3R);
 }
 
-const bool added = (Mirrors(), Transpositions(), true);
+const bool added = (Mirrors(kTile, false), Mirrors(kVga, false), Mirrors(kHd, true), Transpositions(), true);
 
 }  // namespace

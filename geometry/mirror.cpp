@@ -15,33 +15,34 @@ using namespace qvp;
 using Wide = hn::ScalableTag<uint8_t>;
 using Block = hn::Full128<uint8_t>;
 
-// Byte i of a block whose pixels stand in reverse order comes from byte order[i]. Blocks of spare bytes hold whole
-// pixels only: 15 or 12 bytes, which stand at the end of a loaded block.
+// Byte i of a block whose pixels stand in reverse order comes from byte order[i] of the loaded one. Blocks of pixels
+// that do not divide them have bytes to spare, in front when loaded; they hold 15 or 12 used ones.
 struct Reversal {
-  alignas(kBlockBytes) uint8_t order[kBlockBytes], keep[kBlockBytes];
+  alignas(kBlockBytes) uint8_t order[kBlockBytes], lastOrder[kBlockBytes], keep[kBlockBytes];
   int used;
 
   explicit Reversal(const Bytes& dst) {
     const int bytes = dst.PixelBytes(), kept = KeepsAlpha(dst.layout) ? dst.elementBytes : 0;
     used = kBlockBytes / bytes * bytes;
+    const int spare = kBlockBytes - used;
     for (int i = 0; i < kBlockBytes; ++i) {
-      const int pixel = i / bytes, place = i % bytes;
-      order[i] = static_cast<uint8_t>(i < used ? kBlockBytes - (pixel + 1) * bytes + place : 0x80);
-      keep[i] = place >= bytes - kept ? 0xFF : 0;
+      const auto from = [&](int j) { return static_cast<uint8_t>(used - (j / bytes + 1) * bytes + j % bytes); };
+      order[i] = i < used ? from(i) + spare : 0x80;
+      lastOrder[i] = i < spare ? 0x80 : from(i - spare);  // of the row's first bytes, to its last ones
+      keep[i] = i % bytes >= bytes - kept ? 0xFF : 0;
     }
   }
 };
 
-// Row pieces of at most as many bytes as a few blocks, one pixel after the other.
+// Row pieces shorter than a block, one pixel after the other.
 HWY_NOINLINE void ReversePixels(const uint8_t* end, uint8_t* dst, ptrdiff_t n, int bytes, int copied) {
   for (ptrdiff_t i = 0; i < n; i += bytes) std::memcpy(dst + i, end - i - bytes, copied);
 }
 
 // Pixels that divide a block: whole vectors. The last vector may overlap the one before it, as both write one value.
-template <bool kKeep>
-void ReverseBlocks(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
-  const Wide d;
-  constexpr ptrdiff_t kVector = hn::MaxLanes(Wide());
+template <bool kKeep, class D>
+void ReverseVectors(D d, const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
+  constexpr ptrdiff_t kVector = hn::MaxLanes(D());
   const auto order = hn::LoadDup128(d, reversal.order), keep = hn::LoadDup128(d, reversal.keep);
   const auto at = [&](ptrdiff_t i) HWY_ATTR {
     const auto v = hn::TableLookupBytes(hn::ReverseBlocks(d, hn::LoadU(d, end - i - kVector)), order);
@@ -51,28 +52,37 @@ void ReverseBlocks(const Reversal& reversal, const uint8_t* end, uint8_t* dst, p
   if (n % kVector != 0) at(n - kVector);
 }
 
-// Three channels: blocks with spare bytes, which the next block's store overwrites.
-void ReverseSpare(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n, int bytes) {
+// Three channels: blocks with spare bytes, which the next block's store overwrites. The last block keeps what its own
+// spare bytes cover.
+void ReverseSpare(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
   const Block d;
-  const auto order = hn::Load(d, reversal.order);
+  const auto order = hn::Load(d, reversal.order), lastOrder = hn::Load(d, reversal.lastOrder);
   const ptrdiff_t used = reversal.used;
   ptrdiff_t i = 0;
   for (; i + kBlockBytes <= n; i += used) {
     hn::StoreU(hn::TableLookupBytesOr0(hn::LoadU(d, end - i - kBlockBytes), order), d, dst + i);
   }
-  ReversePixels(end - i, dst + i, n - i, bytes, bytes);
+  if (i == n) return;
+  uint8_t* const last = dst + n - kBlockBytes;
+  const auto before = hn::IfThenElseZero(hn::FirstN(d, kBlockBytes - used), hn::LoadU(d, last));
+  hn::StoreU(hn::Or(before, hn::TableLookupBytesOr0(hn::LoadU(d, end - n), lastOrder)), d, last);
 }
 
 // dst: n bytes, the pixels before `end` from the last to the first. The rows must not overlap.
+template <bool kKeep>
 void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
-  const int bytes = image.PixelBytes();
-  if (n < static_cast<ptrdiff_t>(hn::MaxLanes(Wide()))) {
-    ReversePixels(end, dst, n, bytes, ProcessedChannels(image.layout) * image.elementBytes);
-  } else if (reversal.used != kBlockBytes || kBlockBytes % bytes != 0) {
-    ReverseSpare(reversal, end, dst, n, bytes);
+  if (n < kBlockBytes) {
+    ReversePixels(end, dst, n, image.PixelBytes(), ProcessedChannels(image.layout) * image.elementBytes);
+  } else if (reversal.used != kBlockBytes) {
+    ReverseSpare(reversal, end, dst, n);
+  } else if (n < static_cast<ptrdiff_t>(hn::MaxLanes(Wide()))) {
+    ReverseVectors<kKeep>(Block(), reversal, end, dst, n);
   } else {
-    KeepsAlpha(image.layout) ? ReverseBlocks<true>(reversal, end, dst, n) : ReverseBlocks<false>(reversal, end, dst, n);
+    ReverseVectors<kKeep>(Wide(), reversal, end, dst, n);
   }
+}
+void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
+  (KeepsAlpha(image.layout) ? ReverseRow<true> : ReverseRow<false>)(reversal, image, end, dst, n);
 }
 
 ConstBytes Constant(const Bytes& image) { return {image.data, image.step, image.layout, image.elementBytes}; }
