@@ -17,8 +17,8 @@ extern "C" {
 /** Bounds values from above or below.
  *
  *  With qvpCmpGreater, dst = min(src, threshold); with qvpCmpLess, dst = max(src, threshold). A pixel that is not a
- *  number stays as it is, and so does a zero of either sign against a threshold of zero. The `I` forms work in place.
- *  Source and destination may be the same image.
+ *  number stays as it is, and so does a zero of either sign against a threshold of zero. Source and destination may be
+ *  the same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -48,6 +48,28 @@ QvpStatus qvpiThreshold_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, i
 QvpStatus qvpiThreshold_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], QvpCmpOp cmpOp);
+/** @} */
+
+/** @name Threshold, in place
+ *  @{ */
+/** Bounds values from above or below, in place.
+ *
+ *
+ *  With qvpCmpGreater, dst = min(src, threshold); with qvpCmpLess, dst = max(src, threshold). A pixel that is not a
+ *  number stays as it is, and so does a zero of either sign against a threshold of zero.
+ *
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @param cmpOp qvpCmpGreater or qvpCmpLess
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNotSupportedMode: `cmpOp` is neither of the two
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], QvpCmpOp cmpOp);
@@ -70,8 +92,8 @@ QvpStatus qvpiThreshold_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiS
  *  @{ */
 /** Bounds values from above: dst = min(src, threshold).
  *
- *  The same as qvpiThreshold with qvpCmpGreater: a pixel that is not a number stays as it is. The `I` forms work in
- *  place. Source and destination may be the same image.
+ *  The same as qvpiThreshold with qvpCmpGreater: a pixel that is not a number stays as it is. Source and destination
+ *  may be the same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -99,6 +121,24 @@ QvpStatus qvpiThreshold_GT_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiThreshold_GT_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
 QvpStatus qvpiThreshold_GT_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4]);
 QvpStatus qvpiThreshold_GT_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
+/** @} */
+
+/** @name Threshold: values above become the threshold, in place
+ *  @{ */
+/** Bounds values from above: dst = min(src, threshold), in place.
+ *
+ *
+ *  The same as qvpiThreshold with qvpCmpGreater: a pixel that is not a number stays as it is.
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_GT_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold);
 QvpStatus qvpiThreshold_GT_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3]);
 QvpStatus qvpiThreshold_GT_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4]);
@@ -121,8 +161,8 @@ QvpStatus qvpiThreshold_GT_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize r
  *  @{ */
 /** Bounds values from below: dst = max(src, threshold).
  *
- *  The same as qvpiThreshold with qvpCmpLess: a pixel that is not a number stays as it is. The `I` forms work in
- *  place. Source and destination may be the same image.
+ *  The same as qvpiThreshold with qvpCmpLess: a pixel that is not a number stays as it is. Source and destination may
+ *  be the same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -150,6 +190,24 @@ QvpStatus qvpiThreshold_LT_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiThreshold_LT_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
 QvpStatus qvpiThreshold_LT_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4]);
 QvpStatus qvpiThreshold_LT_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
+/** @} */
+
+/** @name Threshold: values below become the threshold, in place
+ *  @{ */
+/** Bounds values from below: dst = max(src, threshold), in place.
+ *
+ *
+ *  The same as qvpiThreshold with qvpCmpLess: a pixel that is not a number stays as it is.
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_LT_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold);
 QvpStatus qvpiThreshold_LT_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3]);
 QvpStatus qvpiThreshold_LT_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4]);
@@ -172,8 +230,8 @@ QvpStatus qvpiThreshold_LT_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize r
  *  @{ */
 /** Replaces values above a threshold: dst = src > threshold ? value : src.
  *
- *  A value equal to the threshold stays, and so does a pixel that is not a number. The `I` forms work in place. Source
- *  and destination may be the same image.
+ *  A value equal to the threshold stays, and so does a pixel that is not a number. Source and destination may be the
+ *  same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -202,6 +260,25 @@ QvpStatus qvpiThreshold_GTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 QvpStatus qvpiThreshold_GTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
 QvpStatus qvpiThreshold_GTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], const Qvp32f value[4]);
 QvpStatus qvpiThreshold_GTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
+/** @} */
+
+/** @name Threshold: values above are replaced, in place
+ *  @{ */
+/** Replaces values above a threshold: dst = src > threshold ? value : src, in place.
+ *
+ *
+ *  A value equal to the threshold stays, and so does a pixel that is not a number.
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @param value what stands for values above it, given in the same way
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_GTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, Qvp8u value);
 QvpStatus qvpiThreshold_GTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], const Qvp8u value[3]);
 QvpStatus qvpiThreshold_GTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], const Qvp8u value[4]);
@@ -224,8 +301,8 @@ QvpStatus qvpiThreshold_GTVal_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSiz
  *  @{ */
 /** Replaces values below a threshold: dst = src < threshold ? value : src.
  *
- *  A value equal to the threshold stays, and so does a pixel that is not a number. The `I` forms work in place. Source
- *  and destination may be the same image.
+ *  A value equal to the threshold stays, and so does a pixel that is not a number. Source and destination may be the
+ *  same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -254,6 +331,25 @@ QvpStatus qvpiThreshold_LTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 QvpStatus qvpiThreshold_LTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
 QvpStatus qvpiThreshold_LTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], const Qvp32f value[4]);
 QvpStatus qvpiThreshold_LTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
+/** @} */
+
+/** @name Threshold: values below are replaced, in place
+ *  @{ */
+/** Replaces values below a threshold: dst = src < threshold ? value : src, in place.
+ *
+ *
+ *  A value equal to the threshold stays, and so does a pixel that is not a number.
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @param value what stands for values below it, given in the same way
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_LTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, Qvp8u value);
 QvpStatus qvpiThreshold_LTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], const Qvp8u value[3]);
 QvpStatus qvpiThreshold_LTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], const Qvp8u value[4]);
@@ -277,8 +373,7 @@ QvpStatus qvpiThreshold_LTVal_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSiz
 /** Replaces values below a lower and above an upper threshold.
  *
  *  dst = src < thresholdLT ? valueLT : src > thresholdGT ? valueGT : src. A pixel that is not a number stays as it is.
- *  The values need not lie between the thresholds. The `I` forms work in place. Source and destination may be the same
- *  image.
+ *  The values need not lie between the thresholds. Source and destination may be the same image.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -309,6 +404,28 @@ QvpStatus qvpiThreshold_LTValGTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
 QvpStatus qvpiThreshold_LTValGTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[3], const Qvp32f valueLT[3], const Qvp32f thresholdGT[3], const Qvp32f valueGT[3]);
 QvpStatus qvpiThreshold_LTValGTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[4], const Qvp32f valueLT[4], const Qvp32f thresholdGT[4], const Qvp32f valueGT[4]);
 QvpStatus qvpiThreshold_LTValGTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[3], const Qvp32f valueLT[3], const Qvp32f thresholdGT[3], const Qvp32f valueGT[3]);
+/** @} */
+
+/** @name Threshold: values on both sides are replaced, in place
+ *  @{ */
+/** Replaces values below a lower and above an upper threshold, in place.
+ *
+ *
+ *  dst = src < thresholdLT ? valueLT : src > thresholdGT ? valueGT : src. A pixel that is not a number stays as it is.
+ *  The values need not lie between the thresholds.
+ *
+ *  @param pSrcDst,srcDstStep the image, source and destination
+ *  @param roiSize region in pixels
+ *  @param thresholdLT,thresholdGT lower and upper threshold:
+ *          one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @param valueLT,valueGT what stands for values below and above, given in the same way
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or array of values is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusThreshold: not thresholdLT <= thresholdGT in a processed channel
+ *  - qvpStatusNoError: otherwise
+ */
 QvpStatus qvpiThreshold_LTValGTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u thresholdLT, Qvp8u valueLT, Qvp8u thresholdGT, Qvp8u valueGT);
 QvpStatus qvpiThreshold_LTValGTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u thresholdLT[3], const Qvp8u valueLT[3], const Qvp8u thresholdGT[3], const Qvp8u valueGT[3]);
 QvpStatus qvpiThreshold_LTValGTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u thresholdLT[4], const Qvp8u valueLT[4], const Qvp8u thresholdGT[4], const Qvp8u valueGT[4]);
