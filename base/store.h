@@ -21,6 +21,11 @@ inline Store StoreFor(int64_t bytes) {
   return qvpGetMaxCacheSizeB(&cache) == qvpStatusNoError && bytes >= cache ? Store::kStreaming : Store::kOrdinary;
 }
 
+// The same for calls that read about as much as they write, by the bytes of both. A cache beyond this is shared by so
+// many cores that one of them reaches memory as fast by streaming.
+inline constexpr int64_t kLargestUsefulCache = 32 << 20;
+inline Store StoreForMoved(int64_t bytes) { return bytes >= kLargestUsefulCache ? Store::kStreaming : StoreFor(bytes); }
+
 // Makes streamed rows visible to other threads before the call returns.
 inline void Fence(Store store) {
   if (store == Store::kStreaming) hwy::FlushStream();

@@ -46,7 +46,7 @@ void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi) {
 
 QvpStatus Copy(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
-  CopyPixels(src, dst, roi, StoreFor(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height));
+  CopyPixels(src, dst, roi, StoreForMoved(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height));
   return qvpStatusNoError;
 }
 

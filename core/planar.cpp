@@ -138,7 +138,7 @@ bool HasAlignedRows(const Image<T>& image) {
 
 template <class T>
 Store StoreForRows(Size roi, const Image<T>& pixels, bool aligned) {
-  return aligned ? StoreFor(2 * static_cast<int64_t>(pixels.RowBytes(roi.width)) * roi.height) : Store::kOrdinary;
+  return aligned ? StoreForMoved(2 * static_cast<int64_t>(pixels.RowBytes(roi.width)) * roi.height) : Store::kOrdinary;
 }
 
 constexpr Layout LayoutOf(int planes) { return planes == 3 ? Layout::kC3 : Layout::kC4; }

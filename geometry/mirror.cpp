@@ -129,8 +129,8 @@ class Exchange {
     CopyRows(src, Bytes{to, n, image_.layout, image_.elementBytes}, Size(n / image_.PixelBytes(), 1), Store::kOrdinary);
   }
 
-  const Bytes& image_;
   alignas(kStreamedLine) mutable uint8_t pixels_[kMostPixels * 16];
+  const Bytes& image_;
   Bytes buffer_;
   Reversal reversal_;
   bool reverses_;
