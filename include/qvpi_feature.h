@@ -12,6 +12,145 @@
 extern "C" {
 #endif
 
+/** @name Histogram of oriented gradients: record
+ *  @{ */
+/** Size of the record that qvpiHOGInit() fills: 72 + 16 blockSize^2 bytes.
+ *
+ *  The configuration, with what it has to be:
+ *
+ *  @code
+ *    cvCompatible  0: blocks and cells row by row; else both column by column
+ *    cellSize      side of a cell in pixels, 2 to 16
+ *    blockSize     side of a block in pixels: 2 cellSize
+ *    blockStride   pixels from block to block, a positive multiple of cellSize
+ *    nbins         orientations over half a turn, 2 to 16
+ *    sigma         standard deviation of the weights around the middle of a block, in pixels, above 0
+ *    l2thresh      where the values of a block are clipped, above 0
+ *    winSize       the window in pixels: blockSize and any number of blockStrides, both ways
+ *  @endcode
+ *
+ *  @param pConfig the configuration
+ *  @param pSpecSize receives the size in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusNotSupportedMode: cellSize, blockSize, blockStride, nbins, sigma or l2thresh is none of the above
+ *  - qvpStatusSize: winSize is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHOGGetSize(const QvpiHOGConfig* pConfig, int* pSpecSize);
+/** @} */
+
+/** @name Histogram of oriented gradients: initialisation
+ *  @{ */
+/** Fills a record. It may lie at any address, may be moved, and is read only afterwards.
+ *
+ *  A pixel (i, j) of a block has a weight for each of the four cells, a Gaussian times the linear share of the cell in
+ *  either direction:
+ *
+ *    weight = exp(-(dx^2 + dy^2) / (2 sigma^2)) a(i) a(j)
+ *
+ *  with dx = i - blockSize / 2 + 0.5, dy alike, and a(i) = max(0, 1 - |(i + 0.5) / cellSize - m|), m = 0.5 for the
+ *  first and 1.5 for the second cell. Single precision.
+ *
+ *  @param pConfig the configuration; see qvpiHOGGetSize()
+ *  @param pHOGSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusNotSupportedMode, qvpStatusSize: as qvpiHOGGetSize()
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHOGInit(const QvpiHOGConfig* pConfig, QvpiHOGSpec* pHOGSpec);
+/** @} */
+
+/** @name Histogram of oriented gradients: work buffer
+ *  @{ */
+/** Size of the work buffer for a region: 12 width height bytes, at any address.
+ *
+ *  @param pHOGSpec the record
+ *  @param roiSize the region in pixels
+ *  @param pBufferSize receives the size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: the record was not made by qvpiHOGInit()
+ *  - qvpStatusSize: the region is smaller than the window
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHOGGetBufferSize(const QvpiHOGSpec* pHOGSpec, QvpiSize roiSize, int* pBufferSize);
+/** @} */
+
+/** @name Histogram of oriented gradients: descriptor
+ *  @{ */
+/** Size of the descriptor of one window: 16 nbins bytes for each block.
+ *
+ *  @param pHOGSpec the record
+ *  @param pDescriptorSize receives the size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: the record was not made by qvpiHOGInit()
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHOGGetDescriptorSize(const QvpiHOGSpec* pHOGSpec, int* pDescriptorSize);
+/** @} */
+
+/** @name Histogram of oriented gradients
+ *  @{ */
+/** Describes windows of an image by the directions of its gradients.
+ *
+ *  1. The gradient of each pixel: gx = I(x + 1, y) - I(x - 1, y), gy = I(x, y + 1) - I(x, y - 1), as floats; for C3,
+ *  of the channel where gx^2 + gy^2 is greatest, the first of several. Beyond the image the border type says what is
+ *  found: qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, and one pixel on each side that is in memory.
+ *
+ *  2. Its vote of sqrt(gx^2 + gy^2) for the direction t = atan2(gy, gx) modulo pi, shared linearly between the two
+ *  nearest of nbins bins, the centres of which are at (k + 1/2) pi / nbins; the last bin and the first are neighbours.
+ *  Directions are exact to 1e-5.
+ *
+ *  3. For each block of a window the votes of its pixels, times their weights for the four cells, summed by cells and
+ *  bins; then divided by sqrt(2^-23 + the sum of the squares), bounded by l2thresh, and divided by the same root
+ *  again.
+ *
+ *  The descriptor of a window is nbins floats for each cell of each block:
+ *
+ *  @code
+ *    order of           cvCompatible = 0       cvCompatible != 0
+ *    blocks             row by row             column by column
+ *    cells of a block   (0,0) (1,0) (0,1) (1,1)   (0,0) (0,1) (1,0) (1,1)   as (across, down)
+ *  @endcode
+ *
+ *  The region is trimmed at the right and below to whole blocks. Windows that do not lie within it are skipped:
+ *  nothing is written for them, and the next descriptor takes their place. Source: N. Dalal and B. Triggs, Histograms
+ *  of oriented gradients for human detection, 2005.
+ *
+ *  @param pSrc,srcStep source image; row starts need no alignment
+ *  @param roiSize its size in pixels
+ *  @param pLocation the first pixels of the windows. Null stands for one window at (0, 0)
+ *  @param nLocations how many there are
+ *  @param pDst receives the descriptors
+ *  @param pHOGSpec the record
+ *  @param borderID what is outside of the image
+ *  @param borderValue the value of qvpBorderConst, one for each channel; never null
+ *  @param pBuffer work buffer of qvpiHOGGetBufferSize() bytes for the region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record, source, destination, border value or work buffer is null
+ *  - qvpStatusContextMatch: the record was not made by qvpiHOGInit()
+ *  - qvpStatusStep: the step is below 1
+ *  - qvpStatusSize: the region is smaller than the window
+ *  - qvpStatusBadArgument: nLocations is below 1
+ *  - qvpStatusNullPointer: pLocation is null and nLocations is not 1
+ *  - qvpStatusBorder: a border type other than those above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHOG_8u32f_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_8u32f_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_16u32f_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_16u32f_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_16s32f_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_16s32f_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiHOG_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

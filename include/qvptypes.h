@@ -180,6 +180,18 @@ enum {
 };
 /** @} */
 
+/** Configuration of the histogram of oriented gradients; see qvpiHOGGetSize(). */
+typedef struct {
+    int cvCompatible; /**< order of blocks and cells: 0 by rows, else by columns */
+    int cellSize;     /**< side of a cell in pixels */
+    int blockSize;    /**< side of a block in pixels */
+    int blockStride;  /**< pixels from block to block */
+    int nbins;        /**< orientations over half a turn */
+    Qvp32f sigma;     /**< standard deviation of the weights in a block, in pixels */
+    Qvp32f l2thresh;  /**< bound of the values of a block */
+    QvpiSize winSize; /**< the window in pixels */
+} QvpiHOGConfig;
+
 /** @name Records
  *  Opaque: in memory of the caller, of the size that a query tells, filled by an Init function, read by any number of
  *  threads. A record must not be moved or copied after its Init.

@@ -5,6 +5,7 @@
 
 namespace test {
 
+bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
