@@ -4,7 +4,19 @@
 #include "base/pairs.h"
 #include "filter/border_filter_rows.h"
 
+// For lambdas: one that is called makes memory of what it refers to.
+#define QVP_INLINED __attribute__((always_inline))
+
 namespace qvp {
+
+// Calls body(0), body(1) ... with constants, so that arrays of vectors stay in registers.
+template <int kCount, class Body>
+HWY_INLINE void Unrolled(const Body& body) {
+  [&]<int... kIndex>(std::integer_sequence<int, kIndex...>) QVP_INLINED {
+    (body(std::integral_constant<int, kIndex>()), ...);
+  }
+  (std::make_integer_sequence<int, kCount>());
+}
 
 // To a whole number, by mode: 0 toward zero, 1 to the nearest with ties to even, 2 with ties away from zero.
 template <class D, class V = hn::Vec<D>>
@@ -96,16 +108,20 @@ template <int kCount, class T, class V>
 HWY_INLINE void StoreResults(const V (&v)[kCount], T* to) {
   const hn::ScalableTag<int32_t> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-  int i = 0;
-  if constexpr (sizeof(T) == 1) {
-    for (; i + 4 <= kCount; i += 4) {
+  constexpr int kPacked = 4 / sizeof(T), kGroups = kCount / kPacked;  // vectors that one vector of results is made of
+  Unrolled<kGroups>([&](auto group) QVP_INLINED {
+    constexpr int i = group * kPacked;
+    if constexpr (sizeof(T) == 1) {
       const auto all = NarrowTwo(NarrowTwo(v[i], v[i + 1]), NarrowTwo(v[i + 2], v[i + 3]));
       hn::StoreU(all, hn::ScalableTag<T>(), to + i * kLanes);
+    } else {
+      hn::StoreU(NarrowTwo(v[i], v[i + 1]), hn::ScalableTag<T>(), to + i * kLanes);
     }
-  } else {
-    for (; i + 2 <= kCount; i += 2) hn::StoreU(NarrowTwo(v[i], v[i + 1]), hn::ScalableTag<T>(), to + i * kLanes);
-  }
-  for (; i < kCount; ++i) hn::StoreU(Narrow<T>(d, v[i]), hn::Rebind<T, decltype(d)>(), to + i * kLanes);
+  });
+  Unrolled<kCount % kPacked>([&](auto rest) QVP_INLINED {
+    constexpr int i = kGroups * kPacked + rest;
+    hn::StoreU(Narrow<T>(d, v[i]), hn::Rebind<T, decltype(d)>(), to + i * kLanes);
+  });
 }
 
 // Sums of 32 bits to results.
@@ -123,7 +139,7 @@ class WordSums {
   template <int kVectors, class V>
   HWY_INLINE void Store(const V (&sums)[kVectors], T* to) const {
     V results[kVectors];
-    for (int v = 0; v < kVectors; ++v) results[v] = quotient_(hn::ScalableTag<int32_t>(), sums[v]);
+    Unrolled<kVectors>([&](auto v) QVP_INLINED { results[v] = quotient_(hn::ScalableTag<int32_t>(), sums[v]); });
     StoreResults<kVectors>(results, to);
   }
 
@@ -158,12 +174,15 @@ class ByteSums {
   HWY_INLINE void StoreNarrow(const V (&sums)[kVectors], uint8_t* to) const {
     const hn::ScalableTag<int16_t> d;
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-    int v = 0;
-    for (; v + 2 <= kVectors; v += 2) {
-      hn::StoreU(NarrowTwo(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(), to + v * kLanes);
+    if constexpr (kVectors == 1) {
+      const hn::Rebind<uint8_t, decltype(d)> bytes;
+      hn::StoreU(hn::DemoteTo(bytes, shift_(d, sums[0])), bytes, to);
+    } else {
+      Unrolled<kVectors / 2>([&](auto pair) QVP_INLINED {
+        constexpr int v = 2 * pair;
+        hn::StoreU(NarrowTwo(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(), to + v * kLanes);
+      });
     }
-    const hn::Rebind<uint8_t, decltype(d)> bytes;
-    for (; v < kVectors; ++v) hn::StoreU(hn::DemoteTo(bytes, shift_(d, sums[v])), bytes, to + v * kLanes);
   }
 
   template <int kVectors, class V>
@@ -171,13 +190,13 @@ class ByteSums {
     const hn::ScalableTag<int32_t> d;
     const hn::ScalableTag<uint16_t> u;
     hn::Vec<decltype(d)> results[2 * kVectors];
-    for (int v = 0; v < kVectors; ++v) {
+    Unrolled<kVectors>([&](auto v) QVP_INLINED {
       const auto sum = hn::BitCast(u, sums[v]);
       const auto lower = hn::PromoteTo(d, hn::LowerHalf(sum)),
                  upper = hn::PromoteTo(d, hn::UpperHalf(hn::Half<decltype(u)>(), sum));
       results[2 * v] = quotient_(d, hn::Add(lower, hn::Set(d, widened_)));
       results[2 * v + 1] = quotient_(d, hn::Add(upper, hn::Set(d, widened_)));
-    }
+    });
     StoreResults<2 * kVectors>(results, to);
   }
 
@@ -211,18 +230,18 @@ class PairKernel {
     const hn::ScalableTag<hwy::MakeSigned<typename Sums::Lane>> coefficients;
     const hn::ScalableTag<int32_t> pairs;
     hn::Vec<decltype(d)> above[kVectors], below[kVectors];
-    for (int v = 0; v < kVectors; ++v) above[v] = below[v] = hn::Set(d, sums_.start);
+    Unrolled<kVectors>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
     const int32_t* pair = pairs_;
     for (ptrdiff_t p = 0; p < lines_; ++p) {
       const auto* line = lines[p] + at;
       for (ptrdiff_t i = 0; i < width_; ++i, line += channels_, pair += 2) {
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
         const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
-        for (int v = 0; v < kVectors; ++v) {
+        Unrolled<kVectors>([&](auto v) QVP_INLINED {
           const auto pixel = hn::LoadU(pixels, reinterpret_cast<const typename Sums::Lane*>(line + v * kLanes));
           above[v] = hn::Add(above[v], MulAddPairs(pixel, a));
           below[v] = hn::Add(below[v], MulAddPairs(pixel, b));
-        }
+        });
       }
     }
     sums_.template Store<kVectors>(above, upper);
@@ -255,7 +274,7 @@ class RealKernel {
   HWY_INLINE void Run(const F* const* lines, ptrdiff_t at, T* upper, T* lower) const {
     const hn::ScalableTag<F> d;
     hn::Vec<decltype(d)> above[kVectors], below[kVectors];
-    for (int v = 0; v < kVectors; ++v) above[v] = below[v] = hn::Zero(d);
+    Unrolled<kVectors>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
     const F* k = coefficients_;
     AddRow<kVectors>(lines[0] + at, k, above);
     for (ptrdiff_t j = 1; j < height_; ++j, k += width_) AddRows<kVectors>(lines[j] + at, k + width_, k, above, below);
@@ -270,7 +289,8 @@ class RealKernel {
     const hn::ScalableTag<F> d;
     for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
       const V a = hn::Set(d, k[i]);
-      for (int v = 0; v < kVectors; ++v) sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a));
+      Unrolled<kVectors>([&](auto v)
+                             QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a)); });
     }
   }
   template <int kVectors, class V>
@@ -279,17 +299,17 @@ class RealKernel {
     const hn::ScalableTag<F> d;
     for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
       const V a = hn::Set(d, k[i]), b = hn::Set(d, kBelow[i]);
-      for (int v = 0; v < kVectors; ++v) {
+      Unrolled<kVectors>([&](auto v) QVP_INLINED {
         const V pixel = hn::LoadU(d, line + v * kLanes);
         above[v] = hn::Add(above[v], hn::Mul(pixel, a));
         below[v] = hn::Add(below[v], hn::Mul(pixel, b));
-      }
+      });
     }
   }
   template <int kVectors, class V>
   HWY_INLINE void Store(const V (&sums)[kVectors], T* to) const {
     const hn::ScalableTag<F> d;
-    for (int v = 0; v < kVectors; ++v) {
+    Unrolled<kVectors>([&](auto v) QVP_INLINED {
       V result = sums[v];
       if constexpr (sizeof(F) == sizeof(double)) {
         result = hn::Div(hn::Add(result, hn::Set(d, offset_)), hn::Set(d, divisor_));
@@ -298,7 +318,7 @@ class RealKernel {
       }
       if constexpr (std::is_integral_v<T>) result = RoundedBy(mode_, d, result);
       hn::StoreU(Narrow<T>(d, result), hn::Rebind<T, decltype(d)>(), to + v * kLanes);
-    }
+    });
   }
 
   const F* coefficients_;
