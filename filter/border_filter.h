@@ -30,8 +30,9 @@ struct FilterRecord {
   int32_t divisor, offset;  // integer kinds divide by the divisor; the offset is added to the quotient
   QvpRoundMode roundMode;   // with the flag of accuracy
   QvpHintAlgorithm hint;
-  PairForm pairForm;
   int64_t positive, negative;  // sums of the coefficients of an integer kernel of either sign
+  PairForm pairForm;
+  int32_t reserved;  // instead of padding
 
   static constexpr int kHeadBytes = 128, kModeMask = 3;
 
@@ -88,7 +89,7 @@ class FilterWork {
     return (ByteCount(columns_ + kernelWidth_ - 1) * channels_ * int64_t{sizeof(double)} + kSpare)
         .RoundedTo(kRecordBoundary);
   }
-  ByteCount PointerBytes() const { return (ByteCount(rows_) * int64_t{sizeof(void*)}).RoundedTo(kRecordBoundary); }
+  ByteCount PointerBytes() const { return (ByteCount(rows_) * 8).RoundedTo(kRecordBoundary); }
   ByteCount EdgeBytes() const {
     return (ByteCount(kernelWidth_) * int64_t{sizeof(int32_t)}).RoundedTo(kRecordBoundary);
   }

@@ -65,5 +65,6 @@ class Scene {
 // What a family's parameters mean, where the general rules do not know: sets `argument` for the parameter at `place`
 // and returns true, or returns false. Lessons come first, so that they can overrule.
 using Lesson = bool (*)(Scene& scene, size_t place, Argument& argument);
+bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
