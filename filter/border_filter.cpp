@@ -16,12 +16,13 @@ struct Job {
 };
 
 template <class Kernel, class T>
-void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
+void FilterBlocks(const FilterRecord& record, const Job<T>& job, const Kernel& kernel, Extent columns) {
   const int channels = job.source.channels;
   const FilterWork work(record.width, record.height, channels, job.roi.width);
-  const int64_t width = job.roi.width, blocks = (width + work.columns() - 1) / work.columns();
+  const int64_t width = columns.end - columns.begin, blocks = (width + work.columns() - 1) / work.columns();
   for (int64_t b = 0; b < blocks; ++b) {
-    const auto x = static_cast<ptrdiff_t>(width * b / blocks), end = static_cast<ptrdiff_t>(width * (b + 1) / blocks);
+    const auto x = static_cast<ptrdiff_t>(columns.begin + width * b / blocks);
+    const auto end = static_cast<ptrdiff_t>(columns.begin + width * (b + 1) / blocks);
     FilterWindow<typename Kernel::Form, T> window(record, job.source, {x, end - x}, job.roi.height, work, job.buffer);
     for (ptrdiff_t y = 0; y < job.roi.height; y += 2) {
       if (y > 0) window.Advance();
@@ -29,6 +30,18 @@ void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& k
       FilterRows(kernel, window.lines(), (end - x) * channels, job.dst.Row(y) + x * channels, lower);
     }
   }
+}
+
+// Rows that need no conversion are read in place in blocks that do not reach the border: the others are narrow then.
+template <class Kernel, class T>
+void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
+  const ptrdiff_t width = job.roi.width, edge = std::max<ptrdiff_t>(64, 2 * record.width);
+  if (!Kernel::Form::template kIsInPlace<T> || width < 4 * edge) {
+    return FilterBlocks(record, job, kernel, {0, width});
+  }
+  FilterBlocks(record, job, kernel, {0, edge});
+  FilterBlocks(record, job, kernel, {edge, width - edge});
+  FilterBlocks(record, job, kernel, {width - edge, width});
 }
 
 // Doubles hold all sums of an integer kernel that can be told from saturated ones, and the coefficients of all kinds.

@@ -79,7 +79,7 @@ class FilterWork {
   // Columns of a block: so few that its rows stay in the nearest cache, but enough for the border of one side to be
   // found in the same block even if the region is cut evenly and its last block is half of this.
   static constexpr int64_t BlockColumns(int64_t width, int64_t height, int channels) {
-    constexpr int64_t kCacheSamples = 8192;
+    constexpr int64_t kCacheSamples = 4096;
     return std::max({kCacheSamples / ((height + 1) * channels), 4 * width, int64_t{64}});
   }
 

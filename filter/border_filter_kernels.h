@@ -136,11 +136,11 @@ class WordSums {
 
   const int32_t start;
 
-  template <int kVectors, class V>
-  HWY_INLINE void Store(const V (&sums)[kVectors], T* to) const {
-    V results[kVectors];
-    Unrolled<kVectors>([&](auto v) QVP_INLINED { results[v] = quotient_(hn::ScalableTag<int32_t>(), sums[v]); });
-    StoreResults<kVectors>(results, to);
+  template <int kCount, class V>
+  HWY_INLINE void Store(const V (&sums)[kCount], T* to) const {
+    V results[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED { results[v] = quotient_(hn::ScalableTag<int32_t>(), sums[v]); });
+    StoreResults<kCount>(results, to);
   }
 
  private:
@@ -162,42 +162,42 @@ class ByteSums {
     if (isNarrow_) shift_ = {record.mode(), __builtin_ctz(static_cast<unsigned>(record.divisor))};
   }
 
-  template <int kVectors, class V>
-  HWY_INLINE void Store(const V (&sums)[kVectors], uint8_t* to) const {
-    isNarrow_ ? StoreNarrow<kVectors>(sums, to) : StoreWidened<kVectors>(sums, to);
+  template <int kCount, class V>
+  HWY_INLINE void Store(const V (&sums)[kCount], uint8_t* to) const {
+    isNarrow_ ? StoreNarrow<kCount>(sums, to) : StoreWidened<kCount>(sums, to);
   }
 
  private:
   static bool IsPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
 
-  template <int kVectors, class V>
-  HWY_INLINE void StoreNarrow(const V (&sums)[kVectors], uint8_t* to) const {
+  template <int kCount, class V>
+  HWY_INLINE void StoreNarrow(const V (&sums)[kCount], uint8_t* to) const {
     const hn::ScalableTag<int16_t> d;
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-    if constexpr (kVectors == 1) {
+    if constexpr (kCount == 1) {
       const hn::Rebind<uint8_t, decltype(d)> bytes;
       hn::StoreU(hn::DemoteTo(bytes, shift_(d, sums[0])), bytes, to);
     } else {
-      Unrolled<kVectors / 2>([&](auto pair) QVP_INLINED {
+      Unrolled<kCount / 2>([&](auto pair) QVP_INLINED {
         constexpr int v = 2 * pair;
         hn::StoreU(NarrowTwo(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(), to + v * kLanes);
       });
     }
   }
 
-  template <int kVectors, class V>
-  HWY_INLINE void StoreWidened(const V (&sums)[kVectors], uint8_t* to) const {
+  template <int kCount, class V>
+  HWY_INLINE void StoreWidened(const V (&sums)[kCount], uint8_t* to) const {
     const hn::ScalableTag<int32_t> d;
     const hn::ScalableTag<uint16_t> u;
-    hn::Vec<decltype(d)> results[2 * kVectors];
-    Unrolled<kVectors>([&](auto v) QVP_INLINED {
+    hn::Vec<decltype(d)> results[2 * kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
       const auto sum = hn::BitCast(u, sums[v]);
       const auto lower = hn::PromoteTo(d, hn::LowerHalf(sum)),
                  upper = hn::PromoteTo(d, hn::UpperHalf(hn::Half<decltype(u)>(), sum));
       results[2 * v] = quotient_(d, hn::Add(lower, hn::Set(d, widened_)));
       results[2 * v + 1] = quotient_(d, hn::Add(upper, hn::Set(d, widened_)));
     });
-    StoreResults<2 * kVectors>(results, to);
+    StoreResults<2 * kCount>(results, to);
   }
 
   bool isNarrow_;
@@ -215,6 +215,7 @@ class PairKernel {
  public:
   using Form = PairedRows<T, typename Sums::Lane>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<typename Sums::Sum>());
+  static constexpr int kVectors = 4;  // with their sums for two rows, coefficients and pixels they fill the registers
 
   PairKernel(const FilterRecord& record, int channels, const Sums& sums)
       : pairs_(record.PairsAt()),
@@ -223,29 +224,29 @@ class PairKernel {
         channels_(channels),
         sums_(sums) {}
 
-  template <int kVectors>
+  template <int kCount>
   HWY_INLINE void Run(const typename Form::Element* const* lines, ptrdiff_t at, T* upper, T* lower) const {
     const hn::ScalableTag<typename Sums::Sum> d;
     const hn::ScalableTag<typename Sums::Lane> pixels;
     const hn::ScalableTag<hwy::MakeSigned<typename Sums::Lane>> coefficients;
     const hn::ScalableTag<int32_t> pairs;
-    hn::Vec<decltype(d)> above[kVectors], below[kVectors];
-    Unrolled<kVectors>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
+    hn::Vec<decltype(d)> above[kCount], below[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
     const int32_t* pair = pairs_;
     for (ptrdiff_t p = 0; p < lines_; ++p) {
       const auto* line = lines[p] + at;
       for (ptrdiff_t i = 0; i < width_; ++i, line += channels_, pair += 2) {
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
         const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
-        Unrolled<kVectors>([&](auto v) QVP_INLINED {
+        Unrolled<kCount>([&](auto v) QVP_INLINED {
           const auto pixel = hn::LoadU(pixels, reinterpret_cast<const typename Sums::Lane*>(line + v * kLanes));
           above[v] = hn::Add(above[v], MulAddPairs(pixel, a));
           below[v] = hn::Add(below[v], MulAddPairs(pixel, b));
         });
       }
     }
-    sums_.template Store<kVectors>(above, upper);
-    if (lower) sums_.template Store<kVectors>(below, lower);
+    sums_.template Store<kCount>(above, upper);
+    if (lower) sums_.template Store<kCount>(below, lower);
   }
 
  private:
@@ -260,6 +261,7 @@ class RealKernel {
  public:
   using Form = SingleRows<T, F>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<F>());
+  static constexpr int kVectors = 4;
 
   RealKernel(const FilterRecord& record, const F* coefficients, int channels)
       : coefficients_(coefficients),
@@ -270,46 +272,45 @@ class RealKernel {
         offset_(static_cast<F>(record.offset) * static_cast<F>(record.divisor)),
         divisor_(static_cast<F>(record.divisor)) {}
 
-  template <int kVectors>
+  template <int kCount>
   HWY_INLINE void Run(const F* const* lines, ptrdiff_t at, T* upper, T* lower) const {
     const hn::ScalableTag<F> d;
-    hn::Vec<decltype(d)> above[kVectors], below[kVectors];
-    Unrolled<kVectors>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
+    hn::Vec<decltype(d)> above[kCount], below[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
     const F* k = coefficients_;
-    AddRow<kVectors>(lines[0] + at, k, above);
-    for (ptrdiff_t j = 1; j < height_; ++j, k += width_) AddRows<kVectors>(lines[j] + at, k + width_, k, above, below);
-    AddRow<kVectors>(lines[height_] + at, k, below);
-    Store<kVectors>(above, upper);
-    if (lower) Store<kVectors>(below, lower);
+    AddRow<kCount>(lines[0] + at, k, above);
+    for (ptrdiff_t j = 1; j < height_; ++j, k += width_) AddRows<kCount>(lines[j] + at, k + width_, k, above, below);
+    AddRow<kCount>(lines[height_] + at, k, below);
+    Store<kCount>(above, upper);
+    if (lower) Store<kCount>(below, lower);
   }
 
  private:
-  template <int kVectors, class V>
-  HWY_INLINE void AddRow(const F* line, const F* k, V (&sums)[kVectors]) const {
+  template <int kCount, class V>
+  HWY_INLINE void AddRow(const F* line, const F* k, V (&sums)[kCount]) const {
     const hn::ScalableTag<F> d;
     for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
       const V a = hn::Set(d, k[i]);
-      Unrolled<kVectors>([&](auto v)
-                             QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a)); });
+      Unrolled<kCount>([&](auto v)
+                           QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a)); });
     }
   }
-  template <int kVectors, class V>
-  HWY_INLINE void AddRows(const F* line, const F* k, const F* kBelow, V (&above)[kVectors],
-                          V (&below)[kVectors]) const {
+  template <int kCount, class V>
+  HWY_INLINE void AddRows(const F* line, const F* k, const F* kBelow, V (&above)[kCount], V (&below)[kCount]) const {
     const hn::ScalableTag<F> d;
     for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
       const V a = hn::Set(d, k[i]), b = hn::Set(d, kBelow[i]);
-      Unrolled<kVectors>([&](auto v) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
         const V pixel = hn::LoadU(d, line + v * kLanes);
         above[v] = hn::Add(above[v], hn::Mul(pixel, a));
         below[v] = hn::Add(below[v], hn::Mul(pixel, b));
       });
     }
   }
-  template <int kVectors, class V>
-  HWY_INLINE void Store(const V (&sums)[kVectors], T* to) const {
+  template <int kCount, class V>
+  HWY_INLINE void Store(const V (&sums)[kCount], T* to) const {
     const hn::ScalableTag<F> d;
-    Unrolled<kVectors>([&](auto v) QVP_INLINED {
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
       V result = sums[v];
       if constexpr (sizeof(F) == sizeof(double)) {
         result = hn::Div(hn::Add(result, hn::Set(d, offset_)), hn::Set(d, divisor_));
@@ -331,7 +332,7 @@ class RealKernel {
 // what is read.
 template <class Kernel, class E, class T>
 void FilterRows(const Kernel& kernel, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
-  constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = 4 * kLanes;
+  constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
   const auto at = [](T* row, ptrdiff_t i) { return row ? row + i : nullptr; };
   if (n < kLanes) {
     T staged[2][kLanes];
@@ -341,7 +342,7 @@ void FilterRows(const Kernel& kernel, const E* const* lines, ptrdiff_t n, T* upp
     return;
   }
   ptrdiff_t i = 0;
-  for (; i + kGroup <= n; i += kGroup) kernel.template Run<4>(lines, i, upper + i, at(lower, i));
+  for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, upper + i, at(lower, i));
   for (; i + kLanes <= n; i += kLanes) kernel.template Run<1>(lines, i, upper + i, at(lower, i));
   if (i < n) kernel.template Run<1>(lines, n - kLanes, upper + n - kLanes, at(lower, n - kLanes));
 }

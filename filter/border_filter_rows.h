@@ -27,6 +27,8 @@ template <class T, class Lane>
 struct PairedRows {
   using Element = std::conditional_t<sizeof(Lane) == 1, uint16_t, uint32_t>;
   static constexpr int kRows = 2;
+  template <class>
+  static constexpr bool kIsInPlace = false;
 
   static Element Pack(T upper, T lower) {
     const uint32_t bits = 8 * sizeof(Lane), mask = (1u << bits) - 1;
@@ -44,6 +46,8 @@ template <class T, class F>
 struct SingleRows {
   using Element = F;
   static constexpr int kRows = 1;
+  template <class P>
+  static constexpr bool kIsInPlace = std::is_same_v<P, F>;
 
   static Element Pack(T value, T) { return static_cast<F>(value); }
   static void Convert(const T* const (&rows)[2], Element* out, ptrdiff_t i) {
@@ -147,7 +151,7 @@ class FilterWindow {
   const Element* NextLine() {
     const T* const rows[2] = {RowAt(row_), RowAt(row_ + Form::kRows - 1)};
     row_ += Form::kRows;
-    if constexpr (std::is_same_v<T, Element>) {
+    if constexpr (Form::template kIsInPlace<T>) {
       if (isInPlace_) return rows[0];
     }
     auto* line = reinterpret_cast<Element*>(slots_ + slot_ * lineBytes_);

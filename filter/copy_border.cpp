@@ -78,7 +78,7 @@ void WritePiece(const Piece& piece, const Border& border, const Bytes& dst, ptrd
   for (ptrdiff_t y = 0; y < rows; ++y, from += border.step, to += dst.step) {
     const auto sources = LoadSources(from, readable);
     hn::StoreU(hn::Vec<decltype(d)>{hn::TableLookupBytes(sources, first).raw}, d, to);
-    hn::StoreU(hn::Vec<decltype(d)>{hn::TableLookupBytes(sources, last).raw}, d, to + tail);
+    if (tail > 0) hn::StoreU(hn::Vec<decltype(d)>{hn::TableLookupBytes(sources, last).raw}, d, to + tail);
   }
 }
 
@@ -144,11 +144,18 @@ void FillRows(const ConstBytes& value, const Bytes& dst, ptrdiff_t begin, ptrdif
   if (end - begin > 1) CopyPixels(again, At(first, 0, 1), {frame.dst.width, end - begin - 1});
 }
 
-// Rows [begin, end) from rows of the source that have their border columns already.
+// Rows [begin, end) from rows of the source that have their border columns already, as many at a time as lie at one
+// distance from each other.
 void CopyRows(BorderKind kind, const Bytes& dst, ptrdiff_t begin, ptrdiff_t end, const Frame& frame) {
-  for (ptrdiff_t y = begin; y < end; ++y) {
-    const ptrdiff_t from = BorderPosition(kind, y, {0, frame.src.height});
-    CopyPixels(Const(At(dst, -frame.left, from)), At(dst, -frame.left, y), {frame.dst.width, 1});
+  const auto rowFor = [&](ptrdiff_t y) { return BorderPosition(kind, y, {0, frame.src.height}); };
+  while (begin < end) {
+    const ptrdiff_t from = rowFor(begin), distance = begin + 1 < end ? rowFor(begin + 1) - from : 0;
+    ptrdiff_t rows = 1;
+    while (begin + rows < end && rowFor(begin + rows) == from + rows * distance) ++rows;
+    ConstBytes src = Const(At(dst, -frame.left, from));
+    src.step *= distance;
+    CopyPixels(src, At(dst, -frame.left, begin), {frame.dst.width, rows});
+    begin += rows;
   }
 }
 
