@@ -317,7 +317,11 @@ class RealKernel {
       } else if constexpr (std::is_integral_v<T>) {
         result = hn::Add(result, hn::Set(d, offset_));
       }
-      if constexpr (std::is_integral_v<T>) result = RoundedBy(mode_, d, result);
+      if constexpr (std::is_integral_v<T>) {
+        result = RoundedBy(mode_, d, result);
+      } else {  // one NaN for all: which of two a sum keeps hangs on the order of an instruction's operands
+        result = hn::Or(result, hn::VecFromMask(d, hn::IsNaN(result)));
+      }
       hn::StoreU(Narrow<T>(d, result), hn::Rebind<T, decltype(d)>(), to + v * kLanes);
     });
   }
