@@ -53,9 +53,9 @@ struct FilterRecord {
   float* Floats() { return reinterpret_cast<float*>(AtBoundary(Doubles() + taps())); }
   const float* Floats() const { return const_cast<FilterRecord*>(this)->Floats(); }
 
-  // Two rows of results are made at a time, from rows of pixels taken in pairs. Pair p of column i has rows 2p and
-  // 2p + 1 of the kernel for the upper result and rows 2p - 1 and 2p for the lower one, 0 where there is no such row.
-  // Each is repeated to fill the 32 bits of an entry.
+  // Two rows of results are made at a time, from rows of pixels taken in pairs: none is paired twice. Pair p of column
+  // i has rows 2p and 2p + 1 of the kernel for the upper result and rows 2p - 1 and 2p for the lower one, 0 where there
+  // is no such row. Each is repeated to fill the 32 bits of an entry.
   ptrdiff_t PairsOfRows() const { return height / 2 + 1; }
   int32_t* PairsAt() { return reinterpret_cast<int32_t*>(Floats()); }
   const int32_t* PairsAt() const { return const_cast<FilterRecord*>(this)->PairsAt(); }

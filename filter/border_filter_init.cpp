@@ -50,8 +50,8 @@ ByteCount StripSamplesOfSmaller(QvpiSize kernel, QvpiSize roi) {
   return std::max({StripSamples(kernel, roi).value(), low.value(), narrow.value()});
 }
 
-// The strips of the border in elements of the image; then what the kernels work with, in which the rows of a block take
-// the larger part; then what smaller regions need beyond.
+// The strips of the border, which are a reserve, as rows take up their border columns where they are prepared; then
+// what the kernels work with, in which the rows of a block have the larger part; then what smaller regions need beyond.
 ByteCount BufferBytes(QvpiSize kernel, QvpiSize roi, QvpDataType type, int channels, int alignment) {
   const ByteCount sampleBytes(int64_t{ElementBytes(type)} * channels);
   const ByteCount strips = StripSamples(kernel, roi) * sampleBytes;

@@ -109,7 +109,9 @@ std::vector<Member> Members() {
   BOTH_FORMS(Mirror, type, C3, 3, 3, NO_VALUE)     \
   BOTH_FORMS(Mirror, type, C4, 4, 4, NO_VALUE)
   TYPE(8u)
-  TYPE(16u) TYPE(16s) TYPE(32s) TYPE(32f) BOTH_FORMS(Wrap, 32s, C1, 1, 1, NO_VALUE)
+  TYPE(16u)
+  TYPE(16s)
+  TYPE(32s) TYPE(32f) BOTH_FORMS(Wrap, 32s, C1, 1, 1, NO_VALUE)
       BOTH_FORMS(Wrap, 32f, C1, 1, 1, NO_VALUE) return members;
 }
 
