@@ -108,11 +108,12 @@ std::vector<Member> Members() {
   BOTH_FORMS(Mirror, type, C1, 1, 1, NO_VALUE)     \
   BOTH_FORMS(Mirror, type, C3, 3, 3, NO_VALUE)     \
   BOTH_FORMS(Mirror, type, C4, 4, 4, NO_VALUE)
-  TYPE(8u)
-  TYPE(16u)
-  TYPE(16s)
-  TYPE(32s) TYPE(32f) BOTH_FORMS(Wrap, 32s, C1, 1, 1, NO_VALUE)
-      BOTH_FORMS(Wrap, 32f, C1, 1, 1, NO_VALUE) return members;
+#define FOR_EACH_TYPE(MEMBERS) MEMBERS(8u) MEMBERS(16u) MEMBERS(16s) MEMBERS(32s) MEMBERS(32f)
+#define COPIES(type) BOTH_FORMS(Wrap, type, C1, 1, 1, NO_VALUE)
+  FOR_EACH_TYPE(TYPE)
+  COPIES(32s)
+  COPIES(32f)
+  return members;
 }
 
 TEST(CopyBorder, EveryMember) {
