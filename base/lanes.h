@@ -71,6 +71,9 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
     } else {
       return whole;
     }
+  } else if constexpr (std::is_same_v<L, int32_t> && std::is_same_v<T, uint8_t>) {
+    // In two steps: Highway's single one takes 32768 to 65535 modulo 32768.
+    return hn::DemoteTo(to, hn::DemoteTo(hn::Rebind<int16_t, D>(), v));
   } else {
     return hn::DemoteTo(to, v);
   }

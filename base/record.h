@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 #include "qvptypes.h"
 
@@ -14,8 +15,8 @@ inline constexpr int kRecordBoundary = 64;
 // The first boundary at or after p.
 template <class T>
 T* AtBoundary(T* p) {
-  const uintptr_t address = reinterpret_cast<uintptr_t>(p);
-  return reinterpret_cast<T*>((address + kRecordBoundary - 1) & ~uintptr_t{kRecordBoundary - 1});
+  using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
+  return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + (-reinterpret_cast<uintptr_t>(p) & (kRecordBoundary - 1)));
 }
 
 // A count of bytes that remembers when it has left 64 bits, so that no size ever wraps.

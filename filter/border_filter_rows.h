@@ -1,0 +1,187 @@
+// Rows of pixels as the kernels of the general filter read them: with their border columns, in the form that the kernel
+// multiplies. Each row of a block of columns is prepared once, while the block is walked down two rows of results at a
+// time.
+#pragma once
+
+#include <cstring>
+#include <utility>
+
+#include "base/border.h"
+#include "base/lanes.h"
+#include "filter/border_filter.h"
+
+namespace qvp {
+
+// The image around a region: how far it can be read, and what stands for pixels beyond.
+template <class T>
+struct FilterSource {
+  Image<const T> image;  // at the first pixel of the region
+  BorderKind kind;
+  Extent columns, rows;
+  T value[4];  // the constant of each channel
+  int channels;
+};
+
+// The rows of two pixels, as pairs of bytes or of 16-bit words, one pair to a sample.
+template <class T, class Lane>
+struct PairedRows {
+  using Element = std::conditional_t<sizeof(Lane) == 1, uint16_t, uint32_t>;
+  static constexpr int kRows = 2;
+  template <class>
+  static constexpr bool kIsInPlace = false;
+
+  static Element Pack(T upper, T lower) {
+    const uint32_t bits = 8 * sizeof(Lane), mask = (1u << bits) - 1;
+    return static_cast<Element>((static_cast<uint32_t>(upper) & mask) | (static_cast<uint32_t>(lower) & mask) << bits);
+  }
+  static void Convert(const T* const (&rows)[2], Element* out, ptrdiff_t i) {
+    const hn::ScalableTag<Lane> d;
+    hn::StoreInterleaved2(LoadWide(d, rows[0] + i), LoadWide(d, rows[1] + i), d, reinterpret_cast<Lane*>(out + i));
+  }
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<Lane>());
+};
+
+// Single rows, as numbers of F.
+template <class T, class F>
+struct SingleRows {
+  using Element = F;
+  static constexpr int kRows = 1;
+  template <class P>
+  static constexpr bool kIsInPlace = std::is_same_v<P, F>;
+
+  static Element Pack(T value, T) { return static_cast<F>(value); }
+  static void Convert(const T* const (&rows)[2], Element* out, ptrdiff_t i) {
+    const hn::ScalableTag<F> d;
+    if constexpr (std::is_same_v<T, float> && std::is_same_v<F, double>) {
+      hn::StoreU(hn::PromoteTo(d, hn::LoadU(hn::Rebind<float, decltype(d)>(), rows[0] + i)), d, out + i);
+    } else if constexpr (std::is_same_v<T, double> && !std::is_same_v<F, double>) {
+      static_assert(sizeof(T) == 0, "doubles are not narrowed");
+    } else {
+      hn::StoreU(LoadWide(d, rows[0] + i), d, out + i);
+    }
+  }
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<F>());
+};
+
+// Converts n samples. Behind the last one there is room for a vector.
+template <class Form, class T>
+void ConvertRows(const T* const (&rows)[2], typename Form::Element* out, ptrdiff_t n) {
+  constexpr ptrdiff_t kLanes = Form::kLanes;
+  if (n < kLanes) {
+    const Partial<T> upper(rows[0], n), lower(rows[1], n);
+    const T* const staged[2] = {upper.lanes, lower.lanes};
+    return Form::Convert(staged, out, 0);
+  }
+  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) Form::Convert(rows, out, i);
+  Form::Convert(rows, out, n - kLanes);
+}
+
+// Columns [x, x + width) of results.
+struct FilterBlock {
+  ptrdiff_t x, width;
+};
+
+// The rows that the results of a block are made from. A line is a prepared row, or a pair of rows.
+template <class Form, class T>
+class FilterWindow {
+ public:
+  using Element = typename Form::Element;
+
+  FilterWindow(const FilterRecord& record, const FilterSource<T>& source, FilterBlock block, ptrdiff_t height,
+               const FilterWork& work, uint8_t* buffer)
+      : source_(source),
+        lines_(Form::kRows == 2 ? record.PairsOfRows() : record.height + 1),
+        lastRow_(height - 1 + record.below()),
+        lineBytes_(work.RowBytes().value()) {
+    const Extent needed{block.x - record.left(), block.x + block.width + record.right()};
+    readable_ = {std::max(needed.begin, source.columns.begin), std::min(needed.end, source.columns.end)};
+    before_ = readable_.begin - needed.begin;
+    after_ = needed.end - readable_.end;
+    isInPlace_ = before_ == 0 && after_ == 0 && Samples(block.width) >= Form::kLanes;
+    uint8_t* next = AtBoundary(buffer);
+    const auto take = [&next](int64_t bytes) { return std::exchange(next, next + bytes); };
+    pointers_ = reinterpret_cast<const Element**>(take(work.PointerBytes().value()));
+    edges_ = reinterpret_cast<int32_t*>(take(work.EdgeBytes().value()));
+    constants_ = reinterpret_cast<T*>(take(lineBytes_));
+    slots_ = next;
+    FindEdges(needed);
+    FillConstants();
+    row_ = -record.above();
+    for (ptrdiff_t i = 0; i < lines_; ++i) pointers_[i] = NextLine();
+  }
+
+  // The lines from the row that the upper one of two results begins with.
+  const Element* const* lines() const { return pointers_; }
+
+  // Goes on to the next two rows of results.
+  void Advance() {
+    constexpr ptrdiff_t kNew = 2 / Form::kRows;
+    std::memmove(pointers_, pointers_ + kNew, (lines_ - kNew) * sizeof(*pointers_));
+    for (ptrdiff_t i = lines_ - kNew; i < lines_; ++i) pointers_[i] = NextLine();
+  }
+
+ private:
+  ptrdiff_t Samples(ptrdiff_t pixels) const { return pixels * source_.channels; }
+  ptrdiff_t ReadableSamples() const { return Samples(readable_.end - readable_.begin); }
+
+  // Where in the line each border column finds its like, or -1 for the constant.
+  void FindEdges(Extent needed) {
+    int32_t* edge = edges_;
+    const auto find = [&](ptrdiff_t from, ptrdiff_t count) {
+      for (ptrdiff_t x = from; x < from + count; ++x) {
+        const ptrdiff_t like = BorderPosition(source_.kind, x, source_.columns);
+        *edge++ = like == kOutside ? -1 : static_cast<int32_t>(like - needed.begin);
+      }
+    };
+    find(needed.begin, before_);
+    find(readable_.end, after_);
+  }
+
+  void FillConstants() {
+    if (source_.kind != BorderKind::kConst) return;
+    for (ptrdiff_t i = 0; i < ReadableSamples(); ++i) constants_[i] = source_.value[i % source_.channels];
+  }
+
+  // The readable samples of a row. Rows below the last one that counts are read by no result that counts.
+  const T* RowAt(ptrdiff_t y) const {
+    const ptrdiff_t row = BorderPosition(source_.kind, std::min(y, lastRow_), source_.rows);
+    return row == kOutside ? constants_ : source_.image.Row(row) + Samples(readable_.begin);
+  }
+
+  const Element* NextLine() {
+    const T* const rows[2] = {RowAt(row_), RowAt(row_ + Form::kRows - 1)};
+    row_ += Form::kRows;
+    if constexpr (Form::template kIsInPlace<T>) {
+      if (isInPlace_) return rows[0];
+    }
+    auto* line = reinterpret_cast<Element*>(slots_ + slot_ * lineBytes_);
+    slot_ = slot_ + 1 == lines_ ? 0 : slot_ + 1;
+    ConvertRows<Form>(rows, line + Samples(before_), ReadableSamples());
+    FillEdges(line, 0, before_, edges_);
+    FillEdges(line, before_ + readable_.end - readable_.begin, after_, edges_ + before_);
+    return line;
+  }
+
+  void FillEdges(Element* line, ptrdiff_t column, ptrdiff_t count, const int32_t* edges) const {
+    const ptrdiff_t channels = source_.channels;
+    for (ptrdiff_t i = 0; i < count; ++i) {
+      Element* to = line + (column + i) * channels;
+      for (ptrdiff_t c = 0; c < channels; ++c) {
+        to[c] = edges[i] < 0 ? Form::Pack(source_.value[c], source_.value[c]) : line[edges[i] * channels + c];
+      }
+    }
+  }
+
+  const FilterSource<T>& source_;
+  ptrdiff_t lines_, lastRow_;
+  int64_t lineBytes_;
+  Extent readable_;
+  ptrdiff_t before_, after_, row_, slot_ = 0;
+  bool isInPlace_;  // rows of numbers that need no conversion, no border, and fill a vector
+  const Element** pointers_;
+  int32_t* edges_;
+  T* constants_;
+  uint8_t* slots_;
+};
+
+}  // namespace qvp
