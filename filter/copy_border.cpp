@@ -28,6 +28,7 @@ struct Border {
   BorderKind kind;
   const uint8_t* pixels;    // row 0
   ptrdiff_t step, width;    // bytes and pixels
+  ptrdiff_t span;           // pixels between the left border and the right one
   int pixelBytes, written;  // bytes of a pixel, and those of them that are not kept
 
   ptrdiff_t RowBytes() const { return width * pixelBytes; }
@@ -61,48 +62,97 @@ Piece MakePiece(const Border& border, ptrdiff_t x, ptrdiff_t end) {
 }
 
 HWY_INLINE hn::Vec<Block> LoadSources(const uint8_t* from, ptrdiff_t readable) {
-  if (readable >= kBlockBytes) return hn::LoadU(Block(), from);
+  if (HWY_LIKELY(readable >= kBlockBytes)) return hn::LoadU(Block(), from);
   alignas(kBlockBytes) uint8_t staged[kBlockBytes] = {};
   std::memcpy(staged, from, readable);
   return hn::Load(Block(), staged);
 }
 
-// A piece of at least kBytes and at most twice as many: as its first and its last kBytes, which may overlap.
+// The first and the last kBytes of a piece of at least as many and at most twice as many; they may overlap.
 template <int kBytes>
-void WritePiece(const Piece& piece, const Border& border, const Bytes& dst, ptrdiff_t rows) {
+HWY_INLINE void PutEnds(hn::Vec<Block> sources, const Piece& piece, uint8_t* to) {
   const hn::FixedTag<uint8_t, kBytes> d;
-  const ptrdiff_t tail = piece.bytes - kBytes, readable = border.RowBytes() - piece.from;
-  const auto first = hn::LoadU(Block(), piece.index.data()), last = hn::LoadU(Block(), piece.index.data() + tail);
-  const uint8_t* from = border.pixels + piece.from;
-  uint8_t* to = dst.data + piece.to;
-  for (ptrdiff_t y = 0; y < rows; ++y, from += border.step, to += dst.step) {
-    const auto sources = LoadSources(from, readable);
-    hn::StoreU(hn::Vec<decltype(d)>{hn::TableLookupBytes(sources, first).raw}, d, to);
-    if (tail > 0) hn::StoreU(hn::Vec<decltype(d)>{hn::TableLookupBytes(sources, last).raw}, d, to + tail);
+  const auto put = [&](ptrdiff_t at) HWY_ATTR {
+    const auto bytes = hn::TableLookupBytes(sources, hn::LoadU(Block(), piece.index.data() + at));
+    hn::StoreU(hn::Vec<decltype(d)>{bytes.raw}, d, to + at);
+  };
+  put(0);
+  if (piece.bytes > kBytes) put(piece.bytes - kBytes);
+}
+
+// A piece of one row. `row` is that of the source, `to` its first pixel in the destination.
+HWY_INLINE void PutPiece(const Piece& piece, const Border& border, const uint8_t* row, uint8_t* to) {
+  const auto sources = LoadSources(row + piece.from, border.RowBytes() - piece.from);
+  to += piece.to;
+  if (piece.bytes >= 8) return PutEnds<8>(sources, piece, to);
+  if (piece.bytes >= 4) return PutEnds<4>(sources, piece, to);
+  piece.bytes >= 2 ? PutEnds<2>(sources, piece, to) : PutEnds<1>(sources, piece, to);
+}
+
+void PutPieceBesideAlpha(const Piece& piece, const Border& border, const uint8_t* row, uint8_t* to) {
+  for (int i = 0; i < piece.bytes; i += border.pixelBytes) {
+    std::memcpy(to + piece.to + i, row + piece.from + piece.index[i], border.written);
   }
 }
 
-void WritePieceBesideAlpha(const Piece& piece, const Border& border, const Bytes& dst, ptrdiff_t rows) {
-  for (ptrdiff_t y = 0; y < rows; ++y) {
-    const uint8_t* from = border.pixels + y * border.step + piece.from;
-    uint8_t* to = dst.Row(y) + piece.to;
-    for (int i = 0; i < piece.bytes; i += border.pixelBytes) std::memcpy(to + i, from + piece.index[i], border.written);
-  }
+// Bytes [0, n) of a row, whose last vector may overlap the one before it.
+HWY_INLINE void CopyBytes(const uint8_t* from, uint8_t* to, ptrdiff_t n) {
+  const hn::ScalableTag<uint8_t> d;
+  constexpr ptrdiff_t kVector = hn::MaxLanes(d);
+  if (n < kVector) return static_cast<void>(std::memcpy(to, from, n));
+  for (ptrdiff_t i = 0; i < n - kVector; i += kVector) hn::StoreU(hn::LoadU(d, from + i), d, to + i);
+  hn::StoreU(hn::LoadU(d, from + n - kVector), d, to + n - kVector);
 }
 
-// Columns [x, end), which lie outside the source, of `rows` rows from the one that dst begins with.
-void WriteColumns(const Border& border, const Bytes& dst, ptrdiff_t x, ptrdiff_t end, ptrdiff_t rows) {
-  while (x < end) {
-    const Piece piece = MakePiece(border, x, end);
-    const auto write = border.written < border.pixelBytes ? WritePieceBesideAlpha
-                       : piece.bytes >= 8                 ? WritePiece<8>
-                       : piece.bytes >= 4                 ? WritePiece<4>
-                       : piece.bytes >= 2                 ? WritePiece<2>
-                                                          : WritePiece<1>;
-    write(piece, border, dst, rows);
-    x += piece.bytes / border.pixelBytes;
+// The border columns of a band of rows, left and right, some pieces at a time: made once for all rows.
+class Columns {
+ public:
+  Columns(const Border& border, ptrdiff_t left, ptrdiff_t right) : border_(border), right_(right), x_(-left), end_(0) {
+    if (left == 0) GoRight();
   }
-}
+
+  // Makes the next pieces. False when there are none left.
+  bool Next() {
+    for (count_ = 0; count_ < kMost && x_ < end_; ++count_) {
+      pieces_[count_] = MakePiece(border_, x_, end_);
+      x_ += pieces_[count_].bytes / border_.pixelBytes;
+      if (x_ == 0) GoRight();
+    }
+    return count_ > 0;
+  }
+
+  // Writes them to each row, after `copied` bytes of the source's own pixels.
+  void Write(const Bytes& dst, ptrdiff_t rows, const uint8_t* src, ptrdiff_t srcStep, ptrdiff_t copied) const {
+    if (border_.written < border_.pixelBytes) return WriteBesideAlpha(dst, rows);
+    const Border border = border_;
+    const uint8_t* row = border.pixels;
+    uint8_t* to = dst.data;
+    for (ptrdiff_t y = 0; y < rows; ++y, row += border.step, to += dst.step, src += srcStep) {
+      if (copied > 0) CopyBytes(src, to, copied);
+      for (int i = 0; i < count_; ++i) PutPiece(pieces_[i], border, row, to);
+    }
+  }
+
+ private:
+  static constexpr int kMost = 8;
+
+  void WriteBesideAlpha(const Bytes& dst, ptrdiff_t rows) const {
+    for (ptrdiff_t y = 0; y < rows; ++y) {
+      const uint8_t* row = border_.pixels + y * border_.step;
+      for (int i = 0; i < count_; ++i) PutPieceBesideAlpha(pieces_[i], border_, row, dst.Row(y));
+    }
+  }
+
+  void GoRight() {
+    x_ = border_.span;
+    end_ = x_ + right_;
+  }
+
+  const Border& border_;
+  ptrdiff_t right_, x_, end_;
+  int count_ = 0;
+  std::array<Piece, kMost> pieces_;
+};
 
 // Three channels of four, or else all bytes. The sizes hold pixels, so no check of the callee's can fail.
 void CopyPixels(const ConstBytes& src, const Bytes& dst, Size size) {
@@ -159,19 +209,18 @@ void CopyRows(BorderKind kind, const Bytes& dst, ptrdiff_t begin, ptrdiff_t end,
   }
 }
 
-// The source and its border columns, in bands that stay in the cache from the one to the other. `dst` begins with the
-// first pixel of the source, which is there already where the two are the same memory.
+// The source and its border columns. `dst` begins with the first pixel of the source, which is there already where the
+// two are the same memory. Only large images have pixels copied apart from their columns, past the cache.
 void WriteSourceRows(const ConstBytes& src, const Border& border, const Bytes& dst, const Frame& frame) {
-  constexpr ptrdiff_t kBandBytes = 65536;
-  const bool isWhole = static_cast<int64_t>(dst.RowBytes(frame.dst.width)) * frame.dst.height > (16 << 20);
-  const ptrdiff_t band = isWhole ? frame.src.height : kBandBytes / dst.RowBytes(frame.dst.width) + 1;
-  for (ptrdiff_t y = 0; y < frame.src.height; y += band) {
-    const ptrdiff_t rows = std::min(band, frame.src.height - y);
-    Border columns = border;
-    columns.pixels += y * border.step;
-    if (src.data != dst.data) CopyPixels(At(src, 0, y), At(dst, 0, y), {frame.src.width, rows});
-    WriteColumns(columns, At(dst, 0, y), -frame.left, 0, rows);
-    WriteColumns(columns, At(dst, 0, y), frame.src.width, frame.src.width + frame.right(), rows);
+  constexpr int64_t kLargeBytes = 16 << 20;
+  const bool isLarge = static_cast<int64_t>(dst.RowBytes(frame.dst.width)) * frame.dst.height > kLargeBytes;
+  const bool isCopied = src.data != dst.data, isApart = isLarge || KeepsAlpha(dst.layout);
+  if (isCopied && isApart) CopyPixels(src, dst, frame.src);
+  ptrdiff_t copied = isCopied && !isApart ? dst.RowBytes(frame.src.width) : 0;
+  Columns columns(border, frame.left, frame.right());
+  while (columns.Next() || copied > 0) {
+    columns.Write(dst, frame.src.height, src.data, src.step, copied);
+    copied = 0;
   }
 }
 
@@ -180,12 +229,12 @@ void WriteFrame(BorderKind kind, const ConstBytes& src, const Bytes& dst, const 
   const ptrdiff_t top = -frame.top, height = frame.src.height, bottom = height + frame.bottom();
   const int pixelBytes = dst.PixelBytes(), written = ProcessedChannels(dst.layout) * dst.elementBytes;
   if (kind != BorderKind::kConst) {
-    WriteSourceRows(src, {kind, src.data, src.step, frame.src.width, pixelBytes, written}, dst, frame);
+    WriteSourceRows(src, {kind, src.data, src.step, frame.src.width, frame.src.width, pixelBytes, written}, dst, frame);
     CopyRows(kind, dst, top, 0, frame);
     return CopyRows(kind, dst, height, bottom, frame);
   }
   // All of the border columns are replicas of one column.
-  WriteSourceRows(src, {BorderKind::kReplicate, value, 0, 1, pixelBytes, written}, dst, frame);
+  WriteSourceRows(src, {BorderKind::kReplicate, value, 0, 1, frame.src.width, pixelBytes, written}, dst, frame);
   const ConstBytes constant{value, 0, dst.layout, dst.elementBytes};
   FillRows(constant, dst, top, 0, frame);
   FillRows(constant, dst, height, bottom, frame);
