@@ -1,0 +1,156 @@
+// Quotients of two images, or of an image and a constant.
+#include "arith/round.h"
+#include "arith/scale.h"
+#include "base/check.h"
+#include "base/export.h"
+#include "base/pixelwise.h"
+
+namespace {
+using namespace qvp;
+
+// Lanes in which the rounded quotient is the exact one's rounding, in every mode and with every scale factor: two
+// quotients of n-bit integers, or a quotient and a tie, that are not equal differ by a part in 2^(2n+1) or more.
+template <class T>
+using QuotientLane = std::conditional_t<sizeof(T) == 1, float, double>;
+
+// second / first * factor in float lanes, before saturation. A zero divisor gives an infinity, and 0 / 0 gives 0.
+template <class F, class Rounding>
+auto QuotientKernel(int scale, const Rounding& rounding) {
+  return [factor = ScaleFactor<F>(scale), rounding](auto a, auto b) HWY_ATTR {
+    const hn::DFromV<decltype(a)> d;
+    const auto quotient = rounding(hn::Mul(hn::Div(b, a), hn::Set(d, factor)));
+    return hn::IfThenElseZero(hn::Ne(b, hn::Zero(d)), quotient);
+  };
+}
+
+// The reciprocal of normal numbers below 2^125, without a division. The first estimate comes from the bits: the
+// difference from a constant negates the exponent and, to within 12 %, the mantissa's share. Each Newton step squares
+// that error; after the third one only roundings are left.
+template <class V>
+HWY_INLINE V Reciprocal(V v) {
+  const hn::DFromV<V> d;
+  const hn::RebindToSigned<decltype(d)> bits;
+  V r = hn::BitCast(d, hn::Sub(hn::Set(bits, 0x7EF311C3), hn::BitCast(bits, v)));
+  for (int step = 0; step < 3; ++step) r = hn::Mul(r, hn::Sub(hn::Set(d, 2.0f), hn::Mul(v, r)));
+  return r;
+}
+
+// second / first. Where the reciprocal does not work, the CPU divides; 0 / 0 and NaN / 0 give one NaN, whose bits must
+// not pass through arithmetic, which would change them.
+template <class V>
+HWY_INLINE V FloatQuotient(V a, V b) {
+  const hn::DFromV<V> d;
+  const hn::RebindToSigned<decltype(d)> bits;
+  const auto magnitude = hn::And(hn::BitCast(bits, a), hn::Set(bits, 0x7FFFFFFF));
+  const auto isOdd = hn::Or(hn::Lt(magnitude, hn::Set(bits, 0x00800000)), hn::Gt(magnitude, hn::Set(bits, 0x7E000000)));
+  const V quotient = hn::Mul(b, Reciprocal(a));
+  if (HWY_LIKELY(hn::AllFalse(bits, isOdd))) return quotient;
+  const auto isIndefinite = hn::And(hn::Eq(a, hn::Zero(d)), hn::Not(hn::Gt(hn::Abs(b), hn::Zero(d))));
+  const V divided = hn::IfThenElse(hn::RebindMask(d, isOdd), hn::Div(b, a), quotient);
+  return hn::IfThenElse(isIndefinite, hn::BitCast(d, hn::Set(bits, 0x7FBFFFFF)), divided);
+}
+
+// Whether an element is zero; with kKeepAlpha, one of the first three of four.
+template <bool kKeepAlpha, class T>
+bool ContainsZero(const T* elements, ptrdiff_t n) {
+  const hn::ScalableTag<T> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+  const auto zerosAt = [&](const T* at) HWY_ATTR { return hn::VecFromMask(d, hn::Eq(hn::LoadU(d, at), hn::Zero(d))); };
+  if (n < kLanes) {
+    T staged[kLanes];
+    std::fill_n(staged, kLanes, T{1});
+    std::memcpy(staged, elements, n * sizeof(T));
+    return ContainsZero<kKeepAlpha>(staged, kLanes);
+  }
+  auto zeros = zerosAt(elements + n - kLanes);
+  for (ptrdiff_t i = 0; i + kLanes <= n; i += kLanes) zeros = hn::Or(zeros, zerosAt(elements + i));
+  auto found = hn::MaskFromVec(zeros);
+  if constexpr (kKeepAlpha) found = hn::AndNot(FourthLanes(d, 0), found);
+  return !hn::AllFalse(d, found);
+}
+
+// Divides and returns whether a divisor was zero. Divisors are looked through piece by piece while they are in the
+// first-level cache, and before a result in the same place replaces them.
+template <bool kKeepAlpha, class D, class Kernel, class T>
+bool DivideRows(D d, const Kernel& kernel, Size roi, const Image<const T>& a, const Image<const T>& b,
+                const Image<T>& dst) {
+  constexpr ptrdiff_t kPiece = LineWriter::kPieceBytes / sizeof(T);
+  bool foundZero = false;
+  const auto row = [&](ptrdiff_t n, T* to, const T* divisors, const T* dividends) HWY_ATTR {
+    for (ptrdiff_t i = 0; i < n; i += kPiece) {
+      const ptrdiff_t piece = std::min(kPiece, n - i);
+      foundZero |= ContainsZero<kKeepAlpha>(divisors + i, piece);
+      MapRow<kKeepAlpha>(d, to + i, piece, kernel, divisors + i, dividends + i);
+    }
+  };
+  ForEachPiece(roi, row, dst, a, b);
+  return foundZero;
+}
+
+template <class D, class Kernel, class T>
+QvpStatus DivideImages(D d, const Kernel& kernel, Size roi, const Image<const T>& a, const Image<const T>& b,
+                       const Image<T>& dst) {
+  const bool foundZero = KeepsAlpha(dst.layout) ? DivideRows<true>(d, kernel, roi, a, b, dst)
+                                                : DivideRows<false>(d, kernel, roi, a, b, dst);
+  return foundZero ? qvpStatusDivideByZero : qvpStatusNoError;
+}
+
+template <class T>
+QvpStatus DivideRounded(const Image<const T>& a, const Image<const T>& b, const Image<T>& dst, Size roi,
+                        QvpRoundMode mode, int scale) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
+  if (!IsRoundMode(mode)) return qvpStatusRoundMode;
+  using F = QuotientLane<T>;
+  return WithRounding(mode, [&](const auto& rounding) {
+    return DivideImages(hn::ScalableTag<F>(), QuotientKernel<F>(scale, rounding), roi, a, b, dst);
+  });
+}
+
+template <class T>
+QvpStatus Divide(const Image<const T>& a, const Image<const T>& b, const Image<T>& dst, Size roi, int scale) {
+  return DivideRounded(a, b, dst, roi, qvpRoundNear, scale);
+}
+
+QvpStatus DivideFloats(const Image<const float>& a, const Image<const float>& b, const Image<float>& dst, Size roi) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
+  const auto kernel = [](auto x, auto y) HWY_ATTR { return FloatQuotient(x, y); };
+  return DivideImages(hn::ScalableTag<float>(), kernel, roi, a, b, dst);
+}
+
+template <class T>
+bool ContainsZeroConstant(const T* values, Layout layout) {
+  for (int c = 0; c < ProcessedChannels(layout); ++c) {
+    T value;
+    std::memcpy(&value, values + c, sizeof(T));
+    if (value == 0) return true;
+  }
+  return false;
+}
+
+template <class T>
+QvpStatus DivideBy(const T* values, const Image<const T>& src, const Image<T>& dst, Size roi, int scale = 0) {
+  if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {values})) return failed;
+  if (ContainsZeroConstant(values, dst.layout)) return qvpStatusDivideByZeroError;
+  if constexpr (std::is_integral_v<T>) {
+    using F = QuotientLane<T>;
+    const auto toNearest = [](auto v) HWY_ATTR { return Rounded<qvpRoundNear>(v); };
+    MapImagesWith(hn::ScalableTag<F>(), QuotientKernel<F>(scale, toNearest), roi, values, dst, src);
+  } else {
+    const auto kernel = [](auto a, auto b) HWY_ATTR { return hn::Div(b, a); };
+    MapImagesWith(hn::ScalableTag<T>(), kernel, roi, values, dst, src);
+  }
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+#define DIV_SFS(type)                                                                  \
+  QVP_C1_C3_C4_AC4(QVP_BINARY_SFS, qvpiDiv, type, Divide)                              \
+  QVP_C1_C3_C4_AC4(QVP_BINARY_ROUND_SFS, qvpiDiv_Round, type, DivideRounded)           \
+  QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiDivC, type, DivideBy)
+DIV_SFS(8u)
+DIV_SFS(16u)
+DIV_SFS(16s)
+
+QVP_C1_C3_C4_AC4(QVP_BINARY, qvpiDiv, 32f, DivideFloats)
+QVP_CONSTANT_C1_C3_C4_AC4(qvpiDivC, 32f, DivideBy)
