@@ -123,10 +123,10 @@ QvpStatus CombineWith(const T* values, const Image<const T>& src, const Image<T>
 
 }  // namespace
 
-#define ADD_SUB_SFS(type)                                         \
+#define ADD_SUB_SFS(type)                                              \
   QVP_C1_C3_C4_AC4(QVP_BINARY_SFS, qvpiAdd, type, Combine<Sum>)        \
   QVP_C1_C3_C4_AC4(QVP_BINARY_SFS, qvpiSub, type, Combine<Difference>) \
-  QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiAddC, type, CombineWith<Sum>) \
+  QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiAddC, type, CombineWith<Sum>)      \
   QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiSubC, type, CombineWith<Difference>)
 ADD_SUB_SFS(8u)
 ADD_SUB_SFS(16u)

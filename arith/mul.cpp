@@ -43,8 +43,8 @@ struct ScaledProduct {
 template <class Op, class T>
 QvpStatus Multiply(const Image<const T>& a, const Image<const T>& b, const Image<T>& dst, Size roi, int scale = 0) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {a, b, dst})) return failed;
-  Op::template WithKernel<T>(
-      scale, [&](const auto& kernel) { MapImages(hn::ScalableTag<T>(), kernel, roi, dst, a, b); });
+  Op::template WithKernel<T>(scale,
+                             [&](const auto& kernel) { MapImages(hn::ScalableTag<T>(), kernel, roi, dst, a, b); });
   return qvpStatusNoError;
 }
 
@@ -68,9 +68,9 @@ QvpStatus Square(const Image<const T>& src, const Image<T>& dst, Size roi, int s
 
 }  // namespace
 
-#define MUL_SFS(type)                                                    \
-  QVP_C1_C3_C4_AC4(QVP_BINARY_SFS, qvpiMul, type, Multiply<Product>)     \
-  QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiMulC, type, MultiplyBy<Product>)     \
+#define MUL_SFS(type)                                                \
+  QVP_C1_C3_C4_AC4(QVP_BINARY_SFS, qvpiMul, type, Multiply<Product>) \
+  QVP_CONSTANT_SFS_C1_C3_C4_AC4(qvpiMulC, type, MultiplyBy<Product>) \
   QVP_C1_C3_C4_AC4(QVP_UNARY_SFS, qvpiSqr, type, Square)
 MUL_SFS(8u)
 MUL_SFS(16u)
@@ -80,8 +80,8 @@ QVP_C1_C3_C4_AC4(QVP_BINARY, qvpiMul, 32f, Multiply<Product>)
 QVP_CONSTANT_C1_C3_C4_AC4(qvpiMulC, 32f, MultiplyBy<Product>)
 QVP_C1_C3_C4_AC4(QVP_UNARY, qvpiSqr, 32f, Square)
 
-#define MUL_SCALE(type)                                                       \
-  QVP_C1_C3_C4_AC4(QVP_BINARY, qvpiMulScale, type, Multiply<ScaledProduct>)   \
+#define MUL_SCALE(type)                                                     \
+  QVP_C1_C3_C4_AC4(QVP_BINARY, qvpiMulScale, type, Multiply<ScaledProduct>) \
   QVP_CONSTANT_C1_C3_C4_AC4(qvpiMulCScale, type, MultiplyBy<ScaledProduct>)
 MUL_SCALE(8u)
 MUL_SCALE(16u)

@@ -60,7 +60,8 @@ class ScaleUp {
  public:
   explicit ScaleUp(int scale)
       : count_(scale <= -kLast ? kLast : -scale),
-        lowest_(std::is_signed_v<L> ? static_cast<L>(-(static_cast<int>(-int64_t{Limits::lowest()} >> count_) + 1)) : L{0}),
+        lowest_(std::is_signed_v<L> ? static_cast<L>(-(static_cast<int>(-int64_t{Limits::lowest()} >> count_) + 1))
+                                    : L{0}),
         highest_(static_cast<L>((Limits::max() >> count_) + 1)) {}
 
   template <class V>

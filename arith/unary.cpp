@@ -46,7 +46,11 @@ QvpStatus Sqrt(const Image<const T>& src, const Image<T>& dst, Size roi, int sca
     const hn::DFromV<decltype(v)> d;
     return hn::Mul(hn::Sqrt(hn::Max(v, hn::Zero(d))), hn::Set(d, factor));
   };
-  return Transform(hn::ScalableTag<F>(), kernel, src, dst, roi);
+  if constexpr (sizeof(T) == 1) {
+    return Transform(hn::ScalableTag<T>(), InFloatLanes(kernel), src, dst, roi);
+  } else {
+    return Transform(hn::ScalableTag<F>(), kernel, src, dst, roi);
+  }
 }
 QvpStatus Sqrt(const Image<const float>& src, const Image<float>& dst, Size roi) {
   const auto kernel = [](auto v) HWY_ATTR { return hn::Sqrt(v); };
@@ -55,9 +59,8 @@ QvpStatus Sqrt(const Image<const float>& src, const Image<float>& dst, Size roi)
 
 template <class T>
 QvpStatus Logarithm(const Image<const T>& src, const Image<T>& dst, Size roi, int scale) {
-  const auto kernel = [factor = ScaleFactor<double>(scale)](auto v) HWY_ATTR {
-    return hn::Mul(Ln(v), hn::Set(hn::DFromV<decltype(v)>(), factor));
-  };
+  const auto kernel = [factor = ScaleFactor<double>(scale)](auto v)
+                          HWY_ATTR { return hn::Mul(Ln(v), hn::Set(hn::DFromV<decltype(v)>(), factor)); };
   return Transform(hn::ScalableTag<double>(), kernel, src, dst, roi);
 }
 QvpStatus Logarithm(const Image<const float>& src, const Image<float>& dst, Size roi) {
@@ -68,9 +71,8 @@ QvpStatus Logarithm(const Image<const float>& src, const Image<float>& dst, Size
 // e^65535 is below 2^94549: a larger scale factor gives zero all the same, and one below -94549 the bounds.
 template <class T>
 QvpStatus Exponent(const Image<const T>& src, const Image<T>& dst, Size roi, int scale) {
-  const auto kernel = [scale = static_cast<double>(std::clamp(scale, -100000, 100000))](auto v) HWY_ATTR {
-    return ScaledExp(v, scale);
-  };
+  const auto kernel = [scale = static_cast<double>(std::clamp(scale, -100000, 100000))](auto v)
+                          HWY_ATTR { return ScaledExp(v, scale); };
   return Transform(hn::ScalableTag<double>(), kernel, src, dst, roi);
 }
 QvpStatus Exponent(const Image<const float>& src, const Image<float>& dst, Size roi) {
@@ -85,10 +87,10 @@ QVP_C1_C3_C4_AC4(QVP_UNARY_SFS, qvpiAbs, 16s, Abs)
 QVP_C1_C3_C4_AC4(QVP_UNARY, qvpiAbs, 32f, Abs)
 
 #define C1_C3(SHAPE, name, type, impl) SHAPE(name, type, C1, impl) SHAPE(name, type, C3, impl)
-#define ROOT_LN_EXP(type)                         \
-  C1_C3(QVP_UNARY_SFS, qvpiSqrt, type, Sqrt)      \
-  QVP_UNARY_SFS(qvpiSqrt, type, AC4, Sqrt)        \
-  C1_C3(QVP_UNARY_SFS, qvpiLn, type, Logarithm)   \
+#define ROOT_LN_EXP(type)                       \
+  C1_C3(QVP_UNARY_SFS, qvpiSqrt, type, Sqrt)    \
+  QVP_UNARY_SFS(qvpiSqrt, type, AC4, Sqrt)      \
+  C1_C3(QVP_UNARY_SFS, qvpiLn, type, Logarithm) \
   C1_C3(QVP_UNARY_SFS, qvpiExp, type, Exponent)
 ROOT_LN_EXP(8u)
 ROOT_LN_EXP(16u)

@@ -62,46 +62,116 @@
 
 // Two images to a third, and in place, where the second one is the destination too:
 // impl(first, second, destination, size[, scale factor]).
-#define QVP_BINARY(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); } \
-  QvpStatus name##_##type##_##layout##IR(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize); }
-#define QVP_BINARY_SFS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) { return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); } \
-  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) { return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor); }
+#define QVP_BINARY(name, type, layout, impl)                                                                           \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step,    \
+                                        Qvp##type* pDst, int dstStep, QvpiSize roiSize) {                              \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize);                                                      \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IR(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,       \
+                                         QvpiSize roiSize) {                                                           \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                                \
+  }
+#define QVP_BINARY_SFS(name, type, layout, impl)                                                                       \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) {          \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor);                                         \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,    \
+                                            QvpiSize roiSize, int scaleFactor) {                                       \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                                   \
+  }
 
 // The same with a rounding mode: impl(first, second, destination, size, mode, scale factor).
-#define QVP_BINARY_ROUND_SFS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor) { return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, roundMode, scaleFactor); } \
-  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor) { return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, roundMode, scaleFactor); }
+#define QVP_BINARY_ROUND_SFS(name, type, layout, impl)                                                                 \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode,     \
+                                           int scaleFactor) {                                                          \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize, roundMode, scaleFactor);                              \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,    \
+                                            QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor) {               \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, roundMode, scaleFactor);                        \
+  }
 
 // One image to another, and in place: impl(source, destination, size[, scale factor]).
-#define QVP_UNARY(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); } \
-  QvpStatus name##_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize); }
-#define QVP_UNARY_SFS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) { return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); } \
-  QvpStatus name##_##type##_##layout##IRSfs(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) { return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor); }
+#define QVP_UNARY(name, type, layout, impl)                                                               \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, \
+                                        QvpiSize roiSize) {                                               \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); \
+  }                                                                                                       \
+  QvpStatus name##_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) {          \
+    return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                            \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                   \
+  }
+#define QVP_UNARY_SFS(name, type, layout, impl)                                                                        \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,           \
+                                           QvpiSize roiSize, int scaleFactor) {                                        \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) {   \
+    return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                                         \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                                   \
+  }
 
 // The same with a constant, one number: impl(values, source, destination, size[, scale factor]).
-#define QVP_WITH_CONSTANT(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { return impl(&value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); } \
-  QvpStatus name##_##type##_##layout##IR(Qvp##type value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { return impl(&value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize); }
-#define QVP_WITH_CONSTANT_SFS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, Qvp##type value, Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) { return impl(&value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); } \
-  QvpStatus name##_##type##_##layout##IRSfs(Qvp##type value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) { return impl(&value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor); }
+#define QVP_WITH_CONSTANT(name, type, layout, impl)                                                               \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type value, Qvp##type* pDst,     \
+                                        int dstStep, QvpiSize roiSize) {                                          \
+    return impl(&value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); \
+  }                                                                                                               \
+  QvpStatus name##_##type##_##layout##IR(Qvp##type value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { \
+    return impl(&value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                            \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                           \
+  }
+#define QVP_WITH_CONSTANT_SFS(name, type, layout, impl)                                                            \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, Qvp##type value, Qvp##type* pDst,   \
+                                           int dstStep, QvpiSize roiSize, int scaleFactor) {                       \
+    return impl(&value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize,   \
+                scaleFactor);                                                                                      \
+  }                                                                                                                \
+  QvpStatus name##_##type##_##layout##IRSfs(Qvp##type value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, \
+                                            int scaleFactor) {                                                     \
+    return impl(&value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                             \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                               \
+  }
 
 // The same with a constant of several channels.
-#define QVP_WITH_CONSTANTS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, const Qvp##type* value, Qvp##type* pDst, int dstStep, QvpiSize roiSize) { return impl(value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); } \
-  QvpStatus name##_##type##_##layout##IR(const Qvp##type* value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) { return impl(value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize); }
-#define QVP_WITH_CONSTANTS_SFS(name, type, layout, impl) \
-  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, const Qvp##type* value, Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) { return impl(value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); } \
-  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* value, Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) { return impl(value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor); }
+#define QVP_WITH_CONSTANTS(name, type, layout, impl)                                                                 \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, const Qvp##type* value, Qvp##type* pDst, \
+                                        int dstStep, QvpiSize roiSize) {                                             \
+    return impl(value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize);     \
+  }                                                                                                                  \
+  QvpStatus name##_##type##_##layout##IR(const Qvp##type* value, Qvp##type* pSrcDst, int srcDstStep,                 \
+                                         QvpiSize roiSize) {                                                         \
+    return impl(value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                                \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                              \
+  }
+#define QVP_WITH_CONSTANTS_SFS(name, type, layout, impl)                                                        \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, const Qvp##type* value,          \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) {   \
+    return impl(value, View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, \
+                scaleFactor);                                                                                   \
+  }                                                                                                             \
+  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* value, Qvp##type* pSrcDst, int srcDstStep,         \
+                                            QvpiSize roiSize, int scaleFactor) {                                \
+    return impl(value, View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                           \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                            \
+  }
 
 // A shape for the layouts C1, C3, C4 and AC4; of those with constants, C1 takes a number.
 #define QVP_C1_C3_C4_AC4(SHAPE, name, type, impl) \
   SHAPE(name, type, C1, impl) SHAPE(name, type, C3, impl) SHAPE(name, type, C4, impl) SHAPE(name, type, AC4, impl)
-#define QVP_CONSTANT_C1_C3_C4_AC4(name, type, impl) \
-  QVP_WITH_CONSTANT(name, type, C1, impl) QVP_WITH_CONSTANTS(name, type, C3, impl) QVP_WITH_CONSTANTS(name, type, C4, impl) QVP_WITH_CONSTANTS(name, type, AC4, impl)
-#define QVP_CONSTANT_SFS_C1_C3_C4_AC4(name, type, impl) \
-  QVP_WITH_CONSTANT_SFS(name, type, C1, impl) QVP_WITH_CONSTANTS_SFS(name, type, C3, impl) QVP_WITH_CONSTANTS_SFS(name, type, C4, impl) QVP_WITH_CONSTANTS_SFS(name, type, AC4, impl)
+#define QVP_CONSTANT_C1_C3_C4_AC4(name, type, impl)                                 \
+  QVP_WITH_CONSTANT(name, type, C1, impl)                                           \
+  QVP_WITH_CONSTANTS(name, type, C3, impl) QVP_WITH_CONSTANTS(name, type, C4, impl) \
+      QVP_WITH_CONSTANTS(name, type, AC4, impl)
+#define QVP_CONSTANT_SFS_C1_C3_C4_AC4(name, type, impl)                                     \
+  QVP_WITH_CONSTANT_SFS(name, type, C1, impl)                                               \
+  QVP_WITH_CONSTANTS_SFS(name, type, C3, impl) QVP_WITH_CONSTANTS_SFS(name, type, C4, impl) \
+      QVP_WITH_CONSTANTS_SFS(name, type, AC4, impl)

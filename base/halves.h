@@ -1,11 +1,11 @@
-// Vectors of small integers as two vectors of lanes twice as wide, and back with saturation. Elements are taken apart and
-// put together within blocks of 16 bytes, so that no lane crosses a block; the order in between does not matter.
+// Vectors of small integers as two vectors of lanes twice as wide, and back with saturation. Elements are taken apart
+// and put together within blocks of 16 bytes, so that no lane crosses a block; the order in between does not matter.
 #pragma once
 
 #include <limits>
 #include <type_traits>
 
-#include "base/simd.h"
+#include "base/lanes.h"
 
 namespace qvp {
 
@@ -25,13 +25,12 @@ HWY_INLINE auto Widen(hn::Vec<hn::ScalableTag<T>> v) {
   const hn::ScalableTag<T> d;
   const hn::ScalableTag<WideLane<T>> wide;
   if constexpr (std::is_signed_v<T>) {  // each element to the upper half of its lane, then down with its sign
-    return Halves{
-        hn::ShiftRight<8 * sizeof(T)>(hn::BitCast(wide, hn::InterleaveLower(d, v, v))),
-        hn::ShiftRight<8 * sizeof(T)>(hn::BitCast(wide, hn::InterleaveUpper(d, v, v)))};
+    return Halves{hn::ShiftRight<8 * sizeof(T)>(hn::BitCast(wide, hn::InterleaveLower(d, v, v))),
+                  hn::ShiftRight<8 * sizeof(T)>(hn::BitCast(wide, hn::InterleaveUpper(d, v, v)))};
   } else {
     const auto zero = hn::Zero(d);
     return Halves{hn::BitCast(wide, hn::InterleaveLower(d, v, zero)),
-                                           hn::BitCast(wide, hn::InterleaveUpper(d, v, zero))};
+                  hn::BitCast(wide, hn::InterleaveUpper(d, v, zero))};
   }
 }
 
@@ -40,10 +39,9 @@ HWY_INLINE auto Products(hn::Vec<hn::ScalableTag<uint8_t>> a, hn::Vec<hn::Scalab
   const hn::ScalableTag<uint8_t> d;
   const hn::ScalableTag<uint16_t> wide;
   const auto zero = hn::Zero(d);
-  return Halves{hn::Mul(hn::BitCast(wide, hn::InterleaveLower(d, a, zero)),
-                                                 hn::BitCast(wide, hn::InterleaveLower(d, b, zero))),
-                                         hn::Mul(hn::BitCast(wide, hn::InterleaveUpper(d, a, zero)),
-                                                 hn::BitCast(wide, hn::InterleaveUpper(d, b, zero)))};
+  return Halves{
+      hn::Mul(hn::BitCast(wide, hn::InterleaveLower(d, a, zero)), hn::BitCast(wide, hn::InterleaveLower(d, b, zero))),
+      hn::Mul(hn::BitCast(wide, hn::InterleaveUpper(d, a, zero)), hn::BitCast(wide, hn::InterleaveUpper(d, b, zero)))};
 }
 
 // Products of 16-bit elements, in 32-bit lanes of the same signedness.
@@ -53,19 +51,19 @@ HWY_INLINE auto Products(V a, V b) {
   const hn::RepartitionToWide<decltype(d)> wide;
   const auto low = hn::Mul(a, b), high = hn::MulHigh(a, b);
   return Halves{hn::BitCast(wide, hn::InterleaveLower(d, low, high)),
-                                         hn::BitCast(wide, hn::InterleaveUpper(d, low, high))};
+                hn::BitCast(wide, hn::InterleaveUpper(d, low, high))};
 }
 
 // The CPU's saturating packs, which read their operands as signed.
-#define QVP_PACKS(Vec, prefix)                                                                                        \
-  HWY_INLINE hn::Vec<uint8_t> Packed(uint8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {                       \
-    return hn::Vec<uint8_t>{prefix##_packus_epi16(lower.raw, upper.raw)};                                             \
-  }                                                                                                                   \
-  HWY_INLINE hn::Vec<uint16_t> Packed(uint16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) {                     \
-    return hn::Vec<uint16_t>{prefix##_packus_epi32(lower.raw, upper.raw)};                                            \
-  }                                                                                                                   \
-  HWY_INLINE hn::Vec<int16_t> Packed(int16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) {                       \
-    return hn::Vec<int16_t>{prefix##_packs_epi32(lower.raw, upper.raw)};                                              \
+#define QVP_PACKS(Vec, prefix)                                                                    \
+  HWY_INLINE hn::Vec<uint8_t> Packed(uint8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {   \
+    return hn::Vec<uint8_t>{prefix##_packus_epi16(lower.raw, upper.raw)};                         \
+  }                                                                                               \
+  HWY_INLINE hn::Vec<uint16_t> Packed(uint16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) { \
+    return hn::Vec<uint16_t>{prefix##_packus_epi32(lower.raw, upper.raw)};                        \
+  }                                                                                               \
+  HWY_INLINE hn::Vec<int16_t> Packed(int16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) {   \
+    return hn::Vec<int16_t>{prefix##_packs_epi32(lower.raw, upper.raw)};                          \
   }
 QVP_PACKS(Vec128, _mm)
 #if HWY_TARGET <= HWY_AVX2
@@ -88,6 +86,27 @@ HWY_INLINE auto Pack(Halves<V> v) {
     const V top = hn::Set(d, static_cast<L>(std::numeric_limits<T>::max()));
     return Packed(T(), hn::BitCast(asSigned, hn::Min(v.lower, top)), hn::BitCast(asSigned, hn::Min(v.upper, top)));
   }
+}
+
+// An operation on float lanes as one on vectors of bytes: dst = op(bytes...), rounded to the nearest and saturated; NaN
+// gives 0.
+template <class Op>
+auto InFloatLanes(const Op& op) {
+  return [op](auto... v) HWY_ATTR {
+    const hn::ScalableTag<float> d;
+    const hn::ScalableTag<int32_t> ints;
+    const auto narrowed = [=](auto... words) HWY_ATTR {
+      const auto result = hn::Max(op(hn::ConvertTo(d, hn::BitCast(ints, words))...), hn::Zero(d));
+      return RoundToInt(hn::Min(result, hn::Set(d, 255.0f)));  // NaN is gone: the maximum gave its second operand
+    };
+    const auto half = [=](auto... words) HWY_ATTR {
+      return Pack<int16_t>(
+          Halves{narrowed(Widen<uint16_t>(words).lower...), narrowed(Widen<uint16_t>(words).upper...)});
+    };
+    const hn::ScalableTag<uint16_t> words;
+    return Pack<uint8_t>(Halves{half(hn::BitCast(words, Widen<uint8_t>(v).lower)...),
+                                half(hn::BitCast(words, Widen<uint8_t>(v).upper)...)});
+  };
 }
 
 }  // namespace qvp

@@ -54,8 +54,9 @@ void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Ima
   const int channels = Channels(dst.layout);
   const Store store = StoreForPixelwise(roi, dst, src...);
   if (store == Store::kOrdinary) {
-    return Rows(dst, src...).ForEach(
-        roi, [&](ptrdiff_t width, T* to, const S*... from) { kernel(width * channels, to, from...); });
+    return Rows(dst, src...).ForEach(roi, [&](ptrdiff_t width, T* to, const S*... from) {
+      kernel(width * channels, to, from...);
+    });
   }
   constexpr ptrdiff_t kPiece = LineWriter::kPieceBytes / sizeof(T);
   Rows(dst, src...).ForEach(roi, [&](ptrdiff_t width, T* to, const S*... from) {
@@ -88,9 +89,8 @@ void MapImagesWith(D d, const Op& op, Size roi, const S* values, const Image<T>&
   const auto withConstant = [&](const auto& at, auto v) HWY_ATTR { return op(at(constant), v); };
   const auto row = [&](auto keepAlpha) {
     ForEachPiece(
-        roi,
-        [&](ptrdiff_t n, T* to, const S* from) HWY_ATTR { MapRowWith<keepAlpha()>(d, to, n, withConstant, from); }, dst,
-        src);
+        roi, [&](ptrdiff_t n, T* to, const S* from) HWY_ATTR { MapRowWith<keepAlpha()>(d, to, n, withConstant, from); },
+        dst, src);
   };
   KeepsAlpha(dst.layout) ? row(std::true_type()) : row(std::false_type());
 }

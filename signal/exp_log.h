@@ -1,27 +1,35 @@
-// Exponent and natural logarithm of float and double lanes. One text for all builds, of operations that every CPU rounds
-// alike, so that all of them give the same bits.
+// Exponent and natural logarithm of float and double lanes. One text for all builds, of operations that every CPU
+// rounds alike, so that all of them give the same bits.
 #pragma once
 
+#include <iterator>
 #include <limits>
 
 #include "base/simd.h"
 
 namespace qvp {
 
-// What depends on the width of the lanes. ln 2 is split so that its upper part times any exponent is exact.
+// What depends on the width of the lanes. ln 2 is split so that its upper part times any exponent is exact. The
+// exponent's coefficients, from the highest power down, are those of (e^r - 1 - r) / r^2 on |r| <= ln(2) / 2: the
+// polynomial of the smallest error for float lanes (2^-28 of the result, by Lawson's method), the power series for
+// double lanes (2^-57).
 template <class F>
 struct ElementaryTraits;
 template <>
 struct ElementaryTraits<float> {
-  static constexpr int kMantissaBits = 23, kBias = 127, kExpTerms = 7, kLnTerms = 4;
+  static constexpr int kMantissaBits = 23, kBias = 127, kLnTerms = 4;
   static constexpr float kLn2Upper = 0x1.62ep-1f, kLn2Lower = 0x1.0bfbe8p-15f;
   static constexpr uint32_t kRootHalf = 0x3F3504F3;
+  static constexpr float kExp[] = {0x1.6db41p-10f, 0x1.123b46p-7f, 0x1.55545ep-5f, 0x1.55548ep-3f, 0.5f};
 };
 template <>
 struct ElementaryTraits<double> {
-  static constexpr int kMantissaBits = 52, kBias = 1023, kExpTerms = 13, kLnTerms = 10;
+  static constexpr int kMantissaBits = 52, kBias = 1023, kLnTerms = 10;
   static constexpr double kLn2Upper = 0x1.62e42fefa38p-1, kLn2Lower = 0x1.ef35793c7673p-45;
   static constexpr uint64_t kRootHalf = 0x3FE6A09E667F3BCD;
+  static constexpr double kExp[] = {1 / 6227020800.0, 1 / 479001600.0, 1 / 39916800.0, 1 / 3628800.0,
+                                    1 / 362880.0,     1 / 40320.0,     1 / 5040.0,     1 / 720.0,
+                                    1 / 120.0,        1 / 24.0,        1 / 6.0,        1 / 2.0};
 };
 
 // 2^n for whole n within the exponents of normal numbers. The sum has n + bias as its lowest mantissa bits.
@@ -35,36 +43,48 @@ HWY_INLINE V PowerOfTwo(V n) {
   return hn::BitCast(d, hn::ShiftLeft<Traits::kMantissaBits>(hn::BitCast(bits, hn::Add(n, hn::Set(d, kUnit)))));
 }
 
-// e^r for |r| <= ln(2) / 2: the power series, whose first missing term is below a quarter of the last bit.
+// e^r for |r| <= ln(2) / 2.
 template <class V>
 HWY_INLINE V ExpNearZero(V r) {
   const hn::DFromV<V> d;
-  using F = hn::TFromD<decltype(d)>;
-  constexpr int kTerms = ElementaryTraits<F>::kExpTerms;
-  constexpr auto kReciprocal = [](int k) {  // 1 / k!
-    double product = 1;
-    for (int i = 2; i <= k; ++i) product *= i;
-    return static_cast<F>(1 / product);
-  };
-  V sum = hn::Set(d, kReciprocal(kTerms));
+  using Traits = ElementaryTraits<hn::TFromD<decltype(d)>>;
+  V sum = hn::Set(d, Traits::kExp[0]);
 #pragma GCC unroll 16
-  for (int k = kTerms - 1; k >= 2; --k) sum = hn::Add(hn::Mul(sum, r), hn::Set(d, kReciprocal(k)));
-  return hn::Add(hn::Add(hn::Mul(hn::Mul(sum, r), r), r), hn::Set(d, F{1}));
+  for (size_t i = 1; i < std::size(Traits::kExp); ++i) sum = hn::Add(hn::Mul(sum, r), hn::Set(d, Traits::kExp[i]));
+  return hn::Add(hn::Add(hn::Mul(hn::Mul(sum, r), r), r), hn::Set(d, hn::TFromD<decltype(d)>{1}));
 }
 
-// e^x = 2^n e^r with n the nearest integer to x / ln(2), of float lanes. Beyond the bounds the result is infinite or
-// zero; the power goes in as two factors, since 2^n alone leaves the normal numbers first. NaN stays NaN.
+// The nearest integer to x / ln(2), and e^r for what then is left of x, of float lanes.
+template <class V>
+HWY_INLINE V ReducedExp(V x, V& n) {
+  const hn::DFromV<V> d;
+  using Traits = ElementaryTraits<float>;
+  n = hn::Round(hn::Mul(x, hn::Set(d, 0x1.715476p+0f)));
+  const V upper = hn::Sub(x, hn::Mul(n, hn::Set(d, Traits::kLn2Upper)));
+  return ExpNearZero(hn::Sub(upper, hn::Mul(n, hn::Set(d, Traits::kLn2Lower))));
+}
+
+// e^x of any float: beyond the bounds the result is infinite or zero; the power goes in as two factors, since 2^n alone
+// leaves the normal numbers first. NaN stays NaN.
+template <class V>
+HWY_INLINE V ExpOfAny(V x) {
+  const hn::DFromV<V> d;
+  V n;
+  const V exp = ReducedExp(hn::Min(hn::Max(x, hn::Set(d, -104.0f)), hn::Set(d, 89.0f)), n);
+  const V half = hn::Floor(hn::Mul(n, hn::Set(d, 0.5f)));
+  const V result = hn::Mul(hn::Mul(exp, PowerOfTwo(half)), PowerOfTwo(hn::Sub(n, half)));
+  return hn::IfThenElse(hn::IsNaN(x), hn::Add(x, x), result);
+}
+
+// e^x = 2^n e^r of float lanes. Where the power is a normal number the two ways give the same bits.
 template <class V>
 HWY_INLINE V Exp(V x) {
   const hn::DFromV<V> d;
-  using Traits = ElementaryTraits<float>;
-  const V bounded = hn::Min(hn::Max(x, hn::Set(d, -104.0f)), hn::Set(d, 89.0f));
-  const V n = hn::Round(hn::Mul(bounded, hn::Set(d, 0x1.715476p+0f)));
-  const V upper = hn::Sub(bounded, hn::Mul(n, hn::Set(d, Traits::kLn2Upper)));
-  const V r = hn::Sub(upper, hn::Mul(n, hn::Set(d, Traits::kLn2Lower)));
-  const V half = hn::Floor(hn::Mul(n, hn::Set(d, 0.5f)));
-  const V result = hn::Mul(hn::Mul(ExpNearZero(r), PowerOfTwo(half)), PowerOfTwo(hn::Sub(n, half)));
-  return hn::IfThenElse(hn::Ne(x, x), hn::Add(x, x), result);
+  const auto isNormal = hn::Lt(hn::Abs(x), hn::Set(d, 87.0f));
+  if (HWY_UNLIKELY(!hn::AllTrue(d, isNormal))) return ExpOfAny(x);
+  V n;
+  const V exp = ReducedExp(x, n);
+  return hn::Mul(exp, PowerOfTwo(n));
 }
 
 // e^x 2^-scale for whole |x| <= 65535, of double lanes, to a part in 2^50, where the result is between 2^-80 and 2^80;
@@ -94,43 +114,50 @@ HWY_INLINE V LnOfParts(V e, V f) {
   return hn::Add(hn::Mul(e, hn::Set(d, Traits::kLn2Upper)), hn::Sub(f, less));
 }
 
-// Logarithm of positive normal numbers, times 2^-e0: x = 2^e (1 + f), found by the distance of x from sqrt(1/2), as
-// integers, in whole exponents.
+// Logarithm of positive normal numbers x = 2^e (1 + f), divided by 2^e0 first. The distance of x from sqrt(1/2), as
+// integers, has e above the mantissa.
 template <class V>
 HWY_INLINE V LnOfNormal(V x, V e0) {
   const hn::DFromV<V> d;
   using F = hn::TFromD<decltype(d)>;
   using Traits = ElementaryTraits<F>;
   const hn::RebindToUnsigned<decltype(d)> bits;
+  using Word = hn::TFromD<decltype(bits)>;
   constexpr F kUnit = static_cast<F>(uint64_t{1} << Traits::kMantissaBits);
-  const auto root = hn::Set(bits, Traits::kRootHalf), one = hn::Set(bits, hn::TFromD<decltype(bits)>{1});
-  // The distance with the bias added, so that it is not negative.
-  const auto lift = hn::ShiftLeft<Traits::kMantissaBits>(hn::Set(bits, hn::TFromD<decltype(bits)>{Traits::kBias}));
-  const auto distance = hn::Sub(hn::Add(hn::BitCast(bits, x), lift), root);
-  const auto exponent = hn::ShiftRight<Traits::kMantissaBits>(distance);
-  const V e = hn::Sub(hn::BitCast(d, hn::Or(exponent, hn::BitCast(bits, hn::Set(d, kUnit)))),
-                      hn::Set(d, kUnit + Traits::kBias));
-  const auto fraction = hn::And(distance, hn::Sub(hn::ShiftLeft<Traits::kMantissaBits>(one), one));
-  const V f = hn::Sub(hn::BitCast(d, hn::Add(fraction, root)), hn::Set(d, F{1}));
-  return LnOfParts(hn::Sub(e, e0), f);
+  constexpr Word kOne = Word{1} << Traits::kMantissaBits;
+  // With the bias added, so that it is not negative.
+  const auto distance = hn::Sub(hn::BitCast(bits, x), hn::Set(bits, Traits::kRootHalf - Traits::kBias * kOne));
+  const auto exponent = hn::Or(hn::ShiftRight<Traits::kMantissaBits>(distance), hn::BitCast(bits, hn::Set(d, kUnit)));
+  const auto mantissa = hn::Add(hn::And(distance, hn::Set(bits, kOne - 1)), hn::Set(bits, Traits::kRootHalf));
+  const V e = hn::Sub(hn::BitCast(d, exponent), hn::Add(e0, hn::Set(d, kUnit + Traits::kBias)));
+  return LnOfParts(e, hn::Sub(hn::BitCast(d, mantissa), hn::Set(d, F{1})));
 }
 
-// Natural logarithm: of 0 minus infinity, of less NaN.
+// Natural logarithm of any number: of 0 minus infinity, of less NaN; infinity and NaN stay.
 template <class V>
-HWY_INLINE V Ln(V x) {
+HWY_INLINE V LnOfAny(V x) {
   const hn::DFromV<V> d;
   using F = hn::TFromD<decltype(d)>;
   using Limits = std::numeric_limits<F>;
-  using Traits = ElementaryTraits<F>;
-  constexpr F kUp = static_cast<F>(uint64_t{1} << (Traits::kMantissaBits + 1));
-  const auto isSmall = hn::Lt(x, hn::Set(d, Limits::min()));  // subnormal, or not positive
-  const V normal = hn::IfThenElse(isSmall, hn::Mul(x, hn::Set(d, kUp)), x);
-  const V result = LnOfNormal(normal, hn::IfThenElseZero(isSmall, hn::Set(d, F{Traits::kMantissaBits + 1})));
+  constexpr int kUp = ElementaryTraits<F>::kMantissaBits + 1;
+  const auto isSmall = hn::Lt(x, hn::Set(d, Limits::min()));
+  const V lifted = hn::IfThenElse(isSmall, hn::Mul(x, hn::Set(d, static_cast<F>(uint64_t{1} << kUp))), x);
+  const V result = LnOfNormal(lifted, hn::IfThenElseZero(isSmall, hn::Set(d, F{kUp})));
+  const V below =
+      hn::IfThenElse(hn::Eq(x, hn::Zero(d)), hn::Set(d, -Limits::infinity()), hn::Set(d, Limits::quiet_NaN()));
+  const V special = hn::IfThenElse(hn::Le(x, hn::Zero(d)), below, hn::Add(x, x));
   const auto isRegular = hn::And(hn::Gt(x, hn::Zero(d)), hn::Lt(x, hn::Set(d, Limits::infinity())));
-  if (HWY_LIKELY(hn::AllTrue(d, isRegular))) return result;
-  const V atZero = hn::IfThenElse(hn::Eq(x, hn::Zero(d)), hn::Set(d, -Limits::infinity()), hn::Set(d, Limits::quiet_NaN()));
-  const V special = hn::IfThenElse(hn::Le(x, hn::Zero(d)), atZero, hn::Add(x, x));  // infinity and NaN stay
   return hn::IfThenElse(isRegular, result, special);
+}
+
+// The same; numbers that are all positive and normal need less, and get the same bits.
+template <class V>
+HWY_INLINE V Ln(V x) {
+  const hn::DFromV<V> d;
+  using Limits = std::numeric_limits<hn::TFromD<decltype(d)>>;
+  const auto isNormal = hn::And(hn::Ge(x, hn::Set(d, Limits::min())), hn::Lt(x, hn::Set(d, Limits::infinity())));
+  if (HWY_UNLIKELY(!hn::AllTrue(d, isNormal))) return LnOfAny(x);
+  return LnOfNormal(x, hn::Zero(d));
 }
 
 }  // namespace qvp
