@@ -36,7 +36,7 @@ auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
 // comes from the bits: the difference from a constant negates the exponent and, to within 5.1 %, the mantissa's share.
 // Each Newton step squares that error.
 template <class V>
-HWY_INLINE V ApproximateReciprocal(V v) {
+HWY_INLINE V ReciprocalFromBits(V v) {
   const hn::DFromV<V> d;
   const hn::RebindToSigned<decltype(d)> bits;
   V r = hn::BitCast(d, hn::Sub(hn::Set(bits, 0x7EF311C3), hn::BitCast(bits, v)));
@@ -51,7 +51,7 @@ template <class V>
 HWY_INLINE V FloatQuotient(V a, V b) {
   const hn::DFromV<V> d;
   const hn::RebindToSigned<decltype(d)> bits;
-  const V r = ApproximateReciprocal(a), rough = hn::Mul(b, r);
+  const V r = ReciprocalFromBits(a), rough = hn::Mul(b, r);
   const V quotient = hn::Add(rough, hn::Mul(rough, hn::Sub(hn::Set(d, 1.0f), hn::Mul(a, r))));
   const auto magnitude = hn::And(hn::BitCast(bits, a), hn::Set(bits, 0x7FFFFFFF));
   const auto isOutside =

@@ -715,7 +715,7 @@ QvpStatus qvpiSqrt_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** Natural logarithm: dst = ln(src).
  *
  *  Integers: the logarithm, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type, so that
- *  any scale factor is valid; 0 and negative values give the smallest value of the type. 32f: within 1 units in the last
+ *  any scale factor is valid; 0 and negative values give the smallest value of the type. 32f: within 1 unit in the last
  *  place; 0 gives minus infinity, negative values NaN. No build takes it from the mathematics library, so that all give
  *  the same bits.
  *
@@ -751,7 +751,7 @@ QvpStatus qvpiLn_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** Exponent: dst = e^src.
  *
  *  Integers: the power, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type. Any scale
- *  factor is valid, and large powers may be scaled back into the range. 32f: within 1 units in the last place, infinite
+ *  factor is valid, and large powers may be scaled back into the range. 32f: within 1 unit in the last place, infinite
  *  above the range and 0 below it. No build takes it from the mathematics library, so that all give the same bits.
  *
  *  `I` forms write into `pSrcDst`. Steps are not checked.
