@@ -32,6 +32,32 @@ auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
   }
 }
 
+// second / first of bytes, to the nearest. One division serves two quotients: with r = 1 / (x y), 1 / x is y r and 1 /
+// y is x r, to a part in 2^22. A step of 2^-12 then takes that error out of ties, and is too small to make one: other
+// quotients are 1 / 510 or more away.
+template <class V>
+HWY_INLINE V ByteQuotient(V a, V b) {
+  const hn::ScalableTag<uint8_t> bytes;
+  const hn::ScalableTag<uint16_t> words;
+  const hn::ScalableTag<int32_t> ints;
+  const hn::ScalableTag<float> d;
+  const auto step = hn::Set(d, 0x1.8p11f);
+  const auto toFloat = [&](auto v) HWY_ATTR { return hn::ConvertTo(d, v); };
+  const auto toNearest = [&](auto v) HWY_ATTR { return RoundToInt(hn::Sub(hn::Add(v, step), step)); };
+  const auto half = [&](auto divisors, auto dividends) HWY_ATTR {
+    const auto under = Widen<uint16_t>(hn::BitCast(words, divisors)),
+               over = Widen<uint16_t>(hn::BitCast(words, dividends));
+    const auto x = toFloat(under.lower), y = toFloat(under.upper), r = hn::Div(hn::Set(d, 1.0f), hn::Mul(x, y));
+    return Pack<int16_t>(Halves{toNearest(hn::Mul(toFloat(over.lower), hn::Mul(y, r))),
+                                toNearest(hn::Mul(toFloat(over.upper), hn::Mul(x, r)))});
+  };
+  const auto isZero = hn::Eq(a, hn::Zero(bytes));
+  const auto under = Widen<uint8_t>(hn::Sub(a, hn::VecFromMask(bytes, isZero)));  // zeros become ones
+  const auto over = Widen<uint8_t>(b);
+  const V quotient = Pack<uint8_t>(Halves{half(under.lower, over.lower), half(under.upper, over.upper)});
+  return hn::IfThenElse(isZero, hn::VecFromMask(bytes, hn::Ne(b, hn::Zero(bytes))), quotient);
+}
+
 // The reciprocal of normal numbers below 2^125, without a division, to 2^-17 and never too large. The first estimate
 // comes from the bits: the difference from a constant negates the exponent and, to within 5.1 %, the mantissa's share.
 // Each Newton step squares that error.
@@ -121,6 +147,13 @@ QvpStatus DivideRounded(const Image<const T>& a, const Image<const T>& b, const 
 
 template <class T>
 QvpStatus Divide(const Image<const T>& a, const Image<const T>& b, const Image<T>& dst, Size roi, int scale) {
+  if constexpr (sizeof(T) == 1) {
+    if (scale == 0) {
+      if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
+      const auto kernel = [](auto x, auto y) HWY_ATTR { return ByteQuotient(x, y); };
+      return DivideImages(hn::ScalableTag<T>(), kernel, roi, a, b, dst);
+    }
+  }
   return DivideRounded(a, b, dst, roi, qvpRoundNear, scale);
 }
 

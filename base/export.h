@@ -167,11 +167,11 @@
 // A shape for the layouts C1, C3, C4 and AC4; of those with constants, C1 takes a number.
 #define QVP_C1_C3_C4_AC4(SHAPE, name, type, impl) \
   SHAPE(name, type, C1, impl) SHAPE(name, type, C3, impl) SHAPE(name, type, C4, impl) SHAPE(name, type, AC4, impl)
-#define QVP_CONSTANT_C1_C3_C4_AC4(name, type, impl)                                 \
-  QVP_WITH_CONSTANT(name, type, C1, impl)                                           \
-  QVP_WITH_CONSTANTS(name, type, C3, impl) QVP_WITH_CONSTANTS(name, type, C4, impl) \
-      QVP_WITH_CONSTANTS(name, type, AC4, impl)
-#define QVP_CONSTANT_SFS_C1_C3_C4_AC4(name, type, impl)                                     \
-  QVP_WITH_CONSTANT_SFS(name, type, C1, impl)                                               \
-  QVP_WITH_CONSTANTS_SFS(name, type, C3, impl) QVP_WITH_CONSTANTS_SFS(name, type, C4, impl) \
-      QVP_WITH_CONSTANTS_SFS(name, type, AC4, impl)
+#define QVP_CONSTANT_C1_C3_C4_AC4(name, type, impl) \
+  QVP_WITH_CONSTANT(name, type, C1, impl)           \
+  QVP_WITH_CONSTANTS(name, type, C3, impl)          \
+  QVP_WITH_CONSTANTS(name, type, C4, impl) QVP_WITH_CONSTANTS(name, type, AC4, impl)
+#define QVP_CONSTANT_SFS_C1_C3_C4_AC4(name, type, impl) \
+  QVP_WITH_CONSTANT_SFS(name, type, C1, impl)           \
+  QVP_WITH_CONSTANTS_SFS(name, type, C3, impl)          \
+  QVP_WITH_CONSTANTS_SFS(name, type, C4, impl) QVP_WITH_CONSTANTS_SFS(name, type, AC4, impl)
