@@ -39,7 +39,6 @@ template <class V>
 HWY_INLINE V ByteQuotient(V a, V b) {
   const hn::ScalableTag<uint8_t> bytes;
   const hn::ScalableTag<uint16_t> words;
-  const hn::ScalableTag<int32_t> ints;
   const hn::ScalableTag<float> d;
   const auto step = hn::Set(d, 0x1.8p11f);
   const auto toFloat = [&](auto v) HWY_ATTR { return hn::ConvertTo(d, v); };
