@@ -32,28 +32,13 @@ auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
   }
 }
 
-// second / first of bytes, to the nearest. One division serves two quotients: with r = 1 / (x y), 1 / x is y r and 1 /
-// y is x r, to a part in 2^22. A step of 2^-12 then takes that error out of ties, and is too small to make one: other
-// quotients are 1 / 510 or more away.
+// second / first of bytes, to the nearest. Zero divisors become ones first, so that no quotient leaves the range.
 template <class V>
 HWY_INLINE V ByteQuotient(V a, V b) {
   const hn::ScalableTag<uint8_t> bytes;
-  const hn::ScalableTag<uint16_t> words;
-  const hn::ScalableTag<float> d;
-  const auto step = hn::Set(d, 0x1.8p11f);
-  const auto toFloat = [&](auto v) HWY_ATTR { return hn::ConvertTo(d, v); };
-  const auto toNearest = [&](auto v) HWY_ATTR { return RoundToInt(hn::Sub(hn::Add(v, step), step)); };
-  const auto half = [&](auto divisors, auto dividends) HWY_ATTR {
-    const auto under = Widen<uint16_t>(hn::BitCast(words, divisors)),
-               over = Widen<uint16_t>(hn::BitCast(words, dividends));
-    const auto x = toFloat(under.lower), y = toFloat(under.upper), r = hn::Div(hn::Set(d, 1.0f), hn::Mul(x, y));
-    return Pack<int16_t>(Halves{toNearest(hn::Mul(toFloat(over.lower), hn::Mul(y, r))),
-                                toNearest(hn::Mul(toFloat(over.upper), hn::Mul(x, r)))});
-  };
+  const auto divide = [](auto x, auto y) HWY_ATTR { return RoundToInt(hn::Div(y, x)); };
   const auto isZero = hn::Eq(a, hn::Zero(bytes));
-  const auto under = Widen<uint8_t>(hn::Sub(a, hn::VecFromMask(bytes, isZero)));  // zeros become ones
-  const auto over = Widen<uint8_t>(b);
-  const V quotient = Pack<uint8_t>(Halves{half(under.lower, over.lower), half(under.upper, over.upper)});
+  const V quotient = ViaFloats(divide, hn::Sub(a, hn::VecFromMask(bytes, isZero)), b);
   return hn::IfThenElse(isZero, hn::VecFromMask(bytes, hn::Ne(b, hn::Zero(bytes))), quotient);
 }
 
@@ -114,11 +99,12 @@ bool DivideRows(D d, const Kernel& kernel, Size roi, const Image<const T>& a, co
                 const Image<T>& dst) {
   constexpr ptrdiff_t kPiece = LineWriter::kPieceBytes / sizeof(T);
   bool foundZero = false;
-  const auto row = [&](ptrdiff_t n, T* to, const T* divisors, const T* dividends) HWY_ATTR {
+  const auto row = [&](ptrdiff_t n, T* to, const T* divisors, const T* dividends) QVP_ROW_KERNEL {
+    const Kernel own = kernel;
     for (ptrdiff_t i = 0; i < n; i += kPiece) {
       const ptrdiff_t piece = std::min(kPiece, n - i);
       foundZero |= ContainsZero<kKeepAlpha>(divisors + i, piece);
-      MapRow<kKeepAlpha>(d, to + i, piece, kernel, divisors + i, dividends + i);
+      MapRow<kKeepAlpha>(d, to + i, piece, own, divisors + i, dividends + i);
     }
   };
   ForEachPiece(roi, row, dst, a, b);

@@ -88,25 +88,29 @@ HWY_INLINE auto Pack(Halves<V> v) {
   }
 }
 
-// An operation on float lanes as one on vectors of bytes: dst = op(bytes...), rounded to the nearest and saturated; NaN
-// gives 0.
+// op(bytes...) where op takes float lanes and gives 32-bit integers, which are saturated to bytes.
+template <class Op, class... V>
+HWY_INLINE auto ViaFloats(const Op& op, V... v) {
+  const hn::ScalableTag<uint16_t> words;
+  const auto quarter = [&](auto... lanes) HWY_ATTR {
+    return op(hn::ConvertTo(hn::ScalableTag<float>(), hn::BitCast(hn::ScalableTag<int32_t>(), lanes))...);
+  };
+  const auto half = [&](auto... lanes) HWY_ATTR {
+    return Pack<int16_t>(Halves{quarter(Widen<uint16_t>(lanes).lower...), quarter(Widen<uint16_t>(lanes).upper...)});
+  };
+  return Pack<uint8_t>(Halves{half(hn::BitCast(words, Widen<uint8_t>(v).lower)...),
+                              half(hn::BitCast(words, Widen<uint8_t>(v).upper)...)});
+}
+
+// An operation on float lanes as one on vectors of bytes, rounded to the nearest and saturated; NaN gives 0.
 template <class Op>
 auto InFloatLanes(const Op& op) {
-  return [op](auto... v) HWY_ATTR {
+  const auto rounded = [op](auto... v) HWY_ATTR {
     const hn::ScalableTag<float> d;
-    const hn::ScalableTag<int32_t> ints;
-    const auto narrowed = [=](auto... words) HWY_ATTR {
-      const auto result = hn::Max(op(hn::ConvertTo(d, hn::BitCast(ints, words))...), hn::Zero(d));
-      return RoundToInt(hn::Min(result, hn::Set(d, 255.0f)));  // NaN is gone: the maximum gave its second operand
-    };
-    const auto half = [=](auto... words) HWY_ATTR {
-      return Pack<int16_t>(
-          Halves{narrowed(Widen<uint16_t>(words).lower...), narrowed(Widen<uint16_t>(words).upper...)});
-    };
-    const hn::ScalableTag<uint16_t> words;
-    return Pack<uint8_t>(Halves{half(hn::BitCast(words, Widen<uint8_t>(v).lower)...),
-                                half(hn::BitCast(words, Widen<uint8_t>(v).upper)...)});
+    const auto result = hn::Max(op(v...), hn::Zero(d));  // NaN gives the second operand
+    return RoundToInt(hn::Min(result, hn::Set(d, 255.0f)));
   };
+  return [rounded](auto... v) HWY_ATTR { return ViaFloats(rounded, v...); };
 }
 
 }  // namespace qvp

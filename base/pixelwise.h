@@ -71,28 +71,37 @@ void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Ima
   Fence(store);
 }
 
+// A row kernel is called from two places, with the destination or with a piece that is streamed, but exists once. What
+// it needs it copies first: bytes that are stored could otherwise be part of it, and it would be read again after each
+// store.
+#define QVP_ROW_KERNEL HWY_NOINLINE HWY_ATTR
+
 // dst = op(src...) in lanes of D.
 template <class D, class Op, class T, class... S>
 void MapImages(D d, const Op& op, Size roi, const Image<T>& dst, const Image<const S>&... src) {
-  const auto row = [&](auto keepAlpha) {
-    ForEachPiece(
-        roi, [&](ptrdiff_t n, T* to, const S*... from) HWY_ATTR { MapRow<keepAlpha()>(d, to, n, op, from...); }, dst,
-        src...);
+  const auto map = [&](auto keepAlpha) {
+    const auto row = [&](ptrdiff_t n, T* to, const S*... from) QVP_ROW_KERNEL {
+      const Op own = op;
+      MapRow<keepAlpha()>(d, to, n, own, from...);
+    };
+    ForEachPiece(roi, row, dst, src...);
   };
-  KeepsAlpha(dst.layout) ? row(std::true_type()) : row(std::false_type());
+  KeepsAlpha(dst.layout) ? map(std::true_type()) : map(std::false_type());
 }
 
 // dst = op(value of the channel, src) in lanes of D.
 template <class D, class Op, class T, class S>
 void MapImagesWith(D d, const Op& op, Size roi, const S* values, const Image<T>& dst, const Image<const S>& src) {
   const PerChannel<D> constant(d, values, dst.layout);
-  const auto withConstant = [&](const auto& at, auto v) HWY_ATTR { return op(at(constant), v); };
-  const auto row = [&](auto keepAlpha) {
-    ForEachPiece(
-        roi, [&](ptrdiff_t n, T* to, const S* from) HWY_ATTR { MapRowWith<keepAlpha()>(d, to, n, withConstant, from); },
-        dst, src);
+  const auto map = [&](auto keepAlpha) {
+    const auto row = [&](ptrdiff_t n, T* to, const S* from) QVP_ROW_KERNEL {
+      const Op own = op;
+      const auto withConstant = [&](const auto& at, auto v) HWY_ATTR { return own(at(constant), v); };
+      MapRowWith<keepAlpha()>(d, to, n, withConstant, from);
+    };
+    ForEachPiece(roi, row, dst, src);
   };
-  KeepsAlpha(dst.layout) ? row(std::true_type()) : row(std::false_type());
+  KeepsAlpha(dst.layout) ? map(std::true_type()) : map(std::false_type());
 }
 
 }  // namespace qvp
