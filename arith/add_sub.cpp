@@ -1,4 +1,5 @@
 // Sums and differences of two images, or of an image and a constant.
+#include "arith/nan.h"
 #include "arith/scale.h"
 #include "base/check.h"
 #include "base/export.h"
@@ -92,9 +93,14 @@ void WithKernel(int scale, const Then& then) {
   }
 }
 
-template <class Op>
-void WithFloatKernel(const auto& then) {
-  then([](auto a, auto b) HWY_ATTR { return Op().Exact(a, b); });
+// The difference is the second operand's NaN, where both are, as subtraction does not commute.
+template <class Op, class Then>
+void WithFloatKernel(const Then& then) {
+  then([](auto a, auto b) HWY_ATTR {
+    const auto result = Op().Exact(a, b);
+    if constexpr (std::is_same_v<Op, Sum>) return WithNanOf(a, result);
+    return result;
+  });
 }
 
 template <class Op, class T>

@@ -1,4 +1,5 @@
 // Products of two images, of an image and a constant, and squares.
+#include "arith/nan.h"
 #include "arith/scale.h"
 #include "base/check.h"
 #include "base/export.h"
@@ -20,7 +21,7 @@ struct Product {
         then([=](auto a, auto b) HWY_ATTR { return ScaleAndPack<T>(scaling, Products(a, b)); });
       });
     } else {
-      then([](auto a, auto b) HWY_ATTR { return hn::Mul(a, b); });
+      then([](auto a, auto b) HWY_ATTR { return WithNanOf(a, hn::Mul(a, b)); });
     }
   }
 };
