@@ -4,7 +4,7 @@
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   set(realign -mincoming-stack-boundary=2)
 else()
-  set(realign -mstackrealign)
+  set(realign -mstackrealign -mstack-alignment=4)
 endif()
 
 #        code  bits  runs with  vector target  file     below the library folder in  name in the version record  flags
