@@ -1,4 +1,6 @@
 // Steps of qvpi_arith.h: arithmetic.
+#include <vector>
+
 #include "examples/demo.h"
 
 namespace demo {
@@ -24,20 +26,29 @@ void Average(Demo& demo, const Rgb& dark, const Rgb& bright) {
   demo.Show("Average of both exposures", average);
 }
 
-// Each exposure counts where it is good: the long one by how dark the photograph is, the short one by how bright.
+// Fractions from 0 at the left edge to 1, which is 255, at the right. A step of 0 uses one row as the source of all.
+Rgb Ramp(QvpiSize size) {
+  Rgb ramp(size);
+  std::vector<Qvp8u> row(3 * size.width);
+  for (int i = 0; i < 3 * size.width; ++i) row[i] = static_cast<Qvp8u>(int64_t{255} * (i / 3) / size.width);
+  Require(qvpiCopy_8u_C3R(row.data(), 0, ramp.data(), ramp.step(), size));
+  return ramp;
+}
+
+// ramp * bright + (1 - ramp) * dark
 void Blend(Demo& demo, const Rgb& dark, const Rgb& bright) {
-  const Rgb& weight = demo.photo();
-  const QvpiSize size = weight.size();
-  Rgb fromDark(size), blend(size);
+  const QvpiSize size = dark.size();
+  const Rgb ramp = Ramp(size);
+  Rgb fromBright(size), blend(size);
   const Qvp8u full[3] = {255, 255, 255};
   Require(qvpiSet_8u_C3R(full, blend.data(), blend.step(), size));
-  Require(qvpiSub_8u_C3IRSfs(weight.data(), weight.step(), blend.data(), blend.step(), size, 0));
-  Require(qvpiMulScale_8u_C3IR(bright.data(), bright.step(), blend.data(), blend.step(), size));
+  Require(qvpiSub_8u_C3IRSfs(ramp.data(), ramp.step(), blend.data(), blend.step(), size, 0));
+  Require(qvpiMulScale_8u_C3IR(dark.data(), dark.step(), blend.data(), blend.step(), size));
   demo.Time(size, 6 + 3,
-            CALL(qvpiMulScale_8u_C3R, weight.data(), weight.step(), dark.data(), dark.step(), fromDark.data(),
-                 fromDark.step(), size));
-  Require(qvpiAdd_8u_C3IRSfs(fromDark.data(), fromDark.step(), blend.data(), blend.step(), size, 0));
-  demo.Show("Exposures blended by brightness", blend);
+            CALL(qvpiMulScale_8u_C3R, ramp.data(), ramp.step(), bright.data(), bright.step(), fromBright.data(),
+                 fromBright.step(), size));
+  Require(qvpiAdd_8u_C3IRSfs(fromBright.data(), fromBright.step(), blend.data(), blend.step(), size, 0));
+  demo.Show("Exposures blended along a ramp", blend);
 }
 
 }  // namespace
