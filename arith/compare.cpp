@@ -232,13 +232,13 @@ QvpStatus EqualEpsC(const Image<const Qvp32f>& src, const Qvp32f* values, const 
     return impl(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, Values(value),                     \
                 Bytes{pDst, dstStep, Layout::kC1}, roiSize, parameter);                                      \
   }
-#define COMPARE(type)                                                 \
-  QVP_C1_C3_C4_AC4(COMPARE_TWO, qvpiCompare, Compare, QvpCmpOp, type) \
-  QVP_C1_C3_C4_AC4(COMPARE_CONSTANT, qvpiCompareC, CompareC, QvpCmpOp, type)
+#define COMPARE(type)                                                \
+  QVP_EACH_LAYOUT(COMPARE_TWO, qvpiCompare, Compare, QvpCmpOp, type) \
+  QVP_EACH_LAYOUT(COMPARE_CONSTANT, qvpiCompareC, CompareC, QvpCmpOp, type)
 
 COMPARE(8u)
 COMPARE(16u)
 COMPARE(16s)
 COMPARE(32f)
-QVP_C1_C3_C4_AC4(COMPARE_TWO, qvpiCompareEqualEps, EqualEps, Qvp32f, 32f)
-QVP_C1_C3_C4_AC4(COMPARE_CONSTANT, qvpiCompareEqualEpsC, EqualEpsC, Qvp32f, 32f)
+QVP_EACH_LAYOUT(COMPARE_TWO, qvpiCompareEqualEps, EqualEps, Qvp32f, 32f)
+QVP_EACH_LAYOUT(COMPARE_CONSTANT, qvpiCompareEqualEpsC, EqualEpsC, Qvp32f, 32f)

@@ -1,8 +1,7 @@
 // Thresholds: values beyond a bound become the bound, or a value of the caller's.
 #include "base/check.h"
 #include "base/export.h"
-#include "base/map.h"
-#include "base/rows.h"
+#include "base/pixelwise.h"
 
 namespace {
 using namespace qvp;
@@ -66,10 +65,11 @@ template <class Op, class T, class... Constant>
 void Apply(const Image<const T>& src, const Image<T>& dst, Size roi, const Constant*... values) {
   const hn::ScalableTag<T> d;
   const auto rows = [&](auto keepAlpha, const auto&... constant) {
-    Rows(src, dst).ForEach(roi, [&](ptrdiff_t pixels, const T* from, T* to) {
-      const auto op = [&](auto at, auto v) { return Op()(v, at(constant)...); };
-      MapRowWith<keepAlpha()>(d, to, pixels * Channels(dst.layout), op, from);
-    });
+    const auto row = [&](ptrdiff_t n, T* to, const T* from) QVP_ROW_KERNEL {
+      MapRowWith<keepAlpha()>(
+          d, to, n, [&](auto at, auto v) { return Op()(v, at(constant)...); }, from);
+    };
+    ForEachPiece(roi, row, dst, src);
   };
   if (KeepsAlpha(dst.layout)) return rows(std::true_type(), PerChannel(d, values, dst.layout)...);
   rows(std::false_type(), PerChannel(d, values, dst.layout)...);
@@ -135,7 +135,7 @@ QvpStatus TwoSided(const Image<const T>& src, const Image<T>& dst, Size roi, con
                QVP_VALUES_##layout(type) thresholdGT, QVP_VALUES_##layout(type) valueGT),                    \
               (Values(thresholdLT), Values(valueLT), Values(thresholdGT), Values(valueGT)))
 
-QVP_C1_C3_C4_AC4(THRESHOLDS, 8u)
-QVP_C1_C3_C4_AC4(THRESHOLDS, 16u)
-QVP_C1_C3_C4_AC4(THRESHOLDS, 16s)
-QVP_C1_C3_C4_AC4(THRESHOLDS, 32f)
+QVP_EACH_LAYOUT(THRESHOLDS, 8u)
+QVP_EACH_LAYOUT(THRESHOLDS, 16u)
+QVP_EACH_LAYOUT(THRESHOLDS, 16s)
+QVP_EACH_LAYOUT(THRESHOLDS, 32f)

@@ -24,10 +24,10 @@ constexpr const T* Values(const T* const& values) {
 }  // namespace qvp
 
 // GRID(..., layout) for the layouts of most element-wise functions.
-#define QVP_C1_C3_C4_AC4(GRID, ...) \
-  GRID(__VA_ARGS__, C1)             \
-  GRID(__VA_ARGS__, C3)             \
-  GRID(__VA_ARGS__, C4)             \
+#define QVP_EACH_LAYOUT(GRID, ...) \
+  GRID(__VA_ARGS__, C1)            \
+  GRID(__VA_ARGS__, C3)            \
+  GRID(__VA_ARGS__, C4)            \
   GRID(__VA_ARGS__, AC4)
 
 // GRID(type, ...) for each of the five types whose pixels are only moved.
@@ -84,3 +84,90 @@ constexpr const T* Values(const T* const& values) {
                  int maskStep) {                                                                                   \
     return impl(value, AsBytes(pDst, dstStep, Layout::k##layout), roiSize, AsBytes(pMask, maskStep, Layout::kC1)); \
   }
+
+// Two images to a third, and in place, where the second one is the destination too:
+// impl(first, second, destination, size[, scale factor]).
+#define QVP_BINARY(name, type, layout, impl)                                                                           \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step,    \
+                                        Qvp##type* pDst, int dstStep, QvpiSize roiSize) {                              \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize);                                                      \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IR(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,       \
+                                         QvpiSize roiSize) {                                                           \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                                \
+  }
+#define QVP_BINARY_SFS(name, type, layout, impl)                                                                       \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) {          \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor);                                         \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,    \
+                                            QvpiSize roiSize, int scaleFactor) {                                       \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                                   \
+  }
+
+// The same with a rounding mode: impl(first, second, destination, size, mode, scale factor).
+#define QVP_BINARY_ROUND_SFS(name, type, layout, impl)                                                                 \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode,     \
+                                           int scaleFactor) {                                                          \
+    return impl(View(pSrc1, src1Step, Layout::k##layout), View(pSrc2, src2Step, Layout::k##layout),                    \
+                View(pDst, dstStep, Layout::k##layout), roiSize, roundMode, scaleFactor);                              \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pSrcDst, int srcDstStep,    \
+                                            QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor) {               \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout), \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, roundMode, scaleFactor);                        \
+  }
+
+// One image to another, and in place: impl(source, destination, size[, scale factor]).
+#define QVP_UNARY(name, type, layout, impl)                                                               \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, \
+                                        QvpiSize roiSize) {                                               \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize); \
+  }                                                                                                       \
+  QvpStatus name##_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize) {          \
+    return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                            \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                   \
+  }
+#define QVP_UNARY_SFS(name, type, layout, impl)                                                                        \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,           \
+                                           QvpiSize roiSize, int scaleFactor) {                                        \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, scaleFactor); \
+  }                                                                                                                    \
+  QvpStatus name##_##type##_##layout##IRSfs(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor) {   \
+    return impl(View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                                         \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                                   \
+  }
+
+// The same with a constant: impl(values, source, destination, size[, scale factor]).
+#define QVP_CONSTANT(name, type, layout, impl)                                                                 \
+  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(type) value,   \
+                                        Qvp##type* pDst, int dstStep, QvpiSize roiSize) {                      \
+    return impl(Values(value), View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), \
+                roiSize);                                                                                      \
+  }                                                                                                            \
+  QvpStatus name##_##type##_##layout##IR(QVP_VALUES_##layout(type) value, Qvp##type* pSrcDst, int srcDstStep,  \
+                                         QvpiSize roiSize) {                                                   \
+    return impl(Values(value), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                  \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize);                                        \
+  }
+#define QVP_CONSTANT_SFS(name, type, layout, impl)                                                               \
+  QvpStatus name##_##type##_##layout##RSfs(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(type) value,  \
+                                           Qvp##type* pDst, int dstStep, QvpiSize roiSize, int scaleFactor) {    \
+    return impl(Values(value), View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout),   \
+                roiSize, scaleFactor);                                                                           \
+  }                                                                                                              \
+  QvpStatus name##_##type##_##layout##IRSfs(QVP_VALUES_##layout(type) value, Qvp##type* pSrcDst, int srcDstStep, \
+                                            QvpiSize roiSize, int scaleFactor) {                                 \
+    return impl(Values(value), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                    \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize, scaleFactor);                             \
+  }
+
+// A shape for the layouts C1, C3, C4 and AC4.
+#define QVP_C1_C3_C4_AC4(SHAPE, name, type, impl) \
+  SHAPE(name, type, C1, impl) SHAPE(name, type, C3, impl) SHAPE(name, type, C4, impl) SHAPE(name, type, AC4, impl)

@@ -62,6 +62,11 @@ struct Image {
   bool IsPacked(ptrdiff_t width) const { return step == static_cast<int64_t>(width) * PixelBytes(); }
 };
 
+template <class T>
+Image<T> View(T* data, ptrdiff_t step, Layout layout) {
+  return {data, step, layout};
+}
+
 // Views for operations that only move bits: types of one width share one kernel.
 using Bytes = Image<uint8_t>;
 using ConstBytes = Image<const uint8_t>;

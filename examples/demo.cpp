@@ -45,6 +45,7 @@ int main(int argc, char** argv) try {
   std::printf("%s\n", qvpiGetLibVersion()->Name);
   demo::Demo demo(demo::LoadPicture(argv[1]));
   demo::CoreSteps(demo);
+  demo::ArithSteps(demo);
   demo::ThresholdSteps(demo);
   demo::FilterSteps(demo);
   demo::HogSteps(demo);

@@ -38,6 +38,7 @@ class Demo {
 
 // The steps of each header of the library.
 void CoreSteps(Demo& demo);
+void ArithSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);
 void HogSteps(Demo& demo);

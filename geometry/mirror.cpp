@@ -247,6 +247,6 @@ QvpStatus Mirror(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis fli
   QvpStatus qvpiMirror_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip) { \
     return MirrorInPlace(AsBytes(pSrcDst, srcDstStep, Layout::k##layout), roiSize, flip);                           \
   }
-#define MIRROR_LAYOUTS(type) QVP_C1_C3_C4_AC4(MIRROR, type)
+#define MIRROR_LAYOUTS(type) QVP_EACH_LAYOUT(MIRROR, type)
 
 QVP_EACH_MOVED_TYPE(MIRROR_LAYOUTS)

@@ -12,6 +12,1503 @@
 extern "C" {
 #endif
 
+/** @name Addition
+ *  @{ */
+/** Adds two images: dst = src1 + src2.
+ *
+ *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAdd_8u_C1RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_C3RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_C4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_AC4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C1RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C3RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_AC4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Addition in place
+ *  @{ */
+/** Adds two images, in place: srcDst = src + srcDst.
+ *
+ *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAdd_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_8u_AC4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C1IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C3IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_C4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16u_AC4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C1IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C3IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_C4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAdd_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Addition of floats
+ *  @{ */
+/** Adds two images: dst = src1 + src2.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAdd_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Addition of floats in place
+ *  @{ */
+/** Adds two images, in place: srcDst = src + srcDst.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAdd_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAdd_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Addition of a constant
+ *  @{ */
+/** Adds a constant to an image: dst = src + value.
+ *
+ *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiAddC_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_C4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Addition of a constant in place
+ *  @{ */
+/** Adds a constant to an image, in place: srcDst = srcDst + value.
+ *
+ *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiAddC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_8u_AC4IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C1IRSfs(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C3IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_C4IRSfs(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16u_AC4IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C1IRSfs(Qvp16s value, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C3IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_C4IRSfs(const Qvp16s value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAddC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Addition of a constant of floats
+ *  @{ */
+/** Adds a constant to an image: dst = src + value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiAddC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Addition of a constant of floats in place
+ *  @{ */
+/** Adds a constant to an image, in place: srcDst = srcDst + value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiAddC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAddC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Subtraction
+ *  @{ */
+/** Subtracts the first image from the second: dst = src2 - src1.
+ *
+ *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid. Unsigned results saturate at 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSub_8u_C1RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_C3RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_C4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_AC4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C1RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C3RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_AC4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Subtraction in place
+ *  @{ */
+/** Subtracts the first image from the second, in place: srcDst = srcDst - src.
+ *
+ *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid. Unsigned results saturate at 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSub_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_8u_AC4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C1IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C3IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_C4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16u_AC4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C1IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C3IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_C4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSub_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Subtraction of floats
+ *  @{ */
+/** Subtracts the first image from the second: dst = src2 - src1.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSub_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Subtraction of floats in place
+ *  @{ */
+/** Subtracts the first image from the second, in place: srcDst = srcDst - src.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSub_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSub_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Subtraction of a constant
+ *  @{ */
+/** Subtracts a constant from an image: dst = src - value.
+ *
+ *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid. Unsigned results saturate at 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiSubC_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_C4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Subtraction of a constant in place
+ *  @{ */
+/** Subtracts a constant from an image, in place: srcDst = srcDst - value.
+ *
+ *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid. Unsigned results saturate at 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiSubC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_8u_AC4IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C1IRSfs(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C3IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_C4IRSfs(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16u_AC4IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C1IRSfs(Qvp16s value, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C3IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_C4IRSfs(const Qvp16s value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSubC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Subtraction of a constant of floats
+ *  @{ */
+/** Subtracts a constant from an image: dst = src - value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiSubC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Subtraction of a constant of floats in place
+ *  @{ */
+/** Subtracts a constant from an image, in place: srcDst = srcDst - value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiSubC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSubC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication
+ *  @{ */
+/** Multiplies two images: dst = src1 src2.
+ *
+ *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMul_8u_C1RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_C3RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_C4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_AC4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C1RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C3RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_AC4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Multiplication in place
+ *  @{ */
+/** Multiplies two images, in place: srcDst = src srcDst.
+ *
+ *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMul_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_8u_AC4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C1IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C3IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_C4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16u_AC4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C1IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C3IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_C4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMul_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Multiplication of floats
+ *  @{ */
+/** Multiplies two images: dst = src1 src2.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMul_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication of floats in place
+ *  @{ */
+/** Multiplies two images, in place: srcDst = src srcDst.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMul_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMul_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication by a constant
+ *  @{ */
+/** Multiplies an image by a constant: dst = src value.
+ *
+ *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulC_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_C4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Multiplication by a constant in place
+ *  @{ */
+/** Multiplies an image by a constant, in place: srcDst = srcDst value.
+ *
+ *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_8u_AC4IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C1IRSfs(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C3IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_C4IRSfs(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16u_AC4IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C1IRSfs(Qvp16s value, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C3IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_C4IRSfs(const Qvp16s value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiMulC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Multiplication by a constant of floats
+ *  @{ */
+/** Multiplies an image by a constant: dst = src value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication by a constant of floats in place
+ *  @{ */
+/** Multiplies an image by a constant, in place: srcDst = srcDst value.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Division
+ *  @{ */
+/** Divides the second image by the first: dst = src2 / src1, of integers.
+ *
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
+ *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_8u_C1RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_C3RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_C4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_AC4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C1RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C3RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_AC4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Division in place
+ *  @{ */
+/** Divides the second image by the first, in place: srcDst = srcDst / src, of integers.
+ *
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
+ *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_8u_AC4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C1IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C3IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_C4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16u_AC4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C1IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C3IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_C4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDiv_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Division of floats
+ *  @{ */
+/** Divides the second image by the first: dst = src2 / src1, in single precision.
+ *
+ *  The dividend is multiplied by the reciprocal of the divisor, which comes from an estimate by integer arithmetic and
+ *  three Newton steps. Normal results are within 2 units in the last place of the exact quotient. Divisors that are
+ *  subnormal, not finite or of magnitude above 2^125 divide exactly.
+ *
+ *  Every pixel is written. Divisors of 0 and -0 give an infinity, whose sign is that of the IEEE quotient; with a
+ *  dividend of 0 or NaN they give the NaN with the bits 0x7FBFFFFF. The call then returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Division of floats in place
+ *  @{ */
+/** Divides the second image by the first, in place: srcDst = srcDst / src, in single precision.
+ *
+ *  The dividend is multiplied by the reciprocal of the divisor, which comes from an estimate by integer arithmetic and
+ *  three Newton steps. Normal results are within 2 units in the last place of the exact quotient. Divisors that are
+ *  subnormal, not finite or of magnitude above 2^125 divide exactly.
+ *
+ *  Every pixel is written. Divisors of 0 and -0 give an infinity, whose sign is that of the IEEE quotient; with a
+ *  dividend of 0 or NaN they give the NaN with the bits 0x7FBFFFFF. The call then returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDiv_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Division by a constant
+ *  @{ */
+/** Divides an image by a constant: dst = src / value.
+ *
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDivC_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_C4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Division by a constant in place
+ *  @{ */
+/** Divides an image by a constant, in place: srcDst = srcDst / value.
+ *
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDivC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_8u_AC4IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C1IRSfs(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C3IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_C4IRSfs(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16u_AC4IRSfs(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C1IRSfs(Qvp16s value, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C3IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_C4IRSfs(const Qvp16s value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiDivC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Division by a constant of floats
+ *  @{ */
+/** Divides an image by a constant: dst = src / value.
+ *
+ *  The IEEE quotient.
+ *
+ *  AC4 keeps the alpha of the destination.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDivC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Division by a constant of floats in place
+ *  @{ */
+/** Divides an image by a constant, in place: srcDst = srcDst / value.
+ *
+ *  The IEEE quotient.
+ *
+ *  AC4 keeps the alpha of the destination.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDivC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiDivC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Division with a rounding mode
+ *  @{ */
+/** Divides the second image by the first: dst = src2 / src1, rounded as asked.
+ *
+ *  The exact quotient, times 2^-scaleFactor, becomes an integer by the rounding mode and is saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
+ *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero)
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusRoundMode: `roundMode` is none of the three. qvpStatusDivideByZero, a warning: there is
+ *          a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_Round_8u_C1RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_C3RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_C4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_AC4RSfs(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C1RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C3RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_AC4RSfs(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+/** @} */
+
+/** @name Division with a rounding mode in place
+ *  @{ */
+/** Divides the second image by the first, in place: srcDst = srcDst / src, rounded as asked.
+ *
+ *  The exact quotient, times 2^-scaleFactor, becomes an integer by the rounding mode and is saturated to the type, so
+ *  that any scale factor is valid.
+ *
+ *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
+ *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
+ *  qvpStatusDivideByZero.
+ *
+ *  AC4 keeps the alpha of the destination, and alpha divides nothing.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero)
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
+ *          is below 1. qvpStatusRoundMode: `roundMode` is none of the three. qvpStatusDivideByZero, a warning: there is
+ *          a divisor of zero. qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiDiv_Round_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_8u_AC4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C1IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C3IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_C4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16u_AC4IRSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C1IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C3IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_C4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiDiv_Round_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+/** @} */
+
+/** @name Multiplication of fractions
+ *  @{ */
+/** Multiplies two images of fractions: dst = src1 src2 / max.
+ *
+ *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
+ *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMulScale_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication of fractions in place
+ *  @{ */
+/** Multiplies two images of fractions, in place: srcDst = src srcDst / max.
+ *
+ *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
+ *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep first operand
+ *  @param pSrcDst,srcDstStep second operand, and destination
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiMulScale_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_C4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulScale_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication of fractions by a constant
+ *  @{ */
+/** Multiplies an image of fractions by a constant: dst = src value / max.
+ *
+ *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
+ *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulCScale_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Multiplication of fractions by a constant in place
+ *  @{ */
+/** Multiplies an image of fractions by a constant, in place: srcDst = srcDst value / max.
+ *
+ *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
+ *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
+ *          qvpStatusNoError otherwise.
+ */
+QvpStatus qvpiMulCScale_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_8u_AC4IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C1IR(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C3IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_C4IR(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulCScale_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Absolute value
+ *  @{ */
+/** Absolute value: dst = |src|.
+ *
+ *  The exact value, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated, so that -32768
+ *  becomes 32767 without a scale factor, or with 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Absolute value in place
+ *  @{ */
+/** Absolute value, in place: srcDst = |srcDst|.
+ *
+ *  The exact value, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated, so that -32768
+ *  becomes 32767 without a scale factor, or with 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_C4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiAbs_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Absolute value of floats
+ *  @{ */
+/** Absolute value: dst = |src|.
+ *
+ *  The sign bit is cleared, of NaN too.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Absolute value of floats in place
+ *  @{ */
+/** Absolute value, in place: srcDst = |srcDst|.
+ *
+ *  The sign bit is cleared, of NaN too.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Absolute value without a scale factor
+ *  @{ */
+/** Absolute value: dst = |src|.
+ *
+ *  The exact value is saturated: -32768 becomes 32767.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Absolute value without a scale factor in place
+ *  @{ */
+/** Absolute value, in place: srcDst = |srcDst|.
+ *
+ *  The exact value is saturated: -32768 becomes 32767.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiAbs_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_C3IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_C4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAbs_16s_AC4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Square
+ *  @{ */
+/** Square: dst = src src.
+ *
+ *  The exact square, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqr_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_C4RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C4RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Square in place
+ *  @{ */
+/** Square, in place: srcDst = srcDst srcDst.
+ *
+ *  The exact square, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
+ *  so that any scale factor is valid.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqr_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_C4IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_8u_AC4IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C3IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_C4IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16u_AC4IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_C4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqr_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Square of floats
+ *  @{ */
+/** Square: dst = src src.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqr_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Square of floats in place
+ *  @{ */
+/** Square, in place: srcDst = srcDst srcDst.
+ *
+ *  The result in single precision, rounded once.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqr_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqr_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Square root
+ *  @{ */
+/** Square root: dst = sqrt(src).
+ *
+ *  The exact root, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid; negative values give 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqrt_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_8u_AC4RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Square root in place
+ *  @{ */
+/** Square root, in place: srcDst = sqrt(srcDst).
+ *
+ *  The exact root, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
+ *  that any scale factor is valid; negative values give 0.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqrt_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_8u_AC4IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_C3IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16u_AC4IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiSqrt_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Square root of floats
+ *  @{ */
+/** Square root: dst = sqrt(src).
+ *
+ *  The IEEE square root, NaN for negative values.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqrt_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Square root of floats in place
+ *  @{ */
+/** Square root, in place: srcDst = sqrt(srcDst).
+ *
+ *  The IEEE square root, NaN for negative values.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiSqrt_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiSqrt_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Natural logarithm
+ *  @{ */
+/** Natural logarithm: dst = ln(src).
+ *
+ *  The logarithm, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type, so that any scale
+ *  factor is valid; 0 and negative values give the smallest value of the type. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiLn_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Natural logarithm in place
+ *  @{ */
+/** Natural logarithm, in place: srcDst = ln(srcDst).
+ *
+ *  The logarithm, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type, so that any scale
+ *  factor is valid; 0 and negative values give the smallest value of the type. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiLn_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16u_C3IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiLn_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Natural logarithm of floats
+ *  @{ */
+/** Natural logarithm: dst = ln(src).
+ *
+ *  Within 1 unit in the last place; 0 gives minus infinity, negative values NaN. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiLn_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiLn_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Natural logarithm of floats in place
+ *  @{ */
+/** Natural logarithm, in place: srcDst = ln(srcDst).
+ *
+ *  Within 1 unit in the last place; 0 gives minus infinity, negative values NaN. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiLn_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiLn_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Exponent
+ *  @{ */
+/** Exponent: dst = e^src.
+ *
+ *  The power, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type. Any scale factor is
+ *  valid, and large powers may be scaled back into the range. No build takes it from the mathematics library, so that
+ *  all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiExp_8u_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_8u_C3RSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Exponent in place
+ *  @{ */
+/** Exponent, in place: srcDst = e^srcDst.
+ *
+ *  The power, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type. Any scale factor is
+ *  valid, and large powers may be scaled back into the range. No build takes it from the mathematics library, so that
+ *  all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiExp_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16u_C3IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+QvpStatus qvpiExp_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
+/** @} */
+
+/** @name Exponent of floats
+ *  @{ */
+/** Exponent: dst = e^src.
+ *
+ *  Within 1 unit in the last place, infinite above the range and 0 below it. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiExp_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiExp_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Exponent of floats in place
+ *  @{ */
+/** Exponent, in place: srcDst = e^srcDst.
+ *
+ *  Within 1 unit in the last place, infinite above the range and 0 below it. No build takes it from the mathematics
+ *  library, so that all give the same bits.
+ *
+ *  Steps are not checked.
+ *
+ *  @param pSrcDst,srcDstStep image that is changed
+ *  @param roiSize size of the region in pixels
+ *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
+ *          otherwise.
+ */
+QvpStatus qvpiExp_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiExp_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+
 /** @name Threshold
  *  @{ */
 /** Bounds values from above or below.

@@ -1,0 +1,109 @@
+// The scale-factor rule, in one place: result = exact * 2^-scale, rounded to the nearest integer, ties to even, and
+// saturated to the destination's type. Every factor is legal: factors beyond the ends of what is computed here are
+// replaced by the last ones, which give the bounds of the type and zero already.
+//
+// Integer lanes hold the exact value; the narrowing that follows saturates. Lanes must be wide enough for it:
+// signed lanes of n bits hold exact values of magnitude up to 2^(n-2), unsigned lanes any value.
+#pragma once
+
+#include <algorithm>
+#include <limits>
+
+#include "base/halves.h"
+
+namespace qvp {
+
+template <class L>
+inline constexpr int kBits = 8 * sizeof(L);
+
+struct Unscaled {
+  template <class V>
+  HWY_INLINE V operator()(V exact) const {
+    return exact;
+  }
+};
+
+// scale > 0: (exact + 2^(scale-1) - 1 + odd) >> scale, where odd is the lowest bit of exact >> scale.
+template <class L>
+class ScaleDown {
+ public:
+  explicit ScaleDown(int scale)
+      : count_(std::min(scale, kLast)),
+        bias_(static_cast<L>((uint64_t{1} << (count_ - 1)) - 1)),
+        odd_(count_ < kBits<L> ? 1 : 0),
+        keep_(scale > kLast ? L{0} : static_cast<L>(~L{0})) {}
+
+  template <class V>
+  HWY_INLINE V operator()(V exact) const {
+    const hn::DFromV<V> d;
+    const V odd = hn::And(hn::ShiftRightSame(exact, count_ % kBits<L>), hn::Set(d, odd_));
+    if constexpr (std::is_signed_v<L>) {
+      return hn::ShiftRightSame(hn::Add(exact, hn::Add(odd, hn::Set(d, bias_))), count_);
+    } else {  // the sum may need one bit more, so half of it is computed: x + y = 2 (x & y) + (x ^ y)
+      const V bias = hn::Add(odd, hn::Set(d, bias_));
+      const V half = hn::Add(hn::And(exact, bias), hn::ShiftRight<1>(hn::Xor(exact, bias)));
+      return hn::And(hn::ShiftRightSame(half, count_ - 1), hn::Set(d, keep_));
+    }
+  }
+
+ private:
+  static constexpr int kLast = std::is_signed_v<L> ? kBits<L> - 1 : kBits<L>;
+  int count_;
+  L bias_, odd_;
+  L keep_;  // nothing beyond the last count, at which unsigned lanes still may be rounded to 1
+};
+
+// scale < 0: exact << -scale. Values that leave T are first reduced to the nearest one that leaves it still, so that
+// nothing is lost from the lane.
+template <class L, class T>
+class ScaleUp {
+ public:
+  explicit ScaleUp(int scale)
+      : count_(scale <= -kLast ? kLast : -scale),
+        lowest_(std::is_signed_v<L> ? static_cast<L>(-(static_cast<int>(-int64_t{Limits::lowest()} >> count_) + 1))
+                                    : L{0}),
+        highest_(static_cast<L>((Limits::max() >> count_) + 1)) {}
+
+  template <class V>
+  HWY_INLINE V operator()(V exact) const {
+    const hn::DFromV<V> d;
+    V reduced = hn::Min(exact, hn::Set(d, highest_));
+    if constexpr (std::is_signed_v<L>) reduced = hn::Max(reduced, hn::Set(d, lowest_));
+    return hn::ShiftLeftSame(reduced, count_);
+  }
+
+ private:
+  using Limits = std::numeric_limits<T>;
+  static constexpr int kLast = Limits::digits;
+  int count_;
+  L lowest_, highest_;
+};
+
+// Calls then(scaling) with the scaling of lanes L for results of type T.
+template <class L, class T, class Then>
+void WithScaling(int scale, const Then& then) {
+  if (scale == 0) {
+    then(Unscaled());
+  } else if (scale > 0) {
+    then(ScaleDown<L>(scale));
+  } else {
+    then(ScaleUp<L, T>(scale));
+  }
+}
+
+template <class T, class Scaling, class V>
+HWY_INLINE auto ScaleAndPack(const Scaling& scaling, Halves<V> exact) {
+  return Pack<T>(Halves<V>{scaling(exact.lower), scaling(exact.upper)});
+}
+
+// The factor 2^-scale for results in float lanes, which are rounded by the narrowing that follows. Beyond 2^64 and
+// 2^-64 all results of division, square root and logarithm are out of range or round to zero.
+template <class F>
+F ScaleFactor(int scale) {
+  const int exponent = -std::clamp(scale, -64, 64);
+  const double magnitude = static_cast<double>(uint64_t{1} << std::min(std::abs(exponent), 63)) *
+                           (exponent == 64 || exponent == -64 ? 2.0 : 1.0);
+  return static_cast<F>(exponent < 0 ? 1.0 / magnitude : magnitude);
+}
+
+}  // namespace qvp

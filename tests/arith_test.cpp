@@ -1,0 +1,431 @@
+// Arithmetic on pixels: each function against one formula in numbers that hold the exact value, over its whole grid.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <set>
+#include <vector>
+
+#include "tests/support/exports.h"
+
+namespace {
+using test::Guard;
+using test::Image;
+
+template <class T>
+using Limits = std::numeric_limits<T>;
+
+struct Fraction {
+  int64_t top, bottom;  // the bottom is positive
+};
+
+// top / bottom * 2^-scale by the rounding mode and saturated, in integers. More than 48 bits change no result.
+template <class T>
+T Scaled(Fraction f, int scale, int mode = qvpRoundNear) {
+  const int shift = std::min(std::abs(std::max(scale, -100)), 48);
+  const int64_t magnitude = std::abs(f.top), many = int64_t{1} << 40;
+  const bool isLarge = scale < 0 && magnitude / f.bottom >= (many >> shift) && magnitude != 0;
+  const long double top = std::ldexp(static_cast<long double>(magnitude), scale < 0 && !isLarge ? shift : 0);
+  const long double bottom = std::ldexp(static_cast<long double>(f.bottom), scale > 0 ? shift : 0);
+  const long double whole = isLarge ? many : std::floor(top / bottom);
+  const long double twice = 2 * std::fmod(top, bottom);
+  const bool up = mode == qvpRoundNear ? twice > bottom || (twice == bottom && std::fmod(whole, 2) != 0)
+                                       : mode == qvpRoundFinancial && twice >= bottom;
+  const long double rounded = (f.top < 0 ? -1 : 1) * (whole + up);
+  return static_cast<T>(std::clamp<long double>(rounded, Limits<T>::min(), Limits<T>::max()));
+}
+
+// The same of irrational numbers and roots.
+template <class T>
+T ScaledReal(long double value, int scale) {
+  if (std::isnan(value)) return Limits<T>::lowest();
+  const long double scaled = std::nearbyint(std::ldexp(value, -std::clamp(scale, -1000000, 1000000)));
+  return static_cast<T>(std::clamp<long double>(scaled, Limits<T>::min(), Limits<T>::max()));
+}
+
+// A quotient by zero is beyond every bound.
+template <class T>
+T ScaledQuotient(int a, int b, int scale, int mode) {
+  if (a == 0) return b > 0 ? Limits<T>::max() : b < 0 ? Limits<T>::min() : T{0};
+  return Scaled<T>({a < 0 ? -b : b, std::abs(a)}, scale, mode);
+}
+
+constexpr long double kLog2OfE = 1.44269504088896340735992468100189214L;
+
+float FloatFrom(uint32_t bits) {
+  float value;
+  std::memcpy(&value, &bits, sizeof(value));
+  return value;
+}
+
+float FloatQuotient(float a, float b) {
+  if (a == 0 && !(std::abs(b) > 0)) return FloatFrom(0x7FBFFFFF);
+  return b / a;
+}
+
+// What a function computes of its operands, by its name without "qvpi" and a C for a constant. One operand is `b`.
+template <class T>
+T Expected(const std::string& operation, T a, T b, int scale, int mode) {
+  if constexpr (std::is_integral_v<T>) {
+    const int64_t x = a, y = b;
+    if (operation == "Add") return Scaled<T>({x + y, 1}, scale);
+    if (operation == "Sub") return Scaled<T>({y - x, 1}, scale);
+    if (operation == "Mul") return Scaled<T>({x * y, 1}, scale);
+    if (operation == "MulScale") return Scaled<T>({x * y, Limits<T>::max()}, 0);
+    if (operation == "Div" || operation == "Div_Round") return ScaledQuotient<T>(a, b, scale, mode);
+    if (operation == "Abs") return Scaled<T>({std::abs(y), 1}, scale);
+    if (operation == "Sqr") return Scaled<T>({y * y, 1}, scale);
+    if (operation == "Sqrt") return ScaledReal<T>(std::sqrt(static_cast<long double>(std::max<int64_t>(y, 0))), scale);
+    if (operation == "Ln") return ScaledReal<T>(std::log(static_cast<long double>(y)), scale);
+    if (operation == "Exp") return ScaledReal<T>(std::exp2(y * kLog2OfE - scale), 0);
+  } else {
+    if (operation == "Add") return a + b;
+    if (operation == "Sub") return b - a;
+    if (operation == "Mul") return a * b;
+    if (operation == "Div") return FloatQuotient(a, b);
+    if (operation == "Abs") return std::fabs(b);
+    if (operation == "Sqr") return b * b;
+    if (operation == "Sqrt") return std::sqrt(b);
+    if (operation == "Ln") return static_cast<float>(std::log(static_cast<double>(b)));
+    if (operation == "Exp") return static_cast<float>(std::exp(static_cast<double>(b)));
+  }
+  ADD_FAILURE() << "no formula for " << operation;
+  return {};
+}
+
+// A function of the grid, by the parts of its name.
+struct Function {
+  const test::Export* exported;
+  std::string operation, type;
+  int channels, written, operands;
+  bool inPlace, hasConstant;
+};
+
+Function Parse(const test::Export& exported) {
+  const std::string& name = exported.name;
+  const size_t layout = name.rfind('_'), type = name.rfind('_', layout - 1);
+  Function f{&exported, name.substr(4, type - 4), name.substr(type + 1, layout - type - 1), 4, 4, 2, false, false};
+  if (name[layout + 1] == 'C') f.channels = f.written = name[layout + 2] - '0';
+  if (name[layout + 1] == 'A') f.written = 3;
+  f.inPlace = exported.Find("pSrcDst") >= 0;
+  f.hasConstant = exported.Find("value") >= 0;
+  if (f.hasConstant) f.operation.erase(3, 1);  // the C
+  if (!f.hasConstant && exported.Find(f.inPlace ? "pSrc" : "pSrc2") < 0) f.operands = 1;
+  return f;
+}
+
+std::vector<Function> Functions(const std::string& type) {
+  std::vector<Function> functions;
+  for (const test::Export& exported : test::Exports()) {
+    const Function f = Parse(exported);
+    static const std::set<std::string> kOperations = {"Add", "Sub", "Mul",  "MulScale", "Div", "Div_Round",
+                                                      "Abs", "Sqr", "Sqrt", "Ln",       "Exp"};
+    if (f.type == type && kOperations.contains(f.operation)) functions.push_back(f);
+  }
+  EXPECT_FALSE(functions.empty()) << type;
+  return functions;
+}
+
+// Calls with the operands a and b; where there is one operand, or a constant is the other, the image is b. In place,
+// dst holds b already.
+template <class T>
+QvpStatus Call(const Function& f, const Image<T>& a, const Image<T>& b, const Image<T>& dst, QvpiSize roi, int scale,
+               int mode) {
+  const auto first = f.operands == 1 || f.hasConstant ? &b : &a;
+  std::vector<test::Argument> arguments;
+  for (const auto& [type, name] : f.exported->parameters) {
+    test::Argument argument;
+    if (name == "pSrc1" || name == "pSrc") argument.pointer = first->data();
+    if (name == "src1Step" || name == "srcStep") argument.number = first->step();
+    if (name == "pSrc2") argument.pointer = b.data();
+    if (name == "src2Step") argument.number = b.step();
+    if (name == "pDst" || name == "pSrcDst") argument.pointer = dst.data();
+    if (name == "dstStep" || name == "srcDstStep") argument.number = dst.step();
+    if (name == "value") argument = {a.data(), static_cast<ptrdiff_t>(a(0, 0))};
+    if (name == "roiSize") argument = {nullptr, roi.width, roi.height};
+    if (name == "scaleFactor") argument.number = scale;
+    if (name == "roundMode") argument.number = mode;
+    arguments.push_back(argument);
+  }
+  return f.exported->call(arguments.data());
+}
+
+// Bits alike, except that a NaN may have any but those that the division by zero promises.
+bool Same(float x, float y) {
+  const bool isNan = std::isnan(x) && std::isnan(y) && std::memcmp(&x, "\xFF\xFF\xBF\x7F", 4) != 0;
+  return isNan || std::memcmp(&x, &y, sizeof(x)) == 0;
+}
+template <class T>
+bool Same(T x, T y) {
+  return x == y;
+}
+
+// Values at which something changes: bounds, signs, ties, powers of two; the rest are random.
+template <class T>
+T EdgeValue(test::Random& random) {
+  if constexpr (std::is_integral_v<T>) {
+    constexpr int kEdges[] = {0, 1, 2, 3, 127, 128, 255, 256, 32767, 32768, 65535, -1, -2, -32767};
+    return static_cast<T>(random.Next() % 2 ? random.Next() : kEdges[random.Next() % 14]);
+  } else {
+    constexpr float kEdges[] = {0.0f,    -0.0f,  1.0f,        -2.5f, 3e38f, 1e-38f,
+                                -1e-40f, 1e-45f, 16777216.0f, -0.1f, NAN,   INFINITY};
+    if (random.Next() % 3 == 0) return kEdges[random.Next() % 12];
+    return std::ldexp(static_cast<float>(random.Next()) - 2e9f, -20);
+  }
+}
+
+template <class T>
+void FillWithEdges(Image<T>& image, int samples, int height, unsigned seed) {
+  test::Random random(seed);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < samples; ++x) image.Put(x, y, EdgeValue<T>(random));
+  }
+}
+
+// Constants that no function refuses, and that a number can tell.
+template <class T>
+void MakeConstants(Image<T>& values, int count) {
+  for (int c = 0; c < count; ++c) {
+    if (!(std::abs(static_cast<double>(values(c, 0))) >= 1) || !std::isfinite(values(c, 0))) values.Put(c, 0, T{3});
+    values.Put(c, 0, static_cast<T>(std::trunc(std::fmod(static_cast<double>(values(c, 0)), 1e9))));
+  }
+}
+
+// Functions of floats that are not rounded exactly; the others give the very bits.
+bool IsClose(const std::string& operation, float x, float expected) {
+  const bool isApproximate = operation == "Div" || operation == "Ln" || operation == "Exp";
+  if (!isApproximate || !std::isfinite(expected)) return false;
+  return std::abs(x - expected) <= 2 * (std::nextafter(std::abs(expected), INFINITY) - std::abs(expected));
+}
+template <class T>
+bool IsClose(const std::string&, T, T) {
+  return false;
+}
+
+template <class T>
+void Check(const Function& f, int width, int gap, int scale, int mode, unsigned seed) {
+  const int height = 2, samples = width * f.channels;
+  Image<T> a(f.hasConstant ? f.written : samples, f.hasConstant ? 1 : height, gap + 2), b(samples, height, gap + 1);
+  FillWithEdges(a, f.hasConstant ? f.written : samples, f.hasConstant ? 1 : height, seed);
+  FillWithEdges(b, samples, height, seed + 1);
+  if (f.hasConstant) MakeConstants(a, f.written);
+  Image<T> before(samples, height, gap, seed % 2 ? Guard::kBefore : Guard::kAfter);
+  if (f.inPlace) FillWithEdges(before, samples, height, seed + 1);
+  const Image<T> dst(before);
+  const QvpStatus status = Call(f, a, b, dst, {width, height}, scale, mode);
+  bool dividesByZero = false;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < samples; ++x) {
+      const bool kept = x % f.channels >= f.written;
+      const T first = kept ? T{1} : f.hasConstant ? a(x % f.channels, 0) : f.operands == 1 ? T{1} : a(x, y);
+      dividesByZero |= first == 0;
+      const T result = dst(x, y);
+      const T expected = kept ? before(x, y) : Expected<T>(f.operation, first, b(x, y), scale, mode);
+      ASSERT_TRUE(Same(result, expected) || IsClose(f.operation, result, expected))
+          << f.exported->name << ": " << +first << ", " << +b(x, y) << " scale " << scale << " mode " << mode
+          << " width " << width << " at " << x << ": " << +result << ", not " << +expected;
+    }
+  }
+  const bool warns = f.operation.starts_with("Div") && !f.hasConstant && dividesByZero;
+  ASSERT_EQ(status, warns ? qvpStatusDivideByZero : qvpStatusNoError) << f.exported->name;
+}
+
+template <class T>
+void CheckEach(const char* type, const std::vector<int>& scales) {
+  unsigned seed = 1;
+  for (const Function& f : Functions(type)) {
+    const int last = f.exported->Find("scaleFactor") < 0 ? 1 : static_cast<int>(scales.size());
+    constexpr int kWidths[] = {1, 2, 5, 8, 11, 16, 17, 31, 32, 33, 48, 63, 64, 65, 100};
+    for (const int width : kWidths) {
+      for (int i = last == 1 ? 0 : static_cast<int>(seed % 4); i < last; i += 4) {  // others for the next width
+        const int mode = f.operation == "Div_Round" ? static_cast<int>(seed % 3) : qvpRoundNear;
+        Check<T>(f, width, static_cast<int>(seed % 4), scales[i], mode, seed);
+        ++seed;
+        if (testing::Test::HasFailure()) return;
+      }
+    }
+  }
+}
+
+const std::vector<int> kScales = {0,  1,   2,   3,   5,   8,   9,   10,  15,        16,        17,
+                                  18, 30,  31,  32,  33,  34,  64,  100, -1,        -2,        -7,
+                                  -8, -9,  -14, -15, -16, -17, -31, -32, -33,       -40,       -64,
+                                  63, -63, 200, -90, 368, -65, 65,  22,  INT32_MAX, INT32_MIN, INT32_MIN + 1};
+
+TEST(Arithmetic, Of8u) { CheckEach<Qvp8u>("8u", kScales); }
+TEST(Arithmetic, Of16u) { CheckEach<Qvp16u>("16u", kScales); }
+TEST(Arithmetic, Of16s) { CheckEach<Qvp16s>("16s", kScales); }
+TEST(Arithmetic, Of32f) { CheckEach<Qvp32f>("32f", {0}); }
+
+// Operands that give each pair of 8-bit values once, as one row.
+struct Pairs {
+  Image<Qvp8u> a{65536, 1, 0}, b{65536, 1, 0}, dst{65536, 1, 0};
+  Pairs() {
+    for (int i = 0; i < 65536; ++i) {
+      a.Put(i, 0, static_cast<Qvp8u>(i >> 8));
+      b.Put(i, 0, static_cast<Qvp8u>(i));
+    }
+  }
+};
+
+TEST(Arithmetic, OfEveryPairOf8u) {
+  const Pairs pairs;
+  for (const Function& f : Functions("8u")) {
+    if (f.channels != 1 || f.inPlace || f.hasConstant || f.operands == 1) continue;
+    const bool hasScale = f.exported->Find("scaleFactor") >= 0;
+    for (int scale = hasScale ? -10 : 0; scale <= (hasScale ? 18 : 0); ++scale) {
+      for (const int mode : {0, 1, 2}) {
+        if (mode != 1 && f.operation != "Div_Round") continue;
+        Call(f, pairs.a, pairs.b, pairs.dst, {65536, 1}, scale, mode);
+        for (int i = 0; i < 65536; ++i) {
+          const Qvp8u expected = Expected<Qvp8u>(f.operation, pairs.a(i, 0), pairs.b(i, 0), scale, mode);
+          ASSERT_EQ(pairs.dst(i, 0), expected)
+              << f.exported->name << ' ' << i << " scale " << scale << " mode " << mode;
+        }
+      }
+    }
+  }
+}
+
+template <class T>
+void CheckEveryValue(const char* type) {
+  Image<T> all(65536, 1, 0);
+  for (int i = 0; i < 65536; ++i) all.Put(i, 0, static_cast<T>(i));
+  const Image<T> dst(65536, 1, 0);
+  for (const Function& f : Functions(type)) {
+    if (f.channels != 1 || f.inPlace || f.hasConstant || f.operands == 2) continue;
+    for (const int scale : {0, 1, 5, 12, -1, -6, -11, -16, 33, 94000}) {
+      Call(f, all, all, dst, {65536, 1}, scale, 0);
+      const int applied = f.exported->Find("scaleFactor") < 0 ? 0 : scale;
+      for (int i = 0; i < 65536; ++i) {
+        ASSERT_EQ(dst(i, 0), Expected<T>(f.operation, T{1}, all(i, 0), applied, 1))
+            << f.exported->name << ' ' << +all(i, 0) << " scale " << scale;
+      }
+    }
+  }
+}
+
+TEST(Arithmetic, OfEveryValue) {
+  CheckEveryValue<Qvp8u>("8u");
+  CheckEveryValue<Qvp16u>("16u");
+  CheckEveryValue<Qvp16s>("16s");
+}
+
+// Distance from the exact value in units in the last place of the nearest float.
+double UlpsFrom(long double exact, float value) {
+  const float nearest = static_cast<float>(exact);
+  return static_cast<double>(std::abs(value - exact) /
+                             (std::nextafter(std::abs(nearest), INFINITY) - std::abs(nearest)));
+}
+
+// The errors that the headers state, over floats spread evenly over all bits.
+TEST(Arithmetic, ErrorsOfFloatFunctions) {
+  constexpr int kCount = 4096;
+  Image<float> a(kCount, 1, 0), b(kCount, 1, 0);
+  const Image<float> dst(kCount, 1, 0);
+  double worst[3] = {};
+  for (int block = 0; block < 300; ++block) {
+    test::Random random(block + 1);
+    for (int i = 0; i < kCount; ++i) {
+      a.Put(i, 0, FloatFrom(random.Next()));
+      const uint32_t small = random.Next() % 0x0D000000 + 0x36000000;  // 2^-19 to 2^7, of either sign
+      b.Put(i, 0, FloatFrom(block % 2 ? small | random.Next() << 31 : random.Next()));
+    }
+    const auto measure = [&](double& error, auto exact) {
+      for (int i = 0; i < kCount; ++i) {
+        const long double e = exact(i);
+        if (std::abs(e) >= Limits<float>::min() && std::abs(e) <= Limits<float>::max()) {
+          error = std::max(error, UlpsFrom(e, dst(i, 0)));
+        }
+      }
+    };
+    ASSERT_EQ(qvpiLn_32f_C1R(b.data(), b.step(), dst.data(), dst.step(), {kCount, 1}), 0);
+    measure(worst[0], [&](int i) { return std::log(static_cast<long double>(b(i, 0))); });
+    ASSERT_EQ(qvpiExp_32f_C1R(b.data(), b.step(), dst.data(), dst.step(), {kCount, 1}), 0);
+    measure(worst[1], [&](int i) { return std::exp(static_cast<long double>(b(i, 0))); });
+    ASSERT_GE(qvpiDiv_32f_C1R(a.data(), a.step(), b.data(), b.step(), dst.data(), dst.step(), {kCount, 1}), 0);
+    measure(worst[2], [&](int i) { return static_cast<long double>(b(i, 0)) / a(i, 0); });
+  }
+  EXPECT_LE(worst[0], 1.0) << "logarithm";
+  EXPECT_LE(worst[1], 1.0) << "exponent";
+  EXPECT_LE(worst[2], 2.0) << "division";
+}
+
+TEST(Arithmetic, FloatDivisionByZeroAndByOddDivisors) {
+  constexpr uint32_t kNan = 0x7FC00000, kInfinity = 0x7F800000, kMinus = 0x80000000, kIndefinite = 0x7FBFFFFF;
+  const struct {
+    uint32_t divisor, dividend, quotient;
+  } cases[] = {
+      {0, 0x40000000, kInfinity},
+      {0, 0xC0000000, kInfinity | kMinus},
+      {kMinus, 0x40000000, kInfinity | kMinus},
+      {kMinus, 0xC0000000, kInfinity},
+      {0, kInfinity, kInfinity},
+      {kMinus, kInfinity, kInfinity | kMinus},
+      {0, 0, kIndefinite},
+      {0, kMinus, kIndefinite},
+      {kMinus, 0, kIndefinite},
+      {0, kNan, kIndefinite},
+      {kMinus, 0xFFFFFFFF, kIndefinite},
+      {kInfinity, 0x40000000, 0},
+      {0x000116C2, 0, 0},
+      {0x000116C2, 0x000116C2, 0x3F800000},
+      {kInfinity | kMinus, 0x40000000, kMinus},
+  };
+  for (const auto& c : cases) {
+    for (const int width : {1, 3, 8, 19}) {
+      Image<Qvp32u> a(width, 1, 0), b(width, 1, 0);
+      for (int x = 0; x < width; ++x) {
+        a.Put(x, 0, x == width - 1 ? c.divisor : 0x3F800000);
+        b.Put(x, 0, x == width - 1 ? c.dividend : 0x3F800000);
+      }
+      const bool warns = (c.divisor & ~kMinus) == 0;
+      ASSERT_EQ(qvpiDiv_32f_C1IR(reinterpret_cast<float*>(a.data()), a.step(), reinterpret_cast<float*>(b.data()),
+                                 b.step(), {width, 1}),
+                warns ? qvpStatusDivideByZero : qvpStatusNoError);
+      EXPECT_EQ(b(width - 1, 0), c.quotient) << std::hex << c.dividend << " / " << c.divisor;
+    }
+  }
+}
+
+// Refusals of a step, of a constant of zero and of a rounding mode, in this order; nothing is written.
+TEST(Arithmetic, ChecksOfDivision) {
+  const Image<Qvp8u> a(8, 2, 0), b(8, 2, 0), dst(8, 2, 0), before(dst);
+  Image<Qvp8u> zero(1, 1, 0);
+  zero.Put(0, 0, 0);
+  for (const Function& f : Functions("8u")) {
+    if (f.channels != 1 || f.inPlace) continue;
+    if (f.operation == "Div" && f.hasConstant) {
+      EXPECT_EQ(Call(f, zero, b, dst, {8, 2}, 0, 1), qvpStatusDivideByZeroError);
+    }
+    if (f.operation == "Div_Round") {
+      for (const int mode : {-1, 3, INT32_MIN}) EXPECT_EQ(Call(f, a, b, dst, {8, 2}, 0, mode), qvpStatusRoundMode);
+    }
+  }
+  const Qvp32f constants[3] = {1, -0.0f, 2}, values[3] = {5, 6, 7};
+  Qvp32f out[3] = {5, 6, 7};
+  EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 12, {1, 1}), qvpStatusDivideByZeroError);
+  EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 0, {1, 1}), qvpStatusStep);
+  EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 0, {0, 1}), qvpStatusSize);
+  EXPECT_EQ(std::memcmp(out, values, sizeof(out)), 0);
+  EXPECT_EQ(qvpiDiv_8u_C1RSfs(a.data(), 0, b.data(), 8, dst.data(), 8, {8, 2}, 0), qvpStatusStep);
+  EXPECT_EQ(qvpiDiv_Round_8u_C1RSfs(a.data(), 8, b.data(), -8, dst.data(), 8, {8, 2}, 7, 0), qvpStatusStep);
+  EXPECT_EQ(std::memcmp(dst.bytes(), before.bytes(), 16), 0);
+}
+
+// Results that go past the caches leave in whole lines from any start, and are the same.
+TEST(Arithmetic, OfLargeImages) {
+  const int width = 7001, height = 4000, step = 7040;
+  std::vector<Qvp8u> a(size_t{1} * step * height), b(a.size()), dst(a.size() + 3, 7);
+  test::Random(1).Fill(a.data(), a.size());
+  test::Random(2).Fill(b.data(), b.size());
+  ASSERT_EQ(qvpiAdd_8u_C1RSfs(a.data(), step, b.data(), step, dst.data() + 3, step, {width, height}, 0), 0);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < step && y * size_t{1} * step + x < a.size(); ++x) {
+      const size_t i = size_t{1} * y * step + x;
+      ASSERT_EQ(dst[3 + i], x < width ? std::min(a[i] + b[i], 255) : 7) << x << ',' << y;
+    }
+  }
+}
+
+}  // namespace
