@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "tests/support/resize_lesson.h"
+
 namespace test {
 namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
 // One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp.
-constexpr Lesson kLessons[] = {nullptr};
+constexpr Lesson kLessons[] = {ResizeLesson};
 
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
