@@ -167,29 +167,38 @@ void WalkDown(const Taps& taps, const RowRing<S>& ring, const Filter& filter, co
   }
 }
 
-// The sum of the rows of a ring at a place along them: an operand of MapRowWith.
-template <class D, class Weights>
-struct RowSum {
-  const RowRing<float>& ring;
-  const Weights& weights;
-  const Taps& taps;
-  ptrdiff_t y;
-
-  HWY_INLINE hn::Vec<D> From(ptrdiff_t i) const {
-    const D d;
-    const ptrdiff_t first = taps.first[y];
-    auto sum = Tap(d, 0, first, i);
-    for (int k = 1; k < taps.count; ++k) sum = hn::Add(sum, Tap(d, k, first + k, i));
-    return sum;
+// dst[i] = at(i), the vector of the values from place i on, for i in [0, n), rounded and saturated to T. For a row that
+// is shorter than a vector at(0) may give more values.
+template <class D, class T, class At>
+HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
+  const hn::Rebind<T, D> narrow;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  if (n < kLanes) {
+    Partial<T> out(dst, n);
+    hn::StoreU(Narrow<T>(d, at(0)), narrow, out.lanes);
+    return out.CopyTo(dst, n);
   }
+  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
+  hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
+}
 
- private:
-  HWY_INLINE hn::Vec<D> Tap(D d, int k, ptrdiff_t position, ptrdiff_t i) const {
+// The row at destination position y as the weighted sum of the rows of a ring.
+template <class T, class Weights>
+void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst,
+                 ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const ptrdiff_t first = taps.first[y];
+  const auto tap = [&](int k, ptrdiff_t i) HWY_ATTR {
     const float w = weights.At(k, y);
     if (k >= taps.certain && w == 0) return hn::Zero(d);
-    return hn::Mul(hn::LoadU(d, ring.Row(position) + i), hn::Set(d, w));
-  }
-};
+    return hn::Mul(hn::LoadU(d, ring.Row(first + k) + i), hn::Set(d, w));
+  };
+  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
+    auto sum = tap(0, i);
+    for (int k = 1; k < taps.count; ++k) sum = hn::Add(sum, tap(k, i));
+    return sum;
+  });
+}
 
 // A tile, by weights across and down. The rows of the ring need places * RowFloats(samples) floats at `rows`.
 constexpr ptrdiff_t RowFloats(ptrdiff_t samples) { return (samples + 7) & ~ptrdiff_t{7}; }
@@ -203,14 +212,10 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
-  using D = hn::ScalableTag<float>;
   const auto filter = [&](ptrdiff_t position, float* out) {
     FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), out);
   };
-  const auto combine = [&](ptrdiff_t y) {
-    const RowSum<D, Down> sum{ring, down, rowTaps, y};
-    MapRowWith<false>(D(), call.dst.Row(y), samples, [&](const auto& at) HWY_ATTR { return at(sum); });
-  };
+  const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, ring, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
 }
 

@@ -115,15 +115,16 @@ class FixedColumns {
   Gather gather_;
 };
 
-// The weighted rows at a place along them, in 16-bit lanes: an operand of MapRowWith.
-template <class D, int kPairs>
-struct FixedRowSum {
+template <int kPairs>
+void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* weights, ptrdiff_t plane, uint8_t* dst,
+                 ptrdiff_t samples) {
+  const hn::CappedTag<int16_t, 16> d;
+  const hn::Repartition<int32_t, hn::CappedTag<int16_t, 16>> wide;
   const int16_t* rows[2 * kPairs];
   int32_t pairs[kPairs];
-
-  HWY_INLINE hn::Vec<D> From(ptrdiff_t i) const {
-    const D d;
-    const hn::Repartition<int32_t, D> wide;
+  for (int k = 0; k < 2 * kPairs; ++k) rows[k] = ring.Row(first + k);
+  for (int k = 0; k < kPairs; ++k) std::memcpy(&pairs[k], weights + 2 * k * plane, sizeof(int32_t));
+  StoreRow(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
     auto low = hn::Set(wide, 1 << (kDownShift - 1)), high = low;
     for (int k = 0; k < kPairs; ++k) {
       const auto a = hn::LoadU(d, rows[2 * k] + i), b = hn::LoadU(d, rows[2 * k + 1] + i);
@@ -132,17 +133,7 @@ struct FixedRowSum {
       high = hn::Add(high, MulAddPairs(hn::InterleaveUpper(d, a, b), w));
     }
     return hn::ReorderDemote2To(d, hn::ShiftRight<kDownShift>(low), hn::ShiftRight<kDownShift>(high));
-  }
-};
-
-template <int kPairs>
-void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* weights, ptrdiff_t plane, uint8_t* dst,
-                 ptrdiff_t samples) {
-  using D = hn::CappedTag<int16_t, 16>;
-  FixedRowSum<D, kPairs> sum;
-  for (int k = 0; k < 2 * kPairs; ++k) sum.rows[k] = ring.Row(first + k);
-  for (int k = 0; k < kPairs; ++k) std::memcpy(&sum.pairs[k], weights + 2 * k * plane, sizeof(int32_t));
-  MapRowWith<false>(D(), dst, samples, [&](const auto& at) HWY_ATTR { return at(sum); });
+  });
 }
 
 void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {

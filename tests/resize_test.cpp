@@ -74,7 +74,8 @@ const std::vector<Member>& Members() {
     std::vector<Member> members;
 #define BORDER border, nullptr,
     TYPES(Nearest, )
-    TYPES(Super, ) TYPES(Linear, BORDER) TYPES(Cubic, BORDER) TYPES(Lanczos, BORDER) TYPES(Antialiasing, BORDER)
+    TYPES(Super, )
+    TYPES(Linear, BORDER) TYPES(Cubic, BORDER) TYPES(Lanczos, BORDER) TYPES(Antialiasing, BORDER)
         LAYOUTS(Linear, 64f, BORDER) LAYOUTS(Antialiasing, 64f, BORDER) return members;
   }();
   return all;
@@ -123,6 +124,11 @@ class Record {
   QvpiResizeSpec* get() const { return reinterpret_cast<QvpiResizeSpec*>(at_ ? at_ : block_->data()); }
   const test::Block& block() const { return *block_; }
   QvpStatus status() const { return status_; }
+  QvpiPoint SourceOf(QvpiPoint tile) const {
+    QvpiPoint at{};
+    EXPECT_EQ(qvpiResizeGetSrcOffset_64f(get(), tile, &at), 0);
+    return at;
+  }
   size_t BufferSize(QvpiSize tile, int channels) const {
     int size = 0;
     QvpSizeL wide = 0;
@@ -319,8 +325,9 @@ test::Image<uint8_t> Resized(const Member& member, const Record& record, const S
                              bool isWide = false) {
   test::Image<uint8_t> dst(to.width * member.channels * member.bytes, to.height, 3 * member.bytes);
   test::Block buffer(record.BufferSize(to, member.channels));
-  EXPECT_EQ((isWide ? member.wide : member.call)(src.At(0, 0), src.step(), dst.data(), dst.step(), {0, 0}, to, border,
-                                                 record.get(), buffer.data()),
+  const QvpiPoint at = isWide ? QvpiPoint{0, 0} : record.SourceOf({0, 0});
+  EXPECT_EQ((isWide ? member.wide : member.call)(src.At(at.x, at.y), src.step(), dst.data(), dst.step(), {0, 0}, to,
+                                                 border, record.get(), buffer.data()),
             0)
       << member.name;
   return dst;
@@ -542,13 +549,14 @@ TEST(Resize, RecordsAndBuffersWorkAtEveryAddress) {
       const Member& member = Find(m.name + type);
       const Source src(member, from, 0);
       const Record plain(m, member.kind, from, to);
+      const QvpiPoint at = plain.SourceOf({0, 0});
       const test::Image<uint8_t> expected = Resized(member, plain, src, to, 1);
       for (int start = 0; start < 64; ++start) {
         Placed spec(plain.block().size(), start), buffer(plain.BufferSize(to, member.channels), start);
         const Record record(m, member.kind, from, to, false, spec.data());
         test::Image<uint8_t> dst(to.width * member.channels * member.bytes, to.height, 0);
         ASSERT_EQ(
-            member.call(src.At(0, 0), src.step(), dst.data(), dst.step(), {0, 0}, to, 1, record.get(), buffer.data()),
+            member.call(src.At(at.x, at.y), src.step(), dst.data(), dst.step(), {0, 0}, to, 1, record.get(), buffer.data()),
             0);
         ASSERT_TRUE(spec.IsIntactAround() && buffer.IsIntactAround()) << member.name << ' ' << start;
         for (int y = 0; y < to.height; ++y) {
