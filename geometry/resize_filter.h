@@ -69,11 +69,11 @@ HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdif
 }
 
 // One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap.
-template <class D, class T, class Weights>
+template <int kCount, class D, class T, class Weights>
 HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
   const hn::Repartition<double, D> pairs;
   const int32_t* first = taps.first + x;
-  const int count = taps.count, certain = taps.certain;
+  const int count = kCount ? kCount : taps.count, certain = kCount ? kCount : taps.certain;
   auto sum = hn::Zero(d);
   const auto add = [&](int k, auto samples) HWY_ATTR {
     const auto w = weights.Load(d, k, x);
@@ -113,27 +113,47 @@ HWY_INLINE hn::Vec128<float> FilterPixel(const Taps& taps, const Weights& weight
   return sum;
 }
 
-// One source row, across.
-template <class T, class Weights>
-void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+template <int kCount, class T, class Weights>
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
   const hn::CappedTag<float, 8> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
-  const Taps& taps = plan.taps;
-  ptrdiff_t x = taps.from;
-  if (plan.channels == 1) {
-    if (plan.to - x >= kLanes) {
-      for (; x + kLanes < plan.to; x += kLanes) hn::StoreU(FilterSingles(d, taps, weights, row, x), d, out + x);
-      x = plan.to - kLanes;
-      hn::StoreU(FilterSingles(d, taps, weights, row, x), d, out + x);
-      x = plan.to;
-    }
-  } else {
-    const hn::Full128<float> pixel;
-    for (; x < plan.to; ++x) {
-      hn::StoreU(FilterPixel(taps, weights, row, plan.channels, x), pixel, out + x * plan.channels);
-    }
+  const Taps taps = plan.taps;
+  const ptrdiff_t last = plan.to - kLanes;
+  for (ptrdiff_t x = taps.from; x < last; x += kLanes) {
+    hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, x), d, out + x);
   }
-  FilterOneByOne(plan, weights, row, x, taps.length, out);
+  hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, last), d, out + last);
+}
+
+template <class T, class Weights>
+void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  const hn::Full128<float> d;
+  const Taps taps = plan.taps;
+  const int channels = plan.channels;
+  for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
+    hn::StoreU(FilterPixel(taps, weights, row, channels, x), d, out + x * channels);
+  }
+}
+
+// One source row, across. The usual numbers of taps have loops of their own.
+template <class T, class Weights>
+void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
+  const Taps& taps = plan.taps;
+  ptrdiff_t done = plan.to;
+  if (plan.channels != 1) {
+    FilterPixelsAcross(plan, weights, row, out);
+  } else if (plan.to - taps.from < kLanes) {
+    done = taps.from;
+  } else {
+    const int count = taps.certain == taps.count ? taps.count : 0;
+    const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
+                        : count == 4 ? FilterSinglesAcross<4, T, Weights>
+                        : count == 6 ? FilterSinglesAcross<6, T, Weights>
+                                     : FilterSinglesAcross<0, T, Weights>;
+    filter(plan, weights, row, out);
+  }
+  FilterOneByOne(plan, weights, row, done, taps.length, out);
   FilterOneByOne(plan, weights, row, 0, taps.from, out);
 }
 
@@ -182,22 +202,55 @@ HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
 }
 
-// The row at destination position y as the weighted sum of the rows of a ring.
+// dst = the weighted sum of kRows rows.
+template <int kRows, class T>
+void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const float* row[kRows];
+  float w[kRows];
+  std::copy_n(rows, kRows, row);
+  std::copy_n(weights, kRows, w);
+  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
+    auto sum = hn::Mul(hn::LoadU(d, row[0] + i), hn::Set(d, w[0]));
+    for (int k = 1; k < kRows; ++k) sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row[k] + i), hn::Set(d, w[k])));
+    return sum;
+  });
+}
+
+// The same for any number of taps, of the rows of a ring.
+template <class T, class Weights>
+void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst, ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const float *const first = ring.Row(taps.first[y]), *const begin = ring.at;
+  const float* const end = begin + ring.places * ring.step;
+  const ptrdiff_t step = ring.step;
+  int count = taps.count;
+  while (count > taps.certain && weights.At(count - 1, y) == 0) --count;
+  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
+    const float* row = first;
+    auto sum = hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(0, y)));
+    for (int k = 1; k < count; ++k) {
+      row = row + step == end ? begin : row + step;
+      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(k, y))));
+    }
+    for (int k = count; k < taps.count; ++k) sum = hn::Add(sum, hn::Zero(d));
+    return sum;
+  });
+}
+
+// The row at destination position y. The usual numbers of taps have loops of their own.
 template <class T, class Weights>
 void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst,
                  ptrdiff_t n) {
-  const hn::ScalableTag<float> d;
-  const ptrdiff_t first = taps.first[y];
-  const auto tap = [&](int k, ptrdiff_t i) HWY_ATTR {
-    const float w = weights.At(k, y);
-    if (k >= taps.certain && w == 0) return hn::Zero(d);
-    return hn::Mul(hn::LoadU(d, ring.Row(first + k) + i), hn::Set(d, w));
-  };
-  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
-    auto sum = tap(0, i);
-    for (int k = 1; k < taps.count; ++k) sum = hn::Add(sum, tap(k, i));
-    return sum;
-  });
+  const int count = taps.count;
+  if (taps.certain < count || (count != 2 && count != 4 && count != 6)) return AddRing(ring, weights, taps, y, dst, n);
+  const float* rows[6] = {};
+  float w[6] = {};
+  for (int k = 0; k < count; ++k) {
+    rows[k] = ring.Row(taps.first[y] + k);
+    w[k] = weights.At(k, y);
+  }
+  (count == 2 ? AddRows<2, T> : count == 4 ? AddRows<4, T> : AddRows<6, T>)(rows, w, dst, n);
 }
 
 // A tile, by weights across and down. The rows of the ring need places * RowFloats(samples) floats at `rows`.

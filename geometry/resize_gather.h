@@ -14,12 +14,14 @@ inline constexpr ptrdiff_t kGatherBytes = hn::MaxLanes(GatherTag()), kGatherBloc
 // lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each.
 struct GatherShape {
   int lane, channels, apart;
+  int leastLoads = 1;
 };
 
 // Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
 // four are not enough.
 inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
   for (const int loads : {1, 2, 4}) {
+    if (loads < shape.leastLoads) continue;
     const int outputs = kBlockBytes / shape.lane / loads;
     if (outputs == 0) break;
     const int pixels =

@@ -1,6 +1,6 @@
 // Resize by the nearest pixel: pixels are only moved.
 #include "base/export.h"
-#include "geometry/resize_call.h"
+#include "geometry/resize_gather.h"
 
 namespace qvp {
 namespace {
@@ -25,16 +25,55 @@ PickFunction PickFor(int pixelBytes) {
   }
 }
 
+// Rows of one-byte or two-byte pixels that are close enough to each other to be shuffled out of vectors.
+class Shuffle {
+ public:
+  // `room` is for the shuffles: 4 bytes for each column, and 64.
+  Shuffle(const ResizeRecord& record, const Tile& tile, int pixelBytes, uint8_t* room) {
+    const GatherShape shape{1, pixelBytes, 0, 2};  // two loads serve reductions to half, and enlargements
+    const ptrdiff_t bytes = tile.width * pixelBytes;
+    const int loads = pixelBytes > 2 ? 0 : LoadsFor(shape, record.columns.p, record.columns.q);
+    if (loads != 2) return;
+    const int32_t* index = record.Index(record.columns) + tile.x;
+    const ptrdiff_t origin = tile.source.x, last = (index[tile.width - 1] - origin + 1) * pixelBytes;
+    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, bytes) * kGatherBytes);
+    bytes_ = bytes;
+    gather_ = Gather(
+        shape, loads, bytes, last,
+        [=](ptrdiff_t i) { return (index[i / pixelBytes] - origin) * pixelBytes + i % pixelBytes; }, room, offsets);
+  }
+
+  bool IsUsable() const { return gather_.count() > 0; }
+
+  void Pick(const uint8_t* row, uint8_t* out) const {
+    const uint8_t* mask = gather_.masks();
+    const int32_t* offsets = gather_.offsets();
+    const ptrdiff_t last = bytes_ - kGatherBytes;
+    for (ptrdiff_t i = 0; i < last; i += kGatherBytes, mask += kGatherBytes, offsets += 2 * kGatherBlocks) {
+      hn::StoreU(GatherVector<2>(row, offsets, mask), GatherTag(), out + i);
+    }
+    hn::StoreU(GatherVector<2>(row, offsets, mask), GatherTag(), out + last);
+  }
+
+ private:
+  ptrdiff_t bytes_ = 0;
+  Gather gather_;
+};
+
 // Destination rows that take the same source row are copies of the first of them.
-void ResizeTile(const ConstBytes& src, const Bytes& dst, const ResizeRecord& record, const Tile& tile) {
+void ResizeTile(const ConstBytes& src, const Bytes& dst, const ResizeRecord& record, const Tile& tile, uint8_t* room) {
   const int32_t* columns = record.Index(record.columns) + tile.x;
   const int32_t* rows = record.Index(record.rows) + tile.y;
   const PickFunction pick = PickFor(dst.PixelBytes());
+  const Shuffle shuffle(record, tile, dst.PixelBytes(), room);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    const uint8_t* row = src.Row(rows[y] - tile.source.y);
     if (y > 0 && rows[y] == rows[y - 1]) {
       std::memcpy(dst.Row(y), dst.Row(y - 1), dst.RowBytes(tile.width));
+    } else if (shuffle.IsUsable()) {
+      shuffle.Pick(row, dst.Row(y));
     } else {
-      pick(src.Row(rows[y] - tile.source.y), columns, tile.source.x, tile.width, dst.Row(y));
+      pick(row, columns, tile.source.x, tile.width, dst.Row(y));
     }
   }
 }
@@ -44,7 +83,7 @@ QvpStatus Nearest(const ResizeCall<T>& call) {
   return RunResize(call, {qvpInterpolationNearest, false, true, true},
                    [](const auto& c, const auto& record, const auto& tile) {
                      ResizeTile(AsBytes(c.src.data, c.src.step, c.src.layout),
-                                AsBytes(c.dst.data, c.dst.step, c.dst.layout), record, tile);
+                                AsBytes(c.dst.data, c.dst.step, c.dst.layout), record, tile, AtBoundary(c.buffer));
                    });
 }
 

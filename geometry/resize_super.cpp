@@ -106,20 +106,37 @@ ptrdiff_t ColumnsPerStrip(const Period& period, int channels) {
   return std::min({byWeights, scaled, kMostStripColumns});
 }
 
-// sums[i] = the rows that destination row y covers, at place i along them.
+// sums[i] = the rows that destination row y covers, at place i along them. Up to three rows are added up at once.
 template <class T>
-void SumDown(const ResizeCall<T>& call, const T* row, const Period& down, ptrdiff_t y, ptrdiff_t samples, float* sums) {
+void SumDown(const ResizeCall<T>& call, const T* row, const Period& down, ptrdiff_t y, ptrdiff_t n, float* sums) {
   const hn::ScalableTag<float> d;
+  const Image<const T> rows{row, call.src.step, call.src.layout};
   const int count = down.Count(y);
-  const auto rowAt = [&](int k) { return Image<const T>{row, call.src.step, call.src.layout}.Row(k); };
-  const auto w0 = hn::Set(d, down.At(0, y));
-  MapRow<false>(
-      d, sums, samples, [=](auto v) HWY_ATTR { return hn::Mul(v, w0); }, rowAt(0));
-  for (int k = 1; k < count; ++k) {
-    const auto w = hn::Set(d, down.At(k, y));
+  const auto weight = [&](int k) HWY_ATTR { return hn::Set(d, down.At(k, y)); };
+  const auto w0 = weight(0);
+  int k = 1;
+  if (count == 1) {
     MapRow<false>(
-        d, sums, samples, [=](auto sum, auto v) HWY_ATTR { return hn::Add(sum, hn::Mul(v, w)); },
-        static_cast<const float*>(sums), rowAt(k));
+        d, sums, n, [=](auto a) HWY_ATTR { return hn::Mul(a, w0); }, rows.Row(0));
+  } else if (const auto w1 = weight(1); count == 2) {
+    MapRow<false>(
+        d, sums, n, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)); }, rows.Row(0),
+        rows.Row(1));
+    k = 2;
+  } else {
+    const auto w2 = weight(2);
+    MapRow<false>(
+        d, sums, n,
+        [=](auto a, auto b, auto c)
+            HWY_ATTR { return hn::Add(hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)), hn::Mul(c, w2)); },
+        rows.Row(0), rows.Row(1), rows.Row(2));
+    k = 3;
+  }
+  for (; k < count; ++k) {
+    const auto w = weight(k);
+    MapRow<false>(
+        d, sums, n, [=](auto sum, auto v) HWY_ATTR { return hn::Add(sum, hn::Mul(v, w)); },
+        static_cast<const float*>(sums), rows.Row(k));
   }
 }
 
@@ -149,8 +166,47 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   }
 }
 
+// Half the size of one-channel bytes: sums of 2x2 pixels in 16-bit lanes, divided by 4, ties to even. Their averages in
+// floating point are exact, too, so that this is the same result.
+void HalveRow(const uint8_t* upper, const uint8_t* lower, uint8_t* dst, ptrdiff_t n) {
+  const hn::ScalableTag<uint8_t> d;
+  const hn::Repartition<uint16_t, hn::ScalableTag<uint8_t>> d16;
+  const hn::Rebind<uint8_t, decltype(d16)> narrow;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint16_t>());
+  const auto low = hn::Set(d16, 0xFF), one = hn::Set(d16, 1);
+  const auto quarter = [&](const uint8_t* a, const uint8_t* b) HWY_ATTR {
+    const auto u = hn::BitCast(d16, hn::LoadU(d, a)), l = hn::BitCast(d16, hn::LoadU(d, b));
+    const auto sum =
+        hn::Add(hn::Add(hn::And(u, low), hn::ShiftRight<8>(u)), hn::Add(hn::And(l, low), hn::ShiftRight<8>(l)));
+    return hn::ShiftRight<2>(hn::Add(hn::Add(sum, one), hn::And(hn::ShiftRight<2>(sum), one)));
+  };
+  ptrdiff_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) {
+    hn::StoreU(
+        hn::DemoteTo(narrow, hn::BitCast(hn::RebindToSigned<decltype(d16)>(), quarter(upper + 2 * i, lower + 2 * i))),
+        narrow, dst + i);
+  }
+  for (; i < n; ++i) {
+    const int sum = upper[2 * i] + upper[2 * i + 1] + lower[2 * i] + lower[2 * i + 1];
+    dst[i] = static_cast<uint8_t>((sum + 1 + (sum >> 2 & 1)) >> 2);
+  }
+}
+
+bool IsHalf(const ResizeRecord& record) {
+  return record.columns.p == 2 && record.columns.q == 1 && record.rows.p == 2 && record.rows.q == 1 &&
+         !record.IsShifted();
+}
+
 template <class T>
 void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if constexpr (sizeof(T) == 1) {
+    if (IsHalf(record) && call.src.layout == Layout::kC1) {
+      for (ptrdiff_t y = 0; y < tile.height; ++y) {
+        HalveRow(call.src.Row(2 * y), call.src.Row(2 * y + 1), call.dst.Row(y), tile.width);
+      }
+      return;
+    }
+  }
   const Period across(record, record.columns), down(record, record.rows);
   const ptrdiff_t most = ColumnsPerStrip(across, Channels(call.src.layout));
   if (record.IsShifted() || most < 1) return ResizeOneByOne(call, record, tile);
