@@ -45,6 +45,7 @@ int main(int argc, char** argv) try {
   std::printf("%s\n", qvpiGetLibVersion()->Name);
   demo::Demo demo(demo::LoadPicture(argv[1]));
   demo::CoreSteps(demo);
+  demo::GeometrySteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);
   std::printf("contact sheet: %s\n", argv[2]);
   return 0;

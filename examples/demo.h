@@ -38,5 +38,6 @@ class Demo {
 
 // The steps of each header of the library.
 void CoreSteps(Demo& demo);
+void GeometrySteps(Demo& demo);
 
 }  // namespace demo

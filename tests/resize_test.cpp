@@ -75,8 +75,9 @@ const std::vector<Member>& Members() {
 #define BORDER border, nullptr,
     TYPES(Nearest, )
     TYPES(Super, )
-    TYPES(Linear, BORDER) TYPES(Cubic, BORDER) TYPES(Lanczos, BORDER) TYPES(Antialiasing, BORDER)
-        LAYOUTS(Linear, 64f, BORDER) LAYOUTS(Antialiasing, 64f, BORDER) return members;
+    TYPES(Linear, BORDER)
+    TYPES(Cubic, BORDER) TYPES(Lanczos, BORDER) TYPES(Antialiasing, BORDER) LAYOUTS(Linear, 64f, BORDER)
+        LAYOUTS(Antialiasing, 64f, BORDER) return members;
   }();
   return all;
 }
@@ -555,9 +556,9 @@ TEST(Resize, RecordsAndBuffersWorkAtEveryAddress) {
         Placed spec(plain.block().size(), start), buffer(plain.BufferSize(to, member.channels), start);
         const Record record(m, member.kind, from, to, false, spec.data());
         test::Image<uint8_t> dst(to.width * member.channels * member.bytes, to.height, 0);
-        ASSERT_EQ(
-            member.call(src.At(at.x, at.y), src.step(), dst.data(), dst.step(), {0, 0}, to, 1, record.get(), buffer.data()),
-            0);
+        ASSERT_EQ(member.call(src.At(at.x, at.y), src.step(), dst.data(), dst.step(), {0, 0}, to, 1, record.get(),
+                              buffer.data()),
+                  0);
         ASSERT_TRUE(spec.IsIntactAround() && buffer.IsIntactAround()) << member.name << ' ' << start;
         for (int y = 0; y < to.height; ++y) {
           ASSERT_EQ(std::memcmp(dst.bytes() + y * dst.step(), expected.bytes() + y * expected.step(), dst.step()), 0);
