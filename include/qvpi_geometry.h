@@ -12,9 +12,9 @@
 extern "C" {
 #endif
 
-/** @name Resize: size and tile queries
+/** @name Resize: size of the record
  *  @{ */
-/** Sizes, and which source pixels a tile of the destination reads.
+/** Bytes of a resize record and of the Init buffer.
  *
  *  An image is resized in these steps: ask for the size of the record (GetSize), let an Init function of the method
  *  fill it, ask for the size of the work buffer (GetBufferSize), and call the method's function, once for the image
@@ -43,57 +43,117 @@ extern "C" {
  *  reads, at least 1x1; linear, cubic, Lanczos and antialiased resizing also read up to GetBorderSize pixels around
  *  it as far as these lie in the image, for example the one before the pointer when enlarging.
  *
- *  GetSize: without antialiasing the record has 4 (W + H) + 324 bytes for nearest and 8 (W + H) + 324 for linear
- *  (64f: 12 (W + H) + 320), with W and H the destination lengths rounded up to multiples of 32. GetSize_16u, _16s and
- *  _32f are GetSize_8u. Antialiased 64f records have the size of antialiased 8u ones. The Init buffer has 64 bytes,
- *  which only Init uses. GetBufferSize: the buffer for tiles of `dstSize` or smaller. GetBorderSize: 1 pixel on each
- *  side for linear, 2 for cubic and Lanczos with 2 lobes, 3 with 3, 0 for nearest and super-sampling; antialiased as
- *  many, times the ratio of the lengths, rounded up. GetSrcOffset: floor(dstOffset x srcWidth / dstWidth), and
- *  likewise down; of a shifted record the first pixel that is covered. GetSrcRoi: from there to the source pixel of
- *  the tile's last pixel, or to the end of the image for tiles that reach it; for super-sampling all pixels that are
- *  covered. A tile that reaches over the destination is clipped.
+ *  Without antialiasing a record has 4 (W + H) + 324 bytes for nearest and 8 (W + H) + 324 for linear, in 64f
+ *  12 (W + H) + 320, with W and H the destination lengths rounded up to multiples of 32. The 16u, 16s and 32f forms
+ *  are that of 8u. Antialiased records for 64f have the size of those for 8u. The Init buffer has 64 bytes.
  *
- *  @param srcSize,dstSize sizes of source and destination; of GetBufferSize, of the largest tile
+ *  @param srcSize,dstSize sizes of source and destination
  *  @param interpolation method: nearest, linear, cubic, super or Lanczos
  *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
  *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
- *  @return GetSize. qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a
- *          length is below 1. qvpStatusInterpolation: an unknown interpolation other than 0. `_L` and `_64f`:
- *          qvpStatusDataType: a type other than 8u, 16u, 16s and 32f, or 64f with another method than linear;
- *          qvpStatusNotSupportedMode: 64f with antialiasing. `_L`: qvpStatusSizeOverflow: a length above 33554431.
- *          qvpStatusNotSupportedMode: interpolation 0. qvpStatusSize: the source is below 2 pixels for linear, 4 for
- *          cubic and Lanczos, or smaller than the destination for super-sampling. qvpStatusSizeOverflow: a size of
- *          2147483647 or more. Warning qvpStatusAntialiasIgnored: antialiasing with nearest or super-sampling.
- *          The others. qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a
- *          length below 1 (not GetSrcOffset). GetBufferSize: qvpStatusChannel: not 1 to 4 channels;
- *          qvpStatusSizeOverflow; warning qvpStatusSizeWarning: larger than the destination, whose size counts.
- *          GetSrcOffset and GetSrcRoi: qvpStatusOutOfRange: an offset outside the destination. GetSrcRoi: warning
- *          qvpStatusSizeWarning: the tile was clipped.
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length is
+ *          below 1. qvpStatusInterpolation: an unknown interpolation other than 0. 64f: qvpStatusDataType: another
+ *          method than linear; qvpStatusNotSupportedMode: antialiasing. qvpStatusNotSupportedMode: interpolation 0.
+ *          qvpStatusSize: the source is below 2 pixels for linear, 4 for cubic and Lanczos, or smaller than the
+ *          destination for super-sampling. qvpStatusSizeOverflow: a size of 2147483647 or more. Warning
+ *          qvpStatusAntialiasIgnored: antialiasing with nearest or super-sampling.
  */
 QvpStatus qvpiResizeGetSize_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+/** @} */
+
+/** @name Resize: size of the record, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param interpolation method: nearest, linear, cubic, super or Lanczos
+ *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
+ *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
+ *  @return as qvpiResizeGetSize_8u(), but after qvpStatusInterpolation: qvpStatusDataType: a type other than 8u, 16u,
+ *          16s and 32f, or 64f with another method than linear; qvpStatusNotSupportedMode: 64f with antialiasing;
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiInterpolationType interpolation, Qvp32u antialiasing, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Resize: size of the work buffer
+ *  @{ */
+/** Bytes of the buffer for a call.
+ *
+ *  @param pSpec record
+ *  @param dstSize size of the largest tile; what is beyond the destination does not count
+ *  @param numChannels channels of a pixel
+ *  @param pBufSize receives bytes; 0 when these cannot be represented
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length
+ *          below 1. qvpStatusChannel: not 1 to 4 channels. qvpStatusSizeOverflow: 2147483647 bytes or more, `_L` on
+ *          64 bits: beyond the type. Warning qvpStatusSizeWarning: `dstSize` is larger than the destination.
+ */
 QvpStatus qvpiResizeGetBufferSize_8u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_16u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_16s(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_32f(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_64f(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_L(const QvpiResizeSpec* pSpec, QvpiSizeL dstSize, int numChannels, QvpSizeL* pBufSize);
+/** @} */
+
+/** @name Resize: border
+ *  @{ */
+/** How far a method reads around the source rectangle of a tile.
+ *
+ *  1 pixel on each side for linear, 2 for cubic and Lanczos with 2 lobes, 3 with 3, 0 for nearest and super-sampling;
+ *  antialiased as many times the ratio of the lengths, if it is above 1, rounded up.
+ *
+ *  @param pSpec record
+ *  @param pBorderSize receives the widths
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions.
+ */
 QvpStatus qvpiResizeGetBorderSize_8u(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
 QvpStatus qvpiResizeGetBorderSize_16u(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
 QvpStatus qvpiResizeGetBorderSize_16s(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
 QvpStatus qvpiResizeGetBorderSize_32f(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
 QvpStatus qvpiResizeGetBorderSize_64f(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
 QvpStatus qvpiResizeGetBorderSize_L(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+/** @} */
+
+/** @name Resize: source pointer of a tile
+ *  @{ */
+/** The source pixel that a call takes as its pointer: floor(dstOffset.x srcWidth / dstWidth), and likewise down; of a
+ *  shifted record the first pixel that is covered.
+ *
+ *  @param pSpec record
+ *  @param dstOffset first pixel of the tile
+ *  @param pSrcOffset receives the place
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusOutOfRange: outside
+ *          the destination.
+ */
 QvpStatus qvpiResizeGetSrcOffset_8u(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
 QvpStatus qvpiResizeGetSrcOffset_16u(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
 QvpStatus qvpiResizeGetSrcOffset_16s(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
 QvpStatus qvpiResizeGetSrcOffset_32f(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
 QvpStatus qvpiResizeGetSrcOffset_64f(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
 QvpStatus qvpiResizeGetSrcOffset_L(const QvpiResizeSpec* pSpec, QvpiPointL dstOffset, QvpiPointL* pSrcOffset);
+/** @} */
+
+/** @name Resize: source rectangle of a tile
+ *  @{ */
+/** The core of what a tile reads, at least 1x1: from the pixel of GetSrcOffset to that of the tile's last pixel, or to
+ *  the end of the image for tiles that reach it; for super-sampling all pixels that are covered.
+ *
+ *  Linear, cubic, Lanczos and antialiased resizing also read the pixels around it, up to GetBorderSize on each side as
+ *  far as these lie in the image: who copies the source of a tile copies them too.
+ *
+ *  @param pSpec record
+ *  @param dstRoi the tile; clipped to the destination
+ *  @param pSrcRoiOffset,pSrcRoiSize receive the rectangle
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length
+ *          below 1. qvpStatusOutOfRange: the tile begins outside the destination. Warning qvpStatusSizeWarning: it
+ *          was clipped.
+ */
 QvpStatus qvpiResizeGetSrcRoi_8u(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
 QvpStatus qvpiResizeGetSrcRoi_16u(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
 QvpStatus qvpiResizeGetSrcRoi_16s(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
@@ -124,12 +184,24 @@ QvpStatus qvpiResizeSetMode(QvpHintAlgorithm hint, QvpiResizeSpec* pSpec);
  *  @param srcSize,dstSize sizes of source and destination
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1. `_L`: qvpStatusDataType: not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1.
  */
 QvpStatus qvpiResizeNearestInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: nearest, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1. qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -183,8 +255,7 @@ QvpStatus qvpiResizeNearest_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp3
  *  @param srcSize,dstSize sizes of source and destination
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2. `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or of the source below 2. `_L`: qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeLinearInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
@@ -192,6 +263,19 @@ QvpStatus qvpiResizeLinearInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResiz
 QvpStatus qvpiResizeLinearInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: linear, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
+ *          a length above 33554431.
+ */
 QvpStatus qvpiResizeLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -267,14 +351,29 @@ QvpStatus qvpiResizeLinear_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. `_L`: qvpStatusDataType:
- *          not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. `_L`:
+ *          qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeCubicInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: cubic, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param valueB,valueC parameters of the kernel
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
+ *          16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -365,13 +464,28 @@ QvpStatus qvpiResizeLanczos_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp3
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
  *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
- *          `_L`: qvpStatusDataType: not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
+ *          `_L`: qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeLanczosInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: Lanczos, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -382,13 +496,25 @@ QvpStatus qvpiResizeLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataT
  *  @param srcSize,dstSize sizes of source and destination
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or the source smaller than the destination. `_L`: qvpStatusDataType: not 8u, 16u, 16s or 32f;
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or the source smaller than the destination.
  */
 QvpStatus qvpiResizeSuperInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: super-sampling, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or the source smaller than the destination. qvpStatusDataType: not 8u, 16u, 16s or 32f.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeSuperInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -463,11 +589,24 @@ QvpStatus qvpiResizeSuper_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2. `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or of the source below 2.
  */
 QvpStatus qvpiResizeAntialiasingLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased linear, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
+ *          a length above 33554431.
+ */
 QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -480,11 +619,25 @@ QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSiz
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. `_L`: qvpStatusDataType:
- *          not 8u, 16u, 16s, 32f or 64f; qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite.
  */
 QvpStatus qvpiResizeAntialiasingCubicInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingCubicInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased cubic, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param valueB,valueC parameters of the kernel, as for qvpiResizeCubicInit_8u()
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
+ *          16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -498,10 +651,24 @@ QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
  *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
- *          `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeAntialiasingLanczosInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLanczosInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased Lanczos, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
+ */
 QvpStatus qvpiResizeAntialiasingLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
