@@ -59,12 +59,17 @@ class FixedColumns {
 
   template <int kLoads>
   void FilterVectors(const uint8_t* row, int16_t* out) const {
-    if (taps_.count == 4)
-      return channels_ == 1 ? FilterAll<kLoads, 2, true>(row, out) : FilterAll<kLoads, 2, false>(row, out);
-    return channels_ == 1 ? FilterAll<kLoads, 3, true>(row, out) : FilterAll<kLoads, 3, false>(row, out);
+    if (channels_ == 1) return FilterChannels<kLoads, 1>(row, out);
+    if (channels_ == 3) return FilterChannels<kLoads, 3>(row, out);
+    FilterChannels<kLoads, 4>(row, out);
   }
 
-  template <int kLoads, int kPairs, bool kIsSingle>
+  template <int kLoads, int kChannels>
+  void FilterChannels(const uint8_t* row, int16_t* out) const {
+    taps_.count == 4 ? FilterAll<kLoads, kChannels, 2>(row, out) : FilterAll<kLoads, kChannels, 3>(row, out);
+  }
+
+  template <int kLoads, int kChannels, int kPairs>
   void FilterAll(const uint8_t* row, int16_t* out) const {
     const Sums d;
     const hn::Repartition<int16_t, GatherTag> d16;
@@ -73,19 +78,18 @@ class FixedColumns {
     const uint8_t* mask = gather_.masks();
     const int32_t* offsets = gather_.offsets();
     const int16_t* weights = weights_ + 2 * taps_.from;
-    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * channels_ - kSamples;
+    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * kChannels - kSamples;
     const ptrdiff_t plane = 2 * plane_;
-    const int channels = channels_;
     for (ptrdiff_t v = 0; v < count; ++v) {
-      const ptrdiff_t start = std::min(v * kSamples, last), pixel = kIsSingle ? start : start / channels;
+      const ptrdiff_t start = std::min(v * kSamples, last), pixel = start / kChannels;
       auto sum = half;
       for (int k = 0; k < kPairs; ++k) {
         auto w = hn::LoadU(d, reinterpret_cast<const int32_t*>(weights + k * plane + 2 * pixel));
-        if constexpr (!kIsSingle) {
-          const auto lanes = hn::SetTableIndices(d, pixelOf_ + (start - pixel * channels) * kSamples);
+        if constexpr (kChannels > 1) {
+          const auto lanes = hn::SetTableIndices(d, pixelOf_ + (start - pixel * kChannels) * kSamples);
           w = hn::TableLookupLanes(w, lanes);
         }
-        const auto pairs = hn::BitCast(d16, GatherVector<kLoads>(row + 2 * k * channels, offsets, mask));
+        const auto pairs = hn::BitCast(d16, GatherVector<kLoads>(row + 2 * k * kChannels, offsets, mask));
         sum = hn::Add(sum, MulAddPairs(pairs, hn::BitCast(d16, w)));
       }
       hn::StoreU(hn::DemoteTo(narrow, hn::ShiftRight<kAcrossShift>(sum)), narrow, out + start);
