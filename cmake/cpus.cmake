@@ -1,10 +1,11 @@
 # One row per CPU build. Outputs lie in <build>/<code>/.
 #
-# i386 callers may keep the stack aligned to 4 bytes only, so g9 realigns it where a function needs more.
+# i386 callers may keep the stack aligned to 4 bytes only, so g9 realigns it where a function needs more. clang has to be
+# told that arguments on the stack are no better aligned either: it copies several of them by one vector.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   set(realign -mincoming-stack-boundary=2)
 else()
-  set(realign -mstackrealign)
+  set(realign -mstackrealign -mstack-alignment=4)
 endif()
 
 #        code  bits  runs with  vector target  file     below the library folder in  name in the version record  flags

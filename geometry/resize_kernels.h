@@ -39,11 +39,11 @@ inline constexpr int kPerUnitOf2 = 200, kPerUnitOf3 = 100;
 inline constexpr auto kLanczos2 = LanczosTable<2, kPerUnitOf2>();
 inline constexpr auto kLanczos3 = LanczosTable<3, kPerUnitOf3>();
 
-template <size_t kSize>
-double Interpolated(const std::array<double, kSize>& table, double place) {
-  if (!(place < static_cast<double>(kSize - 2))) return 0;
-  const auto i = static_cast<size_t>(place);
-  return table[i] + (table[i + 1] - table[i]) * (place - static_cast<double>(i));
+// A table at a place between its entries, 0 from `end` on.
+inline double Interpolated(const double* table, int end, double place) {
+  if (!(place < end)) return 0;
+  const auto i = static_cast<int>(place);
+  return table[i] + (table[i + 1] - table[i]) * (place - i);
 }
 
 // A kernel by its interpolation and parameters. `reach` is the distance from which on it is 0.
@@ -61,7 +61,8 @@ struct ResizeKernel {
   double At(double t) const {
     if (interpolation == qvpInterpolationLinear) return t < 1 ? 1 - t : 0;
     if (interpolation == qvpInterpolationCubic) return Cubic(t);
-    return lobes == 2 ? Interpolated(kLanczos2, t * kPerUnitOf2) : Interpolated(kLanczos3, t * kPerUnitOf3);
+    return lobes == 2 ? Interpolated(kLanczos2.data(), 2 * kPerUnitOf2, t * kPerUnitOf2)
+                      : Interpolated(kLanczos3.data(), 3 * kPerUnitOf3, t * kPerUnitOf3);
   }
 
  private:

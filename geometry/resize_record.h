@@ -29,7 +29,7 @@ inline constexpr int64_t kTablesAt = 256, kTableAlignment = 32;
 
 // From the weights of one tap to those of the next: a table of weights holds all positions for the first tap (or pair
 // of taps), then all for the second, so that vectors of positions are contiguous.
-constexpr ptrdiff_t PlaneOf(ptrdiff_t length) { return (length + kTableAlignment - 1) & -kTableAlignment; }
+constexpr int64_t PlaneOf(int64_t length) { return (length + kTableAlignment - 1) & -kTableAlignment; }
 
 struct ResizeAxis {
   int32_t source, destination;  // lengths

@@ -20,7 +20,7 @@ class FixedColumns {
       : taps_(record, record.columns, tile.x, tile.width),
         edge_(ColumnEdge(border, record)),
         channels_(channels),
-        plane_(PlaneOf(record.width)),
+        plane_(static_cast<ptrdiff_t>(PlaneOf(record.width))),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
     const GatherShape shape{4, channels, channels};
     const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
@@ -162,7 +162,7 @@ template <class Weights>
 Weights WeightsOf(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
   using W = std::remove_cvref_t<decltype(*Weights::at)>;
   constexpr ptrdiff_t kPair = sizeof(W) == sizeof(int16_t) ? 2 : 1;
-  return {record.Weights<W>(axis) + kPair * begin, PlaneOf(axis.destination)};
+  return {record.Weights<W>(axis) + kPair * begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
 }
 
 template <class Weights, class T>
