@@ -76,8 +76,9 @@ const std::vector<Member>& Members() {
     TYPES(Nearest, )
     TYPES(Super, )
     TYPES(Linear, BORDER)
-    TYPES(Cubic, BORDER) TYPES(Lanczos, BORDER) TYPES(Antialiasing, BORDER) LAYOUTS(Linear, 64f, BORDER)
-        LAYOUTS(Antialiasing, 64f, BORDER) return members;
+    TYPES(Cubic, BORDER)
+    TYPES(Lanczos, BORDER)
+    TYPES(Antialiasing, BORDER) LAYOUTS(Linear, 64f, BORDER) LAYOUTS(Antialiasing, 64f, BORDER) return members;
   }();
   return all;
 }
