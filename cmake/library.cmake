@@ -86,6 +86,7 @@ function(qvpi_cpu code bits feature vectors output folder name)
   target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR})
   target_include_directories(${objects} SYSTEM PRIVATE ${HWY_INCLUDE_DIR})
   target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
+    HWY_IS_DEBUG_BUILD=0  # its checks would need its library
     QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
   target_compile_options(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${ARGN};${QVPI_FLAGS}>"
     $<$<COMPILE_LANGUAGE:ASM>:-fcf-protection>)

@@ -41,6 +41,7 @@ void CoreSteps(Demo& demo);
 void ArithSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);
+void ResizeSteps(Demo& demo);
 void HogSteps(Demo& demo);
 
 }  // namespace demo

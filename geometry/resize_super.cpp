@@ -1,0 +1,232 @@
+// Resize by averages over the area that a destination pixel covers in the source.
+#include "base/export.h"
+#include "base/map.h"
+#include "geometry/resize_filter.h"
+
+namespace qvp {
+namespace {
+
+// Memory for one strip of columns, on the stack: the weights of its columns, and one row of sums down.
+constexpr ptrdiff_t kStripFloats = 4096, kMostStripColumns = 1024;
+
+// The pixels that one destination position covers along an axis, with the covered part of each.
+struct Coverage {
+  ptrdiff_t first;
+  int count;
+  Interval interval;
+
+  double At(int k) const {
+    const double begin = std::max(interval.begin, static_cast<double>(first + k));
+    const double end = std::min(interval.end, static_cast<double>(first + k + 1));
+    return end - begin > 0.0000001 ? end - begin : 0.0;
+  }
+  double Length() const { return interval.end - interval.begin; }
+};
+
+Coverage CoverageOf(const ResizeAxis& axis, ptrdiff_t d, double shift) {
+  const Interval interval = CoveredBy(axis, static_cast<double>(d), 1, shift);
+  const ptrdiff_t first = std::min<ptrdiff_t>(FirstOf(interval), axis.source - 1);
+  const ptrdiff_t end = std::min<ptrdiff_t>(std::max(EndOf(interval), first + 1), axis.source);
+  return {first, static_cast<int>(end - first), interval};
+}
+
+// One sample from the source, for shifted grids and for ratios beyond what a strip has memory for.
+template <class T>
+float AverageOf(const ResizeCall<T>& call, const Tile& tile, const Coverage& across, const Coverage& down,
+                int channel) {
+  const int channels = Channels(call.src.layout);
+  float sum = 0;
+  for (int k = 0; k < across.count; ++k) {
+    float column = 0;
+    for (int j = 0; j < down.count; ++j) {
+      const T* row = SourceRow(call, tile, down.first + j);
+      column += static_cast<float>(row[(across.first + k) * channels + channel]) * static_cast<float>(down.At(j));
+    }
+    sum += column * static_cast<float>(across.At(k));
+  }
+  return sum * static_cast<float>(1 / (across.Length() * down.Length()));
+}
+
+template <class T>
+void ResizeOneByOne(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  const hn::Full128<float> d;
+  const int channels = Channels(call.src.layout);
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    const Coverage down = CoverageOf(record.rows, tile.y + y, record.Shift(1));
+    for (ptrdiff_t x = 0; x < tile.width; ++x) {
+      const Coverage across = CoverageOf(record.columns, tile.x + x, record.Shift(0));
+      float pixel[4] = {};
+      for (int c = 0; c < channels; ++c) pixel[c] = AverageOf(call, tile, across, down, c);
+      MapRow<false>(
+          d, call.dst.Row(y) + x * channels, channels, [](auto v) { return v; }, pixel);
+    }
+  }
+}
+
+// The taps of one axis, from the tables of its period.
+struct Period {
+  const int32_t* index;
+  const float* weights;
+  ptrdiff_t p, q;
+  int taps;
+
+  Period(const ResizeRecord& record, const ResizeAxis& axis)
+      : index(record.Index(axis)), weights(record.Weights<float>(axis)), p(axis.p), q(axis.q), taps(axis.taps) {}
+
+  ptrdiff_t First(ptrdiff_t d) const { return d / q * p + index[d % q]; }
+  float At(int k, ptrdiff_t d) const { return weights[k * q + d % q]; }
+  // The last taps have weight 0 at some positions, and are then not read.
+  int Count(ptrdiff_t d) const {
+    int count = taps;
+    while (count > 1 && At(count - 1, d) == 0) --count;
+    return count;
+  }
+};
+
+// A strip of columns: its taps with places counted from the first source pixel that it reads.
+struct Strip {
+  ptrdiff_t begin, columns, source, pixels;  // in the destination, and in the source
+  int32_t first[kMostStripColumns];
+  float weights[kStripFloats];
+
+  Strip(const Period& period, ptrdiff_t from, ptrdiff_t n) : begin(from), columns(n), source(period.First(from)) {
+    for (ptrdiff_t x = 0; x < n; ++x) {
+      first[x] = static_cast<int32_t>(period.First(from + x) - source);
+      for (int k = 0; k < period.taps; ++k) weights[k * n + x] = period.At(k, from + x);
+    }
+    pixels = first[n - 1] + period.Count(from + n - 1);
+  }
+};
+
+// Columns for which a strip has memory: 0 where not even one fits.
+ptrdiff_t ColumnsPerStrip(const Period& period, int channels) {
+  const ptrdiff_t byWeights = kStripFloats / period.taps;
+  const ptrdiff_t bySums = (kStripFloats - 16) / channels - 2 - period.p / period.q;
+  const auto scaled = bySums <= 0 ? 0 : static_cast<ptrdiff_t>(static_cast<int64_t>(bySums) * period.q / period.p);
+  return std::min({byWeights, scaled, kMostStripColumns});
+}
+
+// sums[i] = the rows that destination row y covers, at place i along them. Up to three rows are added up at once.
+template <class T>
+void SumDown(const ResizeCall<T>& call, const T* row, const Period& down, ptrdiff_t y, ptrdiff_t n, float* sums) {
+  const hn::ScalableTag<float> d;
+  const Image<const T> rows{row, call.src.step, call.src.layout};
+  const int count = down.Count(y);
+  const auto weight = [&](int k) HWY_ATTR { return hn::Set(d, down.At(k, y)); };
+  const auto w0 = weight(0);
+  int k = 1;
+  if (count == 1) {
+    MapRow<false>(
+        d, sums, n, [=](auto a) HWY_ATTR { return hn::Mul(a, w0); }, rows.Row(0));
+  } else if (const auto w1 = weight(1); count == 2) {
+    MapRow<false>(
+        d, sums, n, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)); }, rows.Row(0),
+        rows.Row(1));
+    k = 2;
+  } else {
+    const auto w2 = weight(2);
+    MapRow<false>(
+        d, sums, n,
+        [=](auto a, auto b, auto c)
+            HWY_ATTR { return hn::Add(hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)), hn::Mul(c, w2)); },
+        rows.Row(0), rows.Row(1), rows.Row(2));
+    k = 3;
+  }
+  for (; k < count; ++k) {
+    const auto w = weight(k);
+    MapRow<false>(
+        d, sums, n, [=](auto sum, auto v) HWY_ATTR { return hn::Add(sum, hn::Mul(v, w)); },
+        static_cast<const float*>(sums), rows.Row(k));
+  }
+}
+
+template <class T>
+void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Strip& strip,
+                 const Period& across, const Period& down) {
+  const int channels = Channels(call.src.layout);
+  const hn::ScalableTag<float> d;
+  float sums[kStripFloats], averages[kStripFloats];
+  Taps taps(record, record.columns, 0, strip.columns);
+  taps.first = strip.first;
+  taps.from = 0;
+  taps.to = strip.columns;
+  taps.count = across.taps;
+  taps.certain = 1;
+  const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels);
+  const TapPlanes weights{strip.weights, strip.columns};
+  const double area = static_cast<double>(across.p) / across.q * down.p / down.q;
+  const auto scale = hn::Set(d, static_cast<float>(1 / area));
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    const T* row = SourceRow(call, tile, down.First(tile.y + y)) + strip.source * channels;
+    SumDown(call, row, down, tile.y + y, strip.pixels * channels, sums);
+    FilterAcross(plan, weights, sums, averages);
+    MapRow<false>(
+        d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
+        [=](auto v) HWY_ATTR { return hn::Mul(v, scale); }, static_cast<const float*>(averages));
+  }
+}
+
+// Half the size of one-channel bytes: sums of 2x2 pixels in 16-bit lanes, divided by 4, ties to even. Their averages in
+// floating point are exact, too, so that this is the same result.
+void HalveRow(const uint8_t* upper, const uint8_t* lower, uint8_t* dst, ptrdiff_t n) {
+  const hn::ScalableTag<uint8_t> d;
+  const hn::Repartition<uint16_t, hn::ScalableTag<uint8_t>> d16;
+  const hn::Rebind<uint8_t, decltype(d16)> narrow;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint16_t>());
+  const auto low = hn::Set(d16, 0xFF), one = hn::Set(d16, 1);
+  const auto quarter = [&](const uint8_t* a, const uint8_t* b) HWY_ATTR {
+    const auto u = hn::BitCast(d16, hn::LoadU(d, a)), l = hn::BitCast(d16, hn::LoadU(d, b));
+    const auto sum =
+        hn::Add(hn::Add(hn::And(u, low), hn::ShiftRight<8>(u)), hn::Add(hn::And(l, low), hn::ShiftRight<8>(l)));
+    return hn::ShiftRight<2>(hn::Add(hn::Add(sum, one), hn::And(hn::ShiftRight<2>(sum), one)));
+  };
+  ptrdiff_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) {
+    hn::StoreU(
+        hn::DemoteTo(narrow, hn::BitCast(hn::RebindToSigned<decltype(d16)>(), quarter(upper + 2 * i, lower + 2 * i))),
+        narrow, dst + i);
+  }
+  for (; i < n; ++i) {
+    const int sum = upper[2 * i] + upper[2 * i + 1] + lower[2 * i] + lower[2 * i + 1];
+    dst[i] = static_cast<uint8_t>((sum + 1 + (sum >> 2 & 1)) >> 2);
+  }
+}
+
+bool IsHalf(const ResizeRecord& record) {
+  return record.columns.p == 2 && record.columns.q == 1 && record.rows.p == 2 && record.rows.q == 1 &&
+         !record.IsShifted();
+}
+
+template <class T>
+void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if constexpr (sizeof(T) == 1) {
+    if (IsHalf(record) && call.src.layout == Layout::kC1) {
+      for (ptrdiff_t y = 0; y < tile.height; ++y) {
+        HalveRow(call.src.Row(2 * y), call.src.Row(2 * y + 1), call.dst.Row(y), tile.width);
+      }
+      return;
+    }
+  }
+  const Period across(record, record.columns), down(record, record.rows);
+  const ptrdiff_t most = ColumnsPerStrip(across, Channels(call.src.layout));
+  if (record.IsShifted() || most < 1) return ResizeOneByOne(call, record, tile);
+  for (ptrdiff_t x = 0; x < tile.width; x += most) {
+    const Strip strip(across, tile.x + x, std::min(most, tile.width - x));
+    ResizeStrip(call, record, tile, strip, across, down);
+  }
+}
+
+template <class T>
+QvpStatus Super(const ResizeCall<T>& call) {
+  return RunResize(call, {qvpInterpolationSuper, false, true, true}, ResizeTile<T>);
+}
+
+}  // namespace
+}  // namespace qvp
+
+using namespace qvp;
+
+QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 8u, Super)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 16u, Super)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 16s, Super)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 32f, Super)

@@ -1,0 +1,224 @@
+// Resize by kernels of several taps: cubic, Lanczos, and all that are widened against aliasing. In integers for 8-bit
+// pixels and weights in units of 1/16384, else in floating point.
+#include "base/export.h"
+#include "base/map.h"
+#include "geometry/resize_filter.h"
+#include "geometry/resize_gather.h"
+
+namespace qvp {
+namespace {
+
+// Filtered rows have 6 bits of fraction, and are saturated to 16 bits: overshoots may leave [0, 64 * 255].
+constexpr int kAcrossShift = 8, kDownShift = 20;
+
+int16_t Saturated(int v) { return static_cast<int16_t>(std::clamp<int>(v, INT16_MIN, INT16_MAX)); }
+
+class FixedColumns {
+ public:
+  // `room` is for the shuffles: 8 bytes for each sample, in units of 8 samples.
+  FixedColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int channels, uint8_t* room)
+      : taps_(record, record.columns, tile.x, tile.width),
+        edge_(ColumnEdge(border, record)),
+        channels_(channels),
+        plane_(static_cast<ptrdiff_t>(PlaneOf(record.width))),
+        weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
+    const GatherShape shape{4, channels, channels};
+    const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
+    if (loads == 0 || taps_.to - taps_.from < 1) return;
+    const ptrdiff_t samples = (taps_.to - taps_.from) * channels;
+    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, samples) * kGatherBytes);
+    // The last pair of taps is read at a fixed distance behind the first.
+    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{2}) * channels;
+    const int32_t* first = taps_.first + taps_.from;
+    gather_ = Gather(
+        shape, loads, samples, end,
+        [=](ptrdiff_t s) {
+          return channels == 1 ? ptrdiff_t{first[s]} : first[s / channels] * ptrdiff_t{channels} + s % channels;
+        },
+        room, offsets);
+    for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
+      pixelOf_[i] = (i / static_cast<int>(kSamples) + i % static_cast<int>(kSamples)) / channels;
+    }
+  }
+
+  void Filter(const uint8_t* row, int16_t* out) const {
+    ptrdiff_t done = taps_.from;
+    if (gather_.count() > 0) {
+      if (gather_.loads() == 1) FilterVectors<1>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 2) FilterVectors<2>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 4) FilterVectors<4>(row, out + taps_.from * channels_);
+      done = taps_.to;
+    }
+    FilterOneByOne(row, 0, taps_.from, out);
+    FilterOneByOne(row, done, taps_.length, out);
+  }
+
+ private:
+  using Sums = hn::Repartition<int32_t, GatherTag>;
+  static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums());
+
+  template <int kLoads>
+  void FilterVectors(const uint8_t* row, int16_t* out) const {
+    if (channels_ == 1) return FilterChannels<kLoads, 1>(row, out);
+    if (channels_ == 3) return FilterChannels<kLoads, 3>(row, out);
+    FilterChannels<kLoads, 4>(row, out);
+  }
+
+  template <int kLoads, int kChannels>
+  void FilterChannels(const uint8_t* row, int16_t* out) const {
+    taps_.count == 4 ? FilterAll<kLoads, kChannels, 2>(row, out) : FilterAll<kLoads, kChannels, 3>(row, out);
+  }
+
+  template <int kLoads, int kChannels, int kPairs>
+  void FilterAll(const uint8_t* row, int16_t* out) const {
+    const Sums d;
+    const hn::Repartition<int16_t, GatherTag> d16;
+    const hn::Rebind<int16_t, Sums> narrow;
+    const auto half = hn::Set(d, 1 << (kAcrossShift - 1));
+    const uint8_t* mask = gather_.masks();
+    const int32_t* offsets = gather_.offsets();
+    const int16_t* weights = weights_ + 2 * taps_.from;
+    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * kChannels - kSamples;
+    const ptrdiff_t plane = 2 * plane_;
+    for (ptrdiff_t v = 0; v < count; ++v) {
+      const ptrdiff_t start = std::min(v * kSamples, last), pixel = start / kChannels;
+      auto sum = half;
+      for (int k = 0; k < kPairs; ++k) {
+        auto w = hn::LoadU(d, reinterpret_cast<const int32_t*>(weights + k * plane + 2 * pixel));
+        if constexpr (kChannels > 1) {
+          const auto lanes = hn::SetTableIndices(d, pixelOf_ + (start - pixel * kChannels) * kSamples);
+          w = hn::TableLookupLanes(w, lanes);
+        }
+        const auto pairs = hn::BitCast(d16, GatherVector<kLoads>(row + 2 * k * kChannels, offsets, mask));
+        sum = hn::Add(sum, MulAddPairs(pairs, hn::BitCast(d16, w)));
+      }
+      hn::StoreU(hn::DemoteTo(narrow, hn::ShiftRight<kAcrossShift>(sum)), narrow, out + start);
+      mask += kGatherBytes;
+      offsets += kLoads * kGatherBlocks;
+    }
+  }
+
+  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+    for (ptrdiff_t x = begin; x < end; ++x) {
+      for (int c = 0; c < channels_; ++c) {
+        int sum = 1 << (kAcrossShift - 1);
+        for (int k = 0; k < taps_.count; ++k) {
+          sum += row[edge_(taps_.first[x] + k) * channels_ + c] * weights_[k / 2 * 2 * plane_ + 2 * x + k % 2];
+        }
+        out[x * channels_ + c] = Saturated(sum >> kAcrossShift);
+      }
+    }
+  }
+
+  Taps taps_;
+  Edge edge_;
+  int channels_;
+  ptrdiff_t plane_;
+  const int16_t* weights_;
+  int32_t pixelOf_[3 * kSamples];  // of the lanes of a vector that begins at each channel of a pixel
+  Gather gather_;
+};
+
+template <int kPairs>
+void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* weights, ptrdiff_t plane, uint8_t* dst,
+                 ptrdiff_t samples) {
+  const hn::CappedTag<int16_t, 16> d;
+  const hn::Repartition<int32_t, hn::CappedTag<int16_t, 16>> wide;
+  const int16_t* rows[2 * kPairs];
+  int32_t pairs[kPairs];
+  for (int k = 0; k < 2 * kPairs; ++k) rows[k] = ring.Row(first + k);
+  for (int k = 0; k < kPairs; ++k) std::memcpy(&pairs[k], weights + 2 * k * plane, sizeof(int32_t));
+  StoreRow(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
+    auto low = hn::Set(wide, 1 << (kDownShift - 1)), high = low;
+    for (int k = 0; k < kPairs; ++k) {
+      const auto a = hn::LoadU(d, rows[2 * k] + i), b = hn::LoadU(d, rows[2 * k + 1] + i);
+      const auto w = hn::BitCast(d, hn::Set(wide, pairs[k]));
+      low = hn::Add(low, MulAddPairs(hn::InterleaveLower(d, a, b), w));
+      high = hn::Add(high, MulAddPairs(hn::InterleaveUpper(d, a, b), w));
+    }
+    return hn::ReorderDemote2To(d, hn::ShiftRight<kDownShift>(low), hn::ShiftRight<kDownShift>(high));
+  });
+}
+
+void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples), plane = PlaneOf(record.height);
+  const Taps rowTaps(record, record.rows, tile.y, tile.height);
+  auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
+  const FixedColumns columns(record, tile, call.border, channels,
+                             reinterpret_cast<uint8_t*>(rows + rowTaps.count * step));
+  const int16_t* weights = record.Weights<int16_t>(record.rows) + 2 * tile.y;
+  const Edge edge = RowEdge(call.border, record);
+  const RowRing<int16_t> ring{rows, step, rowTaps.count};
+  const auto combine = rowTaps.count == 4 ? CombineRows<2> : CombineRows<3>;
+  WalkDown(
+      rowTaps, ring,
+      [&](ptrdiff_t position, int16_t* out) { columns.Filter(SourceRow(call, tile, edge(position)), out); },
+      [&](ptrdiff_t y) { combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples); },
+      [](int, ptrdiff_t) { return true; });
+}
+
+template <class Weights>
+Weights WeightsOf(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
+  using W = std::remove_cvref_t<decltype(*Weights::at)>;
+  constexpr ptrdiff_t kPair = sizeof(W) == sizeof(int16_t) ? 2 : 1;
+  return {record.Weights<W>(axis) + kPair * begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
+}
+
+template <class Weights, class T>
+void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  const auto across = WeightsOf<Weights>(record, record.columns, tile.x);
+  const auto down = WeightsOf<Weights>(record, record.rows, tile.y);
+  if constexpr (sizeof(T) == sizeof(double)) {
+    FilterTileDirectly(call, record, tile, across, down);
+  } else {
+    FilterTile(call, record, tile, across, down, reinterpret_cast<float*>(AtBoundary(call.buffer)));
+  }
+}
+
+template <class T>
+void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if (record.weights != WeightKind::kFixed) return ResizeFloat<TapPlanes>(call, record, tile);
+  if constexpr (sizeof(T) == 1) {
+    ResizeFixed(call, record, tile);
+  } else {
+    ResizeFloat<FixedTapPlanes>(call, record, tile);
+  }
+}
+
+template <class T>
+QvpStatus Resize(QvpiBorderType border, ResizeCall<T> call, const ResizeDemand& demand) {
+  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kReplicateAlt}, border)) {
+    return qvpStatusBorder;
+  }
+  call.border = border;
+  return RunResize(call, demand, ResizeTile<T>);
+}
+
+template <class T>
+QvpStatus Cubic(QvpiBorderType border, const ResizeCall<T>& call) {
+  return Resize(border, call, {qvpInterpolationCubic});
+}
+template <class T>
+QvpStatus Lanczos(QvpiBorderType border, const ResizeCall<T>& call) {
+  return Resize(border, call, {qvpInterpolationLanczos});
+}
+template <class T>
+QvpStatus Antialiasing(QvpiBorderType border, const ResizeCall<T>& call) {
+  return Resize(border, call, {0, true});
+}
+
+}  // namespace
+}  // namespace qvp
+
+using namespace qvp;
+
+#define TAPS(type)                                                        \
+  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeCubic, type, Cubic)     \
+  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLanczos, type, Lanczos) \
+  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, type, Antialiasing)
+TAPS(8u)
+TAPS(16u)
+TAPS(16s)
+TAPS(32f)
+QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, 64f, Antialiasing)
