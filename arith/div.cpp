@@ -1,9 +1,9 @@
 // Quotients of two images, or of an image and a constant.
-#include "arith/round.h"
 #include "arith/scale.h"
 #include "base/check.h"
 #include "base/export.h"
 #include "base/pixelwise.h"
+#include "base/round.h"
 
 namespace {
 using namespace qvp;

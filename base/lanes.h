@@ -35,6 +35,18 @@ HWY_INLINE hn::Vec<D> LoadWide(D d, const S* from) {
   const hn::Rebind<S, D> narrow;
   if constexpr (std::is_same_v<S, T>) {
     return hn::LoadU(d, from);
+  } else if constexpr (std::is_same_v<S, uint32_t> && std::is_floating_point_v<T>) {
+    // Both halves are exact, so that their sum is rounded once.
+    const auto v = hn::LoadU(narrow, from);
+    const hn::Rebind<int32_t, D> ints;
+    const auto part = [&](auto half) HWY_ATTR {
+      if constexpr (sizeof(T) == sizeof(float))
+        return hn::ConvertTo(d, hn::BitCast(ints, half));
+      else
+        return hn::PromoteTo(d, hn::BitCast(ints, half));
+    };
+    const auto upper = part(hn::ShiftRight<16>(v)), lower = part(hn::And(v, hn::Set(narrow, 0xFFFF)));
+    return hn::Add(hn::Mul(upper, hn::Set(d, T{65536})), lower);
   } else if constexpr (std::is_same_v<T, float>) {
     return hn::ConvertTo(d, LoadWide(hn::Rebind<int32_t, D>(), from));
   } else if constexpr (std::is_same_v<T, double> && sizeof(S) < sizeof(int32_t)) {
@@ -42,6 +54,19 @@ HWY_INLINE hn::Vec<D> LoadWide(D d, const S* from) {
   } else {
     return hn::PromoteTo(d, hn::LoadU(narrow, from));
   }
+}
+
+// Float lanes to unsigned integers of 32 bits: rounded to the nearest, ties to even; saturated; NaN gives 0. The upper
+// half of the range, where floats are whole, is converted 2^31 lower.
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE auto NarrowToUnsigned32(D d, V v) {
+  const hn::Rebind<uint32_t, D> to;
+  const V half = hn::Set(d, 2147483648.0f), positive = hn::Max(v, hn::Zero(d));
+  const auto isUpper = hn::Ge(positive, half), isAbove = hn::Ge(positive, hn::Set(d, 4294967296.0f));
+  const V reduced = hn::Sub(positive, hn::IfThenElseZero(isUpper, half));
+  const auto whole = hn::BitCast(to, RoundToInt(reduced));
+  const auto upper = hn::IfThenElseZero(hn::RebindMask(to, isUpper), hn::Set(to, 0x80000000));
+  return hn::IfThenElse(hn::RebindMask(to, isAbove), hn::Set(to, 0xFFFFFFFF), hn::Add(whole, upper));
 }
 
 // Converts lanes to elements of T: rounded to the nearest, ties to even; saturated; NaN gives the lowest value of T.
@@ -52,6 +77,8 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
   const hn::Rebind<int32_t, D> ints;
   if constexpr (std::is_same_v<T, L>) {
     return v;
+  } else if constexpr (std::is_same_v<L, float> && std::is_same_v<T, uint32_t>) {
+    return NarrowToUnsigned32(d, v);
   } else if constexpr (std::is_same_v<L, float> && std::is_integral_v<T>) {
     // The lower bound stands second: it is what a comparison with NaN gives.
     const V bounded = hn::Max(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
@@ -71,6 +98,13 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
     } else {
       return whole;
     }
+  } else if constexpr (std::is_integral_v<L> && sizeof(L) == sizeof(T)) {  // the other signedness
+    const auto bound = hn::Set(d, std::is_signed_v<L> ? L{0} : static_cast<L>(std::numeric_limits<T>::max()));
+    return hn::BitCast(to, std::is_signed_v<L> ? hn::Max(v, bound) : hn::Min(v, bound));
+  } else if constexpr (std::is_unsigned_v<L>) {
+    const hn::RebindToSigned<D> bounded;
+    const auto top = hn::Set(d, static_cast<L>(std::numeric_limits<T>::max()));
+    return Narrow<T>(bounded, hn::BitCast(bounded, hn::Min(v, top)));
   } else if constexpr (std::is_same_v<L, int32_t> && std::is_same_v<T, uint8_t>) {
     // In two steps: Highway's single one takes 32768 to 65535 modulo 32768.
     return hn::DemoteTo(to, hn::DemoteTo(hn::Rebind<int16_t, D>(), v));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/pairs.h"
+#include "base/round.h"
 #include "filter/border_filter_rows.h"
 
 // For lambdas: one that is called makes memory of what it refers to.
@@ -18,39 +19,12 @@ HWY_INLINE void Unrolled(const Body& body) {
   (std::make_integer_sequence<int, kCount>());
 }
 
-// To a whole number, by mode: 0 toward zero, 1 to the nearest with ties to even, 2 with ties away from zero.
+// To a whole number, by a mode that is known only now.
 template <class D, class V = hn::Vec<D>>
-HWY_INLINE V RoundedBy(int mode, D d, V v) {
+HWY_INLINE V RoundedBy(int mode, D, V v) {
   if (mode == qvpRoundNear) return hn::Round(v);
-  const V whole = hn::Trunc(v);
-  if (mode == qvpRoundZero) return whole;
-  const auto isHalfOrMore = hn::Ge(hn::Abs(hn::Sub(v, whole)), hn::Set(d, static_cast<hn::TFromD<D>>(0.5)));
-  return hn::Add(whole, hn::IfThenElseZero(isHalfOrMore, hn::CopySign(hn::Set(d, 1), v)));
+  return mode == qvpRoundZero ? Rounded<qvpRoundZero>(v) : Rounded<qvpRoundFinancial>(v);
 }
-
-// v / 2^shift, rounded: (v + addend + ((v >> from) & mask)) >> shift, where
-//   mode 0  adds 2^shift - 1 to negative numbers
-//   mode 1  adds half - 1, and 1 more to what would become odd
-//   mode 2  adds half, and 1 less to negative numbers
-template <class L>
-struct ShiftRounding {
-  L addend = 0, mask = 0;
-  int from = 0, shift = 0;
-
-  ShiftRounding() = default;
-  ShiftRounding(int mode, int bits) : shift(bits) {
-    if (bits == 0) return;
-    const L half = static_cast<L>(L{1} << (bits - 1));
-    from = mode == qvpRoundNear ? bits : 8 * int{sizeof(L)} - 1;
-    addend = static_cast<L>(mode == qvpRoundZero ? 0 : mode == qvpRoundNear ? half - 1 : half);
-    mask = static_cast<L>(mode == qvpRoundZero ? 2 * half - 1 : mode == qvpRoundNear ? 1 : -1);
-  }
-  template <class D, class V = hn::Vec<D>>
-  HWY_INLINE V operator()(D d, V v) const {
-    const V extra = hn::And(hn::ShiftRightSame(v, from), hn::Set(d, mask));
-    return hn::ShiftRightSame(hn::Add(hn::Add(v, hn::Set(d, addend)), extra), shift);
-  }
-};
 
 // Bounds of a sum of products.
 struct SumRange {

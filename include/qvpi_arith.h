@@ -1509,6 +1509,454 @@ QvpStatus qvpiExp_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dst
 QvpStatus qvpiExp_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiExp_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 
+/** @name Conversion to a wider type
+ *  @{ */
+/** Converts to a type that holds every value of the source's, or to floats: dst = src.
+ *
+ *  32-bit integers as floats are rounded to the nearest, ties to even. AC4 keeps the alpha of the destination. Steps
+ *  are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_8u16u_C1R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16u_C3R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16u_C4R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16s_C4R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u16s_AC4R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32s_C1R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32s_C3R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32s_C4R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32s_AC4R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32f_C3R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32f_C4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8u32f_AC4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32s_C1R(const Qvp8s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32s_C3R(const Qvp8s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32s_C4R(const Qvp8s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32s_AC4R(const Qvp8s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32f_C1R(const Qvp8s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32f_C3R(const Qvp8s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32f_C4R(const Qvp8s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32f_AC4R(const Qvp8s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32s_C1R(const Qvp16u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32s_C3R(const Qvp16u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32s_C4R(const Qvp16u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32s_AC4R(const Qvp16u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32f_C4R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32f_AC4R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32s_C1R(const Qvp16s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32s_C3R(const Qvp16s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32s_C4R(const Qvp16s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32f_C4R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32f_AC4R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u32u_C1R(const Qvp16u* pSrc, int srcStep, Qvp32u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s32f_C1R(const Qvp32s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32u32f_C1R(const Qvp32u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s16s_C1R(const Qvp8s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s64f_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Conversion to a narrower integer
+ *  @{ */
+/** Converts to a narrower type, saturated: dst = src within the type, else the nearest value of it.
+ *
+ *  AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_16u8u_C1R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u8u_C3R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u8u_C4R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16u8u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s8u_C3R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s8u_C4R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s8u_AC4R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8u_C1R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8u_C3R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8u_C4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8u_AC4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8s_C1R(const Qvp32s* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8s_C3R(const Qvp32s* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8s_C4R(const Qvp32s* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s8s_AC4R(const Qvp32s* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Conversion to unsigned numbers
+ *  @{ */
+/** Converts signed numbers to unsigned ones: dst = max(src, 0). Steps are not checked. Source and destination of one
+ *  width may be the same image.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_8s8u_C1Rs(const Qvp8s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s16u_C1Rs(const Qvp8s* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_8s32u_C1Rs(const Qvp8s* pSrc, int srcStep, Qvp32u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s16u_C1Rs(const Qvp16s* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_16s32u_C1Rs(const Qvp16s* pSrc, int srcStep, Qvp32u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiConvert_32s32u_C1Rs(const Qvp32s* pSrc, int srcStep, Qvp32u* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Conversion of floats to integers
+ *  @{ */
+/** Rounds floats to integers, saturated: dst = round(src).
+ *
+ *  The modes round exactly: qvpRoundZero toward zero, qvpRoundNear to the nearest with ties to even, and
+ *  qvpRoundFinancial, which any other value means too, to the nearest with ties away from zero. Infinities give the
+ *  limits of the type, NaN its least value. AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param roundMode how to round
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_32f8u_C1R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8u_C3R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8u_C4R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8u_AC4R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8s_C1R(const Qvp32f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8s_C3R(const Qvp32f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8s_C4R(const Qvp32f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f8s_AC4R(const Qvp32f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16u_C1R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16u_C3R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16u_C4R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16u_AC4R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16s_C1R(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16s_C3R(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16s_C4R(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+QvpStatus qvpiConvert_32f16s_AC4R(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode);
+/** @} */
+
+/** @name Conversion of integers by a scale factor
+ *  @{ */
+/** Divides by a power of two and converts: dst = round(src 2^-scaleFactor), saturated.
+ *
+ *  Exact in every mode: qvpRoundZero rounds toward zero, qvpRoundNear to the nearest with ties to even,
+ *  qvpRoundFinancial to the nearest with ties away from zero. Any scale factor is valid. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param roundMode how to round
+ *  @param scaleFactor the power of two
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusRoundMode: an unknown rounding mode
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_8u8s_C1RSfs(const Qvp8u* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_16u8s_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_16s8s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_16u16s_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32s16s_C1RSfs(const Qvp32s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32s16u_C1RSfs(const Qvp32s* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32u8u_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32u8s_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32u16u_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32u16s_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32u32s_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+/** @} */
+
+/** @name Conversion of floats by a scale factor
+ *  @{ */
+/** Divides by a power of two and converts: dst = round(src 2^-scaleFactor), saturated.
+ *
+ *  The modes round exactly: qvpRoundZero toward zero, qvpRoundNear to the nearest with ties to even, and
+ *  qvpRoundFinancial, which any other value means too, to the nearest with ties away from zero. Infinities give the
+ *  limits of the type, NaN its least value. Any scale factor is valid. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param roundMode how to round
+ *  @param scaleFactor the power of two
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_32f8u_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32f8s_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32f16u_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32f16s_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32f32s_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_32f32u_C1RSfs(const Qvp32f* pSrc, int srcStep, Qvp32u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_64f8u_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_64f8s_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_64f16u_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+QvpStatus qvpiConvert_64f16s_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+/** @} */
+
+/** @name Conversion of floats by a scale factor, in place
+ *  @{ */
+/** Divides by a power of two and converts in place: the image holds floats before, and unsigned integers afterwards.
+ *
+ *  The modes round exactly: qvpRoundZero toward zero, qvpRoundNear to the nearest with ties to even, and
+ *  qvpRoundFinancial, which any other value means too, to the nearest with ties away from zero. Infinities give the
+ *  limits of the type, NaN its least value. Any scale factor is valid. The step is not checked.
+ *
+ *  @param pSrcDst,srcDstStep the image
+ *  @param roiSize region in pixels
+ *  @param roundMode how to round
+ *  @param scaleFactor the power of two
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvert_32f32u_C1IRSfs(Qvp32u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
+/** @} */
+
+/** @name Bits to grey values
+ *  @{ */
+/** Gives each pixel of an image of bits one of two values: dst = bit ? hiVal : loVal.
+ *
+ *  Eight pixels lie in a byte, the leftmost in the highest bit. Steps are not checked.
+ *
+ *  @param pSrc,srcStep image of bits; the byte that holds the first pixel of a row
+ *  @param srcBitOffset place of a row's first pixel in its byte, 0 (highest bit) to 7
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param loVal,hiVal values for 0 and 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusOutOfRange: the bit offset is not 0 to 7
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiBinToGray_1u8u_C1R(const Qvp8u* pSrc, int srcStep, int srcBitOffset, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp8u loVal, Qvp8u hiVal);
+QvpStatus qvpiBinToGray_1u16u_C1R(const Qvp8u* pSrc, int srcStep, int srcBitOffset, Qvp16u* pDst, int dstStep, QvpiSize roiSize, Qvp16u loVal, Qvp16u hiVal);
+QvpStatus qvpiBinToGray_1u16s_C1R(const Qvp8u* pSrc, int srcStep, int srcBitOffset, Qvp16s* pDst, int dstStep, QvpiSize roiSize, Qvp16s loVal, Qvp16s hiVal);
+QvpStatus qvpiBinToGray_1u32f_C1R(const Qvp8u* pSrc, int srcStep, int srcBitOffset, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f loVal, Qvp32f hiVal);
+/** @} */
+
+/** @name Grey values to bits
+ *  @{ */
+/** Gives each pixel a bit: src > threshold ? 1 : 0.
+ *
+ *  Eight pixels lie in a byte, the leftmost in the highest bit; bits of the first and the last byte of a row that
+ *  belong to no pixel stay. What is not a number gives 0. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep image of bits; the byte that holds the first pixel of a row
+ *  @param dstBitOffset place of a row's first pixel in its byte, 0 (highest bit) to 7
+ *  @param roiSize region in pixels
+ *  @param threshold values above it give 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusOutOfRange: the bit offset is not 0 to 7
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGrayToBin_8u1u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, int dstBitOffset, QvpiSize roiSize, Qvp8u threshold);
+QvpStatus qvpiGrayToBin_16u1u_C1R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, int dstBitOffset, QvpiSize roiSize, Qvp16u threshold);
+QvpStatus qvpiGrayToBin_16s1u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, int dstBitOffset, QvpiSize roiSize, Qvp16s threshold);
+QvpStatus qvpiGrayToBin_32f1u_C1R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, int dstBitOffset, QvpiSize roiSize, Qvp32f threshold);
+/** @} */
+
+/** @name Scale between integer types
+ *  @{ */
+/** Maps the full range of one integer type linearly to that of another, rounded to the nearest.
+ *
+ *  From 8 bits: 257 v for 16u, 257 v - 32768 for 16s, 16843009 v - 2^31 for 32s; to 8 bits the inverse, v / 257, (v +
+ *  32768) / 257 or (v + 2^31) / 16843009, in which no ties occur. To a wider type and back changes nothing. AC4 keeps
+ *  the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiScale_8u16u_C1R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16u_C3R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16u_C4R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16s_C4R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u16s_AC4R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u32s_C1R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u32s_C3R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u32s_C4R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_8u32s_AC4R(const Qvp8u* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16u8u_C1R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16u8u_C3R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16u8u_C4R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16u8u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16s8u_C3R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16s8u_C4R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_16s8u_AC4R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_32s8u_C1R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_32s8u_C3R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_32s8u_C4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiScale_32s8u_AC4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Scale to and from a range of floats
+ *  @{ */
+/** Maps 0 to 255 linearly to a range of floats, or the range to 0 to 255.
+ *
+ *  8u32f: vMin + v (vMax - vMin) / 255; 32f8u: (v - vMin) 255 / (vMax - vMin), rounded to the nearest, ties to even,
+ *  saturated, NaN to 0. Both in double precision. AC4 keeps the alpha of the destination. Steps are not checked.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param vMin,vMax the range; vMax above vMin
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusScaleRange: vMax - vMin is not above 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiScale_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_8u32f_C3R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_8u32f_C4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_8u32f_AC4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_32f8u_C1R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_32f8u_C3R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_32f8u_C4R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+QvpStatus qvpiScale_32f8u_AC4R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
+/** @} */
+
+/** @name Scale by a constant
+ *  @{ */
+/** Multiplies by a number and adds one: dst = src mVal + aVal.
+ *
+ *  Integer results are rounded to the nearest, ties to even, and saturated; NaN gives the least value of the type.
+ *  With the hint qvpAlgHintAccurate, and wherever 32s or 64f take part, the product and the sum are those of double
+ *  precision, else of single precision. Source and destination of one type may be the same image.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param mVal,aVal factor and addend
+ *  @param pDst,dstStep destination image
+ *  @param roiSize region in pixels
+ *  @param hint speed or accuracy
+ *  @return, in the order of the checks; where both types are the same, and |mVal - 1| and |aVal| are below 2^-52, the
+ *          image
+ *  is copied and steps are not checked:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiScaleC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u8s_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u16u_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u32s_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8u64f_C1R(const Qvp8u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s8u_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s16u_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s16s_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s32s_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s32f_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s64f_C1R(const Qvp8s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u8u_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u8s_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u16s_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u32s_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u64f_C1R(const Qvp16u* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s8s_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s16u_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s32s_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s64f_C1R(const Qvp16s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s8u_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s8s_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s16u_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s16s_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s32f_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s64f_C1R(const Qvp32s* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f8u_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f8s_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f16u_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f16s_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f32s_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f64f_C1R(const Qvp32f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f8u_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f8s_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f16u_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f16s_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f32s_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f32f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Scale by a constant, in place
+ *  @{ */
+/** Multiplies by a number and adds one, in place: v = v mVal + aVal.
+ *
+ *  Integer results are rounded to the nearest, ties to even, and saturated; NaN gives the least value of the type.
+ *  With the hint qvpAlgHintAccurate, and wherever 32s or 64f take part, the product and the sum are those of double
+ *  precision, else of single precision.
+ *
+ *  @param pSrcDst,srcDstStep the image
+ *  @param mVal,aVal factor and addend
+ *  @param roiSize region in pixels
+ *  @param hint speed or accuracy
+ *  @return, in the order of the checks; where |mVal - 1| and |aVal| are below 2^-52 nothing changes and the step is
+ *          not
+ *  checked:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: the step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiScaleC_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_8s_C1IR(Qvp8s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32s_C1IR(Qvp32s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+QvpStatus qvpiScaleC_64f_C1IR(Qvp64f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+/** @} */
+
 /** @name Threshold
  *  @{ */
 /** Bounds values from above or below.

@@ -1,0 +1,89 @@
+// Linear maps between the ranges of two types: full range to full range, or to and from a range of floats.
+#include "base/check.h"
+#include "base/export.h"
+#include "base/pixelwise.h"
+
+namespace {
+using namespace qvp;
+
+// Bytes repeated over the element, with the upper half of the range negative where it is signed: 257 v, or
+// 16843009 v. Lanes wrap.
+template <class T>
+QvpStatus Expand(const Image<const uint8_t>& src, const Image<T>& dst, Size roi) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
+  const auto kernel = [](auto v) HWY_ATTR {
+    const hn::DFromV<decltype(v)> d;
+    const T lowest = std::numeric_limits<T>::lowest();
+    return hn::Xor(hn::Mul(v, hn::Set(d, static_cast<T>(sizeof(T) == 2 ? 257 : 16843009))), hn::Set(d, lowest));
+  };
+  MapImages(hn::ScalableTag<T>(), kernel, roi, dst, src);
+  return qvpStatusNoError;
+}
+
+// v / (2^n - 1) 255, rounded to the nearest, of n = 16 or 32 bits: with s = v + 128, or v + 0x808080, bounded by the
+// largest number, it is the upper byte of s - (s >> 8).
+template <class T>
+QvpStatus Reduce(const Image<const T>& src, const Image<uint8_t>& dst, Size roi) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
+  using U = std::make_unsigned_t<T>;
+  const auto kernel = [](auto v) HWY_ATTR {
+    const hn::ScalableTag<U> d;
+    constexpr U kHalf = static_cast<U>(0x808080808080 >> (sizeof(U) == 2 ? 40 : 24)), kMost = static_cast<U>(~U{0});
+    const auto u = hn::Xor(hn::BitCast(d, v), hn::Set(d, std::is_signed_v<T> ? U{1} << (8 * sizeof(U) - 1) : U{0}));
+    const auto s = hn::Add(hn::Min(u, hn::Set(d, static_cast<U>(kMost - kHalf))), hn::Set(d, kHalf));
+    const auto byte = hn::ShiftRight<8 * sizeof(U) - 8>(hn::Sub(s, hn::ShiftRight<8>(s)));
+    return hn::BitCast(hn::DFromV<decltype(v)>(), byte);
+  };
+  MapImages(hn::ScalableTag<T>(), kernel, roi, dst, src);
+  return qvpStatusNoError;
+}
+
+QvpStatus CheckRange(Size roi, Operands images, float low, float high) {
+  if (const QvpStatus failed = Validate<kPointers, kSize>(roi, images)) return failed;
+  return high - low > 0 ? qvpStatusNoError : qvpStatusScaleRange;
+}
+
+// In double, so that 255 gives the upper end exactly.
+QvpStatus ToFloat(const Image<const uint8_t>& src, const Image<float>& dst, Size roi, float low, float high) {
+  if (const QvpStatus failed = CheckRange(roi, {src, dst}, low, high)) return failed;
+  const double factor = (static_cast<double>(high) - low) / 255, first = low;
+  const auto kernel = [=](auto v) HWY_ATTR {
+    const hn::DFromV<decltype(v)> d;
+    return hn::Add(hn::Set(d, first), hn::Mul(v, hn::Set(d, factor)));
+  };
+  MapImages(hn::ScalableTag<double>(), kernel, roi, dst, src);
+  return qvpStatusNoError;
+}
+
+QvpStatus FromFloat(const Image<const float>& src, const Image<uint8_t>& dst, Size roi, float low, float high) {
+  if (const QvpStatus failed = CheckRange(roi, {src, dst}, low, high)) return failed;
+  const double factor = 255 / (static_cast<double>(high) - low), first = low;
+  const auto kernel = [=](auto v) HWY_ATTR {
+    const hn::DFromV<decltype(v)> d;
+    return hn::Mul(hn::Sub(v, hn::Set(d, first)), hn::Set(d, factor));
+  };
+  MapImages(hn::ScalableTag<double>(), kernel, roi, dst, src);
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+#define SCALE(from, to, impl, layout)                                                                          \
+  QvpStatus qvpiScale_##from##to##_##layout##R(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, \
+                                               QvpiSize roiSize) {                                             \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize);      \
+  }
+#define SCALE_FLOAT(from, to, impl, layout)                                                                           \
+  QvpStatus qvpiScale_##from##to##_##layout##R(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep,        \
+                                               QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax) {                          \
+    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, vMin, vMax); \
+  }
+
+QVP_EACH_LAYOUT(SCALE, 8u, 16u, Expand)
+QVP_EACH_LAYOUT(SCALE, 8u, 16s, Expand)
+QVP_EACH_LAYOUT(SCALE, 8u, 32s, Expand)
+QVP_EACH_LAYOUT(SCALE, 16u, 8u, Reduce)
+QVP_EACH_LAYOUT(SCALE, 16s, 8u, Reduce)
+QVP_EACH_LAYOUT(SCALE, 32s, 8u, Reduce)
+QVP_EACH_LAYOUT(SCALE_FLOAT, 8u, 32f, ToFloat)
+QVP_EACH_LAYOUT(SCALE_FLOAT, 32f, 8u, FromFloat)
