@@ -49,7 +49,6 @@ HWY_INLINE V ExpNearZero(V r) {
   const hn::DFromV<V> d;
   using Traits = ElementaryTraits<hn::TFromD<decltype(d)>>;
   V sum = hn::Set(d, Traits::kExp[0]);
-#pragma GCC unroll 16
   for (size_t i = 1; i < std::size(Traits::kExp); ++i) sum = hn::Add(hn::Mul(sum, r), hn::Set(d, Traits::kExp[i]));
   return hn::Add(hn::Add(hn::Mul(hn::Mul(sum, r), r), r), hn::Set(d, hn::TFromD<decltype(d)>{1}));
 }
@@ -108,7 +107,6 @@ HWY_INLINE V LnOfParts(V e, V f) {
   using Traits = ElementaryTraits<F>;
   const V s = hn::Div(f, hn::Add(f, hn::Set(d, F{2}))), s2 = hn::Mul(s, s);
   V sum = hn::Set(d, F{2} / (2 * Traits::kLnTerms + 1));
-#pragma GCC unroll 16
   for (int k = Traits::kLnTerms - 1; k >= 1; --k) sum = hn::Add(hn::Mul(sum, s2), hn::Set(d, F{2} / (2 * k + 1)));
   const V less = hn::Sub(hn::Mul(s, hn::Sub(f, hn::Mul(sum, s2))), hn::Mul(e, hn::Set(d, Traits::kLn2Lower)));
   return hn::Add(hn::Mul(e, hn::Set(d, Traits::kLn2Upper)), hn::Sub(f, less));
