@@ -62,11 +62,11 @@ HWY_INLINE hn::Vec<Mask> Narrowed(const Part& part) {
   if constexpr (sizeof(T) == 1) {
     return hn::BitCast(Mask(), part(0));
   } else if constexpr (sizeof(T) == 2) {
-    return InOrder<2>(hn::BitCast(Mask(), PackBlocks(hn::BitCast(d16, part(0)), hn::BitCast(d16, part(1)))));
+    return InOrder<2>(hn::BitCast(Mask(), Packed(int8_t(), hn::BitCast(d16, part(0)), hn::BitCast(d16, part(1)))));
   } else {
-    const auto low = PackBlocks(hn::BitCast(d32, part(0)), hn::BitCast(d32, part(1)));
-    const auto high = PackBlocks(hn::BitCast(d32, part(2)), hn::BitCast(d32, part(3)));
-    return InOrder<4>(hn::BitCast(Mask(), PackBlocks(low, high)));
+    const auto low = Packed(int16_t(), hn::BitCast(d32, part(0)), hn::BitCast(d32, part(1)));
+    const auto high = Packed(int16_t(), hn::BitCast(d32, part(2)), hn::BitCast(d32, part(3)));
+    return InOrder<4>(hn::BitCast(Mask(), Packed(int8_t(), low, high)));
   }
 }
 

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "base/lanes.h"
+#include "base/pack.h"
 
 namespace qvp {
 
@@ -53,26 +54,6 @@ HWY_INLINE auto Products(V a, V b) {
   return Halves{hn::BitCast(wide, hn::InterleaveLower(d, low, high)),
                 hn::BitCast(wide, hn::InterleaveUpper(d, low, high))};
 }
-
-// The CPU's saturating packs, which read their operands as signed.
-#define QVP_PACKS(Vec, prefix)                                                                    \
-  HWY_INLINE hn::Vec<uint8_t> Packed(uint8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {   \
-    return hn::Vec<uint8_t>{prefix##_packus_epi16(lower.raw, upper.raw)};                         \
-  }                                                                                               \
-  HWY_INLINE hn::Vec<uint16_t> Packed(uint16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) { \
-    return hn::Vec<uint16_t>{prefix##_packus_epi32(lower.raw, upper.raw)};                        \
-  }                                                                                               \
-  HWY_INLINE hn::Vec<int16_t> Packed(int16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) {   \
-    return hn::Vec<int16_t>{prefix##_packs_epi32(lower.raw, upper.raw)};                          \
-  }
-QVP_PACKS(Vec128, _mm)
-#if HWY_TARGET <= HWY_AVX2
-QVP_PACKS(Vec256, _mm256)
-#endif
-#if HWY_TARGET <= HWY_AVX3
-QVP_PACKS(Vec512, _mm512)
-#endif
-#undef QVP_PACKS
 
 // Elements of T from lanes twice as wide, saturated.
 template <class T, class V>

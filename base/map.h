@@ -5,6 +5,7 @@
 
 #include "base/image.h"
 #include "base/lanes.h"
+#include "base/pack.h"
 
 namespace qvp {
 
@@ -54,35 +55,71 @@ HWY_INLINE hn::Mask<D> FourthLanes(D d, ptrdiff_t first) {
   return hn::RebindMask(d, hn::MaskFromVec(hn::LoadU(bits, kPhases.data() + first % 4)));
 }
 
+// How many vectors of lanes L make one of elements T at a time: narrowing several at once takes fewer instructions than
+// each on its own.
+template <class T, class L>
+constexpr int kVectorsAtOnce = std::is_integral_v<T> && sizeof(T) < sizeof(int32_t) &&
+                                       (std::is_same_v<L, float> || std::is_same_v<L, int32_t>)
+                                   ? sizeof(int32_t) / sizeof(T)
+                                   : 1;
+
+// 32-bit integers that saturate to the element that the lane rounds to.
+template <class T, class D, class V = hn::Vec<D>>
+HWY_INLINE auto Whole(D d, V v) {
+  if constexpr (std::is_same_v<hn::TFromD<D>, float>) {
+    const V bounded = hn::Max(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));  // NaN: the second
+    return RoundToInt(hn::Min(bounded, hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()))));
+  } else {
+    return v;
+  }
+}
+
+// A full vector of elements of T from the results of part(k), k from 0 on.
+template <class T, class D, class Part>
+HWY_INLINE auto NarrowParts(D d, const Part& part) {
+  constexpr int kParts = kVectorsAtOnce<T, hn::TFromD<D>>;
+  if constexpr (kParts == 1) {
+    return Narrow<T>(d, part(0));
+  } else if constexpr (kParts == 2) {
+    return PackedInOrder<T>(Whole<T>(d, part(0)), Whole<T>(d, part(1)));
+  } else {
+    const auto lower = Packed(int16_t(), Whole<T>(d, part(0)), Whole<T>(d, part(1)));
+    const auto upper = Packed(int16_t(), Whole<T>(d, part(2)), Whole<T>(d, part(3)));
+    return InOrder<4>(Packed(T(), lower, upper));
+  }
+}
+
 // dst[i] = op(at, src[i]...) for i in [0, n), in lanes of D, rounded and saturated to T. `at(constant)` is the vector
 // of a PerChannel that belongs to the place in the row. With kKeepAlpha every fourth element of dst stays. Operands may
 // be the same row: the last vector is computed before the first one is stored, so elements that both cover are not
 // operated on twice.
 template <bool kKeepAlpha, class D, class Op, class T, class... S>
 HWY_INLINE void MapRowWith(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
-  const hn::Rebind<T, D> narrow;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kStride = kLanes * kVectorsAtOnce<T, hn::TFromD<D>>;
+  const hn::CappedTag<T, kStride> narrow;
   const auto apply = [&](ptrdiff_t first, const T* old, const S*... from) HWY_ATTR {
-    const auto at = [first](const auto& constant) HWY_ATTR { return constant.From(first); };
-    const auto v = Narrow<T>(d, op(at, LoadWide(d, from)...));
+    const auto v = NarrowParts<T>(d, [&](ptrdiff_t k) HWY_ATTR {
+      const auto at = [&](const auto& constant) HWY_ATTR { return constant.From(first + k * kLanes); };
+      return op(at, LoadWide(d, from + k * kLanes)...);
+    });
     if constexpr (kKeepAlpha) return hn::IfThenElse(FourthLanes(narrow, first), hn::LoadU(narrow, old), v);
     return v;
   };
-  if (n < kLanes) {
+  if (n < kStride) {
     Partial<T> out(dst, n);
     hn::StoreU(apply(0, out.lanes, Partial<S>(src, n).lanes...), narrow, out.lanes);
     return out.CopyTo(dst, n);
   }
-  const ptrdiff_t end = n - kLanes;
+  const ptrdiff_t end = n - kStride;
   const auto last = apply(end, dst + end, (src + end)...);
-  constexpr ptrdiff_t kVectors = kLanes % 4 == 0 ? 3 : 6;  // together a multiple of 12 lanes
+  constexpr ptrdiff_t kSteps = kStride % 4 == 0 ? 3 : 6;  // together a multiple of 12 lanes
   ptrdiff_t i = 0;
-  for (; i + kVectors * kLanes <= end; i += kVectors * kLanes) {
-    for (ptrdiff_t v = 0; v < kVectors * kLanes; v += kLanes) {
+  for (; i + kSteps * kStride <= end; i += kSteps * kStride) {
+    for (ptrdiff_t v = 0; v < kSteps * kStride; v += kStride) {
       hn::StoreU(apply(v, dst + i + v, (src + i + v)...), narrow, dst + i + v);
     }
   }
-  for (; i < end; i += kLanes) hn::StoreU(apply(i, dst + i, (src + i)...), narrow, dst + i);
+  for (; i < end; i += kStride) hn::StoreU(apply(i, dst + i, (src + i)...), narrow, dst + i);
   hn::StoreU(last, narrow, dst + end);
 }
 

@@ -2,36 +2,45 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include "base/simd.h"
 
 namespace qvp {
 
-// Two vectors to one of half the element width, with signed saturation, block by block.
-HWY_INLINE hn::Vec128<int8_t> PackBlocks(hn::Vec128<int16_t> a, hn::Vec128<int16_t> b) {
-  return hn::Vec128<int8_t>{_mm_packs_epi16(a.raw, b.raw)};
-}
+// Two vectors as one of elements half as wide, saturated, block by block: each block of the result has a block of the
+// lower vector and one of the upper. The first argument only tells the type.
+#define QVP_PACKS(Vec, prefix)                                                                    \
+  HWY_INLINE hn::Vec<uint8_t> Packed(uint8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {   \
+    return hn::Vec<uint8_t>{prefix##_packus_epi16(lower.raw, upper.raw)};                         \
+  }                                                                                               \
+  HWY_INLINE hn::Vec<int8_t> Packed(int8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {     \
+    return hn::Vec<int8_t>{prefix##_packs_epi16(lower.raw, upper.raw)};                           \
+  }                                                                                               \
+  HWY_INLINE hn::Vec<uint16_t> Packed(uint16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) { \
+    return hn::Vec<uint16_t>{prefix##_packus_epi32(lower.raw, upper.raw)};                        \
+  }                                                                                               \
+  HWY_INLINE hn::Vec<int16_t> Packed(int16_t, hn::Vec<int32_t> lower, hn::Vec<int32_t> upper) {   \
+    return hn::Vec<int16_t>{prefix##_packs_epi32(lower.raw, upper.raw)};                          \
+  }
+QVP_PACKS(Vec128, _mm)
 #if HWY_TARGET <= HWY_AVX2
-HWY_INLINE hn::Vec256<int8_t> PackBlocks(hn::Vec256<int16_t> a, hn::Vec256<int16_t> b) {
-  return hn::Vec256<int8_t>{_mm256_packs_epi16(a.raw, b.raw)};
-}
+QVP_PACKS(Vec256, _mm256)
 #endif
 #if HWY_TARGET <= HWY_AVX3
-HWY_INLINE hn::Vec512<int8_t> PackBlocks(hn::Vec512<int16_t> a, hn::Vec512<int16_t> b) {
-  return hn::Vec512<int8_t>{_mm512_packs_epi16(a.raw, b.raw)};
-}
+QVP_PACKS(Vec512, _mm512)
 #endif
-template <class V>
-HWY_INLINE auto PackBlocks(V a, V b) requires std::is_same_v<hn::TFromV<V>, int32_t> {
-  return hn::ReorderDemote2To(hn::RepartitionToNarrow<hn::DFromV<V>>(), a, b);
-}
+#undef QVP_PACKS
 
 // Undoes the order that packing block by block leaves: every block holds a piece of each of the kSources vectors, and
 // the pieces of one vector belong together.
 template <int kSources, class V>
 HWY_INLINE V InOrder(V packed) {
   constexpr int kBlocks = static_cast<int>(hn::MaxLanes(hn::DFromV<V>()) * sizeof(hn::TFromV<V>)) / kBlockBytes;
-  if constexpr (kBlocks == 1) return packed;
+  if constexpr (kBlocks <= 1) return packed;
+#if HWY_TARGET == HWY_AVX2
+  if constexpr (kSources == 2 && kBlocks == 2) return V{_mm256_permute4x64_epi64(packed.raw, 0xD8)};
+#endif
   constexpr int kPiece = 4 / kSources;  // 32-bit lanes
   static constexpr auto kOrder = [] {
     std::array<int32_t, 4 * kBlocks> order{};
@@ -44,6 +53,12 @@ HWY_INLINE V InOrder(V packed) {
   const hn::Repartition<int32_t, hn::DFromV<V>> d;
   const auto ordered = hn::TableLookupLanes(hn::BitCast(d, packed), hn::SetTableIndices(d, kOrder.data()));
   return hn::BitCast(hn::DFromV<V>(), ordered);
+}
+
+// The lanes of the lower vector, then those of the upper, saturated to T.
+template <class T, class V>
+HWY_INLINE auto PackedInOrder(V lower, V upper) {
+  return InOrder<2>(Packed(T(), lower, upper));
 }
 
 }  // namespace qvp

@@ -58,8 +58,8 @@ void MakeSmooth(const Image<uint8_t>& image, int channels) {
   }
 }
 
-// Both describe the same, else their times could not be compared: on strong gradients, as the peer adds a tenth for each
-// value of a block to its length.
+// Both describe the same, else their times could not be compared: on strong gradients, as the peer adds a tenth for
+// each value of a block to its length.
 void RequireAgreement(const Image<uint8_t>& image) {
   const Describer d(image.size, 1e6f);
   Describe(d, image, qvpiHOG_8u32f_C1R);

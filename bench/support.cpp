@@ -121,6 +121,7 @@ std::shared_ptr<T[]> Pixels(size_t count) {
   }
   return {reinterpret_cast<T*>(data), [](T* p) { std::free(p); }};
 }
+template std::shared_ptr<int8_t[]> Pixels(size_t);
 template std::shared_ptr<uint8_t[]> Pixels(size_t);
 template std::shared_ptr<uint16_t[]> Pixels(size_t);
 template std::shared_ptr<int16_t[]> Pixels(size_t);

@@ -1,6 +1,7 @@
 // Kernels of the general filter: sums of products for two rows of results at a time, and what becomes of the sums.
 #pragma once
 
+#include "base/pack.h"
 #include "base/pairs.h"
 #include "base/round.h"
 #include "filter/border_filter_rows.h"
@@ -86,10 +87,11 @@ HWY_INLINE void StoreResults(const V (&v)[kCount], T* to) {
   Unrolled<kGroups>([&](auto group) QVP_INLINED {
     constexpr int i = group * kPacked;
     if constexpr (sizeof(T) == 1) {
-      const auto all = NarrowTwo(NarrowTwo(v[i], v[i + 1]), NarrowTwo(v[i + 2], v[i + 3]));
+      const auto all =
+          InOrder<4>(Packed(T(), Packed(int16_t(), v[i], v[i + 1]), Packed(int16_t(), v[i + 2], v[i + 3])));
       hn::StoreU(all, hn::ScalableTag<T>(), to + i * kLanes);
     } else {
-      hn::StoreU(NarrowTwo(v[i], v[i + 1]), hn::ScalableTag<T>(), to + i * kLanes);
+      hn::StoreU(PackedInOrder<T>(v[i], v[i + 1]), hn::ScalableTag<T>(), to + i * kLanes);
     }
   });
   Unrolled<kCount % kPacked>([&](auto rest) QVP_INLINED {
@@ -154,7 +156,8 @@ class ByteSums {
     } else {
       Unrolled<kCount / 2>([&](auto pair) QVP_INLINED {
         constexpr int v = 2 * pair;
-        hn::StoreU(NarrowTwo(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(), to + v * kLanes);
+        hn::StoreU(PackedInOrder<uint8_t>(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(),
+                   to + v * kLanes);
       });
     }
   }

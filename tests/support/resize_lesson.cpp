@@ -1,6 +1,6 @@
-#include "tests/support/lessons.h"
-
 #include <algorithm>
+
+#include "tests/support/lessons.h"
 
 namespace test {
 namespace {
