@@ -5,6 +5,7 @@
 
 namespace test {
 
+bool StatsLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
