@@ -108,7 +108,7 @@ bool LearnMoments(Scene& scene, std::string_view type, std::string_view name, Ar
     argument.pointer = Moments(scene, type.starts_with("const"));
   } else if (name == "mOrd" || name == "nOrd") {
     argument.number = name == "mOrd" ? 2 : 1;
-  } else if (name == "nChannel") {
+  } else if (name == "nChannel" || name == "hint") {
     argument.number = 0;
   } else if (name == "roiOffset") {
     argument.number = 5;
