@@ -46,6 +46,7 @@ int main(int argc, char** argv) try {
   demo::Demo demo(demo::LoadPicture(argv[1]));
   demo::CoreSteps(demo);
   demo::ThresholdSteps(demo);
+  demo::StatsSteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);
   std::printf("contact sheet: %s\n", argv[2]);
   return 0;

@@ -39,5 +39,6 @@ class Demo {
 // The steps of each header of the library.
 void CoreSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
+void StatsSteps(Demo& demo);
 
 }  // namespace demo
