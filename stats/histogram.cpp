@@ -7,6 +7,7 @@
 #include "base/map.h"
 #include "base/rows.h"
 #include "stats/histogram_spec.h"
+#include "stats/reduction.h"
 
 namespace {
 using namespace qvp;
@@ -74,7 +75,9 @@ class Tables {
   }
 
  private:
-  uint32_t tables_[kTables][256] = {};
+  // Tables lie so far apart that equal values do not fall on places that a CPU takes for the same one.
+  static constexpr int kApart = 256 + 16;
+  uint32_t tables_[kTables][kApart] = {};
 };
 
 template <int kTables>
@@ -120,7 +123,8 @@ class GuessedBins {
                  width = (last - first) / (n - 1);
     const double largest = std::max(-first, std::max(first, last));
     const double rounding = largest * 0x1p-23 + (std::is_integral_v<L> ? 1 : 0);
-    if (!(width > 0x1p-100 && width < 0x1p100 && rounding / width + n * 0x1p-21 < 0.25)) return false;
+    margin = static_cast<float>(rounding / width + n * 0x1p-21);
+    if (!(width > 0x1p-100 && width < 0x1p100 && margin < 0.25f)) return false;
     levels_ = n;
     lower = static_cast<float>(first);
     scale = static_cast<float>(1 / width);
@@ -132,16 +136,14 @@ class GuessedBins {
     return true;
   }
 
-  // v is at most one entry away from the guess. NaN stays where it is guessed, at 0.
-  HWY_INLINE void Count(int turn, float v, int guess) {
-    const int bin = guess + (v >= table_[guess + 1]) - (v < table_[guess]);
-    ++counts_[turn][bin];
-  }
+  // A value is at most one entry away from its guess. NaN stays where it is guessed, at 0.
+  int Corrected(float v, int guess) const { return guess + (v >= table_[guess + 1]) - (v < table_[guess]); }
+  HWY_INLINE void Count(int turn, int entry) { ++counts_[turn][entry]; }
   void AddToBins(uint32_t* counts) const {
     for (ptrdiff_t k = 0; k + 1 < levels_; ++k) AddTo(counts, k, counts_[0][k + 1] + counts_[1][k + 1]);
   }
 
-  float lower = 0, scale = 0, top = 0;
+  float lower = 0, scale = 0, top = 0, margin = 0;
 
  private:
   int levels_ = 0;
@@ -160,6 +162,7 @@ class GuessedCounter {
       lower_[c] = bins_[c].lower;
       scale_[c] = bins_[c].scale;
       top_[c] = bins_[c].top;
+      margin_ = std::max(margin_, bins_[c].margin);
     }
     return true;
   }
@@ -178,39 +181,53 @@ class GuessedCounter {
 
  private:
   using D = hn::ScalableTag<float>;
-  static constexpr ptrdiff_t kBlock = 768;
+  static constexpr ptrdiff_t kBlock = 768;  // a multiple of 12 lanes of every vector
 
-  // Entry 1 is the first bin. The guess for NaN is 0.
+  // Entry 1 is the first bin. The guess for NaN is 0. Levels are only looked at where a place is close to one.
   void Guess(const T* row, ptrdiff_t n, const PerChannel<D>& lower, const PerChannel<D>& scale,
              const PerChannel<D>& top) {
     const D d;
-    MapRowWith<false>(
-        d, guesses_, n,
-        [&](const auto& at, auto v) HWY_ATTR {
-          const auto place = hn::Add(hn::Mul(hn::Sub(v, at(lower)), at(scale)), hn::Set(d, 1.0f));
-          return hn::Floor(hn::Min(hn::Max(place, hn::Zero(d)), at(top)));
-        },
-        row);
-    MapRow<false>(
-        d, values_, n, [](auto v) HWY_ATTR { return v; }, row);
+    const hn::Rebind<int32_t, D> ints;
+    constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+    const auto low = hn::Set(d, margin_), high = hn::Set(d, 1 - margin_);
+    const auto guessAt = [&](ptrdiff_t i, ptrdiff_t lane) HWY_ATTR {
+      const auto v = LoadUpTo(d, row + i, n - i);
+      const auto place = hn::Add(hn::Mul(hn::Sub(v, lower.From(lane)), scale.From(lane)), hn::Set(d, 1.0f));
+      const auto bounded = hn::Min(hn::Max(place, hn::Zero(d)), top.From(lane));
+      const auto guess = hn::ConvertTo(ints, bounded);
+      const auto fraction = hn::Sub(bounded, hn::ConvertTo(d, guess));
+      hn::Store(guess, ints, guesses_ + i);
+      if (HWY_UNLIKELY(!hn::AllFalse(d, hn::Or(hn::Lt(fraction, low), hn::Lt(high, fraction))))) Correct(v, i);
+    };
+    for (ptrdiff_t i = 0; i < n; i += 3 * kLanes) {
+      for (ptrdiff_t lane = 0; lane < 3 * kLanes; lane += kLanes) guessAt(i + lane, lane);
+    }
+  }
+
+  void Correct(hn::Vec<D> v, ptrdiff_t first) {
+    HWY_ALIGN float values[hn::MaxLanes(D())];
+    hn::Store(v, D(), values);
+    for (int lane = 0, c = static_cast<int>(first % channels_); lane < static_cast<int>(hn::MaxLanes(D())); ++lane) {
+      guesses_[first + lane] = bins_[c].Corrected(values[lane], guesses_[first + lane]);
+      c = c + 1 == channels_ ? 0 : c + 1;
+    }
   }
 
   void CountChannel(int c, ptrdiff_t n) {
     GuessedBins& bins = bins_[c];
     ptrdiff_t i = c;
     for (; i + channels_ < n; i += 2 * channels_) {
-      bins.Count(0, values_[i], guesses_[i]);
-      bins.Count(1, values_[i + channels_], guesses_[i + channels_]);
+      bins.Count(0, guesses_[i]);
+      bins.Count(1, guesses_[i + channels_]);
     }
-    if (i < n) bins.Count(0, values_[i], guesses_[i]);
+    if (i < n) bins.Count(0, guesses_[i]);
   }
 
   int channels_ = 0;
   Layout layout_ = Layout::kC1;
-  float lower_[4], scale_[4], top_[4];
+  float lower_[4], scale_[4], top_[4], margin_ = 0;
   GuessedBins bins_[4];
-  float values_[kBlock];
-  int32_t guesses_[kBlock];
+  HWY_ALIGN int32_t guesses_[kBlock];
 };
 
 // The number of levels that are not above v.

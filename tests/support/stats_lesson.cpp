@@ -21,9 +21,15 @@ T* Numbers(Scene& scene, size_t n) {
   return numbers;
 }
 
+// Room for pointers, and the same random bytes for pointers of any width.
+template <class T>
+T** PointersIn(Scene& scene, size_t n) {
+  return reinterpret_cast<T**>(scene.Input(n * sizeof(uint64_t)));
+}
+
 template <class T>
 const void* RowsOf(Scene& scene) {
-  const T** const rows = reinterpret_cast<const T**>(scene.Input(kRows * sizeof(T*)));
+  const T** const rows = PointersIn<const T>(scene, kRows);
   for (int k = 0; k < kRows; ++k) {
     const T* const row = Numbers<T>(scene, kLength);
     std::memcpy(rows + k, &row, sizeof(row));
@@ -48,7 +54,7 @@ const void* HistogramRecord(Scene& scene, QvpDataType type) {
 
 // An array of pointers to arrays of kLevels numbers.
 const void* Arrays(Scene& scene, bool isOutput) {
-  void** const arrays = reinterpret_cast<void**>(scene.Input(4 * sizeof(void*)));
+  void** const arrays = PointersIn<void>(scene, 4);
   for (int c = 0; c < 4; ++c) {
     auto* const numbers = reinterpret_cast<float*>(isOutput ? scene.Output(4 * kLevels) : scene.Input(4 * kLevels));
     for (int k = 0; k < kLevels && !isOutput; ++k) numbers[k] = static_cast<float>(k * k) + 0.25f;
