@@ -23,6 +23,18 @@ constexpr const T* Values(const T* const& values) {
 }
 }  // namespace qvp
 
+// Signatures that end with a hint, and those that do not: its parameter, and the argument that is handed on.
+#define QVP_PLAIN_PARAMETER
+#define QVP_PLAIN_ARGUMENT
+#define QVP_HINTED_PARAMETER , QvpHintAlgorithm hint
+#define QVP_HINTED_ARGUMENT , hint
+
+// GRID(..., layout) for the layouts of most functions that reduce an image.
+#define QVP_C1_C3_C4(GRID, ...) \
+  GRID(__VA_ARGS__, C1)         \
+  GRID(__VA_ARGS__, C3)         \
+  GRID(__VA_ARGS__, C4)
+
 // GRID(..., layout) for the layouts of most element-wise functions.
 #define QVP_EACH_LAYOUT(GRID, ...) \
   GRID(__VA_ARGS__, C1)            \

@@ -12,6 +12,896 @@
 extern "C" {
 #endif
 
+/** @name Norms
+ *  @{ */
+/** Norm of each channel of an image, over its values v:
+ *
+ *  @code
+ *    Inf  max |v|
+ *    L1   sum |v|
+ *    L2   sqrt(sum v^2)
+ *  @endcode
+ *
+ *  All four channels of C4 are measured. Integers are measured exactly, |-32768| = 32768 and differences up to 65535
+ *  included, and rounded to double once. L2 of 8-bit images wider than 32768 pixels adds the squares of the norms of
+ *  strips of 32768 columns. Of floats, NaN pixels are skipped and infinite ones count; without any number the norm is
+ *  0.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param roiSize size of the region in pixels
+ *  @param pValue receives one norm for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNorm_Inf_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_Inf_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_Inf_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_Inf_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_Inf_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_Inf_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_Inf_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_Inf_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_Inf_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_Inf_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_Inf_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_Inf_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L1_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L1_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L1_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L1_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L1_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L1_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L1_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L1_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L1_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L2_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L2_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L2_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L2_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L2_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L2_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNorm_L2_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNorm_L2_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNorm_L2_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4]);
+/** @} */
+
+/** @name Norms of float images
+ *  @{ */
+/** Norm of each channel of an image, over its values v:
+ *
+ *  @code
+ *    Inf  max |v|
+ *    L1   sum |v|
+ *    L2   sqrt(sum v^2)
+ *  @endcode
+ *
+ *  NaN and infinite pixels go through the arithmetic. A result that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param roiSize size of the region in pixels
+ *  @param pValue receives one norm for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNorm_L1_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNorm_L1_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNorm_L1_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+QvpStatus qvpiNorm_L2_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNorm_L2_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNorm_L2_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Norms of differences
+ *  @{ */
+/** Norm of each channel of the difference of two images, over its values v = src1 - src2:
+ *
+ *  @code
+ *    Inf  max |v|
+ *    L1   sum |v|
+ *    L2   sqrt(sum v^2)
+ *  @endcode
+ *
+ *  Integers are measured exactly, |-32768| = 32768 and differences up to 65535 included, and rounded to double once. Of
+ *  floats, NaN pixels are skipped and infinite ones count; without any number the norm is 0.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image
+ *  @param roiSize size of the regions in pixels
+ *  @param pValue receives one norm for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNormDiff_Inf_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_Inf_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_Inf_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_Inf_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_Inf_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_Inf_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_Inf_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_Inf_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_Inf_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_Inf_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_Inf_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_Inf_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L1_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L1_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L1_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L1_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L1_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L1_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L1_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L1_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L1_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L2_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L2_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L2_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L2_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L2_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L2_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormDiff_L2_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormDiff_L2_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormDiff_L2_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+/** @} */
+
+/** @name Norms of differences of float images
+ *  @{ */
+/** Norm of each channel of the difference of two images, over its values v = src1 - src2:
+ *
+ *  @code
+ *    Inf  max |v|
+ *    L1   sum |v|
+ *    L2   sqrt(sum v^2)
+ *  @endcode
+ *
+ *  NaN and infinite pixels go through the arithmetic. A result that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image
+ *  @param roiSize size of the regions in pixels
+ *  @param pValue receives one norm for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNormDiff_L1_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNormDiff_L1_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNormDiff_L1_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+QvpStatus qvpiNormDiff_L2_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNormDiff_L2_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNormDiff_L2_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Relative norms
+ *  @{ */
+/** Norm of each channel of the difference of two images, divided by the norm of the second one:
+ *
+ *  @code
+ *    Inf, L1  norm(src1 - src2) / norm(src2)
+ *    L2       sqrt(sum (src1 - src2)^2 / sum src2^2)
+ *  @endcode
+ *
+ *  Where the second image has norm 0, the value is infinity, or NaN (0xFFF8000000000000) when the difference has it
+ *  too. Of floats, NaN pixels are skipped and infinite ones count; without any number the norm is 0.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image, which the difference is related to
+ *  @param roiSize size of the regions in pixels
+ *  @param pValue receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusDivideByZero: a warning, the second image has norm 0 in a channel; all values are written
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNormRel_Inf_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_Inf_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_Inf_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_Inf_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_Inf_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_Inf_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_Inf_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_Inf_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_Inf_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_Inf_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_Inf_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_Inf_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L1_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L1_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L1_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L1_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L1_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L1_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L1_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L1_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L1_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L2_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L2_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L2_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L2_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L2_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L2_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiNormRel_L2_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiNormRel_L2_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiNormRel_L2_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+/** @} */
+
+/** @name Relative norms of float images
+ *  @{ */
+/** Norm of each channel of the difference of two images, divided by the norm of the second one:
+ *
+ *  @code
+ *    Inf, L1  norm(src1 - src2) / norm(src2)
+ *    L2       sqrt(sum (src1 - src2)^2 / sum src2^2)
+ *  @endcode
+ *
+ *  Where the second image has norm 0, or below the smallest normal double, the value is infinity, or NaN
+ *  (0xFFF8000000000000) when the difference has it too. NaN and infinite pixels go through the arithmetic. A result
+ *  that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image, which the difference is related to
+ *  @param roiSize size of the regions in pixels
+ *  @param pValue receives one value for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusDivideByZero: a warning, the second image has norm 0 in a channel; all values are written
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNormRel_L1_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNormRel_L1_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNormRel_L1_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+QvpStatus qvpiNormRel_L2_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, QvpHintAlgorithm hint);
+QvpStatus qvpiNormRel_L2_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], QvpHintAlgorithm hint);
+QvpStatus qvpiNormRel_L2_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Sums
+ *  @{ */
+/** Sum of each channel of an image. The sum is exact, and rounded to double once.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pSum receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pSum` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiSum_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pSum);
+QvpStatus qvpiSum_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[3]);
+QvpStatus qvpiSum_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[4]);
+QvpStatus qvpiSum_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pSum);
+QvpStatus qvpiSum_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[3]);
+QvpStatus qvpiSum_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[4]);
+QvpStatus qvpiSum_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pSum);
+QvpStatus qvpiSum_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[3]);
+QvpStatus qvpiSum_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[4]);
+/** @} */
+
+/** @name Sums of float images
+ *  @{ */
+/** Sum of each channel of an image. NaN and infinite pixels go through the arithmetic. A result that is NaN has the
+ *  bits 0xFFF8000000000000.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pSum receives one value for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pSum` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiSum_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pSum, QvpHintAlgorithm hint);
+QvpStatus qvpiSum_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[3], QvpHintAlgorithm hint);
+QvpStatus qvpiSum_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pSum[4], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Means
+ *  @{ */
+/** Mean of each channel of an image: its sum divided by the number of pixels. The sum is exact, and rounded to double
+ *  once.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMean receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pMean` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMean_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pMean);
+QvpStatus qvpiMean_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[3]);
+QvpStatus qvpiMean_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[4]);
+QvpStatus qvpiMean_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pMean);
+QvpStatus qvpiMean_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[3]);
+QvpStatus qvpiMean_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[4]);
+QvpStatus qvpiMean_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pMean);
+QvpStatus qvpiMean_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[3]);
+QvpStatus qvpiMean_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[4]);
+/** @} */
+
+/** @name Means of float images
+ *  @{ */
+/** Mean of each channel of an image: its sum divided by the number of pixels. NaN and infinite pixels go through the
+ *  arithmetic. A result that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMean receives one value for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pMean` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMean_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f* pMean, QvpHintAlgorithm hint);
+QvpStatus qvpiMean_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[3], QvpHintAlgorithm hint);
+QvpStatus qvpiMean_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp64f pMean[4], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Minimum
+ *  @{ */
+/** Least value of each channel of an image.
+ *
+ *  AC4 leaves the fourth channel out. NaN pixels are skipped; when there is nothing else, the value is that of the
+ *  first pixel. Of zeros with different signs the first one counts.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMin receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pMin` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMin_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u* pMin);
+QvpStatus qvpiMin_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3]);
+QvpStatus qvpiMin_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[4]);
+QvpStatus qvpiMin_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3]);
+QvpStatus qvpiMin_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s* pMin);
+QvpStatus qvpiMin_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3]);
+QvpStatus qvpiMin_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[4]);
+QvpStatus qvpiMin_16s_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3]);
+QvpStatus qvpiMin_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u* pMin);
+QvpStatus qvpiMin_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3]);
+QvpStatus qvpiMin_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[4]);
+QvpStatus qvpiMin_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3]);
+QvpStatus qvpiMin_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f* pMin);
+QvpStatus qvpiMin_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3]);
+QvpStatus qvpiMin_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[4]);
+QvpStatus qvpiMin_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3]);
+/** @} */
+
+/** @name Maximum
+ *  @{ */
+/** Greatest value of each channel of an image.
+ *
+ *  AC4 leaves the fourth channel out. NaN pixels are skipped; when there is nothing else, the value is that of the
+ *  first pixel. Of zeros with different signs the first one counts.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMax receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pMax` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMax_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u* pMax);
+QvpStatus qvpiMax_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[3]);
+QvpStatus qvpiMax_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[4]);
+QvpStatus qvpiMax_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[3]);
+QvpStatus qvpiMax_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s* pMax);
+QvpStatus qvpiMax_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[3]);
+QvpStatus qvpiMax_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[4]);
+QvpStatus qvpiMax_16s_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[3]);
+QvpStatus qvpiMax_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u* pMax);
+QvpStatus qvpiMax_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[3]);
+QvpStatus qvpiMax_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[4]);
+QvpStatus qvpiMax_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[3]);
+QvpStatus qvpiMax_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f* pMax);
+QvpStatus qvpiMax_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[3]);
+QvpStatus qvpiMax_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[4]);
+QvpStatus qvpiMax_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[3]);
+/** @} */
+
+/** @name Minimum and maximum
+ *  @{ */
+/** Least and greatest value of each channel of an image.
+ *
+ *  AC4 leaves the fourth channel out. NaN pixels are skipped; when there is nothing else, the value is that of the
+ *  first pixel. Of zeros with different signs the first one counts.
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMin,pMax receive one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or a result is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMinMax_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u* pMin, Qvp8u* pMax);
+QvpStatus qvpiMinMax_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3], Qvp8u pMax[3]);
+QvpStatus qvpiMinMax_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[4], Qvp8u pMax[4]);
+QvpStatus qvpiMinMax_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3], Qvp8u pMax[3]);
+QvpStatus qvpiMinMax_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s* pMin, Qvp16s* pMax);
+QvpStatus qvpiMinMax_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3], Qvp16s pMax[3]);
+QvpStatus qvpiMinMax_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[4], Qvp16s pMax[4]);
+QvpStatus qvpiMinMax_16s_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3], Qvp16s pMax[3]);
+QvpStatus qvpiMinMax_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u* pMin, Qvp16u* pMax);
+QvpStatus qvpiMinMax_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3], Qvp16u pMax[3]);
+QvpStatus qvpiMinMax_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[4], Qvp16u pMax[4]);
+QvpStatus qvpiMinMax_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3], Qvp16u pMax[3]);
+QvpStatus qvpiMinMax_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f* pMin, Qvp32f* pMax);
+QvpStatus qvpiMinMax_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3], Qvp32f pMax[3]);
+QvpStatus qvpiMinMax_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[4], Qvp32f pMax[4]);
+QvpStatus qvpiMinMax_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3], Qvp32f pMax[3]);
+/** @} */
+
+/** @name Minimum with position
+ *  @{ */
+/** Least value of each channel of an image, and the first pixel that has it: the leftmost one of the topmost row.
+ *
+ *  AC4 leaves the fourth channel out. NaN pixels are skipped; when there is nothing else, the value is that of the
+ *  first pixel. Of zeros with different signs the first one counts. The position is then (0, 0).
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMin receives one value for each channel
+ *  @param pIndexX,pIndexY receive column and row for each channel, counted from the first pixel of the region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or a result is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMinIndx_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u* pMin, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMinIndx_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMinIndx_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s* pMin, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMinIndx_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMinIndx_16s_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u* pMin, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMinIndx_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMinIndx_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f* pMin, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMinIndx_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMinIndx_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMinIndx_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMin[3], int pIndexX[3], int pIndexY[3]);
+/** @} */
+
+/** @name Maximum with position
+ *  @{ */
+/** Greatest value of each channel of an image, and the first pixel that has it: the leftmost one of the topmost row.
+ *
+ *  AC4 leaves the fourth channel out. NaN pixels are skipped; when there is nothing else, the value is that of the
+ *  first pixel. Of zeros with different signs the first one counts. The position is then (0, 0).
+ *
+ *  @param pSrc,srcStep source image, of any step: one of 0 repeats the first row, a negative one goes upwards
+ *  @param roiSize size of the region in pixels
+ *  @param pMax receives one value for each channel
+ *  @param pIndexX,pIndexY receive column and row for each channel, counted from the first pixel of the region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or a result is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMaxIndx_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u* pMax, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMaxIndx_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMaxIndx_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp8u pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s* pMax, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMaxIndx_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMaxIndx_16s_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp16s pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u* pMax, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMaxIndx_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMaxIndx_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp16u pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f* pMax, int* pIndexX, int* pIndexY);
+QvpStatus qvpiMaxIndx_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[3], int pIndexX[3], int pIndexY[3]);
+QvpStatus qvpiMaxIndx_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[4], int pIndexX[4], int pIndexY[4]);
+QvpStatus qvpiMaxIndx_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32f pMax[3], int pIndexX[3], int pIndexY[3]);
+/** @} */
+
+/** @name Dot product
+ *  @{ */
+/** Sum of the products of two images, for each channel: sum src1(x, y) src2(x, y).
+ *
+ *  Exact for 8-bit and 16-bit integers, and rounded to double once. Products and sums of the other types are in double
+ *  precision. AC4 leaves the fourth channel out. A result that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc1,src1Step first image, of any step but 0
+ *  @param pSrc2,src2Step second image, of any step but 0
+ *  @param roiSize size of the regions in pixels
+ *  @param pDp receives one value for each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pDp` is null
+ *  - qvpStatusSize: a side of the region is below 1, or a step is 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDotProd_8u64f_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp);
+QvpStatus qvpiDotProd_8u64f_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_8u64f_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_8u64f_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_16s64f_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp);
+QvpStatus qvpiDotProd_16s64f_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_16s64f_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_16s64f_AC4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_16u64f_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp);
+QvpStatus qvpiDotProd_16u64f_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_16u64f_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_16u64f_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_32s64f_C1R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp);
+QvpStatus qvpiDotProd_32s64f_C3R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_32s64f_C4R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_32s64f_AC4R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_32u64f_C1R(const Qvp32u* pSrc1, int src1Step, const Qvp32u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp);
+QvpStatus qvpiDotProd_32u64f_C3R(const Qvp32u* pSrc1, int src1Step, const Qvp32u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_32u64f_C4R(const Qvp32u* pSrc1, int src1Step, const Qvp32u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_32u64f_AC4R(const Qvp32u* pSrc1, int src1Step, const Qvp32u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+QvpStatus qvpiDotProd_32f64f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[4]);
+QvpStatus qvpiDotProd_32f64f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3]);
+/** @} */
+
+/** @name Dot product of float images
+ *  @{ */
+/** Sum of the products of two images, for each channel: sum src1(x, y) src2(x, y).
+ *
+ *  NaN and infinite pixels go through the arithmetic. A result that is NaN has the bits 0xFFF8000000000000.
+ *
+ *  @param pSrc1,src1Step first image, of any step but 0
+ *  @param pSrc2,src2Step second image, of any step but 0
+ *  @param roiSize size of the regions in pixels
+ *  @param pDp receives one value for each channel
+ *  @param hint qvpAlgHintAccurate sums in double precision; any other value is the fast way: 48 partial sums in single
+ *         precision, whose error grows with the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pDp` is null
+ *  - qvpStatusSize: a side of the region is below 1, or a step is 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDotProd_32f64f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pDp, QvpHintAlgorithm hint);
+QvpStatus qvpiDotProd_32f64f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pDp[3], QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Weighted sum of rows
+ *  @{ */
+/** Adds rows, each times its tap: dst[x] = sum over k of taps[k] rows[k][x].
+ *
+ *  Products and sums are in the type of the elements, in ascending order of k. The destination may be one of the rows.
+ *
+ *  @param ppSrcRow pointers to `numRows` rows of `len` elements
+ *  @param pDst destination row of `len` elements
+ *  @param numRows number of rows
+ *  @param pTaps one factor for each row
+ *  @param len elements in a row
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an argument is null
+ *  - qvpStatusSize: `len` or `numRows` is below 1
+ *  - qvpStatusNullPointer: a row is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDotProdCol_32f_L2(const Qvp32f* const ppSrcRow[], Qvp32f* pDst, int numRows, const Qvp32f* pTaps, int len);
+QvpStatus qvpiDotProdCol_64f_L2(const Qvp64f* const ppSrcRow[], Qvp64f* pDst, int numRows, const Qvp64f* pTaps, int len);
+/** @} */
+
+/** @name Histogram: sizes
+ *  @{ */
+/** Bytes of the record and of the work buffer of a histogram.
+ *
+ *  @param dataType pixel type: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param roiSize size of the region in pixels
+ *  @param nLevels number of levels of each channel, one more than it has bins
+ *  @param numChannels 1, 3 or 4
+ *  @param uniform no influence on the sizes
+ *  @param pSpecSize receives the size of the record: 64 bytes and 4 for each level. The record begins at any address
+ *  @param pBufferSize receives the size of the work buffer: 1024 bytes a channel for 8 bits, 262144 for 16 bits, none
+ *         for floats
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusNumChannels: a number of channels other than 1, 3 and 4
+ *  - qvpStatusHistoLevels: a channel has fewer than 2 levels
+ *  - qvpStatusSizeOverflow: the record is larger than 2147483647 bytes; its size is set to 0
+ *  - qvpStatusDataType: another pixel type; the record's size has been written, the buffer's is set to 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogramGetBufferSize(QvpDataType dataType, QvpiSize roiSize, const int nLevels[], int numChannels, int uniform, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Histogram: any levels
+ *  @{ */
+/** Makes the record of a histogram whose bins lie between levels of the caller: bin i of a channel counts the values v
+ *  with level[i] <= v < level[i + 1].
+ *
+ *  For integer pixels each level is replaced by the least integer that is not below it, which changes no count, and
+ *  brought into the range of 32 bits.
+ *
+ *  @param dataType pixel type: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param pLevels the levels of each channel, strictly increasing
+ *  @param nLevels number of levels of each channel
+ *  @param numChannels 1, 3 or 4
+ *  @param pSpec receives the record
+ *  @return, in the order of the checks:
+ *  - qvpStatusDataType: another pixel type
+ *  - qvpStatusNullPointer: `pLevels`, `nLevels` or `pSpec` is null
+ *  - qvpStatusNumChannels: a number of channels other than 1, 3 and 4
+ *  - then, for each channel: qvpStatusNullPointer: its levels are null
+ *  - qvpStatusHistoLevels: fewer than 2 levels
+ *  - qvpStatusRange: the levels do not increase strictly, or one is NaN
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogramInit(QvpDataType dataType, const Qvp32f* const pLevels[], const int nLevels[], int numChannels, QvpiHistogramSpec* pSpec);
+/** @} */
+
+/** @name Histogram: equal bins
+ *  @{ */
+/** Makes the record of a histogram with bins of equal width: level[k] = lower + k (upper - lower) / (n - 1), in double
+ *  precision.
+ *
+ *  For integer pixels the levels are cut off toward zero, and brought into the range of 32 bits.
+ *
+ *  @param dataType pixel type: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param lowerLevel first level of each channel
+ *  @param upperLevel last level of each channel
+ *  @param nLevels number of levels of each channel, n
+ *  @param numChannels 1, 3 or 4
+ *  @param pSpec receives the record
+ *  @return, in the order of the checks:
+ *  - qvpStatusDataType: another pixel type
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusNumChannels: a number of channels other than 1, 3 and 4
+ *  - then, for each channel: qvpStatusHistoLevels: fewer than 2 levels
+ *  - qvpStatusRange: not lower < upper
+ *  - qvpStatusSizeWarning: a warning, bins of integer pixels are narrower than 1; the record is valid
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogramUniformInit(QvpDataType dataType, const Qvp32f lowerLevel[], const Qvp32f upperLevel[], const int nLevels[], int numChannels, QvpiHistogramSpec* pSpec);
+/** @} */
+
+/** @name Histogram: levels
+ *  @{ */
+/** Copies the levels out of a record, those of integer pixels as they are used.
+ *
+ *  @param pSpec the record
+ *  @param pLevels receive the levels of each channel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` or `pLevels` is null
+ *  - qvpStatusBadArgument: the record was not made by an Init function
+ *  - qvpStatusNullPointer: an array for a channel is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogramGetLevels(const QvpiHistogramSpec* pSpec, Qvp32f* const pLevels[]);
+/** @} */
+
+/** @name Histogram
+ *  @{ */
+/** Counts the pixels of each channel by bins: bin i has the values v with level[i] <= v < level[i + 1]. Values outside
+ *  the levels are counted nowhere. Counts are modulo 2^32.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param roiSize size of the region in pixels
+ *  @param pHist one array of counts for each channel, also for one channel; one count less than the channel has levels
+ *  @param pSpec the record
+ *  @param pBuffer work buffer, at any address
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer or an array of counts is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: the step is shorter than a row
+ *  - qvpStatusBadArgument: the record was not made by an Init function, or for another pixel type or fewer channels
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogram_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_8u_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16u_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16s_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16s_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiHistogram_16s_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Histogram of float images
+ *  @{ */
+/** Counts the pixels of each channel by bins: bin i has the values v with level[i] <= v < level[i + 1]. Values outside
+ *  the levels and NaN are counted nowhere. Counts are modulo 2^32.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param roiSize size of the region in pixels
+ *  @param pHist one array of counts for each channel, also for one channel; one count less than the channel has levels
+ *  @param pSpec the record
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer or an array of counts is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: the step is shorter than a row
+ *  - qvpStatusBadArgument: the record was not made by an Init function, or for another pixel type or fewer channels
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiHistogram_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec);
+QvpStatus qvpiHistogram_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec);
+QvpStatus qvpiHistogram_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, Qvp32u* const pHist[], const QvpiHistogramSpec* pSpec);
+/** @} */
+
+/** @name Moments: record
+ *  @{ */
+/** Bytes of a record of moments.
+ *
+ *  @param hint no influence
+ *  @param pSize receives the size, 400 bytes. The record begins at any address
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSize` is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMomentGetStateSize_64f(QvpHintAlgorithm hint, int* pSize);
+/** @} */
+
+/** @name Moments: initialisation
+ *  @{ */
+/** Makes an empty record of moments. It can be filled any number of times.
+ *
+ *  @param pState receives the record
+ *  @param hint is stored, and has no influence: moments are always computed in double precision
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMomentInit_64f(QvpiMomentState_64f* pState, QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Moments
+ *  @{ */
+/** Computes the moments M(m, n) = sum over (x, y) of x^m y^n v(x, y) of each channel up to m + n = 3. Columns x and
+ *  rows y count from the first pixel of the region. AC4 leaves the fourth channel out.
+ *
+ *  Sums along a row are exact for integers, in double precision for floats; then everything is in double precision.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param roiSize size of the region in pixels
+ *  @param pState receives the moments; those of an earlier call go
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the image or `pState` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusStep: the step is below 1
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStride: the step is shorter than a row
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMoments64f_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_8u_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_16u_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_16u_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_16u_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+QvpStatus qvpiMoments64f_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, QvpiMomentState_64f* pState);
+/** @} */
+
+/** @name Moments: spatial
+ *  @{ */
+/** Moment about an origin of the caller: the sum over (x, y) of (x + x0)^m (y + y0)^n v(x, y).
+ *
+ *  @param pState the record
+ *  @param mOrd,nOrd orders m and n, at most 3 together
+ *  @param nChannel channel, from 0 on
+ *  @param roiOffset position (x0, y0) of the region's first pixel
+ *  @param pValue receives the moment
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` or `pValue` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusSize: an order is negative, or their sum is above 3
+ *  - qvpStatusChannel: the record has no such channel; before any computation it has none
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGetSpatialMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel, QvpiPoint roiOffset, Qvp64f* pValue);
+/** @} */
+
+/** @name Moments: central
+ *  @{ */
+/** Moment about the centre of mass: the sum over (x, y) of (x - xc)^m (y - yc)^n v(x, y), with xc = M(1, 0) / M(0, 0)
+ *  and yc = M(0, 1) / M(0, 0).
+ *
+ *  @param pState the record
+ *  @param mOrd,nOrd orders m and n, at most 3 together
+ *  @param nChannel channel, from 0 on
+ *  @param pValue receives the moment
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` or `pValue` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusSize: an order is negative, or their sum is above 3
+ *  - qvpStatusChannel: the record has no such channel; before any computation it has none
+ *  - qvpStatusMoment00Zero: |M(0, 0)| is not above 2.220446049250313e-16
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGetCentralMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel, Qvp64f* pValue);
+/** @} */
+
+/** @name Moments: normalised spatial
+ *  @{ */
+/** Moment about an origin of the caller, as qvpiGetSpatialMoment_64f gives it, divided by M(0, 0)^((m + n) / 2 + 1).
+ *  The root of odd orders is that of |M(0, 0)|.
+ *
+ *  @param pState the record
+ *  @param mOrd,nOrd orders m and n, at most 3 together
+ *  @param nChannel channel, from 0 on
+ *  @param roiOffset position (x0, y0) of the region's first pixel
+ *  @param pValue receives the moment
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` or `pValue` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusSize: an order is negative, or their sum is above 3
+ *  - qvpStatusChannel: the record has no such channel; before any computation it has none
+ *  - qvpStatusMoment00Zero: |M(0, 0)| is not above 2.220446049250313e-16
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGetNormalizedSpatialMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel, QvpiPoint roiOffset, Qvp64f* pValue);
+/** @} */
+
+/** @name Moments: normalised central
+ *  @{ */
+/** Moment about the centre of mass divided by M(0, 0)^((m + n) / 2 + 1), which does not depend on the scale of a shape.
+ *  The root of odd orders is that of |M(0, 0)|.
+ *
+ *  @param pState the record
+ *  @param mOrd,nOrd orders m and n, at most 3 together
+ *  @param nChannel channel, from 0 on
+ *  @param pValue receives the moment
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` or `pValue` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusSize: an order is negative, or their sum is above 3
+ *  - qvpStatusChannel: the record has no such channel; before any computation it has none
+ *  - qvpStatusMoment00Zero: |M(0, 0)| is not above 2.220446049250313e-16
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGetNormalizedCentralMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel, Qvp64f* pValue);
+/** @} */
+
+/** @name Moments: Hu's invariants
+ *  @{ */
+/** The seven polynomials of the normalised central moments of orders 2 and 3 that depend on neither place, scale nor
+ *  rotation of a shape (Hu, 1962), in Hu's order.
+ *
+ *  @param pState the record
+ *  @param nChannel channel, from 0 on
+ *  @param pHm receives the seven values
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pState` or `pHm` is null
+ *  - qvpStatusContextMatch: `pState` is not initialised
+ *  - qvpStatusChannel: the record has no such channel; before any computation it has none
+ *  - qvpStatusMoment00Zero: |M(0, 0)| is not above 2.220446049250313e-16
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiGetHuMoments_64f(const QvpiMomentState_64f* pState, int nChannel, Qvp64f pHm[7]);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -64,7 +64,7 @@ def exports(names):
 
 def parameter(declaration):
     """(type, name) of a parameter; an array counts as a pointer."""
-    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d+\])?", declaration)
+    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d*\])?", declaration)
     kind = re.sub(r"\s*\*", "*", match["type"].strip())
     return (kind + "*" if match["array"] else kind), match["name"]
 

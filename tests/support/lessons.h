@@ -9,6 +9,7 @@ bool ArithLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
+bool StatsLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
