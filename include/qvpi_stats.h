@@ -678,7 +678,7 @@ QvpStatus qvpiHistogramInit(QvpDataType dataType, const Qvp32f* const pLevels[],
  *  - qvpStatusNullPointer: a pointer is null
  *  - qvpStatusNumChannels: a number of channels other than 1, 3 and 4
  *  - then, for each channel: qvpStatusHistoLevels: fewer than 2 levels
- *  - qvpStatusRange: not lower < upper
+ *  - qvpStatusRange: not lower < upper, or an infinite bound with levels in between
  *  - qvpStatusSizeWarning: a warning, bins of integer pixels are narrower than 1; the record is valid
  *  - qvpStatusNoError: otherwise
  */
