@@ -70,7 +70,7 @@ void ConvertScaled(const Image<const S>& src, const Image<T>& dst, Size roi, Qvp
       const hn::DFromV<decltype(v)> d;
       return rounding(hn::Mul(hn::Mul(v, hn::Set(d, factors.first)), hn::Set(d, factors.second)));
     };
-    MapImages(hn::ScalableTag<F>(), kernel, roi, dst, src);
+    MapOneChannel(hn::ScalableTag<F>(), kernel, roi, dst, src);
   });
 }
 
@@ -83,7 +83,7 @@ void ShiftWords(const Image<const int16_t>& src, const Image<T>& dst, Size roi, 
   const hn::ScalableTag<int16_t> d;
   const ShiftRounding<int16_t> rounding(mode, scale);
   const auto kernel = [=](auto v) HWY_ATTR { return rounding.Saturated(hn::ScalableTag<int16_t>(), v); };
-  MapImages(d, kernel, roi, dst, src);
+  MapOneChannel(d, kernel, roi, dst, src);
 }
 
 template <class S, class T>

@@ -22,7 +22,7 @@ void ScaleIn(const Image<const S>& src, double factor, double addend, const Imag
     const hn::DFromV<decltype(v)> d;
     return WithNanOf(v, hn::Add(hn::Mul(v, hn::Set(d, m)), hn::Set(d, a)));
   };
-  MapImages(hn::ScalableTag<F>(), kernel, roi, dst, src);
+  MapOneChannel(hn::ScalableTag<F>(), kernel, roi, dst, src);
 }
 
 // The fast way computes in single precision where that holds all values of both types.

@@ -93,8 +93,9 @@ HWY_INLINE auto NarrowParts(D d, const Part& part) {
 // of a PerChannel that belongs to the place in the row. With kKeepAlpha every fourth element of dst stays. Operands may
 // be the same row: the last vector is computed before the first one is stored, so elements that both cover are not
 // operated on twice.
-template <bool kKeepAlpha, class D, class Op, class T, class... S>
-HWY_INLINE void MapRowWith(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
+// The loop goes by kSteps full vectors of dst; with constants they make a multiple of 12 lanes.
+template <int kSteps, bool kKeepAlpha, class D, class Op, class T, class... S>
+HWY_INLINE void MapRowBy(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kStride = kLanes * kVectorsAtOnce<T, hn::TFromD<D>>;
   const hn::CappedTag<T, kStride> narrow;
   const auto apply = [&](ptrdiff_t first, const T* old, const S*... from) HWY_ATTR {
@@ -112,7 +113,6 @@ HWY_INLINE void MapRowWith(D d, T* dst, ptrdiff_t n, const Op& op, const S*... s
   }
   const ptrdiff_t end = n - kStride;
   const auto last = apply(end, dst + end, (src + end)...);
-  constexpr ptrdiff_t kSteps = kStride % 4 == 0 ? 3 : 6;  // together a multiple of 12 lanes
   ptrdiff_t i = 0;
   for (; i + kSteps * kStride <= end; i += kSteps * kStride) {
     for (ptrdiff_t v = 0; v < kSteps * kStride; v += kStride) {
@@ -123,11 +123,17 @@ HWY_INLINE void MapRowWith(D d, T* dst, ptrdiff_t n, const Op& op, const S*... s
   hn::StoreU(last, narrow, dst + end);
 }
 
+template <bool kKeepAlpha, class D, class Op, class T, class... S>
+HWY_INLINE void MapRowWith(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
+  constexpr int kLanes = hn::MaxLanes(D()) * kVectorsAtOnce<T, hn::TFromD<D>>;
+  MapRowBy<kLanes % 4 == 0 ? 3 : 6, kKeepAlpha>(d, dst, n, op, src...);
+}
+
 // The same for operations without constants of their own: dst[i] = op(src[i]...).
 template <bool kKeepAlpha, class D, class Op, class T, class... S>
 HWY_INLINE void MapRow(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
   const auto withoutPlace = [&](const auto&, auto... v) HWY_ATTR { return op(v...); };
-  MapRowWith<kKeepAlpha>(d, dst, n, withoutPlace, src...);
+  MapRowBy<kVectorsAtOnce<T, hn::TFromD<D>> == 1 ? 2 : 1, kKeepAlpha>(d, dst, n, withoutPlace, src...);
 }
 
 }  // namespace qvp

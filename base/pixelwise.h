@@ -89,6 +89,16 @@ void MapImages(D d, const Op& op, Size roi, const Image<T>& dst, const Image<con
   KeepsAlpha(dst.layout) ? map(std::true_type()) : map(std::false_type());
 }
 
+// The same for images of one channel, so that there is no kernel that keeps an alpha.
+template <class D, class Op, class T, class... S>
+void MapOneChannel(D d, const Op& op, Size roi, const Image<T>& dst, const Image<const S>&... src) {
+  const auto row = [&](ptrdiff_t n, T* to, const S*... from) QVP_ROW_KERNEL {
+    const Op own = op;
+    MapRow<false>(d, to, n, own, from...);
+  };
+  ForEachPiece(roi, row, dst, src...);
+}
+
 // dst = op(value of the channel, src) in lanes of D.
 template <class D, class Op, class T, class S>
 void MapImagesWith(D d, const Op& op, Size roi, const S* values, const Image<T>& dst, const Image<const S>& src) {

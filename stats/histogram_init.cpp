@@ -76,7 +76,9 @@ QvpStatus CheckBounds(double lower, double upper, int n) {
   return lower < upper && (isFinite || n == 2) ? qvpStatusNoError : qvpStatusRange;
 }
 
-QvpStatus CheckFirst(QvpDataType type, const void* a, const void* b, const void* c, const void* spec) {
+// Whatever fails, the record is none from here on.
+QvpStatus CheckFirst(QvpDataType type, const void* a, const void* b, const void* c, QvpiHistogramSpec* spec) {
+  if (spec) Writer(spec, type, 0, false);
   if (!IsHistogramType(type)) return qvpStatusDataType;
   return a && b && c && spec ? qvpStatusNoError : qvpStatusNullPointer;
 }
