@@ -10,5 +10,6 @@ bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
+bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
