@@ -300,6 +300,35 @@ void StoreJudged(const SampleTask<T>& task, const Fates& fates, const T* out, pt
   }
 }
 
+// Whether no point of a block takes anything from the image. What is no number is left to closer inspection.
+template <int kTaps, class C>
+bool AreAllBeyond(const SampleArea& a, const C* u, const C* v, ptrdiff_t n) {
+  const hn::ScalableTag<C> d;
+  const auto at = [d](double place) { return hn::Set(d, static_cast<C>(place)); };
+  const auto left = at((a.isBounded ? a.left : static_cast<double>(a.columns.begin)) - kTaps - 1);
+  const auto right = at((a.isBounded ? a.right : static_cast<double>(a.columns.end)) + kTaps + 1);
+  const auto top = at((a.isBounded ? a.top : static_cast<double>(a.rows.begin)) - kTaps - 1);
+  const auto bottom = at((a.isBounded ? a.bottom : static_cast<double>(a.rows.end)) + kTaps + 1);
+  for (ptrdiff_t i = 0; i < Padded(n); i += hn::Lanes(d)) {
+    const auto x = hn::LoadU(d, u + i), y = hn::LoadU(d, v + i);
+    const auto isBeyond = hn::Or(hn::Or(hn::Lt(x, left), hn::Gt(x, right)), hn::Or(hn::Lt(y, top), hn::Gt(y, bottom)));
+    if (!hn::AllTrue(d, isBeyond)) return false;
+  }
+  return true;
+}
+
+// Finishes a block that lies beyond the image as a whole: nothing is written, or the constant.
+template <int kTaps, class T, class C>
+bool FinishBeyond(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
+  const bool isConstant = task.area.kind == BorderKind::kConst;
+  if (!(task.area.isBounded || isConstant) || !AreAllBeyond<kTaps>(task.area, u, v, n)) return false;
+  const int channels = Channels(task.src.layout);
+  for (ptrdiff_t i = 0; isConstant && i < n; ++i) {
+    std::memcpy(dst + i * channels, task.constant, channels * sizeof(T));
+  }
+  return true;
+}
+
 // ---- Nearest
 
 template <int kBytes>
@@ -332,6 +361,7 @@ void SampleNearest(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t 
   if (Locate<1>(u, v, Padded(n), interior, places) && isWhole) {
     return MovePixels(task, places.offset, n, dst);
   }
+  if (FinishBeyond<1>(task, u, v, n, dst)) return;
   T out[4 * kBlock];
   Fates fates;
   JudgeEach<1>(
@@ -550,6 +580,7 @@ void SampleOneChannel(const SampleTask<T>& task, const C* u, const C* v, ptrdiff
   if (isInterior) {
     for (ptrdiff_t i = 0; i < padded; ++i) taps.Put(i, src + places.offset[i], step);
   } else {
+    if (FinishBeyond<kTaps>(task, u, v, n, dst)) return;
     const T zeros[kTaps * kTaps] = {};
     const auto put = [&](ptrdiff_t i, const T* patch) {
       taps.Put(i, reinterpret_cast<const uint8_t*>(patch), kTaps * sizeof(T));
@@ -590,6 +621,7 @@ void SampleChannels(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t
     }
     return StoreBlock(task, out, n, dst);
   }
+  if (FinishBeyond<kTaps>(task, u, v, n, dst)) return;
   Fates fates;
   Verdict verdicts[kBlock];
   JudgeEach<kTaps>(

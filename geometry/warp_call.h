@@ -88,16 +88,16 @@ inline void LocateAffine(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptr
 // Near and at the horizon there is no coordinate, but NaN.
 inline void LocatePerspective(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptrdiff_t n, double* u, double* v) {
   const hn::ScalableTag<double> d;
-  const auto one = hn::Set(d, 1.0), least = hn::Set(d, 1e-300), none = hn::NaN(d);
+  const auto least = hn::Set(d, 1e-300), none = hn::NaN(d);
   LocateAffine(record, x, y, n, u, v);
   const auto yw = hn::Set(d, record.c[2][1] * static_cast<double>(y));
   const auto aw = hn::Set(d, record.c[2][0]), tw = hn::Set(d, record.c[2][2]);
   for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
     const auto column = hn::Iota(d, static_cast<double>(x + i));
     const auto w = hn::Add(hn::Add(hn::Mul(aw, column), yw), tw);
-    const auto factor = hn::IfThenElse(hn::Ge(hn::Abs(w), least), hn::Div(one, w), none);
-    hn::StoreU(hn::Mul(hn::LoadU(d, u + i), factor), d, u + i);
-    hn::StoreU(hn::Mul(hn::LoadU(d, v + i), factor), d, v + i);
+    const auto divisor = hn::IfThenElse(hn::Ge(hn::Abs(w), least), w, none);
+    hn::StoreU(hn::Div(hn::LoadU(d, u + i), divisor), d, u + i);
+    hn::StoreU(hn::Div(hn::LoadU(d, v + i), divisor), d, v + i);
   }
 }
 

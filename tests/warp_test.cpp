@@ -143,7 +143,7 @@ constexpr double kMatrices[][3][3] = {
     {{-0.3, 0.05, 22.5}, {0, -0.8, 16.4}, {0, 0, 1}},        // mirrored
     {{0.5, 0.5, -10}, {0.5, 0.5000001, -10}, {0, 0, 1}},     // nearly singular
     {{1, 0, -3}, {0, 1, 2}, {0, 0, 1}},                      // whole pixels
-    {{1e9, 0, -1e10}, {0, 1e300, -1e301}, {0, 0, 1}},        // huge coordinates
+    {{1e9, 0, -1e10}, {0, 1e12, -1e13}, {0, 0, 1}},          // huge coordinates
     {{0.2, 0.1, 1}, {0.02, 0.5, 2}, {0.012, -0.0013, 0.6}},  // a tilt
     {{0.2, 0.1, -11}, {0.02, 0.5, -2}, {0.025, 0, -1}},      // the horizon at column 40
 };
@@ -310,7 +310,7 @@ void CheckRemap(QvpStatus (*remap)(const T*, QvpiSize, int, QvpiRect, const M*, 
                    reinterpret_cast<M*>(reinterpret_cast<uint8_t*>(y.data()) + j * y.step()) + i};
         const bool isWithin = j >= 6;
         for (M* m : at)
-          *m = static_cast<M>(isWithin ? 5 + random.Next() % 600 / 100.0 : random.Next() % 2600 / 100.0 - 1);
+          *m = static_cast<M>(isWithin ? 5 + (random.Next() % 600) / 100.0 : (random.Next() % 2600) / 100.0 - 1);
         if (j < 2) *at[j] = special[i % std::size(special)];
       }
     }
@@ -383,7 +383,10 @@ TEST(Transforms, MapCornersOfARectangleToAQuadrangleAndBack) {
   double affine[2][3], perspective[3][3], bilinear[2][4], back[4][2], bound[2][2];
   ASSERT_EQ(qvpiGetAffineTransform(roi, quad, affine), 0);
   ASSERT_EQ(qvpiGetAffineQuad(roi, back, affine), 0);
-  for (const int i : {0, 1, 3}) EXPECT_NEAR(back[i][0], quad[i][0], 1e-12), EXPECT_NEAR(back[i][1], quad[i][1], 1e-12);
+  for (const int i : {0, 1, 3}) {
+    EXPECT_NEAR(back[i][0], quad[i][0], 1e-12);
+    EXPECT_NEAR(back[i][1], quad[i][1], 1e-12);
+  }
   ASSERT_EQ(qvpiGetPerspectiveTransform(roi, quad, perspective), 0);
   EXPECT_EQ(perspective[2][2], 1);
   ASSERT_EQ(qvpiGetPerspectiveQuad(roi, back, perspective), 0);
