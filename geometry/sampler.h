@@ -322,10 +322,12 @@ template <int kTaps, class T, class C>
 bool FinishBeyond(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
   const bool isConstant = task.area.kind == BorderKind::kConst;
   if (!(task.area.isBounded || isConstant) || !AreAllBeyond<kTaps>(task.area, u, v, n)) return false;
-  const int channels = Channels(task.src.layout);
-  for (ptrdiff_t i = 0; isConstant && i < n; ++i) {
-    std::memcpy(dst + i * channels, task.constant, channels * sizeof(T));
-  }
+  if (!isConstant) return true;
+  auto* bytes = reinterpret_cast<uint8_t*>(dst);
+  const ptrdiff_t all = n * task.src.PixelBytes();
+  ptrdiff_t done = task.src.PixelBytes();
+  std::memcpy(bytes, task.constant, done);
+  for (; done < all; done += std::min(done, all - done)) std::memcpy(bytes + done, bytes, std::min(done, all - done));
   return true;
 }
 
