@@ -726,6 +726,7 @@ QvpStatus qvpiResizeAntialiasing_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f
 QvpStatus qvpiResizeAntialiasing_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiResizeAntialiasing_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
 
 /** @name Warp: size of the record, affine
  *  @{ */
