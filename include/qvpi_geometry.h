@@ -726,6 +726,845 @@ QvpStatus qvpiResizeAntialiasing_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f
 QvpStatus qvpiResizeAntialiasing_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiResizeAntialiasing_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: size of the record, affine
+ *  @{ */
+/** Bytes of a warp record and of the Init buffer: 576 and 64.
+ *
+ *  An image is warped in these steps: ask for the size of the record (GetSize), let the Init of the transform and the
+ *  method fill it, ask for the size of the work buffer (qvpiWarpGetBufferSize()), and call the function, once for the
+ *  image or once for each tile. Records and buffers may begin at any address. A record is only read by the calls, so
+ *  that any number of threads may share it, each with a buffer of its own; it must not be moved or copied. Functions
+ *  without `_L` take records of Inits without `_L`, and the others those with it.
+ *
+ *  **Coordinates.** Pixels lie at whole coordinates: (0, 0) is the centre of the top left pixel, x goes right, y down.
+ *  Coefficients map source to destination (qvpWarpForward) or destination to source (qvpWarpBackward). A record keeps
+ *  the latter, a, and destination pixel (x, y) takes the value at
+ *
+ *      u = a00 x + a01 y + a02,  v = a10 x + a11 y + a12
+ *
+ *  in the source, in double precision, computed for each pixel from its place in the whole destination: every tiling
+ *  gives the bits of the whole. A perspective transform divides both by a20 x + a21 y + a22.
+ *
+ *  For example {1, 0, 3; 0, 1, -2}, forward, moves the image right by 3 and up by 2: destination (5, 7) takes source
+ *  (2, 9). A rotation by 10 degrees counter-clockwise about the centre of a 1920x1080 image is made by
+ *
+ *      double shiftX, shiftY, coeffs[2][3];
+ *      qvpiGetRotateShift(959.5, 539.5, 10, &shiftX, &shiftY);
+ *      qvpiGetRotateTransform(10, shiftX, shiftY, coeffs);
+ *
+ *  and maps source (0, 0), forward, to (-79.1, 174.8).
+ *
+ *  **Methods.** Nearest takes the pixel at floor(u + 0.5), of two equally near ones the right or lower one. Linear
+ *  weighs 2x2 pixels, cubic 4x4 (Mitchell, Netravali: Reconstruction filters in computer graphics, 1988; B and C are
+ *  the caller's: 0 and 0.5 pass through the pixels), with the exact fraction of u and v as a single-precision number,
+ *  for 64f double: sum over rows r of wy[r] * (sum over k of wx[k] * p[r][k]), each operation rounded. Integers are
+ *  rounded to the nearest, ties to even, and saturated. Against a double-precision computation with the same
+ *  coefficients 8u, 16u and 16s are within 1 (exact but for values that lie within 1e-5 of their size from the middle
+ *  of two numbers), 32f within 1e-6 of the largest pixel for linear and 2e-6 for cubic, 64f within 1e-14. Nearest is
+ *  exact. An affine transform that only moves by whole pixels copies them, whatever the method.
+ *
+ *  **Borders.** What lies outside the source:
+ *
+ *  | border | pixels outside | destination |
+ *  |---|---|---|
+ *  | replicate | the nearest pixel of the edge | all pixels are written |
+ *  | constant | the given value, rounded and saturated to the type | all are written; edges blend into the value |
+ *  | transparent | | only pixels with 0 <= u <= srcWidth - 1 and 0 <= v <= srcHeight - 1 are written |
+ *  | qvpBorderInMem | are in memory | as transparent, with the image larger by the method's reach |
+ *
+ *  A side that is in memory is read where it lies, as far as the method reaches: 0 pixels for nearest, 1 for linear, 2
+ *  for cubic. The kind applies outside of the image so enlarged. Points that are no numbers lie outside.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param interpolation nearest, linear or cubic
+ *  @param direction what the coefficients map
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pSpecSize,pInitBufSize receive bytes
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f.
+ *          qvpStatusInterpolation: not nearest, linear or cubic. qvpStatusWarpDirection: another direction.
+ *          qvpStatusCoefficient: degenerate coefficients. qvpStatusBorder: another border. qvpStatusSize: a source
+ *          length of 1 with linear or cubic. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpAffineGetSize(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiWarpAffineGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Warp: size of the record, perspective
+ *  @{ */
+/** Bytes of a warp record and of the Init buffer, as qvpiWarpAffineGetSize().
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param interpolation nearest, linear or cubic
+ *  @param direction what the coefficients map
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pSpecSize,pInitBufSize receive bytes
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f.
+ *          qvpStatusInterpolation: not nearest, linear or cubic. qvpStatusWarpDirection: another direction.
+ *          qvpStatusCoefficient: degenerate coefficients. qvpStatusBorder: another border. qvpStatusSize: a source
+ *          length of 1 with linear or cubic. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpPerspectiveGetSize(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiWarpPerspectiveGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Warp: size of the record, quadrangles
+ *  @{ */
+/** Bytes of a warp record and of the Init buffer, as qvpiWarpAffineGetSize().
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param srcQuad,dstQuad corners
+ *  @param dataType type of the samples
+ *  @param interpolation nearest, linear or cubic
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pSpecSize,pInitBufSize receive bytes
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f.
+ *          qvpStatusInterpolation: not nearest, linear or cubic. qvpStatusQuad: a quadrangle that is degenerate or not
+ *          convex. qvpStatusBorder: another border. qvpStatusSize: a source length of 1 with linear or cubic.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpQuadGetSize(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, QvpiInterpolationType interpolation, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiWarpQuadGetSize_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, QvpiInterpolationType interpolation, QvpiBorderType borderType, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Warp: affine, nearest, Init
+ *  @{ */
+/** Makes a record for an affine warp by the nearest pixel.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
+ *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
+ *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSizeOverflow: a length
+ *          above 33554431. qvpStatusCoefficient: the source becomes a quadrangle without area.
+ */
+QvpStatus qvpiWarpAffineNearestInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpAffineNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: affine, linear, Init
+ *  @{ */
+/** Makes a record for an affine warp by linear interpolation.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
+ *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
+ *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
+ *          1. qvpStatusSizeOverflow: a length above 33554431. qvpStatusCoefficient: the source becomes a quadrangle
+ *          without area.
+ */
+QvpStatus qvpiWarpAffineLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpAffineLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: affine, cubic, Init
+ *  @{ */
+/** Makes a record for an affine warp by cubic interpolation.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param valueB,valueC B and C
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
+ *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
+ *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
+ *          1. qvpStatusSizeOverflow: a length above 33554431. qvpStatusCoefficient: the source becomes a quadrangle
+ *          without area.
+ */
+QvpStatus qvpiWarpAffineCubicInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiWarpAffineCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Warp: perspective, nearest, Init
+ *  @{ */
+/** Makes a record for a perspective warp by the nearest pixel. Coefficients may have any factor in common. A source
+ *  that reaches over the horizon is cut there.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or the determinant is not above 1e-10 times its largest product.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSizeOverflow: a length above
+ *          33554431.
+ */
+QvpStatus qvpiWarpPerspectiveNearestInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpPerspectiveNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: perspective, linear, Init
+ *  @{ */
+/** Makes a record for a perspective warp by linear interpolation.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or the determinant is not above 1e-10 times its largest product.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpPerspectiveLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpPerspectiveLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: perspective, cubic, Init
+ *  @{ */
+/** Makes a record for a perspective warp by cubic interpolation.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param valueB,valueC B and C
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
+ *          coefficient is no finite number, or the determinant is not above 1e-10 times its largest product.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpPerspectiveCubicInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiWarpPerspectiveCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Warp: quadrangle, nearest, Init
+ *  @{ */
+/** Makes a record for the perspective warp that takes one quadrangle to another, by the nearest pixel. Its functions
+ *  are those of perspective warps. What lies outside the quadrangle is warped too.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param srcQuad,dstQuad corners in any order that goes around, the same for both
+ *  @param dataType type of the samples
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSizeOverflow: a length above
+ *          33554431.
+ */
+QvpStatus qvpiWarpQuadNearestInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpQuadNearestInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: quadrangle, linear, Init
+ *  @{ */
+/** Makes a record for the perspective warp that takes one quadrangle to another, by linear interpolation. Its
+ *  functions are those of perspective warps. What lies outside the quadrangle is warped too.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param srcQuad,dstQuad corners in any order that goes around, the same for both
+ *  @param dataType type of the samples
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpQuadLinearInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpQuadLinearInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: quadrangle, cubic, Init
+ *  @{ */
+/** Makes a record for the perspective warp that takes one quadrangle to another, by cubic interpolation. Its functions
+ *  are those of perspective warps. What lies outside the quadrangle is warped too.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param srcQuad,dstQuad corners in any order that goes around, the same for both
+ *  @param dataType type of the samples
+ *  @param numChannels channels of a pixel
+ *  @param valueB,valueC B and C
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
+ *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
+ *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpQuadCubicInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiWarpQuadCubicInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Warp: size of the work buffer
+ *  @{ */
+/** Bytes of the buffer for a call: 8 for each row, rounded up to a multiple of 64, and 64.
+ *
+ *  @param pSpec record
+ *  @param dstSize size of the largest tile
+ *  @param pBufSize receives bytes; 0 when these cannot be represented
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length below
+ *          1. qvpStatusSizeOverflow: 2147483647 bytes or more, `_L` on 64 bits: beyond the type.
+ */
+QvpStatus qvpiWarpGetBufferSize(const QvpiWarpSpec* pSpec, QvpiSize dstSize, int* pBufSize);
+QvpStatus qvpiWarpGetBufferSize_L(const QvpiWarpSpec* pSpec, QvpiSizeL dstSize, QvpSizeL* pBufSize);
+/** @} */
+
+/** @name Warp: affine, nearest
+ *  @{ */
+/** Warps by an affine transform, by the nearest pixel; see qvpiWarpAffineGetSize(). Not in place.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpAffineNearest_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineNearest_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: affine, linear
+ *  @{ */
+/** Warps by an affine transform, by linear interpolation between 2x2 pixels; see qvpiWarpAffineGetSize(). Not in
+ *  place.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpAffineLinear_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineLinear_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: affine, cubic
+ *  @{ */
+/** Warps by an affine transform, by cubic interpolation between 4x4 pixels; see qvpiWarpAffineGetSize(). Not in place.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpAffineCubic_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpAffineCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: perspective, nearest
+ *  @{ */
+/** Warps by a perspective transform, by the nearest pixel; see qvpiWarpAffineGetSize(). Not in place. Records of
+ *  quadrangles are taken too.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpPerspectiveNearest_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveNearest_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: perspective, linear
+ *  @{ */
+/** Warps by a perspective transform, by linear interpolation between 2x2 pixels; see qvpiWarpAffineGetSize(). Not in
+ *  place. Records of quadrangles are taken too.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpPerspectiveLinear_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveLinear_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: perspective, cubic
+ *  @{ */
+/** Warps by a perspective transform, by cubic interpolation between 4x4 pixels; see qvpiWarpAffineGetSize(). Not in
+ *  place. Records of quadrangles are taken too.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a
+ *          length of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the
+ *          element size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record
+ *          of another transform, method, type or number of channels. Warning qvpStatusSizeWarning: the tile reached
+ *          over the destination; the part inside was done.
+ */
+QvpStatus qvpiWarpPerspectiveCubic_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C1R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C3R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpPerspectiveCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: quadrangle of a rectangle, affine
+ *  @{ */
+/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad receives the corners, clockwise from the top left one
+ *  @param coeffs coefficients
+ *  @return qvpStatusNullPointer. qvpStatusSize: x or y negative, or a length below 1. qvpStatusQuad: the corners are
+ *          not those of a convex quadrangle; nothing is written. qvpStatusCoefficient: the quadrangle has no area (the
+ *          cross product of two edges is not above 1e-10 times their lengths); it is written all the same.
+ */
+QvpStatus qvpiGetAffineQuad(QvpiRect srcRoi, double quad[4][2], const double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: bound of a rectangle, affine
+ *  @{ */
+/** The box around the quadrangle of qvpiGetAffineQuad().
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param bound receives the least x and y, and the greatest
+ *  @param coeffs coefficients
+ *  @return as qvpiGetAffineQuad(); with qvpStatusCoefficient too the bound is written.
+ */
+QvpStatus qvpiGetAffineBound(QvpiRect srcRoi, double bound[2][2], const double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: transform to a quadrangle, affine
+ *  @{ */
+/** Coefficients that take the centres of a rectangle's corner pixels to a parallelogram. The third corner is not
+ *  looked at, as it follows from the others.
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad corners, clockwise from the one that belongs to the top left pixel
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusRect: a length of the rectangle below 1. qvpStatusCoefficient: a length of
+ *          1. qvpStatusCoefficient: the parallelogram has no area.
+ */
+QvpStatus qvpiGetAffineTransform(QvpiRect srcRoi, const double quad[4][2], double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: quadrangle of a rectangle, perspective
+ *  @{ */
+/** Where the centres of a rectangle's corner pixels go: (x, y) to ((c00 x + c01 y + c02) / w, (c10 x + c11 y + c12) /
+ *  w), w = c20 x + c21 y + c22.
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad receives the corners, clockwise from the top left one
+ *  @param coeffs coefficients
+ *  @return qvpStatusNullPointer. qvpStatusSize: x or y negative, or a length below 1. qvpStatusQuad: the corners are
+ *          not those of a convex quadrangle; nothing is written. qvpStatusCoefficient: the quadrangle has no area (the
+ *          cross product of two edges is not above 1e-10 times their lengths); it is written all the same.
+ */
+QvpStatus qvpiGetPerspectiveQuad(QvpiRect srcRoi, double quad[4][2], const double coeffs[3][3]);
+/** @} */
+
+/** @name Warp: bound of a rectangle, perspective
+ *  @{ */
+/** The box around the quadrangle of qvpiGetPerspectiveQuad().
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param bound receives the least x and y, and the greatest
+ *  @param coeffs coefficients
+ *  @return as qvpiGetAffineQuad(); with qvpStatusCoefficient too the bound is written.
+ */
+QvpStatus qvpiGetPerspectiveBound(QvpiRect srcRoi, double bound[2][2], const double coeffs[3][3]);
+/** @} */
+
+/** @name Warp: transform to a quadrangle, perspective
+ *  @{ */
+/** Coefficients that take the centres of a rectangle's corner pixels to the corners of a convex quadrangle, with c22 =
+ *  1.
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad corners, clockwise from the one that belongs to the top left pixel
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusRect: a length of the rectangle below 1. qvpStatusCoefficient: a length of
+ *          1. qvpStatusQuad: the quadrangle is degenerate or not convex.
+ */
+QvpStatus qvpiGetPerspectiveTransform(QvpiRect srcRoi, const double quad[4][2], double coeffs[3][3]);
+/** @} */
+
+/** @name Warp: quadrangle of a rectangle, bilinear
+ *  @{ */
+/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x +
+ *  c12 y + c13).
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad receives the corners, clockwise from the top left one
+ *  @param coeffs coefficients
+ *  @return qvpStatusNullPointer. qvpStatusSize: x or y negative, or a length below 1. qvpStatusQuad: the corners are
+ *          not those of a convex quadrangle; nothing is written. qvpStatusCoefficient: the quadrangle has no area (the
+ *          cross product of two edges is not above 1e-10 times their lengths); it is written all the same.
+ */
+QvpStatus qvpiGetBilinearQuad(QvpiRect srcRoi, double quad[4][2], const double coeffs[2][4]);
+/** @} */
+
+/** @name Warp: bound of a rectangle, bilinear
+ *  @{ */
+/** The box around the quadrangle of qvpiGetBilinearQuad().
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param bound receives the least x and y, and the greatest
+ *  @param coeffs coefficients
+ *  @return as qvpiGetAffineQuad(); with qvpStatusCoefficient too the bound is written.
+ */
+QvpStatus qvpiGetBilinearBound(QvpiRect srcRoi, double bound[2][2], const double coeffs[2][4]);
+/** @} */
+
+/** @name Warp: transform to a quadrangle, bilinear
+ *  @{ */
+/** Coefficients that take the centres of a rectangle's corner pixels to the corners of a convex quadrangle.
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad corners, clockwise from the one that belongs to the top left pixel
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusRect: a length of the rectangle below 1. qvpStatusCoefficient: a length of
+ *          1. qvpStatusQuad: the quadrangle is degenerate or not convex.
+ */
+QvpStatus qvpiGetBilinearTransform(QvpiRect srcRoi, const double quad[4][2], double coeffs[2][4]);
+/** @} */
+
+/** @name Warp: shift of a rotation
+ *  @{ */
+/** The shift that makes a rotation by qvpiGetRotateTransform() turn about a centre: ((1 - cos) xCenter - sin yCenter,
+ *  sin xCenter + (1 - cos) yCenter).
+ *
+ *  @param xCenter,yCenter centre
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param pShiftX,pShiftY receive the shift
+ *  @return qvpStatusNullPointer. qvpStatusCoefficient: an argument is no finite number.
+ */
+QvpStatus qvpiGetRotateShift(double xCenter, double yCenter, double angle, double* pShiftX, double* pShiftY);
+/** @} */
+
+/** @name Warp: transform of a rotation
+ *  @{ */
+/** The coefficients {cos, sin, shiftX; -sin, cos, shiftY} of a rotation about (0, 0), followed by a shift.
+ *
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param shiftX,shiftY shift
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusCoefficient: an argument is no finite number.
+ */
+QvpStatus qvpiGetRotateTransform(double angle, double shiftX, double shiftY, double coeffs[2][3]);
+/** @} */
+
+/** @name Remap
+ *  @{ */
+/** Each destination pixel takes the value at the source point that two maps tell: dst(x, y) = src(xMap(x, y), yMap(x,
+ *  y)).
+ *
+ *  Pixels lie at whole coordinates, (0, 0) is the first pixel of the whole source. A pixel is written if its point is
+ *  in the region, x0 <= xMap <= x1 and y0 <= yMap <= y1 with the first and the last column and row of `srcRoi`,
+ *  clipped to the source; other pixels keep their value, those of maps that are no numbers too. So a map (0, 0), (1,
+ *  0), (2.5, 0) ... leaves the third pixel alone where the source is three pixels wide.
+ *
+ *  Nearest takes the pixel at floor(x + 0.5) and floor(y + 0.5), exact for every number. Linear interpolation keeps to
+ *  the pixels of the region. The cubics (B = 0, with C = 0.75 for qvpInterpolationCubicClassic and 0.5 for
+ *  qvpInterpolationCubic) and Lanczos (3 lobes, weights within 1e-4 of the formula, divided by their sum) take pixels
+ *  around it too, and the nearest ones of the edge where the source ends. Lanczos becomes the classic cubic where the
+ *  source has a side below 6 pixels, cubics linear below 4, and all methods nearest at 1.
+ *
+ *  Maps are single precision, for 64f double; weights and sums are as precise as the maps. Integers are rounded to the
+ *  nearest, ties to even, and saturated: within 1 of a double-precision computation; 32f within 2e-6 of the largest
+ *  pixel, 64f within 1e-14, Lanczos within 1e-3 for its weights. Not in place. AC4 leaves the fourth channel alone.
+ *
+ *  With qvpSmoothEdge added to the method points up to one pixel outside the region (dx across and dy down) take share
+ *  (1 - dx)(1 - dy) of the value at its edge, and the rest of the old destination, rounded to the nearest.
+ *
+ *  @param pSrc,srcStep the whole source, at its first pixel
+ *  @param srcSize size of the whole source
+ *  @param srcRoi region of points that are sampled
+ *  @param pxMap,xMapStep columns, one for each destination pixel
+ *  @param pyMap,yMapStep rows
+ *  @param pDst,dstStep destination
+ *  @param dstRoiSize size of destination and maps
+ *  @param interpolation nearest, linear, one of the cubics or Lanczos, with or without qvpSmoothEdge
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1, or x or y of the region negative.
+ *          qvpStatusInterpolation: another method. qvpStatusStep: a step below 1. Warning qvpStatusNoIntersection: the
+ *          region begins outside the source; nothing is written.
+ */
+QvpStatus qvpiRemap_8u_C1R(const Qvp8u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_8u_C3R(const Qvp8u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_8u_C4R(const Qvp8u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_8u_AC4R(const Qvp8u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16u_C1R(const Qvp16u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16u_C3R(const Qvp16u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16u_C4R(const Qvp16u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16u_AC4R(const Qvp16u* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16u* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16s_C1R(const Qvp16s* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16s* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16s_C3R(const Qvp16s* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16s* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16s_C4R(const Qvp16s* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16s* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_16s_AC4R(const Qvp16s* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp16s* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_32f_C1R(const Qvp32f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_32f_C3R(const Qvp32f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_32f_C4R(const Qvp32f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_32f_AC4R(const Qvp32f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp32f* pxMap, int xMapStep, const Qvp32f* pyMap, int yMapStep, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_64f_C1R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp64f* pxMap, int xMapStep, const Qvp64f* pyMap, int yMapStep, Qvp64f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_64f_C3R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp64f* pxMap, int xMapStep, const Qvp64f* pyMap, int yMapStep, Qvp64f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_64f_C4R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp64f* pxMap, int xMapStep, const Qvp64f* pyMap, int yMapStep, Qvp64f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+QvpStatus qvpiRemap_64f_AC4R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp64f* pxMap, int xMapStep, const Qvp64f* pyMap, int yMapStep, Qvp64f* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation);
+/** @} */
 
 /** @name Mirror
  *  @{ */

@@ -18,7 +18,9 @@ using test::Scene;
 
 constexpr QvpiSize kRoi{37, 5};
 
-bool IsPointer(const test::Parameter& parameter) { return parameter.type.ends_with("*"); }
+bool IsPointer(const test::Parameter& parameter) {
+  return parameter.type.ends_with("*") || parameter.type.ends_with("]");
+}
 
 // No border kind that resizing knows takes a value, so that its border value is not looked at.
 bool MayBeNull(const test::Parameter& parameter) { return parameter.name == "pBorderValue"; }

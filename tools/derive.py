@@ -64,14 +64,22 @@ def exports(names):
 
 def parameter(declaration):
     """(type, name) of a parameter; an array counts as a pointer."""
+<<<<<<< HEAD
     match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d*\])?", declaration)
+=======
+    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d+\])?(?P<inner>\[\d+\])?", declaration)
+>>>>>>> warp
     kind = re.sub(r"\s*\*", "*", match["type"].strip())
-    return (kind + "*" if match["array"] else kind), match["name"]
+    if match["inner"]:
+        kind += f"(*){match['inner']}"
+    elif match["array"]:
+        kind += "*"
+    return kind, match["name"]
 
 
 def argument(index, kind):
     """How argument number `index` is taken out of an array of test::Argument."""
-    if kind.endswith("*"):
+    if kind.endswith(("*", "]")):
         return f"reinterpret_cast<{kind}>(const_cast<void*>(a[{index}].pointer))"
     if kind.startswith("Qvpi") and ("Size" in kind or "Point" in kind or "Rect" in kind):
         return f"As<{kind}>(a[{index}])"

@@ -11,5 +11,6 @@ bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool StatsLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
+bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test

@@ -1,0 +1,121 @@
+// Warps and remap against OpenCV, which rounds positions to 1/32 pixel: ours keep them exact.
+#include <cmath>
+#include <opencv2/imgproc.hpp>
+
+#include "bench/image.h"
+
+namespace bench {
+namespace {
+
+// A rotation by 10 degrees about the centre, from destination to source, and the same with a tilt.
+struct Rotation {
+  double c[2][3];
+  Rotation() {
+    double x, y;
+    Require(qvpiGetRotateShift(959.5, 539.5, 10, &x, &y));
+    Require(qvpiGetRotateTransform(10, x, y, c));
+  }
+};
+constexpr double kTilt[3][3] = {{0.98, 0.17, -70}, {-0.17, 0.98, 170}, {1e-4, 5e-5, 1}};
+
+template <class T>
+struct Case {
+  int channels;
+  Image<T> src, dst;
+  std::shared_ptr<uint8_t[]> record = Pixels<uint8_t>(576), buffer = Pixels<uint8_t>(16384);
+
+  explicit Case(int nc) : channels(nc), src(kHd, nc), dst(kHd, nc) {
+    if constexpr (std::is_floating_point_v<T>) {
+      for (size_t i = 0; i < src.bytes() / sizeof(T); ++i) src.data()[i] = static_cast<T>(i % 251);
+    }
+  }
+  QvpiWarpSpec* spec() const { return reinterpret_cast<QvpiWarpSpec*>(record.get()); }
+  Traffic traffic() const { return {src.bytes(), dst.bytes()}; }
+};
+
+template <class T>
+constexpr QvpDataType kType = sizeof(T) == 1   ? qvp8u
+                              : sizeof(T) == 2 ? qvp16u
+                                               : qvp32f;
+constexpr double kZero[4] = {};
+
+template <class T, class Function>
+auto Ours(const Case<T>& c, Function function) {
+  return [=] {
+    Require(function(c.src.data(), c.src.step, c.dst.data(), c.dst.step, {0, 0}, kHd, c.spec(), c.buffer.get()));
+  };
+}
+
+template <class T, class Function>
+void AddAffine(const char* what, int channels, int method, Function function, double atLeast) {
+  const Case<T> c(channels);
+  const Rotation r;
+  if (method == cv::INTER_NEAREST) {
+    Require(qvpiWarpAffineNearestInit(kHd, kHd, kType<T>, r.c, 1, channels, qvpBorderConst, kZero, 0, c.spec()));
+  } else if (method == cv::INTER_LINEAR) {
+    Require(qvpiWarpAffineLinearInit(kHd, kHd, kType<T>, r.c, 1, channels, qvpBorderConst, kZero, 0, c.spec()));
+  } else {
+    Require(qvpiWarpAffineCubicInit(kHd, kHd, kType<T>, r.c, 1, channels, 0, 0.75, qvpBorderConst, kZero, 0, c.spec(),
+                                    c.buffer.get()));
+  }
+  const cv::Mat matrix = cv::Mat(2, 3, CV_64F, const_cast<double*>(&r.c[0][0])).clone();
+  Add({Name(what, kHd),
+       c.traffic(),
+       Ours(c, function),
+       {{"OpenCV warpAffine",
+         [=] { cv::warpAffine(c.src.mat, c.dst.mat, matrix, c.dst.mat.size(), method | cv::WARP_INVERSE_MAP); },
+         atLeast}}});
+}
+
+template <class T, class Function>
+void AddPerspective(const char* what, int channels, Function function, double atLeast) {
+  const Case<T> c(channels);
+  Require(qvpiWarpPerspectiveLinearInit(kHd, kHd, kType<T>, kTilt, 1, channels, qvpBorderConst, kZero, 0, c.spec()));
+  const cv::Mat matrix = cv::Mat(3, 3, CV_64F, const_cast<double*>(&kTilt[0][0])).clone();
+  constexpr int kFlags = cv::INTER_LINEAR | cv::WARP_INVERSE_MAP;
+  Add({Name(what, kHd),
+       c.traffic(),
+       Ours(c, function),
+       {{"OpenCV warpPerspective", [=] { cv::warpPerspective(c.src.mat, c.dst.mat, matrix, c.dst.mat.size(), kFlags); },
+         atLeast}}});
+}
+
+template <class T, class Function>
+void AddRemap(const char* what, int channels, int ours, int method, Function function, double atLeast) {
+  const Case<T> c(channels);
+  const Image<float> x(kHd, 1), y(kHd, 1);
+  const Rotation r;
+  for (int j = 0; j < kHd.height; ++j) {
+    for (int i = 0; i < kHd.width; ++i) {
+      x.data()[j * kHd.width + i] = static_cast<float>(r.c[0][0] * i + r.c[0][1] * j + r.c[0][2]);
+      y.data()[j * kHd.width + i] = static_cast<float>(r.c[1][0] * i + r.c[1][1] * j + r.c[1][2]);
+    }
+  }
+  Add({Name(what, kHd),
+       {c.src.bytes() + 2 * x.bytes(), c.dst.bytes()},
+       [=] {
+         Require(function(c.src.data(), kHd, c.src.step, {0, 0, kHd.width, kHd.height}, x.data(), x.step, y.data(),
+                          y.step, c.dst.data(), c.dst.step, kHd, ours));
+       },
+       {{"OpenCV remap", [=] { cv::remap(c.src.mat, c.dst.mat, x.mat, y.mat, method, cv::BORDER_TRANSPARENT); },
+         atLeast}}});
+}
+
+const bool kRegistered = [] {
+  AddAffine<uint8_t>("affine nearest 8u C1", 1, cv::INTER_NEAREST, qvpiWarpAffineNearest_8u_C1R, 2);
+  AddAffine<uint8_t>("affine linear 8u C1", 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_8u_C1R, 3);
+  AddAffine<uint8_t>("affine linear 8u C3", 3, cv::INTER_LINEAR, qvpiWarpAffineLinear_8u_C3R, 3);
+  AddAffine<float>("affine linear 32f C1", 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_32f_C1R, 3.3);
+  AddAffine<uint16_t>("affine linear 16u C1", 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_16u_C1R, 3);
+  AddAffine<uint8_t>("affine cubic 8u C1", 1, cv::INTER_CUBIC, qvpiWarpAffineCubic_8u_C1R, 3);
+  AddPerspective<uint8_t>("perspective linear 8u C1", 1, qvpiWarpPerspectiveLinear_8u_C1R, 3);
+  AddPerspective<float>("perspective linear 32f C3", 3, qvpiWarpPerspectiveLinear_32f_C3R, 2);
+  AddRemap<uint8_t>("remap nearest 8u C1", 1, qvpInterpolationNearest, cv::INTER_NEAREST, qvpiRemap_8u_C1R, 3);
+  AddRemap<uint8_t>("remap linear 8u C1", 1, qvpInterpolationLinear, cv::INTER_LINEAR, qvpiRemap_8u_C1R, 2.7);
+  AddRemap<float>("remap linear 32f C1", 1, qvpInterpolationLinear, cv::INTER_LINEAR, qvpiRemap_32f_C1R, 3);
+  AddRemap<uint8_t>("remap cubic 8u C3", 3, qvpInterpolationCubicClassic, cv::INTER_CUBIC, qvpiRemap_8u_C3R, 2);
+  return true;
+}();
+
+}  // namespace
+}  // namespace bench

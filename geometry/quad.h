@@ -1,0 +1,55 @@
+// Quadrangles and the transforms between them.
+#pragma once
+
+#include "qvptypes.h"
+
+namespace qvp {
+
+struct Vertex {
+  double x, y;
+};
+
+// Four corners, clockwise from the top left one.
+struct Quad4 {
+  Vertex at[4];
+
+  Quad4() = default;
+  explicit Quad4(const double (*corners)[2]) {
+    for (int i = 0; i < 4; ++i) at[i] = {corners[i][0], corners[i][1]};
+  }
+  // The centres of the corner pixels.
+  Quad4(double left, double top, double right, double bottom)
+      : at{{left, top}, {right, top}, {right, bottom}, {left, bottom}} {}
+
+  void CopyTo(double (*corners)[2]) const {
+    for (int i = 0; i < 4; ++i) corners[i][0] = at[i].x, corners[i][1] = at[i].y;
+  }
+};
+
+enum class QuadShape { kConvex, kNotConvex, kDegenerate };
+
+// By the cross products of edges that follow each other, relative to their lengths. What is no number is degenerate.
+QuadShape ShapeOf(const Quad4& quad);
+
+// A 3x3 matrix for points in homogeneous coordinates.
+struct Projection {
+  double c[3][3];
+
+  Vertex operator()(Vertex p) const {
+    const double w = c[2][0] * p.x + c[2][1] * p.y + c[2][2];
+    return {(c[0][0] * p.x + c[0][1] * p.y + c[0][2]) / w, (c[1][0] * p.x + c[1][1] * p.y + c[1][2]) / w};
+  }
+  bool IsFinite() const;
+  bool IsSingular() const;
+  Projection Inverse() const;  // up to a factor
+  Projection Times(const Projection& other) const;
+  void Normalize();  // c22 becomes 1, where it is not 0
+};
+
+// The projection of the square (0, 0), (1, 0), (1, 1), (0, 1) to a convex quadrangle.
+Projection SquareTo(const Quad4& quad);
+
+// The projection that takes the corners of one convex quadrangle to those of another.
+Projection Between(const Quad4& from, const Quad4& to);
+
+}  // namespace qvp

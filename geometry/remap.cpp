@@ -1,0 +1,130 @@
+// Remap: each destination pixel takes the value at a point that two maps tell.
+#include "base/export.h"
+#include "geometry/sampler.h"
+
+namespace qvp {
+namespace {
+
+template <class T>
+struct RemapCall {
+  using Map = WorkOf<T>;
+
+  Image<const T> src;
+  QvpiSize srcSize;
+  QvpiRect roi;
+  Image<const Map> x, y;
+  Image<T> dst;
+  Size size;
+  int interpolation;
+};
+
+template <class T>
+QvpStatus CheckRemap(const RemapCall<T>& call, int method) {
+  if (!call.src.data || !call.dst.data || !call.x.data || !call.y.data) return qvpStatusNullPointer;
+  const QvpiRect roi = call.roi;
+  if (call.srcSize.width < 1 || call.srcSize.height < 1) return qvpStatusSize;
+  if (roi.x < 0 || roi.y < 0 || roi.width < 1 || roi.height < 1) return qvpStatusSize;
+  if (call.size.width < 1 || call.size.height < 1) return qvpStatusSize;
+  switch (method) {
+    case qvpInterpolationNearest:
+    case qvpInterpolationLinear:
+    case qvpInterpolationCubicClassic:
+    case qvpInterpolationCubic:
+    case qvpInterpolationLanczos: break;
+    default: return qvpStatusInterpolation;
+  }
+  if (call.src.step < 1 || call.dst.step < 1 || call.x.step < 1 || call.y.step < 1) return qvpStatusStep;
+  return roi.x >= call.srcSize.width || roi.y >= call.srcSize.height ? qvpStatusNoIntersection : qvpStatusNoError;
+}
+
+// Small images have too few pixels for the larger methods.
+int MethodFor(QvpiSize size, int method) {
+  const int shortest = std::min(size.width, size.height);
+  if (shortest < 6 && method == qvpInterpolationLanczos) method = qvpInterpolationCubicClassic;
+  const bool isCubic = method == qvpInterpolationCubicClassic || method == qvpInterpolationCubic;
+  if (shortest < 4 && isCubic) method = qvpInterpolationLinear;
+  return shortest == 1 ? qvpInterpolationNearest : method;
+}
+
+// Points of the region have a value. Linear interpolation keeps to its pixels; the larger methods read around it.
+template <class T>
+SampleTask<T> TaskOf(const RemapCall<T>& call, int method) {
+  const QvpiRect roi = call.roi;
+  const ptrdiff_t left = roi.x, top = roi.y;
+  const ptrdiff_t right = left + std::min(roi.width, call.srcSize.width - roi.x);
+  const ptrdiff_t bottom = top + std::min(roi.height, call.srcSize.height - roi.y);
+  SampleTask<T> task{call.src, {{0, call.srcSize.width}, {0, call.srcSize.height}}, {}, 0, 0, false};
+  SampleArea& area = task.area;
+  if (method == qvpInterpolationNearest || method == qvpInterpolationLinear) {
+    area.columns = {left, right};
+    area.rows = {top, bottom};
+  }
+  area.isBounded = true;
+  area.isSmooth = call.interpolation < 0;
+  area.left = static_cast<double>(left), area.right = static_cast<double>(right - 1);
+  area.top = static_cast<double>(top), area.bottom = static_cast<double>(bottom - 1);
+  task.c = method == qvpInterpolationCubicClassic ? 0.75 : 0.5;
+  return task;
+}
+
+// The last points of a row, with copies of the very last one behind them.
+template <class Map>
+void Stage(const Map* from, ptrdiff_t n, Map* to) {
+  std::memcpy(to, from, n * sizeof(Map));
+  std::fill(to + n, to + kBlock, to[n - 1]);
+}
+
+template <int kTaps, class T>
+void RemapRows(const SampleTask<T>& task, const RemapCall<T>& call) {
+  using Map = WorkOf<T>;
+  const int channels = Channels(call.dst.layout);
+  Map u[kBlock], v[kBlock];
+  for (ptrdiff_t y = 0; y < call.size.height; ++y) {
+    const Map *mapX = call.x.Row(y), *mapY = call.y.Row(y);
+    T* row = call.dst.Row(y);
+    ptrdiff_t x = 0;
+    for (; x + kBlock <= call.size.width; x += kBlock)
+      Sample<kTaps>(task, mapX + x, mapY + x, kBlock, row + x * channels);
+    if (x == call.size.width) continue;
+    const ptrdiff_t n = call.size.width - x;
+    Stage(mapX + x, n, u);
+    Stage(mapY + x, n, v);
+    Sample<kTaps>(task, u, v, n, row + x * channels);
+  }
+}
+
+template <class T>
+QvpStatus Remap(const RemapCall<T>& call) {
+  const int asked = call.interpolation & INT32_MAX;
+  if (const QvpStatus failed = CheckRemap(call, asked)) return failed;
+  const int method = MethodFor(call.srcSize, asked);
+  const SampleTask<T> task = TaskOf(call, method);
+  switch (method) {
+    case qvpInterpolationNearest: RemapRows<1>(task, call); break;
+    case qvpInterpolationLinear: RemapRows<2>(task, call); break;
+    case qvpInterpolationLanczos: RemapRows<6>(task, call); break;
+    default: RemapRows<4>(task, call); break;
+  }
+  return qvpStatusNoError;
+}
+
+}  // namespace
+}  // namespace qvp
+
+using namespace qvp;
+
+#define REMAP(type, mapType, layout)                                                                                   \
+  QvpStatus qvpiRemap_##type##_##layout##R(                                                                            \
+      const Qvp##type* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp##mapType* pxMap, int xMapStep,  \
+      const Qvp##mapType* pyMap, int yMapStep, Qvp##type* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation) { \
+    return Remap(RemapCall<Qvp##type>{View(pSrc, srcStep, Layout::k##layout), srcSize, srcRoi,                         \
+                                      View(pxMap, xMapStep, Layout::kC1), View(pyMap, yMapStep, Layout::kC1),          \
+                                      View(pDst, dstStep, Layout::k##layout), dstRoiSize, interpolation});             \
+  }
+#define REMAP_LAYOUTS(type, mapType) \
+  REMAP(type, mapType, C1) REMAP(type, mapType, C3) REMAP(type, mapType, C4) REMAP(type, mapType, AC4)
+REMAP_LAYOUTS(8u, 32f)
+REMAP_LAYOUTS(16u, 32f)
+REMAP_LAYOUTS(16s, 32f)
+REMAP_LAYOUTS(32f, 32f)
+REMAP_LAYOUTS(64f, 64f)

@@ -1,0 +1,167 @@
+// What all warp calls share: their checks, the coordinates of pixels, and the walk over blocks.
+#pragma once
+
+#include "geometry/sampler.h"
+#include "geometry/warp_record.h"
+
+namespace qvp {
+
+template <class T>
+struct WarpCall {
+  Image<const T> src;
+  Image<T> dst;
+  ptrdiff_t x, y;  // of the tile's first pixel
+  Size size;
+  const QvpiWarpSpec* spec;
+  const uint8_t* buffer;
+  WarpKind kind;
+  WarpForm form;
+};
+
+template <class T>
+constexpr QvpDataType TypeOf() {
+  if (std::is_same_v<T, uint8_t>) return qvp8u;
+  if (std::is_same_v<T, uint16_t>) return qvp16u;
+  if (std::is_same_v<T, int16_t>) return qvp16s;
+  return std::is_same_v<T, float> ? qvp32f : qvp64f;
+}
+
+template <class T>
+QvpStatus CheckWarp(const WarpCall<T>& call, QvpiInterpolationType interpolation) {
+  const WarpRecord* record = call.spec ? RecordOf(call.spec) : nullptr;
+  if (record && !IsOf(call.form, record)) return qvpStatusContextMatch;
+  if (!call.src.data || !call.dst.data || !call.spec || !call.buffer) return qvpStatusNullPointer;
+  if (call.size.width == 0 || call.size.height == 0) return qvpStatusNoOperation;
+  if (call.size.width < 1 || call.size.height < 1) return qvpStatusSize;
+  constexpr ptrdiff_t kElement = sizeof(T);
+  if (call.src.step % kElement != 0 || call.dst.step % kElement != 0) return qvpStatusStep;
+  if (call.x < 0 || call.y < 0 || call.x >= record->width || call.y >= record->height) return qvpStatusOutOfRange;
+  const bool isMeant = record->kind == call.kind && record->interpolation == interpolation &&
+                       record->type == TypeOf<T>() && record->channels == Channels(call.src.layout);
+  return isMeant ? qvpStatusNoError : qvpStatusContextMatch;
+}
+
+// How far a method reads over the sides that are in memory.
+constexpr int ReachOf(QvpiInterpolationType interpolation) {
+  return interpolation == qvpInterpolationNearest ? 0 : interpolation == qvpInterpolationLinear ? 1 : 2;
+}
+
+// Where the kind is transparent, points of the image itself have a value; where all sides are in memory, those of the
+// memory too.
+inline SampleArea AreaOf(const WarpRecord& record) {
+  const int reach = ReachOf(record.interpolation);
+  SampleArea area;
+  area.columns = EffectiveColumns(record.border, record.sourceWidth, reach, reach);
+  area.rows = EffectiveRows(record.border, record.sourceHeight, reach, reach);
+  const BorderKind kind = KindOf(record.border);
+  area.kind = kind == BorderKind::kConst ? BorderKind::kConst : BorderKind::kReplicate;
+  area.isBounded = kind == BorderKind::kTransparent || kind == BorderKind::kInMemory;
+  area.isSmooth = record.isSmooth != 0;
+  const int more = kind == BorderKind::kInMemory ? reach : 0;
+  area.left = area.top = -more;
+  area.right = record.sourceWidth - 1 + more;
+  area.bottom = record.sourceHeight - 1 + more;
+  return area;
+}
+
+template <class T>
+SampleTask<T> TaskOf(const WarpCall<T>& call, const WarpRecord& record) {
+  SampleTask<T> task{call.src, AreaOf(record), {}, record.b, record.c2, record.isShift != 0};
+  for (int i = 0; i < 4; ++i) task.constant[i] = ToElement<T>(record.borderValue[i]);
+  return task;
+}
+
+// Source coordinates of the n destination pixels from (x, y) on, and of those behind them up to whole vectors. Each
+// pixel's are computed from its own place, so that tiles equal the whole.
+inline void LocateAffine(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptrdiff_t n, double* u, double* v) {
+  const hn::ScalableTag<double> d;
+  const auto& c = record.c;
+  const auto yu = hn::Set(d, c[0][1] * static_cast<double>(y)), yv = hn::Set(d, c[1][1] * static_cast<double>(y));
+  const auto au = hn::Set(d, c[0][0]), av = hn::Set(d, c[1][0]), tu = hn::Set(d, c[0][2]), tv = hn::Set(d, c[1][2]);
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+    const auto column = hn::Iota(d, static_cast<double>(x + i));
+    hn::StoreU(hn::Add(hn::Add(hn::Mul(au, column), yu), tu), d, u + i);
+    hn::StoreU(hn::Add(hn::Add(hn::Mul(av, column), yv), tv), d, v + i);
+  }
+}
+
+// Near and at the horizon there is no coordinate, but NaN.
+inline void LocatePerspective(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptrdiff_t n, double* u, double* v) {
+  const hn::ScalableTag<double> d;
+  const auto least = hn::Set(d, 1e-300), none = hn::NaN(d);
+  LocateAffine(record, x, y, n, u, v);
+  const auto yw = hn::Set(d, record.c[2][1] * static_cast<double>(y));
+  const auto aw = hn::Set(d, record.c[2][0]), tw = hn::Set(d, record.c[2][2]);
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+    const auto column = hn::Iota(d, static_cast<double>(x + i));
+    const auto w = hn::Add(hn::Add(hn::Mul(aw, column), yw), tw);
+    const auto divisor = hn::IfThenElse(hn::Ge(hn::Abs(w), least), w, none);
+    hn::StoreU(hn::Div(hn::LoadU(d, u + i), divisor), d, u + i);
+    hn::StoreU(hn::Div(hn::LoadU(d, v + i), divisor), d, v + i);
+  }
+}
+
+template <int kTaps, class T>
+void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width, ptrdiff_t height) {
+  const SampleTask<T> task = TaskOf(call, record);
+  const auto locate = record.kind == WarpKind::kAffine ? LocateAffine : LocatePerspective;
+  const int channels = Channels(call.dst.layout);
+  double u[kBlock], v[kBlock];
+  for (ptrdiff_t y = 0; y < height; ++y) {
+    T* row = call.dst.Row(y);
+    for (ptrdiff_t x = 0; x < width; x += kBlock) {
+      const ptrdiff_t n = std::min<ptrdiff_t>(width - x, kBlock);
+      locate(record, call.x + x, call.y + y, Padded(n), u, v);
+      Sample<kTaps>(task, u, v, n, row + x * channels);
+    }
+  }
+}
+
+template <int kTaps, class T>
+QvpStatus Warp(const WarpCall<T>& call) {
+  constexpr QvpiInterpolationType kMethod = kTaps == 1   ? qvpInterpolationNearest
+                                            : kTaps == 2 ? qvpInterpolationLinear
+                                                         : qvpInterpolationCubic;
+  if (const QvpStatus failed = CheckWarp(call, kMethod)) return failed;
+  const WarpRecord& record = *RecordOf(call.spec);
+  const ptrdiff_t width = std::min<ptrdiff_t>(call.size.width, record.width - call.x);
+  const ptrdiff_t height = std::min<ptrdiff_t>(call.size.height, record.height - call.y);
+  if (record.isShift) {
+    WarpTile<1>(call, record, width, height);
+  } else {
+    WarpTile<kTaps>(call, record, width, height);
+  }
+  return width < call.size.width || height < call.size.height ? qvpStatusSizeWarning : qvpStatusNoError;
+}
+
+}  // namespace qvp
+
+#define QVP_WARP_CALL(Kind, type, layout, form)                                                             \
+  WarpCall<Qvp##type> {                                                                                     \
+    {pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, dstRoiOffset.x, dstRoiOffset.y, \
+        dstRoiSize, pSpec, pBuffer, WarpKind::k##Kind, form                                                 \
+  }
+#define QVP_WARP_LAYOUT(Kind, Method, taps, type, layout)                                                           \
+  QvpStatus qvpiWarp##Kind##Method##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst,      \
+                                                          int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, \
+                                                          const QvpiWarpSpec* pSpec, Qvp8u* pBuffer) {              \
+    return Warp<taps>(QVP_WARP_CALL(Kind, type, layout, WarpForm::kPlain));                                         \
+  }                                                                                                                 \
+  QvpStatus qvpiWarp##Kind##Method##_##type##_##layout##R_L(                                                        \
+      const Qvp##type* pSrc, QvpSizeL srcStep, Qvp##type* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset,          \
+      QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer) {                                            \
+    return Warp<taps>(QVP_WARP_CALL(Kind, type, layout, WarpForm::kWide));                                          \
+  }
+#define QVP_WARP_TYPE(Method, taps, type)              \
+  QVP_WARP_LAYOUT(Affine, Method, taps, type, C1)      \
+  QVP_WARP_LAYOUT(Affine, Method, taps, type, C3)      \
+  QVP_WARP_LAYOUT(Affine, Method, taps, type, C4)      \
+  QVP_WARP_LAYOUT(Perspective, Method, taps, type, C1) \
+  QVP_WARP_LAYOUT(Perspective, Method, taps, type, C3) \
+  QVP_WARP_LAYOUT(Perspective, Method, taps, type, C4)
+#define QVP_WARP(Method, taps)     \
+  QVP_WARP_TYPE(Method, taps, 8u)  \
+  QVP_WARP_TYPE(Method, taps, 16u) \
+  QVP_WARP_TYPE(Method, taps, 16s) \
+  QVP_WARP_TYPE(Method, taps, 32f) \
+  QVP_WARP_TYPE(Method, taps, 64f)

@@ -1,0 +1,434 @@
+// Warps and remap against the formulas in double precision.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+#include "qvpi.h"
+#include "tests/support/guarded.h"
+
+namespace {
+
+constexpr QvpiSize kSource{23, 17}, kTarget{83, 21};
+
+struct Point {
+  double u, v;
+};
+
+// What is known about a point's surroundings.
+struct Rule {
+  int taps = 1;
+  double b = 0, c = 0.5;
+  bool isConstant = false;
+  double constant[4] = {7, 80, 200, 33};
+};
+
+double Weight(const Rule& rule, double t) {
+  t = std::fabs(t);
+  if (rule.taps == 2) return std::max(0.0, 1 - t);
+  if (rule.taps == 6) {
+    const auto sinc = [](double x) { return x == 0 ? 1 : std::sin(M_PI * x) / (M_PI * x); };
+    return t < 3 ? sinc(t) * sinc(t / 3) : 0;
+  }
+  const double b = rule.b, c = rule.c;
+  if (t < 1) return (2 - 1.5 * b - c) * t * t * t + (-3 + 2 * b + c) * t * t + 1 - b / 3;
+  return t < 2 ? (-b / 6 - c) * t * t * t + (b + 5 * c) * t * t - (2 * b + 8 * c) * t + 4 * b / 3 + 4 * c : 0;
+}
+
+template <class T>
+double PixelAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int channels, long x, long y, int c) {
+  const bool isInside = x >= 0 && y >= 0 && x < size.width && y < size.height;
+  if (!isInside && rule.isConstant) return rule.constant[c];
+  return src(std::clamp<long>(x, 0, size.width - 1) * channels + c, std::clamp<long>(y, 0, size.height - 1));
+}
+
+template <class T>
+double ValueAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
+  p = {std::clamp(p.u, -99.0, 99.0), std::clamp(p.v, -99.0, 99.0)};
+  if (rule.taps == 1) {
+    return PixelAt(src, size, rule, channels, std::lround(std::floor(p.u + 0.5)), std::lround(std::floor(p.v + 0.5)),
+                   c);
+  }
+  const int before = rule.taps / 2 - 1;
+  const long x = std::lround(std::floor(p.u)) - before, y = std::lround(std::floor(p.v)) - before;
+  double sum = 0, weights = 0;
+  for (long j = y; j < y + rule.taps; ++j) {
+    for (long i = x; i < x + rule.taps; ++i) {
+      const double w = Weight(rule, p.u - i) * Weight(rule, p.v - j);
+      sum += w * PixelAt(src, size, rule, channels, i, j, c);
+      weights += w;
+    }
+  }
+  return rule.taps == 6 ? sum / weights : sum;
+}
+
+template <class T>
+double Saturated(double x) {
+  if constexpr (std::is_floating_point_v<T>) return x;
+  return std::clamp<double>(std::nearbyint(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
+}
+
+// Random bits are no image for floating-point types.
+template <class T>
+void MakeNumbers(test::Image<T>& image, int samples, int height) {
+  if constexpr (std::is_floating_point_v<T>) {
+    test::Random random(5);
+    for (int y = 0; y < height; ++y) {
+      for (int x = 0; x < samples; ++x) {
+        const T value = static_cast<T>(random.Next() % 10000) / 16;
+        std::memcpy(reinterpret_cast<uint8_t*>(image.data()) + y * image.step() + x * sizeof(T), &value, sizeof(T));
+      }
+    }
+  }
+}
+
+class Warp {
+ public:
+  Warp(int channels, QvpDataType type, int taps, const double (*matrix)[3], bool isPerspective, int border,
+       QvpiSize src = kSource, QvpiSize dst = kTarget, const Rule& rule = {}, int smooth = 0)
+      : taps_(taps), isPerspective_(isPerspective) {
+    int size = 0, init = 0, buffer = 0;
+    const int method = taps == 4 ? 6 : taps;
+    EXPECT_EQ(qvpiWarpAffineGetSize(src, dst, type, kUnit, method, 1, border, &size, &init), 0);
+    record_ = std::make_unique<test::Block>(size);
+    test::Block room(init);
+#define INIT(Kind)                                                                                                      \
+  taps == 1   ? qvpiWarp##Kind##NearestInit(src, dst, type, matrix, 1, channels, border, rule.constant, smooth, spec()) \
+  : taps == 2 ? qvpiWarp##Kind##LinearInit(src, dst, type, matrix, 1, channels, border, rule.constant, smooth, spec())  \
+              : qvpiWarp##Kind##CubicInit(src, dst, type, matrix, 1, channels, rule.b, rule.c, border, rule.constant,   \
+                                          smooth, spec(), room.data())
+    status = isPerspective ? INIT(Perspective) : INIT(Affine);
+    if (status == 0) {
+      EXPECT_EQ(qvpiWarpGetBufferSize(spec(), dst, &buffer), 0);
+      buffer_ = std::make_unique<test::Block>(buffer);
+    }
+  }
+
+  QvpiWarpSpec* spec() const { return reinterpret_cast<QvpiWarpSpec*>(record_->data()); }
+
+#define CALL_TYPE(type, layout)                                                                                       \
+  QvpStatus operator()(const test::Image<Qvp##type>& s, const Qvp##type* src, Qvp##type* dst, int step, QvpiPoint at, \
+                       QvpiSize size, std::integral_constant<int, layout>) const {                                    \
+    const auto f = isPerspective_ ? taps_ == 1   ? qvpiWarpPerspectiveNearest_##type##_C##layout##R                   \
+                                    : taps_ == 2 ? qvpiWarpPerspectiveLinear_##type##_C##layout##R                    \
+                                                 : qvpiWarpPerspectiveCubic_##type##_C##layout##R                     \
+                   : taps_ == 1   ? qvpiWarpAffineNearest_##type##_C##layout##R                                       \
+                   : taps_ == 2   ? qvpiWarpAffineLinear_##type##_C##layout##R                                        \
+                                  : qvpiWarpAffineCubic_##type##_C##layout##R;                                          \
+    return f(src, s.step(), dst, step, at, size, spec(), buffer_->data());                                            \
+  }
+#define CALL_TYPES(type) CALL_TYPE(type, 1) CALL_TYPE(type, 3) CALL_TYPE(type, 4)
+  CALL_TYPES(8u)
+  CALL_TYPES(16u)
+  CALL_TYPES(16s)
+  CALL_TYPES(32f)
+  CALL_TYPES(64f)
+
+  static constexpr double kUnit[2][3] = {{1, 0, 0.5}, {0, 1, 0}};
+  QvpStatus status = 0;
+
+ private:
+  int taps_;
+  bool isPerspective_;
+  std::unique_ptr<test::Block> record_, buffer_;
+};
+
+Point Map(const double (*m)[3], bool isPerspective, double x, double y) {
+  const double w = isPerspective ? m[2][0] * x + m[2][1] * y + m[2][2] : 1;
+  return {(m[0][0] * x + m[0][1] * y + m[0][2]) / w, (m[1][0] * x + m[1][1] * y + m[1][2]) / w};
+}
+
+constexpr double kMatrices[][3][3] = {
+    {{0.26, 0.12, 1.3}, {-0.1, 0.6, 6.2}, {0, 0, 1}},        // a rotation that leaves the image
+    {{-0.3, 0.05, 22.5}, {0, -0.8, 16.4}, {0, 0, 1}},        // mirrored
+    {{0.5, 0.5, -10}, {0.5, 0.5000001, -10}, {0, 0, 1}},     // nearly singular
+    {{1, 0, -3}, {0, 1, 2}, {0, 0, 1}},                      // whole pixels
+    {{1e9, 0, -1e10}, {0, 1e12, -1e13}, {0, 0, 1}},          // huge coordinates
+    {{0.2, 0.1, 1}, {0.02, 0.5, 2}, {0.012, -0.0013, 0.6}},  // a tilt
+    {{0.2, 0.1, -11}, {0.02, 0.5, -2}, {0.025, 0, -1}},      // the horizon at column 40
+};
+
+bool IsIn(Point p, QvpiSize s) { return p.u >= 0 && p.v >= 0 && p.u <= s.width - 1 && p.v <= s.height - 1; }
+
+template <class T, int kChannels>
+void CheckWarp(QvpDataType type, double tolerance) {
+  const std::integral_constant<int, kChannels> layout;
+  for (const int border : {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent}) {
+    for (const int taps : {1, 2, 4}) {
+      for (size_t m = 0; m < std::size(kMatrices); ++m) {
+        const bool isPerspective = m >= 5;
+        Rule rule{.taps = taps, .isConstant = border == qvpBorderConst};
+        const Warp warp(kChannels, type, taps, kMatrices[m], isPerspective, border, kSource, kTarget, rule);
+        ASSERT_EQ(warp.status, 0) << m;
+        test::Image<T> src(kSource.width * kChannels, kSource.height, 5 * sizeof(T));
+        test::Image<T> dst(kTarget.width * kChannels, kTarget.height, 3 * sizeof(T));
+        MakeNumbers(src, kSource.width * kChannels, kSource.height);
+        MakeNumbers(dst, kTarget.width * kChannels, kTarget.height);
+        const test::Image<T> before(dst);
+        test::Image<T> tiles(dst);
+        ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, kTarget, layout), 0);
+        for (int y = 0; y < kTarget.height; y += 8) {
+          for (int x = 0; x < kTarget.width; x += 37) {
+            T* tile = reinterpret_cast<T*>(reinterpret_cast<uint8_t*>(tiles.data()) + y * tiles.step()) + x * kChannels;
+            ASSERT_GE(warp(src, src.data(), tile, tiles.step(), {x, y}, {37, 8}, layout), 0);
+          }
+        }
+        for (int y = 0; y < kTarget.height; ++y) {
+          for (int x = 0; x < kTarget.width * kChannels; ++x) {
+            const Point p = Map(kMatrices[m], isPerspective, x / kChannels, y);
+            ASSERT_EQ(dst(x, y), tiles(x, y)) << m << ' ' << x << ',' << y;
+            if (border == qvpBorderTransparent && !IsIn(p, kSource)) {
+              ASSERT_EQ(dst(x, y), before(x, y)) << m << " taps " << taps << ' ' << x << ',' << y;
+              continue;
+            }
+            if (!(p.u - p.u == 0 && p.v - p.v == 0)) continue;  // at the horizon
+            const double expected = Saturated<T>(ValueAt(src, kSource, rule, kChannels, p, x % kChannels));
+            ASSERT_NEAR(dst(x, y), expected, taps == 1 ? 0 : tolerance)
+                << "matrix " << m << " taps " << taps << " border " << border << ' ' << x << ',' << y;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(Warp, FollowsTheFormula8u) {
+  CheckWarp<uint8_t, 1>(qvp8u, 1), CheckWarp<uint8_t, 3>(qvp8u, 1), CheckWarp<uint8_t, 4>(qvp8u, 1);
+}
+TEST(Warp, FollowsTheFormula16u) {
+  CheckWarp<uint16_t, 1>(qvp16u, 1), CheckWarp<uint16_t, 3>(qvp16u, 1), CheckWarp<uint16_t, 4>(qvp16u, 1);
+}
+TEST(Warp, FollowsTheFormula16s) {
+  CheckWarp<int16_t, 1>(qvp16s, 1), CheckWarp<int16_t, 3>(qvp16s, 1), CheckWarp<int16_t, 4>(qvp16s, 1);
+}
+TEST(Warp, FollowsTheFormula32f) {
+  CheckWarp<float, 1>(qvp32f, 2e-3), CheckWarp<float, 3>(qvp32f, 2e-3), CheckWarp<float, 4>(qvp32f, 2e-3);
+}
+TEST(Warp, FollowsTheFormula64f) {
+  CheckWarp<double, 1>(qvp64f, 1e-9), CheckWarp<double, 3>(qvp64f, 1e-9), CheckWarp<double, 4>(qvp64f, 1e-9);
+}
+
+// A region inside a larger image: what is around it is read as far as the method reaches, and not farther.
+TEST(Warp, ReadsSidesInMemory) {
+  const double matrix[2][3] = {{0.4, 0.01, -4}, {0.005, 0.9, -3.9}};
+  for (const int taps : {1, 2, 4}) {
+    const int reach = taps / 2;
+    const QvpiSize inner{15, 10}, outer{inner.width + 2 * reach, inner.height + 2 * reach}, to{50, 18};
+    const Rule rule{.taps = taps};
+    test::Image<uint8_t> src(outer.width, outer.height, 0), all(to.width, to.height, 3), dst(all);
+    const double shifted[2][3] = {{0.4, 0.01, -4.0 + reach}, {0.005, 0.9, -3.9 + reach}};
+    const uint8_t* at = src.data() + reach * src.step() + reach;
+    const std::integral_constant<int, 1> c1;
+    const Warp some(1, qvp8u, taps, matrix, false, qvpBorderInMem, inner, to, rule);
+    const Warp whole(1, qvp8u, taps, shifted, false, qvpBorderTransparent, outer, to, rule);
+    ASSERT_EQ(some(src, at, dst.data(), dst.step(), {0, 0}, to, c1), 0);
+    ASSERT_EQ(whole(src, src.data(), all.data(), all.step(), {0, 0}, to, c1), 0);
+    for (int y = 0; y < to.height; ++y) {
+      for (int x = 0; x < to.width; ++x) ASSERT_NEAR(dst(x, y), all(x, y), 1) << taps << ' ' << x << ',' << y;
+    }
+  }
+}
+
+TEST(Warp, BlendsSmoothEdges) {
+  const double matrix[2][3] = {{0.25, 0, -1.5}, {0, 1, 0.25}};
+  const QvpiSize size{4, 3}, to{24, 2};
+  const Warp warp(1, qvp16u, 2, matrix, false, qvpBorderTransparent, size, to, {.taps = 2}, 1);
+  test::Image<uint16_t> src(4, 3, 2), dst(24, 2, 0);
+  const test::Image<uint16_t> before(dst);
+  ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, std::integral_constant<int, 1>()), 0);
+  for (int x = 0; x < 24; ++x) {
+    const double u = 0.25 * x - 1.5, beyond = std::max({0.0, -u, u - 3}), share = std::max(0.0, 1 - beyond);
+    const double value = ValueAt(src, size, {.taps = 2}, 1, {std::clamp(u, 0.0, 3.0), 0.25}, 0);
+    ASSERT_NEAR(dst(x, 0), share * value + (1 - share) * before(x, 0), 1) << x;
+  }
+}
+
+TEST(Warp, RefusesInOrder) {
+  const double good[2][3] = {{1, 0, 0}, {0, 1, 0}}, flat[2][3] = {{0, 1, 0}, {0, 1, 0}};
+  const double nan[2][3] = {{1, 0, NAN}, {0, 1, 0}}, tiny[2][3] = {{1e-6, 0, 0}, {0, 1e-6, 0}};
+  const auto init = [](const double(*m)[3], QvpiSize src, int type, int direction, int channels, int border,
+                       const double* value, int smooth) {
+    test::Block record(576);
+    return qvpiWarpAffineLinearInit(src, {5, 5}, type, m, direction, channels, border, value, smooth,
+                                    reinterpret_cast<QvpiWarpSpec*>(record.data()));
+  };
+  const double value[4] = {};
+  EXPECT_EQ(init(good, {5, 5}, qvp8u, 0, 1, 0xF0, nullptr, 1), 0);
+  EXPECT_EQ(init(good, {5, 5}, qvp8u, 0, 1, 0x16, value, 0), 0);
+  EXPECT_EQ(init(tiny, {5, 5}, qvp8u, 0, 1, 1, nullptr, 0), 0);
+  EXPECT_EQ(init(nullptr, {0, 5}, 3, 2, 2, 256, nullptr, 1), qvpStatusBorder);
+  EXPECT_EQ(init(good, {5, 5}, qvp8u, 0, 1, qvpBorderMirror, nullptr, 0), qvpStatusBorder);
+  EXPECT_EQ(init(nullptr, {0, 5}, 3, 2, 2, 1, nullptr, 1), qvpStatusNullPointer);
+  EXPECT_EQ(init(flat, {0, 5}, 3, 2, 2, 1, nullptr, 1), qvpStatusSize);
+  EXPECT_EQ(init(flat, {1, 5}, 3, 2, 2, 1, nullptr, 1), qvpStatusDataType);
+  EXPECT_EQ(init(flat, {1, 5}, qvp8u, 2, 2, 1, nullptr, 1), qvpStatusWarpDirection);
+  EXPECT_EQ(init(flat, {1, 5}, qvp8u, 1, 2, 6, nullptr, 1), qvpStatusCoefficient);
+  EXPECT_EQ(init(nan, {1, 5}, qvp8u, 1, 2, 6, nullptr, 1), qvpStatusCoefficient);
+  EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 2, 6, nullptr, 1), qvpStatusNullPointer);
+  EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 2, 6, value, 1), qvpStatusNumChannels);
+  EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 3, 6, value, 1), qvpStatusNotSupportedMode);
+  EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 3, 6, value, 0), qvpStatusSize);
+  EXPECT_EQ(init(good, {33554432, 5}, qvp8u, 1, 3, 6, value, 0), qvpStatusSizeOverflow);
+}
+
+TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
+  const Warp warp(1, qvp16u, 2, Warp::kUnit, false, 1);
+  uint16_t pixel[2] = {};
+  test::Block buffer(1024);
+  const auto call = [&](auto f, QvpiPoint at, QvpiSize size, int step) {
+    return f(pixel, step, pixel, 2, at, size, warp.spec(), buffer.data());
+  };
+  EXPECT_EQ(call(qvpiWarpAffineLinear_16u_C1R, {0, 0}, {0, -1}, 1), qvpStatusNoOperation);
+  EXPECT_EQ(call(qvpiWarpAffineLinear_16u_C1R, {0, 0}, {1, -1}, 1), qvpStatusSize);
+  EXPECT_EQ(call(qvpiWarpAffineLinear_16u_C1R, {-1, 0}, {1, 1}, 1), qvpStatusStep);
+  EXPECT_EQ(call(qvpiWarpAffineLinear_16u_C1R, {83, 0}, {1, 1}, 2), qvpStatusOutOfRange);
+  EXPECT_EQ(call(qvpiWarpAffineLinear_16u_C3R, {0, 0}, {1, 1}, 2), qvpStatusContextMatch);
+  EXPECT_EQ(call(qvpiWarpAffineCubic_16u_C1R, {0, 0}, {1, 1}, 2), qvpStatusContextMatch);
+  EXPECT_EQ(call(qvpiWarpPerspectiveLinear_16u_C1R, {0, 0}, {1, 1}, 2), qvpStatusContextMatch);
+  EXPECT_EQ(qvpiWarpAffineLinear_16u_C1R_L(nullptr, 2, pixel, 2, {0, 0}, {1, 1}, warp.spec(), nullptr),
+            qvpStatusContextMatch);
+}
+
+template <class T, int kChannels, class M>
+void CheckRemap(QvpStatus (*remap)(const T*, QvpiSize, int, QvpiRect, const M*, int, const M*, int, T*, int, QvpiSize,
+                                   int),
+                double tolerance) {
+  const QvpiSize to{71, 9};
+  const QvpiRect region{2, 1, 40, 12};
+  constexpr M kInf = std::numeric_limits<M>::infinity(), kNan = std::numeric_limits<M>::quiet_NaN();
+  const M special[] = {2, 22, 1.9999, kNan, kInf, -kInf, 3e38f, -3e38f, 2147483648.0f, 21.5f, 0.49999997f, 2.5f};
+  for (const int method : {1, 2, 4, 6, 16}) {
+    test::Image<T> src(kSource.width * kChannels, kSource.height, 5 * sizeof(T)),
+        dst(to.width * kChannels, to.height, 0);
+    test::Image<M> x(to.width, to.height, 8), y(to.width, to.height, 16);
+    MakeNumbers(src, kSource.width * kChannels, kSource.height);
+    MakeNumbers(dst, to.width * kChannels, to.height);
+    test::Random random(9);
+    for (int j = 0; j < to.height; ++j) {
+      for (int i = 0; i < to.width; ++i) {
+        M* at[] = {reinterpret_cast<M*>(reinterpret_cast<uint8_t*>(x.data()) + j * x.step()) + i,
+                   reinterpret_cast<M*>(reinterpret_cast<uint8_t*>(y.data()) + j * y.step()) + i};
+        const bool isWithin = j >= 6;
+        for (M* m : at)
+          *m = static_cast<M>(isWithin ? 5 + (random.Next() % 600) / 100.0 : (random.Next() % 2600) / 100.0 - 1);
+        if (j < 2) *at[j] = special[i % std::size(special)];
+      }
+    }
+    const test::Image<T> before(dst);
+    ASSERT_EQ(remap(src.data(), kSource, src.step(), region, x.data(), x.step(), y.data(), y.step(), dst.data(),
+                    dst.step(), to, method),
+              0);
+    const Rule rule{.taps = method == 16 ? 6 : method >= 4 ? 4 : method, .c = method == 4 ? 0.75 : 0.5};
+    for (int j = 0; j < to.height; ++j) {
+      for (int i = 0; i < to.width * kChannels; ++i) {
+        const Point p{x(i / kChannels, j), y(i / kChannels, j)};
+        const bool isIn = p.u >= 2 && p.u <= 22 && p.v >= 1 && p.v <= 12;
+        if (!isIn) ASSERT_EQ(dst(i, j), before(i, j)) << method << ' ' << i << ',' << j;
+        if (!isIn) continue;
+        const double expected = Saturated<T>(ValueAt(src, kSource, rule, kChannels, p, i % kChannels));
+        const double allowed = method == 1 ? 0
+                               : method == 16
+                                   ? std::max(tolerance, 1 + 0.002 * std::fabs(expected) + (sizeof(T) == 2 ? 70 : 1))
+                                   : tolerance;
+        ASSERT_NEAR(dst(i, j), expected, allowed) << method << ' ' << p.u << ',' << p.v;
+      }
+    }
+  }
+}
+
+TEST(Remap, FollowsTheFormula) {
+  CheckRemap<uint8_t, 1, float>(qvpiRemap_8u_C1R, 1);
+  CheckRemap<uint8_t, 3, float>(qvpiRemap_8u_C3R, 1);
+  CheckRemap<uint16_t, 4, float>(qvpiRemap_16u_C4R, 1);
+  CheckRemap<int16_t, 1, float>(qvpiRemap_16s_C1R, 1);
+  CheckRemap<float, 3, float>(qvpiRemap_32f_C3R, 2e-3);
+  CheckRemap<double, 1, double>(qvpiRemap_64f_C1R, 1e-9);
+  CheckRemap<double, 4, double>(qvpiRemap_64f_C4R, 1e-9);
+}
+
+TEST(Remap, KeepsAlphaAndDowngradesForSmallSources) {
+  const float x[] = {0, 0.49f, 0.5f, 2, 2.01f, -0.5f}, y[6] = {};
+  test::Image<uint8_t> src(3 * 4, 3, 1), classic(6 * 4, 1, 0), lanczos(classic);
+  const QvpiRect all{0, 0, 3, 3};
+  ASSERT_EQ(qvpiRemap_8u_AC4R(src.data(), {3, 3}, src.step(), all, x, 24, y, 24, lanczos.data(), 24, {6, 1}, 16), 0);
+  ASSERT_EQ(qvpiRemap_8u_AC4R(src.data(), {3, 3}, src.step(), all, x, 24, y, 24, classic.data(), 24, {6, 1}, 2), 0);
+  for (int i = 0; i < 24; ++i) EXPECT_EQ(lanczos(i, 0), classic(i, 0)) << i;
+  test::Image<uint8_t> nearest(6 * 4, 1, 0);
+  const test::Image<uint8_t> before(nearest);
+  ASSERT_EQ(qvpiRemap_8u_AC4R(src.data(), {3, 3}, src.step(), all, x, 24, y, 24, nearest.data(), 24, {6, 1}, 1), 0);
+  const int columns[] = {0, 0, 1, 2, -1, -1};
+  for (int i = 0; i < 24; ++i) {
+    const int column = columns[i / 4];
+    EXPECT_EQ(nearest(i, 0), column < 0 || i % 4 == 3 ? before(i, 0) : src(column * 4 + i % 4, 0)) << i;
+  }
+}
+
+TEST(Remap, RefusesInOrder) {
+  uint8_t pixel[4] = {};
+  float map[4] = {};
+  const auto remap = [&](QvpiSize size, QvpiRect region, int step, int mapStep, int method) {
+    return qvpiRemap_8u_C1R(pixel, size, step, region, map, mapStep, map, 4, pixel, 1, {1, 1}, method);
+  };
+  EXPECT_EQ(remap({0, 1}, {0, 0, 1, 1}, 0, 0, 3), qvpStatusSize);
+  EXPECT_EQ(remap({1, 1}, {-1, 0, 1, 1}, 0, 0, 3), qvpStatusSize);
+  EXPECT_EQ(remap({1, 1}, {1, 0, 1, 1}, 0, 0, 3), qvpStatusInterpolation);
+  EXPECT_EQ(remap({1, 1}, {1, 0, 1, 1}, 1, 0, 2), qvpStatusStep);
+  EXPECT_EQ(remap({1, 1}, {1, 0, 1, 1}, 1, 4, 2), qvpStatusNoIntersection);
+  EXPECT_EQ(remap({1, 1}, {0, 0, INT32_MAX, INT32_MAX}, 1, 4, 2 | qvpSmoothEdge), 0);
+}
+
+TEST(Transforms, MapCornersOfARectangleToAQuadrangleAndBack) {
+  const QvpiRect roi{3, 5, 30, 20};
+  const double quad[4][2] = {{1, 2}, {41, -3}, {50, 60}, {-2, 33}};
+  double affine[2][3], perspective[3][3], bilinear[2][4], back[4][2], bound[2][2];
+  ASSERT_EQ(qvpiGetAffineTransform(roi, quad, affine), 0);
+  ASSERT_EQ(qvpiGetAffineQuad(roi, back, affine), 0);
+  for (const int i : {0, 1, 3}) {
+    EXPECT_NEAR(back[i][0], quad[i][0], 1e-12);
+    EXPECT_NEAR(back[i][1], quad[i][1], 1e-12);
+  }
+  ASSERT_EQ(qvpiGetPerspectiveTransform(roi, quad, perspective), 0);
+  EXPECT_EQ(perspective[2][2], 1);
+  ASSERT_EQ(qvpiGetPerspectiveQuad(roi, back, perspective), 0);
+  for (int i = 0; i < 8; ++i) EXPECT_NEAR(back[i / 2][i % 2], quad[i / 2][i % 2], 1e-11);
+  ASSERT_EQ(qvpiGetBilinearTransform(roi, quad, bilinear), 0);
+  ASSERT_EQ(qvpiGetBilinearBound(roi, bound, bilinear), 0);
+  const double expected[] = {-2, -3, 50, 60};
+  for (int i = 0; i < 4; ++i) EXPECT_NEAR(bound[i / 2][i % 2], expected[i], 1e-11);
+  const double crossed[4][2] = {{0, 0}, {1, 1}, {1, 0}, {0, 1}}, flat[2][3] = {{1, 1, 0}, {1, 1, 0}};
+  EXPECT_EQ(qvpiGetPerspectiveTransform(roi, crossed, perspective), qvpStatusQuad);
+  EXPECT_EQ(qvpiGetAffineTransform({0, 0, 1, 4}, quad, affine), qvpStatusCoefficient);
+  EXPECT_EQ(qvpiGetAffineTransform({0, 0, 1, 0}, quad, affine), qvpStatusRect);
+  EXPECT_EQ(qvpiGetAffineBound(roi, bound, flat), qvpStatusCoefficient);
+  EXPECT_EQ(bound[1][0], 32 + 24);
+}
+
+TEST(Transforms, RotationsAreAccurate) {
+  for (const double angle : {0.0, 10.0, 45.0, 90.0, 135.5, 180.0, 270.0, -30.0, 3600090.0, 1e18, -1e300}) {
+    double c[2][3], x, y;
+    ASSERT_EQ(qvpiGetRotateTransform(angle, 1, 2, c), 0);
+    ASSERT_EQ(qvpiGetRotateShift(30, 20, angle, &x, &y), 0);
+    const double turn = std::fmod(angle, 360) * M_PI / 180;
+    EXPECT_NEAR(c[0][0], std::cos(turn), 4e-16) << angle;
+    EXPECT_NEAR(c[0][1], std::sin(turn), 4e-16) << angle;
+    EXPECT_NEAR(c[0][0] * 30 + c[0][1] * 20 + x, 30, 1e-13);
+    EXPECT_NEAR(c[1][0] * 30 + c[1][1] * 20 + y, 20, 1e-13);
+  }
+}
+
+TEST(Warp, QuadranglesMeetTheirCorners) {
+  const double from[4][2] = {{2, 1}, {20, 2}, {19, 14}, {1, 15}}, to[4][2] = {{3, 2}, {70, 1}, {60, 18}, {5, 19}};
+  test::Block record(576), buffer(1024);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  ASSERT_EQ(qvpiWarpQuadNearestInit(kSource, from, kTarget, to, qvp8u, 1, 1, nullptr, 0, spec), 0);
+  test::Image<uint8_t> src(kSource.width, kSource.height, 2), dst(kTarget.width, kTarget.height, 3);
+  ASSERT_EQ(qvpiWarpPerspectiveNearest_8u_C1R(src.data(), src.step(), dst.data(), dst.step(), {0, 0}, kTarget, spec,
+                                              buffer.data()),
+            0);
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(dst(static_cast<int>(to[i][0]), static_cast<int>(to[i][1])),
+              src(static_cast<int>(from[i][0]), static_cast<int>(from[i][1])));
+  }
+}
+
+}  // namespace
