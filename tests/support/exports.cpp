@@ -11,7 +11,7 @@ namespace {
 constexpr ptrdiff_t kLargestPixel = 16;
 
 // One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp.
-constexpr Lesson kLessons[] = {ArithLesson, FilterLesson, HogLesson, ResizeLesson, ThresholdLesson};
+constexpr Lesson kLessons[] = {ArithLesson, FilterLesson, FourierLesson, HogLesson, ResizeLesson, ThresholdLesson};
 
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
