@@ -50,6 +50,7 @@ int main(int argc, char** argv) try {
   demo::FilterSteps(demo);
   demo::ResizeSteps(demo);
   demo::HogSteps(demo);
+  demo::FourierSteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);
   std::printf("contact sheet: %s\n", argv[2]);
   return 0;

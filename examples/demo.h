@@ -43,5 +43,6 @@ void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void HogSteps(Demo& demo);
+void FourierSteps(Demo& demo);
 
 }  // namespace demo
