@@ -26,11 +26,10 @@ Sizes SizesFor(const Scene& scene, QvpiSize roi) {
 
 const void* SpecFor(Scene& scene, QvpiSize roi) {
   uint8_t* const spec = scene.Input(SizesFor(scene, roi).spec);  // no output: a refused Init changes it
-  if (Is(scene, "FFT")) {
+  if (Is(scene, "FFT") && Is(scene, "32fc")) {
+    qvpiFFTInit_C_32fc(kOrder, kOrder, kFlag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
+  } else if (Is(scene, "FFT")) {
     qvpiFFTInit_R_32f(kOrder, kOrder, kFlag, 0, reinterpret_cast<QvpiFFTSpec_R_32f*>(spec), nullptr);
-    if (Is(scene, "32fc")) {
-      qvpiFFTInit_C_32fc(kOrder, kOrder, kFlag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
-    }
   } else if (Is(scene, "32fc")) {
     qvpiDFTInit_C_32fc(roi, kFlag, 0, reinterpret_cast<QvpiDFTSpec_C_32fc*>(spec), nullptr);
   } else {
