@@ -45,5 +45,6 @@ void FilterSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void StatsSteps(Demo& demo);
 void HogSteps(Demo& demo);
+void FourierSteps(Demo& demo);
 
 }  // namespace demo

@@ -2,6 +2,34 @@
  *  Two-dimensional Fourier transforms and operations on their packed spectra.
  *
  *  The conventions of every function are told in qvpi_core.h.
+ *
+ *  The transform of a W x H image x is, with v the frequency down and u the one across,
+ *
+ *      X(u, v) = sum over r < H, c < W of x(r, c) e^(-2 pi i (u c / W + v r / H))
+ *
+ *  and the inverse one is the same sum with the opposite sign in the exponent. A normalisation flag tells by which factor
+ *  the results are multiplied, once for each of the two passes; N is the length of the pass, W or H:
+ *
+ *  | flag | forward    | inverse    |
+ *  |------|------------|------------|
+ *  | 1    | 1/N        | 1          |
+ *  | 2    | 1          | 1/N        |
+ *  | 4    | 1/sqrt(N)  | 1/sqrt(N)  |
+ *  | 8    | 1          | 1          |
+ *
+ *  The spectrum of a real image is symmetric, X(W - u, H - v) = conj(X(u, v)), so half of it is enough: the packed
+ *  spectrum has as many floats as the image. Of an 8 x 4 image (R is the real, I the imaginary part of X(u, v)):
+ *
+ *  | row | 0       | 1       | 2       | 3       | 4       | 5       | 6       | 7       |
+ *  |-----|---------|---------|---------|---------|---------|---------|---------|---------|
+ *  | 0   | R(0, 0) | R(1, 0) | I(1, 0) | R(2, 0) | I(2, 0) | R(3, 0) | I(3, 0) | R(4, 0) |
+ *  | 1   | R(0, 1) | R(1, 1) | I(1, 1) | R(2, 1) | I(2, 1) | R(3, 1) | I(3, 1) | R(4, 1) |
+ *  | 2   | I(0, 1) | R(1, 2) | I(1, 2) | R(2, 2) | I(2, 2) | R(3, 2) | I(3, 2) | I(4, 1) |
+ *  | 3   | R(0, 2) | R(1, 3) | I(1, 3) | R(2, 3) | I(2, 3) | R(3, 3) | I(3, 3) | R(4, 2) |
+ *
+ *  Columns 2 u - 1 and 2 u hold frequency u of every row. The first column, and of even widths the last one, hold u = 0
+ *  and u = W / 2, down the rows as a single row would across: real v = 0, pairs, and of even heights real v = H / 2. An
+ *  odd width has no last real column, an odd height no last real row of these columns.
  */
 #ifndef QVPI_TRANSFORM_H
 #define QVPI_TRANSFORM_H
@@ -11,6 +39,691 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/** @name FFT: sizes */
+/** @{ */
+/**
+ *  Tells the sizes of what a transform of images whose sides are powers of two needs: a record, memory for its initialisation, and a work buffer.
+ *
+ *  Every size has 64 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param orderX the width is 2^orderX, 0 to 29
+ *  @param orderY the height is 2^orderY, 0 to 29
+ *  @param flag normalisation: 1, 2, 4 or 8
+ *  @param hint ignored
+ *  @param pSpecSize size of the record in bytes
+ *  @param pSpecBufferSize size in bytes of memory that the initialisation needs: 0
+ *  @param pBufferSize size in bytes of the work buffer of each call
+ *  @retval qvpStatusNoError the sizes are written
+ *  @retval qvpStatusNullPointer an output pointer is null
+ *  @retval qvpStatusFftOrder an order is not within 0 to 29
+ *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
+ *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes; 0 is written for it
+ */
+QvpStatus qvpiFFTGetSize_R_32f(int orderX, int orderY, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QvpStatus qvpiFFTGetSize_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+/** @} */
+
+/** @name FFT: records */
+/** @{ */
+/**
+ *  Writes a record for transforms of images whose sides are powers of two.
+ *
+ *  The record is read-only afterwards: any number of calls may use it at a time, each with a work buffer of its own.
+ *
+ *  @param orderX the width is 2^orderX, 0 to 29
+ *  @param orderY the height is 2^orderY, 0 to 29
+ *  @param flag normalisation: 1, 2, 4 or 8
+ *  @param hint ignored
+ *  @param pSpec the record; after a failure every transform refuses it
+ *  @param pMemInit not needed, may be null
+ *  @retval qvpStatusNoError the record is ready
+ *  @retval qvpStatusFftOrder an order is not within 0 to 30
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusFftOrder an order is 30
+ *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
+ *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes
+ */
+QvpStatus qvpiFFTInit_R_32f(int orderX, int orderY, int flag, QvpHintAlgorithm hint, QvpiFFTSpec_R_32f* pSpec, Qvp8u* pMemInit);
+QvpStatus qvpiFFTInit_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
+/** @} */
+
+/** @name FFT: forward, real */
+/** @{ */
+/**
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision.
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: forward, real, in place */
+/** @{ */
+/**
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: inverse, real */
+/** @{ */
+/**
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision.
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: inverse, real, in place */
+/** @{ */
+/**
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: forward, complex */
+/** @{ */
+/**
+ *  Transforms a complex image to its spectrum, X(u, v) in row v and column u.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision.
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: forward, complex, in place */
+/** @{ */
+/**
+ *  Transforms a complex image to its spectrum, X(u, v) in row v and column u. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: inverse, complex */
+/** @{ */
+/**
+ *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision.
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name FFT: inverse, complex, in place */
+/** @{ */
+/**
+ *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiFFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: sizes */
+/** @{ */
+/**
+ *  Tells the sizes of what a transform of images of any size needs: a record, memory for its initialisation, and a work buffer.
+ *
+ *  Every size has 64 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param roiSize size of the images in pixels
+ *  @param flag normalisation: 1, 2, 4 or 8
+ *  @param hint ignored
+ *  @param pSpecSize size of the record in bytes
+ *  @param pSpecBufferSize size in bytes of memory that the initialisation needs: 0
+ *  @param pBufferSize size in bytes of the work buffer of each call
+ *  @retval qvpStatusNoError the sizes are written
+ *  @retval qvpStatusNullPointer an output pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
+ *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes; 0 is written for it
+ */
+QvpStatus qvpiDFTGetSize_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QvpStatus qvpiDFTGetSize_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+/** @} */
+
+/** @name DFT: records */
+/** @{ */
+/**
+ *  Writes a record for transforms of images of any size.
+ *
+ *  The record is read-only afterwards: any number of calls may use it at a time, each with a work buffer of its own.
+ *
+ *  @param roiSize size of the images in pixels
+ *  @param flag normalisation: 1, 2, 4 or 8
+ *  @param hint ignored
+ *  @param pSpec the record; after a failure every transform refuses it
+ *  @param pMemInit not needed, may be null
+ *  @retval qvpStatusNoError the record is ready
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
+ *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes
+ */
+QvpStatus qvpiDFTInit_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDFTSpec_R_32f* pSpec, Qvp8u* pMemInit);
+QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
+/** @} */
+
+/** @name DFT: forward, real */
+/** @{ */
+/**
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: forward, real, in place */
+/** @{ */
+/**
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: inverse, real */
+/** @{ */
+/**
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: inverse, real, in place */
+/** @{ */
+/**
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
+ *  the destination stays. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: forward, complex */
+/** @{ */
+/**
+ *  Transforms a complex image to its spectrum, X(u, v) in row v and column u.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: forward, complex, in place */
+/** @{ */
+/**
+ *  Transforms a complex image to its spectrum, X(u, v) in row v and column u. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: inverse, complex */
+/** @{ */
+/**
+ *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
+ *
+ *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
+ *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *
+ *  @param pSrc source
+ *  @param srcStep bytes between rows of the source
+ *  @param pDst destination
+ *  @param dstStep bytes between rows of the destination
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name DFT: inverse, complex, in place */
+/** @{ */
+/**
+ *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image. In place.
+ *
+ *  @param pSrcDst source and destination
+ *  @param srcDstStep bytes between rows
+ *  @param pSpec record of the same kind of transform and image
+ *  @param pBuffer work buffer of the size that the size query told, of any alignment
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer the record is null
+ *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
+ *  @retval qvpStatusNullPointer an image is null
+ *  @retval qvpStatusStep a step is less than 1
+ *  @retval qvpStatusNullPointer the buffer is null
+ */
+QvpStatus qvpiDFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name MulPack */
+/** @{ */
+/**
+ *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real numbers.
+ *
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too. The destination may be either source.
+ *
+ *  @param pSrc1 first spectrum, a
+ *  @param src1Step bytes between its rows
+ *  @param pSrc2 second spectrum, b
+ *  @param src2Step bytes between its rows
+ *  @param pDst destination
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels of the images that the spectra are of
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiMulPack_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name MulPack, in place */
+/** @{ */
+/**
+ *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real numbers.
+ *
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *
+ *  @param pSrc first spectrum, a
+ *  @param srcStep bytes between its rows
+ *  @param pSrcDst second spectrum, b, and destination
+ *  @param srcDstStep bytes between its rows
+ *  @param roiSize size in pixels of the images that the spectra are of
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiMulPack_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPack_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name MulPackConj */
+/** @{ */
+/**
+ *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real numbers.
+ *
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too. The destination may be either source.
+ *
+ *  @param pSrc1 first spectrum, a
+ *  @param src1Step bytes between its rows
+ *  @param pSrc2 second spectrum, b
+ *  @param src2Step bytes between its rows
+ *  @param pDst destination
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels of the images that the spectra are of
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiMulPackConj_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name MulPackConj, in place */
+/** @{ */
+/**
+ *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real numbers.
+ *
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *
+ *  @param pSrc first spectrum, a
+ *  @param srcStep bytes between its rows
+ *  @param pSrcDst second spectrum, b, and destination
+ *  @param srcDstStep bytes between its rows
+ *  @param roiSize size in pixels of the images that the spectra are of
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiMulPackConj_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiMulPackConj_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name MagnitudePack: size of the buffer */
+/** @{ */
+/**
+ *  Tells the size of the buffer that MagnitudePack takes: a row of floats.
+ *
+ *  @param numChannels 1, 3 or 4
+ *  @param roiSize size in pixels
+ *  @param pBufferSize size in bytes
+ *  @retval qvpStatusNoError the size is written
+ *  @retval qvpStatusNullPointer the output pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusNumChannels the number of channels is none of 1, 3 and 4
+ *  @retval qvpStatusSizeOverflow the size is beyond 2147483647 bytes; 0 is written
+ */
+QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, int* pBufferSize);
+/** @} */
+
+/** @name MagnitudePack */
+/** @{ */
+/**
+ *  Magnitudes |X| of a packed spectrum, computed in double precision and rounded to the nearest float.
+ *
+ *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *
+ *  @param pSrc packed spectrum
+ *  @param srcStep bytes between its rows
+ *  @param pDst destination, of the same size
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels
+ *  @param pBuffer buffer of the size that the size query told
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiMagnitudePack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
+QvpStatus qvpiMagnitudePack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
+QvpStatus qvpiMagnitudePack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
+QvpStatus qvpiMagnitudePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
+/** @} */
+
+/** @name PhasePack */
+/** @{ */
+/**
+ *  Phases of a packed spectrum in (-pi, pi]: the angle of X(u, v), computed in double precision and rounded to float. That
+ *  of 0 is 0, that of negative real numbers pi.
+ *
+ *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *
+ *  @param pSrc packed spectrum
+ *  @param srcStep bytes between its rows
+ *  @param pDst destination, of the same size
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiPhasePack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPhasePack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPhasePack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPhasePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name PackToCplxExtend */
+/** @{ */
+/**
+ *  Writes a packed spectrum as a whole complex one: row v, column u gets X(u, v).
+ *
+ *  @param pSrc packed spectrum
+ *  @param srcStep bytes between its rows
+ *  @param pDst complex spectrum; must not overlap the source
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels of both
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name CplxExtendToPack */
+/** @{ */
+/**
+ *  Packs the spectrum of a real image: what the packed spectrum stores is taken from the complex one, the mirrored half of
+ *  that is not looked at.
+ *
+ *  @param pSrc complex spectrum, X(u, v) in row v and column u
+ *  @param srcStep bytes between its rows
+ *  @param pDst packed spectrum; must not overlap the source
+ *  @param dstStep bytes between its rows
+ *  @param roiSize size in pixels of both
+ *  @retval qvpStatusNoError the result is written
+ *  @retval qvpStatusNullPointer a pointer is null
+ *  @retval qvpStatusSize a side is less than 1
+ *  @retval qvpStatusStep a step is less than 1
+ */
+QvpStatus qvpiCplxExtendToPack_32fc32f_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -64,11 +64,7 @@ def exports(names):
 
 def parameter(declaration):
     """(type, name) of a parameter; an array counts as a pointer."""
-<<<<<<< HEAD
-    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d*\])?", declaration)
-=======
-    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d+\])?(?P<inner>\[\d+\])?", declaration)
->>>>>>> warp
+    match = re.fullmatch(r"(?P<type>.+?)(?P<name>\w+)(?P<array>\[\d*\])?(?P<inner>\[\d+\])?", declaration)
     kind = re.sub(r"\s*\*", "*", match["type"].strip())
     if match["inner"]:
         kind += f"(*){match['inner']}"

@@ -10,9 +10,10 @@ namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
-// One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp. Those that go by the function's name
-// stand before those that go by the parameter's alone.
-constexpr Lesson kLessons[] = {FilterLesson, HogLesson, ResizeLesson, StatsLesson, ArithLesson, ThresholdLesson};
+// One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp. Those that go by the function's
+// name stand before those that go by the parameter's alone.
+constexpr Lesson kLessons[] = {FilterLesson, FourierLesson, HogLesson,   ResizeLesson,
+                               StatsLesson,  WarpLesson,    ArithLesson, ThresholdLesson};
 
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.

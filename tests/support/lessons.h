@@ -7,6 +7,7 @@ namespace test {
 
 bool ArithLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
+bool FourierLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool StatsLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,0 +1,101 @@
+// Steps of qvpi_transform.h: the spectrum of a picture, and the picture without its high frequencies.
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "examples/demo.h"
+
+namespace demo {
+namespace {
+
+using Plane = Image<qvpiMalloc_32f_C1, 1>;
+
+class Transform {
+ public:
+  explicit Transform(QvpiSize size) {
+    int bytes = 0, initBytes = 0, bufferBytes = 0;
+    Require(qvpiDFTGetSize_R_32f(size, 2, 0, &bytes, &initBytes, &bufferBytes));
+    record_.resize(bytes);
+    buffer_.resize(bufferBytes);
+    Require(qvpiDFTInit_R_32f(size, 2, 0, reinterpret_cast<QvpiDFTSpec_R_32f*>(record_.data()), nullptr));
+  }
+  const QvpiDFTSpec_R_32f* spec() const { return reinterpret_cast<const QvpiDFTSpec_R_32f*>(record_.data()); }
+  Qvp8u* buffer() { return buffer_.data(); }
+
+ private:
+  std::vector<Qvp8u> record_, buffer_;
+};
+
+Plane Green(const Rgb& photo) {
+  Plane green(photo.size());
+  for (int y = 0; y < photo.size().height; ++y) {
+    for (int x = 0; x < photo.size().width; ++x) *green.At(x, y) = photo.At(x, y)[1];
+  }
+  return green;
+}
+
+Qvp8u ToGrey(double v) { return static_cast<Qvp8u>(std::clamp(v, 0.0, 255.0) + 0.5); }
+
+// The logarithm of the magnitudes, frequency 0 in the middle.
+Grey LogMagnitude(Demo& demo, const Plane& spectrum) {
+  const QvpiSize size = spectrum.size();
+  Plane magnitude(size);
+  int bytes = 0;
+  Require(qvpiMagnitudePackGetBufferSize_32f(1, size, &bytes));
+  std::vector<Qvp8u> buffer(bytes);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiMagnitudePack_32f_C1R, spectrum.data(), spectrum.step(), magnitude.data(), magnitude.step(), size,
+                 buffer.data()));
+  Grey picture(size);
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      const float m = *magnitude.At((x + size.width / 2) % size.width, (y + size.height / 2) % size.height);
+      *picture.At(x, y) = ToGrey(20 * (std::log(1 + m) - 5));
+    }
+  }
+  return picture;
+}
+
+// A Gaussian of the distance from frequency 0, as a packed spectrum of real numbers.
+Plane LowPass(QvpiSize size, double width) {
+  Image<qvpiMalloc_32fc_C1, 1> whole(size);
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      const double u = 1.0 * std::min(x, size.width - x) / width, v = 1.0 * std::min(y, size.height - y) / width;
+      *whole.At(x, y) = {static_cast<Qvp32f>(std::exp(-(u * u + v * v) / 2)), 0};
+    }
+  }
+  Plane packed(size);
+  Require(qvpiCplxExtendToPack_32fc32f_C1R(whole.data(), whole.step(), packed.data(), packed.step(), size));
+  return packed;
+}
+
+Grey Rounded(const Plane& plane) {
+  Grey picture(plane.size());
+  for (int y = 0; y < plane.size().height; ++y) {
+    for (int x = 0; x < plane.size().width; ++x) *picture.At(x, y) = ToGrey(*plane.At(x, y));
+  }
+  return picture;
+}
+
+}  // namespace
+
+void FourierSteps(Demo& demo) {
+  const Plane green = Green(demo.photo());
+  const QvpiSize size = green.size();
+  Transform transform(size);
+  Plane spectrum(size), passed(size), back(size);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiDFTFwd_RToPack_32f_C1R, green.data(), green.step(), spectrum.data(), spectrum.step(),
+                 transform.spec(), transform.buffer()));
+  demo.Show("Spectrum, logarithm of the magnitude", LogMagnitude(demo, spectrum));
+  const Plane lowPass = LowPass(size, 24);
+  demo.Time(size, 4 + 4 + 4,
+            CALL(qvpiMulPack_32f_C1R, lowPass.data(), lowPass.step(), spectrum.data(), spectrum.step(), passed.data(),
+                 passed.step(), size));
+  Require(qvpiDFTInv_PackToR_32f_C1R(passed.data(), passed.step(), back.data(), back.step(), transform.spec(),
+                                     transform.buffer()));
+  demo.Show("Without its high frequencies", Rounded(back));
+}
+
+}  // namespace demo
