@@ -10,7 +10,7 @@
 
 namespace qvp {
 
-constexpr bool HasOwnButterfly(int factor) { return factor <= 5; }
+constexpr bool HasOwnButterfly(int factor) { return factor <= 5 || factor == 8; }
 
 // Where the lanes of real and of imaginary parts are in a number, in multiples of the lanes. With both exchanged, a
 // forward transform is an inverse one.
@@ -103,6 +103,29 @@ struct Butterfly<5> {
   }
 };
 
+// The even and the odd numbers by fours, then joined: (1 - i) / sqrt(2) and its like are turns by 45 degrees.
+template <>
+struct Butterfly<8> {
+  template <class V>
+  HWY_INLINE static void Apply(Complex<V>* x) {
+    const hn::DFromV<V> d;
+    const V root = hn::Set(d, 0x1.6a09e6p-1f);
+    Complex<V> even[] = {x[0], x[2], x[4], x[6]}, odd[] = {x[1], x[3], x[5], x[7]};
+    Butterfly<4>::Apply(even);
+    Butterfly<4>::Apply(odd);
+    odd[1] = root * MinusI(odd[1], odd[1]);
+    odd[3] = root * PlusI(odd[3], odd[3]);
+    x[0] = even[0] + odd[0];
+    x[4] = even[0] - odd[0];
+    x[1] = even[1] + odd[1];
+    x[5] = even[1] - odd[1];
+    x[2] = MinusI(even[2], odd[2]);
+    x[6] = PlusI(even[2], odd[2]);
+    x[3] = even[3] - odd[3];
+    x[7] = even[3] + odd[3];
+  }
+};
+
 // Any odd p: the sums and the differences of numbers k and p - k go with cosines and with sines.
 template <class V>
 HWY_INLINE void ApplyPrime(Complex<V>* x, int p, const float* pairs) {
@@ -173,6 +196,7 @@ void AnyPass(float* block, Planes planes, int64_t length, int64_t m, int factor,
   const auto pass = factor == 4   ? Pass<4, kOrder, kHasTwiddles, kLines>
                     : factor == 2 ? Pass<2, kOrder, kHasTwiddles, kLines>
                     : factor == 3 ? Pass<3, kOrder, kHasTwiddles, kLines>
+                    : factor == 8 ? Pass<8, kOrder, kHasTwiddles, kLines>
                     : factor == 5 ? Pass<5, kOrder, kHasTwiddles, kLines>
                                   : Pass<0, kOrder, kHasTwiddles, kLines>;
   pass(block, planes, length, m, factor, twiddles, primes);
@@ -204,7 +228,9 @@ void RunPassesUpward(const DftPlan& plan, const uint8_t* base, Planes planes, fl
   for (int i = plan.factorCount - 1; i >= 0; --i) {
     const int p = plan.factors[i];
     twiddles -= 2 * m * (p - 1);
-    const auto pass = p == 4 ? Pass<4, Order::kUp, true, kLines> : Pass<2, Order::kUp, true, kLines>;
+    const auto pass = p == 8   ? Pass<8, Order::kUp, true, kLines>
+                      : p == 4 ? Pass<4, Order::kUp, true, kLines>
+                               : Pass<2, Order::kUp, true, kLines>;
     pass(block, planes, length, m, p, twiddles, nullptr);
     m *= p;
   }

@@ -12,13 +12,17 @@ constexpr int64_t kPairBytes = 2 * sizeof(float), kBoundary = 64;
 
 int64_t RoundedUp(int64_t bytes) { return (bytes + kBoundary - 1) / kBoundary * kBoundary; }
 
-// Fills the factors of n, the largest last but for fours, which are first; false if one is too large.
+// Fills the factors of n: fours first, of which one may become an eight, then primes upward. False if one is too large.
 bool Factorise(int64_t n, DftPlan& plan) {
   plan.factorCount = 0;
   const auto take = [&](int factor) {
     for (; n % factor == 0; n /= factor) plan.factors[plan.factorCount++] = static_cast<uint8_t>(factor);
   };
   take(4);
+  if (n % 2 == 0 && plan.factorCount > 0) {  // the two that is left makes an eight
+    plan.factors[plan.factorCount - 1] = 8;
+    n /= 2;
+  }
   take(2);
   for (int factor = 3; factor <= kLargestFactor; factor += 2) take(factor);
   return n == 1;
