@@ -1508,6 +1508,7 @@ QvpStatus qvpiExp_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dst
  */
 QvpStatus qvpiExp_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiExp_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
 
 /** @name Conversion to a wider type
  *  @{ */

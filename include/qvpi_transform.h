@@ -54,11 +54,12 @@ extern "C" {
  *  @param pSpecSize size of the record in bytes
  *  @param pSpecBufferSize size in bytes of memory that the initialisation needs: 0
  *  @param pBufferSize size in bytes of the work buffer of each call
- *  @retval qvpStatusNoError the sizes are written
- *  @retval qvpStatusNullPointer an output pointer is null
- *  @retval qvpStatusFftOrder an order is not within 0 to 29
- *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
- *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes; 0 is written for it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an output pointer is null
+ *  - qvpStatusFftOrder: an order is not within 0 to 29
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is beyond 2147483647 bytes; 0 is written for it
+ *  - qvpStatusNoError: the sizes are written
  */
 QvpStatus qvpiFFTGetSize_R_32f(int orderX, int orderY, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QvpStatus qvpiFFTGetSize_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
@@ -77,12 +78,13 @@ QvpStatus qvpiFFTGetSize_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorit
  *  @param hint ignored
  *  @param pSpec the record; after a failure every transform refuses it
  *  @param pMemInit not needed, may be null
- *  @retval qvpStatusNoError the record is ready
- *  @retval qvpStatusFftOrder an order is not within 0 to 30
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusFftOrder an order is 30
- *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
- *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusFftOrder: an order is not within 0 to 30
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusFftOrder: an order is 30
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is beyond 2147483647 bytes
+ *  - qvpStatusNoError: the record is ready
  */
 QvpStatus qvpiFFTInit_R_32f(int orderX, int orderY, int flag, QvpHintAlgorithm hint, QvpiFFTSpec_R_32f* pSpec, Qvp8u* pMemInit);
 QvpStatus qvpiFFTInit_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
@@ -105,12 +107,13 @@ QvpStatus qvpiFFTInit_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm 
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -128,12 +131,13 @@ QvpStatus qvpiFFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -158,12 +162,13 @@ QvpStatus qvpiFFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -181,12 +186,13 @@ QvpStatus qvpiFFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -210,12 +216,13 @@ QvpStatus qvpiFFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -229,12 +236,13 @@ QvpStatus qvpiFFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pD
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -255,12 +263,13 @@ QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -274,12 +283,13 @@ QvpStatus qvpiFFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pD
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -297,11 +307,12 @@ QvpStatus qvpiFFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  @param pSpecSize size of the record in bytes
  *  @param pSpecBufferSize size in bytes of memory that the initialisation needs: 0
  *  @param pBufferSize size in bytes of the work buffer of each call
- *  @retval qvpStatusNoError the sizes are written
- *  @retval qvpStatusNullPointer an output pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
- *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes; 0 is written for it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an output pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is beyond 2147483647 bytes; 0 is written for it
+ *  - qvpStatusNoError: the sizes are written
  */
 QvpStatus qvpiDFTGetSize_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QvpStatus qvpiDFTGetSize_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
@@ -319,11 +330,12 @@ QvpStatus qvpiDFTGetSize_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hin
  *  @param hint ignored
  *  @param pSpec the record; after a failure every transform refuses it
  *  @param pMemInit not needed, may be null
- *  @retval qvpStatusNoError the record is ready
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusFftFlag the flag is none of 1, 2, 4 and 8
- *  @retval qvpStatusSizeOverflow a size is beyond 2147483647 bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is beyond 2147483647 bytes
+ *  - qvpStatusNoError: the record is ready
  */
 QvpStatus qvpiDFTInit_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDFTSpec_R_32f* pSpec, Qvp8u* pMemInit);
 QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
@@ -346,12 +358,13 @@ QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, 
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -369,12 +382,13 @@ QvpStatus qvpiDFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -399,12 +413,13 @@ QvpStatus qvpiDFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -422,12 +437,13 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
@@ -451,12 +467,13 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -470,12 +487,13 @@ QvpStatus qvpiDFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pD
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -496,12 +514,13 @@ QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  @param dstStep bytes between rows of the destination
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -515,12 +534,13 @@ QvpStatus qvpiDFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pD
  *  @param srcDstStep bytes between rows
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer the record is null
- *  @retval qvpStatusContextMatch the record is not one of this family, or its initialisation failed
- *  @retval qvpStatusNullPointer an image is null
- *  @retval qvpStatusStep a step is less than 1
- *  @retval qvpStatusNullPointer the buffer is null
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the record is null
+ *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNullPointer: the buffer is null
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
@@ -539,10 +559,11 @@ QvpStatus qvpiDFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  @param pDst destination
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels of the images that the spectra are of
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiMulPack_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
@@ -562,10 +583,11 @@ QvpStatus qvpiMulPack_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* 
  *  @param pSrcDst second spectrum, b, and destination
  *  @param srcDstStep bytes between its rows
  *  @param roiSize size in pixels of the images that the spectra are of
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiMulPack_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -587,10 +609,11 @@ QvpStatus qvpiMulPack_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst
  *  @param pDst destination
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels of the images that the spectra are of
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiMulPackConj_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
@@ -610,10 +633,11 @@ QvpStatus qvpiMulPackConj_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp3
  *  @param pSrcDst second spectrum, b, and destination
  *  @param srcDstStep bytes between its rows
  *  @param roiSize size in pixels of the images that the spectra are of
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiMulPackConj_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -629,11 +653,12 @@ QvpStatus qvpiMulPackConj_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSr
  *  @param numChannels 1, 3 or 4
  *  @param roiSize size in pixels
  *  @param pBufferSize size in bytes
- *  @retval qvpStatusNoError the size is written
- *  @retval qvpStatusNullPointer the output pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusNumChannels the number of channels is none of 1, 3 and 4
- *  @retval qvpStatusSizeOverflow the size is beyond 2147483647 bytes; 0 is written
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the output pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusNumChannels: the number of channels is none of 1, 3 and 4
+ *  - qvpStatusSizeOverflow: the size is beyond 2147483647 bytes; 0 is written
+ *  - qvpStatusNoError: the size is written
  */
 QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, int* pBufferSize);
 /** @} */
@@ -652,10 +677,11 @@ QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, 
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels
  *  @param pBuffer buffer of the size that the size query told
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiMagnitudePack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
 QvpStatus qvpiMagnitudePack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
@@ -677,10 +703,11 @@ QvpStatus qvpiMagnitudePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
  *  @param pDst destination, of the same size
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiPhasePack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiPhasePack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
@@ -698,10 +725,11 @@ QvpStatus qvpiPhasePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, 
  *  @param pDst complex spectrum; must not overlap the source
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels of both
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, QvpiSize roiSize);
 /** @} */
@@ -717,10 +745,11 @@ QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
  *  @param pDst packed spectrum; must not overlap the source
  *  @param dstStep bytes between its rows
  *  @param roiSize size in pixels of both
- *  @retval qvpStatusNoError the result is written
- *  @retval qvpStatusNullPointer a pointer is null
- *  @retval qvpStatusSize a side is less than 1
- *  @retval qvpStatusStep a step is less than 1
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is less than 1
+ *  - qvpStatusStep: a step is less than 1
+ *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiCplxExtendToPack_32fc32f_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 /** @} */
