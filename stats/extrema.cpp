@@ -327,7 +327,7 @@ QvpStatus ExtremeWithPosition(const Image<const T>& src, Size roi, T* values, in
     return BothExtremes(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, roiSize, pMin, pMax);            \
   }
 
-QVP_C1_C3_C4_AC4(EXTREMA, 8u)
-QVP_C1_C3_C4_AC4(EXTREMA, 16u)
-QVP_C1_C3_C4_AC4(EXTREMA, 16s)
-QVP_C1_C3_C4_AC4(EXTREMA, 32f)
+QVP_EACH_LAYOUT(EXTREMA, 8u)
+QVP_EACH_LAYOUT(EXTREMA, 16u)
+QVP_EACH_LAYOUT(EXTREMA, 16s)
+QVP_EACH_LAYOUT(EXTREMA, 32f)
