@@ -46,7 +46,8 @@ float NearShare(int i, int cell) {
 
 // The Gaussian around the middle of the block.
 float Gaussian(int i, int j, const QvpiHOGConfig& config) {
-  const float middle = static_cast<float>(config.blockSize / 2) - 0.5f;
+  const int half = config.blockSize / 2;
+  const float middle = static_cast<float>(half) - 0.5f;
   const float dx = static_cast<float>(i) - middle, dy = static_cast<float>(j) - middle;
   const float f = 1 / (2 * config.sigma * config.sigma);
   return hn::GetLane(Exp(hn::Set(hn::FixedTag<float, 4>(), -(dx * dx + dy * dy) * f)));

@@ -233,7 +233,7 @@ Turn SmallTurn(double degrees) {
 }
 Turn TurnBy(double degrees) {
   const double angle = Remainder(Magnitude(degrees), 360);
-  const int quarter = static_cast<int>(angle / 90 + 0.5);
+  const int quarter = (static_cast<int>(angle / 45) + 1) / 2;  // the nearest one
   const Turn t = SmallTurn(angle - 90.0 * quarter);
   const double cosines[] = {t.cosine, -t.sine, -t.cosine, t.sine};
   const double sine = cosines[(quarter + 3) % 4];
