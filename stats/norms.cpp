@@ -136,7 +136,7 @@ void WithMeters(int channels, QvpHintAlgorithm hint, const Use& use) {
     using Meter = LargestMeter<T, Magnitude<hn::ScalableTag<T>>>;
     use.template operator()<Meter, Meter>();
   } else if constexpr (std::is_integral_v<T>) {
-    if (channels == 1) {
+    if (channels == 1) {  // NOLINT(bugprone-branch-clone): the template arguments differ
       use.template operator()<IntegerMeterFor<kNorm, T, true, true>, IntegerMeterFor<kNorm, T, false, true>>();
     } else {
       use.template operator()<IntegerMeterFor<kNorm, T, true, false>, IntegerMeterFor<kNorm, T, false, false>>();
