@@ -126,9 +126,10 @@ void Scatter(const float* block, float scale, const DftLines<float>& lines, ptrd
         }
         Transpose(v);
         for (int t = 0; t < kTile; ++t) {
-          StoreLower(Lanes(), v[t], l + t < lines.count, At(lines.at[l + t], i * stride), stride);
-          StoreUpper(Lanes(), v[t], l + t + kTile < lines.count, At(lines.at[(l + t + kTile) % kDftLines], i * stride),
+          StoreLower(Lanes(), v[t], l + t < lines.count, At(lines.at[std::min(l + t, lines.count - 1)], i * stride),
                      stride);
+          StoreUpper(Lanes(), v[t], l + t + kTile < lines.count,
+                     At(lines.at[std::min(l + t + kTile, lines.count - 1)], i * stride), stride);
         }
       }
     }
