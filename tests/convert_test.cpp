@@ -52,9 +52,9 @@ std::vector<S> Values() {
   if constexpr (!std::numeric_limits<S>::is_integer) {
     using L = std::numeric_limits<S>;
     const S below = std::nextafter(S{0.5}, S{0});
-    values.insert(values.end(),
-                  {S{0}, -S{0}, below, -below, L::quiet_NaN(), L::infinity(), -L::infinity(), L::denorm_min(),
-                   -L::denorm_min(), L::max(), L::lowest(), S{254.5}, S{255.5}, S{65535.5}, S{2147483647}});
+    values.insert(values.end(), {S{0}, -S{0}, below, -below, L::quiet_NaN(), L::infinity(), -L::infinity(),
+                                 L::denorm_min(), -L::denorm_min(), L::max(), L::lowest(), S{254.5}, S{255.5},
+                                 S{65535.5}, static_cast<S>(2147483648.0)});
   } else {
     values.insert(values.end(), {std::numeric_limits<S>::lowest(), std::numeric_limits<S>::max(), S{0}});
   }
@@ -285,7 +285,9 @@ void CheckBits(QvpStatus (*toGrey)(const Qvp8u*, int, int, T*, int, QvpiSize, T,
         for (int i = 0; i < bytes * 8; ++i) {
           const auto bit = [&](const test::Image<uint8_t>& image) { return image(i / 8, y) >> (7 - i % 8) & 1; };
           const bool isPixel = i >= offset && i < offset + width;
-          if (isPixel) ASSERT_EQ(grey(i - offset, y), bit(bits) ? T{90} : T{3});
+          if (isPixel) {
+            ASSERT_EQ(grey(i - offset, y), bit(bits) ? T{90} : T{3});
+          }
           ASSERT_EQ(bit(back), isPixel ? bit(bits) : bit(before)) << offset << ' ' << width << ' ' << i;
         }
       }

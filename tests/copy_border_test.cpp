@@ -165,7 +165,9 @@ TEST(CopyBorder, OnePointerForBothIsTheFormInPlace) {
     const bool checksFirst = m.kind == Kind::kWrap;
     ASSERT_EQ(m.inPlace(a.data() + inside, a.step(), f, nullptr), 0);
     EXPECT_EQ(m.copy(b.data() + inside, 0, b.data() + inside, b.step(), f, nullptr), checksFirst ? qvpStatusStep : 0);
-    if (checksFirst) EXPECT_EQ(m.copy(b.data() + inside, 1, b.data() + inside, b.step(), f, nullptr), 0);
+    if (checksFirst) {
+      EXPECT_EQ(m.copy(b.data() + inside, 1, b.data() + inside, b.step(), f, nullptr), 0);
+    }
     for (int y = 0; y < f.dst.height; ++y) {
       for (int i = 0; i < f.dst.width * m.pixel(); ++i) ASSERT_EQ(a(i, y), b(i, y)) << m.name;
     }

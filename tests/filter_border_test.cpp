@@ -64,7 +64,9 @@ class Prepared {
     spec_ = std::make_unique<Block>(spec + phase_);
     buffer_ = std::make_unique<Block>(buffer);
     EXPECT_EQ(Init(f, type, channels, get()), 0);
-    if (f.offset != 0) EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, f.offset, get()), 0);
+    if (f.offset != 0) {
+      EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, f.offset, get()), 0);
+    }
   }
   QvpiFilterBorderSpec* get() const { return reinterpret_cast<QvpiFilterBorderSpec*>(spec_->data() + phase_); }
   Qvp8u* buffer() const { return buffer_->data(); }
