@@ -103,10 +103,10 @@ void Check(const Export& function, const std::vector<Argument>& further, const E
   ASSERT_EQ(function.call(arguments.data()), qvpStatusNoError) << function.name;
   for (int i = 0; i < samples * height; ++i) {
     const int x = i % samples, y = i / samples;
-    T is, wanted = x % channels < written ? expected(given(x, y)) : kept(x, y);
+    T is{}, wanted = x % channels < written ? expected(given(x, y)) : kept(x, y);
     if (inPlace) {
       const S bits = src(x, y);
-      std::memcpy(&is, &bits, sizeof(is));
+      std::memcpy(&is, &bits, std::min(sizeof(is), sizeof(bits)));
     } else {
       is = dst(x, y);
     }
