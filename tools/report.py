@@ -24,6 +24,8 @@ def run(program, library, repetitions, only):
     output = subprocess.run(command, check=True, capture_output=True, text=True,
                             env={**os.environ, "LD_LIBRARY_PATH": str(library)}).stdout
     rows = {}
+    if not output:  # no row of this program matches
+        return rows
     for entry in json.loads(output)["benchmarks"]:
         match = PART.fullmatch(entry["run_name"])
         if entry["run_type"] != "iteration" or not match:
@@ -67,6 +69,8 @@ def main():
     rows = {}
     for program in options.programs:
         rows.update(run(program, options.library, options.repetitions, options.only))
+    if not rows:
+        parser.error(f"no row matches {options.only}")
     machine = {name: row for name, row in rows.items() if "ours" not in row}
     text = ["| machine limit | ordinary stores, GB/s | streaming stores, GB/s |", "|---|---|---|"]
     text += [machine_line(name, row) for name, row in sorted(machine.items())]
