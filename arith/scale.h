@@ -29,28 +29,39 @@ class ScaleDown {
  public:
   explicit ScaleDown(int scale)
       : count_(std::min(scale, kLast)),
-        bias_(static_cast<L>((uint64_t{1} << (count_ - 1)) - 1)),
-        odd_(count_ < kBits<L> ? 1 : 0),
-        keep_(scale > kLast ? L{0} : static_cast<L>(~L{0})) {}
+        bias_(IsTooFar(scale) ? L{0} : static_cast<L>((uint64_t{1} << (count_ - 1)) - 1)),
+        odd_(count_ < kBits<L> ? 1 : 0) {}
 
   template <class V>
   HWY_INLINE V operator()(V exact) const {
     const hn::DFromV<V> d;
     const V odd = hn::And(hn::ShiftRightSame(exact, count_ % kBits<L>), hn::Set(d, odd_));
+    const V bias = hn::Add(odd, hn::Set(d, bias_));
     if constexpr (std::is_signed_v<L>) {
-      return hn::ShiftRightSame(hn::Add(exact, hn::Add(odd, hn::Set(d, bias_))), count_);
-    } else {  // the sum may need one bit more, so half of it is computed: x + y = 2 (x & y) + (x ^ y)
-      const V bias = hn::Add(odd, hn::Set(d, bias_));
-      const V half = hn::Add(hn::And(exact, bias), hn::ShiftRight<1>(hn::Xor(exact, bias)));
-      return hn::And(hn::ShiftRightSame(half, count_ - 1), hn::Set(d, keep_));
+      return hn::ShiftRightSame(hn::Add(exact, bias), count_);
+    } else {
+      return hn::ShiftRightSame(HalfOfSum(exact, bias), count_ - 1);
     }
   }
 
  private:
   static constexpr int kLast = std::is_signed_v<L> ? kBits<L> - 1 : kBits<L>;
+
+  // Beyond the last count nothing is left, but in unsigned lanes the bias could still carry a value to 1.
+  static bool IsTooFar(int scale) { return std::is_unsigned_v<L> && scale > kLast; }
+
+  // (exact + bias) / 2, rounded down, of unsigned lanes: the sum may need one bit more.
+  template <class V>
+  static HWY_INLINE V HalfOfSum(V exact, V bias) {
+    if constexpr (sizeof(L) == 2) {  // the CPU averages upwards; from 0 nothing is taken, but that half is shifted out
+      return hn::AverageRound(hn::SaturatedSub(exact, hn::Set(hn::DFromV<V>(), 1)), bias);
+    } else {  // x + y = 2 (x & y) + (x ^ y)
+      return hn::Add(hn::And(exact, bias), hn::ShiftRight<1>(hn::Xor(exact, bias)));
+    }
+  }
+
   int count_;
   L bias_, odd_;
-  L keep_;  // nothing beyond the last count, at which unsigned lanes still may be rounded to 1
 };
 
 // scale < 0: exact << -scale. Values that leave T are first reduced to the nearest one that leaves it still, so that
