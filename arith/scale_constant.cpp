@@ -2,6 +2,7 @@
 #include "arith/nan.h"
 #include "base/check.h"
 #include "base/export.h"
+#include "base/halves.h"
 #include "base/pixelwise.h"
 #include "core/copy.h"
 
@@ -25,6 +26,25 @@ void ScaleIn(const Image<const S>& src, double factor, double addend, const Imag
   MapOneChannel(hn::ScalableTag<F>(), kernel, roi, dst, src);
 }
 
+// The same from bytes to bytes, in single precision. No result leaves the integers if those of 0 and 255 do not: then
+// packing saturates alone.
+void ScaleBytes(const Image<const uint8_t>& src, double factor, double addend, const Image<uint8_t>& dst, Size roi) {
+  const auto m = static_cast<float>(factor), a = static_cast<float>(addend);
+  const auto scaled = [=](auto v) HWY_ATTR {
+    const hn::DFromV<decltype(v)> d;
+    return hn::Add(hn::Mul(v, hn::Set(d, m)), hn::Set(d, a));
+  };
+  const hn::ScalableTag<uint8_t> bytes;
+  if (std::abs(m) * 255 + std::abs(a) < 0x1p30f) {
+    const auto kernel = [=](auto v) HWY_ATTR {
+      return ViaFloats([=](auto lanes) HWY_ATTR { return RoundToInt(scaled(lanes)); }, v);
+    };
+    MapOneChannel(bytes, kernel, roi, dst, src);
+  } else {
+    MapOneChannel(bytes, InFloatLanes(scaled), roi, dst, src);
+  }
+}
+
 // The fast way computes in single precision where that holds all values of both types.
 template <class T>
 constexpr bool kIsSingle = sizeof(T) <= 2 || std::is_same_v<T, float>;
@@ -45,7 +65,14 @@ QvpStatus ScaleC(const Image<const S>& src, double factor, double addend, const 
   }
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst})) return failed;
   if constexpr (kIsSingle<S> && kIsSingle<T>) {
-    if (hint != qvpAlgHintAccurate) return ScaleIn<float>(src, factor, addend, dst, roi), qvpStatusNoError;
+    if (hint != qvpAlgHintAccurate) {
+      if constexpr (std::is_same_v<S, uint8_t> && std::is_same_v<T, uint8_t>) {
+        ScaleBytes(src, factor, addend, dst, roi);
+      } else {
+        ScaleIn<float>(src, factor, addend, dst, roi);
+      }
+      return qvpStatusNoError;
+    }
   }
   ScaleIn<double>(src, factor, addend, dst, roi);
   return qvpStatusNoError;
