@@ -303,6 +303,17 @@ QvpStatus Answer(const QvpiMomentState_64f* from, int m, int n, int channel, voi
 
 void Store(double* to, double v) { std::memcpy(to, &v, sizeof(v)); }
 
+// Stores value(channel), for moments that are relative to the sum of the pixels.
+template <class Value>
+QvpStatus AnswerUnlessVanishing(const QvpiMomentState_64f* from, int m, int n, int channel, double* out,
+                                const Value& value) {
+  return Answer(from, m, n, channel, out, [&](const Channel& moments) -> QvpStatus {
+    if (moments.Vanishes()) return qvpStatusMoment00Zero;
+    Store(out, value(moments));
+    return qvpStatusNoError;
+  });
+}
+
 // Hu's invariants of the normalised central moments.
 void HuInvariants(const Channel& moments, double* h) {
   const auto eta = [&](int m, int n) { return moments.NormalisedCentral(m, n); };
@@ -355,29 +366,21 @@ QvpStatus qvpiGetSpatialMoment_64f(const QvpiMomentState_64f* pState, int mOrd, 
 
 QvpStatus qvpiGetCentralMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel,
                                    Qvp64f* pValue) {
-  return Answer(pState, mOrd, nOrd, nChannel, pValue, [&](const Channel& moments) -> QvpStatus {
-    if (moments.Vanishes()) return qvpStatusMoment00Zero;
-    Store(pValue, moments.Central(mOrd, nOrd));
-    return qvpStatusNoError;
-  });
+  return AnswerUnlessVanishing(pState, mOrd, nOrd, nChannel, pValue,
+                               [&](const Channel& moments) { return moments.Central(mOrd, nOrd); });
 }
 
 QvpStatus qvpiGetNormalizedSpatialMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel,
                                              QvpiPoint roiOffset, Qvp64f* pValue) {
-  return Answer(pState, mOrd, nOrd, nChannel, pValue, [&](const Channel& moments) -> QvpStatus {
-    if (moments.Vanishes()) return qvpStatusMoment00Zero;
-    Store(pValue, moments.Normalised(moments.About(roiOffset.x, roiOffset.y, mOrd, nOrd), mOrd + nOrd));
-    return qvpStatusNoError;
+  return AnswerUnlessVanishing(pState, mOrd, nOrd, nChannel, pValue, [&](const Channel& moments) {
+    return moments.Normalised(moments.About(roiOffset.x, roiOffset.y, mOrd, nOrd), mOrd + nOrd);
   });
 }
 
 QvpStatus qvpiGetNormalizedCentralMoment_64f(const QvpiMomentState_64f* pState, int mOrd, int nOrd, int nChannel,
                                              Qvp64f* pValue) {
-  return Answer(pState, mOrd, nOrd, nChannel, pValue, [&](const Channel& moments) -> QvpStatus {
-    if (moments.Vanishes()) return qvpStatusMoment00Zero;
-    Store(pValue, moments.NormalisedCentral(mOrd, nOrd));
-    return qvpStatusNoError;
-  });
+  return AnswerUnlessVanishing(pState, mOrd, nOrd, nChannel, pValue,
+                               [&](const Channel& moments) { return moments.NormalisedCentral(mOrd, nOrd); });
 }
 
 QvpStatus qvpiGetHuMoments_64f(const QvpiMomentState_64f* pState, int nChannel, Qvp64f* pHm) {
