@@ -1,36 +1,10 @@
 // Pixel-wise arithmetic.
 #include <algorithm>
-#include <opencv2/core.hpp>
 
-#include "bench/support.h"
-#include "qvpi.h"
+#include "bench/image.h"
 
 namespace {
 using namespace bench;
-
-// An image of ours and the same memory as a matrix of the peer.
-template <class T>
-struct Image {
-  std::shared_ptr<T[]> pixels;
-  int step;
-  QvpiSize size;
-  mutable cv::Mat mat;  // the peer takes its outputs as changeable headers
-
-  Image(QvpiSize s, int channels)
-      : pixels(Pixels<T>(size_t{1} * s.width * s.height * channels)),
-        step(s.width * channels * int{sizeof(T)}),
-        size(s),
-        mat(s.height, s.width, CV_MAKETYPE(cv::DataType<T>::depth, channels), pixels.get()) {}
-
-  T* data() const { return pixels.get(); }
-  size_t bytes() const { return size_t{1} * step * size.height; }
-};
-
-constexpr QvpiSize kTile{64, 64}, kVga{640, 480}, kHd{1920, 1080}, kLarge{8000, 6000};
-
-std::string Name(const char* what, QvpiSize size) {
-  return std::string(what) + " " + std::to_string(size.width) + "x" + std::to_string(size.height);
-}
 
 // Numbers from 0.5 to 20.5: no subnormal, zero or NaN, which peers and CPUs treat at speeds of their own.
 Image<float> Floats(QvpiSize size, int channels = 1) {
@@ -113,8 +87,9 @@ void Quotients() {
   const auto ours = [](const Qvp8u* a, int as, const Qvp8u* b, int bs, Qvp8u* d, int ds, QvpiSize size, int scale) {
     return std::min(0, qvpiDiv_8u_C1RSfs(a, as, b, bs, d, ds, size, scale));  // zero divisors are part of the work
   };
+  AddBinary<uint8_t>("divide scale 0 8u C1", kVga, 1, ours, 0, "OpenCV divide", divide);
   AddBinary<uint8_t>("divide scale 0 8u C1", kHd, 1, ours, 0, "OpenCV divide", divide, 1.5);
-  for (const QvpiSize size : {kHd, kLarge}) {
+  for (const QvpiSize size : {kVga, kHd, kLarge}) {
     const Image<float> a = Floats(size), b = Floats(size), dst = Floats(size);
     Add({Name("divide 32f C1", size),
          {a.bytes() + b.bytes(), dst.bytes()},

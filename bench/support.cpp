@@ -3,10 +3,12 @@
 #include <benchmark/benchmark.h>
 #include <immintrin.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <opencv2/core.hpp>
 #include <random>
+#include <vector>
 
 namespace bench {
 namespace {
@@ -79,11 +81,19 @@ void Time(const std::string& name, std::function<void()> call) {
   });
 }
 
+size_t largest = 0;  // bytes that a row reads or writes
+
+// What limits are measured with, made when the first one is.
+uint8_t* Scratch(int which) {
+  static const std::shared_ptr<uint8_t[]> buffers[] = {Pixels<uint8_t>(largest + 64), Pixels<uint8_t>(largest + 64)};
+  return buffers[which].get();
+}
+
 void AddLimits(const std::string& name, Traffic traffic) {
-  const auto from = Pixels<uint8_t>(traffic.reads + 64), to = Pixels<uint8_t>(traffic.writes + traffic.updates + 64);
-  Time(name + "/limit", [=] { Limit<false>(from.get(), to.get(), traffic); });
-  if (traffic.writes + traffic.updates > 0)
-    Time(name + "/limit streaming", [=] { Limit<true>(from.get(), to.get(), traffic); });
+  const size_t written = traffic.writes + traffic.updates;
+  largest = std::max({largest, size_t{traffic.reads}, written});
+  Time(name + "/limit", [=] { Limit<false>(Scratch(0), Scratch(1), traffic); });
+  if (written > 0) Time(name + "/limit streaming", [=] { Limit<true>(Scratch(0), Scratch(1), traffic); });
 }
 
 // The four classic rates, in and out of cache.
@@ -110,15 +120,24 @@ void Require(int status) {
   std::abort();
 }
 
+// A mebibyte of noise: long enough that no CPU learns it.
+const std::vector<uint8_t>& Noise() {
+  static const auto noise = [] {
+    std::vector<uint8_t> bytes(size_t{1} << 20);
+    std::minstd_rand random(1);
+    for (auto& byte : bytes) byte = static_cast<uint8_t>(random() >> 8);
+    return bytes;
+  }();
+  return noise;
+}
+
 template <class T>
 std::shared_ptr<T[]> Pixels(size_t count) {
   const size_t bytes = (count * sizeof(T) + 63) & ~size_t{63};
   auto* data = static_cast<uint8_t*>(std::aligned_alloc(4096, (bytes + 4095) & ~size_t{4095}));
-  std::minstd_rand random(1);
-  for (size_t i = 0; i + 4 <= bytes; i += 4) {
-    const uint32_t value = static_cast<uint32_t>(random()) << 1 ^ static_cast<uint32_t>(random()) >> 7;
-    std::memcpy(data + i, &value, 4);
-  }
+  const auto& noise = Noise();
+  for (size_t i = 0; i < bytes; i += noise.size())
+    std::memcpy(data + i, noise.data(), std::min(bytes - i, noise.size()));
   return {reinterpret_cast<T*>(data), [](T* p) { std::free(p); }};
 }
 template std::shared_ptr<int8_t[]> Pixels(size_t);
