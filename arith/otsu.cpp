@@ -15,15 +15,15 @@ constexpr double kSmallestShare = 1.1920928955078125e-7, kLargestShare = 0.99999
 //   (w1 m - w0 (mean - m))^2 / (w0 w1)
 // with the shares w0, w1 of the classes and the first moment m of the lower one. Levels stand for the middles of their
 // intervals. The lowest of several such levels; 0 when no level has pixels on both sides.
-int BestLevel(const ByteCounts& counts, double pixels) {
+int BestLevel(const ByteCounts<8>::Counts& counts, double pixels) {
   const double share = pixels > kSmallestShare ? 1 / pixels : 0;
   double sum = 0;
-  for (int i = 0; i < 256; ++i) sum += (i + 0.5) * counts.Of(i);
+  for (int i = 0; i < 256; ++i) sum += (i + 0.5) * counts[i];
   const double mean = share * sum;
   double w0 = 0, moment = 0, best = 0;
   int level = 0;
   for (int k = 0; k < 256; ++k) {
-    const double p = share * counts.Of(k);
+    const double p = share * counts[k];
     w0 += p;
     const double w1 = 1 - w0;
     if (!(std::min(w0, w1) >= kSmallestShare && std::max(w0, w1) <= kLargestShare)) continue;
@@ -44,9 +44,9 @@ QvpStatus qvpiComputeThreshold_Otsu_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiS
   const ConstBytes src{pSrc, srcStep, Layout::kC1};
   if (const QvpStatus failed = Validate<kPointers, kSize>(roiSize, {src}, {pThreshold})) return failed;
   if (srcStep < roiSize.width) return qvpStatusStep;
-  ByteCounts counts;
+  ByteCounts<8> counts;
   Rows(src).ForEach(roiSize, [&](ptrdiff_t width, const uint8_t* row) { counts.Add(row, width); });
   const double pixels = static_cast<double>(roiSize.width) * roiSize.height;
-  *pThreshold = static_cast<Qvp8u>(BestLevel(counts, pixels));
+  *pThreshold = static_cast<Qvp8u>(BestLevel(counts.Of(0, 1), pixels));
   return qvpStatusNoError;
 }

@@ -2,6 +2,7 @@
 //   a table of all values, from which the bins are added up: 8-bit and 16-bit integers
 //   a guess by arithmetic, put right by the levels next to it: bins of equal width
 //   a binary search among the levels: all other floats
+#include "base/byte_counts.h"
 #include "base/check.h"
 #include "base/export.h"
 #include "base/map.h"
@@ -45,48 +46,24 @@ void AddBins(const Task<T>& task, int channel, const Count& count) {
   const auto place = [&](ptrdiff_t k) {
     return std::clamp<int64_t>(task.record.template Level<int32_t>(channel, k) - kLowest, 0, kValues);
   };
-  for (ptrdiff_t k = 0; k < task.record.Bins(channel); ++k) {
+  int64_t first = place(0);
+  for (ptrdiff_t k = 0, bins = task.record.Bins(channel); k < bins; ++k) {
+    const int64_t end = place(k + 1);
     uint32_t sum = 0;
-    for (int64_t i = place(k); i < place(k + 1); ++i) sum += count(i);
+    for (int64_t i = first; i < end; ++i) sum += count(i);
     AddTo(task.Counts(channel), k, sum);
+    first = end;
   }
 }
 
-// Neighbouring pixels are often equal, and an increment has to wait for the one before it of the same counter: so
-// samples take turns in kTables tables, a multiple of the channels.
-template <int kTables>
-class Tables {
- public:
-  void Add(const uint8_t* row, ptrdiff_t n) {
-    ptrdiff_t i = 0;
-    for (; i + kTables <= n; i += kTables) {
-      for (int t = 0; t < kTables; t += 4) {
-        uint32_t four;
-        std::memcpy(&four, row + i + t, sizeof(four));
-        for (int j = 0; j < 4; ++j) ++tables_[t + j][four >> 8 * j & 0xFF];
-      }
-    }
-    for (int t = 0; i < n; ++i, ++t) ++tables_[t][row[i]];
-  }
-  uint32_t Of(int channel, int channels, ptrdiff_t value) const {
-    uint32_t count = 0;
-    for (int t = channel; t < kTables; t += channels) count += tables_[t][value];
-    return count;
-  }
-
- private:
-  // Tables lie so far apart that equal values do not fall on places that a CPU takes for the same one.
-  static constexpr int kApart = 256 + 16;
-  uint32_t tables_[kTables][kApart] = {};
-};
-
 template <int kTables>
 void CountBytes(const Task<uint8_t>& task) {
-  Tables<kTables> tables;
+  ByteCounts<kTables> counts;
   const int channels = task.channels();
-  Rows(task.src).ForEach(task.roi, [&](ptrdiff_t pixels, const uint8_t* row) { tables.Add(row, pixels * channels); });
+  Rows(task.src).ForEach(task.roi, [&](ptrdiff_t pixels, const uint8_t* row) { counts.Add(row, pixels * channels); });
   for (int c = 0; c < channels; ++c) {
-    AddBins(task, c, [&](int64_t value) { return tables.Of(c, channels, value); });
+    const auto values = counts.Of(c, channels);
+    AddBins(task, c, [&](int64_t value) { return values[value]; });
   }
 }
 
@@ -111,7 +88,7 @@ void CountWords(const Task<T>& task, uint32_t* buffer) {
 // has bins too, which are dropped.
 class GuessedBins {
  public:
-  static constexpr int kMostLevels = 512;
+  static constexpr int kMostLevels = 512, kTurns = 4;
 
   // Whether each guess is less than one bin away from the right one, by how far the levels may be from equidistant
   // ones, in widths of a bin.
@@ -132,15 +109,26 @@ class GuessedBins {
     table_[0] = -__builtin_inff();
     for (int k = 0; k < n; ++k) table_[k + 1] = static_cast<float>(record.Level<L>(channel, k));
     table_[n + 1] = __builtin_inff();
-    std::memset(counts_, 0, sizeof(counts_[0][0]) * 2 * (kMostLevels + 2));
+    std::memset(counts_, 0, sizeof(counts_));
     return true;
   }
 
   // A value is at most one entry away from its guess. NaN stays where it is guessed, at 0.
   int Corrected(float v, int guess) const { return guess + (v >= table_[guess + 1]) - (v < table_[guess]); }
-  HWY_INLINE void Count(int turn, int entry) { ++counts_[turn][entry]; }
+  // The entries at guesses[0], guesses[step] and so on below n. They take turns in the tables.
+  void Count(const int32_t* guesses, ptrdiff_t step, ptrdiff_t n) {
+    ptrdiff_t i = 0;
+    for (; i + (kTurns - 1) * step < n; i += kTurns * step) {
+      for (int turn = 0; turn < kTurns; ++turn) ++counts_[turn][guesses[i + turn * step]];
+    }
+    for (; i < n; i += step) ++counts_[0][guesses[i]];
+  }
   void AddToBins(uint32_t* counts) const {
-    for (ptrdiff_t k = 0; k + 1 < levels_; ++k) AddTo(counts, k, counts_[0][k + 1] + counts_[1][k + 1]);
+    for (ptrdiff_t k = 0; k + 1 < levels_; ++k) {
+      uint32_t sum = 0;
+      for (const auto& table : counts_) sum += table[k + 1];
+      AddTo(counts, k, sum);
+    }
   }
 
   float lower = 0, scale = 0, top = 0, margin = 0;
@@ -148,7 +136,7 @@ class GuessedBins {
  private:
   int levels_ = 0;
   float table_[kMostLevels + 2];
-  uint32_t counts_[2][kMostLevels + 2];
+  uint32_t counts_[kTurns][kMostLevels + 2];
 };
 
 template <class T>
@@ -173,7 +161,7 @@ class GuessedCounter {
       for (ptrdiff_t i = 0; i < pixels * channels_; i += kBlock) {
         const ptrdiff_t n = std::min(kBlock, pixels * channels_ - i);
         Guess(row + i, n, lower, scale, top);
-        for (int c = 0; c < channels_; ++c) CountChannel(c, n);
+        for (int c = 0; c < channels_; ++c) bins_[c].Count(guesses_ + c, channels_, n - c);
       }
     });
     for (int c = 0; c < channels_; ++c) bins_[c].AddToBins(task.Counts(c));
@@ -211,16 +199,6 @@ class GuessedCounter {
       guesses_[first + lane] = bins_[c].Corrected(values[lane], guesses_[first + lane]);
       c = c + 1 == channels_ ? 0 : c + 1;
     }
-  }
-
-  void CountChannel(int c, ptrdiff_t n) {
-    GuessedBins& bins = bins_[c];
-    ptrdiff_t i = c;
-    for (; i + channels_ < n; i += 2 * channels_) {
-      bins.Count(0, guesses_[i]);
-      bins.Count(1, guesses_[i + channels_]);
-    }
-    if (i < n) bins.Count(0, guesses_[i]);
   }
 
   int channels_ = 0;
