@@ -148,6 +148,7 @@ void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* ro
   } else {
     const int count = taps.certain == taps.count ? taps.count : 0;
     const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
+                        : count == 3 ? FilterSinglesAcross<3, T, Weights>
                         : count == 4 ? FilterSinglesAcross<4, T, Weights>
                         : count == 6 ? FilterSinglesAcross<6, T, Weights>
                                      : FilterSinglesAcross<0, T, Weights>;

@@ -91,7 +91,7 @@ class Columns {
     for (ptrdiff_t v = 0; v < count; ++v) {
       const auto pairs = GatherVector<kLoads>(row, offsets, mask);
       const auto h =
-          hn::Add(MulAddBytes(pairs, left), hn::MulFixedPoint15(MulAddBytes(pairs, step), hn::LoadU(d16, weight)));
+          hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), hn::LoadU(d16, weight)));
       hn::StoreU(h, d16, out + std::min(v * kSamples, last));
       mask += kGatherBytes;
       offsets += kLoads * kGatherBlocks;
