@@ -172,17 +172,16 @@ struct RowRing {
   }
 };
 
-// Walks down a tile and keeps the filtered rows that the next destination rows need too: filter(position, row) fills a
-// row, combine(y) makes destination row y from those that its taps need.
-template <class S, class Filter, class Combine, class IsRead>
-void WalkDown(const Taps& taps, const RowRing<S>& ring, const Filter& filter, const Combine& combine,
-              const IsRead& isRead) {
+// Walks down a tile and keeps the filtered rows that the next destination rows need too: filter(begin, end) fills the
+// rows of these positions, combine(y) makes destination row y from those that its taps need.
+template <class Filter, class Combine, class IsRead>
+void WalkDown(const Taps& taps, const Filter& filter, const Combine& combine, const IsRead& isRead) {
   ptrdiff_t next = PTRDIFF_MIN;
   for (ptrdiff_t y = 0; y < taps.length; ++y) {
     int count = taps.count;
     while (count > taps.certain && !isRead(count - 1, y)) --count;
     const ptrdiff_t end = taps.first[y] + count;
-    for (ptrdiff_t p = std::max<ptrdiff_t>(next, taps.first[y]); p < end; ++p) filter(p, ring.Row(p));
+    filter(std::max<ptrdiff_t>(next, taps.first[y]), end);
     next = std::max(next, end);
     combine(y);
   }
@@ -266,11 +265,13 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
-  const auto filter = [&](ptrdiff_t position, float* out) {
-    FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), out);
+  const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
+    for (; position < end; ++position) {
+      FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), ring.Row(position));
+    }
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
-  WalkDown(rowTaps, ring, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
+  WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
 }
 
 // The same for doubles, which have no room for filtered rows: each output is computed from the source.

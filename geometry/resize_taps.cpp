@@ -152,8 +152,12 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const RowRing<int16_t> ring{rows, step, rowTaps.count};
   const auto combine = rowTaps.count == 4 ? CombineRows<2> : CombineRows<3>;
   WalkDown(
-      rowTaps, ring,
-      [&](ptrdiff_t position, int16_t* out) { columns.Filter(SourceRow(call, tile, edge(position)), out); },
+      rowTaps,
+      [&](ptrdiff_t position, ptrdiff_t end) {
+        for (; position < end; ++position) {
+          columns.Filter(SourceRow(call, tile, edge(position)), ring.Row(position));
+        }
+      },
       [&](ptrdiff_t y) { combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples); },
       [](int, ptrdiff_t) { return true; });
 }
