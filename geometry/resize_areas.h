@@ -135,11 +135,11 @@ class AreaColumns {
 
   template <int kPairs, int kLoads>
   static HWY_INLINE hn::Vec<Wide> Singles(const Tables& tables, const uint8_t* row, Place place) {
-    const uint8_t* mask = tables.masks + place.phase * kGatherBytes;
+    const auto shuffle = hn::LoadU(GatherTag(), tables.masks + place.phase * kGatherBytes);
     const int32_t* offsets = tables.offsets + place.phase * kLoads * kGatherBlocks;
     auto sum = hn::Zero(Wide());
     for (ptrdiff_t k = 0; k < (kPairs ? kPairs : tables.pairs); ++k) {
-      const auto samples = GatherVector<kLoads>(row + place.source + 4 * k, offsets, mask);
+      const auto samples = GatherVector<kLoads>(row + place.source + 4 * k, offsets, shuffle);
       const auto w = hn::LoadU(Wide(), tables.weights + k * kPlaces + place.phase);
       sum = hn::Add(sum, MulAddPairs(hn::BitCast(Words(), samples), hn::BitCast(Words(), w)));
     }

@@ -202,6 +202,19 @@ HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
 }
 
+// The same for 16-bit lanes and bytes, two vectors at a time.
+template <class D, class At>
+HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
+  const hn::Repartition<uint8_t, D> bytes;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  if (n < 2 * kLanes) return StoreRow(d, dst, n, at);
+  const auto store = [&](ptrdiff_t i) HWY_ATTR {
+    hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i);
+  };
+  for (ptrdiff_t i = 0; i < n - 2 * kLanes; i += 2 * kLanes) store(i);
+  store(n - 2 * kLanes);
+}
+
 // dst = the weighted sum of kRows rows.
 template <int kRows, class T>
 void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n) {

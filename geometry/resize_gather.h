@@ -17,6 +17,7 @@ struct GatherShape {
   int lane, channels, apart;
   int leastLoads = 1;
   int sampleBytes = 1;
+  int reach = apart;  // how far behind the first byte there are others that one load has to have, too
 };
 
 // Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
@@ -29,7 +30,7 @@ inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
     const int pixels =
         shape.channels == 4 ? std::max(outputs / 4, 1) : (outputs + shape.channels - 2) / shape.channels + 1;
     const int64_t between = ((pixels - 1) * p + q - 1) / q;
-    if ((between * shape.channels + shape.channels) * shape.sampleBytes + shape.apart <= kBlockBytes) return loads;
+    if ((between * shape.channels + shape.channels) * shape.sampleBytes + shape.reach <= kBlockBytes) return loads;
   }
   return 0;
 }
@@ -109,12 +110,12 @@ HWY_INLINE hn::Vec<GatherTag> LoadBlocks(const uint8_t* row, const int32_t* offs
 }
 
 // The vector of gathered bytes. With several loads each is shuffled by the whole mask, of which it has its part.
+// (Several shuffles of one place share its loads.)
 template <int kLoads>
-HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* offsets, const uint8_t* mask) {
+HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* offsets, hn::Vec<GatherTag> shuffle) {
   const GatherTag d;
   const hn::Repartition<uint64_t, GatherTag> d64;
   const hn::Repartition<uint32_t, GatherTag> d32;
-  const auto shuffle = hn::LoadU(d, mask);
   const auto part = [&](int i) HWY_ATTR { return hn::TableLookupBytes(LoadBlocks(row, offsets + i, kLoads), shuffle); };
   if constexpr (kLoads == 1) {
     return part(0);

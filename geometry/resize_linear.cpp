@@ -18,20 +18,11 @@ int16_t Across(int l, int r, int w) { return static_cast<int16_t>((l * (kFixedOn
 // 2 (h1 - h0) times 2 w, and the outer one the rounded high half of twice its sum times 256.
 void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
   const hn::ScalableTag<int16_t> d;
-  const hn::ScalableTag<uint8_t> bytes;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<int16_t>());
   const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), down = hn::Set(d, 512);
-  const auto blend = [=](auto h0, auto h1) HWY_ATTR {
-    const auto step = hn::Sub(h1, h0);
+  StoreBytes(d, dst, samples, [=](ptrdiff_t i) HWY_ATTR {
+    const auto h0 = hn::LoadU(d, upper + i), step = hn::Sub(hn::LoadU(d, lower + i), h0);
     return hn::MulFixedPoint15(hn::Add(hn::MulHigh(hn::Add(step, step), w), h0), down);
-  };
-  if (samples < 2 * kLanes) return MapRow<false>(d, dst, samples, blend, upper, lower);
-  const auto at = [=](ptrdiff_t i) HWY_ATTR { return blend(hn::LoadU(d, upper + i), hn::LoadU(d, lower + i)); };
-  const auto store = [=](ptrdiff_t i) HWY_ATTR {
-    hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i);
-  };
-  for (ptrdiff_t i = 0; i < samples - 2 * kLanes; i += 2 * kLanes) store(i);
-  store(samples - 2 * kLanes);
+  });
 }
 
 // The columns of a tile of 8-bit pixels.
@@ -101,8 +92,9 @@ class Columns {
     for (int16_t*& row : out) row += taps_.from * channels_;
     const auto filter = [&](ptrdiff_t at) HWY_ATTR {
       const auto w = hn::LoadU(d16, weight);
+      const auto shuffle = hn::LoadU(GatherTag(), mask);
       for (int i = 0; i < kRows; ++i) {
-        const auto pairs = GatherVector<kLoads>(rows[i], offsets, mask);
+        const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
         const auto h = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
         hn::StoreU(h, d16, out[i] + at);
       }
