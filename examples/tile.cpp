@@ -1,7 +1,7 @@
 #include "examples/tile.h"
 
 #include <algorithm>
-#include <cstring>
+#include <vector>
 
 namespace demo {
 namespace {
@@ -12,18 +12,39 @@ QvpiSize FittedSize(QvpiSize size) {
   return {scaled(size.width), scaled(size.height)};
 }
 
-// Picks single pixels. To be replaced by the library's own resize, as soon as there is one.
+// Averages over areas where pixels become fewer; what becomes larger shows its pixels.
+constexpr QvpiInterpolationType MethodFor(QvpiSize from, QvpiSize to) {
+  return to.width <= from.width && to.height <= from.height ? qvpInterpolationSuper : qvpInterpolationNearest;
+}
+
+QvpStatus Init(QvpiInterpolationType method, QvpiSize from, QvpiSize to, QvpiResizeSpec* spec) {
+  const auto init = method == qvpInterpolationSuper ? qvpiResizeSuperInit_8u : qvpiResizeNearestInit_8u;
+  return init(from, to, spec);
+}
+
+// The layout's functions, for averages and for the nearest pixel.
+template <class AnyImage>
+auto ResizeBy(QvpiInterpolationType method) {
+  const bool isSuper = method == qvpInterpolationSuper;
+  if constexpr (AnyImage::kPixelBytes == 1) return isSuper ? qvpiResizeSuper_8u_C1R : qvpiResizeNearest_8u_C1R;
+  if constexpr (AnyImage::kPixelBytes == 3) return isSuper ? qvpiResizeSuper_8u_C3R : qvpiResizeNearest_8u_C3R;
+  if constexpr (AnyImage::kPixelBytes == 4) return isSuper ? qvpiResizeSuper_8u_C4R : qvpiResizeNearest_8u_C4R;
+}
+
 template <class AnyImage>
 AnyImage Fitted(const AnyImage& image) {
   AnyImage fitted(FittedSize(image.size()));
   const QvpiSize from = image.size(), to = fitted.size();
-  for (int y = 0; y < to.height; ++y) {
-    const int row = static_cast<int>(int64_t{y} * from.height / to.height);
-    for (int x = 0; x < to.width; ++x) {
-      const int column = static_cast<int>(int64_t{x} * from.width / to.width);
-      std::memcpy(fitted.At(x, y), image.At(column, row), AnyImage::kPixelBytes);
-    }
-  }
+  const QvpiInterpolationType method = MethodFor(from, to);
+  int recordSize = 0, initSize = 0, bufferSize = 0;
+  Require(qvpiResizeGetSize_8u(from, to, method, 0, &recordSize, &initSize));
+  std::vector<Qvp8u> record(recordSize);
+  auto* spec = reinterpret_cast<QvpiResizeSpec*>(record.data());
+  Require(Init(method, from, to, spec));
+  Require(qvpiResizeGetBufferSize_8u(spec, to, AnyImage::kPixelBytes, &bufferSize));
+  std::vector<Qvp8u> buffer(bufferSize);
+  Require(ResizeBy<AnyImage>(method)(image.data(), image.step(), fitted.data(), fitted.step(), {0, 0}, to, spec,
+                                     buffer.data()));
   return fitted;
 }
 

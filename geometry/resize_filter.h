@@ -148,6 +148,7 @@ void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* ro
   } else {
     const int count = taps.certain == taps.count ? taps.count : 0;
     const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
+                        : count == 3 ? FilterSinglesAcross<3, T, Weights>
                         : count == 4 ? FilterSinglesAcross<4, T, Weights>
                         : count == 6 ? FilterSinglesAcross<6, T, Weights>
                                      : FilterSinglesAcross<0, T, Weights>;
@@ -171,17 +172,16 @@ struct RowRing {
   }
 };
 
-// Walks down a tile and keeps the filtered rows that the next destination rows need too: filter(position, row) fills a
-// row, combine(y) makes destination row y from those that its taps need.
-template <class S, class Filter, class Combine, class IsRead>
-void WalkDown(const Taps& taps, const RowRing<S>& ring, const Filter& filter, const Combine& combine,
-              const IsRead& isRead) {
+// Walks down a tile and keeps the filtered rows that the next destination rows need too: filter(begin, end) fills the
+// rows of these positions, combine(y) makes destination row y from those that its taps need.
+template <class Filter, class Combine, class IsRead>
+void WalkDown(const Taps& taps, const Filter& filter, const Combine& combine, const IsRead& isRead) {
   ptrdiff_t next = PTRDIFF_MIN;
   for (ptrdiff_t y = 0; y < taps.length; ++y) {
     int count = taps.count;
     while (count > taps.certain && !isRead(count - 1, y)) --count;
     const ptrdiff_t end = taps.first[y] + count;
-    for (ptrdiff_t p = std::max<ptrdiff_t>(next, taps.first[y]); p < end; ++p) filter(p, ring.Row(p));
+    filter(std::max<ptrdiff_t>(next, taps.first[y]), end);
     next = std::max(next, end);
     combine(y);
   }
@@ -200,6 +200,19 @@ HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   }
   for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
+}
+
+// The same for 16-bit lanes and bytes, two vectors at a time.
+template <class D, class At>
+HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
+  const hn::Repartition<uint8_t, D> bytes;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  if (n < 2 * kLanes) return StoreRow(d, dst, n, at);
+  const auto store = [&](ptrdiff_t i) HWY_ATTR {
+    hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i);
+  };
+  for (ptrdiff_t i = 0; i < n - 2 * kLanes; i += 2 * kLanes) store(i);
+  store(n - 2 * kLanes);
 }
 
 // dst = the weighted sum of kRows rows.
@@ -265,11 +278,13 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
-  const auto filter = [&](ptrdiff_t position, float* out) {
-    FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), out);
+  const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
+    for (; position < end; ++position) {
+      FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), ring.Row(position));
+    }
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
-  WalkDown(rowTaps, ring, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
+  WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
 }
 
 // The same for doubles, which have no room for filtered rows: each output is computed from the source.

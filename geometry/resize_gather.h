@@ -2,7 +2,7 @@
 // outputs, because their samples are close to each other. The shuffles are made once for a tile.
 #pragma once
 
-#include "base/simd.h"
+#include "base/pairs.h"
 #include "geometry/resize_call.h"
 
 namespace qvp {
@@ -11,10 +11,13 @@ using GatherTag = hn::CappedTag<uint8_t, 32>;
 inline constexpr ptrdiff_t kGatherBytes = hn::MaxLanes(GatherTag()), kGatherBlocks = kGatherBytes / kBlockBytes;
 
 // What a lane of the gathered vector is made of: the bytes at `first` and, `apart` bytes behind it, a second one. The
-// lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each.
+// lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each. For samples of two
+// bytes a lane of 4 has two of them.
 struct GatherShape {
   int lane, channels, apart;
   int leastLoads = 1;
+  int sampleBytes = 1;
+  int reach = apart;  // how far behind the first byte there are others that one load has to have, too
 };
 
 // Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
@@ -27,7 +30,7 @@ inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
     const int pixels =
         shape.channels == 4 ? std::max(outputs / 4, 1) : (outputs + shape.channels - 2) / shape.channels + 1;
     const int64_t between = ((pixels - 1) * p + q - 1) / q;
-    if (between * shape.channels + shape.channels - 1 + shape.apart + 1 <= kBlockBytes) return loads;
+    if ((between * shape.channels + shape.channels) * shape.sampleBytes + shape.reach <= kBlockBytes) return loads;
   }
   return 0;
 }
@@ -81,8 +84,9 @@ class Gather {
       mask[0] = at;
       if (shape.lane == 2) mask[1] = second;
       if (shape.lane != 4) continue;
-      mask[1] = mask[3] = 0x80;
+      mask[1] = shape.sampleBytes == 2 ? at + 1 : 0x80;
       mask[2] = second;
+      mask[3] = shape.sampleBytes == 2 ? second + 1 : 0x80;
     }
     return static_cast<int32_t>(offset);
   }
@@ -106,12 +110,12 @@ HWY_INLINE hn::Vec<GatherTag> LoadBlocks(const uint8_t* row, const int32_t* offs
 }
 
 // The vector of gathered bytes. With several loads each is shuffled by the whole mask, of which it has its part.
+// (Several shuffles of one place share its loads.)
 template <int kLoads>
-HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* offsets, const uint8_t* mask) {
+HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* offsets, hn::Vec<GatherTag> shuffle) {
   const GatherTag d;
   const hn::Repartition<uint64_t, GatherTag> d64;
   const hn::Repartition<uint32_t, GatherTag> d32;
-  const auto shuffle = hn::LoadU(d, mask);
   const auto part = [&](int i) HWY_ATTR { return hn::TableLookupBytes(LoadBlocks(row, offsets + i, kLoads), shuffle); };
   if constexpr (kLoads == 1) {
     return part(0);
@@ -123,21 +127,5 @@ HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* of
     return hn::BitCast(d, hn::OddEven(hn::BitCast(d64, high), hn::BitCast(d64, low)));
   }
 }
-
-// Sums of two products: of unsigned with signed bytes, and of 16-bit integers.
-HWY_INLINE hn::Vec128<int16_t> MulAddBytes(hn::Vec128<uint8_t> a, hn::Vec128<int8_t> b) {
-  return hn::Vec128<int16_t>{_mm_maddubs_epi16(a.raw, b.raw)};
-}
-HWY_INLINE hn::Vec128<int32_t> MulAddPairs(hn::Vec128<int16_t> a, hn::Vec128<int16_t> b) {
-  return hn::Vec128<int32_t>{_mm_madd_epi16(a.raw, b.raw)};
-}
-#if HWY_TARGET <= HWY_AVX2
-HWY_INLINE hn::Vec256<int16_t> MulAddBytes(hn::Vec256<uint8_t> a, hn::Vec256<int8_t> b) {
-  return hn::Vec256<int16_t>{_mm256_maddubs_epi16(a.raw, b.raw)};
-}
-HWY_INLINE hn::Vec256<int32_t> MulAddPairs(hn::Vec256<int16_t> a, hn::Vec256<int16_t> b) {
-  return hn::Vec256<int32_t>{_mm256_madd_epi16(a.raw, b.raw)};
-}
-#endif
 
 }  // namespace qvp

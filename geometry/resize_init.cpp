@@ -213,12 +213,9 @@ void FillSuper(ResizeAxis& axis, Tables& tables) {
   int32_t* index = tables.TakeIndex(axis, q);
   auto* weights = tables.TakeWeights<float>(axis, q * (p / q + 2));
   for (int64_t j = 0; j < q; ++j) {
-    const int64_t first = j * p / q;
-    index[j] = static_cast<int32_t>(first);
+    index[j] = static_cast<int32_t>(j * p / q);
     for (int64_t k = 0; k < axis.taps; ++k) {
-      const int64_t overlap = std::min((j + 1) * p, (first + k + 1) * q) - std::max(j * p, (first + k) * q);
-      weights[k * q + j] =
-          static_cast<float>(static_cast<double>(std::max<int64_t>(overlap, 0)) / static_cast<double>(q));
+      weights[k * q + j] = static_cast<float>(static_cast<double>(Overlap(axis, j, k)) / static_cast<double>(q));
     }
   }
 }

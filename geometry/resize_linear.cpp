@@ -1,5 +1,7 @@
 // Resize by linear interpolation: in 16-bit lanes for 8-bit pixels and weights in units of 1/16384, else in floating
 // point.
+#include <array>
+
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_filter.h"
@@ -12,18 +14,15 @@ namespace {
 // and the second term is the rounded high half of 64 (r - l) times 2 w.
 int16_t Across(int l, int r, int w) { return static_cast<int16_t>((l * (kFixedOne - w) + r * w + 128) >> 8); }
 
-// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6, and the inner term the high half
-// of 2 (h1 - h0) times 2 w.
+// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6. The inner term is the high half of
+// 2 (h1 - h0) times 2 w, and the outer one the rounded high half of twice its sum times 256.
 void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
   const hn::ScalableTag<int16_t> d;
-  const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), half = hn::Set(d, 32);
-  MapRow<false>(
-      d, dst, samples,
-      [=](auto h0, auto h1) HWY_ATTR {
-        const auto step = hn::Sub(h1, h0);
-        return hn::ShiftRight<6>(hn::Add(hn::Add(hn::MulHigh(hn::Add(step, step), w), h0), half));
-      },
-      upper, lower);
+  const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), down = hn::Set(d, 512);
+  StoreBytes(d, dst, samples, [=](ptrdiff_t i) HWY_ATTR {
+    const auto h0 = hn::LoadU(d, upper + i), step = hn::Sub(hn::LoadU(d, lower + i), h0);
+    return hn::MulFixedPoint15(hn::Add(hn::MulHigh(hn::Add(step, step), w), h0), down);
+  });
 }
 
 // The columns of a tile of 8-bit pixels.
@@ -48,16 +47,20 @@ class Columns {
     if (channels == 4) Plan<4>(shape, loads, samples, end, masks, offsets);
   }
 
-  void Filter(const uint8_t* row, int16_t* out) const {
+  // Filters one row, or two at once, which share what is loaded for each vector of columns.
+  template <int kRows>
+  void Filter(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
     ptrdiff_t done = taps_.from;
     if (gather_.count() > 0) {
-      if (gather_.loads() == 1) FilterVectors<1>(row, out + taps_.from * channels_);
-      if (gather_.loads() == 2) FilterVectors<2>(row, out + taps_.from * channels_);
-      if (gather_.loads() == 4) FilterVectors<4>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 1) FilterVectors<1, kRows>(rows, out);
+      if (gather_.loads() == 2) FilterVectors<2, kRows>(rows, out);
+      if (gather_.loads() == 4) FilterVectors<4, kRows>(rows, out);
       done = taps_.to;
     }
-    FilterOneByOne(row, 0, taps_.from, out);
-    FilterOneByOne(row, done, taps_.length, out);
+    for (int i = 0; i < kRows; ++i) {
+      FilterOneByOne(rows[i], 0, taps_.from, out[i]);
+      FilterOneByOne(rows[i], done, taps_.length, out[i]);
+    }
   }
 
  private:
@@ -78,26 +81,32 @@ class Columns {
     }
   }
 
-  template <int kLoads>
-  void FilterVectors(const uint8_t* row, int16_t* out) const {
-    const GatherTag d;
+  template <int kLoads, int kRows>
+  void FilterVectors(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
     const hn::Repartition<int8_t, GatherTag> d8;
     const hn::Repartition<int16_t, GatherTag> d16;
     const auto left = hn::BitCast(d8, hn::Set(d16, 64)), step = hn::BitCast(d8, hn::Set(d16, 0x40C0));  // -64, 64
     const uint8_t* mask = gather_.masks();
     const int32_t* offsets = gather_.offsets();
     const int16_t* weight = doubled_;
-    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * channels_ - kSamples;
-    for (ptrdiff_t v = 0; v < count; ++v) {
-      const auto pairs = GatherVector<kLoads>(row, offsets, mask);
-      const auto h =
-          hn::Add(MulAddBytes(pairs, left), hn::MulFixedPoint15(MulAddBytes(pairs, step), hn::LoadU(d16, weight)));
-      hn::StoreU(h, d16, out + std::min(v * kSamples, last));
+    for (int16_t*& row : out) row += taps_.from * channels_;
+    const auto filter = [&](ptrdiff_t at) HWY_ATTR {
+      const auto w = hn::LoadU(d16, weight);
+      const auto shuffle = hn::LoadU(GatherTag(), mask);
+      for (int i = 0; i < kRows; ++i) {
+        const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
+        const auto h = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
+        hn::StoreU(h, d16, out[i] + at);
+      }
+    };
+    const ptrdiff_t last = (taps_.to - taps_.from) * channels_ - kSamples;
+    for (ptrdiff_t at = 0; at < last; at += kSamples) {
+      filter(at);
       mask += kGatherBytes;
       offsets += kLoads * kGatherBlocks;
       weight += kSamples;
     }
-    (void)d;
+    filter(last);
   }
 
   void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
@@ -126,8 +135,14 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const Edge edge = RowEdge(call.border, record);
   const RowRing<int16_t> ring{rows, step, 2};
   WalkDown(
-      rowTaps, ring,
-      [&](ptrdiff_t position, int16_t* out) { columns.Filter(SourceRow(call, tile, edge(position)), out); },
+      rowTaps,
+      [&](ptrdiff_t position, ptrdiff_t end) {
+        const auto row = [&](ptrdiff_t p) { return SourceRow(call, tile, edge(p)); };
+        for (; position + 1 < end; position += 2) {
+          columns.Filter<2>({row(position), row(position + 1)}, {ring.Row(position), ring.Row(position + 1)});
+        }
+        if (position < end) columns.Filter<1>({row(position)}, {ring.Row(position)});
+      },
       [&](ptrdiff_t y) {
         const ptrdiff_t first = rowTaps.first[y];
         BlendRows(ring.Row(first), ring.Row(first + 1), weights[y], call.dst.Row(y), samples);

@@ -50,9 +50,9 @@ class Shuffle {
     const int32_t* offsets = gather_.offsets();
     const ptrdiff_t last = bytes_ - kGatherBytes;
     for (ptrdiff_t i = 0; i < last; i += kGatherBytes, mask += kGatherBytes, offsets += 2 * kGatherBlocks) {
-      hn::StoreU(GatherVector<2>(row, offsets, mask), GatherTag(), out + i);
+      hn::StoreU(GatherVector<2>(row, offsets, hn::LoadU(GatherTag(), mask)), GatherTag(), out + i);
     }
-    hn::StoreU(GatherVector<2>(row, offsets, mask), GatherTag(), out + last);
+    hn::StoreU(GatherVector<2>(row, offsets, hn::LoadU(GatherTag(), mask)), GatherTag(), out + last);
   }
 
  private:

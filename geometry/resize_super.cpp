@@ -1,6 +1,9 @@
 // Resize by averages over the area that a destination pixel covers in the source.
+#include <hwy/cache_control.h>
+
 #include "base/export.h"
 #include "base/map.h"
+#include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
 
 namespace qvp {
@@ -106,25 +109,21 @@ ptrdiff_t ColumnsPerStrip(const Period& period, int channels) {
   return std::min({byWeights, scaled, kMostStripColumns});
 }
 
-// sums[i] = the rows that destination row y covers, at place i along them. Up to three rows are added up at once.
-template <class T>
-void SumDown(const ResizeCall<T>& call, const T* row, const Period& down, ptrdiff_t y, ptrdiff_t n, float* sums) {
-  const hn::ScalableTag<float> d;
-  const Image<const T> rows{row, call.src.step, call.src.layout};
-  const int count = down.Count(y);
-  const auto weight = [&](int k) HWY_ATTR { return hn::Set(d, down.At(k, y)); };
-  const auto w0 = weight(0);
+// sums[i] = the rows from `rows` on by their weights, at place i along them. Up to three rows are added up at once.
+template <class D, class T, class Weight>
+void SumDown(D d, const Image<const T>& rows, int count, const Weight& weight, ptrdiff_t n, hn::TFromD<D>* sums) {
+  const auto w0 = hn::Set(d, weight(0));
   int k = 1;
   if (count == 1) {
     MapRow<false>(
         d, sums, n, [=](auto a) HWY_ATTR { return hn::Mul(a, w0); }, rows.Row(0));
-  } else if (const auto w1 = weight(1); count == 2) {
+  } else if (const auto w1 = hn::Set(d, weight(1)); count == 2) {
     MapRow<false>(
         d, sums, n, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)); }, rows.Row(0),
         rows.Row(1));
     k = 2;
   } else {
-    const auto w2 = weight(2);
+    const auto w2 = hn::Set(d, weight(2));
     MapRow<false>(
         d, sums, n,
         [=](auto a, auto b, auto c)
@@ -133,10 +132,10 @@ void SumDown(const ResizeCall<T>& call, const T* row, const Period& down, ptrdif
     k = 3;
   }
   for (; k < count; ++k) {
-    const auto w = weight(k);
+    const auto w = hn::Set(d, weight(k));
     MapRow<false>(
         d, sums, n, [=](auto sum, auto v) HWY_ATTR { return hn::Add(sum, hn::Mul(v, w)); },
-        static_cast<const float*>(sums), rows.Row(k));
+        static_cast<const hn::TFromD<D>*>(sums), rows.Row(k));
   }
 }
 
@@ -145,20 +144,22 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
                  const Period& across, const Period& down) {
   const int channels = Channels(call.src.layout);
   const hn::ScalableTag<float> d;
-  float sums[kStripFloats], averages[kStripFloats];
+  float sums[kStripFloats] = {}, averages[kStripFloats];
   Taps taps(record, record.columns, 0, strip.columns);
   taps.first = strip.first;
   taps.from = 0;
   taps.to = strip.columns;
   taps.count = across.taps;
-  taps.certain = 1;
+  taps.certain = std::is_integral_v<T> ? across.taps : 1;  // the zeros behind the sums need no other care
   const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels);
   const TapPlanes weights{strip.weights, strip.columns};
   const double area = static_cast<double>(across.p) / across.q * down.p / down.q;
   const auto scale = hn::Set(d, static_cast<float>(1 / area));
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
     const T* row = SourceRow(call, tile, down.First(tile.y + y)) + strip.source * channels;
-    SumDown(call, row, down, tile.y + y, strip.pixels * channels, sums);
+    const auto weight = [&](int k) { return down.At(k, tile.y + y); };
+    const Image<const T> rows{row, call.src.step, call.src.layout};
+    SumDown(d, rows, down.Count(tile.y + y), weight, strip.pixels * channels, sums);
     FilterAcross(plan, weights, sums, averages);
     MapRow<false>(
         d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
@@ -168,28 +169,31 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
 
 // Half the size of one-channel bytes: sums of 2x2 pixels in 16-bit lanes, divided by 4, ties to even. Their averages in
 // floating point are exact, too, so that this is the same result.
-void HalveRow(const uint8_t* upper, const uint8_t* lower, uint8_t* dst, ptrdiff_t n) {
+uint8_t Quarter(int sum) { return static_cast<uint8_t>((sum + 1 + (sum >> 2 & 1)) >> 2); }
+
+HWY_INLINE auto Quarters(const uint8_t* upper, const uint8_t* lower) {
   const hn::ScalableTag<uint8_t> d;
-  const hn::Repartition<uint16_t, hn::ScalableTag<uint8_t>> d16;
-  const hn::Rebind<uint8_t, decltype(d16)> narrow;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint16_t>());
-  const auto low = hn::Set(d16, 0xFF), one = hn::Set(d16, 1);
-  const auto quarter = [&](const uint8_t* a, const uint8_t* b) HWY_ATTR {
-    const auto u = hn::BitCast(d16, hn::LoadU(d, a)), l = hn::BitCast(d16, hn::LoadU(d, b));
-    const auto sum =
-        hn::Add(hn::Add(hn::And(u, low), hn::ShiftRight<8>(u)), hn::Add(hn::And(l, low), hn::ShiftRight<8>(l)));
-    return hn::ShiftRight<2>(hn::Add(hn::Add(sum, one), hn::And(hn::ShiftRight<2>(sum), one)));
-  };
+  const hn::ScalableTag<int16_t> d16;
+  const auto ones = hn::Set(hn::ScalableTag<int8_t>(), 1);
+  const auto sum = hn::Add(MulAddPairs(hn::LoadU(d, upper), ones), MulAddPairs(hn::LoadU(d, lower), ones));
+  const auto one = hn::Set(d16, 1);
+  return hn::ShiftRight<2>(hn::Add(hn::Add(sum, one), hn::And(hn::ShiftRight<2>(sum), one)));
+}
+
+// `ahead` is where the next two rows lie, which are fetched meanwhile: new rows are too short for the CPU to notice
+// their pattern in time.
+void HalveRow(const uint8_t* upper, const uint8_t* lower, ptrdiff_t ahead, uint8_t* dst, ptrdiff_t n) {
+  const hn::ScalableTag<uint8_t> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint8_t>());
   ptrdiff_t i = 0;
   for (; i + kLanes <= n; i += kLanes) {
-    hn::StoreU(
-        hn::DemoteTo(narrow, hn::BitCast(hn::RebindToSigned<decltype(d16)>(), quarter(upper + 2 * i, lower + 2 * i))),
-        narrow, dst + i);
+    hwy::Prefetch(upper + 2 * i + ahead);
+    hwy::Prefetch(lower + 2 * i + ahead);
+    const auto left = Quarters(upper + 2 * i, lower + 2 * i);
+    const auto right = Quarters(upper + 2 * i + kLanes, lower + 2 * i + kLanes);
+    hn::StoreU(PackedInOrder<uint8_t>(left, right), d, dst + i);
   }
-  for (; i < n; ++i) {
-    const int sum = upper[2 * i] + upper[2 * i + 1] + lower[2 * i] + lower[2 * i + 1];
-    dst[i] = static_cast<uint8_t>((sum + 1 + (sum >> 2 & 1)) >> 2);
-  }
+  for (; i < n; ++i) dst[i] = Quarter(upper[2 * i] + upper[2 * i + 1] + lower[2 * i] + lower[2 * i + 1]);
 }
 
 bool IsHalf(const ResizeRecord& record) {
@@ -197,16 +201,38 @@ bool IsHalf(const ResizeRecord& record) {
          !record.IsShifted();
 }
 
-template <class T>
-void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  if constexpr (sizeof(T) == 1) {
-    if (IsHalf(record) && call.src.layout == Layout::kC1) {
-      for (ptrdiff_t y = 0; y < tile.height; ++y) {
-        HalveRow(call.src.Row(2 * y), call.src.Row(2 * y + 1), call.dst.Row(y), tile.width);
-      }
-      return;
-    }
+void Halve(const ResizeCall<uint8_t>& call, const Tile& tile) {
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    HalveRow(call.src.Row(2 * y), call.src.Row(2 * y + 1), 2 * call.src.step, call.dst.Row(y), tile.width);
   }
+}
+
+// Bytes of work memory that every caller has for a tile.
+ptrdiff_t RoomFor(const Tile& tile, int channels) {
+  return static_cast<ptrdiff_t>(PlaneOf(4 * tile.height) + PlaneOf(4 * tile.width) +
+                                2 * PlaneOf(4 * tile.width * channels));
+}
+
+// In integers, a row of sums at a time. False where there is no room for one, or the tile is narrower than a vector.
+bool ResizeWhole(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  if (tile.width < AreaColumns::Fewest(channels)) return false;
+  const AreaColumns columns(record, tile, channels);
+  auto* sums = reinterpret_cast<uint16_t*>(AtBoundary(call.buffer));
+  if (columns.RowSamples() * ptrdiff_t{sizeof(*sums)} > RoomFor(tile, channels)) return false;
+  const Period down(record, record.rows);
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    const ptrdiff_t row = tile.y + y;
+    const auto parts = [&](int k) { return static_cast<uint16_t>(Overlap(record.rows, row % down.q, k)); };
+    const Image<const uint8_t> rows{call.src.Row(down.First(row) - tile.source.y), call.src.step, call.src.layout};
+    SumDown(hn::ScalableTag<uint16_t>(), rows, down.Count(row), parts, columns.Pixels() * channels, sums);
+    columns.Average(sums, call.dst.Row(y));
+  }
+  return true;
+}
+
+template <class T>
+void ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   const Period across(record, record.columns), down(record, record.rows);
   const ptrdiff_t most = ColumnsPerStrip(across, Channels(call.src.layout));
   if (record.IsShifted() || most < 1) return ResizeOneByOne(call, record, tile);
@@ -214,6 +240,15 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
     const Strip strip(across, tile.x + x, std::min(most, tile.width - x));
     ResizeStrip(call, record, tile, strip, across, down);
   }
+}
+
+template <class T>
+void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if constexpr (sizeof(T) == 1) {
+    if (IsHalf(record) && call.src.layout == Layout::kC1) return Halve(call, tile);
+    if (AreAreasWhole(record) && ResizeWhole(call, record, tile)) return;
+  }
+  ResizeStrips(call, record, tile);
 }
 
 template <class T>

@@ -1,5 +1,7 @@
 // Resize by kernels of several taps: cubic, Lanczos, and all that are widened against aliasing. In integers for 8-bit
 // pixels and weights in units of 1/16384, else in floating point.
+#include <array>
+
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_filter.h"
@@ -22,13 +24,16 @@ class FixedColumns {
         channels_(channels),
         plane_(static_cast<ptrdiff_t>(PlaneOf(record.width))),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
-    const GatherShape shape{4, channels, channels};
+    const GatherShape pairs{4, channels, channels};
+    const GatherShape all{4, channels, channels, 1, 1, (taps_.count - 1) * channels};
+    hasAll_ = channels == 1 && LoadsFor(all, record.columns.p, record.columns.q) == 1;
+    const GatherShape& shape = hasAll_ ? all : pairs;
     const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
     if (loads == 0 || taps_.to - taps_.from < 1) return;
     const ptrdiff_t samples = (taps_.to - taps_.from) * channels;
     auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, samples) * kGatherBytes);
-    // The last pair of taps is read at a fixed distance behind the first.
-    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{2}) * channels;
+    // Further pairs of taps are read at a fixed distance behind the first one's load, if it does not have them all.
+    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{hasAll_ ? taps_.count : 2}) * channels;
     const int32_t* first = taps_.first + taps_.from;
     gather_ = Gather(
         shape, loads, samples, end,
@@ -41,61 +46,104 @@ class FixedColumns {
     }
   }
 
-  void Filter(const uint8_t* row, int16_t* out) const {
+  // Filters one row, or two at once, which share what is loaded for each vector of columns.
+  template <int kRows>
+  void Filter(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
     ptrdiff_t done = taps_.from;
     if (gather_.count() > 0) {
-      if (gather_.loads() == 1) FilterVectors<1>(row, out + taps_.from * channels_);
-      if (gather_.loads() == 2) FilterVectors<2>(row, out + taps_.from * channels_);
-      if (gather_.loads() == 4) FilterVectors<4>(row, out + taps_.from * channels_);
+      if (gather_.loads() == 1) FilterVectors<1, kRows>(rows, out);
+      if (gather_.loads() == 2) FilterVectors<2, kRows>(rows, out);
+      if (gather_.loads() == 4) FilterVectors<4, kRows>(rows, out);
       done = taps_.to;
     }
-    FilterOneByOne(row, 0, taps_.from, out);
-    FilterOneByOne(row, done, taps_.length, out);
+    for (int i = 0; i < kRows; ++i) {
+      FilterOneByOne(rows[i], 0, taps_.from, out[i]);
+      FilterOneByOne(rows[i], done, taps_.length, out[i]);
+    }
   }
 
  private:
   using Sums = hn::Repartition<int32_t, GatherTag>;
+  using Words = hn::Repartition<int16_t, GatherTag>;
   static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums());
 
-  template <int kLoads>
-  void FilterVectors(const uint8_t* row, int16_t* out) const {
-    if (channels_ == 1) return FilterChannels<kLoads, 1>(row, out);
-    if (channels_ == 3) return FilterChannels<kLoads, 3>(row, out);
-    FilterChannels<kLoads, 4>(row, out);
+  template <int kLoads, int kRows>
+  void FilterVectors(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
+    if (channels_ == 1) return FilterChannels<kLoads, 1, kRows>(rows, out);
+    if (channels_ == 3) return FilterChannels<kLoads, 3, kRows>(rows, out);
+    FilterChannels<kLoads, 4, kRows>(rows, out);
   }
 
-  template <int kLoads, int kChannels>
-  void FilterChannels(const uint8_t* row, int16_t* out) const {
-    taps_.count == 4 ? FilterAll<kLoads, kChannels, 2>(row, out) : FilterAll<kLoads, kChannels, 3>(row, out);
+  template <int kLoads, int kChannels, int kRows>
+  void FilterChannels(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
+    constexpr bool kCanHaveAll = kLoads == 1 && kChannels == 1;
+    if (hasAll_) return FilterPairs<kLoads, kChannels, kRows, kCanHaveAll>(rows, out);
+    FilterPairs<kLoads, kChannels, kRows, false>(rows, out);
   }
 
-  template <int kLoads, int kChannels, int kPairs>
-  void FilterAll(const uint8_t* row, int16_t* out) const {
+  template <int kLoads, int kChannels, int kRows, bool kHasAll>
+  void FilterPairs(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
+    taps_.count == 4 ? FilterAll<kLoads, kChannels, 2, kRows, kHasAll>(rows, out)
+                     : FilterAll<kLoads, kChannels, 3, kRows, kHasAll>(rows, out);
+  }
+
+  // The weights of the taps' pair k for the samples from `start` on.
+  template <int kChannels>
+  HWY_INLINE hn::Vec<Words> WeightsOf(const int16_t* pairs, ptrdiff_t start) const {
     const Sums d;
-    const hn::Repartition<int16_t, GatherTag> d16;
+    const ptrdiff_t pixel = start / kChannels;
+    auto w = hn::LoadU(d, reinterpret_cast<const int32_t*>(pairs + 2 * pixel));
+    if constexpr (kChannels > 1) {
+      w = hn::TableLookupLanes(w, hn::SetTableIndices(d, pixelOf_ + (start - pixel * kChannels) * kSamples));
+    }
+    return hn::BitCast(Words(), w);
+  }
+
+  // The sums of one row, or of two, as 16-bit numbers.
+  static HWY_INLINE void Store(hn::Vec<Sums> sum, int16_t* out) {
     const hn::Rebind<int16_t, Sums> narrow;
-    const auto half = hn::Set(d, 1 << (kAcrossShift - 1));
+    hn::StoreU(hn::DemoteTo(narrow, sum), narrow, out);
+  }
+  static HWY_INLINE void Store(hn::Vec<Sums> first, hn::Vec<Sums> second, int16_t* firstOut, int16_t* secondOut) {
+    const hn::Half<Words> half;
+    const auto both = PackedInOrder<int16_t>(first, second);
+    hn::StoreU(hn::LowerHalf(half, both), half, firstOut);
+    hn::StoreU(hn::UpperHalf(half, both), half, secondOut);
+  }
+
+  template <int kLoads, int kChannels, int kPairs, int kRows, bool kHasAll>
+  void FilterAll(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
+    const Sums d;
     const uint8_t* mask = gather_.masks();
     const int32_t* offsets = gather_.offsets();
     const int16_t* weights = weights_ + 2 * taps_.from;
-    const ptrdiff_t count = gather_.count(), last = (taps_.to - taps_.from) * kChannels - kSamples;
-    const ptrdiff_t plane = 2 * plane_;
-    for (ptrdiff_t v = 0; v < count; ++v) {
-      const ptrdiff_t start = std::min(v * kSamples, last), pixel = start / kChannels;
-      auto sum = half;
+    const ptrdiff_t plane = 2 * plane_, last = (taps_.to - taps_.from) * kChannels - kSamples;
+    for (int16_t*& row : out) row += taps_.from * kChannels;
+    const auto filter = [&](ptrdiff_t start) HWY_ATTR {
+      const auto first = hn::LoadU(GatherTag(), mask);
+      hn::Vec<Sums> sums[kRows];
+      for (auto& sum : sums) sum = hn::Set(d, 1 << (kAcrossShift - 1));
       for (int k = 0; k < kPairs; ++k) {
-        auto w = hn::LoadU(d, reinterpret_cast<const int32_t*>(weights + k * plane + 2 * pixel));
-        if constexpr (kChannels > 1) {
-          const auto lanes = hn::SetTableIndices(d, pixelOf_ + (start - pixel * kChannels) * kSamples);
-          w = hn::TableLookupLanes(w, lanes);
+        const auto w = WeightsOf<kChannels>(weights + k * plane, start);
+        const auto shuffle = kHasAll ? hn::Add(first, hn::Set(GatherTag(), static_cast<uint8_t>(2 * k))) : first;
+        for (int i = 0; i < kRows; ++i) {
+          const auto pairs = GatherVector<kLoads>(rows[i] + (kHasAll ? 0 : 2 * k * kChannels), offsets, shuffle);
+          sums[i] = hn::Add(sums[i], MulAddPairs(hn::BitCast(Words(), pairs), w));
         }
-        const auto pairs = hn::BitCast(d16, GatherVector<kLoads>(row + 2 * k * kChannels, offsets, mask));
-        sum = hn::Add(sum, MulAddPairs(pairs, hn::BitCast(d16, w)));
       }
-      hn::StoreU(hn::DemoteTo(narrow, hn::ShiftRight<kAcrossShift>(sum)), narrow, out + start);
+      for (auto& sum : sums) sum = hn::ShiftRight<kAcrossShift>(sum);
+      if constexpr (kRows == 1) {
+        Store(sums[0], out[0] + start);
+      } else {
+        Store(sums[0], sums[1], out[0] + start, out[1] + start);
+      }
+    };
+    for (ptrdiff_t start = 0; start < last; start += kSamples) {
+      filter(start);
       mask += kGatherBytes;
       offsets += kLoads * kGatherBlocks;
     }
+    filter(last);
   }
 
   void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
@@ -116,6 +164,7 @@ class FixedColumns {
   ptrdiff_t plane_;
   const int16_t* weights_;
   int32_t pixelOf_[3 * kSamples];  // of the lanes of a vector that begins at each channel of a pixel
+  bool hasAll_ = false;  // whether one load has all taps of its outputs
   Gather gather_;
 };
 
@@ -128,7 +177,7 @@ void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* w
   int32_t pairs[kPairs];
   for (int k = 0; k < 2 * kPairs; ++k) rows[k] = ring.Row(first + k);
   for (int k = 0; k < kPairs; ++k) std::memcpy(&pairs[k], weights + 2 * k * plane, sizeof(int32_t));
-  StoreRow(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
+  StoreBytes(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
     auto low = hn::Set(wide, 1 << (kDownShift - 1)), high = low;
     for (int k = 0; k < kPairs; ++k) {
       const auto a = hn::LoadU(d, rows[2 * k] + i), b = hn::LoadU(d, rows[2 * k + 1] + i);
@@ -152,8 +201,14 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const RowRing<int16_t> ring{rows, step, rowTaps.count};
   const auto combine = rowTaps.count == 4 ? CombineRows<2> : CombineRows<3>;
   WalkDown(
-      rowTaps, ring,
-      [&](ptrdiff_t position, int16_t* out) { columns.Filter(SourceRow(call, tile, edge(position)), out); },
+      rowTaps,
+      [&](ptrdiff_t position, ptrdiff_t end) {
+        const auto row = [&](ptrdiff_t p) { return SourceRow(call, tile, edge(p)); };
+        for (; position + 1 < end; position += 2) {
+          columns.Filter<2>({row(position), row(position + 1)}, {ring.Row(position), ring.Row(position + 1)});
+        }
+        if (position < end) columns.Filter<1>({row(position)}, {ring.Row(position)});
+      },
       [&](ptrdiff_t y) { combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples); },
       [](int, ptrdiff_t) { return true; });
 }
