@@ -2,6 +2,7 @@
 // where their taps fit into words, and channels of one point otherwise.
 #pragma once
 
+#include "base/map.h"
 #include "geometry/resize_kernels.h"
 #include "geometry/sample_task.h"
 
@@ -82,19 +83,16 @@ HWY_INLINE Split<D> SplitSame(D d, hn::Vec<D> x) {
   return split;
 }
 
-// Where as many points as there are lanes have their first taps, in bytes, and their fractions.
-template <class D>
-struct Positions {
-  hn::Vec<hn::Rebind<int32_t, D>> offset;
-  hn::Vec<D> x, y;
+// Where the points of a block have their first taps, in bytes, and their fractions.
+template <class W>
+struct Places {
+  int32_t offset[kBlock];
+  W x[kBlock], y[kBlock];
 };
 
 template <int kTaps, class D, class Points>
-HWY_INLINE Positions<D> PositionsAt(D d, const Points& points, ptrdiff_t i, int32_t step, int32_t pixelBytes) {
-  using C = typename Points::Coordinate;
-  const hn::Rebind<int32_t, D> ints;
-  Split<D> column, row;
-  if constexpr (std::is_same_v<C, hn::TFromD<D>>) {
+HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<D>& column, Split<D>& row) {
+  if constexpr (std::is_same_v<typename Points::Coordinate, hn::TFromD<D>>) {
     hn::Vec<D> u, v;
     points.Load(d, i, u, v);
     column = SplitSame<kTaps>(d, u);
@@ -107,11 +105,27 @@ HWY_INLINE Positions<D> PositionsAt(D d, const Points& points, ptrdiff_t i, int3
     column = SplitDoubles<kTaps>(d, u0, u1);
     row = SplitDoubles<kTaps>(d, v0, v1);
   }
-  const auto across = pixelBytes == 1 ? column.pixel : hn::Mul(column.pixel, hn::Set(ints, pixelBytes));
-  auto offset = hn::Add(hn::Mul(row.pixel, hn::Set(ints, step)), across);
-  if constexpr (kTapsBefore(kTaps) != 0)
-    offset = hn::Sub(offset, hn::Set(ints, kTapsBefore(kTaps) * (step + pixelBytes)));
-  return {offset, column.fraction, row.fraction};
+}
+
+// Places n points, and repeats the last one up to the end of the block. A loop of its own: together with the one over
+// the taps it would be a longer chain than a CPU can overlap with the next one.
+template <int kTaps, int kPixelBytes, class W, class Points>
+void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
+  const hn::ScalableTag<W> d;
+  const hn::Rebind<int32_t, hn::ScalableTag<W>> ints;
+  const auto rowBytes = hn::Set(ints, step), pixelBytes = hn::Set(ints, kPixelBytes);
+  const auto before = hn::Set(ints, kTapsBefore(kTaps) * (step + kPixelBytes));
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+    Split<hn::ScalableTag<W>> column, row;
+    SplitPoints<kTaps>(d, points, i, column, row);
+    const auto across = kPixelBytes == 1 ? column.pixel : hn::Mul(column.pixel, pixelBytes);
+    hn::StoreU(hn::Sub(hn::Add(hn::Mul(row.pixel, rowBytes), across), before), ints, places.offset + i);
+    if constexpr (kTaps > 1) {
+      hn::StoreU(column.fraction, d, places.x + i);
+      hn::StoreU(row.fraction, d, places.y + i);
+    }
+  }
+  std::fill(places.offset + n, places.offset + kBlock, places.offset[n - 1]);
 }
 
 // ---- Weights
@@ -257,37 +271,54 @@ class RowTaps {
 // Whole pixels from one vector for each channel.
 template <int kChannels, class D, class T = hn::TFromD<D>>
 HWY_INLINE void StorePixels(D d, const hn::Vec<D>* v, T* to) {
-  if constexpr (kChannels == 1) hn::StoreU(v[0], d, to);
   if constexpr (kChannels == 3) hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
   if constexpr (kChannels == 4) hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
 }
 
-// Pixels of n points, and those of the points behind them up to whole vectors.
-template <int kTaps, int kChannels, class T, class Points>
-void BlendPoints(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* out) {
-  const hn::ScalableTag<WorkOf<T>> d;
-  using D = hn::ScalableTag<WorkOf<T>>;
+// The weighted sums of as many points as there are lanes, from the i-th on.
+template <int kTaps, int kChannels, class T, class D>
+HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<kTaps, WorkOf<T>>& weigh,
+                        const Places<WorkOf<T>>& places, ptrdiff_t i, hn::Vec<D>* total) {
   using V = hn::Vec<D>;
-  const hn::Rebind<T, D> narrow;
+  const auto offset = hn::LoadU(hn::Rebind<int32_t, D>(), places.offset + i);
+  V x[kTaps], y[kTaps];
+  weigh(d, hn::LoadU(d, places.x + i), x);
+  weigh(d, hn::LoadU(d, places.y + i), y);
+  for (int r = 0; r < kTaps; ++r) {
+    const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, offset);
+    for (int c = 0; c < kChannels; ++c) {
+      V row = hn::Mul(taps.At(0, c), x[0]);
+      for (int k = 1; k < kTaps; ++k) row = hn::Add(row, hn::Mul(taps.At(k, c), x[k]));
+      total[c] = r == 0 ? hn::Mul(row, y[0]) : hn::Add(total[c], hn::Mul(row, y[r]));
+    }
+  }
+}
+
+// Pixels of n points, and those of the points behind them up to whole vectors.
+template <int kTaps, int kChannels, class T>
+void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* out) {
+  using D = hn::ScalableTag<WorkOf<T>>;
+  constexpr int kLanes = hn::MaxLanes(D()), kParts = kChannels == 1 ? kVectorsAtOnce<T, WorkOf<T>> : 1;
+  const D d;
+  const hn::CappedTag<T, kLanes * kParts> narrow;
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
   const Weigher<kTaps, WorkOf<T>> weigh(task);
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto at = PositionsAt<kTaps>(d, points, i, static_cast<int32_t>(step), kChannels * sizeof(T));
-    V x[kTaps], y[kTaps], total[kChannels];
-    weigh(d, at.x, x);
-    weigh(d, at.y, y);
-    for (int r = 0; r < kTaps; ++r) {
-      const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, at.offset);
-      for (int c = 0; c < kChannels; ++c) {
-        V row = hn::Mul(taps.At(0, c), x[0]);
-        for (int k = 1; k < kTaps; ++k) row = hn::Add(row, hn::Mul(taps.At(k, c), x[k]));
-        total[c] = r == 0 ? hn::Mul(row, y[0]) : hn::Add(total[c], hn::Mul(row, y[r]));
-      }
+  for (ptrdiff_t i = 0; i < n; i += kLanes * kParts) {
+    if constexpr (kChannels == 1) {
+      const auto part = [&](ptrdiff_t k) HWY_ATTR {
+        hn::Vec<D> total;
+        BlendAt<kTaps, 1, T>(d, src, step, weigh, places, i + k * kLanes, &total);
+        return total;
+      };
+      hn::StoreU(NarrowParts<T>(d, part), narrow, out + i);
+    } else {
+      hn::Vec<D> total[kChannels];
+      hn::Vec<hn::Rebind<T, D>> pixels[kChannels];
+      BlendAt<kTaps, kChannels, T>(d, src, step, weigh, places, i, total);
+      for (int c = 0; c < kChannels; ++c) pixels[c] = Narrow<T>(d, total[c]);
+      StorePixels<kChannels>(hn::Rebind<T, D>(), pixels, out + i * kChannels);
     }
-    hn::Vec<hn::Rebind<T, D>> pixels[kChannels];
-    for (int c = 0; c < kChannels; ++c) pixels[c] = Narrow<T>(d, total[c]);
-    StorePixels<kChannels>(narrow, pixels, out + i * kChannels);
   }
 }
 
@@ -338,27 +369,21 @@ HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, c
 }
 
 // As BlendPoints. `out` has room for three elements more.
-template <int kTaps, int kChannels, class T, class Points>
-void BlendPixels(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* out) {
-  using W = WorkOf<T>;
+template <int kTaps, int kChannels, class T, class W>
+void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n, T* out) {
   const hn::ScalableTag<W> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<W>());
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
   const Weigher<kTaps, W> weigh(task);
-  HWY_ALIGN int32_t offset[kLanes];
-  HWY_ALIGN W x[kTaps][kLanes], y[kTaps][kLanes];
-  for (ptrdiff_t i = 0; i < n; i += kLanes) {
-    const auto at = PositionsAt<kTaps>(d, points, i, static_cast<int32_t>(step), kChannels * sizeof(T));
+  W x[kTaps][kBlock], y[kTaps][kBlock];
+  const auto weighAlong = [&](const W* fraction, ptrdiff_t i, W(*to)[kBlock]) HWY_ATTR {
     hn::Vec<decltype(d)> w[kTaps];
-    weigh(d, at.x, w);
-    for (int k = 0; k < kTaps; ++k) hn::Store(w[k], d, x[k]);
-    weigh(d, at.y, w);
-    for (int k = 0; k < kTaps; ++k) hn::Store(w[k], d, y[k]);
-    hn::StoreU(at.offset, hn::Rebind<int32_t, decltype(d)>(), offset);
-    for (ptrdiff_t j = 0; j < std::min(n - i, kLanes); ++j) {
-      BlendPixel<kTaps>(src + offset[j], step, kChannels, x[0] + j, y[0] + j, kLanes, out + (i + j) * kChannels);
-    }
+    weigh(d, hn::LoadU(d, fraction + i), w);
+    for (int k = 0; k < kTaps; ++k) hn::StoreU(w[k], d, to[k] + i);
+  };
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) weighAlong(places.x, i, x), weighAlong(places.y, i, y);
+  for (ptrdiff_t i = 0; i < n; ++i) {
+    BlendPixel<kTaps>(src + places.offset[i], step, kChannels, x[0] + i, y[0] + i, kBlock, out + i * kChannels);
   }
 }
 
@@ -367,23 +392,6 @@ void BlendPixels(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T
 template <int kBytes>
 void MovePixels(const uint8_t* src, const int32_t* offset, ptrdiff_t n, uint8_t* dst) {
   for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * kBytes, src + offset[i], kBytes);
-}
-
-template <int kChannels, class T, class Points>
-void MovePixels(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* out) {
-  const hn::ScalableTag<WorkOf<T>> d;
-  const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
-  auto* to = reinterpret_cast<uint8_t*>(out);
-  int32_t offset[kBlock];
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto at = PositionsAt<1>(d, points, i, static_cast<int32_t>(task.src.step), kChannels * sizeof(T));
-    hn::StoreU(at.offset, hn::Rebind<int32_t, decltype(d)>(), offset + i);
-  }
-  if (task.isShift) {
-    std::memcpy(to, src + offset[0], n * kChannels * sizeof(T));
-  } else {
-    MovePixels<kChannels * sizeof(T)>(src, offset, n, to);
-  }
 }
 
 // ---- Blocks
@@ -400,13 +408,19 @@ void StoreBlock(const SampleTask<T>& task, const T* out, ptrdiff_t n, T* dst) {
 
 template <int kTaps, int kChannels, class T, class Points>
 void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
+  constexpr int kPixelBytes = kChannels * sizeof(T);
   T out[kBlock * kChannels + 4];
+  Places<WorkOf<T>> places;
+  Place<kTaps, kPixelBytes>(points, n, static_cast<int32_t>(task.src.step), places);
   if constexpr (kTaps == 1) {
-    MovePixels<kChannels>(task, points, n, out);
+    const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
+    auto* to = reinterpret_cast<uint8_t*>(out);
+    if (task.isShift) std::memcpy(to, src + places.offset[0], n * kPixelBytes);
+    if (!task.isShift) MovePixels<kPixelBytes>(src, places.offset, n, to);
   } else if constexpr (kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1)) {
-    BlendPoints<kTaps, kChannels>(task, points, n, out);
+    BlendPoints<kTaps, kChannels>(task, places, n, out);
   } else {
-    BlendPixels<kTaps, kChannels>(task, points, n, out);
+    BlendPixels<kTaps, kChannels>(task, places, n, out);
   }
   StoreBlock(task, out, n, dst);
 }

@@ -78,7 +78,7 @@ void SampleAny(const SampleTask<T>& task, const Points& points, ptrdiff_t first,
   double u[kBlock], v[kBlock];
   for (ptrdiff_t x = first; x < end; x += kBlock) {
     const ptrdiff_t n = std::min<ptrdiff_t>(end - x, kBlock);
-    Locate(points.From(x, n), n, u, v);
+    Locate(points.From(x), n, u, v);
     Sample<kTaps>(task, u, v, n, row + x * channels);
   }
 }
@@ -92,7 +92,7 @@ void WarpRow(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t wi
   SampleAny<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
   for (ptrdiff_t x = spans.inside.first; x < spans.inside.end; x += kBlock) {
     const ptrdiff_t n = std::min<ptrdiff_t>(spans.inside.end - x, kBlock);
-    SampleInside<kTaps>(task, points.From(x, n), n, row + x * channels);
+    SampleInside<kTaps>(task, points.From(x), n, row + x * channels);
   }
   SampleAny<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
   FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);

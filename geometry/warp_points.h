@@ -22,9 +22,9 @@ struct Line {
   }
 };
 
-// Columns from `first` on. Those behind the last one repeat it.
+// Columns from `first` on.
 struct Columns {
-  double first, last;
+  double first;
 
   template <class D>
   HWY_INLINE hn::Vec<D> Load(D d, ptrdiff_t i) const {
@@ -33,7 +33,7 @@ struct Columns {
       for (int k = 0; k < kBlock; ++k) numbers[k] = k;
       return numbers;
     }();
-    return hn::Min(hn::Add(hn::LoadU(d, kNumbers.data() + i), hn::Set(d, first)), hn::Set(d, last));
+    return hn::Add(hn::LoadU(d, kNumbers.data() + i), hn::Set(d, first));
   }
 };
 
@@ -44,13 +44,12 @@ struct AffinePoints {
 
   // A row whose column 0 is destination column `x`.
   AffinePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y)
-      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x), 0} {}
+      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x)} {}
 
-  // n points from column `x` on.
-  AffinePoints From(ptrdiff_t x, ptrdiff_t n) const {
+  // The points from column `x` on.
+  AffinePoints From(ptrdiff_t x) const {
     AffinePoints points(*this);
     points.columns.first += static_cast<double>(x);
-    points.columns.last = points.columns.first + static_cast<double>(n - 1);
     return points;
   }
 
@@ -70,9 +69,9 @@ struct PerspectivePoints {
 
   PerspectivePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], y) {}
 
-  PerspectivePoints From(ptrdiff_t x, ptrdiff_t n) const {
+  PerspectivePoints From(ptrdiff_t x) const {
     PerspectivePoints points(*this);
-    points.affine = affine.From(x, n);
+    points.affine = affine.From(x);
     return points;
   }
 
@@ -86,16 +85,18 @@ struct PerspectivePoints {
   }
 };
 
-// Coordinates of n points, and of those behind them up to whole vectors.
+// Coordinates of n points, and copies of the last one up to Padded(n).
 template <class Points>
 void Locate(const Points& points, ptrdiff_t n, double* u, double* v) {
   const hn::ScalableTag<double> d;
-  for (ptrdiff_t i = 0; i < Padded(n); i += hn::Lanes(d)) {
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
     hn::Vec<decltype(d)> x, y;
     points.Load(d, i, x, y);
     hn::StoreU(x, d, u + i);
     hn::StoreU(y, d, v + i);
   }
+  std::fill(u + n, u + Padded(n), u[n - 1]);
+  std::fill(v + n, v + Padded(n), v[n - 1]);
 }
 
 // ---- Spans of a row
