@@ -46,6 +46,13 @@ int MethodFor(QvpiSize size, int method) {
   return shortest == 1 ? qvpInterpolationNearest : method;
 }
 
+constexpr int TapsOf(int method) {
+  return method == qvpInterpolationNearest   ? 1
+         : method == qvpInterpolationLinear  ? 2
+         : method == qvpInterpolationLanczos ? 6
+                                             : 4;
+}
+
 // Points of the region have a value. Linear interpolation keeps to its pixels; the larger methods read around it.
 template <class T>
 SampleTask<T> TaskOf(const RemapCall<T>& call, int method) {
@@ -53,7 +60,7 @@ SampleTask<T> TaskOf(const RemapCall<T>& call, int method) {
   const ptrdiff_t left = roi.x, top = roi.y;
   const ptrdiff_t right = left + std::min(roi.width, call.srcSize.width - roi.x);
   const ptrdiff_t bottom = top + std::min(roi.height, call.srcSize.height - roi.y);
-  SampleTask<T> task{call.src, {{0, call.srcSize.width}, {0, call.srcSize.height}}, {}, 0, 0, false};
+  SampleTask<T> task{call.src, {{0, call.srcSize.width}, {0, call.srcSize.height}}, {}, 0, 0, false, {}};
   SampleArea& area = task.area;
   if (method == qvpInterpolationNearest || method == qvpInterpolationLinear) {
     area.columns = {left, right};
@@ -64,6 +71,7 @@ SampleTask<T> TaskOf(const RemapCall<T>& call, int method) {
   area.left = static_cast<double>(left), area.right = static_cast<double>(right - 1);
   area.top = static_cast<double>(top), area.bottom = static_cast<double>(bottom - 1);
   task.c = method == qvpInterpolationCubicClassic ? 0.75 : 0.5;
+  task.SetInterior(TapsOf(method));
   return task;
 }
 

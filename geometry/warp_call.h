@@ -2,7 +2,7 @@
 #pragma once
 
 #include "geometry/sampler.h"
-#include "geometry/warp_record.h"
+#include "geometry/warp_points.h"
 
 namespace qvp {
 
@@ -66,53 +66,47 @@ inline SampleArea AreaOf(const WarpRecord& record) {
 
 template <class T>
 SampleTask<T> TaskOf(const WarpCall<T>& call, const WarpRecord& record) {
-  SampleTask<T> task{call.src, AreaOf(record), {}, record.b, record.c2, record.isShift != 0};
+  SampleTask<T> task{call.src, AreaOf(record), {}, record.b, record.c2, record.isShift != 0, {}};
   for (int i = 0; i < 4; ++i) task.constant[i] = ToElement<T>(record.borderValue[i]);
   return task;
 }
 
-// Source coordinates of the n destination pixels from (x, y) on, and of those behind them up to whole vectors. Each
-// pixel's are computed from its own place, so that tiles equal the whole.
-inline void LocateAffine(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptrdiff_t n, double* u, double* v) {
-  const hn::ScalableTag<double> d;
-  const auto& c = record.c;
-  const auto yu = hn::Set(d, c[0][1] * static_cast<double>(y)), yv = hn::Set(d, c[1][1] * static_cast<double>(y));
-  const auto au = hn::Set(d, c[0][0]), av = hn::Set(d, c[1][0]), tu = hn::Set(d, c[0][2]), tv = hn::Set(d, c[1][2]);
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto column = hn::Iota(d, static_cast<double>(x + i));
-    hn::StoreU(hn::Add(hn::Add(hn::Mul(au, column), yu), tu), d, u + i);
-    hn::StoreU(hn::Add(hn::Add(hn::Mul(av, column), yv), tv), d, v + i);
+// Points whose kind is not known.
+template <int kTaps, class T, class Points>
+void SampleAny(const SampleTask<T>& task, const Points& points, ptrdiff_t first, ptrdiff_t end, T* row) {
+  const int channels = Channels(task.src.layout);
+  double u[kBlock], v[kBlock];
+  for (ptrdiff_t x = first; x < end; x += kBlock) {
+    const ptrdiff_t n = std::min<ptrdiff_t>(end - x, kBlock);
+    Locate(points.From(x), n, u, v);
+    Sample<kTaps>(task, u, v, n, row + x * channels);
   }
 }
 
-// Near and at the horizon there is no coordinate, but NaN.
-inline void LocatePerspective(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, ptrdiff_t n, double* u, double* v) {
-  const hn::ScalableTag<double> d;
-  const auto least = hn::Set(d, 1e-300), none = hn::NaN(d);
-  LocateAffine(record, x, y, n, u, v);
-  const auto yw = hn::Set(d, record.c[2][1] * static_cast<double>(y));
-  const auto aw = hn::Set(d, record.c[2][0]), tw = hn::Set(d, record.c[2][2]);
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto column = hn::Iota(d, static_cast<double>(x + i));
-    const auto w = hn::Add(hn::Add(hn::Mul(aw, column), yw), tw);
-    const auto divisor = hn::IfThenElse(hn::Ge(hn::Abs(w), least), w, none);
-    hn::StoreU(hn::Div(hn::LoadU(d, u + i), divisor), d, u + i);
-    hn::StoreU(hn::Div(hn::LoadU(d, v + i), divisor), d, v + i);
+// A row of an affine warp: pixels beyond the image, pixels at its border, pixels inside, and these in turn.
+template <int kTaps, class T>
+void WarpRow(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t width, T* row) {
+  const int channels = Channels(task.src.layout);
+  const Spans spans = SpansOf<kTaps>(task, points, width);
+  FillBeyond(task, spans.touching.first, row);
+  SampleAny<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
+  for (ptrdiff_t x = spans.inside.first; x < spans.inside.end; x += kBlock) {
+    const ptrdiff_t n = std::min<ptrdiff_t>(spans.inside.end - x, kBlock);
+    SampleInside<kTaps>(task, points.From(x), n, row + x * channels);
   }
+  SampleAny<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
+  FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
 }
 
 template <int kTaps, class T>
 void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width, ptrdiff_t height) {
-  const SampleTask<T> task = TaskOf(call, record);
-  const auto locate = record.kind == WarpKind::kAffine ? LocateAffine : LocatePerspective;
-  const int channels = Channels(call.dst.layout);
-  double u[kBlock], v[kBlock];
+  SampleTask<T> task = TaskOf(call, record);
+  task.SetInterior(kTaps);
   for (ptrdiff_t y = 0; y < height; ++y) {
-    T* row = call.dst.Row(y);
-    for (ptrdiff_t x = 0; x < width; x += kBlock) {
-      const ptrdiff_t n = std::min<ptrdiff_t>(width - x, kBlock);
-      locate(record, call.x + x, call.y + y, Padded(n), u, v);
-      Sample<kTaps>(task, u, v, n, row + x * channels);
+    if (record.kind == WarpKind::kAffine) {
+      WarpRow<kTaps>(task, AffinePoints(record, call.x, call.y + y), width, call.dst.Row(y));
+    } else {
+      SampleAny<kTaps>(task, PerspectivePoints(record, call.x, call.y + y), 0, width, call.dst.Row(y));
     }
   }
 }

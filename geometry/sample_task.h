@@ -1,0 +1,91 @@
+// What a sampling call is about: the pixels that can be read, and which points between them have a value.
+#pragma once
+
+#include <algorithm>
+
+#include "base/border.h"
+#include "base/image.h"
+#include "base/lanes.h"
+
+namespace qvp {
+
+// Points come in blocks of up to kBlock.
+inline constexpr int kBlock = 64;
+
+// Points up to whole vectors of any build.
+constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
+
+// What can be read, and which points have a value.
+struct SampleArea {
+  Extent columns, rows;
+  BorderKind kind = BorderKind::kReplicate;  // or kConst: what stands for pixels elsewhere
+  bool isBounded = false;                    // points beyond the bounds are left alone ...
+  bool isSmooth = false;                     // ... but blended in on one pixel around them
+  double left = 0, top = 0, right = 0, bottom = 0;
+};
+
+// Numbers from `low` to `high`, both included; empty if `high` is the lower one.
+struct Interval {
+  double low = 1, high = 0;
+
+  bool Contains(double x) const { return x >= low && x <= high; }
+};
+
+// Points along both axes.
+struct PointBox {
+  Interval u, v;
+};
+
+constexpr int kTapsBefore(int taps) { return (taps - 1) / 2; }
+
+// How far before a pixel its points begin: the nearest pixel is half a pixel away at most, and others begin with it.
+constexpr double kPointsBefore(int taps) { return taps == 1 ? 0.5 : 0; }
+
+// Pixels that are read behind the last tap: kernels load four elements, or a word, at once.
+constexpr int kFurther(int taps, int channels) { return taps == 1 || channels == 4 ? 0 : channels == 3 ? 1 : 3; }
+
+// Offsets are summed up in 32 bits, and a coordinate of an interior point plus one half is exact in single precision.
+inline constexpr int64_t kLargestOffset = INT32_MAX, kLastInterior = int64_t{1} << 21;
+
+// The points inside the bounds that have all taps, and `further` pixels behind these, in the extent. Of the last such
+// pixel only the first half counts, so that no rounding leads out of it.
+inline Interval InteriorOf(Extent extent, int taps, int further, bool isBounded, double low, double high) {
+  const int before = kTapsBefore(taps);
+  int64_t first = int64_t{extent.begin} + before, last = int64_t{extent.end} - taps + before - further;
+  if (isBounded) {
+    first = std::max(first, static_cast<int64_t>(low) + (taps == 1));
+    last = std::min(last, static_cast<int64_t>(high) - 1);
+  }
+  last = std::min(last, kLastInterior);
+  if (first > last) return {};
+  return {static_cast<double>(first) - kPointsBefore(taps),
+          static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
+}
+
+template <class T>
+struct SampleTask {
+  Image<const T> src;
+  SampleArea area;
+  T constant[4] = {};
+  double b = 0, c = 0;   // of the cubic
+  bool isShift = false;  // nearest only: points are whole and one apart, so that pixels move in runs
+  PointBox interior;     // points that need no test
+
+  // Finds the interior for a method. It is empty where offsets of the image take more than 32 bits.
+  void SetInterior(int taps) {
+    const int64_t reach = std::max(-int64_t{area.rows.begin}, int64_t{area.rows.end}) + 8;
+    const int64_t across = std::max(-int64_t{area.columns.begin}, int64_t{area.columns.end}) + 8;
+    const int64_t size = src.step < 0 ? -int64_t{src.step} : int64_t{src.step};
+    interior = {};
+    if (size > kLargestOffset || size * reach + across * src.PixelBytes() > kLargestOffset) return;
+    const int further = kFurther(taps, Channels(src.layout));
+    interior.u = InteriorOf(area.columns, taps, further, area.isBounded, area.left, area.right);
+    interior.v = InteriorOf(area.rows, taps, 0, area.isBounded, area.top, area.bottom);
+  }
+};
+
+// Weights, and sums of weighted pixels, are single precision unless pixels are double.
+template <class T>
+using WorkOf = std::conditional_t<std::is_same_v<T, double>, double, float>;
+
+}  // namespace qvp

@@ -1,0 +1,172 @@
+// The source points of a row of destination pixels. Each is computed from its own place, so that tiles equal the whole.
+#pragma once
+
+#include <array>
+
+#include "geometry/sample_task.h"
+#include "geometry/warp_record.h"
+
+namespace qvp {
+
+// One linear function of the column x: (a x + b) + c. Each of its rounded steps is monotone in x, and so is the result.
+struct Line {
+  double a, b, c;
+
+  Line(const double (&coefficients)[3], ptrdiff_t y)
+      : a(coefficients[0]), b(coefficients[1] * static_cast<double>(y)), c(coefficients[2]) {}
+
+  double At(double x) const { return a * x + b + c; }
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V At(D d, V x) const {
+    return hn::Add(hn::Add(hn::Mul(hn::Set(d, a), x), hn::Set(d, b)), hn::Set(d, c));
+  }
+};
+
+// Columns from `first` on.
+struct Columns {
+  double first;
+
+  template <class D>
+  HWY_INLINE hn::Vec<D> Load(D d, ptrdiff_t i) const {
+    static constexpr auto kNumbers = [] {
+      std::array<double, kBlock> numbers{};
+      for (int k = 0; k < kBlock; ++k) numbers[k] = k;
+      return numbers;
+    }();
+    return hn::Add(hn::LoadU(d, kNumbers.data() + i), hn::Set(d, first));
+  }
+};
+
+struct AffinePoints {
+  using Coordinate = double;
+  Line u, v;
+  Columns columns;
+
+  // A row whose column 0 is destination column `x`.
+  AffinePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y)
+      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x)} {}
+
+  // The points from column `x` on.
+  AffinePoints From(ptrdiff_t x) const {
+    AffinePoints points(*this);
+    points.columns.first += static_cast<double>(x);
+    return points;
+  }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    const auto column = columns.Load(d, i);
+    x = u.At(d, column);
+    y = v.At(d, column);
+  }
+};
+
+// Near and at the horizon there is no coordinate, but NaN.
+struct PerspectivePoints {
+  using Coordinate = double;
+  AffinePoints affine;
+  Line w;
+
+  PerspectivePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], y) {}
+
+  PerspectivePoints From(ptrdiff_t x) const {
+    PerspectivePoints points(*this);
+    points.affine = affine.From(x);
+    return points;
+  }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    affine.Load(d, i, x, y);
+    const auto depth = w.At(d, affine.columns.Load(d, i));
+    const auto divisor = hn::IfThenElse(hn::Ge(hn::Abs(depth), hn::Set(d, 1e-300)), depth, hn::NaN(d));
+    x = hn::Div(x, divisor);
+    y = hn::Div(y, divisor);
+  }
+};
+
+// Coordinates of n points, and copies of the last one up to Padded(n).
+template <class Points>
+void Locate(const Points& points, ptrdiff_t n, double* u, double* v) {
+  const hn::ScalableTag<double> d;
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+    hn::Vec<decltype(d)> x, y;
+    points.Load(d, i, x, y);
+    hn::StoreU(x, d, u + i);
+    hn::StoreU(y, d, v + i);
+  }
+  std::fill(u + n, u + Padded(n), u[n - 1]);
+  std::fill(v + n, v + Padded(n), v[n - 1]);
+}
+
+// ---- Spans of a row
+
+// Columns [first, end).
+struct Span {
+  ptrdiff_t first, end;
+};
+
+// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the search.
+template <class Property>
+ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
+  const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n)) : 0);
+  Span open{0, n};
+  const auto probe = [&](ptrdiff_t x) {
+    if (x < open.first || x >= open.end) return;
+    if (has(x)) open.end = x;
+    if (open.end != x) open.first = x + 1;
+  };
+  for (const ptrdiff_t x : {near + 1, near}) probe(x);
+  while (open.first < open.end) probe(open.first + (open.end - open.first) / 2);
+  return open.first;
+}
+
+// The columns of n, counted from column `x`, whose coordinates lie in the interval. The line is finite there.
+inline Span SpanOf(const Line& line, const Interval& interval, double x, ptrdiff_t n) {
+  const bool isRising = line.a >= 0;
+  const double enter = isRising ? interval.low : interval.high, leave = isRising ? interval.high : interval.low;
+  const auto guess = [&](double value) { return (value - line.b - line.c) / line.a - x; };
+  const auto at = [&](ptrdiff_t i) { return line.At(x + static_cast<double>(i)); };
+  const ptrdiff_t first =
+      FirstWith(n, guess(enter), [&](ptrdiff_t i) { return isRising ? at(i) >= enter : at(i) <= enter; });
+  const ptrdiff_t end =
+      FirstWith(n, guess(leave), [&](ptrdiff_t i) { return isRising ? at(i) > leave : at(i) < leave; });
+  return {first, std::max(first, end)};
+}
+
+inline Span SpanOf(const AffinePoints& points, const PointBox& box, ptrdiff_t n) {
+  const Span a = SpanOf(points.u, box.u, points.columns.first, n), b = SpanOf(points.v, box.v, points.columns.first, n);
+  const ptrdiff_t first = std::max(a.first, b.first);
+  return {first, std::max(first, std::min(a.end, b.end))};
+}
+
+// The columns that need not be tested, among those that may take something from the image.
+struct Spans {
+  Span touching, inside;
+};
+
+// The points of which some tap lies in the extent, or that are within the bounds.
+inline Interval TouchingOf(const SampleArea& area, int taps, Extent extent, double low, double high) {
+  if (area.isBounded) return {low - area.isSmooth, high + area.isSmooth};
+  const double before = kTapsBefore(taps) - kPointsBefore(taps);
+  return {static_cast<double>(extent.begin) - taps + 1 + before, static_cast<double>(extent.end) + before};
+}
+
+template <int kTaps, class T>
+Spans SpansOf(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t n) {
+  const SampleArea& area = task.area;
+  const double begin = points.columns.first, last = begin + static_cast<double>(n - 1);
+  const double ends = (points.u.At(begin) + points.v.At(begin)) + (points.u.At(last) + points.v.At(last));
+  Spans spans{{0, n}, {n, n}};
+  if (!(ends - ends == 0)) return spans;
+  if (area.isBounded || area.kind == BorderKind::kConst) {
+    spans.touching = SpanOf(points, {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+                                     TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
+                            n);
+  }
+  const Span inside = SpanOf(points, task.interior, n);
+  spans.inside = inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};
+  return spans;
+}
+
+}  // namespace qvp
