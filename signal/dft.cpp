@@ -2,9 +2,8 @@
 #include "signal/dft.h"
 
 #include <algorithm>
-#include <cstring>
 
-#include "signal/dft_passes.h"
+#include "signal/dft_ends.h"
 
 namespace qvp {
 namespace {
@@ -14,92 +13,19 @@ const T* Table(const DftPlan& plan, int64_t offset) {
   return reinterpret_cast<const T*>(reinterpret_cast<const uint8_t*>(&plan) + offset);
 }
 
-template <class T>
-T* At(T* p, ptrdiff_t bytes) {
-  using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
-  return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + bytes);
-}
-
-void Copy(const float* from, float* to) { std::memcpy(to, from, sizeof(float)); }
-
 // ---- Floats of lines to rows of lanes and back. A map gives the row of lanes of each float of a line.
-
-// Four floats of each of eight lines are turned in registers: with eight lanes, a vector has a line of the first four
-// and one of the others in its halves.
-constexpr int kTile = 4;
-using Quad = hn::FixedTag<float, kTile>;
-using Lanes = hn::CappedTag<float, kDftLines>;
-constexpr int kQuads = static_cast<int>(hn::MaxLanes(Lanes())) / kTile;
-using V = hn::Vec<Lanes>;
-
-HWY_INLINE void Transpose(V (&v)[kTile]) {
-  const Lanes d;
-  const hn::Repartition<uint64_t, Lanes> pairs;
-  const auto as = [&](V a) { return hn::BitCast(pairs, a); };
-  const V a = hn::InterleaveLower(d, v[0], v[1]), b = hn::InterleaveLower(d, v[2], v[3]);
-  const V c = hn::InterleaveUpper(d, v[0], v[1]), e = hn::InterleaveUpper(d, v[2], v[3]);
-  v[0] = hn::BitCast(d, hn::InterleaveLower(pairs, as(a), as(b)));
-  v[1] = hn::BitCast(d, hn::InterleaveUpper(pairs, as(a), as(b)));
-  v[2] = hn::BitCast(d, hn::InterleaveLower(pairs, as(c), as(e)));
-  v[3] = hn::BitCast(d, hn::InterleaveUpper(pairs, as(c), as(e)));
-}
-
-HWY_INLINE hn::Vec<Quad> LoadQuad(const float* from, ptrdiff_t stride) {
-  if (stride == sizeof(float)) return hn::LoadU(Quad(), from);
-  HWY_ALIGN float four[kTile];
-  for (int i = 0; i < kTile; ++i) Copy(At(from, i * stride), four + i);
-  return hn::Load(Quad(), four);
-}
-
-HWY_INLINE void StoreQuad(hn::Vec<Quad> v, float* to, ptrdiff_t stride) {
-  if (stride == sizeof(float)) return hn::StoreU(v, Quad(), to);
-  HWY_ALIGN float four[kTile];
-  hn::Store(v, Quad(), four);
-  for (int i = 0; i < kTile; ++i) Copy(four + i, At(to, i * stride));
-}
-
-// Vectors of one line or of two.
-template <class D>
-HWY_INLINE hn::Vec<D> LoadQuads(D d, const float* lower, const float* upper, ptrdiff_t stride) {
-  if constexpr (hn::MaxLanes(D()) == kTile) {
-    return LoadQuad(lower, stride);
-  } else {
-    return hn::Combine(d, LoadQuad(upper, stride), LoadQuad(lower, stride));
-  }
-}
-
-template <class D>
-HWY_INLINE void StoreLower(D, hn::Vec<D> v, bool isLine, float* to, ptrdiff_t stride) {
-  if (!isLine) return;
-  if constexpr (hn::MaxLanes(D()) == kTile) {
-    StoreQuad(v, to, stride);
-  } else {
-    StoreQuad(hn::LowerHalf(Quad(), v), to, stride);
-  }
-}
-
-template <class D>
-HWY_INLINE void StoreUpper(D, hn::Vec<D> v, bool isLine, float* to, ptrdiff_t stride) {
-  if constexpr (hn::MaxLanes(D()) != kTile) {
-    if (isLine) StoreQuad(hn::UpperHalf(Quad(), v), to, stride);
-  }
-}
 
 template <int kLines, class Map>
 void Gather(const DftLines<const float>& lines, ptrdiff_t first, ptrdiff_t end, const Map& rowOf, float* block) {
   ptrdiff_t i = first;
   const ptrdiff_t stride = lines.stride;
   if constexpr (kLines == kDftLines) {
-    const float* from[kDftLines];  // the last line stands for those that are not there
-    for (int l = 0; l < kDftLines; ++l) from[l] = lines.at[std::min(l, lines.count - 1)];
+    const float* from[kDftLines];
+    FillUp(lines, from);
     for (; i + kTile <= end; i += kTile) {
-      for (int l = 0; l < kDftLines; l += kTile * kQuads) {
+      for (int l = 0; l < kDftLines; l += kLanes) {
         V v[kTile];
-        for (int t = 0; t < kTile; ++t) {
-          v[t] = LoadQuads(Lanes(), At(from[l + t], i * stride), At(from[(l + t + kTile) % kDftLines], i * stride),
-                           stride);
-        }
-        Transpose(v);
+        LoadTile(from, l, i * stride, stride, v);
         for (int t = 0; t < kTile; ++t) hn::StoreU(v[t], Lanes(), block + rowOf(i + t) * kLines + l);
       }
     }
@@ -118,19 +44,15 @@ void Scatter(const float* block, float scale, const DftLines<float>& lines, ptrd
   const ptrdiff_t stride = lines.stride;
   if constexpr (kLines == kDftLines) {
     const V factor = hn::Set(Lanes(), scale);
+    float* to[kDftLines];
+    FillUp(lines, to);
     for (; i + kTile <= end; i += kTile) {
-      for (int l = 0; l < lines.count; l += kTile * kQuads) {
+      for (int l = 0; l < lines.count; l += kLanes) {
         V v[kTile];
         for (int t = 0; t < kTile; ++t) {
           v[t] = hn::Mul(hn::LoadU(Lanes(), block + rowOf(i + t) * kLines + l), factor);
         }
-        Transpose(v);
-        for (int t = 0; t < kTile; ++t) {
-          StoreLower(Lanes(), v[t], l + t < lines.count, At(lines.at[std::min(l + t, lines.count - 1)], i * stride),
-                     stride);
-          StoreUpper(Lanes(), v[t], l + t + kTile < lines.count,
-                     At(lines.at[std::min(l + t + kTile, lines.count - 1)], i * stride), stride);
-        }
+        StoreTile(v, to, lines.count, l, i * stride, stride);
       }
     }
   }
@@ -270,17 +192,26 @@ void RunChirp(const DftPlan& plan, Planes planes, float* block) {
   const uint8_t* const base = reinterpret_cast<const uint8_t*>(&plan);
   MultiplyBy<kLines>(chirp, planes, n, block);
   std::memset(block + 2 * n * kLines, 0, (m - n) * 2 * kLines * sizeof(float));
-  RunPasses<kLines>(plan, base, planes, block);
+  RunPasses<kLines>(plan, base, planes, block, 0, plan.factorCount);
   MultiplyBy<kLines>(Table<float>(plan, plan.chirpSpectrum), planes, m, block);
   RunPassesUpward<kLines>(plan, base, Planes{planes.im, planes.re}, block);
   MultiplyBy<kLines>(chirp, planes, n, block);
 }
 
+const float* FirstTwiddles(const DftPlan& plan) { return Table<float>(plan, plan.twiddles); }
+
+Planes PlanesFor(Direction direction) { return direction == Direction::kForward ? Planes{0, 1} : Planes{1, 0}; }
+
+// All passes, or those between the first and the last one where these are done with the ends.
+struct Passes {
+  bool withFirst = true, withLast = true;
+};
+
 template <int kLines>
-void Run(const DftPlan& plan, Direction direction, float* block) {
-  const Planes planes = direction == Direction::kForward ? Planes{0, 1} : Planes{1, 0};
-  if (plan.chirpLength) return RunChirp<kLines>(plan, planes, block);
-  RunPasses<kLines>(plan, reinterpret_cast<const uint8_t*>(&plan), planes, block);
+void Run(const DftPlan& plan, Direction direction, Passes passes, float* block) {
+  if (plan.chirpLength) return RunChirp<kLines>(plan, PlanesFor(direction), block);
+  RunPasses<kLines>(plan, reinterpret_cast<const uint8_t*>(&plan), PlanesFor(direction), block, !passes.withFirst,
+                    plan.factorCount - !passes.withLast);
 }
 
 // ---- Lines.
@@ -308,46 +239,58 @@ void ScatterLines(const DftPlan& plan, Direction direction, const float* block, 
   Scatter<kLines>(block, scale, dst, 0, plan.length, realPart);
 }
 
-template <int kLines>
-void TransformLinesOf(const DftPlan& plan, Direction direction, const DftLines<const float>& src,
-                      const DftLines<float>& dst, float* block) {
+// Whether the first pass can read the lines, and whether the last one can write them: packed spectra are no numbers in
+// order.
+Passes LinePassesInBlock(const DftPlan& plan, Direction direction, ptrdiff_t srcStride, ptrdiff_t dstStride) {
+  const bool isReal = plan.kind == DftKind::kReal, isForward = direction == Direction::kForward;
+  const bool isInOrder = plan.kind == DftKind::kComplex || plan.length % 2 == 0;
+  return {!isInOrder || (isReal && !isForward) || !HasLineEnds(plan, srcStride),
+          !isInOrder || (isReal && isForward) || plan.complexLength >= 1024 || !HasLineEnds(plan, dstStride)};
+}
+
+template <Direction kDirection>
+void FirstPassOfLines(const DftPlan& plan, const DftLines<const float>& src, float* block) {
+  const auto pass = plan.factors[0] == 4 ? FirstLinePass<kDirection, 4> : FirstLinePass<kDirection, 8>;
+  pass(plan, src, FirstTwiddles(plan), {block, PlanesFor(kDirection)});
+}
+
+template <Direction kDirection>
+void LastPassOfLines(const DftPlan& plan, float* block, const DftLines<float>& dst) {
+  const int32_t* const places = Table<int32_t>(plan, plan.places);
+  WithFactor(plan.factors[plan.factorCount - 1], [&](auto factor) {
+    LastLinePass<kDirection, factor>(plan, places, plan.scale[kDirection == Direction::kInverse],
+                                     {block, PlanesFor(kDirection)}, dst);
+  });
+}
+
+template <Direction kDirection, int kLines>
+void TransformLinesOf(const DftPlan& plan, const DftLines<const float>& src, const DftLines<float>& dst, float* block) {
+  constexpr bool kForward = kDirection == Direction::kForward;
   const bool isReal = plan.kind == DftKind::kReal, isHalved = plan.complexLength != plan.length;
-  GatherLines<kLines>(plan, direction, src, block);
-  if (isReal && direction == Direction::kInverse) {
+  const Passes passes = LinePassesInBlock(plan, kDirection, src.stride, dst.stride);
+  if (passes.withFirst) {
+    GatherLines<kLines>(plan, kDirection, src, block);
+  } else {
+    FirstPassOfLines<kDirection>(plan, src, block);
+  }
+  if (isReal && !kForward) {
     isHalved ? ConvertHalved<Direction::kInverse, kLines>(plan, block) : Mirror<kLines>(plan, block);
   }
-  Run<kLines>(plan, direction, block);
-  if (isHalved && direction == Direction::kForward) ConvertHalved<Direction::kForward, kLines>(plan, block);
-  ScatterLines<kLines>(plan, direction, block, dst);
+  Run<kLines>(plan, kDirection, passes, block);
+  if (isHalved && kForward) ConvertHalved<Direction::kForward, kLines>(plan, block);
+  if (!passes.withLast) return LastPassOfLines<kDirection>(plan, block, dst);
+  ScatterLines<kLines>(plan, kDirection, block, dst);
 }
 
 // ---- Columns.
 
-// Whether all numbers of a row lie in eight pairs of floats.
-template <class T>
-bool AreAllNeighbours(const DftColumns<T>& columns, int count) {
-  return count == kDftLines && columns.pitch == 2 * sizeof(float) && columns.imaginary == sizeof(float);
-}
-
 template <int kLines>
 void GatherColumns(const DftColumns<const float>& src, int64_t rows, int count, float* block) {
-  const bool areNeighbours = kLines == kDftLines && AreAllNeighbours(src, count);
   for (int64_t y = 0; y < rows; ++y, block += 2 * kLines) {
-    const float* const row = At(src.data, y * src.step);
-    if (areNeighbours) {
-      const Lanes d;
-      ForEachLane<kDftLines>([&](ptrdiff_t lane) {
-        V re, im;
-        hn::LoadInterleaved2(d, row + 2 * lane, re, im);
-        hn::StoreU(re, d, block + lane);
-        hn::StoreU(im, d, block + kLines + lane);
-      });
-    } else {
-      for (int l = 0; l < kLines; ++l) {
-        const float* const number = At(row, std::min(l, count - 1) * src.pitch);
-        Copy(number, block + l);
-        Copy(At(number, src.imaginary), block + kLines + l);
-      }
+    for (int l = 0; l < kLines; ++l) {
+      const float* const number = At(src.data, y * src.step + std::min(l, count - 1) * src.pitch);
+      Copy(number, block + l);
+      Copy(At(number, src.imaginary), block + kLines + l);
     }
   }
 }
@@ -355,48 +298,56 @@ void GatherColumns(const DftColumns<const float>& src, int64_t rows, int count, 
 template <int kLines>
 void ScatterColumns(const DftPlan& plan, float scale, const float* block, const DftColumns<float>& dst, int count) {
   const int32_t* const places = Table<int32_t>(plan, plan.places);
-  const bool areNeighbours = kLines == kDftLines && AreAllNeighbours(dst, count);
   for (int64_t y = 0; y < plan.length; ++y) {
-    float* const row = At(dst.data, y * dst.step);
     const float* const number = block + 2 * static_cast<ptrdiff_t>(places[y]) * kLines;
-    if (areNeighbours) {
-      const Lanes d;
-      const V factor = hn::Set(d, scale);
-      ForEachLane<kDftLines>([&](ptrdiff_t lane) {
-        const V re = hn::Mul(hn::LoadU(d, number + lane), factor);
-        const V im = hn::Mul(hn::LoadU(d, number + kLines + lane), factor);
-        hn::StoreInterleaved2(re, im, d, row + 2 * lane);
-      });
-    } else {
-      for (int l = 0; l < count; ++l) {
-        const float re = number[l] * scale, im = number[kLines + l] * scale;
-        Copy(&re, At(row, l * dst.pitch));
-        Copy(&im, At(row, l * dst.pitch + dst.imaginary));
-      }
+    for (int l = 0; l < count; ++l) {
+      const float re = number[l] * scale, im = number[kLines + l] * scale;
+      float* const to = At(dst.data, y * dst.step + l * dst.pitch);
+      Copy(&re, to);
+      Copy(&im, At(to, dst.imaginary));
     }
   }
 }
 
-template <int kLines>
-void TransformColumnsOf(const DftPlan& plan, Direction direction, const DftColumns<const float>& src,
-                        const DftColumns<float>& dst, int count, float* block) {
-  GatherColumns<kLines>(src, plan.length, count, block);
-  Run<kLines>(plan, direction, block);
-  ScatterColumns<kLines>(plan, plan.scale[direction == Direction::kInverse], block, dst, count);
+template <Direction kDirection, int kLines>
+void TransformColumnsOf(const DftPlan& plan, const DftColumns<const float>& src, const DftColumns<float>& dst,
+                        int count, float* block) {
+  const float scale = plan.scale[kDirection == Direction::kInverse];
+  const Passes passes{!HasColumnEnds(plan, src, count), !HasColumnEnds(plan, dst, count)};
+  if (passes.withFirst) {
+    GatherColumns<kLines>(src, plan.length, count, block);
+  } else {
+    const auto pass = plan.factors[0] == 4 ? FirstColumnPass<kDirection, 4> : FirstColumnPass<kDirection, 8>;
+    pass(plan, src, count, FirstTwiddles(plan), {block, PlanesFor(kDirection)});
+  }
+  Run<kLines>(plan, kDirection, passes, block);
+  if (passes.withLast) return ScatterColumns<kLines>(plan, scale, block, dst, count);
+  WithFactor(plan.factors[plan.factorCount - 1], [&](auto factor) {
+    LastColumnPass<kDirection, factor>(plan, Table<int32_t>(plan, plan.places), scale, {block, PlanesFor(kDirection)},
+                                       dst, count);
+  });
 }
 
 }  // namespace
 
 void TransformLines(const DftPlan& plan, Direction direction, const DftLines<const float>& src,
                     const DftLines<float>& dst, float* block) {
-  const auto transform = plan.Lines() == 1 ? TransformLinesOf<1> : TransformLinesOf<kDftLines>;
-  transform(plan, direction, src, dst, block);
+  constexpr auto kForward = Direction::kForward, kInverse = Direction::kInverse;
+  const bool isAlone = plan.Lines() == 1, isForward = direction == kForward;
+  const auto transform = isAlone     ? isForward ? TransformLinesOf<kForward, 1> : TransformLinesOf<kInverse, 1>
+                             : isForward ? TransformLinesOf<kForward, kDftLines>
+                                     : TransformLinesOf<kInverse, kDftLines>;
+  transform(plan, src, dst, block);
 }
 
 void TransformColumns(const DftPlan& plan, Direction direction, const DftColumns<const float>& src,
                       const DftColumns<float>& dst, int count, float* block) {
-  const auto transform = plan.Lines() == 1 ? TransformColumnsOf<1> : TransformColumnsOf<kDftLines>;
-  transform(plan, direction, src, dst, count, block);
+  constexpr auto kForward = Direction::kForward, kInverse = Direction::kInverse;
+  const bool isAlone = plan.Lines() == 1, isForward = direction == kForward;
+  const auto transform = isAlone     ? isForward ? TransformColumnsOf<kForward, 1> : TransformColumnsOf<kInverse, 1>
+                             : isForward ? TransformColumnsOf<kForward, kDftLines>
+                                     : TransformColumnsOf<kInverse, kDftLines>;
+  transform(plan, src, dst, count, block);
 }
 
 }  // namespace qvp

@@ -14,6 +14,9 @@ namespace qvp {
 inline constexpr int kDftLines = 8;
 inline constexpr int64_t kLongestTogether = 1 << 16;
 
+// A complex number.
+inline constexpr ptrdiff_t kPairBytes = 2 * sizeof(float);
+
 enum class DftKind : int32_t { kComplex, kReal };
 enum class Direction { kForward, kInverse };
 

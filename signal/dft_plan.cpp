@@ -8,7 +8,7 @@
 namespace qvp {
 namespace {
 
-constexpr int64_t kPairBytes = 2 * sizeof(float), kBoundary = 64;
+constexpr int64_t kBoundary = 64;
 
 int64_t RoundedUp(int64_t bytes) { return (bytes + kBoundary - 1) / kBoundary * kBoundary; }
 
@@ -95,7 +95,7 @@ void WriteChirp(const DftPlan& plan, uint8_t* base) {
     }
     square = (square + 2 * static_cast<uint64_t>(j) + 1) % (2 * static_cast<uint64_t>(n));
   }
-  RunPasses<1>(plan, base, Planes{0, 1}, spectrum);
+  RunPasses<1>(plan, base, Planes{0, 1}, spectrum, 0, plan.factorCount);
 }
 
 }  // namespace

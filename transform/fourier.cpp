@@ -33,8 +33,8 @@ void TransformRows(const Call& call, const Channel<const float>& src, const Chan
   const DftPlan& plan = call.Plan(kRows);
   const bool isReal = plan.kind == DftKind::kReal;
   for (int64_t y = 0; y < call.record.height; y += plan.Lines()) {
-    DftLines<const float> from{};
-    DftLines<float> to{};
+    DftLines<const float> from;
+    DftLines<float> to;
     from.count = to.count = static_cast<int>(std::min<int64_t>(plan.Lines(), call.record.height - y));
     for (int l = 0; l < to.count; ++l) {
       from.at[l] = src.Row(y + l);
