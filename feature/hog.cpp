@@ -71,7 +71,9 @@ struct BorderedImage {
 
 // ---- Votes.
 
-// A pixel's vote goes to the bins row - 1 and row, counted round the half turn, in a pair of shares.
+// A pixel's vote goes to the bins row - 1 and row, counted round the half turn, in a pair of shares. Rows are kept
+// times kRowStep: a CPU's addresses take that times 8, and a row of a histogram has so many bytes.
+constexpr int kRowStep = 4;
 struct Votes {
   float* shares;
   uint8_t* row;
@@ -114,9 +116,8 @@ HWY_INLINE void Vote(V gx, V gy, int bins, const Votes& to, ptrdiff_t i) {
   const V row = hn::Floor(place);
   const V share = hn::Mul(magnitude, hn::Sub(place, row));
   hn::StoreInterleaved2(hn::Sub(magnitude, share), share, d, to.shares + 2 * i);
-  // The bounds take care of NaN, which gives the second operand.
-  const V bounded = hn::Min(hn::Max(row, hn::Zero(d)), hn::Set(d, count));
-  hn::StoreU(hn::DemoteTo(bytes, RoundToInt(bounded)), bytes, to.row + i);
+  // NaN gives the lowest integer, and that saturates to 0.
+  hn::StoreU(hn::DemoteTo(bytes, RoundToInt(hn::Mul(row, hn::Set(d, float{kRowStep})))), bytes, to.row + i);
 }
 
 // The lines above, of and below n pixels; that of the pixels themselves begins one pixel before them. What is beyond n
@@ -218,21 +219,31 @@ constexpr int kTurns = 4, kMostBins = 16, kWeightBytes = kHogCells * sizeof(floa
 // A row of a histogram: the lower and the upper shares of the four cells.
 constexpr int kRowFloats = 2 * kHogCells;
 
-// Adds a pixel's two shares, times its weights, to a row: by one vector where there are such long ones.
-template <class D>
-HWY_INLINE void AddPixel(D d, const uint8_t* shares, const uint8_t* weights, float* row) {
-  float pair[2];
-  std::memcpy(pair, shares, sizeof(pair));
-  const auto weight = hn::LoadDup128(d, reinterpret_cast<const float*>(weights));
-  const auto lower = hn::Set(d, pair[0]), upper = hn::Set(d, pair[1]);
-  if constexpr (hn::MaxLanes(D()) == kRowFloats) {
-    const auto votes = hn::Mul(weight, hn::ConcatUpperLower(d, upper, lower));
-    hn::Store(hn::Add(hn::Load(d, row), votes), d, row);
-  } else {
-    hn::Store(hn::Add(hn::Load(d, row), hn::Mul(weight, lower)), d, row);
-    hn::Store(hn::Add(hn::Load(d, row + kHogCells), hn::Mul(weight, upper)), d, row + kHogCells);
+// The two shares of two pixels.
+class TwoPixels {
+ public:
+  HWY_INLINE explicit TwoPixels(const uint8_t* from)
+      : shares_(hn::LoadU(Cells(), reinterpret_cast<const float*>(from))) {}
+
+  // Adds one pixel's shares, times its weights, to a row: by one vector where there are such long ones.
+  template <int kPixel, class D>
+  HWY_INLINE void Add(D d, const uint8_t* weights, float* row) const {
+    const auto weight = hn::LoadDup128(d, reinterpret_cast<const float*>(weights));
+    if constexpr (hn::MaxLanes(D()) == kRowFloats) {
+      constexpr int kLower = 2 * kPixel, kUpper = kLower + 1;
+      HWY_ALIGN static constexpr int32_t kLanes[] = {kLower, kLower, kLower, kLower, kUpper, kUpper, kUpper, kUpper};
+      const auto both = hn::TableLookupLanes(hn::ZeroExtendVector(d, shares_), hn::SetTableIndices(d, kLanes));
+      hn::Store(hn::Add(hn::Load(d, row), hn::Mul(weight, both)), d, row);
+    } else {
+      const auto lower = hn::Broadcast<2 * kPixel>(shares_), upper = hn::Broadcast<2 * kPixel + 1>(shares_);
+      hn::Store(hn::Add(hn::Load(d, row), hn::Mul(weight, lower)), d, row);
+      hn::Store(hn::Add(hn::Load(d, row + kHogCells), hn::Mul(weight, upper)), d, row + kHogCells);
+    }
   }
-}
+
+ private:
+  hn::Vec<Cells> shares_;
+};
 using RowTag = hn::CappedTag<float, kRowFloats>;
 
 class Block {
@@ -241,24 +252,22 @@ class Block {
 
   // The weighted votes of the pixels of the block whose first pixel is at `first`, by bins, a lane for each cell.
   void Gather(const Planes& planes, ptrdiff_t first, const uint8_t* weights, int side) {
-    HWY_ALIGN float turns[kTurns][(kMostBins + 1) * kRowFloats];
+    HWY_ALIGN Turn turns[kTurns];
     for (int i = 0; i < (bins_ + 1) * kRowFloats; i += hn::MaxLanes(RowTag())) {
       for (auto& turn : turns) hn::Store(hn::Zero(RowTag()), RowTag(), turn + i);
     }
     const ptrdiff_t width = planes.width();
     const uint8_t *rows = planes.Rows() + first, *shares = planes.Shares() + first * Planes::kPairBytes;
+    const ptrdiff_t rowBytes = ptrdiff_t{side} * kWeightBytes;
     for (int j = 0; j < side; j += 2) {
-      for (int i = 0; i < side; i += 2) {
-        for (int turn = 0; turn < kTurns; ++turn) {
-          const int right = i + turn % 2, down = turn / 2;
-          const ptrdiff_t at = down * width + right;
-          AddPixel(RowTag(), shares + at * Planes::kPairBytes, weights + (down * side + right) * kWeightBytes,
-                   turns[turn] + rows[at] * kRowFloats);
-        }
+      for (ptrdiff_t i = 0; i < side; i += 2) {
+        AddPair(rows + i, shares + i * Planes::kPairBytes, weights + i * kWeightBytes, turns);
+        AddPair(rows + width + i, shares + (width + i) * Planes::kPairBytes, weights + rowBytes + i * kWeightBytes,
+                turns + 2);
       }
       rows += 2 * width;
       shares += 2 * width * Planes::kPairBytes;
-      weights += 2 * side * kWeightBytes;
+      weights += 2 * rowBytes;
     }
     Sum(turns);
   }
@@ -285,11 +294,19 @@ class Block {
   }
 
  private:
+  using Turn = float[(kMostBins + 1) * kRowFloats];
+
+  static HWY_INLINE void AddPair(const uint8_t* rows, const uint8_t* shares, const uint8_t* weights, Turn* turns) {
+    const TwoPixels pixels(shares);
+    pixels.Add<0>(RowTag(), weights, turns[0] + ptrdiff_t{rows[0]} * (kRowFloats / kRowStep));
+    pixels.Add<1>(RowTag(), weights + kWeightBytes, turns[1] + ptrdiff_t{rows[1]} * (kRowFloats / kRowStep));
+  }
+
   float* Bin(int b) { return votes_ + b * kHogCells; }
 
   // Bin b has the lower shares of row b + 1 and the upper ones of row b. Beyond either end are the rows where the half
   // turn closes.
-  void Sum(const float (&turns)[kTurns][(kMostBins + 1) * kRowFloats]) {
+  void Sum(const Turn (&turns)[kTurns]) {
     const Cells d;
     const auto at = [&](int row, int half) HWY_ATTR {
       const auto of = [&](int turn) { return hn::Load(d, turns[turn] + row * kRowFloats + half * kHogCells); };
