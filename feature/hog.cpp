@@ -120,33 +120,42 @@ HWY_INLINE void Vote(V gx, V gy, int bins, const Votes& to, ptrdiff_t i) {
   hn::StoreU(hn::DemoteTo(bytes, RoundToInt(hn::Mul(row, hn::Set(d, float{kRowStep})))), bytes, to.row + i);
 }
 
-// The lines above, of and below n pixels; that of the pixels themselves begins one pixel before them. What is beyond n
-// pixels are those of earlier lines.
-struct Lines {
-  HWY_ALIGN float above[kLineRoom] = {}, at[kLineRoom] = {}, below[kLineRoom] = {};
+// The lines of three rows, each from one pixel before those of interest to one behind them. What lies further is of
+// earlier lines.
+class Lines {
+ public:
+  float* Of(ptrdiff_t y) { return lines_[(y + 3) % 3]; }
+
+ private:
+  HWY_ALIGN float lines_[3][kLineRoom] = {};
+};
+
+// The lines around a row, from one pixel before those of interest on.
+struct Neighbours {
+  const float *above, *at, *below;
 };
 
 template <int kChannels>
 struct Gradient;
 template <>
 struct Gradient<1> {
-  HWY_INLINE Gradient(const Lines& lines, ptrdiff_t i) {
+  HWY_INLINE Gradient(const Neighbours& lines, ptrdiff_t i) {
     const Floats d;
     x = hn::Sub(hn::LoadU(d, lines.at + i + 2), hn::LoadU(d, lines.at + i));
-    y = hn::Sub(hn::LoadU(d, lines.below + i), hn::LoadU(d, lines.above + i));
+    y = hn::Sub(hn::LoadU(d, lines.below + i + 1), hn::LoadU(d, lines.above + i + 1));
   }
   V x, y;
 };
 // The channel with the longest gradient, the first of several.
 template <>
 struct Gradient<3> {
-  HWY_INLINE Gradient(const Lines& lines, ptrdiff_t i) {
+  HWY_INLINE Gradient(const Neighbours& lines, ptrdiff_t i) {
     const Floats d;
     V left[3], right[3], above[3], below[3];
     hn::LoadInterleaved3(d, lines.at + 3 * i, left[0], left[1], left[2]);
     hn::LoadInterleaved3(d, lines.at + 3 * i + 6, right[0], right[1], right[2]);
-    hn::LoadInterleaved3(d, lines.above + 3 * i, above[0], above[1], above[2]);
-    hn::LoadInterleaved3(d, lines.below + 3 * i, below[0], below[1], below[2]);
+    hn::LoadInterleaved3(d, lines.above + 3 * i + 3, above[0], above[1], above[2]);
+    hn::LoadInterleaved3(d, lines.below + 3 * i + 3, below[0], below[1], below[2]);
     x = hn::Sub(right[0], left[0]);
     y = hn::Sub(below[0], above[0]);
     V longest = hn::Add(hn::Mul(x, x), hn::Mul(y, y));
@@ -187,24 +196,34 @@ class Planes {
   ptrdiff_t width_, area_;
 };
 
-// The votes of the rows of a region from its first column on.
+// The votes of the pixels [x, x + n) of all rows of a region.
 template <int kChannels, class T>
-void VoteRows(const BorderedImage<T>& image, Size region, int bins, const Planes& planes) {
+void VoteColumns(const BorderedImage<T>& image, ptrdiff_t x, ptrdiff_t n, ptrdiff_t height, int bins,
+                 const Planes& planes) {
   Lines lines;
   HWY_ALIGN float shares[2 * (kPiece + kLanes)];
   uint8_t row[kPiece + kLanes];
-  for (ptrdiff_t y = 0; y < region.height; ++y) {
-    for (ptrdiff_t x = 0; x < region.width; x += kPiece) {
-      const ptrdiff_t n = std::min(kPiece, region.width - x);
-      image.Line(y - 1, x, n, lines.above);
-      image.Line(y, x - 1, n + 2, lines.at);
-      image.Line(y + 1, x, n, lines.below);
-      for (ptrdiff_t i = 0; i < n; i += kLanes) {
-        const Gradient<kChannels> gradient(lines, i);
-        Vote(gradient.x, gradient.y, bins, {shares, row}, i);
-      }
-      planes.Store(x, y, n, {shares, row});
+  const auto read = [&](ptrdiff_t y) {  // the corners around the region are not looked at
+    const ptrdiff_t more = y >= 0 && y < height ? 1 : 0;
+    image.Line(y, x - more, n + 2 * more, lines.Of(y) + (1 - more) * kChannels);
+  };
+  read(-1);
+  read(0);
+  for (ptrdiff_t y = 0; y < height; ++y) {
+    read(y + 1);
+    const Neighbours neighbours{lines.Of(y - 1), lines.Of(y), lines.Of(y + 1)};
+    for (ptrdiff_t i = 0; i < n; i += kLanes) {
+      const Gradient<kChannels> gradient(neighbours, i);
+      Vote(gradient.x, gradient.y, bins, {shares, row}, i);
     }
+    planes.Store(x, y, n, {shares, row});
+  }
+}
+
+template <int kChannels, class T>
+void VoteRegion(const BorderedImage<T>& image, Size region, int bins, const Planes& planes) {
+  for (ptrdiff_t x = 0; x < region.width; x += kPiece) {
+    VoteColumns<kChannels>(image, x, std::min(kPiece, region.width - x), region.height, bins, planes);
   }
 }
 
@@ -473,7 +492,7 @@ QvpStatus Hog(const Image<const T>& src, Size roi, const T* outside, const Call&
   const Size trimmed = Trimmed(roi, record.config);
   const Planes planes(call.buffer, trimmed);
   const BorderedImage<T> image{src, roi, call.border, outside};
-  (Channels(src.layout) == 1 ? VoteRows<1, T> : VoteRows<3, T>)(image, trimmed, record.config.nbins, planes);
+  (Channels(src.layout) == 1 ? VoteRegion<1, T> : VoteRegion<3, T>)(image, trimmed, record.config.nbins, planes);
   const uint8_t* const weights = reinterpret_cast<const uint8_t*>(call.spec) + kHogTableOffset;
   Describe(record, weights, planes, trimmed, call.locations, call.count, reinterpret_cast<uint8_t*>(call.dst));
   return qvpStatusNoError;
