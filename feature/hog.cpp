@@ -353,38 +353,60 @@ class Block {
   HWY_ALIGN float votes_[kMostBins * kHogCells];
 };
 
+// Sixteen bytes n times. Blocks are too short for the time that a call of memcpy takes.
+inline void CopyVectors(const uint8_t* from, uint8_t* to, int n) {
+  const hn::Full128<uint8_t> d;
+  for (int i = 0; i < n; ++i) hn::StoreU(hn::LoadU(d, from + i * kBlockBytes), d, to + i * kBlockBytes);
+}
+
 // Where blocks that were written already lie, by the place of their first pixel: windows overlap, and a block that is
-// copied has the bits of one that is computed. A table of what the work buffer has left; a later block may take the
-// entry of another.
+// copied has the bits of one that is computed. A hash table in what the work buffer has left; a block that finds kWays
+// others where it belongs takes the entry of one.
 class FinishedBlocks {
  public:
   explicit FinishedBlocks(const Planes& planes) : table_(planes.Rest()) {
-    while ((int64_t{2} << bits_) * kEntryBytes <= planes.RestBytes()) ++bits_;
-    std::memset(table_, 0, (size_t{1} << bits_) * kEntryBytes);
+    while (2 * (mask_ + 1) * kEntryBytes <= planes.RestBytes()) mask_ = 2 * mask_ + 1;
+    std::memset(table_, 0, (mask_ + 1) * kEntryBytes);
+  }
+
+  // The entry of the block at a place, or the one that it may take.
+  uint8_t* Entry(ptrdiff_t place) const {
+    const int64_t first = Hash(place);
+    for (int way = 0; way < kWays; ++way) {
+      uint8_t* const entry = table_ + ((first + way) & mask_) * kEntryBytes;
+      const int64_t key = Word(entry, 0);
+      if (key == place + 1 || key == 0) return entry;
+    }
+    return table_ + (first & mask_) * kEntryBytes;
   }
 
   // The byte offset of the block among the descriptors, or -1.
-  int64_t Find(ptrdiff_t place) const {
-    int64_t entry[2];
-    std::memcpy(entry, At(place), kEntryBytes);
-    return entry[0] == place + 1 ? entry[1] : -1;
+  static int64_t Find(const uint8_t* entry, ptrdiff_t place) {
+    return Word(entry, 0) == place + 1 ? Word(entry, 1) : -1;
   }
-  void Put(ptrdiff_t place, int64_t offset) {
-    const int64_t entry[2] = {place + 1, offset};
-    std::memcpy(At(place), entry, kEntryBytes);
+  static void Put(uint8_t* entry, ptrdiff_t place, int64_t offset) {
+    const int64_t words[2] = {place + 1, offset};
+    std::memcpy(entry, words, kEntryBytes);
   }
 
  private:
-  static constexpr int kEntryBytes = 2 * sizeof(int64_t);
+  static constexpr int kEntryBytes = 2 * sizeof(int64_t), kWays = 4;
 
-  // The upper bits of the product with 2^32 divided by the golden ratio: neighbouring places lie far apart.
-  uint8_t* At(ptrdiff_t place) const {
-    const uint32_t hash = static_cast<uint32_t>(place) * 2654435769u;
-    return table_ + (bits_ == 0 ? 0 : hash >> (32 - bits_)) * size_t{kEntryBytes};
+  // Two products with 2^64 divided by the golden ratio: one alone would keep the lattice of the places.
+  static int64_t Hash(ptrdiff_t place) {
+    constexpr uint64_t kFactor = 0x9E3779B97F4A7C15u;
+    const uint64_t once = static_cast<uint64_t>(place) * kFactor;
+    return static_cast<int64_t>((once ^ once >> 32) * kFactor >> 32);
+  }
+
+  static int64_t Word(const uint8_t* entry, int i) {
+    int64_t word;
+    std::memcpy(&word, entry + i * sizeof(word), sizeof(word));
+    return word;
   }
 
   uint8_t* table_;
-  int bits_ = 0;
+  int64_t mask_ = 0;
 };
 
 // ---- Windows.
@@ -412,15 +434,16 @@ class Windows {
  private:
   void WriteBlock(ptrdiff_t first, FinishedBlocks* finished) {
     const int bytes = kHogCells * record_.config.nbins * static_cast<int>(sizeof(float));
-    const int64_t found = finished ? finished->Find(first) : -1;
+    uint8_t* const entry = finished ? finished->Entry(first) : nullptr;
+    const int64_t found = entry ? FinishedBlocks::Find(entry, first) : -1;
     if (found >= 0) {
-      std::memcpy(dst_ + offset_, dst_ + found, bytes);
+      CopyVectors(dst_ + found, dst_ + offset_, record_.config.nbins);
     } else {
       block_.Gather(planes_, first, weights_, record_.config.blockSize);
       block_.Normalise(record_.config.l2thresh);
       block_.Write(record_.config.cvCompatible != 0, dst_ + offset_);
     }
-    if (finished) finished->Put(first, offset_);
+    if (entry) FinishedBlocks::Put(entry, first, offset_);
     offset_ += bytes;
   }
 
