@@ -77,6 +77,7 @@ class GroupSums {
       c1 = hn::Add(c1, c0), c0 = hn::Add(c0, t2);
       d0 = hn::Add(d0, t3);
     }
+    if (groups == 1) return Shifted<int64_t>({{Sum(a0), Sum(b0), Sum(c0), Sum(d0)}}, kGroup / 2);
     // Powers of k from its binomials: k^2 = 2 C(k, 2) + k, k^3 = 6 C(k, 3) + 6 C(k, 2) + k.
     const int64_t k0 = Sum(a0), k1 = Sum(a1), k2 = 2 * Sum(a2) + k1, k3 = 6 * (Sum(a3) + Sum(a2)) + k1;
     const int64_t u0 = Sum(b0), u1 = Sum(b1), u2 = 2 * Sum(b2) + u1, w0 = Sum(c0), w1 = Sum(c1);
@@ -94,12 +95,12 @@ class GroupSums {
     V unused = hn::Zero(Sums());
     return hn::ReorderWidenMulAccumulate(Sums(), v, powers, sum, unused);
   }
-  static int64_t Sum(V v) {
-    HWY_ALIGN int32_t lanes[hn::MaxLanes(Sums())];
-    hn::Store(v, Sums(), lanes);
-    int64_t sum = 0;
-    for (const int32_t lane : lanes) sum += lane;
-    return sum;
+  static HWY_INLINE int64_t Sum(V v) {
+    const hn::RepartitionToWide<Sums> wide;
+    const hn::Half<Sums> half;
+    const auto pairs =
+        hn::Add(hn::PromoteTo(wide, hn::LowerHalf(half, v)), hn::PromoteTo(wide, hn::UpperHalf(half, v)));
+    return hn::GetLane(hn::SumOfLanes(wide, pairs));
   }
 };
 
