@@ -2,6 +2,8 @@
 // Every output is the sum of its products in the order of the taps, each rounded.
 #pragma once
 
+#include <array>
+
 #include "base/map.h"
 #include "geometry/resize_weights.h"
 
@@ -13,17 +15,29 @@ F Product(T sample, F weight, bool isCertain) {
   return isCertain || weight != 0 ? static_cast<F>(sample) * weight : F{0};
 }
 
+// Whether two taps of four successive columns at a time can be picked out of eight samples: 16-bit ones by a shuffle of
+// bytes, single floats where there are lookups across 32 bytes.
+template <class T>
+inline constexpr bool kCanPick = sizeof(T) == 2 || (sizeof(T) == 4 && HWY_TARGET <= HWY_AVX2);
+inline constexpr ptrdiff_t kPickedFrom = 8;
+
 // Columns of a tile: which of them the vector kernels may compute, and the others one by one.
 template <class T>
 struct ColumnPlan {
   Taps taps;
   Edge edge;
   int channels;
-  ptrdiff_t to;  // of the columns [taps.from, to) the kernels may read and write as much as they do
+  bool arePicked;  // of one channel, by pairs of taps that are near
+  ptrdiff_t to;    // of the columns [taps.from, to) the kernels may read and write as much as they do
 
-  ColumnPlan(const Taps& t, const Edge& e, int nc) : taps(t), edge(e), channels(nc), to(t.to) {
+  ColumnPlan(const Taps& t, const Edge& e, int nc, bool areNear = false)
+      : taps(t), edge(e), channels(nc), arePicked(kCanPick<T> && areNear && nc == 1), to(t.to) {
     if (t.from == t.to) return;
     const ptrdiff_t end = t.first[t.to - 1] + t.certain;
+    if (arePicked) {
+      while (to - t.from >= 4 && t.first[to - 4] + kPickedFrom > end) --to;
+      return;
+    }
     const ptrdiff_t read = nc == 1 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
     if (nc == 3) to = std::min(to, t.length - 1);  // four samples are written for three
     while (to > t.from && t.first[to - 1] + read > end) --to;
@@ -97,6 +111,66 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
   return sum;
 }
 
+// Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found
+// once for several rows.
+template <class D, class T>
+class PickedPairs {
+ public:
+  HWY_INLINE PickedPairs(D, const int32_t* first) : low_(first[0]), high_(first[hn::MaxLanes(D()) - 4]) {
+    const auto places = hn::LoadU(Ints(), first);
+    const auto apart = hn::Sub(places, hn::Broadcast<0>(places));
+    if constexpr (sizeof(T) == 4) {
+      places_ = apart;
+    } else {  // the bytes of a lane are those of two successive samples
+      HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
+      const auto spread = hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)),
+                                               hn::LoadDup128(Bytes(), kSpread));
+      places_ = hn::BitCast(Ints(), hn::Add(spread, hn::BitCast(Bytes(), hn::Set(Ints(), 0x03020100))));
+    }
+  }
+
+  // The first times `left`, and the second times `right`, added.
+  HWY_INLINE hn::Vec<D> WeightedSum(const T* row, hn::Vec<D> left, hn::Vec<D> right) const {
+    const D d;
+    if constexpr (sizeof(T) == 4) {
+#if HWY_TARGET <= HWY_AVX2
+      const auto low = hn::LoadU(d, row + low_), high = hn::LoadU(d, row + high_);
+      const auto pick = [&](auto at) HWY_ATTR {
+        const auto lanes = hn::IndicesFromVec(d, at);
+        return hn::ConcatUpperLower(d, hn::TableLookupLanes(high, lanes), hn::TableLookupLanes(low, lanes));
+      };
+      const auto second = pick(hn::Add(places_, hn::Set(Ints(), 1)));
+      return hn::Add(hn::Mul(pick(places_), left), hn::Mul(second, right));
+#endif
+    } else {
+      const auto pairs = hn::BitCast(Lanes(), hn::TableLookupBytes(Blocks(row), hn::BitCast(Bytes(), places_)));
+      const auto first = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs)), second = hn::ShiftRight<16>(pairs);
+      const auto product = [&](auto v, auto w) HWY_ATTR {
+        return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w);
+      };
+      return hn::Add(product(first, left), product(second, right));
+    }
+  }
+
+ private:
+  using Ints = hn::Rebind<int32_t, D>;
+  using Bytes = hn::Repartition<uint8_t, D>;
+  using Lanes = hn::Rebind<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>, D>;
+
+  HWY_INLINE hn::Vec<Bytes> Blocks(const T* row) const {
+    const hn::Full128<uint8_t> block;
+    const auto low = hn::LoadU(block, reinterpret_cast<const uint8_t*>(row + low_));
+#if HWY_TARGET <= HWY_AVX2
+    return hn::Combine(Bytes(), hn::LoadU(block, reinterpret_cast<const uint8_t*>(row + high_)), low);
+#else
+    return low;
+#endif
+  }
+
+  ptrdiff_t low_, high_;
+  hn::Vec<Ints> places_;
+};
+
 // Three or four channels: a vector holds a pixel; of three channels its last lane is not used.
 template <class T, class Weights>
 HWY_INLINE hn::Vec128<float> FilterPixel(const Taps& taps, const Weights& weights, const T* row, int channels,
@@ -125,6 +199,22 @@ void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, cons
   hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, last), d, out + last);
 }
 
+template <size_t kRows, class T, class Weights>
+void PickAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                const std::array<float*, kRows>& out) {
+  const hn::CappedTag<float, 8> d;
+  using D = hn::CappedTag<float, 8>;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  const int32_t* first = plan.taps.first;
+  const auto filter = [&](ptrdiff_t x) HWY_ATTR {
+    const PickedPairs<D, T> pairs(d, first + x);
+    const auto left = weights.Load(d, 0, x), right = weights.Load(d, 1, x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), d, out[i] + x);
+  };
+  for (ptrdiff_t x = plan.taps.from; x < plan.to - kLanes; x += kLanes) filter(x);
+  filter(plan.to - kLanes);
+}
+
 template <class T, class Weights>
 void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
   const hn::Full128<float> d;
@@ -135,27 +225,47 @@ void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const
   }
 }
 
-// One source row, across. The usual numbers of taps have loops of their own.
+// The columns from taps.from on that there are vectors for, of one row. The usual numbers of
+// taps have loops of their own.
 template <class T, class Weights>
-void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+  if (plan.channels != 1) return FilterPixelsAcross(plan, weights, row, out);
+  const Taps& taps = plan.taps;
+  const int count = taps.certain == taps.count ? taps.count : 0;
+  const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
+                      : count == 3 ? FilterSinglesAcross<3, T, Weights>
+                      : count == 4 ? FilterSinglesAcross<4, T, Weights>
+                      : count == 6 ? FilterSinglesAcross<6, T, Weights>
+                                   : FilterSinglesAcross<0, T, Weights>;
+  filter(plan, weights, row, out);
+}
+
+// Source rows, across.
+template <size_t kRows, class T, class Weights>
+void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                  const std::array<float*, kRows>& out) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
   const Taps& taps = plan.taps;
-  ptrdiff_t done = plan.to;
-  if (plan.channels != 1) {
-    FilterPixelsAcross(plan, weights, row, out);
-  } else if (plan.to - taps.from < kLanes) {
-    done = taps.from;
-  } else {
-    const int count = taps.certain == taps.count ? taps.count : 0;
-    const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
-                        : count == 3 ? FilterSinglesAcross<3, T, Weights>
-                        : count == 4 ? FilterSinglesAcross<4, T, Weights>
-                        : count == 6 ? FilterSinglesAcross<6, T, Weights>
-                                     : FilterSinglesAcross<0, T, Weights>;
-    filter(plan, weights, row, out);
+  const bool hasVectors = plan.channels != 1 || plan.to - taps.from >= kLanes;
+  const ptrdiff_t done = hasVectors ? plan.to : taps.from;
+  const bool arePicked = hasVectors && plan.arePicked;
+  if constexpr (kCanPick<T>) {
+    if (arePicked) PickAcross<kRows>(plan, weights, rows, out);
   }
-  FilterOneByOne(plan, weights, row, done, taps.length, out);
-  FilterOneByOne(plan, weights, row, 0, taps.from, out);
+  for (size_t i = 0; i < kRows; ++i) {
+    if (hasVectors && !arePicked) FilterVectors(plan, weights, rows[i], out[i]);
+    FilterOneByOne(plan, weights, rows[i], done, taps.length, out[i]);
+    FilterOneByOne(plan, weights, rows[i], 0, taps.from, out[i]);
+  }
+}
+
+// filter(rows, places) for the positions from `position` up to `end`, two at a time and the last one perhaps alone.
+template <class Row, class Place, class Filter>
+void ForTwo(ptrdiff_t position, ptrdiff_t end, const Row& row, const Place& place, const Filter& filter) {
+  for (; position + 1 < end; position += 2) {
+    filter(std::array{row(position), row(position + 1)}, std::array{place(position), place(position + 1)});
+  }
+  if (position < end) filter(std::array{row(position)}, std::array{place(position)});
 }
 
 // Filtered rows, one place for each tap: the row of position p is at place p modulo the number of taps.
@@ -275,13 +385,17 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const int channels = Channels(call.src.layout);
   const ptrdiff_t samples = tile.width * channels;
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
-  const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
+  const ResizeAxis& axis = record.columns;
+  const bool areNear = axis.taps == 2 && axis.certainTaps == 2 && axis.p <= 2 * axis.q;
+  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels,
+                           areNear);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
-    for (; position < end; ++position) {
-      FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), ring.Row(position));
-    }
+    ForTwo(
+        position, end, [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); },
+        [&](ptrdiff_t p) { return ring.Row(p); },
+        [&](const auto& rows, const auto& out) { FilterAcross(plan, across, rows, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });

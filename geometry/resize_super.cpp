@@ -160,7 +160,7 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
     const auto weight = [&](int k) { return down.At(k, tile.y + y); };
     const Image<const T> rows{row, call.src.step, call.src.layout};
     SumDown(d, rows, down.Count(tile.y + y), weight, strip.pixels * channels, sums);
-    FilterAcross(plan, weights, sums, averages);
+    FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{&averages[0]});
     MapRow<false>(
         d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
         [=](auto v) HWY_ATTR { return hn::Mul(v, scale); }, static_cast<const float*>(averages));
