@@ -200,19 +200,18 @@ void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, cons
 }
 
 template <size_t kRows, class T, class Weights>
-void PickAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
-                const std::array<float*, kRows>& out) {
-  const hn::CappedTag<float, 8> d;
+void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                const std::array<float*, kRows> out) {
   using D = hn::CappedTag<float, 8>;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   const int32_t* first = plan.taps.first;
-  const auto filter = [&](ptrdiff_t x) HWY_ATTR {
-    const PickedPairs<D, T> pairs(d, first + x);
-    const auto left = weights.Load(d, 0, x), right = weights.Load(d, 1, x);
-    for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), d, out[i] + x);
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    const PickedPairs<D, T> pairs(D(), first + x);
+    const auto left = weights.Load(D(), 0, x), right = weights.Load(D(), 1, x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), D(), out[i] + x);
   };
-  for (ptrdiff_t x = plan.taps.from; x < plan.to - kLanes; x += kLanes) filter(x);
-  filter(plan.to - kLanes);
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = plan.taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
 }
 
 template <class T, class Weights>
