@@ -171,24 +171,44 @@ class PickedPairs {
   hn::Vec<Ints> places_;
 };
 
-// Three or four channels: a vector holds a pixel; of three channels its last lane is not used.
-template <class T, class Weights>
-HWY_INLINE hn::Vec128<float> FilterPixel(const Taps& taps, const Weights& weights, const T* row, int channels,
-                                         ptrdiff_t x) {
-  const hn::Full128<float> d;
-  const T* pixel = row + ptrdiff_t{taps.first[x]} * channels;
-  const int count = taps.count, certain = taps.certain;
-  auto sum = hn::Mul(LoadWide(d, pixel), hn::Set(d, weights.At(0, x)));
-  for (int k = 1; k < count; ++k) {
+// Pixels of four samples, one in each block of 16 bytes of floats: as many rows as a vector has blocks.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
+  const hn::Full128<float> block;
+  if constexpr (hn::MaxLanes(D()) == hn::MaxLanes(hn::Full128<float>())) {
+    return LoadWide(block, pixels[0] + at);
+  } else {
+    const hn::Rebind<T, hn::Full128<float>> half;
+    const hn::Rebind<T, D> narrow;
+    const auto both = hn::Combine(narrow, hn::LoadU(half, pixels[1] + at), hn::LoadU(half, pixels[0] + at));
+    if constexpr (sizeof(T) == sizeof(float)) {
+      return both;
+    } else {
+      return hn::ConvertTo(d, hn::PromoteTo(hn::Rebind<int32_t, D>(), both));
+    }
+  }
+}
+
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used.
+template <class D, class T, class Weights>
+HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, const T* const* rows, int channels,
+                                   ptrdiff_t x) {
+  const ptrdiff_t first = ptrdiff_t{taps.first[x]} * channels;
+  auto sum = hn::Mul(LoadPixels(d, rows, first), hn::Set(d, weights.At(0, x)));
+  int k = 1;
+  for (; k < taps.certain; ++k) {
+    sum = hn::Add(sum, hn::Mul(LoadPixels(d, rows, first + k * channels), hn::Set(d, weights.At(k, x))));
+  }
+  for (; k < taps.count; ++k) {
     const float w = weights.At(k, x);
-    const bool isRead = k < certain || w != 0;
-    sum = hn::Add(sum, isRead ? hn::Mul(LoadWide(d, pixel + k * channels), hn::Set(d, w)) : hn::Zero(d));
+    const auto product = [&] { return hn::Mul(LoadPixels(d, rows, first + k * channels), hn::Set(d, w)); };
+    sum = hn::Add(sum, w != 0 ? product() : hn::Zero(d));
   }
   return sum;
 }
 
 template <int kCount, class T, class Weights>
-void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+void FilterSinglesBy(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
   const hn::CappedTag<float, 8> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
   const Taps taps = plan.taps;
@@ -214,29 +234,55 @@ void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::arr
   filter(last);
 }
 
-template <class T, class Weights>
-void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
-  const hn::Full128<float> d;
+// As many rows at once as D has blocks.
+template <class D, class T, class Weights>
+void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* rows,
+                        float* const* out) {
+  constexpr int kRows = hn::MaxLanes(D()) * sizeof(float) / kBlockBytes;
+  const hn::Full128<float> block;
   const Taps taps = plan.taps;
   const int channels = plan.channels;
+  const T* const from[2] = {rows[0], rows[kRows - 1]};
+  float* const to[2] = {out[0], out[kRows - 1]};
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
-    hn::StoreU(FilterPixel(taps, weights, row, channels, x), d, out + x * channels);
+    const auto pixels = FilterPixels(d, taps, weights, from, channels, x);
+    if constexpr (kRows == 1) {
+      hn::StoreU(pixels, block, to[0] + x * channels);
+    } else {
+      hn::StoreU(hn::LowerHalf(block, pixels), block, to[0] + x * channels);
+      hn::StoreU(hn::UpperHalf(block, pixels), block, to[1] + x * channels);
+    }
   }
 }
 
-// The columns from taps.from on that there are vectors for, of one row. The usual numbers of
-// taps have loops of their own.
+// One channel of one row. The usual numbers of taps have loops of their own.
 template <class T, class Weights>
-void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
-  if (plan.channels != 1) return FilterPixelsAcross(plan, weights, row, out);
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
   const Taps& taps = plan.taps;
   const int count = taps.certain == taps.count ? taps.count : 0;
-  const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
-                      : count == 3 ? FilterSinglesAcross<3, T, Weights>
-                      : count == 4 ? FilterSinglesAcross<4, T, Weights>
-                      : count == 6 ? FilterSinglesAcross<6, T, Weights>
-                                   : FilterSinglesAcross<0, T, Weights>;
+  const auto filter = count == 2   ? FilterSinglesBy<2, T, Weights>
+                      : count == 3 ? FilterSinglesBy<3, T, Weights>
+                      : count == 4 ? FilterSinglesBy<4, T, Weights>
+                      : count == 6 ? FilterSinglesBy<6, T, Weights>
+                                   : FilterSinglesBy<0, T, Weights>;
   filter(plan, weights, row, out);
+}
+
+// The columns from taps.from on that there are vectors for.
+template <size_t kRows, class T, class Weights>
+void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                   const std::array<float*, kRows>& out) {
+  if constexpr (kCanPick<T>) {
+    if (plan.arePicked) return PickAcross<kRows>(plan, weights, rows, out);
+  }
+  using TwoBlocks = hn::CappedTag<float, 8>;
+  if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8 && plan.channels != 1) {
+    return FilterPixelsAcross(TwoBlocks(), plan, weights, rows.data(), out.data());
+  }
+  for (size_t i = 0; i < kRows; ++i) {
+    if (plan.channels == 1) FilterSinglesAcross(plan, weights, rows[i], out[i]);
+    if (plan.channels != 1) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
+  }
 }
 
 // Source rows, across.
@@ -247,12 +293,8 @@ void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::
   const Taps& taps = plan.taps;
   const bool hasVectors = plan.channels != 1 || plan.to - taps.from >= kLanes;
   const ptrdiff_t done = hasVectors ? plan.to : taps.from;
-  const bool arePicked = hasVectors && plan.arePicked;
-  if constexpr (kCanPick<T>) {
-    if (arePicked) PickAcross<kRows>(plan, weights, rows, out);
-  }
+  if (hasVectors) FilterVectors(plan, weights, rows, out);
   for (size_t i = 0; i < kRows; ++i) {
-    if (hasVectors && !arePicked) FilterVectors(plan, weights, rows[i], out[i]);
     FilterOneByOne(plan, weights, rows[i], done, taps.length, out[i]);
     FilterOneByOne(plan, weights, rows[i], 0, taps.from, out[i]);
   }
