@@ -207,16 +207,19 @@ HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights
   return sum;
 }
 
-template <int kCount, class T, class Weights>
-void FilterSinglesBy(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
-  const hn::CappedTag<float, 8> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
+template <int kCount, size_t kRows, class T, class Weights>
+void FilterSinglesBy(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                     const std::array<float*, kRows> out) {
+  using D = hn::CappedTag<float, 8>;
   const Taps taps = plan.taps;
-  const ptrdiff_t last = plan.to - kLanes;
-  for (ptrdiff_t x = taps.from; x < last; x += kLanes) {
-    hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, x), d, out + x);
-  }
-  hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, last), d, out + last);
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    hn::Vec<D> sums[kRows];
+    for (size_t i = 0; i < kRows; ++i) sums[i] = FilterSingles<kCount>(D(), taps, weights, rows[i], x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(sums[i], D(), out[i] + x);
+  };
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
 }
 
 template <size_t kRows, class T, class Weights>
@@ -255,17 +258,18 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, c
   }
 }
 
-// One channel of one row. The usual numbers of taps have loops of their own.
-template <class T, class Weights>
-void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+// One channel. The usual numbers of taps have loops of their own.
+template <size_t kRows, class T, class Weights>
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                         const std::array<float*, kRows>& out) {
   const Taps& taps = plan.taps;
   const int count = taps.certain == taps.count ? taps.count : 0;
-  const auto filter = count == 2   ? FilterSinglesBy<2, T, Weights>
-                      : count == 3 ? FilterSinglesBy<3, T, Weights>
-                      : count == 4 ? FilterSinglesBy<4, T, Weights>
-                      : count == 6 ? FilterSinglesBy<6, T, Weights>
-                                   : FilterSinglesBy<0, T, Weights>;
-  filter(plan, weights, row, out);
+  const auto filter = count == 2   ? FilterSinglesBy<2, kRows, T, Weights>
+                      : count == 3 ? FilterSinglesBy<3, kRows, T, Weights>
+                      : count == 4 ? FilterSinglesBy<4, kRows, T, Weights>
+                      : count == 6 ? FilterSinglesBy<6, kRows, T, Weights>
+                                   : FilterSinglesBy<0, kRows, T, Weights>;
+  filter(plan, weights, rows, out);
 }
 
 // The columns from taps.from on that there are vectors for.
@@ -275,14 +279,12 @@ void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std:
   if constexpr (kCanPick<T>) {
     if (plan.arePicked) return PickAcross<kRows>(plan, weights, rows, out);
   }
+  if (plan.channels == 1) return FilterSinglesAcross(plan, weights, rows, out);
   using TwoBlocks = hn::CappedTag<float, 8>;
-  if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8 && plan.channels != 1) {
+  if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8) {
     return FilterPixelsAcross(TwoBlocks(), plan, weights, rows.data(), out.data());
   }
-  for (size_t i = 0; i < kRows; ++i) {
-    if (plan.channels == 1) FilterSinglesAcross(plan, weights, rows[i], out[i]);
-    if (plan.channels != 1) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
-  }
+  for (size_t i = 0; i < kRows; ++i) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
 }
 
 // Source rows, across.
