@@ -189,20 +189,15 @@ HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
   }
 }
 
-// Three or four channels: a block holds a pixel; of three channels its last lane is not used.
-template <class D, class T, class Weights>
-HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, const T* const* rows, int channels,
-                                   ptrdiff_t x) {
-  const ptrdiff_t first = ptrdiff_t{taps.first[x]} * channels;
-  auto sum = hn::Mul(LoadPixels(d, rows, first), hn::Set(d, weights.At(0, x)));
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap k.
+template <class D, class Weights, class Pixel>
+HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel) {
+  auto sum = hn::Mul(pixel(0), hn::Set(d, weights.At(0, x)));
   int k = 1;
-  for (; k < taps.certain; ++k) {
-    sum = hn::Add(sum, hn::Mul(LoadPixels(d, rows, first + k * channels), hn::Set(d, weights.At(k, x))));
-  }
+  for (; k < taps.certain; ++k) sum = hn::Add(sum, hn::Mul(pixel(k), hn::Set(d, weights.At(k, x))));
   for (; k < taps.count; ++k) {
     const float w = weights.At(k, x);
-    const auto product = [&] { return hn::Mul(LoadPixels(d, rows, first + k * channels), hn::Set(d, w)); };
-    sum = hn::Add(sum, w != 0 ? product() : hn::Zero(d));
+    sum = hn::Add(sum, w != 0 ? hn::Mul(pixel(k), hn::Set(d, w)) : hn::Zero(d));
   }
   return sum;
 }
@@ -238,23 +233,61 @@ void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::arr
 }
 
 // As many rows at once as D has blocks.
-template <class D, class T, class Weights>
-void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* rows,
-                        float* const* out) {
-  constexpr int kRows = hn::MaxLanes(D()) * sizeof(float) / kBlockBytes;
-  const hn::Full128<float> block;
-  const Taps taps = plan.taps;
-  const int channels = plan.channels;
-  const T* const from[2] = {rows[0], rows[kRows - 1]};
-  float* const to[2] = {out[0], out[kRows - 1]};
-  for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
-    const auto pixels = FilterPixels(d, taps, weights, from, channels, x);
+template <class D, class T>
+class PixelRows {
+ public:
+  PixelRows(const T* const* rows, float* const* out, int channels)
+      : rows_{rows[0], rows[kRows - 1]}, out_{out[0], out[kRows - 1]}, channels_(channels) {}
+
+  HWY_INLINE hn::Vec<D> Load(ptrdiff_t pixel) const { return LoadPixels(D(), rows_, pixel * channels_); }
+  HWY_INLINE void Store(hn::Vec<D> pixels, ptrdiff_t x) const {
+    const hn::Full128<float> block;
     if constexpr (kRows == 1) {
-      hn::StoreU(pixels, block, to[0] + x * channels);
+      hn::StoreU(pixels, block, out_[0] + x * channels_);
     } else {
-      hn::StoreU(hn::LowerHalf(block, pixels), block, to[0] + x * channels);
-      hn::StoreU(hn::UpperHalf(block, pixels), block, to[1] + x * channels);
+      hn::StoreU(hn::LowerHalf(block, pixels), block, out_[0] + x * channels_);
+      hn::StoreU(hn::UpperHalf(block, pixels), block, out_[1] + x * channels_);
     }
+  }
+
+ private:
+  static constexpr int kRows = hn::MaxLanes(D()) * sizeof(float) / kBlockBytes;
+  const T* rows_[2];
+  float* out_[2];
+  ptrdiff_t channels_;
+};
+
+// From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
+inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
+
+template <class D, class T, class Weights>
+void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T> rows) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  HWY_ALIGN float staged[kStagedPixels * kLanes];
+  for (ptrdiff_t x = taps.from, end = x; x < to;) {
+    const ptrdiff_t base = taps.first[x];
+    while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
+    const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
+    for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
+    for (; x < end; ++x) {
+      const float* first = staged + (taps.first[x] - base) * kLanes;
+      const auto pixel = [=](int k) HWY_ATTR { return hn::Load(d, first + k * kLanes); };
+      rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
+    }
+  }
+}
+
+template <class D, class T, class Weights>
+void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* from,
+                        float* const* out) {
+  const PixelRows<D, T> rows(from, out, plan.channels);
+  const Taps taps = plan.taps;
+  if (taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels) {
+    return FilterStagedAcross(d, taps, plan.to, weights, rows);
+  }
+  for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
+    const auto pixel = [&](int k) HWY_ATTR { return rows.Load(taps.first[x] + k); };
+    rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
   }
 }
 
