@@ -9,12 +9,6 @@
 
 namespace qvp {
 
-// A tap that may be left out contributes 0 where its weight is 0, whatever lies there.
-template <class F, class T>
-F Product(T sample, F weight, bool isCertain) {
-  return isCertain || weight != 0 ? static_cast<F>(sample) * weight : F{0};
-}
-
 // Whether two taps of four successive columns at a time can be picked out of eight samples: 16-bit ones by a shuffle of
 // bytes, single floats where there are lookups across 32 bytes.
 template <class T>
@@ -44,29 +38,34 @@ struct ColumnPlan {
   }
 };
 
-template <class F, class T, class Weights>
-F ColumnSample(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, int channel) {
-  const Taps& taps = plan.taps;
-  F sum = 0;
+constexpr int kMostChannels = 4;
+
+// Adds up taps one by one: the products of samples(k), as many as there are channels, with weight(k). A tap that may be
+// left out contributes 0 where its weight is 0, whatever lies there.
+template <class F, class Samples, class Weight>
+void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weight& weight, F* sums) {
   for (int k = 0; k < taps.count; ++k) {
-    const F weight = static_cast<F>(weights.At(k, x));
-    const bool isCertain = k < taps.certain;
-    const bool isRead = isCertain || weight != 0;
-    const F product =
-        isRead ? Product<F>(row[plan.edge(taps.first[x] + k) * plan.channels + channel], weight, true) : F{0};
-    sum = k == 0 ? product : sum + product;
+    const F w = static_cast<F>(weight(k));
+    const bool isRead = k < taps.certain || w != 0;
+    const auto sample = samples(k, isRead);
+    for (int c = 0; c < channels; ++c) {
+      const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
+      sums[c] = k == 0 ? product : sums[c] + product;
+    }
   }
-  return sum;
+}
+
+// One pixel of a row, across.
+template <class F, class T, class Weights>
+void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
+  const auto pixel = [&](int k, bool) { return row + plan.edge(plan.taps.first[x] + k) * plan.channels; };
+  AddTaps(plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
 }
 
 template <class T, class Weights>
 void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                     float* out) {
-  for (ptrdiff_t x = begin; x < end; ++x) {
-    for (int c = 0; c < plan.channels; ++c) {
-      out[x * plan.channels + c] = ColumnSample<float>(plan, weights, row, x, c);
-    }
-  }
+  for (ptrdiff_t x = begin; x < end; ++x) FilterPixel(plan, weights, row, x, out + x * plan.channels);
 }
 
 // Four samples of one place and of another one, in the low and the high block of a vector, and so on.
@@ -378,13 +377,18 @@ void WalkDown(const Taps& taps, const Filter& filter, const Combine& combine, co
 template <class D, class T, class At>
 HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   const hn::Rebind<T, D> narrow;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kStride = kLanes * kVectorsAtOnce<T, hn::TFromD<D>>;
   if (n < kLanes) {
     Partial<T> out(dst, n);
     hn::StoreU(Narrow<T>(d, at(0)), narrow, out.lanes);
     return out.CopyTo(dst, n);
   }
-  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
+  ptrdiff_t i = 0;
+  for (; i + kStride <= n; i += kStride) {
+    const auto part = [&](ptrdiff_t k) HWY_ATTR { return at(i + k * kLanes); };
+    hn::StoreU(NarrowParts<T>(d, part), hn::CappedTag<T, kStride>(), dst + i);
+  }
+  for (; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
 }
 
@@ -416,21 +420,33 @@ void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n
   });
 }
 
-// The same for any number of taps, of the rows of a ring.
+// The same for any number of taps, of the rows of a ring: the first kTapsAtHand ones are looked up beforehand.
 template <class T, class Weights>
 void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst, ptrdiff_t n) {
+  constexpr int kTapsAtHand = 32;
   const hn::ScalableTag<float> d;
-  const float *const first = ring.Row(taps.first[y]), *const begin = ring.at;
+  const float* const begin = ring.at;
   const float* const end = begin + ring.places * ring.step;
   const ptrdiff_t step = ring.step;
+  const float* rows[kTapsAtHand];
+  float w[kTapsAtHand];
   int count = taps.count;
   while (count > taps.certain && weights.At(count - 1, y) == 0) --count;
+  const int atHand = std::min(count, kTapsAtHand);
+  for (int k = 0; k < atHand; ++k) {
+    rows[k] = ring.Row(taps.first[y] + k);
+    w[k] = weights.At(k, y);
+  }
   StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
-    const float* row = first;
-    auto sum = hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(0, y)));
-    for (int k = 1; k < count; ++k) {
+    auto sum = hn::Mul(hn::LoadU(d, rows[0] + i), hn::Set(d, w[0]));
+    const auto add = [&](const float* row, float weight) HWY_ATTR {
+      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight)));
+    };
+    for (int k = 1; k < atHand; ++k) add(rows[k], w[k]);
+    const float* row = rows[atHand - 1];
+    for (int k = atHand; k < count; ++k) {
       row = row + step == end ? begin : row + step;
-      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(k, y))));
+      add(row, weights.At(k, y));
     }
     for (int k = count; k < taps.count; ++k) sum = hn::Add(sum, hn::Zero(d));
     return sum;
@@ -487,19 +503,14 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
                                 channels);
   const Edge rowEdge = RowEdge(call.border, record);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
-    double* out = call.dst.Row(y);
-    for (ptrdiff_t i = 0; i < tile.width * channels; ++i) {
-      double sum = 0;
-      for (int k = 0; k < rowTaps.count; ++k) {
-        const double w = static_cast<double>(down.At(k, y));
+    for (ptrdiff_t x = 0; x < tile.width; ++x) {
+      double pixel[kMostChannels] = {};
+      const auto filtered = [&](int k, bool isRead) {
         const double* row = SourceRow(call, tile, rowEdge(rowTaps.first[y] + k));
-        const double product =
-            k < rowTaps.certain || w != 0
-                ? ColumnSample<double>(plan, across, row, i / channels, static_cast<int>(i % channels)) * w
-                : 0.0;
-        sum = k == 0 ? product : sum + product;
-      }
-      out[i] = sum;
+        if (isRead) FilterPixel(plan, across, row, x, pixel);
+        return pixel;
+      };
+      AddTaps(rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
     }
   }
 }
