@@ -93,11 +93,12 @@ class Columns {
     const auto filter = [&](ptrdiff_t at) HWY_ATTR {
       const auto w = hn::LoadU(d16, weight);
       const auto shuffle = hn::LoadU(GatherTag(), mask);
+      hn::Vec<decltype(d16)> h[kRows];
       for (int i = 0; i < kRows; ++i) {
         const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
-        const auto h = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
-        hn::StoreU(h, d16, out[i] + at);
+        h[i] = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
       }
+      for (int i = 0; i < kRows; ++i) hn::StoreU(h[i], d16, out[i] + at);
     };
     const ptrdiff_t last = (taps_.to - taps_.from) * channels_ - kSamples;
     for (ptrdiff_t at = 0; at < last; at += kSamples) {
