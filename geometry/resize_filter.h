@@ -260,7 +260,8 @@ class PixelRows {
 inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
 
 template <class D, class T, class Weights>
-void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T> rows) {
+void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T>& from) {
+  const PixelRows<D, T> rows = from;  // a copy, which stores cannot change
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   HWY_ALIGN float staged[kStagedPixels * kLanes];
   for (ptrdiff_t x = taps.from, end = x; x < to;) {
