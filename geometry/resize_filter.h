@@ -81,12 +81,13 @@ HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdif
 #endif
 }
 
-// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap.
+// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap. An even
+// number of taps that is known has no tap that may be left out.
 template <int kCount, class D, class T, class Weights>
 HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
   const hn::Repartition<double, D> pairs;
   const int32_t* first = taps.first + x;
-  const int count = kCount ? kCount : taps.count, certain = kCount ? kCount : taps.certain;
+  const int count = kCount ? kCount : taps.count, certain = kCount % 2 == 0 && kCount ? kCount : taps.certain;
   auto sum = hn::Zero(d);
   const auto add = [&](int k, auto samples) HWY_ATTR {
     const auto w = weights.Load(d, k, x);
@@ -296,7 +297,7 @@ template <size_t kRows, class T, class Weights>
 void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
                          const std::array<float*, kRows>& out) {
   const Taps& taps = plan.taps;
-  const int count = taps.certain == taps.count ? taps.count : 0;
+  const int count = taps.certain == taps.count || taps.count == 3 ? taps.count : 0;
   const auto filter = count == 2   ? FilterSinglesBy<2, kRows, T, Weights>
                       : count == 3 ? FilterSinglesBy<3, kRows, T, Weights>
                       : count == 4 ? FilterSinglesBy<4, kRows, T, Weights>
