@@ -1,5 +1,6 @@
 // Resize. Peers compute with other weights or rounding; the work, pixels in and out, is the same.
 #include <libyuv.h>
+#include <vips/vips.h>
 
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
@@ -126,16 +127,36 @@ void Super() {
   AddSuper("super 32f C1", Case<float>(kHd, 0.6, 1), qvpiResizeSuperInit_32f, qvpiResizeSuper_32f_C1R, 4);
 }
 
-// No peer at hand widens its kernels; the report shows how far the machine's limit is.
+// The whole of libvips's reduction, to a new image: in one thread, and without remembering results.
+void ReduceByVips(const Case<uint8_t>& c, VipsKernel kernel) {
+  const size_t bytes = size_t{1} * c.srcStep() * c.from.height;
+  VipsImage* from = vips_image_new_from_memory(c.src.get(), bytes, c.from.width, c.from.height, c.channels,
+                                               VIPS_FORMAT_UCHAR);
+  VipsImage* to = nullptr;
+  const double across = 1.0 * c.from.width / c.to.width, down = 1.0 * c.from.height / c.to.height;
+  Require(vips_reduce(from, &to, across, down, "kernel", kernel, nullptr));
+  size_t size = 0;
+  g_free(vips_image_write_to_memory(to, &size));
+  Require(size == size_t{1} * c.dstStep() * c.to.height ? 0 : -1);
+  g_object_unref(to);
+  g_object_unref(from);
+}
+
 void Antialiasing() {
-  const auto add = [](const char* what, const Case<uint8_t>& c) {
-    Add({c.Name(what), c.traffic(), OURS(qvpiResizeAntialiasing_8u_C3R, BORDER)});
+  Require(VIPS_INIT("resize_bench"));
+  vips_concurrency_set(1);
+  vips_cache_set_max(0);
+  const auto add = [](const char* what, const Case<uint8_t>& c, VipsKernel kernel) {
+    Add({c.Name(what),
+         c.traffic(),
+         OURS(qvpiResizeAntialiasing_8u_C3R, BORDER),
+         {{"libvips vips_reduce, fixed point", [=] { ReduceByVips(c, kernel); }, 3}}});
   };
   const Case<uint8_t> linear(kHd, 0.25, 3), cubic(kHd, 0.25, 3);
   Require(qvpiResizeAntialiasingLinearInit(linear.from, linear.to, linear.spec(), linear.buffer.get()));
   Require(qvpiResizeAntialiasingCubicInit(cubic.from, cubic.to, 0, 0.5f, cubic.spec(), cubic.buffer.get()));
-  add("antialiased linear 8u C3", linear);
-  add("antialiased cubic 8u C3", cubic);
+  add("antialiased linear 8u C3", linear, VIPS_KERNEL_LINEAR);
+  add("antialiased cubic 8u C3", cubic, VIPS_KERNEL_CUBIC);
 }
 
 const bool kRegistered = [] {

@@ -2,16 +2,18 @@
 // Every output is the sum of its products in the order of the taps, each rounded.
 #pragma once
 
+#include <array>
+
 #include "base/map.h"
 #include "geometry/resize_weights.h"
 
 namespace qvp {
 
-// A tap that may be left out contributes 0 where its weight is 0, whatever lies there.
-template <class F, class T>
-F Product(T sample, F weight, bool isCertain) {
-  return isCertain || weight != 0 ? static_cast<F>(sample) * weight : F{0};
-}
+// Whether two taps of four successive columns at a time can be picked out of eight samples: 16-bit ones by a shuffle of
+// bytes, single floats where there are lookups across 32 bytes.
+template <class T>
+inline constexpr bool kCanPick = sizeof(T) == 2 || (sizeof(T) == 4 && HWY_TARGET <= HWY_AVX2);
+inline constexpr ptrdiff_t kPickedFrom = 8;
 
 // Columns of a tile: which of them the vector kernels may compute, and the others one by one.
 template <class T>
@@ -19,40 +21,51 @@ struct ColumnPlan {
   Taps taps;
   Edge edge;
   int channels;
-  ptrdiff_t to;  // of the columns [taps.from, to) the kernels may read and write as much as they do
+  bool arePicked;  // of one channel, by pairs of taps that are near
+  ptrdiff_t to;    // of the columns [taps.from, to) the kernels may read and write as much as they do
 
-  ColumnPlan(const Taps& t, const Edge& e, int nc) : taps(t), edge(e), channels(nc), to(t.to) {
+  ColumnPlan(const Taps& t, const Edge& e, int nc, bool areNear = false)
+      : taps(t), edge(e), channels(nc), arePicked(kCanPick<T> && areNear && nc == 1), to(t.to) {
     if (t.from == t.to) return;
     const ptrdiff_t end = t.first[t.to - 1] + t.certain;
+    if (arePicked) {
+      while (to - t.from >= 4 && t.first[to - 4] + kPickedFrom > end) --to;
+      return;
+    }
     const ptrdiff_t read = nc == 1 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
     if (nc == 3) to = std::min(to, t.length - 1);  // four samples are written for three
     while (to > t.from && t.first[to - 1] + read > end) --to;
   }
 };
 
-template <class F, class T, class Weights>
-F ColumnSample(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, int channel) {
-  const Taps& taps = plan.taps;
-  F sum = 0;
+constexpr int kMostChannels = 4;
+
+// Adds up taps one by one: the products of samples(k), as many as there are channels, with weight(k). A tap that may be
+// left out contributes 0 where its weight is 0, whatever lies there.
+template <class F, class Samples, class Weight>
+void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weight& weight, F* sums) {
   for (int k = 0; k < taps.count; ++k) {
-    const F weight = static_cast<F>(weights.At(k, x));
-    const bool isCertain = k < taps.certain;
-    const bool isRead = isCertain || weight != 0;
-    const F product =
-        isRead ? Product<F>(row[plan.edge(taps.first[x] + k) * plan.channels + channel], weight, true) : F{0};
-    sum = k == 0 ? product : sum + product;
+    const F w = static_cast<F>(weight(k));
+    const bool isRead = k < taps.certain || w != 0;
+    const auto sample = samples(k, isRead);
+    for (int c = 0; c < channels; ++c) {
+      const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
+      sums[c] = k == 0 ? product : sums[c] + product;
+    }
   }
-  return sum;
+}
+
+// One pixel of a row, across.
+template <class F, class T, class Weights>
+void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
+  const auto pixel = [&](int k, bool) { return row + plan.edge(plan.taps.first[x] + k) * plan.channels; };
+  AddTaps(plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
 }
 
 template <class T, class Weights>
 void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                     float* out) {
-  for (ptrdiff_t x = begin; x < end; ++x) {
-    for (int c = 0; c < plan.channels; ++c) {
-      out[x * plan.channels + c] = ColumnSample<float>(plan, weights, row, x, c);
-    }
-  }
+  for (ptrdiff_t x = begin; x < end; ++x) FilterPixel(plan, weights, row, x, out + x * plan.channels);
 }
 
 // Four samples of one place and of another one, in the low and the high block of a vector, and so on.
@@ -68,12 +81,13 @@ HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdif
 #endif
 }
 
-// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap.
+// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap. An even
+// number of taps that is known has no tap that may be left out.
 template <int kCount, class D, class T, class Weights>
 HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
   const hn::Repartition<double, D> pairs;
   const int32_t* first = taps.first + x;
-  const int count = kCount ? kCount : taps.count, certain = kCount ? kCount : taps.certain;
+  const int count = kCount ? kCount : taps.count, certain = kCount % 2 == 0 && kCount ? kCount : taps.certain;
   auto sum = hn::Zero(d);
   const auto add = [&](int k, auto samples) HWY_ATTR {
     const auto w = weights.Load(d, k, x);
@@ -97,65 +111,238 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
   return sum;
 }
 
-// Three or four channels: a vector holds a pixel; of three channels its last lane is not used.
-template <class T, class Weights>
-HWY_INLINE hn::Vec128<float> FilterPixel(const Taps& taps, const Weights& weights, const T* row, int channels,
-                                         ptrdiff_t x) {
-  const hn::Full128<float> d;
-  const T* pixel = row + ptrdiff_t{taps.first[x]} * channels;
-  const int count = taps.count, certain = taps.certain;
-  auto sum = hn::Mul(LoadWide(d, pixel), hn::Set(d, weights.At(0, x)));
-  for (int k = 1; k < count; ++k) {
+// Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found
+// once for several rows.
+template <class D, class T>
+class PickedPairs {
+ public:
+  HWY_INLINE PickedPairs(D, const int32_t* first) : low_(first[0]), high_(first[hn::MaxLanes(D()) - 4]) {
+    const auto places = hn::LoadU(Ints(), first);
+    const auto apart = hn::Sub(places, hn::Broadcast<0>(places));
+    if constexpr (sizeof(T) == 4) {
+      places_ = apart;
+    } else {  // the bytes of a lane are those of two successive samples
+      HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
+      const auto spread = hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)),
+                                               hn::LoadDup128(Bytes(), kSpread));
+      places_ = hn::BitCast(Ints(), hn::Add(spread, hn::BitCast(Bytes(), hn::Set(Ints(), 0x03020100))));
+    }
+  }
+
+  // The first times `left`, and the second times `right`, added.
+  HWY_INLINE hn::Vec<D> WeightedSum(const T* row, hn::Vec<D> left, hn::Vec<D> right) const {
+    const D d;
+    if constexpr (sizeof(T) == 4) {
+#if HWY_TARGET <= HWY_AVX2
+      const auto low = hn::LoadU(d, row + low_), high = hn::LoadU(d, row + high_);
+      const auto pick = [&](auto at) HWY_ATTR {
+        const auto lanes = hn::IndicesFromVec(d, at);
+        return hn::ConcatUpperLower(d, hn::TableLookupLanes(high, lanes), hn::TableLookupLanes(low, lanes));
+      };
+      const auto second = pick(hn::Add(places_, hn::Set(Ints(), 1)));
+      return hn::Add(hn::Mul(pick(places_), left), hn::Mul(second, right));
+#endif
+    } else {
+      const auto pairs = hn::BitCast(Lanes(), hn::TableLookupBytes(Blocks(row), hn::BitCast(Bytes(), places_)));
+      const auto first = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs)), second = hn::ShiftRight<16>(pairs);
+      const auto product = [&](auto v, auto w) HWY_ATTR {
+        return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w);
+      };
+      return hn::Add(product(first, left), product(second, right));
+    }
+  }
+
+ private:
+  using Ints = hn::Rebind<int32_t, D>;
+  using Bytes = hn::Repartition<uint8_t, D>;
+  using Lanes = hn::Rebind<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>, D>;
+
+  HWY_INLINE hn::Vec<Bytes> Blocks(const T* row) const {
+    const hn::Full128<uint8_t> block;
+    const auto low = hn::LoadU(block, reinterpret_cast<const uint8_t*>(row + low_));
+#if HWY_TARGET <= HWY_AVX2
+    return hn::Combine(Bytes(), hn::LoadU(block, reinterpret_cast<const uint8_t*>(row + high_)), low);
+#else
+    return low;
+#endif
+  }
+
+  ptrdiff_t low_, high_;
+  hn::Vec<Ints> places_;
+};
+
+// Pixels of four samples, one in each block of 16 bytes of floats: as many rows as a vector has blocks.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
+  const hn::Full128<float> block;
+  if constexpr (hn::MaxLanes(D()) == hn::MaxLanes(hn::Full128<float>())) {
+    return LoadWide(block, pixels[0] + at);
+  } else {
+    const hn::Rebind<T, hn::Full128<float>> half;
+    const hn::Rebind<T, D> narrow;
+    const auto both = hn::Combine(narrow, hn::LoadU(half, pixels[1] + at), hn::LoadU(half, pixels[0] + at));
+    if constexpr (sizeof(T) == sizeof(float)) {
+      return both;
+    } else {
+      return hn::ConvertTo(d, hn::PromoteTo(hn::Rebind<int32_t, D>(), both));
+    }
+  }
+}
+
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap k.
+template <class D, class Weights, class Pixel>
+HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel) {
+  auto sum = hn::Mul(pixel(0), hn::Set(d, weights.At(0, x)));
+  int k = 1;
+  for (; k < taps.certain; ++k) sum = hn::Add(sum, hn::Mul(pixel(k), hn::Set(d, weights.At(k, x))));
+  for (; k < taps.count; ++k) {
     const float w = weights.At(k, x);
-    const bool isRead = k < certain || w != 0;
-    sum = hn::Add(sum, isRead ? hn::Mul(LoadWide(d, pixel + k * channels), hn::Set(d, w)) : hn::Zero(d));
+    sum = hn::Add(sum, w != 0 ? hn::Mul(pixel(k), hn::Set(d, w)) : hn::Zero(d));
   }
   return sum;
 }
 
-template <int kCount, class T, class Weights>
-void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
-  const hn::CappedTag<float, 8> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
+template <int kCount, size_t kRows, class T, class Weights>
+void FilterSinglesBy(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                     const std::array<float*, kRows> out) {
+  using D = hn::CappedTag<float, 8>;
   const Taps taps = plan.taps;
-  const ptrdiff_t last = plan.to - kLanes;
-  for (ptrdiff_t x = taps.from; x < last; x += kLanes) {
-    hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, x), d, out + x);
-  }
-  hn::StoreU(FilterSingles<kCount>(d, taps, weights, row, last), d, out + last);
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    hn::Vec<D> sums[kRows];
+    for (size_t i = 0; i < kRows; ++i) sums[i] = FilterSingles<kCount>(D(), taps, weights, rows[i], x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(sums[i], D(), out[i] + x);
+  };
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
 }
 
-template <class T, class Weights>
-void FilterPixelsAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
-  const hn::Full128<float> d;
+template <size_t kRows, class T, class Weights>
+void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                const std::array<float*, kRows> out) {
+  using D = hn::CappedTag<float, 8>;
+  const int32_t* first = plan.taps.first;
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    const PickedPairs<D, T> pairs(D(), first + x);
+    const auto left = weights.Load(D(), 0, x), right = weights.Load(D(), 1, x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), D(), out[i] + x);
+  };
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = plan.taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
+}
+
+// As many rows at once as D has blocks.
+template <class D, class T>
+class PixelRows {
+ public:
+  PixelRows(const T* const* rows, float* const* out, int channels)
+      : rows_{rows[0], rows[kRows - 1]}, out_{out[0], out[kRows - 1]}, channels_(channels) {}
+
+  HWY_INLINE hn::Vec<D> Load(ptrdiff_t pixel) const { return LoadPixels(D(), rows_, pixel * channels_); }
+  HWY_INLINE void Store(hn::Vec<D> pixels, ptrdiff_t x) const {
+    const hn::Full128<float> block;
+    if constexpr (kRows == 1) {
+      hn::StoreU(pixels, block, out_[0] + x * channels_);
+    } else {
+      hn::StoreU(hn::LowerHalf(block, pixels), block, out_[0] + x * channels_);
+      hn::StoreU(hn::UpperHalf(block, pixels), block, out_[1] + x * channels_);
+    }
+  }
+
+ private:
+  static constexpr int kRows = hn::MaxLanes(D()) * sizeof(float) / kBlockBytes;
+  const T* rows_[2];
+  float* out_[2];
+  ptrdiff_t channels_;
+};
+
+// From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
+inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
+
+template <class D, class T, class Weights>
+void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T>& from) {
+  const PixelRows<D, T> rows = from;  // a copy, which stores cannot change
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  HWY_ALIGN float staged[kStagedPixels * kLanes];
+  for (ptrdiff_t x = taps.from, end = x; x < to;) {
+    const ptrdiff_t base = taps.first[x];
+    while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
+    const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
+    for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
+    for (; x < end; ++x) {
+      const float* first = staged + (taps.first[x] - base) * kLanes;
+      const auto pixel = [=](int k) HWY_ATTR { return hn::Load(d, first + k * kLanes); };
+      rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
+    }
+  }
+}
+
+template <class D, class T, class Weights>
+void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* from,
+                        float* const* out) {
+  const PixelRows<D, T> rows(from, out, plan.channels);
   const Taps taps = plan.taps;
-  const int channels = plan.channels;
+  if (taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels) {
+    return FilterStagedAcross(d, taps, plan.to, weights, rows);
+  }
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
-    hn::StoreU(FilterPixel(taps, weights, row, channels, x), d, out + x * channels);
+    const auto pixel = [&](int k) HWY_ATTR { return rows.Load(taps.first[x] + k); };
+    rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
   }
 }
 
-// One source row, across. The usual numbers of taps have loops of their own.
-template <class T, class Weights>
-void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const T* row, float* out) {
+// One channel. The usual numbers of taps have loops of their own.
+template <size_t kRows, class T, class Weights>
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                         const std::array<float*, kRows>& out) {
+  const Taps& taps = plan.taps;
+  const int count = taps.certain == taps.count || taps.count == 3 ? taps.count : 0;
+  const auto filter = count == 2   ? FilterSinglesBy<2, kRows, T, Weights>
+                      : count == 3 ? FilterSinglesBy<3, kRows, T, Weights>
+                      : count == 4 ? FilterSinglesBy<4, kRows, T, Weights>
+                      : count == 6 ? FilterSinglesBy<6, kRows, T, Weights>
+                                   : FilterSinglesBy<0, kRows, T, Weights>;
+  filter(plan, weights, rows, out);
+}
+
+// The columns from taps.from on that there are vectors for.
+template <size_t kRows, class T, class Weights>
+void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                   const std::array<float*, kRows>& out) {
+  if constexpr (kCanPick<T>) {
+    if (plan.arePicked) return PickAcross<kRows>(plan, weights, rows, out);
+  }
+  if (plan.channels == 1) return FilterSinglesAcross(plan, weights, rows, out);
+  using TwoBlocks = hn::CappedTag<float, 8>;
+  if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8) {
+    return FilterPixelsAcross(TwoBlocks(), plan, weights, rows.data(), out.data());
+  }
+  for (size_t i = 0; i < kRows; ++i) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
+}
+
+// Source rows, across.
+template <size_t kRows, class T, class Weights>
+void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                  const std::array<float*, kRows>& out) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
   const Taps& taps = plan.taps;
-  ptrdiff_t done = plan.to;
-  if (plan.channels != 1) {
-    FilterPixelsAcross(plan, weights, row, out);
-  } else if (plan.to - taps.from < kLanes) {
-    done = taps.from;
-  } else {
-    const int count = taps.certain == taps.count ? taps.count : 0;
-    const auto filter = count == 2   ? FilterSinglesAcross<2, T, Weights>
-                        : count == 3 ? FilterSinglesAcross<3, T, Weights>
-                        : count == 4 ? FilterSinglesAcross<4, T, Weights>
-                        : count == 6 ? FilterSinglesAcross<6, T, Weights>
-                                     : FilterSinglesAcross<0, T, Weights>;
-    filter(plan, weights, row, out);
+  const bool hasVectors = plan.channels != 1 || plan.to - taps.from >= kLanes;
+  const ptrdiff_t done = hasVectors ? plan.to : taps.from;
+  if (hasVectors) FilterVectors(plan, weights, rows, out);
+  for (size_t i = 0; i < kRows; ++i) {
+    FilterOneByOne(plan, weights, rows[i], done, taps.length, out[i]);
+    FilterOneByOne(plan, weights, rows[i], 0, taps.from, out[i]);
   }
-  FilterOneByOne(plan, weights, row, done, taps.length, out);
-  FilterOneByOne(plan, weights, row, 0, taps.from, out);
+}
+
+// filter(rows, places) for the positions from `position` up to `end`, two at a time and the last one perhaps alone.
+template <class Row, class Place, class Filter>
+void ForTwo(ptrdiff_t position, ptrdiff_t end, const Row& row, const Place& place, const Filter& filter) {
+  for (; position + 1 < end; position += 2) {
+    filter(std::array{row(position), row(position + 1)}, std::array{place(position), place(position + 1)});
+  }
+  if (position < end) filter(std::array{row(position)}, std::array{place(position)});
 }
 
 // Filtered rows, one place for each tap: the row of position p is at place p modulo the number of taps.
@@ -192,13 +379,18 @@ void WalkDown(const Taps& taps, const Filter& filter, const Combine& combine, co
 template <class D, class T, class At>
 HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   const hn::Rebind<T, D> narrow;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kStride = kLanes * kVectorsAtOnce<T, hn::TFromD<D>>;
   if (n < kLanes) {
     Partial<T> out(dst, n);
     hn::StoreU(Narrow<T>(d, at(0)), narrow, out.lanes);
     return out.CopyTo(dst, n);
   }
-  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
+  ptrdiff_t i = 0;
+  for (; i + kStride <= n; i += kStride) {
+    const auto part = [&](ptrdiff_t k) HWY_ATTR { return at(i + k * kLanes); };
+    hn::StoreU(NarrowParts<T>(d, part), hn::CappedTag<T, kStride>(), dst + i);
+  }
+  for (; i < n - kLanes; i += kLanes) hn::StoreU(Narrow<T>(d, at(i)), narrow, dst + i);
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
 }
 
@@ -230,21 +422,33 @@ void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n
   });
 }
 
-// The same for any number of taps, of the rows of a ring.
+// The same for any number of taps, of the rows of a ring: the first kTapsAtHand ones are looked up beforehand.
 template <class T, class Weights>
 void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst, ptrdiff_t n) {
+  constexpr int kTapsAtHand = 32;
   const hn::ScalableTag<float> d;
-  const float *const first = ring.Row(taps.first[y]), *const begin = ring.at;
+  const float* const begin = ring.at;
   const float* const end = begin + ring.places * ring.step;
   const ptrdiff_t step = ring.step;
+  const float* rows[kTapsAtHand];
+  float w[kTapsAtHand];
   int count = taps.count;
   while (count > taps.certain && weights.At(count - 1, y) == 0) --count;
+  const int atHand = std::min(count, kTapsAtHand);
+  for (int k = 0; k < atHand; ++k) {
+    rows[k] = ring.Row(taps.first[y] + k);
+    w[k] = weights.At(k, y);
+  }
   StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
-    const float* row = first;
-    auto sum = hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(0, y)));
-    for (int k = 1; k < count; ++k) {
+    auto sum = hn::Mul(hn::LoadU(d, rows[0] + i), hn::Set(d, w[0]));
+    const auto add = [&](const float* row, float weight) HWY_ATTR {
+      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight)));
+    };
+    for (int k = 1; k < atHand; ++k) add(rows[k], w[k]);
+    const float* row = rows[atHand - 1];
+    for (int k = atHand; k < count; ++k) {
       row = row + step == end ? begin : row + step;
-      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weights.At(k, y))));
+      add(row, weights.At(k, y));
     }
     for (int k = count; k < taps.count; ++k) sum = hn::Add(sum, hn::Zero(d));
     return sum;
@@ -275,13 +479,17 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const int channels = Channels(call.src.layout);
   const ptrdiff_t samples = tile.width * channels;
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
-  const ColumnPlan<T> plan(Taps(record, record.columns, tile.x, tile.width), ColumnEdge(call.border, record), channels);
+  const ResizeAxis& axis = record.columns;
+  const bool areNear = axis.taps == 2 && axis.certainTaps == 2 && axis.p <= 2 * axis.q;
+  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels,
+                           areNear);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
-    for (; position < end; ++position) {
-      FilterAcross(plan, across, SourceRow(call, tile, rowEdge(position)), ring.Row(position));
-    }
+    ForTwo(
+        position, end, [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); },
+        [&](ptrdiff_t p) { return ring.Row(p); },
+        [&](const auto& rows, const auto& out) { FilterAcross(plan, across, rows, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
@@ -297,19 +505,14 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
                                 channels);
   const Edge rowEdge = RowEdge(call.border, record);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
-    double* out = call.dst.Row(y);
-    for (ptrdiff_t i = 0; i < tile.width * channels; ++i) {
-      double sum = 0;
-      for (int k = 0; k < rowTaps.count; ++k) {
-        const double w = static_cast<double>(down.At(k, y));
+    for (ptrdiff_t x = 0; x < tile.width; ++x) {
+      double pixel[kMostChannels] = {};
+      const auto filtered = [&](int k, bool isRead) {
         const double* row = SourceRow(call, tile, rowEdge(rowTaps.first[y] + k));
-        const double product =
-            k < rowTaps.certain || w != 0
-                ? ColumnSample<double>(plan, across, row, i / channels, static_cast<int>(i % channels)) * w
-                : 0.0;
-        sum = k == 0 ? product : sum + product;
-      }
-      out[i] = sum;
+        if (isRead) FilterPixel(plan, across, row, x, pixel);
+        return pixel;
+      };
+      AddTaps(rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
     }
   }
 }

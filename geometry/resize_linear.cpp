@@ -1,11 +1,8 @@
 // Resize by linear interpolation: in 16-bit lanes for 8-bit pixels and weights in units of 1/16384, else in floating
 // point.
-#include <array>
-
 #include "base/export.h"
 #include "base/map.h"
-#include "geometry/resize_filter.h"
-#include "geometry/resize_gather.h"
+#include "geometry/resize_fixed.h"
 
 namespace qvp {
 namespace {
@@ -25,81 +22,42 @@ void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* 
   });
 }
 
-// The columns of a tile of 8-bit pixels.
-class Columns {
+class LinearColumns : public FixedColumns {
  public:
   // `room` is for the shuffles and weights: 4 bytes for each sample and each column.
-  Columns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int channels, uint8_t* room)
-      : taps_(record, record.columns, tile.x, tile.width),
-        edge_(ColumnEdge(border, record)),
-        channels_(channels),
-        weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
-    const GatherShape shape{2, channels, channels};
+  LinearColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int nc, uint8_t* room)
+      : FixedColumns(record, tile, border, nc), weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
+    const GatherShape shape{2, nc, nc};
     const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
-    if (loads == 0 || taps_.to - taps_.from < 1) return;
-    const ptrdiff_t samples = (taps_.to - taps_.from) * channels, vectors = Gather::Vectors(shape, samples);
+    if (loads == 0 || InnerSamples() < 1) return;
+    const ptrdiff_t bytes = Gather::Vectors(shape, InnerSamples()) * kGatherBytes;
     doubled_ = reinterpret_cast<int16_t*>(room);
-    uint8_t* masks = room + vectors * kGatherBytes;
-    auto* offsets = reinterpret_cast<int32_t*>(masks + vectors * kGatherBytes);
-    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{2}) * channels;
-    if (channels == 1) Plan<1>(shape, loads, samples, end, masks, offsets);
-    if (channels == 3) Plan<3>(shape, loads, samples, end, masks, offsets);
-    if (channels == 4) Plan<4>(shape, loads, samples, end, masks, offsets);
+    auto* offsets = reinterpret_cast<int32_t*>(room + 2 * bytes);
+    if (nc == 1) Plan<1>(shape, loads, room + bytes, offsets);
+    if (nc == 3) Plan<3>(shape, loads, room + bytes, offsets);
+    if (nc == 4) Plan<4>(shape, loads, room + bytes, offsets);
   }
 
-  // Filters one row, or two at once, which share what is loaded for each vector of columns.
-  template <int kRows>
-  void Filter(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    ptrdiff_t done = taps_.from;
-    if (gather_.count() > 0) {
-      if (gather_.loads() == 1) FilterVectors<1, kRows>(rows, out);
-      if (gather_.loads() == 2) FilterVectors<2, kRows>(rows, out);
-      if (gather_.loads() == 4) FilterVectors<4, kRows>(rows, out);
-      done = taps_.to;
-    }
-    for (int i = 0; i < kRows; ++i) {
-      FilterOneByOne(rows[i], 0, taps_.from, out[i]);
-      FilterOneByOne(rows[i], done, taps_.length, out[i]);
-    }
-  }
-
- private:
-  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
-
-  template <int kChannels>
-  void Plan(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, uint8_t* masks, int32_t* offsets) {
-    const int32_t* first = taps_.first + taps_.from;
-    const int16_t* second = weights_ + 2 * taps_.from + 1;
-    gather_ = Gather(
-        shape, loads, samples, end,
-        [=](ptrdiff_t s) { return first[s / kChannels] * ptrdiff_t{kChannels} + s % kChannels; }, masks, offsets);
-    for (ptrdiff_t v = 0; v < gather_.count(); ++v) {
-      const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);
-      for (ptrdiff_t s = 0; s < kSamples; ++s) {
-        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[(start + s) / kChannels * 2]);
-      }
-    }
-  }
-
-  template <int kLoads, int kRows>
+  template <int kLoads, size_t kRows>
   void FilterVectors(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
     const hn::Repartition<int8_t, GatherTag> d8;
     const hn::Repartition<int16_t, GatherTag> d16;
     const auto left = hn::BitCast(d8, hn::Set(d16, 64)), step = hn::BitCast(d8, hn::Set(d16, 0x40C0));  // -64, 64
-    const uint8_t* mask = gather_.masks();
-    const int32_t* offsets = gather_.offsets();
+    const uint8_t* mask = gather.masks();
+    const int32_t* offsets = gather.offsets();
     const int16_t* weight = doubled_;
-    for (int16_t*& row : out) row += taps_.from * channels_;
+    for (int16_t*& row : out) row += taps.from * channels;
     const auto filter = [&](ptrdiff_t at) HWY_ATTR {
       const auto w = hn::LoadU(d16, weight);
       const auto shuffle = hn::LoadU(GatherTag(), mask);
-      for (int i = 0; i < kRows; ++i) {
+      hn::Vec<decltype(d16)> h[kRows];
+      for (size_t i = 0; i < kRows; ++i) {
         const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
-        const auto h = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
-        hn::StoreU(h, d16, out[i] + at);
+        h[i] = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
       }
+      for (size_t i = 0; i < kRows; ++i) hn::StoreU(h[i], d16, out[i] + at);
     };
-    const ptrdiff_t last = (taps_.to - taps_.from) * channels_ - kSamples;
+    const ptrdiff_t last = InnerSamples() - kSamples;
     for (ptrdiff_t at = 0; at < last; at += kSamples) {
       filter(at);
       mask += kGatherBytes;
@@ -111,43 +69,47 @@ class Columns {
 
   void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
     for (ptrdiff_t x = begin; x < end; ++x) {
-      const uint8_t* l = row + edge_(taps_.first[x]) * channels_;
-      const uint8_t* r = row + edge_(taps_.first[x] + ptrdiff_t{1}) * channels_;
-      for (int c = 0; c < channels_; ++c) out[x * channels_ + c] = Across(l[c], r[c], weights_[2 * x + 1]);
+      const uint8_t* l = Pixel(row, taps.first[x]);
+      const uint8_t* r = Pixel(row, taps.first[x] + ptrdiff_t{1});
+      for (int c = 0; c < channels; ++c) out[x * channels + c] = Across(l[c], r[c], weights_[2 * x + 1]);
     }
   }
 
-  Taps taps_;
-  Edge edge_;
-  int channels_;
+ private:
+  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
+
+  template <int kChannels>
+  void Plan(const GatherShape& shape, int loads, uint8_t* masks, int32_t* offsets) {
+    const ptrdiff_t samples = InnerSamples(), end = (taps.first[taps.to - 1] + ptrdiff_t{2}) * kChannels;
+    const int32_t* first = taps.first + taps.from;
+    const int16_t* second = weights_ + 2 * taps.from + 1;
+    gather = Gather(
+        shape, loads, samples, end,
+        [=](ptrdiff_t s) { return first[s / kChannels] * ptrdiff_t{kChannels} + s % kChannels; }, masks, offsets);
+    for (ptrdiff_t v = 0; v < gather.count(); ++v) {
+      const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);
+      for (ptrdiff_t s = 0; s < kSamples; ++s) {
+        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[(start + s) / kChannels * 2]);
+      }
+    }
+  }
+
   const int16_t* weights_;
   int16_t* doubled_ = nullptr;
-  Gather gather_;
 };
 
 void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
-  const ptrdiff_t samples = tile.width * channels, step = 2 * RowFloats(samples) / 2;
+  const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples);
   auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
-  const Columns columns(record, tile, call.border, channels, reinterpret_cast<uint8_t*>(rows + 2 * step));
+  const LinearColumns columns(record, tile, call.border, channels, reinterpret_cast<uint8_t*>(rows + 2 * step));
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
-  const Edge edge = RowEdge(call.border, record);
   const RowRing<int16_t> ring{rows, step, 2};
-  WalkDown(
-      rowTaps,
-      [&](ptrdiff_t position, ptrdiff_t end) {
-        const auto row = [&](ptrdiff_t p) { return SourceRow(call, tile, edge(p)); };
-        for (; position + 1 < end; position += 2) {
-          columns.Filter<2>({row(position), row(position + 1)}, {ring.Row(position), ring.Row(position + 1)});
-        }
-        if (position < end) columns.Filter<1>({row(position)}, {ring.Row(position)});
-      },
-      [&](ptrdiff_t y) {
-        const ptrdiff_t first = rowTaps.first[y];
-        BlendRows(ring.Row(first), ring.Row(first + 1), weights[y], call.dst.Row(y), samples);
-      },
-      [](int, ptrdiff_t) { return true; });
+  FilterFixedTile(call, record, tile, rowTaps, columns, ring, [&](ptrdiff_t y) {
+    const ptrdiff_t first = rowTaps.first[y];
+    BlendRows(ring.Row(first), ring.Row(first + 1), weights[y], call.dst.Row(y), samples);
+  });
 }
 
 // Work memory: two rows, then room for weights that have to be converted.

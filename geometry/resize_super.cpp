@@ -10,7 +10,7 @@ namespace qvp {
 namespace {
 
 // Memory for one strip of columns, on the stack: the weights of its columns, and one row of sums down.
-constexpr ptrdiff_t kStripFloats = 4096, kMostStripColumns = 1024;
+constexpr ptrdiff_t kStripFloats = 2048, kMostStripColumns = 512;
 
 // The pixels that one destination position covers along an axis, with the covered part of each.
 struct Coverage {
@@ -144,7 +144,8 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
                  const Period& across, const Period& down) {
   const int channels = Channels(call.src.layout);
   const hn::ScalableTag<float> d;
-  float sums[kStripFloats] = {}, averages[kStripFloats];
+  float sums[kStripFloats] = {};
+  auto* averages = reinterpret_cast<float*>(AtBoundary(call.buffer));
   Taps taps(record, record.columns, 0, strip.columns);
   taps.first = strip.first;
   taps.from = 0;
@@ -160,7 +161,7 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
     const auto weight = [&](int k) { return down.At(k, tile.y + y); };
     const Image<const T> rows{row, call.src.step, call.src.layout};
     SumDown(d, rows, down.Count(tile.y + y), weight, strip.pixels * channels, sums);
-    FilterAcross(plan, weights, sums, averages);
+    FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{averages});
     MapRow<false>(
         d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
         [=](auto v) HWY_ATTR { return hn::Mul(v, scale); }, static_cast<const float*>(averages));

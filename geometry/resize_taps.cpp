@@ -1,11 +1,8 @@
 // Resize by kernels of several taps: cubic, Lanczos, and all that are widened against aliasing. In integers for 8-bit
 // pixels and weights in units of 1/16384, else in floating point.
-#include <array>
-
 #include "base/export.h"
 #include "base/map.h"
-#include "geometry/resize_filter.h"
-#include "geometry/resize_gather.h"
+#include "geometry/resize_fixed.h"
 
 namespace qvp {
 namespace {
@@ -15,50 +12,37 @@ constexpr int kAcrossShift = 8, kDownShift = 20;
 
 int16_t Saturated(int v) { return static_cast<int16_t>(std::clamp<int>(v, INT16_MIN, INT16_MAX)); }
 
-class FixedColumns {
+class TapColumns : public FixedColumns {
  public:
   // `room` is for the shuffles: 8 bytes for each sample, in units of 8 samples.
-  FixedColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int channels, uint8_t* room)
-      : taps_(record, record.columns, tile.x, tile.width),
-        edge_(ColumnEdge(border, record)),
-        channels_(channels),
+  TapColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int nc, uint8_t* room)
+      : FixedColumns(record, tile, border, nc),
         plane_(static_cast<ptrdiff_t>(PlaneOf(record.width))),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
-    const GatherShape pairs{4, channels, channels};
-    const GatherShape all{4, channels, channels, 1, 1, (taps_.count - 1) * channels};
-    hasAll_ = channels == 1 && LoadsFor(all, record.columns.p, record.columns.q) == 1;
-    const GatherShape& shape = hasAll_ ? all : pairs;
-    const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
-    if (loads == 0 || taps_.to - taps_.from < 1) return;
-    const ptrdiff_t samples = (taps_.to - taps_.from) * channels;
-    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, samples) * kGatherBytes);
-    // Further pairs of taps are read at a fixed distance behind the first one's load, if it does not have them all.
-    const ptrdiff_t end = (taps_.first[taps_.to - 1] + ptrdiff_t{hasAll_ ? taps_.count : 2}) * channels;
-    const int32_t* first = taps_.first + taps_.from;
-    gather_ = Gather(
-        shape, loads, samples, end,
-        [=](ptrdiff_t s) {
-          return channels == 1 ? ptrdiff_t{first[s]} : first[s / channels] * ptrdiff_t{channels} + s % channels;
-        },
-        room, offsets);
-    for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
-      pixelOf_[i] = (i / static_cast<int>(kSamples) + i % static_cast<int>(kSamples)) / channels;
-    }
+    const ResizeAxis& axis = record.columns;
+    const GatherShape pairs{4, nc, nc}, all{4, nc, nc, 1, 1, (taps.count - 1) * nc};
+    hasAll_ = nc == 1 && LoadsFor(all, axis.p, axis.q) == 1;
+    const int loads = hasAll_ ? 1 : LoadsFor(pairs, axis.p, axis.q);
+    if (loads > 0 && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
   }
 
-  // Filters one row, or two at once, which share what is loaded for each vector of columns.
-  template <int kRows>
-  void Filter(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    ptrdiff_t done = taps_.from;
-    if (gather_.count() > 0) {
-      if (gather_.loads() == 1) FilterVectors<1, kRows>(rows, out);
-      if (gather_.loads() == 2) FilterVectors<2, kRows>(rows, out);
-      if (gather_.loads() == 4) FilterVectors<4, kRows>(rows, out);
-      done = taps_.to;
-    }
-    for (int i = 0; i < kRows; ++i) {
-      FilterOneByOne(rows[i], 0, taps_.from, out[i]);
-      FilterOneByOne(rows[i], done, taps_.length, out[i]);
+  template <int kLoads, size_t kRows>
+  void FilterVectors(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
+    if (channels == 1) return FilterChannels<kLoads, 1, kRows>(rows, out);
+    if (channels == 3) return FilterChannels<kLoads, 3, kRows>(rows, out);
+    FilterChannels<kLoads, 4, kRows>(rows, out);
+  }
+
+  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+    for (ptrdiff_t x = begin; x < end; ++x) {
+      int sums[kMostChannels] = {};
+      for (int k = 0; k < taps.count; ++k) {
+        const uint8_t* pixel = Pixel(row, taps.first[x] + k);
+        const int weight = weights_[k / 2 * 2 * plane_ + 2 * x + k % 2];
+        for (int c = 0; c < channels; ++c) sums[c] += pixel[c] * weight;
+      }
+      constexpr int kHalf = 1 << (kAcrossShift - 1);
+      for (int c = 0; c < channels; ++c) out[x * channels + c] = Saturated((sums[c] + kHalf) >> kAcrossShift);
     }
   }
 
@@ -67,23 +51,31 @@ class FixedColumns {
   using Words = hn::Repartition<int16_t, GatherTag>;
   static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums());
 
-  template <int kLoads, int kRows>
-  void FilterVectors(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    if (channels_ == 1) return FilterChannels<kLoads, 1, kRows>(rows, out);
-    if (channels_ == 3) return FilterChannels<kLoads, 3, kRows>(rows, out);
-    FilterChannels<kLoads, 4, kRows>(rows, out);
+  void Plan(const GatherShape& shape, int loads, uint8_t* room) {
+    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, InnerSamples()) * kGatherBytes);
+    // Further pairs of taps are read at a fixed distance behind the first one's load, if it does not have them all.
+    const ptrdiff_t end = (taps.first[taps.to - 1] + ptrdiff_t{hasAll_ ? taps.count : 2}) * channels;
+    const int32_t* first = taps.first + taps.from;
+    const int nc = channels;
+    gather = Gather(
+        shape, loads, InnerSamples(), end,
+        [=](ptrdiff_t s) { return nc == 1 ? ptrdiff_t{first[s]} : first[s / nc] * ptrdiff_t{nc} + s % nc; }, room,
+        offsets);
+    for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
+      pixelOf_[i] = (i / static_cast<int>(kSamples) + i % static_cast<int>(kSamples)) / nc;
+    }
   }
 
-  template <int kLoads, int kChannels, int kRows>
+  template <int kLoads, int kChannels, size_t kRows>
   void FilterChannels(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
     constexpr bool kCanHaveAll = kLoads == 1 && kChannels == 1;
     if (hasAll_) return FilterPairs<kLoads, kChannels, kRows, kCanHaveAll>(rows, out);
     FilterPairs<kLoads, kChannels, kRows, false>(rows, out);
   }
 
-  template <int kLoads, int kChannels, int kRows, bool kHasAll>
+  template <int kLoads, int kChannels, size_t kRows, bool kHasAll>
   void FilterPairs(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    taps_.count == 4 ? FilterAll<kLoads, kChannels, 2, kRows, kHasAll>(rows, out)
+    taps.count == 4 ? FilterAll<kLoads, kChannels, 2, kRows, kHasAll>(rows, out)
                      : FilterAll<kLoads, kChannels, 3, kRows, kHasAll>(rows, out);
   }
 
@@ -111,14 +103,14 @@ class FixedColumns {
     hn::StoreU(hn::UpperHalf(half, both), half, secondOut);
   }
 
-  template <int kLoads, int kChannels, int kPairs, int kRows, bool kHasAll>
+  template <int kLoads, int kChannels, int kPairs, size_t kRows, bool kHasAll>
   void FilterAll(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
     const Sums d;
-    const uint8_t* mask = gather_.masks();
-    const int32_t* offsets = gather_.offsets();
-    const int16_t* weights = weights_ + 2 * taps_.from;
-    const ptrdiff_t plane = 2 * plane_, last = (taps_.to - taps_.from) * kChannels - kSamples;
-    for (int16_t*& row : out) row += taps_.from * kChannels;
+    const uint8_t* mask = gather.masks();
+    const int32_t* offsets = gather.offsets();
+    const int16_t* weights = weights_ + 2 * taps.from;
+    const ptrdiff_t plane = 2 * plane_, last = InnerSamples() - kSamples;
+    for (int16_t*& row : out) row += taps.from * kChannels;
     const auto filter = [&](ptrdiff_t start) HWY_ATTR {
       const auto first = hn::LoadU(GatherTag(), mask);
       hn::Vec<Sums> sums[kRows];
@@ -126,7 +118,7 @@ class FixedColumns {
       for (int k = 0; k < kPairs; ++k) {
         const auto w = WeightsOf<kChannels>(weights + k * plane, start);
         const auto shuffle = kHasAll ? hn::Add(first, hn::Set(GatherTag(), static_cast<uint8_t>(2 * k))) : first;
-        for (int i = 0; i < kRows; ++i) {
+        for (size_t i = 0; i < kRows; ++i) {
           const auto pairs = GatherVector<kLoads>(rows[i] + (kHasAll ? 0 : 2 * k * kChannels), offsets, shuffle);
           sums[i] = hn::Add(sums[i], MulAddPairs(hn::BitCast(Words(), pairs), w));
         }
@@ -146,26 +138,10 @@ class FixedColumns {
     filter(last);
   }
 
-  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
-    for (ptrdiff_t x = begin; x < end; ++x) {
-      for (int c = 0; c < channels_; ++c) {
-        int sum = 1 << (kAcrossShift - 1);
-        for (int k = 0; k < taps_.count; ++k) {
-          sum += row[edge_(taps_.first[x] + k) * channels_ + c] * weights_[k / 2 * 2 * plane_ + 2 * x + k % 2];
-        }
-        out[x * channels_ + c] = Saturated(sum >> kAcrossShift);
-      }
-    }
-  }
-
-  Taps taps_;
-  Edge edge_;
-  int channels_;
   ptrdiff_t plane_;
   const int16_t* weights_;
   int32_t pixelOf_[3 * kSamples];  // of the lanes of a vector that begins at each channel of a pixel
   bool hasAll_ = false;  // whether one load has all taps of its outputs
-  Gather gather_;
 };
 
 template <int kPairs>
@@ -194,23 +170,14 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples), plane = PlaneOf(record.height);
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
-  const FixedColumns columns(record, tile, call.border, channels,
-                             reinterpret_cast<uint8_t*>(rows + rowTaps.count * step));
+  auto* room = reinterpret_cast<uint8_t*>(rows + rowTaps.count * step);
+  const TapColumns columns(record, tile, call.border, channels, room);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + 2 * tile.y;
-  const Edge edge = RowEdge(call.border, record);
   const RowRing<int16_t> ring{rows, step, rowTaps.count};
   const auto combine = rowTaps.count == 4 ? CombineRows<2> : CombineRows<3>;
-  WalkDown(
-      rowTaps,
-      [&](ptrdiff_t position, ptrdiff_t end) {
-        const auto row = [&](ptrdiff_t p) { return SourceRow(call, tile, edge(p)); };
-        for (; position + 1 < end; position += 2) {
-          columns.Filter<2>({row(position), row(position + 1)}, {ring.Row(position), ring.Row(position + 1)});
-        }
-        if (position < end) columns.Filter<1>({row(position)}, {ring.Row(position)});
-      },
-      [&](ptrdiff_t y) { combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples); },
-      [](int, ptrdiff_t) { return true; });
+  FilterFixedTile(call, record, tile, rowTaps, columns, ring, [&](ptrdiff_t y) {
+    combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples);
+  });
 }
 
 template <class Weights>
