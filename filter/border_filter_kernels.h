@@ -233,7 +233,8 @@ class PairKernel {
 };
 
 // Kernels of F: every result has one sum, to which the products are added in the order of rows and columns.
-template <class T, class F>
+// kWidth is that of the kernel where it is known, or 0.
+template <class T, class F, int kWidth = 0>
 class RealKernel {
  public:
   using Form = SingleRows<T, F>;
@@ -256,17 +257,19 @@ class RealKernel {
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
     const F* k = coefficients_;
     AddRow<kCount>(lines[0] + at, k, above);
-    for (ptrdiff_t j = 1; j < height_; ++j, k += width_) AddRows<kCount>(lines[j] + at, k + width_, k, above, below);
+    for (ptrdiff_t j = 1; j < height_; ++j, k += width()) AddRows<kCount>(lines[j] + at, k + width(), k, above, below);
     AddRow<kCount>(lines[height_] + at, k, below);
     Store<kCount>(above, upper);
     if (lower) Store<kCount>(below, lower);
   }
 
  private:
+  HWY_INLINE ptrdiff_t width() const { return kWidth ? kWidth : width_; }
+
   template <int kCount, class V>
   HWY_INLINE void AddRow(const F* line, const F* k, V (&sums)[kCount]) const {
     const hn::ScalableTag<F> d;
-    for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
+    for (ptrdiff_t i = 0; i < width(); ++i, line += channels_) {
       const V a = hn::Set(d, k[i]);
       Unrolled<kCount>([&](auto v)
                            QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a)); });
@@ -275,7 +278,7 @@ class RealKernel {
   template <int kCount, class V>
   HWY_INLINE void AddRows(const F* line, const F* k, const F* kBelow, V (&above)[kCount], V (&below)[kCount]) const {
     const hn::ScalableTag<F> d;
-    for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
+    for (ptrdiff_t i = 0; i < width(); ++i, line += channels_) {
       const V a = hn::Set(d, k[i]), b = hn::Set(d, kBelow[i]);
       Unrolled<kCount>([&](auto v) QVP_INLINED {
         const V pixel = hn::LoadU(d, line + v * kLanes);
