@@ -88,17 +88,29 @@ void FilterInDouble(const FilterRecord& record, const Job<T>& job) {
   FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.source.channels));
 }
 
-// Images of floats in the two common widths have kernels of their own.
-template <class T>
-void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
-  const auto filter = [&]<int kWidth>(std::integral_constant<int, kWidth>) {
-    FilterRegion(record, job, RealKernel<T, float, kWidth>(record, record.Floats(), job.source.channels));
-  };
-  if constexpr (std::is_same_v<T, float>) {
+// Calls filter with the width of the kernel as a constant: for bytes and floats two common ones, 0 for any other.
+template <class T, class Filter>
+void WithWidth(const FilterRecord& record, const Filter& filter) {
+  if constexpr (std::is_same_v<T, uint8_t> || std::is_same_v<T, float>) {
     if (record.width == 3) return filter(std::integral_constant<int, 3>());
     if (record.width == 5) return filter(std::integral_constant<int, 5>());
   }
   filter(std::integral_constant<int, 0>());
+}
+
+template <class T>
+void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
+  using ImageOfFloats = std::conditional_t<std::is_same_v<T, float>, float, void>;
+  WithWidth<ImageOfFloats>(record, [&](auto width) {
+    FilterRegion(record, job, RealKernel<T, float, width>(record, record.Floats(), job.source.channels));
+  });
+}
+
+template <class Sums, class T>
+void FilterBySums(const FilterRecord& record, const Job<T>& job, const Sums& sums) {
+  WithWidth<T>(record, [&](auto width) {
+    FilterRegion(record, job, PairKernel<T, Sums, width>(record, job.source.channels, sums));
+  });
 }
 
 // Integer kernels whose sums fit into 32 bits, offset included; none else.
@@ -111,13 +123,11 @@ bool FilterInPairs(const FilterRecord& record, const Job<T>& job) {
   const int64_t magnitude = (record.positive - record.negative) * std::max(-kLow, kHigh) + std::abs(offset);
   if (record.pairForm == PairForm::kNone || magnitude > INT32_MAX) return false;
   if (record.pairForm == PairForm::kWords) {
-    const WordSums<T> sums(record, range, offset);
-    FilterRegion(record, job, PairKernel<T, WordSums<T>>(record, job.source.channels, sums));
+    FilterBySums(record, job, WordSums<T>(record, range, offset));
     return true;
   }
   if constexpr (std::is_same_v<T, uint8_t>) {
-    const ByteSums sums(record, range, offset);
-    FilterRegion(record, job, PairKernel<T, ByteSums>(record, job.source.channels, sums));
+    FilterBySums(record, job, ByteSums(record, range, offset));
     return true;
   }
   return false;

@@ -244,7 +244,8 @@ class ByteSums {
 };
 
 // Integer kernels: rows in pairs, whose products are added by the multiplication.
-template <class T, class Sums>
+// kWidth is that of the kernel where it is known, or 0.
+template <class T, class Sums, int kWidth = 0>
 class PairKernel {
  public:
   using Form = PairedRows<T, typename Sums::Lane>;
@@ -267,9 +268,10 @@ class PairKernel {
     hn::Vec<decltype(d)> above[kCount], below[kCount];
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
     const int32_t* pair = pairs_;
+    const ptrdiff_t width = kWidth ? kWidth : width_;
     for (ptrdiff_t p = 0; p < lines_; ++p) {
       const auto* line = lines[p] + at;
-      for (ptrdiff_t i = 0; i < width_; ++i, line += channels_, pair += 2) {
+      for (ptrdiff_t i = 0; i < width; ++i, line += channels_, pair += 2) {
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
         const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
         Unrolled<kCount>([&](auto v) QVP_INLINED {
@@ -290,7 +292,6 @@ class PairKernel {
 };
 
 // Kernels of F: every result has one sum, to which the products are added in the order of rows and columns.
-// kWidth is that of the kernel where it is known, or 0.
 template <class T, class F, int kWidth = 0>
 class RealKernel {
  public:
