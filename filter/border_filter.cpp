@@ -15,39 +15,102 @@ struct Job {
   uint8_t* buffer;
 };
 
+// Columns of a region that are filtered down its rows, two at a time.
 template <class Kernel, class T>
-void FilterBlocks(const FilterRecord& record, const Job<T>& job, const Kernel& kernel, Extent columns) {
-  const int channels = job.source.channels;
-  const FilterWork work(record.width, record.height, channels, job.roi.width);
-  const int64_t width = columns.end - columns.begin, blocks = (width + work.columns() - 1) / work.columns();
+class Columns {
+ public:
+  Columns(const FilterRecord& record, const Job<T>& job, Extent columns)
+      : job_(job),
+        first_(columns.begin * job.source.channels),
+        samples_((columns.end - columns.begin) * job.source.channels),
+        window_(record, job.source, {columns.begin, columns.end - columns.begin}, job.roi.height) {}
+
+  int64_t Bytes() const { return window_.Bytes(); }
+  uint8_t* Start(uint8_t* memory) { return window_.Start(memory); }
+
+  void Filter(const Kernel& kernel, ptrdiff_t y) {
+    if (y > 0) window_.Advance();
+    T* const lower = y + 1 < job_.roi.height ? job_.dst.Row(y + 1) + first_ : nullptr;
+    FilterRows(kernel, window_.lines(), samples_, job_.dst.Row(y) + first_, lower);
+  }
+
+ private:
+  const Job<T>& job_;
+  ptrdiff_t first_, samples_;
+  FilterWindow<typename Kernel::Form, T> window_;
+};
+
+template <class Kernel, class T>
+void FilterBlocks(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
+  const FilterWork work(record.width, record.height, job.source.channels, job.roi.width);
+  const int64_t width = job.roi.width, blocks = (width + work.columns() - 1) / work.columns();
   for (int64_t b = 0; b < blocks; ++b) {
-    const auto x = static_cast<ptrdiff_t>(columns.begin + width * b / blocks);
-    const auto end = static_cast<ptrdiff_t>(columns.begin + width * (b + 1) / blocks);
-    FilterWindow<typename Kernel::Form, T> window(record, job.source, {x, end - x}, job.roi.height, work, job.buffer);
-    for (ptrdiff_t y = 0; y < job.roi.height; y += 2) {
-      if (y > 0) window.Advance();
-      T* lower = y + 1 < job.roi.height ? job.dst.Row(y + 1) + x * channels : nullptr;
-      FilterRows(kernel, window.lines(), (end - x) * channels, job.dst.Row(y) + x * channels, lower);
-    }
+    Columns<Kernel, T> columns(
+        record, job, {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)});
+    columns.Start(AtBoundary(job.buffer));
+    for (ptrdiff_t y = 0; y < job.roi.height; y += 2) columns.Filter(kernel, y);
   }
 }
 
-// Rows that need no conversion are read in place in blocks that do not reach the border: the others are narrow then.
+// Rows that need no conversion are read in place but for the columns that reach the border. False if their lines would
+// not stay in the second-level cache, or the work buffer is too small for both edges together.
+template <class Kernel, class T>
+bool FilterInPlace(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
+  constexpr int64_t kCacheBytes = 1 << 19;
+  const int channels = job.source.channels;
+  const ptrdiff_t width = job.roi.width, edge = std::max<ptrdiff_t>(Kernel::kLanes, record.width);
+  const int64_t lineBytes = int64_t{width} * channels * int64_t{sizeof(T)};
+  if (width < 4 * edge || lineBytes > kCacheBytes / (record.height + 1)) return false;
+  Columns<Kernel, T> left(record, job, {0, edge}), middle(record, job, {edge, width - edge}),
+      right(record, job, {width - edge, width});
+  const FilterWork work(record.width, record.height, channels, width);
+  if (left.Bytes() + middle.Bytes() + right.Bytes() + kRecordBoundary > work.Total().value()) return false;
+  right.Start(middle.Start(left.Start(AtBoundary(job.buffer))));
+  for (ptrdiff_t y = 0; y < job.roi.height; y += 2) {
+    left.Filter(kernel, y);
+    middle.Filter(kernel, y);
+    right.Filter(kernel, y);
+  }
+  return true;
+}
+
 template <class Kernel, class T>
 void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
-  const ptrdiff_t width = job.roi.width, edge = std::max<ptrdiff_t>(64, 2 * record.width);
-  if (!Kernel::Form::template kIsInPlace<T> || width < 4 * edge) {
-    return FilterBlocks(record, job, kernel, {0, width});
+  if constexpr (Kernel::Form::template kIsInPlace<T>) {
+    if (FilterInPlace(record, job, kernel)) return;
   }
-  FilterBlocks(record, job, kernel, {0, edge});
-  FilterBlocks(record, job, kernel, {edge, width - edge});
-  FilterBlocks(record, job, kernel, {width - edge, width});
+  FilterBlocks(record, job, kernel);
 }
 
 // Doubles hold all sums of an integer kernel that can be told from saturated ones, and the coefficients of all kinds.
 template <class T>
 void FilterInDouble(const FilterRecord& record, const Job<T>& job) {
   FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.source.channels));
+}
+
+// Calls filter with the width of the kernel as a constant: for bytes and floats two common ones, 0 for any other.
+template <class T, class Filter>
+void WithWidth(const FilterRecord& record, const Filter& filter) {
+  if constexpr (std::is_same_v<T, uint8_t> || std::is_same_v<T, float>) {
+    if (record.width == 3) return filter(std::integral_constant<int, 3>());
+    if (record.width == 5) return filter(std::integral_constant<int, 5>());
+  }
+  filter(std::integral_constant<int, 0>());
+}
+
+template <class T>
+void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
+  using ImageOfFloats = std::conditional_t<std::is_same_v<T, float>, float, void>;
+  WithWidth<ImageOfFloats>(record, [&](auto width) {
+    FilterRegion(record, job, RealKernel<T, float, width>(record, record.Floats(), job.source.channels));
+  });
+}
+
+template <class Sums, class T>
+void FilterBySums(const FilterRecord& record, const Job<T>& job, const Sums& sums) {
+  WithWidth<T>(record, [&](auto width) {
+    FilterRegion(record, job, PairKernel<T, Sums, width>(record, job.source.channels, sums));
+  });
 }
 
 // Integer kernels whose sums fit into 32 bits, offset included; none else.
@@ -60,13 +123,11 @@ bool FilterInPairs(const FilterRecord& record, const Job<T>& job) {
   const int64_t magnitude = (record.positive - record.negative) * std::max(-kLow, kHigh) + std::abs(offset);
   if (record.pairForm == PairForm::kNone || magnitude > INT32_MAX) return false;
   if (record.pairForm == PairForm::kWords) {
-    const WordSums<T> sums(record, range, offset);
-    FilterRegion(record, job, PairKernel<T, WordSums<T>>(record, job.source.channels, sums));
+    FilterBySums(record, job, WordSums<T>(record, range, offset));
     return true;
   }
   if constexpr (std::is_same_v<T, uint8_t>) {
-    const ByteSums sums(record, range, offset);
-    FilterRegion(record, job, PairKernel<T, ByteSums>(record, job.source.channels, sums));
+    FilterBySums(record, job, ByteSums(record, range, offset));
     return true;
   }
   return false;
@@ -80,7 +141,7 @@ void FilterByKind(const FilterRecord& record, const Job<T>& job) {
   }
   if constexpr (!std::is_same_v<T, double>) {
     if (!IsInteger(record.kind) && record.kind != FilterKind::k64f) {
-      return FilterRegion(record, job, RealKernel<T, float>(record, record.Floats(), job.source.channels));
+      return FilterInFloat(record, job);
     }
   }
   FilterInDouble(record, job);

@@ -83,6 +83,9 @@ class FilterWork {
     return std::max({kCacheSamples / ((height + 1) * channels), 4 * width, int64_t{64}});
   }
 
+  // Bytes as long as the longest vector.
+  static constexpr int64_t kSpare = 256;
+
   int64_t columns() const { return columns_; }
   // A prepared row, and as many bytes as the longest vector beyond it, which may be read and written.
   ByteCount RowBytes() const {
@@ -97,7 +100,6 @@ class FilterWork {
   ByteCount Total() const { return RowBytes() * (rows_ + 1) + PointerBytes() + EdgeBytes() + kRecordBoundary; }
 
  private:
-  static constexpr int64_t kSpare = 256;
   int64_t kernelWidth_, rows_;
   int channels_;
   int64_t columns_;

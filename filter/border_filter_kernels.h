@@ -34,14 +34,55 @@ struct SumRange {
   int64_t Largest() const { return std::max(-low, high); }
 };
 
+// Integers divided by 2^bits and rounded to the nearest, ties to even, when they begin with the start that adds one
+// half: a tie is whole then, and goes down by one where it would become odd. Others do not mind the one.
+template <class L>
+class NearestShift {
+ public:
+  static constexpr bool Serves(int mode, int bits) {
+    return mode == qvpRoundNear && bits >= (sizeof(L) == sizeof(int16_t) ? 2 : 1);
+  }
+
+  NearestShift() = default;
+  explicit NearestShift(int bits) : bits_(bits) {}
+
+  L Start() const { return bits_ == 0 ? L{0} : static_cast<L>(L{1} << (bits_ - 1)); }
+
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V operator()(D d, V v) const {
+    return Shifted(d, hn::Sub(v, hn::And(Shifted(d, v), hn::Set(d, L{1}))));
+  }
+
+ private:
+  // Shifts by one number for all lanes take two instructions inside the CPU, but for the upper half of a product and,
+  // since AVX2, one number for each lane.
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V Shifted(D d, V v) const {
+    if constexpr (sizeof(L) == sizeof(int16_t)) {
+      return hn::MulHigh(v, hn::Set(d, static_cast<L>(1 << (16 - bits_))));
+    } else if constexpr (HWY_TARGET <= HWY_AVX2) {
+      return hn::Shr(v, hn::Set(d, bits_));
+    } else {
+      return hn::ShiftRightSame(v, bits_);
+    }
+  }
+
+  int bits_ = 0;
+};
+
 // Sums as 32-bit integers divided by the divisor and rounded, exactly.
 class IntegerQuotient {
  public:
   // `largest` bounds the magnitude of the sums.
   IntegerQuotient(const FilterRecord& record, int64_t largest) : mode_(record.mode()), divisor_(record.divisor) {
     const bool isPowerOfTwo = divisor_ > 0 && (divisor_ & (divisor_ - 1)) == 0;
+    const int bits = __builtin_ctz(static_cast<unsigned>(divisor_));
     if (isPowerOfTwo && largest + divisor_ <= INT32_MAX) {
-      shift_ = {mode_, __builtin_ctz(static_cast<unsigned>(divisor_))};
+      if (NearestShift<int32_t>::Serves(mode_, bits)) {
+        way_ = Way::kNearestShift;
+        nearest_ = NearestShift<int32_t>(bits);
+      }
+      shift_ = {mode_, bits};
     } else {
       // A quotient that is no tie differs from one by 1 / (2 divisor) at least, more than the error of a float division
       // if sums are below 2^23. Ties are exact themselves.
@@ -50,31 +91,37 @@ class IntegerQuotient {
     }
   }
 
+  // What is added to the sums.
+  int32_t Start() const { return nearest_.Start(); }
+
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V operator()(D d, V v) const {
-    if (HWY_LIKELY(way_ == Way::kShift)) return shift_(d, v);
+    if (HWY_LIKELY(way_ == Way::kNearestShift)) return nearest_(d, v);
+    if (way_ == Way::kShift) return shift_(d, v);
     if (way_ == Way::kFloat) {
       const hn::Rebind<float, D> f;
       return RoundToInt(RoundedBy(mode_, f, hn::Div(hn::ConvertTo(f, v), hn::Set(f, static_cast<float>(divisor_)))));
     }
-    return hn::Combine(d, InDouble(hn::UpperHalf(hn::Half<D>(), v)), InDouble(hn::LowerHalf(v)));
+    return hn::Combine(d, InDouble(mode_, divisor_, hn::UpperHalf(hn::Half<D>(), v)),
+                       InDouble(mode_, divisor_, hn::LowerHalf(v)));
   }
 
  private:
-  enum class Way { kShift, kFloat, kDouble };
+  enum class Way { kNearestShift, kShift, kFloat, kDouble };
 
   // Half of a vector: as many doubles as a vector has.
   template <class V>
-  HWY_NOINLINE V InDouble(V v) const {
+  HWY_NOINLINE static V InDouble(int mode, int32_t divisor, V v) {
     const hn::ScalableTag<double> d;
     const hn::Rebind<int32_t, decltype(d)> ints;
-    const auto quotient = hn::Div(hn::PromoteTo(d, v), hn::Set(d, static_cast<double>(divisor_)));
-    return hn::DemoteTo(ints, RoundedBy(mode_, d, quotient));
+    const auto quotient = hn::Div(hn::PromoteTo(d, v), hn::Set(d, static_cast<double>(divisor)));
+    return hn::DemoteTo(ints, RoundedBy(mode, d, quotient));
   }
 
   Way way_ = Way::kShift;
   int mode_;
   int32_t divisor_;
+  NearestShift<int32_t> nearest_;
   ShiftRounding<int32_t> shift_;
 };
 
@@ -108,9 +155,7 @@ class WordSums {
   using Sum = int32_t;
 
   WordSums(const FilterRecord& record, SumRange range, int64_t offset)
-      : start(static_cast<int32_t>(offset)), quotient_(record, range.Largest()) {}
-
-  const int32_t start;
+      : quotient_(record, range.Largest()), start(static_cast<int32_t>(offset) + quotient_.Start()) {}
 
   template <int kCount, class V>
   HWY_INLINE void Store(const V (&sums)[kCount], T* to) const {
@@ -121,6 +166,9 @@ class WordSums {
 
  private:
   IntegerQuotient quotient_;
+
+ public:
+  const int32_t start;
 };
 
 // Sums of 16 bits to bytes. They are formed modulo 2^16. Where they and their rounding lie within 16 bits, they are the
@@ -132,10 +180,12 @@ class ByteSums {
 
   ByteSums(const FilterRecord& record, SumRange range, int64_t offset)
       : isNarrow_(IsPowerOfTwo(record.divisor) && range.Largest() + record.divisor <= INT16_MAX),
-        widened_(static_cast<int32_t>(range.low)),
+        isNearest_(isNarrow_ && NearestShift<int16_t>::Serves(record.mode(), Bits(record.divisor))),
         quotient_(record, range.Largest()),
-        start(static_cast<int16_t>(isNarrow_ ? offset : offset - range.low)) {
-    if (isNarrow_) shift_ = {record.mode(), __builtin_ctz(static_cast<unsigned>(record.divisor))};
+        widened_(static_cast<int32_t>(range.low) + quotient_.Start()),
+        nearest_(isNearest_ ? Bits(record.divisor) : 0),
+        start(static_cast<int16_t>(isNarrow_ ? offset + nearest_.Start() : offset - range.low)) {
+    if (isNarrow_) shift_ = {record.mode(), Bits(record.divisor)};
   }
 
   template <int kCount, class V>
@@ -145,6 +195,12 @@ class ByteSums {
 
  private:
   static bool IsPowerOfTwo(int n) { return n > 0 && (n & (n - 1)) == 0; }
+  static int Bits(int n) { return __builtin_ctz(static_cast<unsigned>(n)); }
+
+  HWY_INLINE auto Quotient(hn::Vec<hn::ScalableTag<int16_t>> sum) const {
+    const hn::ScalableTag<int16_t> d;
+    return HWY_LIKELY(isNearest_) ? nearest_(d, sum) : shift_(d, sum);
+  }
 
   template <int kCount, class V>
   HWY_INLINE void StoreNarrow(const V (&sums)[kCount], uint8_t* to) const {
@@ -152,11 +208,11 @@ class ByteSums {
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
     if constexpr (kCount == 1) {
       const hn::Rebind<uint8_t, decltype(d)> bytes;
-      hn::StoreU(hn::DemoteTo(bytes, shift_(d, sums[0])), bytes, to);
+      hn::StoreU(hn::DemoteTo(bytes, Quotient(sums[0])), bytes, to);
     } else {
       Unrolled<kCount / 2>([&](auto pair) QVP_INLINED {
         constexpr int v = 2 * pair;
-        hn::StoreU(PackedInOrder<uint8_t>(shift_(d, sums[v]), shift_(d, sums[v + 1])), hn::ScalableTag<uint8_t>(),
+        hn::StoreU(PackedInOrder<uint8_t>(Quotient(sums[v]), Quotient(sums[v + 1])), hn::ScalableTag<uint8_t>(),
                    to + v * kLanes);
       });
     }
@@ -177,9 +233,10 @@ class ByteSums {
     StoreResults<2 * kCount>(results, to);
   }
 
-  bool isNarrow_;
-  int32_t widened_;
+  bool isNarrow_, isNearest_;
   IntegerQuotient quotient_;
+  int32_t widened_;
+  NearestShift<int16_t> nearest_;
   ShiftRounding<int16_t> shift_;
 
  public:
@@ -187,7 +244,8 @@ class ByteSums {
 };
 
 // Integer kernels: rows in pairs, whose products are added by the multiplication.
-template <class T, class Sums>
+// kWidth is that of the kernel where it is known, or 0.
+template <class T, class Sums, int kWidth = 0>
 class PairKernel {
  public:
   using Form = PairedRows<T, typename Sums::Lane>;
@@ -210,9 +268,10 @@ class PairKernel {
     hn::Vec<decltype(d)> above[kCount], below[kCount];
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
     const int32_t* pair = pairs_;
+    const ptrdiff_t width = kWidth ? kWidth : width_;
     for (ptrdiff_t p = 0; p < lines_; ++p) {
       const auto* line = lines[p] + at;
-      for (ptrdiff_t i = 0; i < width_; ++i, line += channels_, pair += 2) {
+      for (ptrdiff_t i = 0; i < width; ++i, line += channels_, pair += 2) {
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
         const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
         Unrolled<kCount>([&](auto v) QVP_INLINED {
@@ -233,7 +292,7 @@ class PairKernel {
 };
 
 // Kernels of F: every result has one sum, to which the products are added in the order of rows and columns.
-template <class T, class F>
+template <class T, class F, int kWidth = 0>
 class RealKernel {
  public:
   using Form = SingleRows<T, F>;
@@ -256,17 +315,19 @@ class RealKernel {
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
     const F* k = coefficients_;
     AddRow<kCount>(lines[0] + at, k, above);
-    for (ptrdiff_t j = 1; j < height_; ++j, k += width_) AddRows<kCount>(lines[j] + at, k + width_, k, above, below);
+    for (ptrdiff_t j = 1; j < height_; ++j, k += width()) AddRows<kCount>(lines[j] + at, k + width(), k, above, below);
     AddRow<kCount>(lines[height_] + at, k, below);
     Store<kCount>(above, upper);
     if (lower) Store<kCount>(below, lower);
   }
 
  private:
+  HWY_INLINE ptrdiff_t width() const { return kWidth ? kWidth : width_; }
+
   template <int kCount, class V>
   HWY_INLINE void AddRow(const F* line, const F* k, V (&sums)[kCount]) const {
     const hn::ScalableTag<F> d;
-    for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
+    for (ptrdiff_t i = 0; i < width(); ++i, line += channels_) {
       const V a = hn::Set(d, k[i]);
       Unrolled<kCount>([&](auto v)
                            QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, line + v * kLanes), a)); });
@@ -275,7 +336,7 @@ class RealKernel {
   template <int kCount, class V>
   HWY_INLINE void AddRows(const F* line, const F* k, const F* kBelow, V (&above)[kCount], V (&below)[kCount]) const {
     const hn::ScalableTag<F> d;
-    for (ptrdiff_t i = 0; i < width_; ++i, line += channels_) {
+    for (ptrdiff_t i = 0; i < width(); ++i, line += channels_) {
       const V a = hn::Set(d, k[i]), b = hn::Set(d, kBelow[i]);
       Unrolled<kCount>([&](auto v) QVP_INLINED {
         const V pixel = hn::LoadU(d, line + v * kLanes);
@@ -309,11 +370,13 @@ class RealKernel {
   F offset_, divisor_;
 };
 
-// Two rows of n results, or one if `lower` is null. The last vector may overlap the one before it: results are not
+// Two rows of n results, or one if `lower` is null. What the kernel holds is copied, as bytes that are stored might be
+// part of it for all that the compiler can tell. The last vector may overlap the one before it: results are not
 // what is read.
 template <class Kernel, class E, class T>
-void FilterRows(const Kernel& kernel, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
+void FilterRows(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
   constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
+  const Kernel kernel = shared;
   const auto at = [](T* row, ptrdiff_t i) { return row ? row + i : nullptr; };
   if (n < kLanes) {
     T staged[2][kLanes];

@@ -87,27 +87,34 @@ class FilterWindow {
  public:
   using Element = typename Form::Element;
 
-  FilterWindow(const FilterRecord& record, const FilterSource<T>& source, FilterBlock block, ptrdiff_t height,
-               const FilterWork& work, uint8_t* buffer)
+  FilterWindow(const FilterRecord& record, const FilterSource<T>& source, FilterBlock block, ptrdiff_t height)
       : source_(source),
         lines_(Form::kRows == 2 ? record.PairsOfRows() : record.height + 1),
         lastRow_(height - 1 + record.below()),
-        lineBytes_(work.RowBytes().value()) {
-    const Extent needed{block.x - record.left(), block.x + block.width + record.right()};
-    readable_ = {std::max(needed.begin, source.columns.begin), std::min(needed.end, source.columns.end)};
-    before_ = readable_.begin - needed.begin;
-    after_ = needed.end - readable_.end;
-    isInPlace_ = before_ == 0 && after_ == 0 && Samples(block.width) >= Form::kLanes;
-    uint8_t* next = AtBoundary(buffer);
-    const auto take = [&next](int64_t bytes) { return std::exchange(next, next + bytes); };
-    pointers_ = reinterpret_cast<const Element**>(take(work.PointerBytes().value()));
-    edges_ = reinterpret_cast<int32_t*>(take(work.EdgeBytes().value()));
-    constants_ = reinterpret_cast<T*>(take(lineBytes_));
-    slots_ = next;
-    FindEdges(needed);
+        needed_{block.x - record.left(), block.x + block.width + record.right()},
+        readable_{std::max(needed_.begin, source.columns.begin), std::min(needed_.end, source.columns.end)},
+        before_(readable_.begin - needed_.begin),
+        after_(needed_.end - readable_.end),
+        row_(-record.above()),
+        isInPlace_(Form::template kIsInPlace<T> && before_ == 0 && after_ == 0 &&
+                   Samples(block.width) >= Form::kLanes) {}
+
+  // What of the work buffer it takes.
+  int64_t Bytes() const {
+    return PointerBytes() + EdgeBytes() + ConstantBytes() + (isInPlace_ ? 0 : lines_ * LineBytes());
+  }
+
+  // Prepares the lines of the first two rows of results. Returns where the memory ends that it takes.
+  uint8_t* Start(uint8_t* memory) {
+    const auto take = [&memory](int64_t bytes) { return std::exchange(memory, memory + bytes); };
+    pointers_ = reinterpret_cast<const Element**>(take(PointerBytes()));
+    edges_ = reinterpret_cast<int32_t*>(take(EdgeBytes()));
+    constants_ = reinterpret_cast<T*>(take(ConstantBytes()));
+    slots_ = take(isInPlace_ ? 0 : lines_ * LineBytes());
+    FindEdges();
     FillConstants();
-    row_ = -record.above();
     for (ptrdiff_t i = 0; i < lines_; ++i) pointers_[i] = NextLine();
+    return memory;
   }
 
   // The lines from the row that the upper one of two results begins with.
@@ -121,19 +128,29 @@ class FilterWindow {
   }
 
  private:
+  static constexpr int64_t Rounded(int64_t bytes) { return (bytes + kRecordBoundary - 1) & -int64_t{kRecordBoundary}; }
+  int64_t PointerBytes() const { return Rounded(lines_ * int64_t{sizeof(*pointers_)}); }
+  int64_t EdgeBytes() const { return Rounded((before_ + after_) * int64_t{sizeof(*edges_)}); }
+  int64_t ConstantBytes() const {
+    return source_.kind == BorderKind::kConst ? Rounded(ReadableSamples() * int64_t{sizeof(T)}) : 0;
+  }
+  int64_t LineBytes() const {
+    return Rounded(Samples(needed_.end - needed_.begin) * int64_t{sizeof(Element)} + FilterWork::kSpare);
+  }
+
   ptrdiff_t Samples(ptrdiff_t pixels) const { return pixels * source_.channels; }
   ptrdiff_t ReadableSamples() const { return Samples(readable_.end - readable_.begin); }
 
   // Where in the line each border column finds its like, or -1 for the constant.
-  void FindEdges(Extent needed) {
+  void FindEdges() {
     int32_t* edge = edges_;
     const auto find = [&](ptrdiff_t from, ptrdiff_t count) {
       for (ptrdiff_t x = from; x < from + count; ++x) {
         const ptrdiff_t like = BorderPosition(source_.kind, x, source_.columns);
-        *edge++ = like == kOutside ? -1 : static_cast<int32_t>(like - needed.begin);
+        *edge++ = like == kOutside ? -1 : static_cast<int32_t>(like - needed_.begin);
       }
     };
-    find(needed.begin, before_);
+    find(needed_.begin, before_);
     find(readable_.end, after_);
   }
 
@@ -149,12 +166,13 @@ class FilterWindow {
   }
 
   const Element* NextLine() {
-    const T* const rows[2] = {RowAt(row_), RowAt(row_ + Form::kRows - 1)};
+    const T* const first = RowAt(row_);
+    const T* const rows[2] = {first, Form::kRows == 1 ? first : RowAt(row_ + 1)};
     row_ += Form::kRows;
     if constexpr (Form::template kIsInPlace<T>) {
       if (isInPlace_) return rows[0];
     }
-    auto* line = reinterpret_cast<Element*>(slots_ + slot_ * lineBytes_);
+    auto* line = reinterpret_cast<Element*>(slots_ + slot_ * LineBytes());
     slot_ = slot_ + 1 == lines_ ? 0 : slot_ + 1;
     ConvertRows<Form>(rows, line + Samples(before_), ReadableSamples());
     FillEdges(line, 0, before_, edges_);
@@ -174,14 +192,13 @@ class FilterWindow {
 
   const FilterSource<T>& source_;
   ptrdiff_t lines_, lastRow_;
-  int64_t lineBytes_;
-  Extent readable_;
+  Extent needed_, readable_;
   ptrdiff_t before_, after_, row_, slot_ = 0;
   bool isInPlace_;  // rows of numbers that need no conversion, no border, and fill a vector
-  const Element** pointers_;
-  int32_t* edges_;
-  T* constants_;
-  uint8_t* slots_;
+  const Element** pointers_ = nullptr;
+  int32_t* edges_ = nullptr;
+  T* constants_ = nullptr;
+  uint8_t* slots_ = nullptr;
 };
 
 }  // namespace qvp
