@@ -10,7 +10,7 @@
 namespace qvp {
 
 // Points come in blocks of up to kBlock.
-inline constexpr int kBlock = 64;
+inline constexpr int kBlock = 256;
 
 // Points up to whole vectors of any build.
 constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
