@@ -19,6 +19,12 @@ struct PointArray {
     x = hn::LoadU(d, u + i);
     y = hn::LoadU(d, v + i);
   }
+
+  // Places nearest pixels by a quicker way than the general one, if there is one.
+  template <int kPixelBytes>
+  bool PlaceNearest(ptrdiff_t, int32_t, int32_t*) const {
+    return false;
+  }
 };
 
 // ---- Pixels and fractions
@@ -436,14 +442,19 @@ void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T
 
 template <int kTaps, int kChannels, class T, class Points>
 void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
+  constexpr int kPixelBytes = kChannels * int{sizeof(T)};
+  const auto step = static_cast<int32_t>(task.src.step);
   Places<WorkOf<T>> places;
-  Place<kTaps, kChannels * int{sizeof(T)}>(points, n, static_cast<int32_t>(task.src.step), places);
   if constexpr (kTaps == 1) {
+    if (!points.template PlaceNearest<kPixelBytes>(n, step, places.offset)) {
+      Place<1, kPixelBytes>(points, task.isShift ? 1 : n, step, places);
+    }
     MovePixels<kChannels>(task, places.offset, n, dst);
-  } else if constexpr (kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1)) {
-    BlendPoints<kTaps, kChannels>(task, places, n, dst);
   } else {
-    BlendPixels<kTaps, kChannels>(task, places, n, dst);
+    Place<kTaps, kPixelBytes>(points, n, step, places);
+    constexpr bool kAreWords = kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1);
+    if constexpr (kAreWords) BlendPoints<kTaps, kChannels>(task, places, n, dst);
+    if constexpr (!kAreWords) BlendPixels<kTaps, kChannels>(task, places, n, dst);
   }
 }
 
