@@ -133,9 +133,9 @@ void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
       hn::StoreU(row.fraction, d, places.y + i);
     }
   }
-  for (ptrdiff_t i = n; i % kWhole != 0; ++i) {
+  for (ptrdiff_t i = n; kTaps > 1 && i % kWhole != 0; ++i) {
     places.offset[i] = places.offset[n - 1];
-    if constexpr (kTaps > 1) places.x[i] = places.y[i] = 0;
+    places.x[i] = places.y[i] = 0;
   }
 }
 
