@@ -1,5 +1,5 @@
-// Values at interior points: all taps lie in the image, so that nothing is judged and no tap is tested. Lanes are points
-// where their taps fit into words, and channels of one point otherwise.
+// Values at interior points: all taps lie in the image, so that nothing is judged and no tap is tested. Lanes are
+// points where their taps fit into words, and channels of one point otherwise.
 #pragma once
 
 #include "base/map.h"
@@ -77,15 +77,21 @@ template <int kTaps, class D>
 HWY_INLINE Split<D> SplitSame(D d, hn::Vec<D> x) {
   const hn::Rebind<int32_t, D> ints;
   Split<D> split;
-  auto whole = hn::Floor(x);
-  split.fraction = hn::Sub(x, whole);
-  if constexpr (kTaps == 1) {
-    using C = hn::TFromD<D>;
-    const auto isUpper = hn::Ge(split.fraction, hn::Set(d, C{0.5}));
-    whole = hn::Add(whole, hn::IfThenElseZero(isUpper, hn::Set(d, C{1})));
+  if constexpr (kTaps > 1) {
+    const auto whole = hn::Floor(x);
+    split.fraction = hn::Sub(x, whole);
+    if constexpr (std::is_same_v<hn::TFromD<D>, double>) split.pixel = hn::DemoteTo(ints, whole);
+    if constexpr (std::is_same_v<hn::TFromD<D>, float>) split.pixel = RoundToInt(whole);
+  } else if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
+    const hn::Rebind<uint64_t, D> bits;
+    const auto pixel = hn::BitCast(bits, SplitDouble<1>(x, split.fraction));
+    split.pixel = hn::BitCast(ints, hn::TruncateTo(hn::Rebind<uint32_t, D>(), pixel));
+  } else {
+    const auto nearest = RoundToInt(x);
+    split.fraction = hn::Sub(x, hn::ConvertTo(d, nearest));
+    const auto isLowered = hn::Eq(split.fraction, hn::Set(d, 0.5f));
+    split.pixel = hn::Sub(nearest, hn::VecFromMask(ints, hn::RebindMask(ints, isLowered)));
   }
-  if constexpr (std::is_same_v<hn::TFromD<D>, double>) split.pixel = hn::DemoteTo(ints, whole);
-  if constexpr (std::is_same_v<hn::TFromD<D>, float>) split.pixel = RoundToInt(whole);
   return split;
 }
 
@@ -113,8 +119,8 @@ HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<D>& co
   }
 }
 
-// Places n points, and repeats the last one up to a whole vector of bytes. A loop of its own: together with the one over
-// the taps it would be a longer chain than a CPU can overlap with the next one.
+// Places n points, and repeats the last one up to a whole vector of bytes. A loop of its own: together with the one
+// over the taps it would be a longer chain than a CPU can overlap with the next one.
 inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
 
 template <int kTaps, int kPixelBytes, class W, class Points>
@@ -225,7 +231,8 @@ HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<hn::Rebind<i
   using T = hn::TFromD<D>;
   const auto* from = reinterpret_cast<const T*>(base);
   if constexpr (sizeof(T) == sizeof(int32_t)) return hn::GatherOffset(d, from, offset);
-  if constexpr (sizeof(T) == sizeof(int64_t)) return hn::GatherOffset(d, from, hn::PromoteTo(hn::Rebind<int64_t, D>(), offset));
+  if constexpr (sizeof(T) == sizeof(int64_t))
+    return hn::GatherOffset(d, from, hn::PromoteTo(hn::Rebind<int64_t, D>(), offset));
 }
 #else
 template <class T>
@@ -236,9 +243,9 @@ T WordAt(const uint8_t* from) {
 }
 HWY_INLINE hn::Vec128<int32_t> GatherWords(hn::Full128<int32_t>, const uint8_t* base, hn::Vec128<int32_t> offset) {
   const auto at = [&](int i) { return WordAt<int32_t>(base + i); };
-  return hn::Vec128<int32_t>{
-      _mm_setr_epi32(at(_mm_extract_epi32(offset.raw, 0)), at(_mm_extract_epi32(offset.raw, 1)),
-                     at(_mm_extract_epi32(offset.raw, 2)), at(_mm_extract_epi32(offset.raw, 3)))};
+  return hn::Vec128<int32_t>{_mm_setr_epi32(at(_mm_extract_epi32(offset.raw, 0)), at(_mm_extract_epi32(offset.raw, 1)),
+                                            at(_mm_extract_epi32(offset.raw, 2)),
+                                            at(_mm_extract_epi32(offset.raw, 3)))};
 }
 HWY_INLINE hn::Vec128<double> GatherWords(hn::Full128<double>, const uint8_t* base, hn::Vec128<int32_t, 2> offset) {
   return hn::Vec128<double>{_mm_setr_pd(WordAt<double>(base + _mm_extract_epi32(offset.raw, 0)),
@@ -381,8 +388,8 @@ struct Quad {
   }
 };
 
-// The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read at
-// each tap and written, however many channels there are.
+// The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read
+// at each tap and written, however many channels there are.
 template <int kTaps, class T, class W>
 HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, const W* x, const W* y, ptrdiff_t stride,
                            T* out) {

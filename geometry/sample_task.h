@@ -58,8 +58,7 @@ inline Interval InteriorOf(Extent extent, int taps, int further, bool isBounded,
   }
   last = std::min(last, kLastInterior);
   if (first > last) return {};
-  return {static_cast<double>(first) - kPointsBefore(taps),
-          static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
+  return {static_cast<double>(first) - kPointsBefore(taps), static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
 }
 
 template <class T>

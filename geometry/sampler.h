@@ -206,8 +206,8 @@ bool AreAllInside(const PointBox& box, const C* u, const C* v, ptrdiff_t n) {
 inline constexpr ptrdiff_t kGroup = hn::MaxLanes(hn::ScalableTag<float>());
 constexpr ptrdiff_t QuarterOf(ptrdiff_t n) { return std::max((n / 4 + kGroup - 1) / kGroup, ptrdiff_t{1}) * kGroup; }
 
-// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) points; those behind the n-th
-// are copies of it.
+// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) points; those behind the
+// n-th are copies of it.
 template <int kTaps, class T, class C>
 void Sample(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
   const PointArray<C> points{u, v};

@@ -174,7 +174,8 @@ struct Span {
   ptrdiff_t first, end;
 };
 
-// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the search.
+// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the
+// search.
 template <class Property>
 ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
   const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n)) : 0);
@@ -228,8 +229,9 @@ Spans SpansOf(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t n
   Spans spans{{0, n}, {n, n}};
   if (!(ends - ends == 0)) return spans;
   if (area.isBounded || area.kind == BorderKind::kConst) {
-    spans.touching = SpanOf(points, {TouchingOf(area, kTaps, area.columns, area.left, area.right),
-                                     TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
+    spans.touching = SpanOf(points,
+                            {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+                             TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
                             n);
   }
   const Span inside = SpanOf(points, task.interior, n);
