@@ -1,5 +1,5 @@
-// Values at interior points: all taps lie in the image, so that nothing is judged and no tap is tested. Lanes are points
-// where their taps fit into words, and channels of one point otherwise.
+// Values at interior points: all taps lie in the image, so that nothing is judged and no tap is tested. Lanes are
+// points where their taps fit into words, and channels of one point otherwise.
 #pragma once
 
 #include "base/map.h"
@@ -18,6 +18,12 @@ struct PointArray {
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
     x = hn::LoadU(d, u + i);
     y = hn::LoadU(d, v + i);
+  }
+
+  // Places nearest pixels by a quicker way than the general one, if there is one.
+  template <int kPixelBytes>
+  bool PlaceNearest(ptrdiff_t, int32_t, int32_t*) const {
+    return false;
   }
 };
 
@@ -71,15 +77,21 @@ template <int kTaps, class D>
 HWY_INLINE Split<D> SplitSame(D d, hn::Vec<D> x) {
   const hn::Rebind<int32_t, D> ints;
   Split<D> split;
-  auto whole = hn::Floor(x);
-  split.fraction = hn::Sub(x, whole);
-  if constexpr (kTaps == 1) {
-    using C = hn::TFromD<D>;
-    const auto isUpper = hn::Ge(split.fraction, hn::Set(d, C{0.5}));
-    whole = hn::Add(whole, hn::IfThenElseZero(isUpper, hn::Set(d, C{1})));
+  if constexpr (kTaps > 1) {
+    const auto whole = hn::Floor(x);
+    split.fraction = hn::Sub(x, whole);
+    if constexpr (std::is_same_v<hn::TFromD<D>, double>) split.pixel = hn::DemoteTo(ints, whole);
+    if constexpr (std::is_same_v<hn::TFromD<D>, float>) split.pixel = RoundToInt(whole);
+  } else if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
+    const hn::Rebind<uint64_t, D> bits;
+    const auto pixel = hn::BitCast(bits, SplitDouble<1>(x, split.fraction));
+    split.pixel = hn::BitCast(ints, hn::TruncateTo(hn::Rebind<uint32_t, D>(), pixel));
+  } else {
+    const auto nearest = RoundToInt(x);
+    split.fraction = hn::Sub(x, hn::ConvertTo(d, nearest));
+    const auto isLowered = hn::Eq(split.fraction, hn::Set(d, 0.5f));
+    split.pixel = hn::Sub(nearest, hn::VecFromMask(ints, hn::RebindMask(ints, isLowered)));
   }
-  if constexpr (std::is_same_v<hn::TFromD<D>, double>) split.pixel = hn::DemoteTo(ints, whole);
-  if constexpr (std::is_same_v<hn::TFromD<D>, float>) split.pixel = RoundToInt(whole);
   return split;
 }
 
@@ -107,8 +119,10 @@ HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<D>& co
   }
 }
 
-// Places n points, and repeats the last one up to the end of the block. A loop of its own: together with the one over
-// the taps it would be a longer chain than a CPU can overlap with the next one.
+// Places n points, and repeats the last one up to a whole vector of bytes. A loop of its own: together with the one
+// over the taps it would be a longer chain than a CPU can overlap with the next one.
+inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
+
 template <int kTaps, int kPixelBytes, class W, class Points>
 void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
   const hn::ScalableTag<W> d;
@@ -125,7 +139,10 @@ void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
       hn::StoreU(row.fraction, d, places.y + i);
     }
   }
-  std::fill(places.offset + n, places.offset + kBlock, places.offset[n - 1]);
+  for (ptrdiff_t i = n; kTaps > 1 && i % kWhole != 0; ++i) {
+    places.offset[i] = places.offset[n - 1];
+    places.x[i] = places.y[i] = 0;
+  }
 }
 
 // ---- Weights
@@ -214,7 +231,8 @@ HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<hn::Rebind<i
   using T = hn::TFromD<D>;
   const auto* from = reinterpret_cast<const T*>(base);
   if constexpr (sizeof(T) == sizeof(int32_t)) return hn::GatherOffset(d, from, offset);
-  if constexpr (sizeof(T) == sizeof(int64_t)) return hn::GatherOffset(d, from, hn::PromoteTo(hn::Rebind<int64_t, D>(), offset));
+  if constexpr (sizeof(T) == sizeof(int64_t))
+    return hn::GatherOffset(d, from, hn::PromoteTo(hn::Rebind<int64_t, D>(), offset));
 }
 #else
 template <class T>
@@ -225,9 +243,9 @@ T WordAt(const uint8_t* from) {
 }
 HWY_INLINE hn::Vec128<int32_t> GatherWords(hn::Full128<int32_t>, const uint8_t* base, hn::Vec128<int32_t> offset) {
   const auto at = [&](int i) { return WordAt<int32_t>(base + i); };
-  return hn::Vec128<int32_t>{
-      _mm_setr_epi32(at(_mm_extract_epi32(offset.raw, 0)), at(_mm_extract_epi32(offset.raw, 1)),
-                     at(_mm_extract_epi32(offset.raw, 2)), at(_mm_extract_epi32(offset.raw, 3)))};
+  return hn::Vec128<int32_t>{_mm_setr_epi32(at(_mm_extract_epi32(offset.raw, 0)), at(_mm_extract_epi32(offset.raw, 1)),
+                                            at(_mm_extract_epi32(offset.raw, 2)),
+                                            at(_mm_extract_epi32(offset.raw, 3)))};
 }
 HWY_INLINE hn::Vec128<double> GatherWords(hn::Full128<double>, const uint8_t* base, hn::Vec128<int32_t, 2> offset) {
   return hn::Vec128<double>{_mm_setr_pd(WordAt<double>(base + _mm_extract_epi32(offset.raw, 0)),
@@ -294,32 +312,51 @@ HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<k
   }
 }
 
-// Pixels of n points, and those of the points behind them up to whole vectors.
+// Makes the pixels of n points by strides: make(i, to) writes those of kStride points from the i-th on, and elements of
+// kOver pixels behind them. What a stride has too much, and channels that stay, are kept off the destination.
+template <int kStride, int kOver, int kChannels, class T, class Make>
+void MakePixels(const SampleTask<T>& task, ptrdiff_t n, T* dst, const Make& make) {
+  const int written = ProcessedChannels(task.src.layout);
+  ptrdiff_t i = 0;
+  for (; written == kChannels && i + kStride + kOver <= n; i += kStride) make(i, dst + i * kChannels);
+  for (; i < n; i += kStride) {
+    T out[kStride * kChannels + 4];
+    make(i, out);
+    const ptrdiff_t rest = std::min<ptrdiff_t>(n - i, kStride);
+    T* to = dst + i * kChannels;
+    if (written == kChannels) {
+      std::memcpy(to, out, rest * kChannels * sizeof(T));
+      continue;
+    }
+    for (ptrdiff_t j = 0; j < rest; ++j) std::memcpy(to + j * kChannels, out + j * kChannels, written * sizeof(T));
+  }
+}
+
+// Pixels of n points.
 template <int kTaps, int kChannels, class T>
-void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* out) {
+void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* dst) {
   using D = hn::ScalableTag<WorkOf<T>>;
   constexpr int kLanes = hn::MaxLanes(D()), kParts = kChannels == 1 ? kVectorsAtOnce<T, WorkOf<T>> : 1;
   const D d;
-  const hn::CappedTag<T, kLanes * kParts> narrow;
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
   const Weigher<kTaps, WorkOf<T>> weigh(task);
-  for (ptrdiff_t i = 0; i < n; i += kLanes * kParts) {
+  MakePixels<kLanes * kParts, 0, kChannels>(task, n, dst, [&](ptrdiff_t i, T* to) HWY_ATTR {
     if constexpr (kChannels == 1) {
       const auto part = [&](ptrdiff_t k) HWY_ATTR {
         hn::Vec<D> total;
         BlendAt<kTaps, 1, T>(d, src, step, weigh, places, i + k * kLanes, &total);
         return total;
       };
-      hn::StoreU(NarrowParts<T>(d, part), narrow, out + i);
+      hn::StoreU(NarrowParts<T>(d, part), hn::CappedTag<T, kLanes * kParts>(), to);
     } else {
       hn::Vec<D> total[kChannels];
       hn::Vec<hn::Rebind<T, D>> pixels[kChannels];
       BlendAt<kTaps, kChannels, T>(d, src, step, weigh, places, i, total);
       for (int c = 0; c < kChannels; ++c) pixels[c] = Narrow<T>(d, total[c]);
-      StorePixels<kChannels>(hn::Rebind<T, D>(), pixels, out + i * kChannels);
+      StorePixels<kChannels>(hn::Rebind<T, D>(), pixels, to);
     }
-  }
+  });
 }
 
 // ---- Lanes are channels
@@ -351,8 +388,8 @@ struct Quad {
   }
 };
 
-// The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read at
-// each tap and written, however many channels there are.
+// The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read
+// at each tap and written, however many channels there are.
 template <int kTaps, class T, class W>
 HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, const W* x, const W* y, ptrdiff_t stride,
                            T* out) {
@@ -368,61 +405,64 @@ HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, c
   total.StoreTo(out);
 }
 
-// As BlendPoints. `out` has room for three elements more.
+// As BlendPoints.
 template <int kTaps, int kChannels, class T, class W>
-void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n, T* out) {
+void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n, T* dst) {
+  constexpr int kStride = 16;
   const hn::ScalableTag<W> d;
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
   const Weigher<kTaps, W> weigh(task);
-  W x[kTaps][kBlock], y[kTaps][kBlock];
-  const auto weighAlong = [&](const W* fraction, ptrdiff_t i, W(*to)[kBlock]) HWY_ATTR {
-    hn::Vec<decltype(d)> w[kTaps];
-    weigh(d, hn::LoadU(d, fraction + i), w);
-    for (int k = 0; k < kTaps; ++k) hn::StoreU(w[k], d, to[k] + i);
+  const auto weighAlong = [&](const W* fraction, W(*to)[kStride]) HWY_ATTR {
+    hn::Vec<hn::ScalableTag<W>> w[kTaps];
+    for (ptrdiff_t i = 0; i < kStride; i += hn::Lanes(d)) {
+      weigh(d, hn::LoadU(d, fraction + i), w);
+      for (int k = 0; k < kTaps; ++k) hn::StoreU(w[k], d, to[k] + i);
+    }
   };
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) weighAlong(places.x, i, x), weighAlong(places.y, i, y);
-  for (ptrdiff_t i = 0; i < n; ++i) {
-    BlendPixel<kTaps>(src + places.offset[i], step, kChannels, x[0] + i, y[0] + i, kBlock, out + i * kChannels);
-  }
+  MakePixels<kStride, kFurther(kTaps, kChannels), kChannels>(task, n, dst, [&](ptrdiff_t first, T* to) HWY_ATTR {
+    W x[kTaps][kStride], y[kTaps][kStride];
+    weighAlong(places.x + first, x);
+    weighAlong(places.y + first, y);
+    for (ptrdiff_t i = 0; i < kStride; ++i) {
+      BlendPixel<kTaps>(src + places.offset[first + i], step, kChannels, x[0] + i, y[0] + i, kStride,
+                        to + i * kChannels);
+    }
+  });
 }
 
 // ---- Nearest
 
-template <int kBytes>
-void MovePixels(const uint8_t* src, const int32_t* offset, ptrdiff_t n, uint8_t* dst) {
-  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * kBytes, src + offset[i], kBytes);
+template <int kChannels, class T>
+void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T* dst) {
+  const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
+  if (ProcessedChannels(task.src.layout) < kChannels) {
+    for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * kChannels, src + offset[i], (kChannels - 1) * sizeof(T));
+  } else if (task.isShift) {
+    std::memcpy(dst, src + offset[0], n * kChannels * sizeof(T));
+  } else {
+    for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * kChannels, src + offset[i], kChannels * sizeof(T));
+  }
 }
 
 // ---- Blocks
 
-template <class T>
-void StoreBlock(const SampleTask<T>& task, const T* out, ptrdiff_t n, T* dst) {
-  const int channels = Channels(task.src.layout), written = ProcessedChannels(task.src.layout);
-  if (written == channels) {
-    std::memcpy(dst, out, n * channels * sizeof(T));
-    return;
-  }
-  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * channels, out + i * channels, written * sizeof(T));
-}
-
 template <int kTaps, int kChannels, class T, class Points>
 void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
-  constexpr int kPixelBytes = kChannels * sizeof(T);
-  T out[kBlock * kChannels + 4];
+  constexpr int kPixelBytes = kChannels * int{sizeof(T)};
+  const auto step = static_cast<int32_t>(task.src.step);
   Places<WorkOf<T>> places;
-  Place<kTaps, kPixelBytes>(points, n, static_cast<int32_t>(task.src.step), places);
   if constexpr (kTaps == 1) {
-    const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
-    auto* to = reinterpret_cast<uint8_t*>(out);
-    if (task.isShift) std::memcpy(to, src + places.offset[0], n * kPixelBytes);
-    if (!task.isShift) MovePixels<kPixelBytes>(src, places.offset, n, to);
-  } else if constexpr (kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1)) {
-    BlendPoints<kTaps, kChannels>(task, places, n, out);
+    if (!points.template PlaceNearest<kPixelBytes>(n, step, places.offset)) {
+      Place<1, kPixelBytes>(points, task.isShift ? 1 : n, step, places);
+    }
+    MovePixels<kChannels>(task, places.offset, n, dst);
   } else {
-    BlendPixels<kTaps, kChannels>(task, places, n, out);
+    Place<kTaps, kPixelBytes>(points, n, step, places);
+    constexpr bool kAreWords = kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1);
+    if constexpr (kAreWords) BlendPoints<kTaps, kChannels>(task, places, n, dst);
+    if constexpr (!kAreWords) BlendPixels<kTaps, kChannels>(task, places, n, dst);
   }
-  StoreBlock(task, out, n, dst);
 }
 
 // Values at n interior points, up to kBlock, to as many pixels.

@@ -10,7 +10,7 @@
 namespace qvp {
 
 // Points come in blocks of up to kBlock.
-inline constexpr int kBlock = 64;
+inline constexpr int kBlock = 256;
 
 // Points up to whole vectors of any build.
 constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
@@ -58,8 +58,7 @@ inline Interval InteriorOf(Extent extent, int taps, int further, bool isBounded,
   }
   last = std::min(last, kLastInterior);
   if (first > last) return {};
-  return {static_cast<double>(first) - kPointsBefore(taps),
-          static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
+  return {static_cast<double>(first) - kPointsBefore(taps), static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
 }
 
 template <class T>

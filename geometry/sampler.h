@@ -202,11 +202,12 @@ bool AreAllInside(const PointBox& box, const C* u, const C* v, ptrdiff_t n) {
   return hn::AllTrue(d, isInside);
 }
 
-// Points of a block whose points differ in kind are tested again by groups of a vector.
+// Blocks whose points differ in kind are divided into four, down to groups of a vector.
 inline constexpr ptrdiff_t kGroup = hn::MaxLanes(hn::ScalableTag<float>());
+constexpr ptrdiff_t QuarterOf(ptrdiff_t n) { return std::max((n / 4 + kGroup - 1) / kGroup, ptrdiff_t{1}) * kGroup; }
 
-// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) points; those behind the n-th
-// are copies of it.
+// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) points; those behind the
+// n-th are copies of it.
 template <int kTaps, class T, class C>
 void Sample(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
   const PointArray<C> points{u, v};
@@ -214,8 +215,9 @@ void Sample(const SampleTask<T>& task, const C* u, const C* v, ptrdiff_t n, T* d
   if (IsBeyondKnown(task.area) && AreAllBeyond<kTaps>(task.area, u, v, n)) return FillBeyond(task, n, dst);
   const int channels = Channels(task.src.layout);
   if (n > kGroup) {
-    for (ptrdiff_t i = 0; i < n; i += kGroup) {
-      Sample<kTaps>(task, u + i, v + i, std::min(kGroup, n - i), dst + i * channels);
+    const ptrdiff_t quarter = QuarterOf(n);
+    for (ptrdiff_t i = 0; i < n; i += quarter) {
+      Sample<kTaps>(task, u + i, v + i, std::min(quarter, n - i), dst + i * channels);
     }
     return;
   }

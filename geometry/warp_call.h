@@ -102,12 +102,16 @@ template <int kTaps, class T>
 void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width, ptrdiff_t height) {
   SampleTask<T> task = TaskOf(call, record);
   task.SetInterior(kTaps);
-  for (ptrdiff_t y = 0; y < height; ++y) {
-    if (record.kind == WarpKind::kAffine) {
-      WarpRow<kTaps>(task, AffinePoints(record, call.x, call.y + y), width, call.dst.Row(y));
-    } else {
+  if (record.kind == WarpKind::kPerspective) {
+    for (ptrdiff_t y = 0; y < height; ++y) {
       SampleAny<kTaps>(task, PerspectivePoints(record, call.x, call.y + y), 0, width, call.dst.Row(y));
     }
+    return;
+  }
+  const FixedSteps steps(record, kTaps == 1 && !task.isShift ? width : 0);
+  const FixedSteps* usable = kTaps == 1 && !task.isShift && steps.IsUsable() ? &steps : nullptr;
+  for (ptrdiff_t y = 0; y < height; ++y) {
+    WarpRow<kTaps>(task, AffinePoints(record, call.x, call.y + y, usable), width, call.dst.Row(y));
   }
 }
 

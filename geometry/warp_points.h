@@ -16,6 +16,14 @@ struct Line {
       : a(coefficients[0]), b(coefficients[1] * static_cast<double>(y)), c(coefficients[2]) {}
 
   double At(double x) const { return a * x + b + c; }
+
+  // Whether no step before column x loses more than 2^-27 by rounding.
+  bool IsSmall(double x) const {
+    constexpr double kSmall = 1 << 24;
+    return Size(a * x) < kSmall && Size(b) < kSmall && Size(c) < kSmall;
+  }
+  static double Size(double x) { return x < 0 ? -x : x; }
+
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V At(D d, V x) const {
     return hn::Add(hn::Add(hn::Mul(hn::Set(d, a), x), hn::Set(d, b)), hn::Set(d, c));
@@ -37,14 +45,74 @@ struct Columns {
   }
 };
 
+// Nearest pixels of an affine transform in fixed point: the distances of a block's points from its first one, in units
+// of 2^-18. They are rounded by half a unit, as is the first point itself; together with the rounding of doubles a
+// position is wrong by less than two units. Where one comes closer than that to the middle between two pixels, the
+// block is left to exact arithmetic.
+class FixedSteps {
+ public:
+  static constexpr int kBits = 18;
+  static constexpr int32_t kOne = 1 << kBits, kDoubt = 2;
+
+  // For blocks of up to n points.
+  FixedSteps(const WarpRecord& record, ptrdiff_t n) : au_(record.c[0][0]), av_(record.c[1][0]) {
+    if (!IsShort(au_) || !IsShort(av_)) return;
+    isUsable_ = true;
+    for (int i = 0; i < std::min<ptrdiff_t>(Padded(n), kBlock); ++i) {
+      u_[i] = Rounded(au_ * i);
+      v_[i] = Rounded(av_ * i);
+    }
+  }
+
+  bool IsUsable() const { return isUsable_; }
+
+  // Offsets of n interior points from (u, v) on, or false.
+  template <int kPixelBytes>
+  bool Place(double u, double v, ptrdiff_t n, int32_t step, int32_t* offset) const {
+    const hn::ScalableTag<int32_t> d;
+    const int32_t column = WholeBelowOf(u), row = WholeBelowOf(v);
+    const auto origin = hn::Set(d, row * step + column * kPixelBytes), stride = hn::Set(d, step);
+    const auto firstU = hn::Set(d, Start(u - column)), firstV = hn::Set(d, Start(v - row));
+    const auto fraction = hn::Set(d, kOne - 1), bytes = hn::Set(d, kPixelBytes);
+    auto closest = fraction;
+    for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+      const auto x = hn::Add(firstU, hn::LoadU(d, u_ + i)), y = hn::Add(firstV, hn::LoadU(d, v_ + i));
+      closest = hn::Min(closest, hn::Min(hn::And(x, fraction), hn::And(y, fraction)));
+      const auto px = hn::ShiftRight<kBits>(x), across = kPixelBytes == 1 ? px : hn::Mul(px, bytes);
+      hn::StoreU(hn::Add(hn::Add(hn::Mul(hn::ShiftRight<kBits>(y), stride), across), origin), d, offset + i);
+    }
+    return hn::AllTrue(d, hn::Gt(closest, hn::Set(d, 2 * kDoubt - 1)));
+  }
+
+ private:
+  // Whether the longest block stays within 31 bits.
+  static bool IsShort(double a) { return a >= -16 && a <= 16; }
+  static int32_t Rounded(double x) { return static_cast<int32_t>((x * kOne + kToWhole) - kToWhole); }
+  static int32_t WholeBelowOf(double x) { return static_cast<int32_t>(x + 1) - 1; }  // of interior points, from -1 on
+  // Half a pixel on, so that the pixel is the whole number below, and by the doubt, so that it is on one side of it.
+  static int32_t Start(double fraction) { return Rounded(fraction) + kOne / 2 + kDoubt; }
+
+  double au_, av_;
+  bool isUsable_ = false;
+  int32_t u_[kBlock], v_[kBlock];
+};
+
 struct AffinePoints {
   using Coordinate = double;
   Line u, v;
   Columns columns;
+  const FixedSteps* steps = nullptr;
 
   // A row whose column 0 is destination column `x`.
-  AffinePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y)
-      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x)} {}
+  AffinePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y, const FixedSteps* fixedSteps = nullptr)
+      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x)}, steps(fixedSteps) {}
+
+  template <int kPixelBytes>
+  bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
+    const double end = columns.first + static_cast<double>(n);
+    if (steps == nullptr || !u.IsSmall(end) || !v.IsSmall(end)) return false;
+    return steps->Place<kPixelBytes>(u.At(columns.first), v.At(columns.first), n, step, offset);
+  }
 
   // The points from column `x` on.
   AffinePoints From(ptrdiff_t x) const {
@@ -106,7 +174,8 @@ struct Span {
   ptrdiff_t first, end;
 };
 
-// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the search.
+// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the
+// search.
 template <class Property>
 ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
   const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n)) : 0);
@@ -160,8 +229,9 @@ Spans SpansOf(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t n
   Spans spans{{0, n}, {n, n}};
   if (!(ends - ends == 0)) return spans;
   if (area.isBounded || area.kind == BorderKind::kConst) {
-    spans.touching = SpanOf(points, {TouchingOf(area, kTaps, area.columns, area.left, area.right),
-                                     TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
+    spans.touching = SpanOf(points,
+                            {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+                             TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
                             n);
   }
   const Span inside = SpanOf(points, task.interior, n);
