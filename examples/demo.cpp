@@ -50,6 +50,7 @@ int main(int argc, char** argv) try {
   demo::ThresholdSteps(demo);
   demo::FilterSteps(demo);
   demo::ResizeSteps(demo);
+  demo::WarpSteps(demo);
   demo::StatsSteps(demo);
   demo::HogSteps(demo);
   demo::FourierSteps(demo);

@@ -43,6 +43,7 @@ void ConvertSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
+void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);
 void HogSteps(Demo& demo);
 void FourierSteps(Demo& demo);

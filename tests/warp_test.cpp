@@ -229,17 +229,84 @@ TEST(Warp, ReadsSidesInMemory) {
   }
 }
 
+// Rows begin and end up to two pixels outside, so that all shares occur, on the left, the right and at the corners.
+template <class T, int kChannels>
+void CheckSmoothEdges(QvpDataType type, double tolerance) {
+  const QvpiSize size{5, 6}, to{24, 9};
+  for (const int taps : {1, 2, 4}) {
+    for (const double turn : {0.0, 0.03}) {
+      const double matrix[2][3] = {{0.3, turn, -1.5}, {-turn, 0.875, -0.75}};
+      const Warp warp(kChannels, type, taps, matrix, false, qvpBorderTransparent, size, to, {.taps = taps}, 1);
+      test::Image<T> src(size.width * kChannels, size.height, 0), dst(to.width * kChannels, to.height, 2 * sizeof(T));
+      MakeNumbers(src, size.width * kChannels, size.height);
+      MakeNumbers(dst, to.width * kChannels, to.height);
+      const test::Image<T> before(dst);
+      const std::integral_constant<int, kChannels> layout;
+      ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, layout), 0);
+      for (int y = 0; y < to.height; ++y) {
+        for (int x = 0; x < to.width * kChannels; ++x) {
+          const Point p = Map(matrix, false, x / kChannels, y);
+          const Point edge{std::clamp(p.u, 0.0, 4.0), std::clamp(p.v, 0.0, 5.0)};
+          const double share = std::max(0.0, 1 - std::fabs(p.u - edge.u)) * std::max(0.0, 1 - std::fabs(p.v - edge.v));
+          const double value = Saturated<T>(ValueAt(src, size, {.taps = taps}, kChannels, edge, x % kChannels));
+          ASSERT_NEAR(dst(x, y), share * value + (1 - share) * before(x, y), tolerance) << taps << ' ' << x << ',' << y;
+        }
+      }
+    }
+  }
+}
+
 TEST(Warp, BlendsSmoothEdges) {
-  const double matrix[2][3] = {{0.25, 0, -1.5}, {0, 1, 0.25}};
-  const QvpiSize size{4, 3}, to{24, 2};
-  const Warp warp(1, qvp16u, 2, matrix, false, qvpBorderTransparent, size, to, {.taps = 2}, 1);
-  test::Image<uint16_t> src(4, 3, 2), dst(24, 2, 0);
-  const test::Image<uint16_t> before(dst);
-  ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, std::integral_constant<int, 1>()), 0);
-  for (int x = 0; x < 24; ++x) {
-    const double u = 0.25 * x - 1.5, beyond = std::max({0.0, -u, u - 3}), share = std::max(0.0, 1 - beyond);
-    const double value = ValueAt(src, size, {.taps = 2}, 1, {std::clamp(u, 0.0, 3.0), 0.25}, 0);
-    ASSERT_NEAR(dst(x, 0), share * value + (1 - share) * before(x, 0), 1) << x;
+  CheckSmoothEdges<uint8_t, 3>(qvp8u, 1);
+  CheckSmoothEdges<uint16_t, 1>(qvp16u, 1);
+  CheckSmoothEdges<int16_t, 4>(qvp16s, 1);
+  CheckSmoothEdges<float, 3>(qvp32f, 2e-3);
+  CheckSmoothEdges<double, 1>(qvp64f, 1e-9);
+}
+
+// The `_L` forms make the same pixels, from records of their own.
+TEST(Warp, WideFormsEqualPlainOnes) {
+  const QvpiSizeL from{kSource.width, kSource.height}, to{kTarget.width, kTarget.height};
+  test::Block record(576), buffer(1024), init(64);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  const auto check = [&](auto element, const Warp& warp, auto wide) {
+    using T = decltype(element);
+    test::Image<T> src(kSource.width * 3, kSource.height, 6), dst(kTarget.width * 3, kTarget.height, 2), other(dst);
+    MakeNumbers(src, kSource.width * 3, kSource.height);
+    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {5, 1}, {70, 20}, std::integral_constant<int, 3>()), 0);
+    ASSERT_EQ(wide(src.data(), src.step(), other.data(), other.step(), {5, 1}, {70, 20}, spec, buffer.data()), 0);
+    for (int y = 0; y < kTarget.height; ++y) {
+      for (int x = 0; x < kTarget.width * 3; ++x) ASSERT_EQ(dst(x, y), other(x, y)) << x << ',' << y;
+    }
+  };
+  const auto* turn = kMatrices[0];
+  const auto* tilt = kMatrices[5];
+  ASSERT_EQ(qvpiWarpAffineNearestInit_L(from, to, qvp8u, turn, 1, 3, 1, nullptr, 0, spec), 0);
+  check(uint8_t(), Warp(3, qvp8u, 1, turn, false, 1), qvpiWarpAffineNearest_8u_C3R_L);
+  ASSERT_EQ(qvpiWarpPerspectiveLinearInit_L(from, to, qvp16u, tilt, 1, 3, 1, nullptr, 0, spec), 0);
+  check(uint16_t(), Warp(3, qvp16u, 2, tilt, true, 1), qvpiWarpPerspectiveLinear_16u_C3R_L);
+  ASSERT_EQ(qvpiWarpAffineCubicInit_L(from, to, qvp16s, turn, 1, 3, 0, 0.5, 1, nullptr, 0, spec, init.data()), 0);
+  check(int16_t(), Warp(3, qvp16s, 4, turn, false, 1), qvpiWarpAffineCubic_16s_C3R_L);
+}
+
+// Longer rows than a block, and positions in the middle between two pixels at every place of it.
+TEST(Warp, PlacesNearestPixelsExactly) {
+  const QvpiSize size{400, 300}, to{777, 3};
+  const double half[2][3] = {{0.5, 0, 0.25}, {0, 0.5, 10.5}}, tie[2][3] = {{0.5, 0, 0}, {-0.25, 1, 250.25}};
+  const double turn[2][3] = {{0.48, 0.2, 7.123}, {-0.3, 0.48, 270.3}}, far[2][3] = {{-0.5, 1e9, 399}, {0, 1, 3}};
+  test::Image<uint8_t> src(size.width, size.height, 1), dst(to.width, to.height, 0);
+  for (const auto* matrix : {half, tie, turn, far}) {
+    const Warp warp(1, qvp8u, 1, matrix, false, qvpBorderReplicate, size, to);
+    ASSERT_EQ(warp.status, 0);
+    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, std::integral_constant<int, 1>()), 0);
+    for (int y = 0; y < to.height; ++y) {
+      for (int x = 0; x < to.width; ++x) {
+        const Point p = Map(matrix, false, x, y);
+        ASSERT_EQ(dst(x, y), PixelAt(src, size, {}, 1, std::lround(std::floor(std::clamp(p.u, -9.0, 999.0) + 0.5)),
+                                     std::lround(std::floor(p.v + 0.5)), 0))
+            << x << ',' << y;
+      }
+    }
   }
 }
 
@@ -341,9 +408,13 @@ void CheckRemap(QvpStatus (*remap)(const T*, QvpiSize, int, QvpiRect, const M*, 
 TEST(Remap, FollowsTheFormula) {
   CheckRemap<uint8_t, 1, float>(qvpiRemap_8u_C1R, 1);
   CheckRemap<uint8_t, 3, float>(qvpiRemap_8u_C3R, 1);
+  CheckRemap<uint16_t, 1, float>(qvpiRemap_16u_C1R, 1);
+  CheckRemap<uint16_t, 3, float>(qvpiRemap_16u_C3R, 1);
   CheckRemap<uint16_t, 4, float>(qvpiRemap_16u_C4R, 1);
   CheckRemap<int16_t, 1, float>(qvpiRemap_16s_C1R, 1);
+  CheckRemap<float, 1, float>(qvpiRemap_32f_C1R, 2e-3);
   CheckRemap<float, 3, float>(qvpiRemap_32f_C3R, 2e-3);
+  CheckRemap<float, 4, float>(qvpiRemap_32f_C4R, 2e-3);
   CheckRemap<double, 1, double>(qvpiRemap_64f_C1R, 1e-9);
   CheckRemap<double, 4, double>(qvpiRemap_64f_C4R, 1e-9);
 }
