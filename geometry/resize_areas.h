@@ -97,8 +97,8 @@ class AreaColumns {
     for (ptrdiff_t j = 0; j < q_; ++j) {
       Gather(
           shape, loads_, kLanes, INT32_MAX,
-          [this, j](ptrdiff_t s) { return (j + s) * p_ / q_ * ptrdiff_t{sizeof(uint16_t)}; },
-          masks_ + j * kGatherBytes, offsets_ + j * loads_ * kGatherBlocks);
+          [this, j](ptrdiff_t s) { return (j + s) * p_ / q_ * ptrdiff_t{sizeof(uint16_t)}; }, masks_ + j * kGatherBytes,
+          offsets_ + j * loads_ * kGatherBlocks);
     }
   }
 

@@ -59,7 +59,8 @@ void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weigh
 template <class F, class T, class Weights>
 void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
   const auto pixel = [&](int k, bool) { return row + plan.edge(plan.taps.first[x] + k) * plan.channels; };
-  AddTaps(plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
+  AddTaps(
+      plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
 }
 
 template <class T, class Weights>
@@ -123,8 +124,8 @@ class PickedPairs {
       places_ = apart;
     } else {  // the bytes of a lane are those of two successive samples
       HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
-      const auto spread = hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)),
-                                               hn::LoadDup128(Bytes(), kSpread));
+      const auto spread =
+          hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)), hn::LoadDup128(Bytes(), kSpread));
       places_ = hn::BitCast(Ints(), hn::Add(spread, hn::BitCast(Bytes(), hn::Set(Ints(), 0x03020100))));
     }
   }
@@ -145,9 +146,8 @@ class PickedPairs {
     } else {
       const auto pairs = hn::BitCast(Lanes(), hn::TableLookupBytes(Blocks(row), hn::BitCast(Bytes(), places_)));
       const auto first = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs)), second = hn::ShiftRight<16>(pairs);
-      const auto product = [&](auto v, auto w) HWY_ATTR {
-        return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w);
-      };
+      const auto product = [&](auto v, auto w)
+                               HWY_ATTR { return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w); };
       return hn::Add(product(first, left), product(second, right));
     }
   }
@@ -189,7 +189,8 @@ HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
   }
 }
 
-// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap k.
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap
+// k.
 template <class D, class Weights, class Pixel>
 HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel) {
   auto sum = hn::Mul(pixel(0), hn::Set(d, weights.At(0, x)));
@@ -400,9 +401,8 @@ HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
   const hn::Repartition<uint8_t, D> bytes;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   if (n < 2 * kLanes) return StoreRow(d, dst, n, at);
-  const auto store = [&](ptrdiff_t i) HWY_ATTR {
-    hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i);
-  };
+  const auto store = [&](ptrdiff_t i)
+                         HWY_ATTR { hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i); };
   for (ptrdiff_t i = 0; i < n - 2 * kLanes; i += 2 * kLanes) store(i);
   store(n - 2 * kLanes);
 }
@@ -441,9 +441,8 @@ void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& tap
   }
   StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
     auto sum = hn::Mul(hn::LoadU(d, rows[0] + i), hn::Set(d, w[0]));
-    const auto add = [&](const float* row, float weight) HWY_ATTR {
-      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight)));
-    };
+    const auto add = [&](const float* row, float weight)
+                         HWY_ATTR { sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight))); };
     for (int k = 1; k < atHand; ++k) add(rows[k], w[k]);
     const float* row = rows[atHand - 1];
     for (int k = atHand; k < count; ++k) {
@@ -481,8 +480,7 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const ResizeAxis& axis = record.columns;
   const bool areNear = axis.taps == 2 && axis.certainTaps == 2 && axis.p <= 2 * axis.q;
-  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels,
-                           areNear);
+  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels, areNear);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
@@ -512,7 +510,8 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
         if (isRead) FilterPixel(plan, across, row, x, pixel);
         return pixel;
       };
-      AddTaps(rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
+      AddTaps(
+          rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
     }
   }
 }
