@@ -58,7 +58,9 @@ void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weigh
 // One pixel of a row, across.
 template <class F, class T, class Weights>
 void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
-  const auto pixel = [&](int k, bool) { return row + plan.edge(plan.taps.first[x] + k) * plan.channels; };
+  const auto pixel = [&](int k, bool isRead) {
+    return isRead ? row + plan.edge(plan.taps.first[x] + k) * plan.channels : row;
+  };
   AddTaps(
       plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
 }
