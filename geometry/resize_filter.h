@@ -489,7 +489,7 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
     ForTwo(
         position, end, [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); },
         [&](ptrdiff_t p) { return ring.Row(p); },
-        [&](const auto& rows, const auto& out) { FilterAcross(plan, across, rows, out); });
+        [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
