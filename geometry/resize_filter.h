@@ -191,18 +191,23 @@ HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
   }
 }
 
-// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap
-// k.
-template <class D, class Weights, class Pixel>
-HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel) {
-  auto sum = hn::Mul(pixel(0), hn::Set(d, weights.At(0, x)));
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(i, k) is that of
+// tap k for the column x + i.
+template <int kColumns, class D, class Weights, class Pixel>
+HWY_INLINE void FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel,
+                             hn::Vec<D>* sums) {
+  const auto product = [&](int i, int k) HWY_ATTR { return hn::Mul(pixel(i, k), hn::Set(d, weights.At(k, x + i))); };
+  const int certain = taps.certain, count = taps.count;
+  for (int i = 0; i < kColumns; ++i) sums[i] = product(i, 0);
   int k = 1;
-  for (; k < taps.certain; ++k) sum = hn::Add(sum, hn::Mul(pixel(k), hn::Set(d, weights.At(k, x))));
-  for (; k < taps.count; ++k) {
-    const float w = weights.At(k, x);
-    sum = hn::Add(sum, w != 0 ? hn::Mul(pixel(k), hn::Set(d, w)) : hn::Zero(d));
+  for (; k < certain; ++k) {
+    for (int i = 0; i < kColumns; ++i) sums[i] = hn::Add(sums[i], product(i, k));
   }
-  return sum;
+  for (; k < count; ++k) {
+    for (int i = 0; i < kColumns; ++i) {
+      sums[i] = hn::Add(sums[i], weights.At(k, x + i) != 0 ? product(i, k) : hn::Zero(d));
+    }
+  }
 }
 
 template <int kCount, size_t kRows, class T, class Weights>
@@ -263,21 +268,31 @@ class PixelRows {
 // From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
 inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
 
+// kColumns columns from x on. `staged` is where the pixel at position 0 would be.
+template <int kColumns, class D, class T, class Weights>
+HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const float* staged,
+                             const PixelRows<D, T>& rows) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  const float* first[kColumns];
+  for (int i = 0; i < kColumns; ++i) first[i] = staged + taps.first[x + i] * kLanes;
+  const auto pixel = [&](int i, int k) HWY_ATTR { return hn::Load(d, first[i] + k * kLanes); };
+  hn::Vec<D> sums[kColumns];
+  FilterPixels<kColumns>(d, taps, weights, x, pixel, sums);
+  for (int i = 0; i < kColumns; ++i) rows.Store(sums[i], x + i);
+}
+
 template <class D, class T, class Weights>
 void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T>& from) {
   const PixelRows<D, T> rows = from;  // a copy, which stores cannot change
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kAtOnce = 4;
   HWY_ALIGN float staged[kStagedPixels * kLanes];
   for (ptrdiff_t x = taps.from, end = x; x < to;) {
     const ptrdiff_t base = taps.first[x];
     while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
     for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
-    for (; x < end; ++x) {
-      const float* first = staged + (taps.first[x] - base) * kLanes;
-      const auto pixel = [=](int k) HWY_ATTR { return hn::Load(d, first + k * kLanes); };
-      rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
-    }
+    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged - base * kLanes, rows);
+    for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged - base * kLanes, rows);
   }
 }
 
@@ -290,8 +305,10 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, c
     return FilterStagedAcross(d, taps, plan.to, weights, rows);
   }
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
-    const auto pixel = [&](int k) HWY_ATTR { return rows.Load(taps.first[x] + k); };
-    rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
+    hn::Vec<D> sum;
+    FilterPixels<1>(
+        d, taps, weights, x, [&](int, int k) HWY_ATTR { return rows.Load(taps.first[x] + k); }, &sum);
+    rows.Store(sum, x);
   }
 }
 
