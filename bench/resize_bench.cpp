@@ -130,8 +130,8 @@ void Super() {
 // The whole of libvips's reduction, to a new image: in one thread, and without remembering results.
 void ReduceByVips(const Case<uint8_t>& c, VipsKernel kernel) {
   const size_t bytes = size_t{1} * c.srcStep() * c.from.height;
-  VipsImage* from = vips_image_new_from_memory(c.src.get(), bytes, c.from.width, c.from.height, c.channels,
-                                               VIPS_FORMAT_UCHAR);
+  VipsImage* from =
+      vips_image_new_from_memory(c.src.get(), bytes, c.from.width, c.from.height, c.channels, VIPS_FORMAT_UCHAR);
   VipsImage* to = nullptr;
   const double across = 1.0 * c.from.width / c.to.width, down = 1.0 * c.from.height / c.to.height;
   Require(vips_reduce(from, &to, across, down, "kernel", kernel, nullptr));

@@ -43,8 +43,8 @@ class AreaColumns {
   // The fewest columns that there are vectors for.
   static ptrdiff_t Fewest(int channels) { return channels == 1 ? 2 * kLanes : kPixels; }
   // Source pixels of the tile, and samples of a row of sums with what vectors touch behind them.
-  ptrdiff_t Pixels() const { return ((begin_ + columns_) * p_ + q_ - 1) / q_ - origin_; }
-  ptrdiff_t RowSamples() const { return (Pixels() + 2 * pairs_ + 1) * channels_ + kBlockBytes; }
+  ptrdiff_t Pixels() const { return static_cast<ptrdiff_t>((int64_t{begin_ + columns_} * p_ + q_ - 1) / q_) - origin_; }
+  int64_t RowSamples() const { return (int64_t{Pixels()} + 2 * pairs_ + 1) * channels_ + kBlockBytes; }
 
   // The usual numbers of pairs have loops of their own.
   void Average(const uint16_t* sums, uint8_t* dst) const {
@@ -76,8 +76,8 @@ class AreaColumns {
   ptrdiff_t PeriodBytes() const { return p_ * channels_ * ptrdiff_t{sizeof(uint16_t)}; }
   Walk By(ptrdiff_t columns) const { return {{columns % q_, columns / q_ * PeriodBytes()}, q_, PeriodBytes()}; }
   Place PlaceOf(ptrdiff_t column) const {
-    const ptrdiff_t at = begin_ + column, origin = origin_ * channels_ * ptrdiff_t{sizeof(uint16_t)};
-    return {at % q_, at / q_ * PeriodBytes() - origin};
+    const ptrdiff_t at = begin_ + column;
+    return {at % q_, (at / q_ * p_ - origin_) * channels_ * ptrdiff_t{sizeof(uint16_t)}};
   }
 
   // The parts of two successive pixels in one number.
@@ -97,8 +97,8 @@ class AreaColumns {
     for (ptrdiff_t j = 0; j < q_; ++j) {
       Gather(
           shape, loads_, kLanes, INT32_MAX,
-          [this, j](ptrdiff_t s) { return (j + s) * p_ / q_ * ptrdiff_t{sizeof(uint16_t)}; },
-          masks_ + j * kGatherBytes, offsets_ + j * loads_ * kGatherBlocks);
+          [this, j](ptrdiff_t s) { return (j + s) * p_ / q_ * ptrdiff_t{sizeof(uint16_t)}; }, masks_ + j * kGatherBytes,
+          offsets_ + j * loads_ * kGatherBlocks);
     }
   }
 

@@ -58,8 +58,11 @@ void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weigh
 // One pixel of a row, across.
 template <class F, class T, class Weights>
 void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
-  const auto pixel = [&](int k, bool) { return row + plan.edge(plan.taps.first[x] + k) * plan.channels; };
-  AddTaps(plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
+  const auto pixel = [&](int k, bool isRead) {
+    return isRead ? row + plan.edge(plan.taps.first[x] + k) * plan.channels : row;
+  };
+  AddTaps(
+      plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
 }
 
 template <class T, class Weights>
@@ -123,8 +126,8 @@ class PickedPairs {
       places_ = apart;
     } else {  // the bytes of a lane are those of two successive samples
       HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
-      const auto spread = hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)),
-                                               hn::LoadDup128(Bytes(), kSpread));
+      const auto spread =
+          hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)), hn::LoadDup128(Bytes(), kSpread));
       places_ = hn::BitCast(Ints(), hn::Add(spread, hn::BitCast(Bytes(), hn::Set(Ints(), 0x03020100))));
     }
   }
@@ -145,9 +148,8 @@ class PickedPairs {
     } else {
       const auto pairs = hn::BitCast(Lanes(), hn::TableLookupBytes(Blocks(row), hn::BitCast(Bytes(), places_)));
       const auto first = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs)), second = hn::ShiftRight<16>(pairs);
-      const auto product = [&](auto v, auto w) HWY_ATTR {
-        return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w);
-      };
+      const auto product = [&](auto v, auto w)
+                               HWY_ATTR { return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w); };
       return hn::Add(product(first, left), product(second, right));
     }
   }
@@ -189,17 +191,23 @@ HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
   }
 }
 
-// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(k) is that of tap k.
-template <class D, class Weights, class Pixel>
-HWY_INLINE hn::Vec<D> FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel) {
-  auto sum = hn::Mul(pixel(0), hn::Set(d, weights.At(0, x)));
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(i, k) is that of
+// tap k for the column x + i.
+template <int kColumns, class D, class Weights, class Pixel>
+HWY_INLINE void FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel,
+                             hn::Vec<D>* sums) {
+  const auto product = [&](int i, int k) HWY_ATTR { return hn::Mul(pixel(i, k), hn::Set(d, weights.At(k, x + i))); };
+  const int certain = taps.certain, count = taps.count;
+  for (int i = 0; i < kColumns; ++i) sums[i] = product(i, 0);
   int k = 1;
-  for (; k < taps.certain; ++k) sum = hn::Add(sum, hn::Mul(pixel(k), hn::Set(d, weights.At(k, x))));
-  for (; k < taps.count; ++k) {
-    const float w = weights.At(k, x);
-    sum = hn::Add(sum, w != 0 ? hn::Mul(pixel(k), hn::Set(d, w)) : hn::Zero(d));
+  for (; k < certain; ++k) {
+    for (int i = 0; i < kColumns; ++i) sums[i] = hn::Add(sums[i], product(i, k));
   }
-  return sum;
+  for (; k < count; ++k) {
+    for (int i = 0; i < kColumns; ++i) {
+      sums[i] = hn::Add(sums[i], weights.At(k, x + i) != 0 ? product(i, k) : hn::Zero(d));
+    }
+  }
 }
 
 template <int kCount, size_t kRows, class T, class Weights>
@@ -260,21 +268,31 @@ class PixelRows {
 // From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
 inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
 
+// kColumns columns from x on. `staged` is where the pixel at position 0 would be.
+template <int kColumns, class D, class T, class Weights>
+HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const float* staged,
+                             const PixelRows<D, T>& rows) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  const float* first[kColumns];
+  for (int i = 0; i < kColumns; ++i) first[i] = staged + taps.first[x + i] * kLanes;
+  const auto pixel = [&](int i, int k) HWY_ATTR { return hn::Load(d, first[i] + k * kLanes); };
+  hn::Vec<D> sums[kColumns];
+  FilterPixels<kColumns>(d, taps, weights, x, pixel, sums);
+  for (int i = 0; i < kColumns; ++i) rows.Store(sums[i], x + i);
+}
+
 template <class D, class T, class Weights>
 void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T>& from) {
   const PixelRows<D, T> rows = from;  // a copy, which stores cannot change
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kAtOnce = 4;
   HWY_ALIGN float staged[kStagedPixels * kLanes];
   for (ptrdiff_t x = taps.from, end = x; x < to;) {
     const ptrdiff_t base = taps.first[x];
     while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
     for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
-    for (; x < end; ++x) {
-      const float* first = staged + (taps.first[x] - base) * kLanes;
-      const auto pixel = [=](int k) HWY_ATTR { return hn::Load(d, first + k * kLanes); };
-      rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
-    }
+    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged - base * kLanes, rows);
+    for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged - base * kLanes, rows);
   }
 }
 
@@ -287,8 +305,10 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, c
     return FilterStagedAcross(d, taps, plan.to, weights, rows);
   }
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
-    const auto pixel = [&](int k) HWY_ATTR { return rows.Load(taps.first[x] + k); };
-    rows.Store(FilterPixels(d, taps, weights, x, pixel), x);
+    hn::Vec<D> sum;
+    FilterPixels<1>(
+        d, taps, weights, x, [&](int, int k) HWY_ATTR { return rows.Load(taps.first[x] + k); }, &sum);
+    rows.Store(sum, x);
   }
 }
 
@@ -400,9 +420,8 @@ HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
   const hn::Repartition<uint8_t, D> bytes;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   if (n < 2 * kLanes) return StoreRow(d, dst, n, at);
-  const auto store = [&](ptrdiff_t i) HWY_ATTR {
-    hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i);
-  };
+  const auto store = [&](ptrdiff_t i)
+                         HWY_ATTR { hn::StoreU(PackedInOrder<uint8_t>(at(i), at(i + kLanes)), bytes, dst + i); };
   for (ptrdiff_t i = 0; i < n - 2 * kLanes; i += 2 * kLanes) store(i);
   store(n - 2 * kLanes);
 }
@@ -441,9 +460,8 @@ void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& tap
   }
   StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
     auto sum = hn::Mul(hn::LoadU(d, rows[0] + i), hn::Set(d, w[0]));
-    const auto add = [&](const float* row, float weight) HWY_ATTR {
-      sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight)));
-    };
+    const auto add = [&](const float* row, float weight)
+                         HWY_ATTR { sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight))); };
     for (int k = 1; k < atHand; ++k) add(rows[k], w[k]);
     const float* row = rows[atHand - 1];
     for (int k = atHand; k < count; ++k) {
@@ -481,15 +499,14 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const ResizeAxis& axis = record.columns;
   const bool areNear = axis.taps == 2 && axis.certainTaps == 2 && axis.p <= 2 * axis.q;
-  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels,
-                           areNear);
+  const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels, areNear);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
     ForTwo(
         position, end, [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); },
         [&](ptrdiff_t p) { return ring.Row(p); },
-        [&](const auto& rows, const auto& out) { FilterAcross(plan, across, rows, out); });
+        [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
@@ -512,7 +529,8 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
         if (isRead) FilterPixel(plan, across, row, x, pixel);
         return pixel;
       };
-      AddTaps(rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
+      AddTaps(
+          rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
     }
   }
 }

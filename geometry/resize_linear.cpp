@@ -11,8 +11,8 @@ namespace {
 // and the second term is the rounded high half of 64 (r - l) times 2 w.
 int16_t Across(int l, int r, int w) { return static_cast<int16_t>((l * (kFixedOne - w) + r * w + 128) >> 8); }
 
-// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6. The inner term is the high half of
-// 2 (h1 - h0) times 2 w, and the outer one the rounded high half of twice its sum times 256.
+// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6. The inner term is the high half
+// of 2 (h1 - h0) times 2 w, and the outer one the rounded high half of twice its sum times 256.
 void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
   const hn::ScalableTag<int16_t> d;
   const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), down = hn::Set(d, 512);

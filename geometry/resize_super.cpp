@@ -209,9 +209,9 @@ void Halve(const ResizeCall<uint8_t>& call, const Tile& tile) {
 }
 
 // Bytes of work memory that every caller has for a tile.
-ptrdiff_t RoomFor(const Tile& tile, int channels) {
-  return static_cast<ptrdiff_t>(PlaneOf(4 * tile.height) + PlaneOf(4 * tile.width) +
-                                2 * PlaneOf(4 * tile.width * channels));
+int64_t RoomFor(const Tile& tile, int channels) {
+  const int64_t columns = PlaneOf(int64_t{4} * tile.width), samples = PlaneOf(int64_t{4} * tile.width * channels);
+  return PlaneOf(int64_t{4} * tile.height) + columns + 2 * samples;
 }
 
 // In integers, a row of sums at a time. False where there is no room for one, or the tile is narrower than a vector.
@@ -220,7 +220,7 @@ bool ResizeWhole(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   if (tile.width < AreaColumns::Fewest(channels)) return false;
   const AreaColumns columns(record, tile, channels);
   auto* sums = reinterpret_cast<uint16_t*>(AtBoundary(call.buffer));
-  if (columns.RowSamples() * ptrdiff_t{sizeof(*sums)} > RoomFor(tile, channels)) return false;
+  if (columns.RowSamples() * int64_t{sizeof(*sums)} > RoomFor(tile, channels)) return false;
   const Period down(record, record.rows);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
     const ptrdiff_t row = tile.y + y;

@@ -76,7 +76,7 @@ class TapColumns : public FixedColumns {
   template <int kLoads, int kChannels, size_t kRows, bool kHasAll>
   void FilterPairs(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
     taps.count == 4 ? FilterAll<kLoads, kChannels, 2, kRows, kHasAll>(rows, out)
-                     : FilterAll<kLoads, kChannels, 3, kRows, kHasAll>(rows, out);
+                    : FilterAll<kLoads, kChannels, 3, kRows, kHasAll>(rows, out);
   }
 
   // The weights of the taps' pair k for the samples from `start` on.
@@ -141,7 +141,7 @@ class TapColumns : public FixedColumns {
   ptrdiff_t plane_;
   const int16_t* weights_;
   int32_t pixelOf_[3 * kSamples];  // of the lanes of a vector that begins at each channel of a pixel
-  bool hasAll_ = false;  // whether one load has all taps of its outputs
+  bool hasAll_ = false;            // whether one load has all taps of its outputs
 };
 
 template <int kPairs>

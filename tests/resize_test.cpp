@@ -437,6 +437,44 @@ TEST(Resize, LinearBytesAreExact) {
   }
 }
 
+// Averages of bytes are the nearest to the exact ones: of odd parts of areas there are no ties, of powers of two they
+// go to even.
+TEST(Resize, AveragesOfBytesAreExact) {
+  const QvpiSize ratios[] = {{5, 3}, {3, 2}, {3, 1}, {7, 5}, {13, 3}, {15, 13}, {2, 1}, {4, 1}, {1, 1}};
+  for (const QvpiSize across : ratios) {
+    for (const QvpiSize down : ratios) {
+      const int parts = across.width * down.width;
+      if (parts % 2 == 0 && (across.height > 1 || down.height > 1 || (parts & (parts - 1)) != 0)) continue;
+      const QvpiSize from{19 * across.width, 2 * down.width}, to{19 * across.height, 2 * down.height};
+      for (const char* layout : {"Super_8u_C1", "Super_8u_C3", "Super_8u_C4"}) {
+        const Member& member = Find(layout);
+        const Record record(kSuper, Kind::k8u, from, to);
+        const Source src(member, from, 0, 1);
+        const test::Image<uint8_t> dst = Resized(member, record, src, to, 0);
+        for (int y = 0; y < to.height; ++y) {
+          for (int i = 0; i < to.width * member.channels; ++i) {
+            const double exact = Reference(kSuper, src, from, to, 0, {}, i / member.channels, y, i % member.channels);
+            ASSERT_EQ(dst(i, y), std::nearbyint(exact)) << layout << ' ' << across.width << ':' << across.height << ' '
+                                                        << down.width << ':' << down.height << " at " << i << ',' << y;
+          }
+        }
+      }
+    }
+  }
+}
+
+// Rows that the floating-point kernels take in several pieces.
+TEST(Resize, WideRows) {
+  for (const char* type : {"_8u", "_16u", "_16s", "_32f"}) {
+    for (const char* layout : {"_C1", "_C3", "_C4"}) {
+      for (const Method& m : {kSmoothLinear, kSmoothCubic, kSharp, kLanczos3}) {
+        Check(m, Find(m.name + type + layout), {900, 7}, {230, 3}, qvpBorderMirror);
+      }
+      Check(kSuper, Find(kSuper.name + type + layout), {2800, 4}, {1999, 3});
+    }
+  }
+}
+
 // A tile from a copy of nothing but its source rectangle and the border around it that lies in the image.
 void CheckTile(const Member& member, const Record& record, const Source& src, QvpiSize from,
                const test::Image<uint8_t>& whole, QvpiRect tile, int border) {

@@ -1,18 +1,11 @@
-#include <algorithm>
-
+#include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
 
 namespace test {
 namespace {
 
-constexpr ptrdiff_t kLargestPixel = 32, kRoom = 1 << 18;
+constexpr ptrdiff_t kRoom = 1 << 18;
 
-bool Has(const Scene& scene, const char* part) { return scene.function().name.find(part) != std::string::npos; }
-bool IsWide(const Scene& scene) { return scene.function().name.ends_with("_L"); }
-bool IsDouble(const Scene& scene) { return Has(scene, "_64f"); }
-
-// Large enough for every method, and reduced, as super-sampling asks.
-QvpiSize SourceSize(const Scene& scene) { return {std::max(scene.roi().width, 7), std::max(scene.roi().height, 7)}; }
 QvpiSize TargetSize(const Scene& scene) {
   const QvpiSize from = SourceSize(scene);
   return {from.width * 3 / 5, from.height * 2 / 3};
@@ -58,26 +51,6 @@ const void* Record(Scene& scene) {
   if (Has(scene, "SetMode"))
     return qvpiResizeLinearInit_8u(SourceSize(scene), TargetSize(scene), spec) < 0 ? nullptr : spec;
   return Init(scene, spec) < 0 ? nullptr : spec;
-}
-
-// Finite numbers: which of several NaNs comes out of a sum is nobody's promise.
-template <class T>
-void PutNumbers(Scene& scene, uint8_t* bytes, ptrdiff_t size) {
-  for (ptrdiff_t i = 0; i + ptrdiff_t{sizeof(T)} <= size; i += sizeof(T)) {
-    const T value = static_cast<T>(static_cast<int32_t>(scene.random().Next())) / 65536;
-    std::memcpy(bytes + i, &value, sizeof(T));
-  }
-}
-
-ptrdiff_t StepOf(QvpiSize size, int more) { return size.width * kLargestPixel + more; }
-
-const void* Source(Scene& scene) {
-  const QvpiSize size = SourceSize(scene);
-  const ptrdiff_t bytes = StepOf(size, 8) * size.height;
-  uint8_t* data = scene.Input(bytes);
-  if (IsDouble(scene)) PutNumbers<double>(scene, data, bytes);
-  if (Has(scene, "_32f")) PutNumbers<float>(scene, data, bytes);
-  return data;
 }
 
 }  // namespace

@@ -1,18 +1,13 @@
-#include <algorithm>
-
+#include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
 
 namespace test {
 namespace {
 
-constexpr ptrdiff_t kLargestPixel = 32, kRoom = 4096;
+constexpr ptrdiff_t kRoom = 4096;
 constexpr double kMatrix[3][3] = {{0.9, 0.3, -1.5}, {-0.25, 1.1, 1.25}, {0.001, -0.002, 1}};
 constexpr double kBilinear[2][4] = {{0.01, 0.9, 0.3, -1.5}, {0.02, -0.25, 1.1, 1.25}};
 constexpr double kFrom[4][2] = {{0, 0}, {5, 1}, {6, 6}, {-1, 4}}, kTo[4][2] = {{1, 0}, {30, 1}, {36, 4}, {2, 5}};
-
-bool Has(const Scene& scene, const char* part) { return scene.function().name.find(part) != std::string::npos; }
-bool IsWide(const Scene& scene) { return scene.function().name.ends_with("_L"); }
-bool IsDouble(const Scene& scene) { return Has(scene, "_64f"); }
 
 QvpDataType TypeOf(const Scene& scene) {
   return Has(scene, "_8u")    ? qvp8u
@@ -22,8 +17,6 @@ QvpDataType TypeOf(const Scene& scene) {
                               : qvp32f;
 }
 int ChannelsOf(const Scene& scene) { return Has(scene, "_C4R") ? 4 : Has(scene, "_C3R") ? 3 : 1; }
-
-QvpiSize SourceSize(const Scene& scene) { return {std::max(scene.roi().width, 7), std::max(scene.roi().height, 7)}; }
 
 // A record for the call, made by the Init that belongs to the function's name.
 QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
@@ -46,26 +39,6 @@ QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   if (Has(scene, "PerspectiveNearest")) return INIT(Perspective, Nearest, BORDER);
   if (Has(scene, "PerspectiveLinear")) return INIT(Perspective, Linear, BORDER);
   return INIT(Affine, Linear, BORDER);
-}
-
-template <class T>
-void PutNumbers(Scene& scene, uint8_t* bytes, ptrdiff_t size, double scale) {
-  for (ptrdiff_t i = 0; i + ptrdiff_t{sizeof(T)} <= size; i += sizeof(T)) {
-    const T value = static_cast<T>(static_cast<int32_t>(scene.random().Next()) * scale);
-    std::memcpy(bytes + i, &value, sizeof(T));
-  }
-}
-
-ptrdiff_t StepOf(QvpiSize size, int more) { return size.width * kLargestPixel + more; }
-
-// Finite numbers: which of several NaNs comes out of a sum is nobody's promise.
-const void* Source(Scene& scene) {
-  const QvpiSize size = SourceSize(scene);
-  const ptrdiff_t bytes = StepOf(size, 8) * size.height;
-  uint8_t* data = scene.Input(bytes);
-  if (IsDouble(scene)) PutNumbers<double>(scene, data, bytes, 1.0 / 65536);
-  if (Has(scene, "_32f")) PutNumbers<float>(scene, data, bytes, 1.0 / 65536);
-  return data;
 }
 
 // Points in the image and around it.
