@@ -119,10 +119,11 @@ HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<D>& co
   }
 }
 
-// Places n points, and repeats the last one up to a whole vector of bytes. A loop of its own: together with the one
-// over the taps it would be a longer chain than a CPU can overlap with the next one.
+// Points that are placed at once, for results that fill a vector of bytes.
 inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
 
+// Places n points, and repeats the last one up to a multiple of kWhole. A loop of its own: together with the one
+// over the taps it would be a longer chain than a CPU can overlap with the next one.
 template <int kTaps, int kPixelBytes, class W, class Points>
 void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
   const hn::ScalableTag<W> d;

@@ -20,7 +20,8 @@ int64_t PixelOf(double x) {
   const int64_t whole = WholeBelow(x);
   return kTaps == 1 && x - static_cast<double>(whole) >= 0.5 ? whole + 1 : whole;
 }
-enum class Fate : uint8_t { kSkipped, kInterior, kAtBorder, kConstant };
+
+enum class Fate : uint8_t { kSkipped, kAtBorder, kConstant };
 
 // What becomes of one point. At the border: its first tap. `share` of a point outside smooth bounds is below 1.
 struct Verdict {
