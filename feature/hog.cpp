@@ -10,6 +10,7 @@
 #include "base/lanes.h"
 #include "feature/hog_record.h"
 #include "qvpi.h"
+#include "signal/arc_tangent.h"
 
 namespace {
 using namespace qvp;
@@ -80,17 +81,6 @@ struct Votes {
 };
 
 using V = hn::Vec<Floats>;
-
-// a t + b t^3 + ... for the arc tangent of t in [0, 1], an error of 3e-6: interpolated at the Chebyshev nodes of t^2.
-HWY_INLINE V ArcTangent(V t) {
-  const Floats d;
-  constexpr float kTerms[] = {0x1.ffff52p-1f,  -0x1.54f2b6p-2f, 0x1.9011ep-3f,
-                              -0x1.ed5b7ep-4f, 0x1.cf95ccp-5f,  -0x1.ae41ap-7f};
-  const V t2 = hn::Mul(t, t);
-  V sum = hn::Set(d, kTerms[5]);
-  for (int i = 4; i >= 0; --i) sum = hn::Add(hn::Mul(sum, t2), hn::Set(d, kTerms[i]));
-  return hn::Mul(sum, t);
-}
 
 // The direction of a gradient in [0, pi], whatever its sense. The ends are the same direction: no gradient, and any
 // along the rows, may have either. Gradients that the quotient leaves out have no magnitude.

@@ -154,6 +154,56 @@ class Columns {
   std::array<Piece, kMost> pieces_;
 };
 
+// Sixteen bytes at one end of each row: the border and what of the source is beside it, by one shuffle.
+struct RowEnd {
+  ptrdiff_t to, from;  // bytes from the first pixel of the source
+  alignas(kBlockBytes) std::array<uint8_t, kBlockBytes> index;
+
+  HWY_INLINE hn::Vec<Block> Of(const uint8_t* row) const {
+    return hn::TableLookupBytes(hn::LoadU(Block(), row + from), hn::Load(Block(), index.data()));
+  }
+};
+
+// The end that begins `skipped` bytes into pixel `x`. False if its sources do not lie within 16 bytes.
+bool MakeRowEnd(const Border& border, ptrdiff_t x, int skipped, RowEnd& end) {
+  ptrdiff_t source[kBlockBytes], low = border.RowBytes() - kBlockBytes, high = 0;
+  end.to = x * border.pixelBytes + skipped;
+  for (int i = -skipped; i < kBlockBytes; ++x) {
+    ptrdiff_t from = BorderPosition(border.kind, x, {0, border.width}) * border.pixelBytes;
+    for (int k = 0; k < border.pixelBytes && i < kBlockBytes; ++k, ++i, ++from) {
+      if (i < 0) continue;
+      source[i] = from;
+      low = std::min(low, from);
+      high = std::max(high, from);
+    }
+  }
+  end.from = low;
+  for (int i = 0; i < kBlockBytes; ++i) end.index[i] = static_cast<uint8_t>(source[i] - low);
+  return high - low < kBlockBytes;
+}
+
+// Rows whose borders are narrow and near to their sources: a copy and two stores each. False, and nothing is written,
+// if these are not.
+bool CopyWithEnds(const Border& border, const Frame& frame, const Bytes& dst) {
+  const int pixels = (kBlockBytes + border.pixelBytes - 1) / border.pixelBytes;
+  const ptrdiff_t widest = std::max(frame.left, frame.right());
+  if (border.RowBytes() < kBlockBytes || widest > kBlockBytes / border.pixelBytes) return false;
+  RowEnd left, right;
+  if (!MakeRowEnd(border, -frame.left, 0, left) ||
+      !MakeRowEnd(border, border.span + frame.right() - pixels, pixels * border.pixelBytes - kBlockBytes, right)) {
+    return false;
+  }
+  const ptrdiff_t bytes = border.RowBytes(), step = border.step, dstStep = dst.step;
+  const uint8_t* row = border.pixels;
+  uint8_t* to = dst.data;
+  for (ptrdiff_t y = 0; y < frame.src.height; ++y, row += step, to += dstStep) {
+    CopyBytes(row, to, bytes);
+    hn::StoreU(left.Of(row), Block(), to + left.to);
+    hn::StoreU(right.Of(row), Block(), to + right.to);
+  }
+  return true;
+}
+
 // Three channels of four, or else all bytes. The sizes hold pixels, so no check of the callee's can fail.
 void CopyPixels(const ConstBytes& src, const Bytes& dst, Size size) {
   const QvpiSizeL roi{size.width, size.height};
@@ -216,6 +266,7 @@ void WriteSourceRows(const ConstBytes& src, const Border& border, const Bytes& d
   const bool isLarge = static_cast<int64_t>(dst.RowBytes(frame.dst.width)) * frame.dst.height > kLargeBytes;
   const bool isCopied = src.data != dst.data, isApart = isLarge || KeepsAlpha(dst.layout);
   if (isCopied && isApart) CopyPixels(src, dst, frame.src);
+  if (isCopied && !isApart && border.pixels == src.data && CopyWithEnds(border, frame, dst)) return;
   ptrdiff_t copied = isCopied && !isApart ? dst.RowBytes(frame.src.width) : 0;
   Columns columns(border, frame.left, frame.right());
   while (columns.Next() || copied > 0) {

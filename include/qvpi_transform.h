@@ -7,8 +7,8 @@
  *
  *      X(u, v) = sum over r < H, c < W of x(r, c) e^(-2 pi i (u c / W + v r / H))
  *
- *  and the inverse one is the same sum with the opposite sign in the exponent. A normalisation flag tells by which factor
- *  the results are multiplied, once for each of the two passes; N is the length of the pass, W or H:
+ *  and the inverse one is the same sum with the opposite sign in the exponent. A normalisation flag tells by which
+ *  factor the results are multiplied, once for each of the two passes; N is the length of the pass, W or H:
  *
  *  | flag | forward    | inverse    |
  *  |------|------------|------------|
@@ -43,7 +43,8 @@ extern "C" {
 /** @name FFT: sizes */
 /** @{ */
 /**
- *  Tells the sizes of what a transform of images whose sides are powers of two needs: a record, memory for its initialisation, and a work buffer.
+ *  Tells the sizes of what a transform of images whose sides are powers of two needs: a record, memory for its
+ *  initialisation, and a work buffer.
  *
  *  Every size has 64 bytes to spare, so memory of any alignment will do.
  *
@@ -93,13 +94,13 @@ QvpStatus qvpiFFTInit_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm 
 /** @name FFT: forward, real */
 /** @{ */
 /**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays.
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+ *  channel of the destination stays.
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision.
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision.
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -124,8 +125,8 @@ QvpStatus qvpiFFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 /** @name FFT: forward, real, in place */
 /** @{ */
 /**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays. In place.
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+ *  channel of the destination stays. In place.
  *
  *  @param pSrcDst source and destination
  *  @param srcDstStep bytes between rows
@@ -148,13 +149,13 @@ QvpStatus qvpiFFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
 /** @name FFT: inverse, real */
 /** @{ */
 /**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays.
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+ *  of the destination stays.
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision.
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision.
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -179,8 +180,8 @@ QvpStatus qvpiFFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 /** @name FFT: inverse, real, in place */
 /** @{ */
 /**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays. In place.
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+ *  of the destination stays. In place.
  *
  *  @param pSrcDst source and destination
  *  @param srcDstStep bytes between rows
@@ -207,8 +208,8 @@ QvpStatus qvpiFFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision.
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision.
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -254,8 +255,8 @@ QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision.
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision.
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -297,7 +298,8 @@ QvpStatus qvpiFFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
 /** @name DFT: sizes */
 /** @{ */
 /**
- *  Tells the sizes of what a transform of images of any size needs: a record, memory for its initialisation, and a work buffer.
+ *  Tells the sizes of what a transform of images of any size needs: a record, memory for its initialisation, and a
+ *  work buffer.
  *
  *  Every size has 64 bytes to spare, so memory of any alignment will do.
  *
@@ -344,13 +346,13 @@ QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, 
 /** @name DFT: forward, real */
 /** @{ */
 /**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays.
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+ *  channel of the destination stays.
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -375,8 +377,8 @@ QvpStatus qvpiDFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 /** @name DFT: forward, real, in place */
 /** @{ */
 /**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays. In place.
+ *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+ *  channel of the destination stays. In place.
  *
  *  @param pSrcDst source and destination
  *  @param srcDstStep bytes between rows
@@ -399,13 +401,13 @@ QvpStatus qvpiDFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
 /** @name DFT: inverse, real */
 /** @{ */
 /**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays.
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+ *  of the destination stays.
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -430,8 +432,8 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 /** @name DFT: inverse, real, in place */
 /** @{ */
 /**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel of
- *  the destination stays. In place.
+ *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+ *  of the destination stays. In place.
  *
  *  @param pSrcDst source and destination
  *  @param srcDstStep bytes between rows
@@ -458,8 +460,8 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -505,8 +507,8 @@ QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with factors
- *  that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -548,9 +550,11 @@ QvpStatus qvpiDFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
 /** @name MulPack */
 /** @{ */
 /**
- *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real numbers.
+ *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real
+ *  numbers.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too. The destination may be either source.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too. The destination may be either source.
  *
  *  @param pSrc1 first spectrum, a
  *  @param src1Step bytes between its rows
@@ -574,9 +578,11 @@ QvpStatus qvpiMulPack_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* 
 /** @name MulPack, in place */
 /** @{ */
 /**
- *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real numbers.
+ *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real
+ *  numbers.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too.
  *
  *  @param pSrc first spectrum, a
  *  @param srcStep bytes between its rows
@@ -598,9 +604,11 @@ QvpStatus qvpiMulPack_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst
 /** @name MulPackConj */
 /** @{ */
 /**
- *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real numbers.
+ *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real
+ *  numbers.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too. The destination may be either source.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too. The destination may be either source.
  *
  *  @param pSrc1 first spectrum, a
  *  @param src1Step bytes between its rows
@@ -624,9 +632,11 @@ QvpStatus qvpiMulPackConj_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp3
 /** @name MulPackConj, in place */
 /** @{ */
 /**
- *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real numbers.
+ *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real
+ *  numbers.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too.
  *
  *  @param pSrc first spectrum, a
  *  @param srcStep bytes between its rows
@@ -669,7 +679,8 @@ QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, 
  *  Magnitudes |X| of a packed spectrum, computed in double precision and rounded to the nearest float.
  *
  *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too.
  *
  *  @param pSrc packed spectrum
  *  @param srcStep bytes between its rows
@@ -692,11 +703,12 @@ QvpStatus qvpiMagnitudePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
 /** @name PhasePack */
 /** @{ */
 /**
- *  Phases of a packed spectrum in (-pi, pi]: the angle of X(u, v), computed in double precision and rounded to float. That
- *  of 0 is 0, that of negative real numbers pi.
+ *  Phases of a packed spectrum in (-pi, pi]: the angle of X(u, v), computed in double precision and rounded to float.
+ *  That of 0 is 0, that of negative real numbers pi.
  *
  *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
+ *  ones too.
  *
  *  @param pSrc packed spectrum
  *  @param srcStep bytes between its rows
@@ -737,8 +749,8 @@ QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
 /** @name CplxExtendToPack */
 /** @{ */
 /**
- *  Packs the spectrum of a real image: what the packed spectrum stores is taken from the complex one, the mirrored half of
- *  that is not looked at.
+ *  Packs the spectrum of a real image: what the packed spectrum stores is taken from the complex one, the mirrored
+ *  half of that is not looked at.
  *
  *  @param pSrc complex spectrum, X(u, v) in row v and column u
  *  @param srcStep bytes between its rows

@@ -239,13 +239,17 @@ void ScatterLines(const DftPlan& plan, Direction direction, const float* block, 
   Scatter<kLines>(block, scale, dst, 0, plan.length, realPart);
 }
 
+// The last pass writes pieces of 16 bytes at as many places of each line as it has factors. Of lines this long these
+// places share sets of the first-level cache, and their pieces would leave it one by one.
+constexpr int64_t kLongLine = 1024;
+
 // Whether the first pass can read the lines, and whether the last one can write them: packed spectra are no numbers in
 // order.
 Passes LinePassesInBlock(const DftPlan& plan, Direction direction, ptrdiff_t srcStride, ptrdiff_t dstStride) {
   const bool isReal = plan.kind == DftKind::kReal, isForward = direction == Direction::kForward;
   const bool isInOrder = plan.kind == DftKind::kComplex || plan.length % 2 == 0;
   return {!isInOrder || (isReal && !isForward) || !HasLineEnds(plan, srcStride),
-          !isInOrder || (isReal && isForward) || plan.complexLength >= 1024 || !HasLineEnds(plan, dstStride)};
+          !isInOrder || (isReal && isForward) || plan.complexLength >= kLongLine || !HasLineEnds(plan, dstStride)};
 }
 
 template <Direction kDirection>

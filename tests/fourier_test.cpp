@@ -173,6 +173,47 @@ TEST(Fourier, EqualsItsDefinitionForLargerAndPrimeSizes) {
   }
 }
 
+TEST(Fourier, KeepsThePowerOfAnImage) {  // Parseval's theorem, at sizes whose definition would take too long
+  for (const QvpiSize s : {QvpiSize{512, 256}, {509, 120}, {96, 1000}, {1021, 64}}) {
+    const ComplexPlan plan = ComplexOf(s, 4);
+    test::Image<float> image(2 * s.width, s.height, 5), spectrum(2 * s.width, s.height, 3);
+    Fill(image, 2 * s.width, s.height);
+    const auto in = reinterpret_cast<const Qvp32fc*>(image.data());
+    const auto out = reinterpret_cast<Qvp32fc*>(spectrum.data());
+    ASSERT_EQ(qvpiDFTFwd_CToC_32fc_C1R(in, image.step(), out, spectrum.step(), plan.spec(), plan.work()), 0);
+    double before = 0, after = 0;
+    for (int i = 0; i < 2 * s.width * s.height; ++i) {
+      const int x = i % (2 * s.width), y = i / (2 * s.width);
+      before += std::pow(image(x, y), 2);
+      after += std::pow(spectrum(x, y), 2);
+    }
+    EXPECT_NEAR(after / before, 1, 1e-5) << s.width << 'x' << s.height;
+  }
+}
+
+// Lines and channels go through the transform side by side in the lanes of vectors.
+TEST(Fourier, SpreadsNaNOverItsOwnChannelOnly) {
+  for (const QvpiSize s : {QvpiSize{32, 16}, {30, 21}, {17, 8}}) {
+    const RealPlan plan = RealOf(s, 8);
+    test::Image<float> image(3 * s.width, s.height, 5), clean(3 * s.width, s.height, 1), out(clean);
+    Fill(image, 3 * s.width, s.height);
+    const auto transform = [&](test::Image<float>& to) {
+      return qvpiDFTFwd_RToPack_32f_C3R(image.data(), image.step(), to.data(), to.step(), plan.spec(), plan.work());
+    };
+    ASSERT_EQ(transform(clean), 0);
+    image.Put(3 * (s.width - 2) + 1, s.height / 2, std::numeric_limits<float>::quiet_NaN());
+    ASSERT_EQ(transform(out), 0);
+    for (int i = 0; i < 3 * s.width * s.height; ++i) {
+      const int x = i % (3 * s.width), y = i / (3 * s.width);
+      if (x % 3 == 1) {
+        ASSERT_TRUE(std::isnan(out(x, y))) << x << ',' << y;
+      } else {
+        ASSERT_EQ(std::bit_cast<uint32_t>(out(x, y)), std::bit_cast<uint32_t>(clean(x, y))) << x << ',' << y;
+      }
+    }
+  }
+}
+
 // Lengths whose lines are transformed one by one; a cosine has one frequency.
 TEST(Fourier, TransformsLongLines) {
   for (const QvpiSize s : {QvpiSize{1 << 18, 1}, {2 * 65537, 2}, {1, 65539}}) {

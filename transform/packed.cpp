@@ -8,6 +8,7 @@
 #include "base/export.h"
 #include "base/record.h"
 #include "base/simd.h"
+#include "signal/arc_tangent.h"
 
 namespace {
 using namespace qvp;
@@ -111,17 +112,6 @@ struct Magnitude {
   }
 };
 
-// The arc tangent of t in [0, 1] to a part in 2^34: interpolated at the Chebyshev nodes of t^2.
-double ArcTangent(double t) {
-  constexpr double kTerms[] = {0x1.fffffffffc08dp-1, -0x1.555555492919bp-2, 0x1.999993588be50p-3, -0x1.2491a58a84f79p-3,
-                               0x1.c70acca583a29p-4, -0x1.73c9222b3c105p-4, 0x1.37e13200ba7bdp-4, -0x1.04c14d1e62a91p-4,
-                               0x1.9d54f58e6c973p-5, -0x1.20e9b1c6f031fp-5, 0x1.46a78dbcea834p-6, -0x1.0e11e58ae3a43p-7,
-                               0x1.1b7b1996eeccdp-9, -0x1.178d203700392p-12};
-  double sum = 0;
-  for (int i = 13; i >= 0; --i) sum = sum * (t * t) + kTerms[i];
-  return sum * t;
-}
-
 // In (-pi, pi], that of 0 is 0. A zero has no sign, so that both ends of a real number's pair get the same.
 struct Phase {
   float operator()(Number x) const {
@@ -130,7 +120,8 @@ struct Phase {
     const double re = std::min(std::fabs(static_cast<double>(x.re)), kLargest);
     const double im = std::min(std::fabs(static_cast<double>(x.im)), kLargest);
     const double longer = std::max(re, im);
-    double angle = longer > 0 ? ArcTangent(std::min(re, im) / longer) : 0;
+    const hn::FixedTag<double, 2> d;
+    double angle = longer > 0 ? hn::GetLane(ArcTangent(hn::Set(d, std::min(re, im) / longer))) : 0;
     if (im > re) angle = kPi / 2 - angle;
     if (x.re < 0) angle = kPi - angle;
     return static_cast<float>(x.im < 0 ? -angle : angle);
