@@ -268,13 +268,13 @@ class PixelRows {
 // From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
 inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
 
-// kColumns columns from x on. `staged` is where the pixel at position 0 would be.
+// kColumns columns from x on. The pixel at position `base` is the first that is staged.
 template <int kColumns, class D, class T, class Weights>
 HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const float* staged,
-                             const PixelRows<D, T>& rows) {
+                             ptrdiff_t base, const PixelRows<D, T>& rows) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   const float* first[kColumns];
-  for (int i = 0; i < kColumns; ++i) first[i] = staged + taps.first[x + i] * kLanes;
+  for (int i = 0; i < kColumns; ++i) first[i] = staged + (taps.first[x + i] - base) * kLanes;
   const auto pixel = [&](int i, int k) HWY_ATTR { return hn::Load(d, first[i] + k * kLanes); };
   hn::Vec<D> sums[kColumns];
   FilterPixels<kColumns>(d, taps, weights, x, pixel, sums);
@@ -291,8 +291,8 @@ void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weight
     while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
     for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
-    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged - base * kLanes, rows);
-    for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged - base * kLanes, rows);
+    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged, base, rows);
+    for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged, base, rows);
   }
 }
 
