@@ -1,36 +1,10 @@
 // Copies into a border, and the general filter.
-#include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
-#include "bench/support.h"
-#include "qvpi.h"
+#include "bench/image.h"
 
 namespace {
 using namespace bench;
-
-constexpr QvpiSize kTile{64, 64}, kVga{640, 480}, kHd{1920, 1080};
-
-std::string Name(const std::string& what, QvpiSize size) {
-  return what + " " + std::to_string(size.width) + "x" + std::to_string(size.height);
-}
-
-// An image of ours and the same memory as a matrix of the peer.
-template <class T>
-struct Image {
-  std::shared_ptr<T[]> pixels;
-  int step;
-  QvpiSize size;
-  mutable cv::Mat mat;
-
-  Image(QvpiSize s, int channels)
-      : pixels(Pixels<T>(size_t{1} * s.width * s.height * channels)),
-        step(s.width * channels * int{sizeof(T)}),
-        size(s),
-        mat(s.height, s.width, CV_MAKETYPE(cv::DataType<T>::depth, channels), pixels.get()) {}
-
-  T* data() const { return pixels.get(); }
-  size_t bytes() const { return size_t{1} * step * size.height; }
-};
 
 void ReplicatedBorder(QvpiSize size, double atLeast) {
   constexpr int kBorder = 4;

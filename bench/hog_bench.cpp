@@ -73,7 +73,7 @@ void RequireAgreement(const Image<uint8_t>& image) {
 template <class Call>
 void AddRow(const std::string& name, const Image<uint8_t>& image, double atLeast, Call call) {
   const Describer d(image.size, 4);
-  Add({Name(name.c_str(), image.size),
+  Add({Name(name, image.size),
        {image.bytes(), d.length * sizeof(float)},
        [=] { Describe(d, image, call); },
        {{"OpenCV HOGDescriptor::compute",

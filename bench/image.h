@@ -28,8 +28,8 @@ struct Image {
 
 inline constexpr QvpiSize kTile{64, 64}, kVga{640, 480}, kHd{1920, 1080}, kLarge{8000, 6000};
 
-inline std::string Name(const char* what, QvpiSize size) {
-  return std::string(what) + " " + std::to_string(size.width) + "x" + std::to_string(size.height);
+inline std::string Name(const std::string& what, QvpiSize size) {
+  return what + " " + std::to_string(size.width) + "x" + std::to_string(size.height);
 }
 
 }  // namespace bench

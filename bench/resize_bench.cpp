@@ -2,16 +2,12 @@
 #include <libyuv.h>
 #include <vips/vips.h>
 
-#include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
-#include "bench/support.h"
-#include "qvpi.h"
+#include "bench/image.h"
 
 namespace {
 using namespace bench;
-
-constexpr QvpiSize kHd{1920, 1080}, kTile{64, 64};
 
 // One case: images of both libraries over the same memory, a record and a work buffer.
 template <class T>
