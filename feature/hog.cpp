@@ -240,8 +240,8 @@ class TwoPixels {
     const auto weight = hn::LoadDup128(d, reinterpret_cast<const float*>(weights));
     if constexpr (hn::MaxLanes(D()) == kRowFloats) {
       constexpr int kLower = 2 * kPixel, kUpper = kLower + 1;
-      HWY_ALIGN static constexpr int32_t kLanes[] = {kLower, kLower, kLower, kLower, kUpper, kUpper, kUpper, kUpper};
-      const auto both = hn::TableLookupLanes(hn::ZeroExtendVector(d, shares_), hn::SetTableIndices(d, kLanes));
+      HWY_ALIGN static constexpr int32_t kOrder[] = {kLower, kLower, kLower, kLower, kUpper, kUpper, kUpper, kUpper};
+      const auto both = hn::TableLookupLanes(hn::ZeroExtendVector(d, shares_), hn::SetTableIndices(d, kOrder));
       hn::Store(hn::Add(hn::Load(d, row), hn::Mul(weight, both)), d, row);
     } else {
       const auto lower = hn::Broadcast<2 * kPixel>(shares_), upper = hn::Broadcast<2 * kPixel + 1>(shares_);
