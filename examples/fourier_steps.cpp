@@ -88,7 +88,7 @@ void FourierSteps(Demo& demo) {
   demo.Time(size, 4 + 4,
             CALL(qvpiDFTFwd_RToPack_32f_C1R, green.data(), green.step(), spectrum.data(), spectrum.step(),
                  transform.spec(), transform.buffer()));
-  demo.Show("Spectrum, logarithm of the magnitude", LogMagnitude(demo, spectrum));
+  demo.Show("Spectrum, log of the magnitude", LogMagnitude(demo, spectrum));
   const Plane lowPass = LowPass(size, 24);
   demo.Time(size, 4 + 4 + 4,
             CALL(qvpiMulPack_32f_C1R, lowPass.data(), lowPass.step(), spectrum.data(), spectrum.step(), passed.data(),
