@@ -81,19 +81,19 @@ void Time(const std::string& name, std::function<void()> call) {
   });
 }
 
+// What limits are measured with: two buffers for all rows, made when these are known and before any is timed.
 size_t largest = 0;  // bytes that a row reads or writes
+std::shared_ptr<uint8_t[]> scratch[2];
 
-// What limits are measured with, made when the first one is.
-uint8_t* Scratch(int which) {
-  static const std::shared_ptr<uint8_t[]> buffers[] = {Pixels<uint8_t>(largest + 64), Pixels<uint8_t>(largest + 64)};
-  return buffers[which].get();
+void MakeScratch() {
+  for (auto& buffer : scratch) buffer = Pixels<uint8_t>(largest + 64);
 }
 
 void AddLimits(const std::string& name, Traffic traffic) {
   const size_t written = traffic.writes + traffic.updates;
   largest = std::max({largest, size_t{traffic.reads}, written});
-  Time(name + "/limit", [=] { Limit<false>(Scratch(0), Scratch(1), traffic); });
-  if (written > 0) Time(name + "/limit streaming", [=] { Limit<true>(Scratch(0), Scratch(1), traffic); });
+  Time(name + "/limit", [=] { Limit<false>(scratch[0].get(), scratch[1].get(), traffic); });
+  if (written > 0) Time(name + "/limit streaming", [=] { Limit<true>(scratch[0].get(), scratch[1].get(), traffic); });
 }
 
 // The four classic rates, in and out of cache.
@@ -162,6 +162,7 @@ void Add(Row row) {
 int main(int argc, char** argv) {
   cv::setNumThreads(1);
   bench::AddMachineLimits();
+  bench::MakeScratch();
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
 }
