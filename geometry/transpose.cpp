@@ -27,12 +27,15 @@ struct Unit {
 };
 
 // One block from each of as many places as a vector has blocks, `stride` bytes apart.
-HWY_INLINE hn::Vec<Block> LoadBlocks(Block d, const uint8_t* from, ptrdiff_t) { return hn::LoadU(d, from); }
 template <class D>
 HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* from, ptrdiff_t stride) {
-  const hn::Half<D> half;
-  const ptrdiff_t halfBlocks = hn::MaxLanes(half) / kBlockBytes;
-  return hn::Combine(d, LoadBlocks(half, from + halfBlocks * stride, stride), LoadBlocks(half, from, stride));
+  if constexpr (hn::MaxLanes(D()) == kBlockBytes) {
+    return hn::LoadU(d, from);
+  } else {
+    const hn::Half<D> half;
+    const ptrdiff_t halfBlocks = hn::MaxLanes(half) / kBlockBytes;
+    return hn::Combine(d, LoadBlocks(half, from + halfBlocks * stride, stride), LoadBlocks(half, from, stride));
+  }
 }
 
 // In each block, lane j of vector i becomes lane i of vector j. Every round interleaves the two halves of the vectors.

@@ -2,7 +2,7 @@
 // rounds alike, so that all of them give the same bits.
 #pragma once
 
-#include <iterator>
+#include <array>
 #include <limits>
 
 #include "base/simd.h"

@@ -230,6 +230,7 @@ TEST(Warp, ReadsSidesInMemory) {
 }
 
 // Rows begin and end up to two pixels outside, so that all shares occur, on the left, the right and at the corners.
+// Integers are rounded twice: the value, whose ties may fall either way, and what is mixed.
 template <class T, int kChannels>
 void CheckSmoothEdges(QvpDataType type, double tolerance) {
   const QvpiSize size{5, 6}, to{24, 9};
@@ -257,9 +258,9 @@ void CheckSmoothEdges(QvpDataType type, double tolerance) {
 }
 
 TEST(Warp, BlendsSmoothEdges) {
-  CheckSmoothEdges<uint8_t, 3>(qvp8u, 1);
-  CheckSmoothEdges<uint16_t, 1>(qvp16u, 1);
-  CheckSmoothEdges<int16_t, 4>(qvp16s, 1);
+  CheckSmoothEdges<uint8_t, 3>(qvp8u, 1.5);
+  CheckSmoothEdges<uint16_t, 1>(qvp16u, 1.5);
+  CheckSmoothEdges<int16_t, 4>(qvp16s, 1.5);
   CheckSmoothEdges<float, 3>(qvp32f, 2e-3);
   CheckSmoothEdges<double, 1>(qvp64f, 1e-9);
 }
