@@ -64,7 +64,8 @@ constexpr ptrdiff_t BorderPosition(BorderKind kind, ptrdiff_t i, Extent extent) 
   if (kind == BorderKind::kConst || kind == BorderKind::kTransparent) return kOutside;
   if (kind == BorderKind::kMirror || kind == BorderKind::kWrap) {
     const ptrdiff_t period = kind == BorderKind::kWrap ? n : std::max<ptrdiff_t>(2 * n - 2, 1);
-    ptrdiff_t t = (i - extent.begin) % period;
+    ptrdiff_t t = i - extent.begin;
+    if (t < -period || t >= period) t %= period;  // few are so far away that they need a division
     if (t < 0) t += period;
     return extent.begin + (t < n ? t : period - t);
   }

@@ -1,4 +1,4 @@
-// The repetition of one pixel along a row, whatever its type and layout.
+// Fills with one pixel, whatever its type and layout, and its repetition along a row.
 #pragma once
 
 #include <array>
@@ -42,5 +42,8 @@ struct FillPixel {
     return hn::TableLookupBytes(hn::LoadDup128(d, pixel), hn::LoadU(d, kPhases[size].data() + phase));
   }
 };
+
+// Fills a region. `value` has an element for each processed channel.
+void FillPixels(const void* value, const Bytes& dst, Size roi);
 
 }  // namespace qvp

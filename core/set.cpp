@@ -67,14 +67,18 @@ void FillRows(const FillPixel& pixel, const Bytes& dst, Size roi) {
 
 QvpStatus Set(const void* value, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {dst}, {value})) return failed;
-  const Store store = StoreFor(static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
-  const FillPixel pixel(value, dst);
-  (store == Store::kStreaming ? FillRows<Store::kStreaming> : FillRows<Store::kOrdinary>)(pixel, dst, roi);
-  Fence(store);
+  FillPixels(value, dst, roi);
   return qvpStatusNoError;
 }
 
 }  // namespace
+
+void qvp::FillPixels(const void* value, const Bytes& dst, Size roi) {
+  const Store store = StoreFor(static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
+  const FillPixel pixel(value, dst);
+  (store == Store::kStreaming ? FillRows<Store::kStreaming> : FillRows<Store::kOrdinary>)(pixel, dst, roi);
+  Fence(store);
+}
 
 #define SET(type)                                              \
   QVP_FILL(qvpiSet_##type##_C1R, type, C1, Set)                \

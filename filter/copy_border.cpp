@@ -1,11 +1,14 @@
 // Copies into a larger image, whose border is filled from the source or with a constant.
 #include <array>
 #include <cstring>
+#include <utility>
 
 #include "base/border.h"
 #include "base/check.h"
 #include "base/export.h"
 #include "base/simd.h"
+#include "base/store.h"
+#include "core/fill.h"
 
 namespace {
 using namespace qvp;
@@ -20,7 +23,7 @@ struct Frame {
     return hasPixels && top >= 0 && left >= 0 && dst.width - src.width >= left && dst.height - src.height >= top;
   }
   ptrdiff_t right() const { return dst.width - src.width - left; }
-  ptrdiff_t bottom() const { return dst.height - src.height - top; }
+  Extent Rows() const { return {-top, dst.height - top}; }  // of the destination, counted from the source's first
 };
 
 // What border columns are made of: the columns of the source, or a single one that holds a constant.
@@ -28,10 +31,12 @@ struct Border {
   BorderKind kind;
   const uint8_t* pixels;    // row 0
   ptrdiff_t step, width;    // bytes and pixels
-  ptrdiff_t span;           // pixels between the left border and the right one
   int pixelBytes, written;  // bytes of a pixel, and those of them that are not kept
 
   ptrdiff_t RowBytes() const { return width * pixelBytes; }
+  bool IsConstant() const { return step == 0; }
+  // The first byte of what stands for column x.
+  ptrdiff_t SourceOf(ptrdiff_t x) const { return BorderPosition(kind, x, {0, width}) * pixelBytes; }
 };
 
 using Block = hn::FixedTag<uint8_t, kBlockBytes>;
@@ -49,7 +54,7 @@ Piece MakePiece(const Border& border, ptrdiff_t x, ptrdiff_t end) {
   Piece piece{x * border.pixelBytes, PTRDIFF_MAX};
   ptrdiff_t source[kBlockBytes], last = 0;
   for (; x < end; ++x) {
-    const ptrdiff_t first = BorderPosition(border.kind, x, {0, border.width}) * border.pixelBytes;
+    const ptrdiff_t first = border.SourceOf(x);
     const ptrdiff_t low = std::min(piece.from, first), high = std::max(last, first + border.pixelBytes);
     if (piece.bytes + border.pixelBytes > kBlockBytes || high - low > kBlockBytes) break;
     for (int i = 0; i < border.pixelBytes; ++i) source[piece.bytes++] = first + i;
@@ -95,46 +100,42 @@ void PutPieceBesideAlpha(const Piece& piece, const Border& border, const uint8_t
   }
 }
 
-// Bytes [0, n) of a row, whose last vector may overlap the one before it.
-HWY_INLINE void CopyBytes(const uint8_t* from, uint8_t* to, ptrdiff_t n) {
-  const hn::ScalableTag<uint8_t> d;
-  constexpr ptrdiff_t kVector = hn::MaxLanes(d);
-  if (n < kVector) return static_cast<void>(std::memcpy(to, from, n));
-  for (ptrdiff_t i = 0; i < n - kVector; i += kVector) hn::StoreU(hn::LoadU(d, from + i), d, to + i);
-  hn::StoreU(hn::LoadU(d, from + n - kVector), d, to + n - kVector);
-}
-
-// The border columns of a band of rows, left and right, some pieces at a time: made once for all rows.
+// Border columns of a band of rows, some pieces at a time: made once for all rows.
 class Columns {
  public:
-  Columns(const Border& border, ptrdiff_t left, ptrdiff_t right) : border_(border), right_(right), x_(-left), end_(0) {
-    if (left == 0) GoRight();
-  }
+  Columns(const Border& border, Extent left, Extent right)
+      : border_(border), x_(left.begin), end_(left.end), right_(right) {}
 
   // Makes the next pieces. False when there are none left.
   bool Next() {
-    for (count_ = 0; count_ < kMost && x_ < end_; ++count_) {
+    for (count_ = 0; count_ < kMost && HasMore(); ++count_) {
       pieces_[count_] = MakePiece(border_, x_, end_);
       x_ += pieces_[count_].bytes / border_.pixelBytes;
-      if (x_ == 0) GoRight();
     }
     return count_ > 0;
   }
 
-  // Writes them to each row, after `copied` bytes of the source's own pixels.
-  void Write(const Bytes& dst, ptrdiff_t rows, const uint8_t* src, ptrdiff_t srcStep, ptrdiff_t copied) const {
+  // Writes them to each row.
+  void Write(const Bytes& dst, ptrdiff_t rows) const {
     if (border_.written < border_.pixelBytes) return WriteBesideAlpha(dst, rows);
     const Border border = border_;
     const uint8_t* row = border.pixels;
     uint8_t* to = dst.data;
-    for (ptrdiff_t y = 0; y < rows; ++y, row += border.step, to += dst.step, src += srcStep) {
-      if (copied > 0) CopyBytes(src, to, copied);
+    for (ptrdiff_t y = 0; y < rows; ++y, row += border.step, to += dst.step) {
       for (int i = 0; i < count_; ++i) PutPiece(pieces_[i], border, row, to);
     }
   }
 
  private:
   static constexpr int kMost = 8;
+
+  bool HasMore() {
+    if (x_ == end_) {
+      x_ = std::exchange(right_.begin, right_.end);
+      end_ = right_.end;
+    }
+    return x_ < end_;
+  }
 
   void WriteBesideAlpha(const Bytes& dst, ptrdiff_t rows) const {
     for (ptrdiff_t y = 0; y < rows; ++y) {
@@ -143,64 +144,163 @@ class Columns {
     }
   }
 
-  void GoRight() {
-    x_ = border_.span;
-    end_ = x_ + right_;
-  }
-
   const Border& border_;
-  ptrdiff_t right_, x_, end_;
+  ptrdiff_t x_, end_;
+  Extent right_;
   int count_ = 0;
   std::array<Piece, kMost> pieces_;
 };
 
-// Sixteen bytes at one end of each row: the border and what of the source is beside it, by one shuffle.
-struct RowEnd {
-  ptrdiff_t to, from;  // bytes from the first pixel of the source
-  alignas(kBlockBytes) std::array<uint8_t, kBlockBytes> index;
-
-  HWY_INLINE hn::Vec<Block> Of(const uint8_t* row) const {
-    return hn::TableLookupBytes(hn::LoadU(Block(), row + from), hn::Load(Block(), index.data()));
+// Calls write(y, from, distance, count) for rows [y, y + count) that stand for rows `from`, `from` + distance, ...
+template <class Write>
+void ForEachBand(BorderKind kind, Extent rows, Extent source, const Write& write) {
+  const auto rowFor = [&](ptrdiff_t y) { return BorderPosition(kind, y, source); };
+  for (ptrdiff_t y = rows.begin, count = 1; y < rows.end; y += count, count = 1) {
+    const ptrdiff_t from = rowFor(y), distance = y + 1 < rows.end ? rowFor(y + 1) - from : 0;
+    if (source.Contains(y)) count = std::min(rows.end, source.end) - y;
+    while (y + count < rows.end && rowFor(y + count) == from + count * distance) ++count;
+    write(y, from, distance, count);
   }
-};
-
-// The end that begins `skipped` bytes into pixel `x`. False if its sources do not lie within 16 bytes.
-bool MakeRowEnd(const Border& border, ptrdiff_t x, int skipped, RowEnd& end) {
-  ptrdiff_t source[kBlockBytes], low = border.RowBytes() - kBlockBytes, high = 0;
-  end.to = x * border.pixelBytes + skipped;
-  for (int i = -skipped; i < kBlockBytes; ++x) {
-    ptrdiff_t from = BorderPosition(border.kind, x, {0, border.width}) * border.pixelBytes;
-    for (int k = 0; k < border.pixelBytes && i < kBlockBytes; ++k, ++i, ++from) {
-      if (i < 0) continue;
-      source[i] = from;
-      low = std::min(low, from);
-      high = std::max(high, from);
-    }
-  }
-  end.from = low;
-  for (int i = 0; i < kBlockBytes; ++i) end.index[i] = static_cast<uint8_t>(source[i] - low);
-  return high - low < kBlockBytes;
 }
 
-// Rows whose borders are narrow and near to their sources: a copy and two stores each. False, and nothing is written,
-// if these are not.
-bool CopyWithEnds(const Border& border, const Frame& frame, const Bytes& dst) {
-  const int pixels = (kBlockBytes + border.pixelBytes - 1) / border.pixelBytes;
-  const ptrdiff_t widest = std::max(frame.left, frame.right());
-  if (border.RowBytes() < kBlockBytes || widest > kBlockBytes / border.pixelBytes) return false;
-  RowEnd left, right;
-  if (!MakeRowEnd(border, -frame.left, 0, left) ||
-      !MakeRowEnd(border, border.span + frame.right() - pixels, pixels * border.pixelBytes - kBlockBytes, right)) {
-    return false;
+// Whether `bytes` of border columns, and what of the source follows in their block, are made from one block of it: the
+// one beside the edge, or the one a pixel further inside if no byte follows. A mirror folds once.
+bool IsNearItsSources(const Border& border, ptrdiff_t bytes) {
+  if (border.kind != BorderKind::kMirror) return border.kind == BorderKind::kReplicate || bytes == 0;
+  const ptrdiff_t reach = bytes + border.pixelBytes;
+  return reach <= border.RowBytes() && (reach <= kBlockBytes || bytes == kBlockBytes);
+}
+
+// A vector at the beginning or the end of each row, whose first or last block has the border: shuffled from the
+// source's row, but for a constant border. D has one or two blocks.
+template <class D, bool kIsFirst>
+class RowEnd {
+ public:
+  // `bytes` of the block belong to the border; `row` is the length of the source's row in bytes.
+  HWY_INLINE RowEnd(const Border& border, ptrdiff_t bytes, ptrdiff_t row) {
+    const Block d;
+    const hn::RebindToSigned<Block> s;
+    const auto number = [&](ptrdiff_t n) HWY_ATTR { return hn::Set(s, static_cast<int8_t>(n)); };
+    const bool isMirror = border.kind == BorderKind::kMirror;
+    const int pixel = border.pixelBytes, skipped = isMirror && bytes == kBlockBytes ? pixel : 0;
+    from_ = kIsFirst ? skipped : row - kBlockBytes - skipped;
+    // Which byte of its pixel each byte is, how far that pixel is outside (0 or less: inside), and how far the one is
+    // that stands for it.
+    const auto phase = hn::LoadU(d, kPhases[pixel].data() + (kIsFirst ? 0 : kPeriod - kBlockBytes));
+    const auto phases = hn::BitCast(s, phase), begins = hn::Sub(hn::Iota(s, int8_t{0}), phases);
+    const auto out = kIsFirst ? hn::Sub(number(bytes), begins) : hn::Add(begins, number(bytes - kBlockBytes + pixel));
+    const auto inside = hn::Min(out, isMirror ? hn::Neg(out) : hn::Zero(s));
+    const auto index = kIsFirst ? hn::Sub(hn::Sub(phases, number(skipped)), inside)
+                                : hn::Add(hn::Add(phases, number(kBlockBytes + skipped - pixel)), inside);
+    const auto isConstant = hn::And(hn::VecFromMask(s, hn::Gt(out, hn::Zero(s))), number(border.IsConstant() ? -1 : 0));
+    const auto value = hn::TableLookupBytes(hn::LoadU(d, border.pixels), phase);
+    index_ = WithBlock(hn::BitCast(d, hn::Or(index, isConstant)), hn::Iota(d, uint8_t{0}));
+    constant_ = WithBlock(hn::And(value, hn::BitCast(d, isConstant)), hn::Zero(d));
   }
-  const ptrdiff_t bytes = border.RowBytes(), step = border.step, dstStep = dst.step;
-  const uint8_t* row = border.pixels;
-  uint8_t* to = dst.data;
-  for (ptrdiff_t y = 0; y < frame.src.height; ++y, row += step, to += dstStep) {
-    CopyBytes(row, to, bytes);
-    hn::StoreU(left.Of(row), Block(), to + left.to);
-    hn::StoreU(right.Of(row), Block(), to + right.to);
+
+  // The vector for a row of the source. `beside` are the bytes of the other block.
+  HWY_INLINE hn::Vec<D> Of(const uint8_t* row, const uint8_t* beside) const {
+    const auto bytes = WithBlock(hn::LoadU(Block(), row + from_), hn::LoadU(Block(), beside));
+    return hn::Or(hn::TableLookupBytesOr0(bytes, index_), constant_);
   }
+
+ private:
+  static constexpr int kPeriod = 48;  // bytes that make whole pixels of every type
+
+  static HWY_INLINE hn::Vec<D> WithBlock(hn::Vec<Block> block, [[maybe_unused]] hn::Vec<Block> other) {
+    if constexpr (hn::MaxLanes(D()) == kBlockBytes)
+      return block;
+    else
+      return kIsFirst ? hn::Combine(D(), other, block) : hn::Combine(D(), block, other);
+  }
+
+  ptrdiff_t from_;
+  hn::Vec<D> index_, constant_;
+};
+
+// Rows of a source with at most a block of border on both sides, written from left to right.
+template <class D>
+class NarrowRows {
+ public:
+  static bool Serves(const Border& border, const Frame& frame) {
+    const ptrdiff_t left = frame.left * border.pixelBytes, right = frame.right() * border.pixelBytes;
+    return frame.src.width * border.pixelBytes >= kVector && left <= kBlockBytes && right <= kBlockBytes &&
+           IsNearItsSources(border, left) && IsNearItsSources(border, right);
+  }
+
+  HWY_INLINE NarrowRows(const Border& border, const Frame& frame)
+      : left_(frame.left * border.pixelBytes),
+        end_(left_ + frame.src.width * border.pixelBytes),
+        bytes_(frame.dst.width * border.pixelBytes),
+        lastInside_(std::clamp((bytes_ - 1) / kVector * kVector - kVector, left_, end_ - kVector)),
+        first_(border, left_, end_ - left_),
+        last_(border, bytes_ - end_, end_ - left_) {}
+
+  // Both images begin with the first pixel of the source.
+  HWY_INLINE void Write(BorderKind kind, const ConstBytes& src, const Bytes& dst, Extent source, Extent rows) const {
+    const ptrdiff_t step = src.step, toStep = dst.step;
+    const uint8_t* const pixels = src.data;
+    uint8_t* to = dst.Row(rows.begin) - left_;
+    ForEachBand(kind, rows, source, [&](ptrdiff_t, ptrdiff_t from, ptrdiff_t distance, ptrdiff_t count) HWY_ATTR {
+      bytes_ < kLong ? WriteBand<false>(pixels + from * step, distance * step, to, toStep, count)
+                     : WriteBand<true>(pixels + from * step, distance * step, to, toStep, count);
+      to += count * toStep;
+    });
+  }
+
+ private:
+  static constexpr ptrdiff_t kVector = hn::MaxLanes(D());
+  static constexpr ptrdiff_t kLong = 8 * kVector;  // bytes of rows that it pays to align stores in
+
+  template <bool kIsLong>
+  HWY_NOINLINE void WriteBand(const uint8_t* row, ptrdiff_t step, uint8_t* to, ptrdiff_t toStep, ptrdiff_t rows) const {
+    const D d;
+    const NarrowRows own = *this;
+    for (; rows > 0; --rows, row += step, to += toStep) {
+      const uint8_t* const from = row - own.left_;  // where the first byte of the result would be
+      hn::StoreU(own.first_.Of(row, from + kBlockBytes), d, to);
+      own.WriteInside<kIsLong>(from, to);
+      hn::StoreU(own.last_.Of(row, from + own.bytes_ - kVector), d, to + own.bytes_ - kVector);
+    }
+  }
+
+  // What is between the first vector and the last one.
+  template <bool kIsLong>
+  HWY_INLINE void WriteInside(const uint8_t* from, uint8_t* to) const {
+    const D d;
+    const auto copy = [&](ptrdiff_t i) HWY_ATTR { hn::StoreU(hn::LoadU(d, from + i), d, to + i); };
+    ptrdiff_t i = kVector, last = lastInside_;
+    if constexpr (kIsLong) {
+      i = BytesToAlignment(d, to);
+      if (i < left_) {
+        copy(left_);
+        i += kVector;
+      }
+      last = end_ - kVector;
+      for (; i + kVector < last; i += 2 * kVector) {
+        copy(i);
+        copy(i + kVector);
+      }
+    }
+#pragma GCC unroll 1
+    for (; i < last; i += kVector) copy(i);
+    copy(last);
+  }
+
+  // Of a row of results: where the source begins and ends, how long it is, and where its last vector but one begins if
+  // they follow each other from the beginning.
+  ptrdiff_t left_, end_, bytes_, lastInside_;
+  RowEnd<D, true> first_;
+  RowEnd<D, false> last_;
+};
+
+// Copies rows with their borders. False, and nothing is written, if these are not narrow, or are short. `dst` begins
+// with the first pixel of the source.
+template <class D>
+bool WriteNarrowRows(const Border& border, const ConstBytes& src, const Bytes& dst, const Frame& frame,
+                     const Extent& rows) {
+  if (!NarrowRows<D>::Serves(border, frame)) return false;
+  NarrowRows<D>(border, frame).Write(border.kind, src, dst, {0, frame.src.height}, rows);
   return true;
 }
 
@@ -226,69 +326,67 @@ Image<T> At(const Image<T>& image, ptrdiff_t x, ptrdiff_t y) {
 }
 ConstBytes Const(const Bytes& image) { return {image.data, image.step, image.layout, image.elementBytes}; }
 
-// One row of the pixel that it begins with: what is filled already is copied behind itself, doubling it.
-void SpreadFirstPixel(const Bytes& row, ptrdiff_t width) {
-  for (ptrdiff_t filled = 1; filled < width; filled *= 2) {
-    CopyPixels(Const(row), At(row, filled, 0), {std::min(filled, width - filled), 1});
+void FillRows(const uint8_t* value, const Bytes& dst, Extent rows, const Frame& frame) {
+  if (rows.begin < rows.end) {
+    FillPixels(value, At(dst, -frame.left, rows.begin), {frame.dst.width, rows.end - rows.begin});
   }
 }
 
-// Rows [begin, end) of the destination, whose column 0 is that of the source, in one constant.
-void FillRows(const ConstBytes& value, const Bytes& dst, ptrdiff_t begin, ptrdiff_t end, const Frame& frame) {
-  if (begin == end) return;
-  const Bytes first = At(dst, -frame.left, begin);
-  CopyPixels(value, first, {1, 1});
-  SpreadFirstPixel(first, frame.dst.width);
-  ConstBytes again = Const(first);
-  again.step = 0;
-  if (end - begin > 1) CopyPixels(again, At(first, 0, 1), {frame.dst.width, end - begin - 1});
-}
-
-// Rows [begin, end) from rows of the source that have their border columns already, as many at a time as lie at one
-// distance from each other.
-void CopyRows(BorderKind kind, const Bytes& dst, ptrdiff_t begin, ptrdiff_t end, const Frame& frame) {
-  const auto rowFor = [&](ptrdiff_t y) { return BorderPosition(kind, y, {0, frame.src.height}); };
-  while (begin < end) {
-    const ptrdiff_t from = rowFor(begin), distance = begin + 1 < end ? rowFor(begin + 1) - from : 0;
-    ptrdiff_t rows = 1;
-    while (begin + rows < end && rowFor(begin + rows) == from + rows * distance) ++rows;
+// Rows from those of the source that have their border columns already.
+void CopyRows(BorderKind kind, const Bytes& dst, Extent rows, const Frame& frame) {
+  ForEachBand(kind, rows, {0, frame.src.height}, [&](ptrdiff_t y, ptrdiff_t from, ptrdiff_t distance, ptrdiff_t count) {
     ConstBytes src = Const(At(dst, -frame.left, from));
     src.step *= distance;
-    CopyPixels(src, At(dst, -frame.left, begin), {frame.dst.width, rows});
-    begin += rows;
-  }
+    CopyPixels(src, At(dst, -frame.left, y), {frame.dst.width, count});
+  });
 }
 
-// The source and its border columns. `dst` begins with the first pixel of the source, which is there already where the
-// two are the same memory. Only large images have pixels copied apart from their columns, past the cache.
-void WriteSourceRows(const ConstBytes& src, const Border& border, const Bytes& dst, const Frame& frame) {
+// Writes border columns to the rows of the source.
+void WriteColumns(const Border& border, Extent left, Extent right, const Bytes& dst, const Frame& frame) {
+  if (left.begin == left.end && right.begin == right.end) return;
+  Columns columns(border, left, right);
+  while (columns.Next()) columns.Write(dst, frame.src.height);
+}
+
+// Copies the rows of the source with the border columns beside them. Those above and below, if they are sources as
+// well, follow where it is as easy. Returns which rows those are. Only large images have pixels copied apart from their
+// columns, past the cache.
+Extent CopyWithColumns(const Border& border, const ConstBytes& src, const Bytes& dst, const Frame& frame) {
   constexpr int64_t kLargeBytes = 16 << 20;
   const bool isLarge = static_cast<int64_t>(dst.RowBytes(frame.dst.width)) * frame.dst.height > kLargeBytes;
-  const bool isCopied = src.data != dst.data, isApart = isLarge || KeepsAlpha(dst.layout);
-  if (isCopied && isApart) CopyPixels(src, dst, frame.src);
-  if (isCopied && !isApart && border.pixels == src.data && CopyWithEnds(border, frame, dst)) return;
-  ptrdiff_t copied = isCopied && !isApart ? dst.RowBytes(frame.src.width) : 0;
-  Columns columns(border, frame.left, frame.right());
-  while (columns.Next() || copied > 0) {
-    columns.Write(dst, frame.src.height, src.data, src.step, copied);
-    copied = 0;
+  const ptrdiff_t most = kBlockBytes / border.pixelBytes, left = std::min(frame.left, most),
+                  right = std::min(frame.right(), most), span = frame.src.width;
+  const Frame near{frame.src, {left + span + right, frame.dst.height}, frame.top, left};
+  const bool isAll = !border.IsConstant() && left == frame.left && right == frame.right();
+  const Extent inside{0, frame.src.height}, rows = isAll ? frame.Rows() : inside;
+  if (!isLarge && !KeepsAlpha(dst.layout) &&
+      (WriteNarrowRows<hn::CappedTag<uint8_t, 2 * kBlockBytes>>(border, src, dst, near, rows) ||
+       WriteNarrowRows<Block>(border, src, dst, near, rows))) {
+    WriteColumns(border, {-frame.left, -left}, {span + right, span + frame.right()}, dst, frame);
+    return rows;
   }
+  CopyPixels(src, dst, frame.src);
+  WriteColumns(border, {-frame.left, 0}, {span, span + frame.right()}, dst, frame);
+  return inside;
 }
 
-// `dst` begins with the first pixel of the source. `value` is the pixel of a constant border.
+// `dst` begins with the first pixel of the source, which is there already where the two are the same memory. `value` is
+// the pixel of a constant border.
 void WriteFrame(BorderKind kind, const ConstBytes& src, const Bytes& dst, const Frame& frame, const uint8_t* value) {
-  const ptrdiff_t top = -frame.top, height = frame.src.height, bottom = height + frame.bottom();
   const int pixelBytes = dst.PixelBytes(), written = ProcessedChannels(dst.layout) * dst.elementBytes;
-  if (kind != BorderKind::kConst) {
-    WriteSourceRows(src, {kind, src.data, src.step, frame.src.width, frame.src.width, pixelBytes, written}, dst, frame);
-    CopyRows(kind, dst, top, 0, frame);
-    return CopyRows(kind, dst, height, bottom, frame);
+  const ptrdiff_t width = frame.src.width;
+  const bool isConst = kind == BorderKind::kConst;  // all border columns are replicas of one
+  const Border border = isConst ? Border{BorderKind::kReplicate, value, 0, 1, pixelBytes, written}
+                                : Border{kind, src.data, src.step, width, pixelBytes, written};
+  Extent done{0, frame.src.height};
+  if (src.data == dst.data) {
+    WriteColumns(border, {-frame.left, 0}, {width, width + frame.right()}, dst, frame);
+  } else {
+    done = CopyWithColumns(border, src, dst, frame);
   }
-  // All of the border columns are replicas of one column.
-  WriteSourceRows(src, {BorderKind::kReplicate, value, 0, 1, frame.src.width, pixelBytes, written}, dst, frame);
-  const ConstBytes constant{value, 0, dst.layout, dst.elementBytes};
-  FillRows(constant, dst, top, 0, frame);
-  FillRows(constant, dst, height, bottom, frame);
+  for (const Extent rest : {Extent{-frame.top, done.begin}, Extent{done.end, frame.Rows().end}}) {
+    isConst ? FillRows(value, dst, rest, frame) : CopyRows(kind, dst, rest, frame);
+  }
 }
 
 QvpStatus CheckFrame(const ConstBytes& src, const Bytes& dst, const Frame& frame, const void* value) {
