@@ -30,8 +30,8 @@ class Columns {
 
   void Filter(const Kernel& kernel, ptrdiff_t y) {
     if (y > 0) window_.Advance();
-    T* const lower = y + 1 < job_.roi.height ? job_.dst.Row(y + 1) + first_ : nullptr;
-    FilterRows(kernel, window_.lines(), samples_, job_.dst.Row(y) + first_, lower);
+    const ptrdiff_t next = std::min(y + 1, job_.roi.height - 1);
+    FilterRows(kernel, window_.lines(), samples_, job_.dst.Row(y) + first_, job_.dst.Row(next) + first_);
   }
 
  private:
@@ -88,28 +88,32 @@ void FilterInDouble(const FilterRecord& record, const Job<T>& job) {
   FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.source.channels));
 }
 
-// Calls filter with the width of the kernel as a constant: for bytes and floats two common ones, 0 for any other.
+// Calls filter with the sides of the kernel as constants: for bytes and floats those of two common squares, and the
+// width alone if the height is another; 0 for what is not constant.
 template <class T, class Filter>
-void WithWidth(const FilterRecord& record, const Filter& filter) {
+void WithSides(const FilterRecord& record, const Filter& filter) {
+  const auto withWidth = [&](auto width) {
+    record.height == width ? filter(width, width) : filter(width, std::integral_constant<int, 0>());
+  };
   if constexpr (std::is_same_v<T, uint8_t> || std::is_same_v<T, float>) {
-    if (record.width == 3) return filter(std::integral_constant<int, 3>());
-    if (record.width == 5) return filter(std::integral_constant<int, 5>());
+    if (record.width == 3) return withWidth(std::integral_constant<int, 3>());
+    if (record.width == 5) return withWidth(std::integral_constant<int, 5>());
   }
-  filter(std::integral_constant<int, 0>());
+  filter(std::integral_constant<int, 0>(), std::integral_constant<int, 0>());
 }
 
 template <class T>
 void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
   using ImageOfFloats = std::conditional_t<std::is_same_v<T, float>, float, void>;
-  WithWidth<ImageOfFloats>(record, [&](auto width) {
-    FilterRegion(record, job, RealKernel<T, float, width>(record, record.Floats(), job.source.channels));
+  WithSides<ImageOfFloats>(record, [&](auto width, auto height) {
+    FilterRegion(record, job, RealKernel<T, float, width, height>(record, record.Floats(), job.source.channels));
   });
 }
 
 template <class Sums, class T>
 void FilterBySums(const FilterRecord& record, const Job<T>& job, const Sums& sums) {
-  WithWidth<T>(record, [&](auto width) {
-    FilterRegion(record, job, PairKernel<T, Sums, width>(record, job.source.channels, sums));
+  WithSides<T>(record, [&](auto width, auto height) {
+    FilterRegion(record, job, PairKernel<T, Sums, width, height>(record, job.source.channels, sums));
   });
 }
 

@@ -244,8 +244,8 @@ class ByteSums {
 };
 
 // Integer kernels: rows in pairs, whose products are added by the multiplication.
-// kWidth is that of the kernel where it is known, or 0.
-template <class T, class Sums, int kWidth = 0>
+// kWidth and kHeight are those of the kernel where they are known, or 0.
+template <class T, class Sums, int kWidth = 0, int kHeight = 0>
 class PairKernel {
  public:
   using Form = PairedRows<T, typename Sums::Lane>;
@@ -269,7 +269,8 @@ class PairKernel {
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
     const int32_t* pair = pairs_;
     const ptrdiff_t width = kWidth ? kWidth : width_;
-    for (ptrdiff_t p = 0; p < lines_; ++p) {
+    const ptrdiff_t lineCount = kHeight ? kHeight / 2 + 1 : lines_;
+    for (ptrdiff_t p = 0; p < lineCount; ++p) {
       const auto* line = lines[p] + at;
       for (ptrdiff_t i = 0; i < width; ++i, line += channels_, pair += 2) {
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
@@ -281,8 +282,8 @@ class PairKernel {
         });
       }
     }
+    sums_.template Store<kCount>(below, lower);
     sums_.template Store<kCount>(above, upper);
-    if (lower) sums_.template Store<kCount>(below, lower);
   }
 
  private:
@@ -291,8 +292,17 @@ class PairKernel {
   Sums sums_;
 };
 
+// A pointer that the compiler knows nothing about, and a place that it moves no loads across. Coefficients are read
+// again from memory, which makes vectors of them without the units that add, and pixels when they are needed: loads
+// that are brought forward push sums out of the registers.
+template <class T>
+HWY_INLINE const T* Unknown(const T* p) {
+  asm volatile("" : "+r"(p) : : "memory");
+  return p;
+}
+
 // Kernels of F: every result has one sum, to which the products are added in the order of rows and columns.
-template <class T, class F, int kWidth = 0>
+template <class T, class F, int kWidth = 0, int kHeight = 0>
 class RealKernel {
  public:
   using Form = SingleRows<T, F>;
@@ -313,16 +323,25 @@ class RealKernel {
     const hn::ScalableTag<F> d;
     hn::Vec<decltype(d)> above[kCount], below[kCount];
     Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(d); });
-    const F* k = coefficients_;
+    const F* k = Unknown(coefficients_);
     AddRow<kCount>(lines[0] + at, k, above);
-    for (ptrdiff_t j = 1; j < height_; ++j, k += width()) AddRows<kCount>(lines[j] + at, k + width(), k, above, below);
-    AddRow<kCount>(lines[height_] + at, k, below);
+    const auto addRows = [&](ptrdiff_t j) QVP_INLINED {
+      AddRows<kCount>(lines[j] + at, k + width(), k, above, below);
+      k = Unknown(k + width());
+    };
+    if constexpr (kHeight > 0) {
+      Unrolled<kHeight - 1>([&](auto j) QVP_INLINED { addRows(j + 1); });
+    } else {
+      for (ptrdiff_t j = 1; j < height_; ++j) addRows(j);
+    }
+    AddRow<kCount>(lines[height()] + at, k, below);
+    Store<kCount>(below, lower);
     Store<kCount>(above, upper);
-    if (lower) Store<kCount>(below, lower);
   }
 
  private:
   HWY_INLINE ptrdiff_t width() const { return kWidth ? kWidth : width_; }
+  HWY_INLINE ptrdiff_t height() const { return kHeight ? kHeight : height_; }
 
   template <int kCount, class V>
   HWY_INLINE void AddRow(const F* line, const F* k, V (&sums)[kCount]) const {
@@ -337,6 +356,7 @@ class RealKernel {
   HWY_INLINE void AddRows(const F* line, const F* k, const F* kBelow, V (&above)[kCount], V (&below)[kCount]) const {
     const hn::ScalableTag<F> d;
     for (ptrdiff_t i = 0; i < width(); ++i, line += channels_) {
+      if constexpr (kWidth > 3) k = Unknown(k);
       const V a = hn::Set(d, k[i]), b = hn::Set(d, kBelow[i]);
       Unrolled<kCount>([&](auto v) QVP_INLINED {
         const V pixel = hn::LoadU(d, line + v * kLanes);
@@ -370,25 +390,24 @@ class RealKernel {
   F offset_, divisor_;
 };
 
-// Two rows of n results, or one if `lower` is null. What the kernel holds is copied, as bytes that are stored might be
-// part of it for all that the compiler can tell. The last vector may overlap the one before it: results are not
-// what is read.
+// Two rows of n results. Where there is only one, `lower` is the same as `upper`: kernels store the upper results last.
+// What the kernel holds is copied, as bytes that are stored might be part of it for all that the compiler can tell. The
+// last vector may overlap the one before it: results are not what is read.
 template <class Kernel, class E, class T>
 void FilterRows(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
   constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
   const Kernel kernel = shared;
-  const auto at = [](T* row, ptrdiff_t i) { return row ? row + i : nullptr; };
   if (n < kLanes) {
     T staged[2][kLanes];
     kernel.template Run<1>(lines, 0, staged[0], staged[1]);
+    std::memcpy(lower, staged[1], n * sizeof(T));
     std::memcpy(upper, staged[0], n * sizeof(T));
-    if (lower) std::memcpy(lower, staged[1], n * sizeof(T));
     return;
   }
   ptrdiff_t i = 0;
-  for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, upper + i, at(lower, i));
-  for (; i + kLanes <= n; i += kLanes) kernel.template Run<1>(lines, i, upper + i, at(lower, i));
-  if (i < n) kernel.template Run<1>(lines, n - kLanes, upper + n - kLanes, at(lower, n - kLanes));
+  for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, upper + i, lower + i);
+  for (; i + kLanes <= n; i += kLanes) kernel.template Run<1>(lines, i, upper + i, lower + i);
+  if (i < n) kernel.template Run<1>(lines, n - kLanes, upper + n - kLanes, lower + n - kLanes);
 }
 
 }  // namespace qvp
