@@ -243,6 +243,15 @@ class ByteSums {
   const int16_t start;
 };
 
+// A pointer that the compiler knows nothing about, and a place that it moves no loads across. Coefficients are read
+// again from memory, which makes vectors of them without the units that add, and pixels when they are needed: loads
+// that are brought forward push sums out of the registers.
+template <class T>
+HWY_INLINE const T* Unknown(const T* p) {
+  asm volatile("" : "+r"(p) : : "memory");
+  return p;
+}
+
 // Integer kernels: rows in pairs, whose products are added by the multiplication.
 // kWidth and kHeight are those of the kernel where they are known, or 0.
 template <class T, class Sums, int kWidth = 0, int kHeight = 0>
@@ -273,6 +282,7 @@ class PairKernel {
     for (ptrdiff_t p = 0; p < lineCount; ++p) {
       const auto* line = lines[p] + at;
       for (ptrdiff_t i = 0; i < width; ++i, line += channels_, pair += 2) {
+        if constexpr (kWidth > 0) pair = Unknown(pair);
         const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
         const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
         Unrolled<kCount>([&](auto v) QVP_INLINED {
@@ -291,15 +301,6 @@ class PairKernel {
   ptrdiff_t lines_, width_, channels_;
   Sums sums_;
 };
-
-// A pointer that the compiler knows nothing about, and a place that it moves no loads across. Coefficients are read
-// again from memory, which makes vectors of them without the units that add, and pixels when they are needed: loads
-// that are brought forward push sums out of the registers.
-template <class T>
-HWY_INLINE const T* Unknown(const T* p) {
-  asm volatile("" : "+r"(p) : : "memory");
-  return p;
-}
 
 // Kernels of F: every result has one sum, to which the products are added in the order of rows and columns.
 template <class T, class F, int kWidth = 0, int kHeight = 0>

@@ -3,6 +3,8 @@
 // time.
 #pragma once
 
+#include <hwy/cache_control.h>
+
 #include <cstring>
 #include <utility>
 
@@ -175,9 +177,16 @@ class FilterWindow {
     auto* line = reinterpret_cast<Element*>(slots_ + slot_ * LineBytes());
     slot_ = slot_ + 1 == lines_ ? 0 : slot_ + 1;
     ConvertRows<Form>(rows, line + Samples(before_), ReadableSamples());
+    for (int i = 0; i < Form::kRows; ++i) FetchAhead(RowAt(row_ + i));
     FillEdges(line, 0, before_, edges_);
     FillEdges(line, before_ + readable_.end - readable_.begin, after_, edges_ + before_);
     return line;
+  }
+
+  // The next row of a block begins far from the end of this one, where the CPU does not expect it.
+  void FetchAhead(const T* row) const {
+    constexpr ptrdiff_t kCacheLine = 64 / sizeof(T);
+    for (ptrdiff_t i = 0; i < ReadableSamples(); i += kCacheLine) hwy::Prefetch(row + i);
   }
 
   void FillEdges(Element* line, ptrdiff_t column, ptrdiff_t count, const int32_t* edges) const {
