@@ -67,6 +67,25 @@ void AddComplex(QvpiSize size, Least least) {
   });
 }
 
+// Operations on packed spectra, which the peer has for whole planes of real and imaginary parts only, but for products.
+void AddPacked(QvpiSize size) {
+  const Image<float> a(size, 1), b(size, 1), dst(size, 1);
+  const auto buffer = Pixels<Qvp8u>(size.width * sizeof(float) + 64);
+  for (const auto& image : {a, b}) cv::randu(image.mat, -1, 1);
+  const auto add = [&](const char* name, size_t sources, auto ours, Peer peer) {
+    Add({Name(name, size), {sources * a.bytes(), a.bytes()}, ours, {peer}});
+  };
+  add("product of packed spectra", 2,
+      [=] { Require(qvpiMulPack_32f_C1R(a.data(), a.step, b.data(), b.step, dst.data(), dst.step, size)); },
+      {"OpenCV mulSpectrums", [=] { cv::mulSpectrums(a.mat, b.mat, dst.mat, 0); }, 1.0});
+  add("magnitudes of a packed spectrum", 1,
+      [=] { Require(qvpiMagnitudePack_32f_C1R(a.data(), a.step, dst.data(), dst.step, size, buffer.get())); },
+      {"OpenCV magnitude, of float planes", [=] { cv::magnitude(a.mat, b.mat, dst.mat); }});
+  add("phases of a packed spectrum", 1,
+      [=] { Require(qvpiPhasePack_32f_C1R(a.data(), a.step, dst.data(), dst.step, size)); },
+      {"OpenCV phase, of float planes, to 0.3 degrees", [=] { cv::phase(a.mat, b.mat, dst.mat); }});
+}
+
 const bool added = [] {
   AddReal({64, 64}, {1.0});
   AddReal({256, 256}, {1.1});
@@ -79,6 +98,8 @@ const bool added = [] {
   AddComplex({64, 64}, {1.0});
   AddComplex({512, 512}, {1.2, 5});
   AddComplex({1024, 1024}, {1.2});
+  AddPacked({256, 256});
+  AddPacked({512, 512});
   return true;
 }();
 

@@ -1,149 +1,289 @@
 // Operations on packed spectra of real images.
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "base/check.h"
 #include "base/export.h"
+#include "base/map.h"
 #include "base/record.h"
-#include "base/simd.h"
 #include "signal/arc_tangent.h"
 
 namespace {
 using namespace qvp;
-
-struct Number {
-  float re, im;
-};
 
 // ---- The layout: which stored floats are which frequency.
 
 struct Place {
   ptrdiff_t row, column;
 };
+constexpr Place operator+(Place a, Place b) { return {a.row + b.row, a.column + b.column}; }
+constexpr Place operator*(ptrdiff_t n, Place a) { return {n * a.row, n * a.column}; }
 
-// Calls real(u, v, place) for each entry that is real by symmetry and pair(u, v, place of Re, place of Im) for each
-// other one.
-template <class Real, class Pair>
-void ForEachEntry(Size roi, const Real& real, const Pair& pair) {
+// Complex numbers along a row or a column.
+constexpr ptrdiff_t kMostNumbers = 128;
+struct Run {
+  Place re, im, next;              // the parts of the first number, and how far it is to those of the next
+  Place frequency, nextFrequency;  // the same for (v, u)
+  ptrdiff_t count;                 // kMostNumbers or fewer
+
+  Run From(ptrdiff_t i) const {
+    return {re + i * next, im + i * next,
+            next,          frequency + i * nextFrequency,
+            nextFrequency, std::min(kMostNumbers, count - i)};
+  }
+  Place LastFrequency() const { return frequency + (count - 1) * nextFrequency; }
+};
+
+// Calls real(channel, frequency, place) for each entry that is real by symmetry and visit(channel, run) for runs of all
+// other ones, each processed channel of an entry or a run after the other.
+template <class Real, class Visit>
+void ForEachRun(Size roi, Layout layout, const Real& real, const Visit& visit) {
+  const auto inChannels = [&](const auto& function, const auto&... arguments) {
+    for (int c = 0; c < ProcessedChannels(layout); ++c) function(c, arguments...);
+  };
+  const auto inRuns = [&](const Run& line) {
+    for (ptrdiff_t i = 0; i < line.count; i += kMostNumbers) inChannels(visit, line.From(i));
+  };
   const ptrdiff_t w = roi.width, h = roi.height;
   for (ptrdiff_t column = 0; column < w; column += std::max<ptrdiff_t>(w - 1, 1)) {
     if (column != 0 && w % 2 != 0) break;  // odd widths have no last real column
     const ptrdiff_t u = column == 0 ? 0 : w / 2;
-    real(u, ptrdiff_t{0}, Place{0, column});
-    for (ptrdiff_t v = 1; v <= (h - 1) / 2; ++v) pair(u, v, Place{2 * v - 1, column}, Place{2 * v, column});
-    if (h % 2 == 0) real(u, h / 2, Place{h - 1, column});
+    inChannels(real, Place{0, u}, Place{0, column});
+    inRuns({{1, column}, {2, column}, {2, 0}, {1, u}, {1, 0}, (h - 1) / 2});
+    if (h % 2 == 0) inChannels(real, Place{h / 2, u}, Place{h - 1, column});
   }
-  for (ptrdiff_t v = 0; v < h; ++v) {
-    for (ptrdiff_t u = 1; u <= (w - 1) / 2; ++u) pair(u, v, Place{v, 2 * u - 1}, Place{v, 2 * u});
-  }
+  for (ptrdiff_t v = 0; v < h; ++v) inRuns({{v, 1}, {v, 2}, {0, 2}, {v, 1}, {0, 1}, (w - 1) / 2});
 }
 
 // One channel of an image, whose floats need not be aligned.
 template <class T>
 struct Channel {
-  T* data;
+  using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
+  Byte* data;
   ptrdiff_t step, pitch;
 
   Channel(const Image<T>& image, int channel)
-      : data(image.data + channel), step(image.step), pitch(image.PixelBytes()) {}
-  auto At(Place at) const {
-    using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
-    return reinterpret_cast<Byte*>(data) + at.row * step + at.column * pitch;
-  }
-  float Get(Place at) const {
+      : data(reinterpret_cast<Byte*>(image.data + channel)), step(image.step), pitch(image.PixelBytes()) {}
+  ptrdiff_t Distance(Place to) const { return to.row * step + to.column * pitch; }
+  Byte* At(Place place) const { return data + Distance(place); }
+  float Get(Place place) const {
     float value;
-    std::memcpy(&value, At(at), sizeof(value));
+    std::memcpy(&value, At(place), sizeof(value));
     return value;
   }
-  void Put(Place at, float value) const { std::memcpy(At(at), &value, sizeof(value)); }
+  void Put(Place place, float value) const { std::memcpy(At(place), &value, sizeof(value)); }
 };
+
+// ---- The numbers of a run, in order and their parts apart.
+
+using D = hn::ScalableTag<float>;
+constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+
+struct Numbers {
+  HWY_ALIGN float re[kMostNumbers], im[kMostNumbers];
+};
+
+void Gather(const uint8_t* from, ptrdiff_t stride, ptrdiff_t n, float* to) {
+  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, from + i * stride, sizeof(float));
+}
+void Scatter(const float* from, ptrdiff_t n, uint8_t* to, ptrdiff_t stride) {
+  if (stride == sizeof(float)) return static_cast<void>(std::memcpy(to, from, n * sizeof(float)));
+  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i * stride, from + i, sizeof(float));
+}
+
+// Whether numbers lie side by side, as pairs of floats.
+constexpr bool ArePairs(ptrdiff_t fromReToIm, ptrdiff_t stride) {
+  return fromReToIm == sizeof(float) && stride == 2 * sizeof(float);
+}
+
+void Load(const uint8_t* re, const uint8_t* im, ptrdiff_t stride, ptrdiff_t n, Numbers& to) {
+  ptrdiff_t i = 0;
+  if (ArePairs(im - re, stride)) {
+    for (; i + kLanes <= n; i += kLanes) {
+      hn::Vec<D> parts[2];
+      hn::LoadInterleaved2(D(), reinterpret_cast<const float*>(re + i * stride), parts[0], parts[1]);
+      hn::Store(parts[0], D(), to.re + i);
+      hn::Store(parts[1], D(), to.im + i);
+    }
+  }
+  Gather(re + i * stride, stride, n - i, to.re + i);
+  Gather(im + i * stride, stride, n - i, to.im + i);
+}
+
+void Store(const Numbers& from, ptrdiff_t n, uint8_t* re, uint8_t* im, ptrdiff_t stride) {
+  ptrdiff_t i = 0;
+  if (ArePairs(im - re, stride)) {
+    for (; i + kLanes <= n; i += kLanes) {
+      hn::StoreInterleaved2(hn::Load(D(), from.re + i), hn::Load(D(), from.im + i), D(),
+                            reinterpret_cast<float*>(re + i * stride));
+    }
+  }
+  Scatter(from.re + i, n - i, re + i * stride, stride);
+  Scatter(from.im + i, n - i, im + i * stride, stride);
+}
+
+void LoadPacked(const Channel<const float>& from, const Run& run, Numbers& to) {
+  Load(from.At(run.re), from.At(run.im), from.Distance(run.next), run.count, to);
+}
+void StorePacked(const Numbers& from, const Run& run, const Channel<float>& to) {
+  Store(from, run.count, to.At(run.re), to.At(run.im), to.Distance(run.next));
+}
 
 // ---- Products.
 
 struct Product {
-  Number operator()(Number a, Number b) const { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+  template <class V>
+  static HWY_INLINE V Re(V aRe, V aIm, V bRe, V bIm) {
+    return hn::Sub(hn::Mul(aRe, bRe), hn::Mul(aIm, bIm));
+  }
+  template <class V>
+  static HWY_INLINE V Im(V aRe, V aIm, V bRe, V bIm) {
+    return hn::Add(hn::Mul(aRe, bIm), hn::Mul(aIm, bRe));
+  }
 };
 struct ConjugateProduct {  // of the first and the conjugate of the second
-  Number operator()(Number a, Number b) const { return {a.re * b.re + a.im * b.im, a.im * b.re - a.re * b.im}; }
+  template <class V>
+  static HWY_INLINE V Re(V aRe, V aIm, V bRe, V bIm) {
+    return hn::Add(hn::Mul(aRe, bRe), hn::Mul(aIm, bIm));
+  }
+  template <class V>
+  static HWY_INLINE V Im(V aRe, V aIm, V bRe, V bIm) {
+    return hn::Sub(hn::Mul(aIm, bRe), hn::Mul(aRe, bIm));
+  }
 };
+
+template <class Op>
+Numbers ProductOf(const Numbers& a, const Numbers& b, ptrdiff_t n) {
+  Numbers product;
+  const auto re = [](auto... parts) HWY_ATTR { return Op::Re(parts...); };
+  const auto im = [](auto... parts) HWY_ATTR { return Op::Im(parts...); };
+  MapRow<false>(D(), product.re, n, re, a.re, a.im, b.re, b.im);
+  MapRow<false>(D(), product.im, n, im, a.re, a.im, b.re, b.im);
+  return product;
+}
 
 template <class Op>
 QvpStatus Multiply(const Image<const float>& a, const Image<const float>& b, const Image<float>& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
-  for (int c = 0; c < ProcessedChannels(dst.layout); ++c) {
-    const Channel<const float> first(a, c), second(b, c);
-    const Channel<float> to(dst, c);
-    ForEachEntry(
-        roi, [&](ptrdiff_t, ptrdiff_t, Place at) { to.Put(at, first.Get(at) * second.Get(at)); },
-        [&](ptrdiff_t, ptrdiff_t, Place re, Place im) {
-          const Number product = Op()({first.Get(re), first.Get(im)}, {second.Get(re), second.Get(im)});
-          to.Put(re, product.re);
-          to.Put(im, product.im);
-        });
-  }
+  const auto multiplyReal = [&](int c, Place, Place at) {
+    Channel<float>(dst, c).Put(at, Channel<const float>(a, c).Get(at) * Channel<const float>(b, c).Get(at));
+  };
+  ForEachRun(roi, dst.layout, multiplyReal, [&](int c, const Run& run) {
+    Numbers x, y;
+    LoadPacked({a, c}, run, x);
+    LoadPacked({b, c}, run, y);
+    StorePacked(ProductOf<Op>(x, y, run.count), run, {dst, c});
+  });
   return qvpStatusNoError;
 }
 
 // ---- Whole spectra, by X(W - u, H - v) = conj(X(u, v)).
 
-// Calls visit(place, X) for all places of the spectrum.
-template <class Visit>
-void ForEachFrequency(Size roi, const Channel<const float>& src, const Visit& visit) {
-  ForEachEntry(
-      roi,
-      [&](ptrdiff_t u, ptrdiff_t v, Place at) {
-        visit(Place{v, u}, Number{src.Get(at), 0});
-      },
-      [&](ptrdiff_t u, ptrdiff_t v, Place re, Place im) {
-        const Number x{src.Get(re), src.Get(im)};
-        visit(Place{v, u}, x);
-        visit(Place{v == 0 ? 0 : roi.height - v, u == 0 ? 0 : roi.width - u}, Number{x.re, -x.im});
-      });
+// Turns an array round, a vector at each end at a time.
+void Reverse(float* values, ptrdiff_t n) {
+  float *first = values, *end = values + n;
+  for (; end - first >= 2 * kLanes; first += kLanes, end -= kLanes) {
+    const auto lower = hn::LoadU(D(), first), upper = hn::LoadU(D(), end - kLanes);
+    hn::StoreU(hn::Reverse(D(), upper), D(), first);
+    hn::StoreU(hn::Reverse(D(), lower), D(), end - kLanes);
+  }
+  std::reverse(first, end);
+}
+
+// The frequency that has the conjugate.
+Place Opposite(Size roi, Place at) {
+  return {at.row == 0 ? 0 : roi.height - at.row, at.column == 0 ? 0 : roi.width - at.column};
 }
 
 // In double precision, where no square of a float overflows or vanishes.
 struct Magnitude {
-  float operator()(Number x) const {
-    const hn::FixedTag<double, 2> d;
-    const double re = x.re, im = x.im;
-    return static_cast<float>(hn::GetLane(hn::Sqrt(hn::Set(d, re * re + im * im))));
+  template <class V>
+  static HWY_INLINE V Of(V re, V im) {
+    return hn::Sqrt(hn::Add(hn::Mul(re, re), hn::Mul(im, im)));
+  }
+  // That of the conjugate.
+  template <class V>
+  static HWY_INLINE V Opposite(V magnitude, V) {
+    return magnitude;
   }
 };
 
 // In (-pi, pi], that of 0 is 0. A zero has no sign, so that both ends of a real number's pair get the same.
 struct Phase {
-  float operator()(Number x) const {
-    constexpr double kPi = 0x1.921fb54442d18p+1, kLargest = 0x1p+200;  // infinities become comparable
-    if (!(x.re == x.re && x.im == x.im)) return std::numeric_limits<float>::quiet_NaN();
-    const double re = std::min(std::fabs(static_cast<double>(x.re)), kLargest);
-    const double im = std::min(std::fabs(static_cast<double>(x.im)), kLargest);
-    const double longer = std::max(re, im);
-    const hn::FixedTag<double, 2> d;
-    double angle = longer > 0 ? hn::GetLane(ArcTangent(hn::Set(d, std::min(re, im) / longer))) : 0;
-    if (im > re) angle = kPi / 2 - angle;
-    if (x.re < 0) angle = kPi - angle;
-    return static_cast<float>(x.im < 0 ? -angle : angle);
+  template <class V>
+  static HWY_INLINE V Of(V re, V im) {
+    const hn::DFromV<V> d;
+    const V zero = hn::Zero(d), pi = hn::Set(d, 0x1.921fb54442d18p+1), halfPi = hn::Set(d, 0x1.921fb54442d18p+0);
+    const V largest = hn::Set(d, 0x1p+200);  // infinities become comparable
+    const V x = hn::Min(hn::Abs(re), largest), y = hn::Min(hn::Abs(im), largest), longer = hn::Max(x, y);
+    const V divisor = hn::IfThenElse(hn::Gt(longer, zero), longer, hn::Set(d, 1.0));
+    const V fromAxis = ArcTangent(hn::Div(hn::Min(x, y), divisor));
+    const V inQuadrant = hn::IfThenElse(hn::Gt(y, x), hn::Sub(halfPi, fromAxis), fromAxis);
+    const V above = hn::IfThenElse(hn::Lt(re, zero), hn::Sub(pi, inQuadrant), inQuadrant);
+    const V angle = hn::IfThenElse(hn::Lt(im, zero), hn::Neg(above), above);
+    const auto isNan = hn::Or(hn::IsNaN(re), hn::IsNaN(im));
+    return hn::IfThenElse(isNan, hn::Set(d, std::numeric_limits<double>::quiet_NaN()), angle);
+  }
+  template <class V>
+  static HWY_INLINE V Opposite(V angle, V im) {
+    const auto isSame = hn::Or(hn::Eq(im, hn::Zero(hn::DFromV<V>())), hn::IsNaN(angle));
+    return hn::IfThenElse(isSame, angle, hn::Neg(angle));
   }
 };
 
 template <class Op>
+void ShowNumbers(const float* re, const float* im, ptrdiff_t n, float* shown) {
+  MapRow<false>(
+      hn::ScalableTag<double>(), shown, n, [](auto x, auto y) HWY_ATTR { return Op::Of(x, y); }, re, im);
+}
+
+template <class Op>
+void ShowRun(const Channel<const float>& from, const Run& run, Size roi, const Channel<float>& to) {
+  Numbers x;
+  HWY_ALIGN float shown[kMostNumbers], opposite[kMostNumbers];
+  LoadPacked(from, run, x);
+  ShowNumbers<Op>(x.re, x.im, run.count, shown);
+  const auto ofConjugate = [](auto value, auto im) HWY_ATTR { return Op::Opposite(value, im); };
+  MapRow<false>(D(), opposite, run.count, ofConjugate, shown, x.im);
+  Reverse(opposite, run.count);
+  const ptrdiff_t stride = to.Distance(run.nextFrequency);
+  Scatter(shown, run.count, to.At(run.frequency), stride);
+  Scatter(opposite, run.count, to.At(Opposite(roi, run.LastFrequency())), stride);
+}
+
+template <class Op>
 QvpStatus Show(const Image<const float>& src, const Image<float>& dst, Size roi, Pointers others = {}) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, others)) return failed;
-  for (int c = 0; c < ProcessedChannels(dst.layout); ++c) {
-    const Channel<float> to(dst, c);
-    ForEachFrequency(roi, {src, c}, [&](Place at, Number x) { to.Put(at, Op()(x)); });
-  }
+  const auto showReal = [&](int c, Place frequency, Place at) {
+    const float re = Channel<const float>(src, c).Get(at), im = 0;
+    float shown;
+    ShowNumbers<Op>(&re, &im, 1, &shown);
+    Channel<float>(dst, c).Put(frequency, shown);
+  };
+  ForEachRun(roi, dst.layout, showReal, [&](int c, const Run& run) { ShowRun<Op>({src, c}, run, roi, {dst, c}); });
   return qvpStatusNoError;
 }
 
 QvpStatus Extend(const Image<const float>& src, const Image<float>& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst})) return failed;
+  const Channel<const float> from(src, 0);
   const Channel<float> re(dst, 0), im(dst, 1);
-  ForEachFrequency(roi, {src, 0}, [&](Place at, Number x) {
-    re.Put(at, x.re);
-    im.Put(at, x.im);
+  const auto extendReal = [&](int, Place frequency, Place at) {
+    re.Put(frequency, from.Get(at));
+    im.Put(frequency, 0);
+  };
+  ForEachRun(roi, src.layout, extendReal, [&](int, const Run& run) {
+    Numbers x;
+    const ptrdiff_t stride = re.Distance(run.nextFrequency);
+    const Place opposite = Opposite(roi, run.LastFrequency());
+    LoadPacked(from, run, x);
+    Store(x, run.count, re.At(run.frequency), im.At(run.frequency), stride);
+    MapRow<false>(
+        D(), x.im, run.count, [](auto v) HWY_ATTR { return hn::Neg(v); }, x.im);
+    Reverse(x.re, run.count);
+    Reverse(x.im, run.count);
+    Store(x, run.count, re.At(opposite), im.At(opposite), stride);
   });
   return qvpStatusNoError;
 }
@@ -152,15 +292,12 @@ QvpStatus Pack(const Image<const float>& src, const Image<float>& dst, Size roi)
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst})) return failed;
   const Channel<const float> re(src, 0), im(src, 1);
   const Channel<float> to(dst, 0);
-  ForEachEntry(
-      roi,
-      [&](ptrdiff_t u, ptrdiff_t v, Place at) {
-        to.Put(at, re.Get({v, u}));
-      },
-      [&](ptrdiff_t u, ptrdiff_t v, Place atRe, Place atIm) {
-        to.Put(atRe, re.Get({v, u}));
-        to.Put(atIm, im.Get({v, u}));
-      });
+  const auto packReal = [&](int, Place frequency, Place at) { to.Put(at, re.Get(frequency)); };
+  ForEachRun(roi, dst.layout, packReal, [&](int, const Run& run) {
+    Numbers x;
+    Load(re.At(run.frequency), im.At(run.frequency), re.Distance(run.nextFrequency), run.count, x);
+    StorePacked(x, run, to);
+  });
   return qvpStatusNoError;
 }
 
