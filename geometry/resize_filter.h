@@ -41,9 +41,10 @@ struct ColumnPlan {
 constexpr int kMostChannels = 4;
 
 // Adds up taps one by one: the products of samples(k), as many as there are channels, with weight(k). A tap that may be
-// left out contributes 0 where its weight is 0, whatever lies there.
-template <class F, class Samples, class Weight>
-void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weight& weight, F* sums) {
+// left out contributes 0 where its weight is 0, whatever lies there. `channels` is a number, or a type that stands for
+// one.
+template <class F, class Count, class Samples, class Weight>
+HWY_INLINE void AddTaps(const Taps& taps, Count channels, const Samples& samples, const Weight& weight, F* sums) {
   for (int k = 0; k < taps.count; ++k) {
     const F w = static_cast<F>(weight(k));
     const bool isRead = k < taps.certain || w != 0;
@@ -56,19 +57,33 @@ void AddTaps(const Taps& taps, int channels, const Samples& samples, const Weigh
 }
 
 // One pixel of a row, across.
-template <class F, class T, class Weights>
-void FilterPixel(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t x, F* sums) {
-  const auto pixel = [&](int k, bool isRead) {
-    return isRead ? row + plan.edge(plan.taps.first[x] + k) * plan.channels : row;
-  };
+template <class F, class Count, class T, class Weights>
+HWY_INLINE void FilterPixel(const ColumnPlan<T>& plan, Count channels, const Weights& weights, const T* row,
+                            ptrdiff_t x, F* sums) {
+  const auto pixel = [&](int k, bool isRead)
+                         HWY_ATTR { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
   AddTaps(
-      plan.taps, plan.channels, pixel, [&](int k) { return weights.At(k, x); }, sums);
+      plan.taps, channels, pixel, [&](int k) HWY_ATTR { return weights.At(k, x); }, sums);
+}
+
+template <int kChannels, class T, class Weights>
+void FilterEach(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
+                float* out) {
+  constexpr std::integral_constant<int, kChannels> kCount;
+  for (ptrdiff_t x = begin; x < end; ++x) {
+    float sums[kChannels];
+    FilterPixel(plan, kCount, weights, row, x, sums);
+    std::copy_n(sums, kChannels, out + x * kChannels);
+  }
 }
 
 template <class T, class Weights>
 void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                     float* out) {
-  for (ptrdiff_t x = begin; x < end; ++x) FilterPixel(plan, weights, row, x, out + x * plan.channels);
+  if (begin >= end) return;
+  if (plan.channels == 1) return FilterEach<1>(plan, weights, row, begin, end, out);
+  if (plan.channels == 3) return FilterEach<3>(plan, weights, row, begin, end, out);
+  FilterEach<4>(plan, weights, row, begin, end, out);
 }
 
 // Four samples of one place and of another one, in the low and the high block of a vector, and so on.
@@ -372,10 +387,23 @@ struct RowRing {
   ptrdiff_t step;  // samples
   int places;
 
+  // Positions are numbers of 32 bits, which are quicker to divide.
   S* Row(ptrdiff_t position) const {
-    ptrdiff_t place = position % places;
+    int place = static_cast<int32_t>(position) % places;
     if (place < 0) place += places;
     return at + place * step;
+  }
+
+  // The rows of kCount successive positions.
+  template <size_t kCount>
+  std::array<const S*, kCount> Rows(ptrdiff_t position) const {
+    const S* const end = at + places * step;
+    std::array<const S*, kCount> rows{Row(position)};
+    for (size_t k = 1; k < kCount; ++k) {
+      const S* next = rows[k - 1] + step;
+      rows[k] = next == end ? at : next;
+    }
+    return rows;
   }
 };
 
@@ -426,14 +454,13 @@ HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
   store(n - 2 * kLanes);
 }
 
-// dst = the weighted sum of kRows rows.
-template <int kRows, class T>
-void AddRows(const float* const* rows, const float* weights, T* dst, ptrdiff_t n) {
+// dst = the weighted sum of kRows rows, as many as there are taps.
+template <int kRows, class T, class Weights>
+void AddRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst, ptrdiff_t n) {
   const hn::ScalableTag<float> d;
-  const float* row[kRows];
+  const std::array<const float*, kRows> row = ring.template Rows<kRows>(taps.first[y]);
   float w[kRows];
-  std::copy_n(rows, kRows, row);
-  std::copy_n(weights, kRows, w);
+  for (int k = 0; k < kRows; ++k) w[k] = weights.At(k, y);
   StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
     auto sum = hn::Mul(hn::LoadU(d, row[0] + i), hn::Set(d, w[0]));
     for (int k = 1; k < kRows; ++k) sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row[k] + i), hn::Set(d, w[k])));
@@ -477,15 +504,12 @@ void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& tap
 template <class T, class Weights>
 void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst,
                  ptrdiff_t n) {
-  const int count = taps.count;
-  if (taps.certain < count || (count != 2 && count != 4 && count != 6)) return AddRing(ring, weights, taps, y, dst, n);
-  const float* rows[6] = {};
-  float w[6] = {};
-  for (int k = 0; k < count; ++k) {
-    rows[k] = ring.Row(taps.first[y] + k);
-    w[k] = weights.At(k, y);
-  }
-  (count == 2 ? AddRows<2, T> : count == 4 ? AddRows<4, T> : AddRows<6, T>)(rows, w, dst, n);
+  const int count = taps.certain < taps.count ? 0 : taps.count;
+  const auto add = count == 2   ? AddRows<2, T, Weights>
+                   : count == 4 ? AddRows<4, T, Weights>
+                   : count == 6 ? AddRows<6, T, Weights>
+                                : AddRing<T, Weights>;
+  add(ring, weights, taps, y, dst, n);
 }
 
 // A tile, by weights across and down. The rows of the ring need places * RowFloats(samples) floats at `rows`.
@@ -526,7 +550,7 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
       double pixel[kMostChannels] = {};
       const auto filtered = [&](int k, bool isRead) {
         const double* row = SourceRow(call, tile, rowEdge(rowTaps.first[y] + k));
-        if (isRead) FilterPixel(plan, across, row, x, pixel);
+        if (isRead) FilterPixel(plan, channels, across, row, x, pixel);
         return pixel;
       };
       AddTaps(

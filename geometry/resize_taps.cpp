@@ -34,16 +34,10 @@ class TapColumns : public FixedColumns {
   }
 
   void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
-    for (ptrdiff_t x = begin; x < end; ++x) {
-      int sums[kMostChannels] = {};
-      for (int k = 0; k < taps.count; ++k) {
-        const uint8_t* pixel = Pixel(row, taps.first[x] + k);
-        const int weight = weights_[k / 2 * 2 * plane_ + 2 * x + k % 2];
-        for (int c = 0; c < channels; ++c) sums[c] += pixel[c] * weight;
-      }
-      constexpr int kHalf = 1 << (kAcrossShift - 1);
-      for (int c = 0; c < channels; ++c) out[x * channels + c] = Saturated((sums[c] + kHalf) >> kAcrossShift);
-    }
+    if (begin >= end) return;
+    if (channels == 1) return FilterEach<1>(row, begin, end, out);
+    if (channels == 3) return FilterEach<3>(row, begin, end, out);
+    FilterEach<4>(row, begin, end, out);
   }
 
  private:
@@ -63,6 +57,22 @@ class TapColumns : public FixedColumns {
         offsets);
     for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
       pixelOf_[i] = (i / static_cast<int>(kSamples) + i % static_cast<int>(kSamples)) / nc;
+    }
+  }
+
+  template <int kChannels>
+  void FilterEach(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+    const Edge place = edge;
+    for (ptrdiff_t x = begin; x < end; ++x) {
+      int sums[kChannels] = {};
+      const int16_t* weights = weights_ + 2 * x;
+      for (int k = 0; k < taps.count; ++k) {
+        const uint8_t* pixel = row + place(taps.first[x] + k) * kChannels;
+        for (int c = 0; c < kChannels; ++c) sums[c] += pixel[c] * weights[k % 2];
+        weights += k % 2 * 2 * plane_;
+      }
+      constexpr int kHalf = 1 << (kAcrossShift - 1);
+      for (int c = 0; c < kChannels; ++c) out[x * kChannels + c] = Saturated((sums[c] + kHalf) >> kAcrossShift);
     }
   }
 
@@ -149,9 +159,8 @@ void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* w
                  ptrdiff_t samples) {
   const hn::CappedTag<int16_t, 16> d;
   const hn::Repartition<int32_t, hn::CappedTag<int16_t, 16>> wide;
-  const int16_t* rows[2 * kPairs];
+  const std::array<const int16_t*, 2 * kPairs> rows = ring.Rows<2 * kPairs>(first);
   int32_t pairs[kPairs];
-  for (int k = 0; k < 2 * kPairs; ++k) rows[k] = ring.Row(first + k);
   for (int k = 0; k < kPairs; ++k) std::memcpy(&pairs[k], weights + 2 * k * plane, sizeof(int32_t));
   StoreBytes(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
     auto low = hn::Set(wide, 1 << (kDownShift - 1)), high = low;
