@@ -1,5 +1,7 @@
 // Resize by linear interpolation: in 16-bit lanes for 8-bit pixels and weights in units of 1/16384, else in floating
 // point.
+#include <hwy/cache_control.h>
+
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_fixed.h"
@@ -25,8 +27,12 @@ void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* 
 class LinearColumns : public FixedColumns {
  public:
   // `room` is for the shuffles and weights: 4 bytes for each sample and each column.
-  LinearColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int nc, uint8_t* room)
-      : FixedColumns(record, tile, border, nc), weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
+  LinearColumns(const ResizeRecord& record, const Tile& tile, const ResizeCall<uint8_t>& call, uint8_t* room)
+      : FixedColumns(record, tile, call.border, Channels(call.src.layout)),
+        weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
+    const int nc = channels;
+    const ResizeAxis& down = record.rows;
+    if (std::abs(call.src.step) <= kLongestFetched) ahead_ = std::max(2, down.p / down.q) * call.src.step;
     const GatherShape shape{2, nc, nc};
     const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
     if (loads == 0 || InnerSamples() < 1) return;
@@ -46,6 +52,7 @@ class LinearColumns : public FixedColumns {
     const uint8_t* mask = gather.masks();
     const int32_t* offsets = gather.offsets();
     const int16_t* weight = doubled_;
+    const ptrdiff_t ahead = ahead_;
     for (int16_t*& row : out) row += taps.from * channels;
     const auto filter = [&](ptrdiff_t at) HWY_ATTR {
       const auto w = hn::LoadU(d16, weight);
@@ -53,6 +60,7 @@ class LinearColumns : public FixedColumns {
       hn::Vec<decltype(d16)> h[kRows];
       for (size_t i = 0; i < kRows; ++i) {
         const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
+        if (ahead != 0) hwy::Prefetch(rows[i] + ahead + offsets[0]);
         h[i] = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
       }
       for (size_t i = 0; i < kRows; ++i) hn::StoreU(h[i], d16, out[i] + at);
@@ -77,6 +85,9 @@ class LinearColumns : public FixedColumns {
 
  private:
   static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
+  // Rows of up to a page of memory end before the CPU has noticed where to read on: those that are filtered next are
+  // asked for early. Longer ones only get slower by that.
+  static constexpr ptrdiff_t kLongestFetched = 4096;
 
   template <int kChannels>
   void Plan(const GatherShape& shape, int loads, uint8_t* masks, int32_t* offsets) {
@@ -96,13 +107,14 @@ class LinearColumns : public FixedColumns {
 
   const int16_t* weights_;
   int16_t* doubled_ = nullptr;
+  ptrdiff_t ahead_ = 0;
 };
 
 void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
   const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples);
   auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
-  const LinearColumns columns(record, tile, call.border, channels, reinterpret_cast<uint8_t*>(rows + 2 * step));
+  const LinearColumns columns(record, tile, call, reinterpret_cast<uint8_t*>(rows + 2 * step));
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
   const RowRing<int16_t> ring{rows, step, 2};
