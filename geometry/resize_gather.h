@@ -20,6 +20,19 @@ struct GatherShape {
   int reach = apart;  // how far behind the first byte there are others that one load has to have, too
 };
 
+// The most samples that the first taps of some successive outputs can lie apart. From channel c on, output i is of
+// channel (c + i) mod channels of the pixel (c + i) / channels further. Four channels begin with the first one.
+inline int64_t SpanOf(int outputs, int channels, int64_t p, int64_t q) {
+  int64_t span = channels - 1;
+  for (int c = 0; c < (channels == 4 ? 1 : channels); ++c) {
+    for (int end = c + std::max(0, outputs - channels); end < c + outputs; ++end) {
+      const int pixels = end / channels;
+      span = std::max(span, (pixels * p + q - 1) / q * channels + end % channels - c);
+    }
+  }
+  return span;
+}
+
 // Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
 // four are not enough.
 inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
@@ -27,10 +40,7 @@ inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
     if (loads < shape.leastLoads) continue;
     const int outputs = kBlockBytes / shape.lane / loads;
     if (outputs == 0) break;
-    const int pixels =
-        shape.channels == 4 ? std::max(outputs / 4, 1) : (outputs + shape.channels - 2) / shape.channels + 1;
-    const int64_t between = ((pixels - 1) * p + q - 1) / q;
-    if ((between * shape.channels + shape.channels) * shape.sampleBytes + shape.reach <= kBlockBytes) return loads;
+    if ((SpanOf(outputs, shape.channels, p, q) + 1) * shape.sampleBytes + shape.reach <= kBlockBytes) return loads;
   }
   return 0;
 }

@@ -21,7 +21,7 @@ class TapColumns : public FixedColumns {
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
     const ResizeAxis& axis = record.columns;
     const GatherShape pairs{4, nc, nc}, all{4, nc, nc, 1, 1, (taps.count - 1) * nc};
-    hasAll_ = nc == 1 && LoadsFor(all, axis.p, axis.q) == 1;
+    hasAll_ = LoadsFor(all, axis.p, axis.q) == 1;
     const int loads = hasAll_ ? 1 : LoadsFor(pairs, axis.p, axis.q);
     if (loads > 0 && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
   }
@@ -78,7 +78,7 @@ class TapColumns : public FixedColumns {
 
   template <int kLoads, int kChannels, size_t kRows>
   void FilterChannels(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    constexpr bool kCanHaveAll = kLoads == 1 && kChannels == 1;
+    constexpr bool kCanHaveAll = kLoads == 1;
     if (hasAll_) return FilterPairs<kLoads, kChannels, kRows, kCanHaveAll>(rows, out);
     FilterPairs<kLoads, kChannels, kRows, false>(rows, out);
   }
@@ -127,7 +127,7 @@ class TapColumns : public FixedColumns {
       for (auto& sum : sums) sum = hn::Set(d, 1 << (kAcrossShift - 1));
       for (int k = 0; k < kPairs; ++k) {
         const auto w = WeightsOf<kChannels>(weights + k * plane, start);
-        const auto shuffle = kHasAll ? hn::Add(first, hn::Set(GatherTag(), static_cast<uint8_t>(2 * k))) : first;
+        const auto shuffle = kHasAll ? hn::Add(first, hn::Set(GatherTag(), static_cast<uint8_t>(2 * k * kChannels))) : first;
         for (size_t i = 0; i < kRows; ++i) {
           const auto pairs = GatherVector<kLoads>(rows[i] + (kHasAll ? 0 : 2 * k * kChannels), offsets, shuffle);
           sums[i] = hn::Add(sums[i], MulAddPairs(hn::BitCast(Words(), pairs), w));
