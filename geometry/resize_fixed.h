@@ -25,32 +25,17 @@ struct FixedColumns {
 };
 
 // Filters one row, or two at once, which share what is loaded for each vector of columns.
-template <size_t kRows, class Columns>
-void FilterFixed(const Columns& columns, const std::array<const uint8_t*, kRows>& rows,
-                 const std::array<int16_t*, kRows>& out) {
+template <class Columns, class Rows, class Out>
+void FilterFixed(const Columns& columns, const Rows& rows, const Out& out) {
   const Taps& taps = columns.taps;
   const Gather& gather = columns.gather;
   const bool hasVectors = gather.count() > 0;
-  if (hasVectors && gather.loads() == 1) columns.template FilterVectors<1, kRows>(rows, out);
-  if (hasVectors && gather.loads() == 2) columns.template FilterVectors<2, kRows>(rows, out);
-  if (hasVectors && gather.loads() == 4) columns.template FilterVectors<4, kRows>(rows, out);
-  for (size_t i = 0; i < kRows; ++i) {
-    columns.FilterOneByOne(rows[i], 0, taps.from, out[i]);
-    columns.FilterOneByOne(rows[i], hasVectors ? taps.to : taps.from, taps.length, out[i]);
-  }
-}
-
-// A tile whose filtered rows lie in `ring`: combine(y) makes its row y of them.
-template <class Columns, class Combine>
-void FilterFixedTile(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile, const Taps& rowTaps,
-                     const Columns& columns, const RowRing<int16_t>& ring, const Combine& combine) {
-  const Edge edge = RowEdge(call.border, record);
-  const auto source = [&](ptrdiff_t position) { return SourceRow(call, tile, edge(position)); };
-  const auto place = [&](ptrdiff_t position) { return ring.Row(position); };
-  const auto filter = [&](ptrdiff_t begin, ptrdiff_t end) {
-    ForTwo(begin, end, source, place, [&](const auto& rows, const auto& out) { FilterFixed(columns, rows, out); });
-  };
-  WalkDown(rowTaps, filter, combine, [](int, ptrdiff_t) { return true; });
+  if (hasVectors && gather.loads() == kSharedLoad) columns.template FilterVectors<kSharedLoad>(rows, out);
+  if (hasVectors && gather.loads() == 1) columns.template FilterVectors<1>(rows, out);
+  if (hasVectors && gather.loads() == 2) columns.template FilterVectors<2>(rows, out);
+  if (hasVectors && gather.loads() == 4) columns.template FilterVectors<4>(rows, out);
+  columns.FilterOneByOne(rows, 0, taps.from, out);
+  columns.FilterOneByOne(rows, hasVectors ? taps.to : taps.from, taps.length, out);
 }
 
 }  // namespace qvp

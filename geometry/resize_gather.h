@@ -33,6 +33,15 @@ inline int64_t SpanOf(int outputs, int channels, int64_t p, int64_t q) {
   return span;
 }
 
+// Whether one load of 16 bytes is enough for so many outputs, p / q source pixels apart.
+inline bool IsOneLoad(const GatherShape& shape, int outputs, int64_t p, int64_t q) {
+  return (SpanOf(outputs, shape.channels, p, q) + 1) * shape.sampleBytes + shape.reach <= kBlockBytes;
+}
+
+// In place of a number of loads for each block: one load for all blocks of a vector.
+inline constexpr int kSharedLoad = -1;
+constexpr ptrdiff_t OffsetsOfVector(int loads) { return loads == kSharedLoad ? 1 : loads * kGatherBlocks; }
+
 // Loads of 16 bytes for each 16-byte block that are enough for outputs p / q source pixels apart: 1, 2 or 4, or 0 where
 // four are not enough.
 inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
@@ -40,9 +49,15 @@ inline int LoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
     if (loads < shape.leastLoads) continue;
     const int outputs = kBlockBytes / shape.lane / loads;
     if (outputs == 0) break;
-    if ((SpanOf(outputs, shape.channels, p, q) + 1) * shape.sampleBytes + shape.reach <= kBlockBytes) return loads;
+    if (IsOneLoad(shape, outputs, p, q)) return loads;
   }
   return 0;
+}
+
+// The same, or kSharedLoad where that is enough.
+inline int FewestLoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
+  const bool isShared = kGatherBlocks > 1 && IsOneLoad(shape, static_cast<int>(kGatherBytes) / shape.lane, p, q);
+  return isShared ? kSharedLoad : LoadsFor(shape, p, q);
 }
 
 // The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
@@ -58,12 +73,12 @@ class Gather {
 
   Gather() = default;
 
-  // `masks` has room for kGatherBytes a vector, `offsets` for loads * kGatherBlocks numbers.
+  // `masks` has room for kGatherBytes a vector, `offsets` for OffsetsOfVector(loads) numbers.
   template <class Place>
   Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place, uint8_t* masks,
          int32_t* offsets)
       : masks_(masks), offsets_(offsets), loads_(loads) {
-    const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = kBlockBytes / shape.lane / loads;
+    const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = perVector / OffsetsOfVector(loads);
     if (samples < perVector || end - place(0) < kBlockBytes) return;
     count_ = Vectors(shape, samples);
     for (ptrdiff_t v = 0; v < count_; ++v) {
@@ -127,7 +142,9 @@ HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* of
   const hn::Repartition<uint64_t, GatherTag> d64;
   const hn::Repartition<uint32_t, GatherTag> d32;
   const auto part = [&](int i) HWY_ATTR { return hn::TableLookupBytes(LoadBlocks(row, offsets + i, kLoads), shuffle); };
-  if constexpr (kLoads == 1) {
+  if constexpr (kLoads == kSharedLoad) {
+    return hn::TableLookupBytes(hn::LoadDup128(d, row + offsets[0]), shuffle);
+  } else if constexpr (kLoads == 1) {
     return part(0);
   } else if constexpr (kLoads == 2) {
     return hn::BitCast(d, hn::OddEven(hn::BitCast(d64, part(1)), hn::BitCast(d64, part(0))));

@@ -34,7 +34,7 @@ class LinearColumns : public FixedColumns {
     const ResizeAxis& down = record.rows;
     if (std::abs(call.src.step) <= kLongestFetched) ahead_ = std::max(2, down.p / down.q) * call.src.step;
     const GatherShape shape{2, nc, nc};
-    const int loads = LoadsFor(shape, record.columns.p, record.columns.q);
+    const int loads = FewestLoadsFor(shape, record.columns.p, record.columns.q);
     if (loads == 0 || InnerSamples() < 1) return;
     const ptrdiff_t bytes = Gather::Vectors(shape, InnerSamples()) * kGatherBytes;
     doubled_ = reinterpret_cast<int16_t*>(room);
@@ -69,17 +69,21 @@ class LinearColumns : public FixedColumns {
     for (ptrdiff_t at = 0; at < last; at += kSamples) {
       filter(at);
       mask += kGatherBytes;
-      offsets += kLoads * kGatherBlocks;
+      offsets += OffsetsOfVector(kLoads);
       weight += kSamples;
     }
     filter(last);
   }
 
-  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+  template <size_t kRows>
+  void FilterOneByOne(const std::array<const uint8_t*, kRows>& rows, ptrdiff_t begin, ptrdiff_t end,
+                      const std::array<int16_t*, kRows>& out) const {
     for (ptrdiff_t x = begin; x < end; ++x) {
-      const uint8_t* l = Pixel(row, taps.first[x]);
-      const uint8_t* r = Pixel(row, taps.first[x] + ptrdiff_t{1});
-      for (int c = 0; c < channels; ++c) out[x * channels + c] = Across(l[c], r[c], weights_[2 * x + 1]);
+      for (size_t i = 0; i < kRows; ++i) {
+        const uint8_t* l = Pixel(rows[i], taps.first[x]);
+        const uint8_t* r = Pixel(rows[i], taps.first[x] + ptrdiff_t{1});
+        for (int c = 0; c < channels; ++c) out[i][x * channels + c] = Across(l[c], r[c], weights_[2 * x + 1]);
+      }
     }
   }
 
@@ -118,10 +122,17 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
   const RowRing<int16_t> ring{rows, step, 2};
-  FilterFixedTile(call, record, tile, rowTaps, columns, ring, [&](ptrdiff_t y) {
-    const ptrdiff_t first = rowTaps.first[y];
-    BlendRows(ring.Row(first), ring.Row(first + 1), weights[y], call.dst.Row(y), samples);
-  });
+  const Edge edge = RowEdge(call.border, record);
+  const auto source = [&](ptrdiff_t position) { return SourceRow(call, tile, edge(position)); };
+  const auto place = [&](ptrdiff_t position) { return ring.Row(position); };
+  const auto filter = [&](ptrdiff_t begin, ptrdiff_t end) {
+    ForTwo(begin, end, source, place, [&](const auto& from, const auto& out) { FilterFixed(columns, from, out); });
+  };
+  const auto blend = [&](ptrdiff_t y) {
+    const auto [upper, lower] = ring.Rows<2>(rowTaps.first[y]);
+    BlendRows(upper, lower, weights[y], call.dst.Row(y), samples);
+  };
+  WalkDown(rowTaps, filter, blend, [](int, ptrdiff_t) { return true; });
 }
 
 // Work memory: two rows, then room for weights that have to be converted.

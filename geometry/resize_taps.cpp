@@ -7,37 +7,42 @@
 namespace qvp {
 namespace {
 
-// Filtered rows have 6 bits of fraction, and are saturated to 16 bits: overshoots may leave [0, 64 * 255].
+// Filtered rows have 6 bits of fraction. They fit 16 bits: the absolute weights of a position sum to at most 2.8, the
+// positive ones thus to 1.9 and the negative ones to -0.9, and 1.9 * 64 * 255 is 31008.
 constexpr int kAcrossShift = 8, kDownShift = 20;
 
-int16_t Saturated(int v) { return static_cast<int16_t>(std::clamp<int>(v, INT16_MIN, INT16_MAX)); }
+// Filters two rows at once, into a row of pairs: the numbers of both rows for a sample lie beside each other, as the
+// multiplication of pairs needs them.
+using RowPair = std::array<const uint8_t*, 2>;
 
 class TapColumns : public FixedColumns {
  public:
-  // `room` is for the shuffles: 8 bytes for each sample, in units of 8 samples.
+  // `room` is for the shuffles: 5 bytes for each sample, or up to 8 of one channel or six taps, in units of 8 samples.
   TapColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int nc, uint8_t* room)
       : FixedColumns(record, tile, border, nc),
         plane_(static_cast<ptrdiff_t>(PlaneOf(record.width))),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
     const ResizeAxis& axis = record.columns;
     const GatherShape pairs{4, nc, nc}, all{4, nc, nc, 1, 1, (taps.count - 1) * nc};
-    hasAll_ = LoadsFor(all, axis.p, axis.q) == 1;
-    const int loads = hasAll_ ? 1 : LoadsFor(pairs, axis.p, axis.q);
-    if (loads > 0 && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
+    const int forAll = FewestLoadsFor(all, axis.p, axis.q);
+    hasAll_ = forAll == kSharedLoad || forAll == 1;
+    const int loads = hasAll_ ? forAll : LoadsFor(pairs, axis.p, axis.q);
+    const bool isRoom = loads < 2 || nc == 1 || taps.count == 6;
+    if (loads != 0 && isRoom && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
   }
 
-  template <int kLoads, size_t kRows>
-  void FilterVectors(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    if (channels == 1) return FilterChannels<kLoads, 1, kRows>(rows, out);
-    if (channels == 3) return FilterChannels<kLoads, 3, kRows>(rows, out);
-    FilterChannels<kLoads, 4, kRows>(rows, out);
+  template <int kLoads>
+  void FilterVectors(const RowPair& rows, int16_t* out) const {
+    if (channels == 1) return FilterChannels<kLoads, 1>(rows, out);
+    if (channels == 3) return FilterChannels<kLoads, 3>(rows, out);
+    FilterChannels<kLoads, 4>(rows, out);
   }
 
-  void FilterOneByOne(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+  void FilterOneByOne(const RowPair& rows, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
     if (begin >= end) return;
-    if (channels == 1) return FilterEach<1>(row, begin, end, out);
-    if (channels == 3) return FilterEach<3>(row, begin, end, out);
-    FilterEach<4>(row, begin, end, out);
+    if (channels == 1) return FilterEach<1>(rows, begin, end, out);
+    if (channels == 3) return FilterEach<3>(rows, begin, end, out);
+    FilterEach<4>(rows, begin, end, out);
   }
 
  private:
@@ -61,32 +66,35 @@ class TapColumns : public FixedColumns {
   }
 
   template <int kChannels>
-  void FilterEach(const uint8_t* row, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
+  void FilterEach(const RowPair& rows, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
     const Edge place = edge;
+    const int count = taps.count;
     for (ptrdiff_t x = begin; x < end; ++x) {
-      int sums[kChannels] = {};
+      int sums[2 * kChannels];
+      std::fill_n(sums, 2 * kChannels, 1 << (kAcrossShift - 1));
       const int16_t* weights = weights_ + 2 * x;
-      for (int k = 0; k < taps.count; ++k) {
-        const uint8_t* pixel = row + place(taps.first[x] + k) * kChannels;
-        for (int c = 0; c < kChannels; ++c) sums[c] += pixel[c] * weights[k % 2];
+      for (int k = 0; k < count; ++k) {
+        const ptrdiff_t at = place(taps.first[x] + k) * kChannels;
+        for (int i = 0; i < 2 * kChannels; ++i) sums[i] += rows[i % 2][at + i / 2] * weights[k % 2];
         weights += k % 2 * 2 * plane_;
       }
-      constexpr int kHalf = 1 << (kAcrossShift - 1);
-      for (int c = 0; c < kChannels; ++c) out[x * kChannels + c] = Saturated((sums[c] + kHalf) >> kAcrossShift);
+      for (int i = 0; i < 2 * kChannels; ++i) {
+        out[x * 2 * kChannels + i] = static_cast<int16_t>(sums[i] >> kAcrossShift);
+      }
     }
   }
 
-  template <int kLoads, int kChannels, size_t kRows>
-  void FilterChannels(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    constexpr bool kCanHaveAll = kLoads == 1;
-    if (hasAll_) return FilterPairs<kLoads, kChannels, kRows, kCanHaveAll>(rows, out);
-    FilterPairs<kLoads, kChannels, kRows, false>(rows, out);
+  template <int kLoads, int kChannels>
+  void FilterChannels(const RowPair& rows, int16_t* out) const {
+    constexpr bool kCanHaveAll = kLoads == kSharedLoad || kLoads == 1;
+    if (hasAll_) return FilterPairs<kLoads, kChannels, kCanHaveAll>(rows, out);
+    FilterPairs<kLoads, kChannels, false>(rows, out);
   }
 
-  template <int kLoads, int kChannels, size_t kRows, bool kHasAll>
-  void FilterPairs(const std::array<const uint8_t*, kRows>& rows, const std::array<int16_t*, kRows>& out) const {
-    taps.count == 4 ? FilterAll<kLoads, kChannels, 2, kRows, kHasAll>(rows, out)
-                    : FilterAll<kLoads, kChannels, 3, kRows, kHasAll>(rows, out);
+  template <int kLoads, int kChannels, bool kHasAll>
+  void FilterPairs(const RowPair& rows, int16_t* out) const {
+    taps.count == 4 ? FilterAll<kLoads, kChannels, 2, kHasAll>(rows, out)
+                    : FilterAll<kLoads, kChannels, 3, kHasAll>(rows, out);
   }
 
   // The weights of the taps' pair k for the samples from `start` on.
@@ -101,49 +109,35 @@ class TapColumns : public FixedColumns {
     return hn::BitCast(Words(), w);
   }
 
-  // The sums of one row, or of two, as 16-bit numbers.
-  static HWY_INLINE void Store(hn::Vec<Sums> sum, int16_t* out) {
-    const hn::Rebind<int16_t, Sums> narrow;
-    hn::StoreU(hn::DemoteTo(narrow, sum), narrow, out);
-  }
-  static HWY_INLINE void Store(hn::Vec<Sums> first, hn::Vec<Sums> second, int16_t* firstOut, int16_t* secondOut) {
-    const hn::Half<Words> half;
-    const auto both = PackedInOrder<int16_t>(first, second);
-    hn::StoreU(hn::LowerHalf(half, both), half, firstOut);
-    hn::StoreU(hn::UpperHalf(half, both), half, secondOut);
-  }
-
-  template <int kLoads, int kChannels, int kPairs, size_t kRows, bool kHasAll>
-  void FilterAll(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
+  template <int kLoads, int kChannels, int kPairs, bool kHasAll>
+  void FilterAll(const RowPair rows, int16_t* out) const {
     const Sums d;
     const uint8_t* mask = gather.masks();
     const int32_t* offsets = gather.offsets();
     const int16_t* weights = weights_ + 2 * taps.from;
     const ptrdiff_t plane = 2 * plane_, last = InnerSamples() - kSamples;
-    for (int16_t*& row : out) row += taps.from * kChannels;
+    out += 2 * taps.from * kChannels;
     const auto filter = [&](ptrdiff_t start) HWY_ATTR {
       const auto first = hn::LoadU(GatherTag(), mask);
-      hn::Vec<Sums> sums[kRows];
+      hn::Vec<Sums> sums[2];
       for (auto& sum : sums) sum = hn::Set(d, 1 << (kAcrossShift - 1));
       for (int k = 0; k < kPairs; ++k) {
         const auto w = WeightsOf<kChannels>(weights + k * plane, start);
-        const auto shuffle = kHasAll ? hn::Add(first, hn::Set(GatherTag(), static_cast<uint8_t>(2 * k * kChannels))) : first;
-        for (size_t i = 0; i < kRows; ++i) {
+        const auto further = hn::Set(GatherTag(), static_cast<uint8_t>(2 * k * kChannels));
+        const auto shuffle = kHasAll && k > 0 ? hn::Add(first, further) : first;
+        for (size_t i = 0; i < 2; ++i) {
           const auto pairs = GatherVector<kLoads>(rows[i] + (kHasAll ? 0 : 2 * k * kChannels), offsets, shuffle);
           sums[i] = hn::Add(sums[i], MulAddPairs(hn::BitCast(Words(), pairs), w));
         }
       }
-      for (auto& sum : sums) sum = hn::ShiftRight<kAcrossShift>(sum);
-      if constexpr (kRows == 1) {
-        Store(sums[0], out[0] + start);
-      } else {
-        Store(sums[0], sums[1], out[0] + start, out[1] + start);
-      }
+      const auto even = hn::BitCast(Words(), hn::ShiftRight<kAcrossShift>(sums[0]));
+      const auto odd = hn::BitCast(Words(), hn::ShiftLeft<16 - kAcrossShift>(sums[1]));
+      hn::StoreU(hn::OddEven(odd, even), Words(), out + 2 * start);
     };
     for (ptrdiff_t start = 0; start < last; start += kSamples) {
       filter(start);
       mask += kGatherBytes;
-      offsets += kLoads * kGatherBlocks;
+      offsets += OffsetsOfVector(kLoads);
     }
     filter(last);
   }
@@ -154,39 +148,57 @@ class TapColumns : public FixedColumns {
   bool hasAll_ = false;            // whether one load has all taps of its outputs
 };
 
+// dst = the sum of kPairs rows of pairs, by the weights of both rows of each.
 template <int kPairs>
-void CombineRows(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* weights, ptrdiff_t plane, uint8_t* dst,
-                 ptrdiff_t samples) {
-  const hn::CappedTag<int16_t, 16> d;
-  const hn::Repartition<int32_t, hn::CappedTag<int16_t, 16>> wide;
-  const std::array<const int16_t*, 2 * kPairs> rows = ring.Rows<2 * kPairs>(first);
+void AddPairs(const std::array<const int16_t*, kPairs>& rows, const int16_t* weights, uint8_t* dst, ptrdiff_t samples) {
+  const hn::CappedTag<int32_t, 8> d;
+  const hn::Repartition<int16_t, hn::CappedTag<int32_t, 8>> words;
   int32_t pairs[kPairs];
-  for (int k = 0; k < kPairs; ++k) std::memcpy(&pairs[k], weights + 2 * k * plane, sizeof(int32_t));
-  StoreBytes(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
-    auto low = hn::Set(wide, 1 << (kDownShift - 1)), high = low;
+  std::memcpy(pairs, weights, sizeof(pairs));
+  const auto row = rows;
+  StoreRow(d, dst, samples, [&](ptrdiff_t i) HWY_ATTR {
+    auto sum = hn::Set(d, 1 << (kDownShift - 1));
     for (int k = 0; k < kPairs; ++k) {
-      const auto a = hn::LoadU(d, rows[2 * k] + i), b = hn::LoadU(d, rows[2 * k + 1] + i);
-      const auto w = hn::BitCast(d, hn::Set(wide, pairs[k]));
-      low = hn::Add(low, MulAddPairs(hn::InterleaveLower(d, a, b), w));
-      high = hn::Add(high, MulAddPairs(hn::InterleaveUpper(d, a, b), w));
+      const auto w = hn::BitCast(words, hn::Set(d, pairs[k]));
+      sum = hn::Add(sum, MulAddPairs(hn::LoadU(words, row[k] + 2 * i), w));
     }
-    return hn::ReorderDemote2To(d, hn::ShiftRight<kDownShift>(low), hn::ShiftRight<kDownShift>(high));
+    return hn::ShiftRight<kDownShift>(sum);
   });
 }
 
+// The same for 2 * kPairs taps from row `first` on. An odd one is the second of its pair, and so is a pair more needed.
+template <int kPairs>
+void CombinePairs(const RowRing<int16_t>& ring, ptrdiff_t first, const int16_t* weights, ptrdiff_t plane, uint8_t* dst,
+                  ptrdiff_t samples) {
+  int16_t all[2 * kPairs + 2] = {};
+  const bool isOdd = first % 2 != 0;
+  for (int k = 0; k < 2 * kPairs; ++k) all[k + isOdd] = weights[k / 2 * 2 * plane + k % 2];
+  if (isOdd) return AddPairs<kPairs + 1>(ring.Rows<kPairs + 1>(first / 2), all, dst, samples);
+  AddPairs<kPairs>(ring.Rows<kPairs>(first / 2), all, dst, samples);
+}
+
+// Source rows are filtered by twos from the tile's first one on, and at the end perhaps the last one twice.
 void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
-  const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples), plane = PlaneOf(record.height);
+  const ptrdiff_t samples = tile.width * channels, step = 2 * RowFloats(samples), plane = PlaneOf(record.height);
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
-  auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
-  auto* room = reinterpret_cast<uint8_t*>(rows + rowTaps.count * step);
+  const ptrdiff_t base = rowTaps.first[0], last = rowTaps.first[tile.height - 1] + rowTaps.count - 1 - base;
+  const RowRing<int16_t> ring{reinterpret_cast<int16_t*>(AtBoundary(call.buffer)), step, rowTaps.count / 2 + 1};
+  auto* room = reinterpret_cast<uint8_t*>(ring.at + ring.places * step);
   const TapColumns columns(record, tile, call.border, channels, room);
+  const Edge edge = RowEdge(call.border, record);
+  const auto source = [&](ptrdiff_t row) { return SourceRow(call, tile, edge(base + std::min(row, last))); };
   const int16_t* weights = record.Weights<int16_t>(record.rows) + 2 * tile.y;
-  const RowRing<int16_t> ring{rows, step, rowTaps.count};
-  const auto combine = rowTaps.count == 4 ? CombineRows<2> : CombineRows<3>;
-  FilterFixedTile(call, record, tile, rowTaps, columns, ring, [&](ptrdiff_t y) {
-    combine(ring, rowTaps.first[y], weights + 2 * y, plane, call.dst.Row(y), samples);
-  });
+  const auto combine = rowTaps.count == 4 ? CombinePairs<2> : CombinePairs<3>;
+  ptrdiff_t next = 0;  // pair of rows
+  for (ptrdiff_t y = 0; y < tile.height; ++y) {
+    const ptrdiff_t first = rowTaps.first[y] - base;
+    next = std::max(next, first / 2);
+    for (; 2 * next < first + rowTaps.count; ++next) {
+      FilterFixed(columns, RowPair{source(2 * next), source(2 * next + 1)}, ring.Row(next));
+    }
+    combine(ring, first, weights + 2 * y, plane, call.dst.Row(y), samples);
+  }
 }
 
 template <class Weights>
