@@ -263,6 +263,17 @@ class PixelRows {
       : rows_{rows[0], rows[kRows - 1]}, out_{out[0], out[kRows - 1]}, channels_(channels) {}
 
   HWY_INLINE hn::Vec<D> Load(ptrdiff_t pixel) const { return LoadPixels(D(), rows_, pixel * channels_); }
+
+  // n pixels as Load gives them, one after the other. Several bytes are turned into pixels by shuffles of one load.
+  void Stage(ptrdiff_t first, ptrdiff_t n, float* staged) const {
+    ptrdiff_t i = 0;
+    if constexpr (sizeof(T) == 1) {
+      const ptrdiff_t loaded = (kBlockBytes + channels_ - 1) / channels_;  // pixels that a load touches
+      for (; i + loaded <= n; i += kAtOnce) StageBytes(first + i, staged + i * kLanes);
+    }
+    for (; i < n; ++i) hn::Store(Load(first + i), D(), staged + i * kLanes);
+  }
+
   HWY_INLINE void Store(hn::Vec<D> pixels, ptrdiff_t x) const {
     const hn::Full128<float> block;
     if constexpr (kRows == 1) {
@@ -274,7 +285,29 @@ class PixelRows {
   }
 
  private:
-  static constexpr int kRows = hn::MaxLanes(D()) * sizeof(float) / kBlockBytes;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kAtOnce = 4;
+  static constexpr int kRows = kLanes * sizeof(float) / kBlockBytes;
+
+  HWY_INLINE void StageBytes(ptrdiff_t first, float* staged) const {
+    HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 128, 128, 128, 1, 128, 128, 128,
+                                                      2, 128, 128, 128, 3, 128, 128, 128};
+    const hn::Repartition<uint8_t, D> bytes;
+    const hn::Full128<uint8_t> block;
+    const auto samples = [&] {
+      const auto low = hn::LoadU(block, rows_[0] + first * channels_);
+      if constexpr (kRows == 1)
+        return low;
+      else
+        return hn::Combine(bytes, hn::LoadU(block, rows_[1] + first * channels_), low);
+    }();
+    const auto next = hn::BitCast(bytes, hn::Set(hn::Rebind<int32_t, D>(), static_cast<int32_t>(channels_)));
+    auto spread = hn::LoadDup128(bytes, kSpread);
+    for (ptrdiff_t i = 0; i < kAtOnce; ++i, spread = hn::Add(spread, next)) {
+      const auto pixel = hn::BitCast(hn::Rebind<int32_t, D>(), hn::TableLookupBytes(samples, spread));
+      hn::Store(hn::ConvertTo(D(), pixel), D(), staged + i * kLanes);
+    }
+  }
+
   const T* rows_[2];
   float* out_[2];
   ptrdiff_t channels_;
@@ -305,7 +338,7 @@ void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weight
     const ptrdiff_t base = taps.first[x];
     while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
-    for (ptrdiff_t i = 0; i < pixels; ++i) hn::Store(rows.Load(base + i), d, staged + i * kLanes);
+    rows.Stage(base, pixels, staged);
     for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged, base, rows);
     for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged, base, rows);
   }
