@@ -274,13 +274,18 @@ class PixelRows {
     for (; i < n; ++i) hn::Store(Load(first + i), D(), staged + i * kLanes);
   }
 
-  HWY_INLINE void Store(hn::Vec<D> pixels, ptrdiff_t x) const {
+  // Those of the columns from x on.
+  template <int kColumns>
+  HWY_INLINE void Store(const hn::Vec<D>* pixels, ptrdiff_t x) const {
     const hn::Full128<float> block;
-    if constexpr (kRows == 1) {
-      hn::StoreU(pixels, block, out_[0] + x * channels_);
-    } else {
-      hn::StoreU(hn::LowerHalf(block, pixels), block, out_[0] + x * channels_);
-      hn::StoreU(hn::UpperHalf(block, pixels), block, out_[1] + x * channels_);
+    ptrdiff_t at = x * channels_;
+    for (int i = 0; i < kColumns; ++i, at += channels_) {
+      if constexpr (kRows == 1) {
+        hn::StoreU(pixels[i], block, out_[0] + at);
+      } else {
+        hn::StoreU(hn::LowerHalf(block, pixels[i]), block, out_[0] + at);
+        hn::StoreU(hn::UpperHalf(block, pixels[i]), block, out_[1] + at);
+      }
     }
   }
 
@@ -326,7 +331,7 @@ HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrd
   const auto pixel = [&](int i, int k) HWY_ATTR { return hn::Load(d, first[i] + k * kLanes); };
   hn::Vec<D> sums[kColumns];
   FilterPixels<kColumns>(d, taps, weights, x, pixel, sums);
-  for (int i = 0; i < kColumns; ++i) rows.Store(sums[i], x + i);
+  rows.template Store<kColumns>(sums, x);
 }
 
 template <class D, class T, class Weights>
@@ -336,7 +341,9 @@ void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weight
   HWY_ALIGN float staged[kStagedPixels * kLanes];
   for (ptrdiff_t x = taps.from, end = x; x < to;) {
     const ptrdiff_t base = taps.first[x];
-    while (end < to && taps.first[end] + taps.count - base <= kStagedPixels) ++end;
+    const auto isStaged = [&](ptrdiff_t column) { return taps.first[column] + taps.count - base <= kStagedPixels; };
+    while (end + kAtOnce <= to && isStaged(end + kAtOnce - 1)) end += kAtOnce;
+    while (end < to && isStaged(end)) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
     rows.Stage(base, pixels, staged);
     for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged, base, rows);
@@ -356,7 +363,7 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, c
     hn::Vec<D> sum;
     FilterPixels<1>(
         d, taps, weights, x, [&](int, int k) HWY_ATTR { return rows.Load(taps.first[x] + k); }, &sum);
-    rows.Store(sum, x);
+    rows.template Store<1>(&sum, x);
   }
 }
 
