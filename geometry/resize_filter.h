@@ -482,6 +482,25 @@ HWY_INLINE void StoreRow(D d, T* dst, ptrdiff_t n, const At& at) {
   hn::StoreU(Narrow<T>(d, at(n - kLanes)), narrow, dst + n - kLanes);
 }
 
+// The same, four vectors at a time: at(i, vectors, v) fills the vectors from place i on.
+template <class D, class T, class At>
+HWY_INLINE void StoreRowByFours(D d, T* dst, ptrdiff_t n, const At& at) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kFour = 4 * kLanes;
+  const auto one = [&](ptrdiff_t i) HWY_ATTR {
+    hn::Vec<D> v;
+    at(i, std::integral_constant<int, 1>(), &v);
+    return v;
+  };
+  if (n < kFour) return StoreRow(d, dst, n, one);
+  const auto store = [&](ptrdiff_t i) HWY_ATTR {
+    hn::Vec<D> v[4];
+    at(i, std::integral_constant<int, 4>(), v);
+    StoreRow(d, dst + i, kFour, [&](ptrdiff_t place) HWY_ATTR { return v[place / kLanes]; });
+  };
+  for (ptrdiff_t i = 0; i < n - kFour; i += kFour) store(i);
+  store(n - kFour);
+}
+
 // The same for 16-bit lanes and bytes, two vectors at a time.
 template <class D, class At>
 HWY_INLINE void StoreBytes(D d, uint8_t* dst, ptrdiff_t n, const At& at) {
@@ -525,19 +544,26 @@ void AddRing(const RowRing<float>& ring, const Weights& weights, const Taps& tap
     rows[k] = ring.Row(taps.first[y] + k);
     w[k] = weights.At(k, y);
   }
-  StoreRow(d, dst, n, [&](ptrdiff_t i) HWY_ATTR {
-    auto sum = hn::Mul(hn::LoadU(d, rows[0] + i), hn::Set(d, w[0]));
-    const auto add = [&](const float* row, float weight)
-                         HWY_ATTR { sum = hn::Add(sum, hn::Mul(hn::LoadU(d, row + i), hn::Set(d, weight))); };
-    for (int k = 1; k < atHand; ++k) add(rows[k], w[k]);
+  // The sums of `vectors` vectors from place i on, which share what is loaded for a tap.
+  const auto add = [&](ptrdiff_t i, auto vectors, hn::Vec<decltype(d)>* sums) HWY_ATTR {
+    constexpr ptrdiff_t kLanes = hn::MaxLanes(decltype(d)());
+    const auto tap = [&](const float* row, float weight) HWY_ATTR {
+      for (int v = 0; v < vectors; ++v) {
+        sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(d, row + i + v * kLanes), hn::Set(d, weight)));
+      }
+    };
+    for (int v = 0; v < vectors; ++v) sums[v] = hn::Mul(hn::LoadU(d, rows[0] + i + v * kLanes), hn::Set(d, w[0]));
+    for (int k = 1; k < atHand; ++k) tap(rows[k], w[k]);
     const float* row = rows[atHand - 1];
     for (int k = atHand; k < count; ++k) {
       row = row + step == end ? begin : row + step;
-      add(row, weights.At(k, y));
+      tap(row, weights.At(k, y));
     }
-    for (int k = count; k < taps.count; ++k) sum = hn::Add(sum, hn::Zero(d));
-    return sum;
-  });
+    for (int k = count; k < taps.count; ++k) {
+      for (int v = 0; v < vectors; ++v) sums[v] = hn::Add(sums[v], hn::Zero(d));
+    }
+  };
+  StoreRowByFours(d, dst, n, add);
 }
 
 // The row at destination position y. The usual numbers of taps have loops of their own.
