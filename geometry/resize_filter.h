@@ -86,6 +86,13 @@ void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* 
   FilterEach<4>(plan, weights, row, begin, end, out);
 }
 
+// The columns on both sides of those that vector kernels computed, [taps.from, done).
+template <class T, class Weights>
+void FilterEnds(const ColumnPlan<T>& plan, const Weights& weights, ptrdiff_t done, const T* row, float* out) {
+  FilterOneByOne(plan, weights, row, done, plan.taps.length, out);
+  FilterOneByOne(plan, weights, row, 0, plan.taps.from, out);
+}
+
 // Four samples of one place and of another one, in the low and the high block of a vector, and so on.
 template <class D, class T>
 HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdiff_t k) {
@@ -206,21 +213,32 @@ HWY_INLINE hn::Vec<D> LoadPixels(D d, const T* const* pixels, ptrdiff_t at) {
   }
 }
 
-// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(i, k) is that of
-// tap k for the column x + i.
-template <int kColumns, class D, class Weights, class Pixel>
+// Three or four channels: a block holds a pixel; of three channels its last lane is not used. pixel(i, k, v) is that of
+// tap k for the column x + i, of the rows that are in vector v.
+template <int kColumns, int kVectors, class D, class Weights, class Pixel>
 HWY_INLINE void FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel,
                              hn::Vec<D>* sums) {
-  const auto product = [&](int i, int k) HWY_ATTR { return hn::Mul(pixel(i, k), hn::Set(d, weights.At(k, x + i))); };
   const int certain = taps.certain, count = taps.count;
-  for (int i = 0; i < kColumns; ++i) sums[i] = product(i, 0);
+  const auto add = [&](int i, int k) HWY_ATTR {
+    const auto w = hn::Set(d, weights.At(k, x + i));
+    hn::Vec<D>* sum = sums + i * kVectors;
+    for (int v = 0; v < kVectors; ++v) {
+      const auto product = hn::Mul(pixel(i, k, v), w);
+      sum[v] = k == 0 ? product : hn::Add(sum[v], product);
+    }
+  };
+  for (int i = 0; i < kColumns; ++i) add(i, 0);
   int k = 1;
   for (; k < certain; ++k) {
-    for (int i = 0; i < kColumns; ++i) sums[i] = hn::Add(sums[i], product(i, k));
+    for (int i = 0; i < kColumns; ++i) add(i, k);
   }
   for (; k < count; ++k) {
     for (int i = 0; i < kColumns; ++i) {
-      sums[i] = hn::Add(sums[i], weights.At(k, x + i) != 0 ? product(i, k) : hn::Zero(d));
+      if (weights.At(k, x + i) != 0) {
+        add(i, k);
+      } else {
+        for (int v = 0; v < kVectors; ++v) sums[i * kVectors + v] = hn::Add(sums[i * kVectors + v], hn::Zero(d));
+      }
     }
   }
 }
@@ -255,23 +273,32 @@ void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::arr
   filter(last);
 }
 
-// As many rows at once as D has blocks.
-template <class D, class T>
+// As many rows at once as kVectors vectors have blocks.
+template <class D, class T, int kVectors>
 class PixelRows {
  public:
-  PixelRows(const T* const* rows, float* const* out, int channels)
-      : rows_{rows[0], rows[kRows - 1]}, out_{out[0], out[kRows - 1]}, channels_(channels) {}
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kPixel = kVectors * kLanes;  // of staged floats
+  static constexpr int kBlocks = kLanes * sizeof(float) / kBlockBytes, kRows = kVectors * kBlocks;
 
-  HWY_INLINE hn::Vec<D> Load(ptrdiff_t pixel) const { return LoadPixels(D(), rows_, pixel * channels_); }
+  PixelRows(const T* const* rows, float* const* out, int channels) : channels_(channels) {
+    std::copy_n(rows, kRows, rows_);
+    std::copy_n(out, kRows, out_);
+  }
+
+  HWY_INLINE hn::Vec<D> Load(ptrdiff_t pixel, int v) const {
+    return LoadPixels(D(), rows_ + v * kBlocks, pixel * channels_);
+  }
 
   // n pixels as Load gives them, one after the other. Several bytes are turned into pixels by shuffles of one load.
   void Stage(ptrdiff_t first, ptrdiff_t n, float* staged) const {
-    ptrdiff_t i = 0;
-    if constexpr (sizeof(T) == 1) {
-      const ptrdiff_t loaded = (kBlockBytes + channels_ - 1) / channels_;  // pixels that a load touches
-      for (; i + loaded <= n; i += kAtOnce) StageBytes(first + i, staged + i * kLanes);
+    for (int v = 0; v < kVectors; ++v, staged += kLanes) {
+      ptrdiff_t i = 0;
+      if constexpr (sizeof(T) == 1) {
+        const ptrdiff_t loaded = (kBlockBytes + channels_ - 1) / channels_;  // pixels that a load touches
+        for (; i + loaded <= n; i += kAtOnce) StageBytes(v, first + i, staged + i * kPixel);
+      }
+      for (; i < n; ++i) hn::Store(Load(first + i, v), D(), staged + i * kPixel);
     }
-    for (; i < n; ++i) hn::Store(Load(first + i), D(), staged + i * kLanes);
   }
 
   // Those of the columns from x on.
@@ -280,65 +307,73 @@ class PixelRows {
     const hn::Full128<float> block;
     ptrdiff_t at = x * channels_;
     for (int i = 0; i < kColumns; ++i, at += channels_) {
-      if constexpr (kRows == 1) {
-        hn::StoreU(pixels[i], block, out_[0] + at);
-      } else {
-        hn::StoreU(hn::LowerHalf(block, pixels[i]), block, out_[0] + at);
-        hn::StoreU(hn::UpperHalf(block, pixels[i]), block, out_[1] + at);
+      for (int v = 0; v < kVectors; ++v) {
+        const auto pixel = pixels[i * kVectors + v];
+        float* const* out = out_ + v * kBlocks;
+        if constexpr (kBlocks == 1) {
+          hn::StoreU(pixel, block, out[0] + at);
+        } else {
+          hn::StoreU(hn::LowerHalf(block, pixel), block, out[0] + at);
+          hn::StoreU(hn::UpperHalf(block, pixel), block, out[1] + at);
+        }
       }
     }
   }
 
  private:
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kAtOnce = 4;
-  static constexpr int kRows = kLanes * sizeof(float) / kBlockBytes;
+  static constexpr ptrdiff_t kAtOnce = 4;
 
-  HWY_INLINE void StageBytes(ptrdiff_t first, float* staged) const {
+  HWY_INLINE void StageBytes(int v, ptrdiff_t first, float* staged) const {
     HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 128, 128, 128, 1, 128, 128, 128,
                                                       2, 128, 128, 128, 3, 128, 128, 128};
     const hn::Repartition<uint8_t, D> bytes;
     const hn::Full128<uint8_t> block;
+    const T* const* rows = rows_ + v * kBlocks;
     const auto samples = [&] {
-      const auto low = hn::LoadU(block, rows_[0] + first * channels_);
-      if constexpr (kRows == 1)
+      const auto low = hn::LoadU(block, rows[0] + first * channels_);
+      if constexpr (kBlocks == 1)
         return low;
       else
-        return hn::Combine(bytes, hn::LoadU(block, rows_[1] + first * channels_), low);
+        return hn::Combine(bytes, hn::LoadU(block, rows[1] + first * channels_), low);
     }();
     const auto next = hn::BitCast(bytes, hn::Set(hn::Rebind<int32_t, D>(), static_cast<int32_t>(channels_)));
     auto spread = hn::LoadDup128(bytes, kSpread);
     for (ptrdiff_t i = 0; i < kAtOnce; ++i, spread = hn::Add(spread, next)) {
       const auto pixel = hn::BitCast(hn::Rebind<int32_t, D>(), hn::TableLookupBytes(samples, spread));
-      hn::Store(hn::ConvertTo(D(), pixel), D(), staged + i * kLanes);
+      hn::Store(hn::ConvertTo(D(), pixel), D(), staged + i * kPixel);
     }
   }
 
-  const T* rows_[2];
-  float* out_[2];
+  const T* rows_[kRows];
+  float* out_[kRows];
   ptrdiff_t channels_;
 };
 
 // From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
 inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
+inline bool AreStaged(const Taps& taps) { return taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels; }
 
 // kColumns columns from x on. The pixel at position `base` is the first that is staged.
-template <int kColumns, class D, class T, class Weights>
+template <int kColumns, class D, class T, class Weights, int kVectors>
 HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const float* staged,
-                             ptrdiff_t base, const PixelRows<D, T>& rows) {
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+                             ptrdiff_t base, const PixelRows<D, T, kVectors>& rows) {
+  using Rows = PixelRows<D, T, kVectors>;
+  constexpr ptrdiff_t kLanes = Rows::kLanes, kPixel = Rows::kPixel;
   const float* first[kColumns];
-  for (int i = 0; i < kColumns; ++i) first[i] = staged + (taps.first[x + i] - base) * kLanes;
-  const auto pixel = [&](int i, int k) HWY_ATTR { return hn::Load(d, first[i] + k * kLanes); };
-  hn::Vec<D> sums[kColumns];
-  FilterPixels<kColumns>(d, taps, weights, x, pixel, sums);
+  for (int i = 0; i < kColumns; ++i) first[i] = staged + (taps.first[x + i] - base) * kPixel;
+  const auto pixel = [&](int i, int k, int v) HWY_ATTR { return hn::Load(d, first[i] + k * kPixel + v * kLanes); };
+  hn::Vec<D> sums[kColumns * kVectors];
+  FilterPixels<kColumns, kVectors>(d, taps, weights, x, pixel, sums);
   rows.template Store<kColumns>(sums, x);
 }
 
-template <class D, class T, class Weights>
-void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T>& from) {
-  const PixelRows<D, T> rows = from;  // a copy, which stores cannot change
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kAtOnce = 4;
-  HWY_ALIGN float staged[kStagedPixels * kLanes];
+template <class D, class T, class Weights, int kVectors>
+void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights,
+                        const PixelRows<D, T, kVectors>& from) {
+  using Rows = PixelRows<D, T, kVectors>;
+  const Rows rows = from;  // a copy, which stores cannot change
+  constexpr ptrdiff_t kAtOnce = 4;
+  HWY_ALIGN float staged[kStagedPixels * Rows::kPixel];
   for (ptrdiff_t x = taps.from, end = x; x < to;) {
     const ptrdiff_t base = taps.first[x];
     const auto isStaged = [&](ptrdiff_t column) { return taps.first[column] + taps.count - base <= kStagedPixels; };
@@ -354,15 +389,13 @@ void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weight
 template <class D, class T, class Weights>
 void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* from,
                         float* const* out) {
-  const PixelRows<D, T> rows(from, out, plan.channels);
+  const PixelRows<D, T, 1> rows(from, out, plan.channels);
   const Taps taps = plan.taps;
-  if (taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels) {
-    return FilterStagedAcross(d, taps, plan.to, weights, rows);
-  }
+  if (AreStaged(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
     hn::Vec<D> sum;
-    FilterPixels<1>(
-        d, taps, weights, x, [&](int, int k) HWY_ATTR { return rows.Load(taps.first[x] + k); }, &sum);
+    const auto pixel = [&](int, int k, int) HWY_ATTR { return rows.Load(taps.first[x] + k, 0); };
+    FilterPixels<1, 1>(d, taps, weights, x, pixel, &sum);
     rows.template Store<1>(&sum, x);
   }
 }
@@ -405,10 +438,17 @@ void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::
   const bool hasVectors = plan.channels != 1 || plan.to - taps.from >= kLanes;
   const ptrdiff_t done = hasVectors ? plan.to : taps.from;
   if (hasVectors) FilterVectors(plan, weights, rows, out);
-  for (size_t i = 0; i < kRows; ++i) {
-    FilterOneByOne(plan, weights, rows[i], done, taps.length, out[i]);
-    FilterOneByOne(plan, weights, rows[i], 0, taps.from, out[i]);
-  }
+  for (size_t i = 0; i < kRows; ++i) FilterEnds(plan, weights, done, rows[i], out[i]);
+}
+
+// Four rows of pixels that are staged: they share the loads of weights.
+template <class T, class Weights>
+void FilterFourAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, 4>& rows,
+                      const std::array<float*, 4>& out) {
+  const hn::CappedTag<float, 8> d;
+  const PixelRows<hn::CappedTag<float, 8>, T, 2> pixels(rows.data(), out.data(), plan.channels);
+  FilterStagedAcross(d, plan.taps, plan.to, weights, pixels);
+  for (size_t i = 0; i < 4; ++i) FilterEnds(plan, weights, plan.to, rows[i], out[i]);
 }
 
 // filter(rows, places) for the positions from `position` up to `end`, two at a time and the last one perhaps alone.
@@ -592,11 +632,19 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const ColumnPlan<T> plan(Taps(record, axis, tile.x, tile.width), ColumnEdge(call.border, record), channels, areNear);
   const Edge rowEdge = RowEdge(call.border, record);
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
+  const auto source = [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); };
+  const auto place = [&](ptrdiff_t p) { return ring.Row(p); };
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
-    ForTwo(
-        position, end, [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); },
-        [&](ptrdiff_t p) { return ring.Row(p); },
-        [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });
+    if constexpr (HWY_TARGET <= HWY_AVX2) {
+      const bool byFours = channels > 1 && AreStaged(plan.taps);
+      for (; byFours && position + 4 <= end; position += 4) {
+        const ptrdiff_t p = position;
+        FilterFourAcross(plan, across, std::array{source(p), source(p + 1), source(p + 2), source(p + 3)},
+                         std::array{place(p), place(p + 1), place(p + 2), place(p + 3)});
+      }
+    }
+    ForTwo(position, end, source, place,
+           [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
   WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
