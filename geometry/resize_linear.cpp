@@ -27,12 +27,14 @@ void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* 
 class LinearColumns : public FixedColumns {
  public:
   // `room` is for the shuffles and weights: 4 bytes for each sample and each column.
-  LinearColumns(const ResizeRecord& record, const Tile& tile, const ResizeCall<uint8_t>& call, uint8_t* room)
+  LinearColumns(const ResizeRecord& record, const Tile& tile, const ResizeCall<uint8_t>& call, bool isStrip,
+                uint8_t* room)
       : FixedColumns(record, tile, call.border, Channels(call.src.layout)),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
     const int nc = channels;
+    const ptrdiff_t pixels = taps.first[tile.width - 1] - ptrdiff_t{taps.first[0]};
     const ResizeAxis& down = record.rows;
-    if (std::abs(call.src.step) <= kLongestFetched) ahead_ = std::max(2, down.p / down.q) * call.src.step;
+    if (isStrip || pixels * nc <= kLongestFetched) ahead_ = std::max(2, down.p / down.q) * call.src.step;
     const GatherShape shape{2, nc, nc};
     const int loads = FewestLoadsFor(shape, record.columns.p, record.columns.q);
     if (loads == 0 || InnerSamples() < 1) return;
@@ -45,7 +47,7 @@ class LinearColumns : public FixedColumns {
   }
 
   template <int kLoads, size_t kRows>
-  void FilterVectors(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
+  HWY_NOINLINE void FilterVectors(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
     const hn::Repartition<int8_t, GatherTag> d8;
     const hn::Repartition<int16_t, GatherTag> d16;
     const auto left = hn::BitCast(d8, hn::Set(d16, 64)), step = hn::BitCast(d8, hn::Set(d16, 0x40C0));  // -64, 64
@@ -89,8 +91,8 @@ class LinearColumns : public FixedColumns {
 
  private:
   static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
-  // Rows of up to a page of memory end before the CPU has noticed where to read on: those that are filtered next are
-  // asked for early. Longer ones only get slower by that.
+  // Rows of up to a page of memory, and pieces of rows, end before the CPU has noticed where to read on: those that are
+  // filtered next are asked for early. Longer rows only get slower by that.
   static constexpr ptrdiff_t kLongestFetched = 4096;
 
   template <int kChannels>
@@ -114,25 +116,43 @@ class LinearColumns : public FixedColumns {
   ptrdiff_t ahead_ = 0;
 };
 
-void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
+// The columns [begin, end) of a tile.
+void ResizeStrip(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& whole, ptrdiff_t begin,
+                 ptrdiff_t end) {
+  Tile tile = whole;
+  tile.x += begin;
+  tile.width = end - begin;
   const int channels = Channels(call.src.layout);
   const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples);
   auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
-  const LinearColumns columns(record, tile, call, reinterpret_cast<uint8_t*>(rows + 2 * step));
+  auto* room = reinterpret_cast<uint8_t*>(rows + 2 * step);
+  const LinearColumns columns(record, tile, call, tile.width < whole.width, room);
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
   const RowRing<int16_t> ring{rows, step, 2};
   const Edge edge = RowEdge(call.border, record);
   const auto source = [&](ptrdiff_t position) { return SourceRow(call, tile, edge(position)); };
   const auto place = [&](ptrdiff_t position) { return ring.Row(position); };
-  const auto filter = [&](ptrdiff_t begin, ptrdiff_t end) {
-    ForTwo(begin, end, source, place, [&](const auto& from, const auto& out) { FilterFixed(columns, from, out); });
+  const auto filter = [&](ptrdiff_t first, ptrdiff_t last) {
+    ForTwo(first, last, source, place, [&](const auto& from, const auto& out) { FilterFixed(columns, from, out); });
   };
   const auto blend = [&](ptrdiff_t y) {
     const auto [upper, lower] = ring.Rows<2>(rowTaps.first[y]);
-    BlendRows(upper, lower, weights[y], call.dst.Row(y), samples);
+    BlendRows(upper, lower, weights[y], call.dst.Row(y) + begin * channels, samples);
   };
   WalkDown(rowTaps, filter, blend, [](int, ptrdiff_t) { return true; });
+}
+
+// A sample of the destination takes about 12 bytes of filtered rows, shuffles, weights and source. Wide tiles go in
+// strips, for which these stay in a first-level cache of 48 KiB.
+constexpr ptrdiff_t kMostSamples = 3500;
+
+void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  const ptrdiff_t strips = (tile.width * channels + kMostSamples - 1) / kMostSamples;
+  for (ptrdiff_t i = 0; i < strips; ++i) {
+    ResizeStrip(call, record, tile, tile.width * i / strips, tile.width * (i + 1) / strips);
+  }
 }
 
 // Work memory: two rows, then room for weights that have to be converted.
