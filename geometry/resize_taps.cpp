@@ -110,7 +110,7 @@ class TapColumns : public FixedColumns {
   }
 
   template <int kLoads, int kChannels, int kPairs, bool kHasAll>
-  void FilterAll(const RowPair rows, int16_t* out) const {
+  HWY_NOINLINE void FilterAll(const RowPair rows, int16_t* out) const {
     const Sums d;
     const uint8_t* mask = gather.masks();
     const int32_t* offsets = gather.offsets();
