@@ -409,8 +409,10 @@ TEST(Resize, EveryBorder) {
 TEST(Resize, LinearBytesAreExact) {
   for (const char* layout : {"Linear_8u_C1", "Linear_8u_C3", "Linear_8u_C4"}) {
     const Member& member = Find(layout);
-    for (const QvpiSize to : {QvpiSize{37, 11}, {150, 40}, {16, 3}, {61, 12}, {244, 12}, {9, 5}}) {
-      const QvpiSize from{61, 12};
+    const QvpiSize narrow{61, 12}, wide{1600, 6};  // more samples than a strip has
+    for (const QvpiSize to :
+         {QvpiSize{37, 11}, {150, 40}, {16, 3}, {61, 12}, {244, 12}, {9, 5}, {1301, 4}, {1999, 7}}) {
+      const QvpiSize from = to.width > 1000 ? wide : narrow;
       const Record record(kLinear, Kind::k8u, from, to);
       const Source src(member, from, 0);
       const test::Image<uint8_t> dst = Resized(member, record, src, to, qvpBorderReplicate);
@@ -458,6 +460,19 @@ TEST(Resize, AveragesOfBytesAreExact) {
                                                         << down.width << ':' << down.height << " at " << i << ',' << y;
           }
         }
+      }
+    }
+  }
+}
+
+// Ratios at which bytes are brought to the lanes by other numbers of loads, from one for a whole vector to one for each
+// sample, and rows that begin on either one of a pair.
+TEST(Resize, RatiosOfBytes) {
+  for (const char* layout : {"_8u_C1", "_8u_C3", "_8u_C4"}) {
+    for (const Method& m : {kLinear, kSharp, kLanczos2, kLanczos3}) {
+      for (const int width : {20, 60, 80, 100, 120, 150, 200, 260, 330, 420, 700, 1400}) {
+        Check(m, Find(m.name + layout), {width, 7}, {100, 5}, qvpBorderMirror);
+        Check(m, Find(m.name + layout), {width, 6}, {101, 9}, qvpBorderReplicate);
       }
     }
   }
