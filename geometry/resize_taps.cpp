@@ -11,10 +11,11 @@ namespace {
 // positive ones thus to 1.9 and the negative ones to -0.9, and 1.9 * 64 * 255 is 31008.
 constexpr int kAcrossShift = 8, kDownShift = 20;
 
-// Filters two rows at once, into a row of pairs: the numbers of both rows for a sample lie beside each other, as the
-// multiplication of pairs needs them.
+// Two source rows, which are filtered at once.
 using RowPair = std::array<const uint8_t*, 2>;
 
+// Filters two rows into a row of pairs: the numbers of both for a sample lie beside each other, as the multiplication
+// of pairs needs them.
 class TapColumns : public FixedColumns {
  public:
   // `room` is for the shuffles: 5 bytes for each sample, or up to 8 of one channel or six taps, in units of 8 samples.
@@ -27,7 +28,7 @@ class TapColumns : public FixedColumns {
     const int forAll = FewestLoadsFor(all, axis.p, axis.q);
     hasAll_ = forAll == kSharedLoad || forAll == 1;
     const int loads = hasAll_ ? forAll : LoadsFor(pairs, axis.p, axis.q);
-    const bool isRoom = loads < 2 || nc == 1 || taps.count == 6;
+    const bool isRoom = loads < 2 || nc == 1 || taps.count == 6;  // for several loads' places
     if (loads != 0 && isRoom && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
   }
 
