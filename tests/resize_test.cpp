@@ -91,11 +91,11 @@ std::vector<Member> MembersOf(const Method& method) {
   return members;
 }
 
-const Member& Find(const std::string& name) {
+const Member& Find(std::string_view name) {
   for (const Member& m : Members()) {
-    if (m.name == "Resize" + name) return m;
+    if (m.name == std::string("Resize").append(name)) return m;
   }
-  throw std::invalid_argument(name);
+  throw std::invalid_argument(std::string(name));
 }
 
 QvpDataType TypeOf(Kind kind) {
