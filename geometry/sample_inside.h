@@ -95,11 +95,23 @@ HWY_INLINE Split<D> SplitSame(D d, hn::Vec<D> x) {
   return split;
 }
 
-// Where the points of a block have their first taps, in bytes, and their fractions.
+// Points that are placed at once, for results that fill a vector of bytes.
+inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
+
+// Where the points of a block have their first taps, in bytes, and their fractions. The first point is at `first`.
 template <class W>
 struct Places {
-  int32_t offset[kBlock];
-  W x[kBlock], y[kBlock];
+  ptrdiff_t first = 0;
+  int32_t offset[kBlock + kWhole];
+  W x[kBlock + kWhole], y[kBlock + kWhole];
+
+  // Repeats the last of n points up to a multiple of kWhole.
+  void Fill(ptrdiff_t n) {
+    for (ptrdiff_t i = n; i % kWhole != 0; ++i) {
+      offset[first + i] = offset[first + n - 1];
+      x[first + i] = y[first + i] = 0;
+    }
+  }
 };
 
 template <int kTaps, class D, class Points>
@@ -119,9 +131,6 @@ HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<D>& co
   }
 }
 
-// Points that are placed at once, for results that fill a vector of bytes.
-inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
-
 // Places n points, and repeats the last one up to a multiple of kWhole. A loop of its own: together with the one
 // over the taps it would be a longer chain than a CPU can overlap with the next one.
 template <int kTaps, int kPixelBytes, class W, class Points>
@@ -140,10 +149,7 @@ void Place(const Points& points, ptrdiff_t n, int32_t step, Places<W>& places) {
       hn::StoreU(row.fraction, d, places.y + i);
     }
   }
-  for (ptrdiff_t i = n; kTaps > 1 && i % kWhole != 0; ++i) {
-    places.offset[i] = places.offset[n - 1];
-    places.x[i] = places.y[i] = 0;
-  }
+  if constexpr (kTaps > 1) places.Fill(n);
 }
 
 // ---- Weights
@@ -299,10 +305,11 @@ template <int kTaps, int kChannels, class T, class D>
 HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<kTaps, WorkOf<T>>& weigh,
                         const Places<WorkOf<T>>& places, ptrdiff_t i, hn::Vec<D>* total) {
   using V = hn::Vec<D>;
-  const auto offset = hn::LoadU(hn::Rebind<int32_t, D>(), places.offset + i);
+  const ptrdiff_t point = places.first + i;
+  const auto offset = hn::LoadU(hn::Rebind<int32_t, D>(), places.offset + point);
   V x[kTaps], y[kTaps];
-  weigh(d, hn::LoadU(d, places.x + i), x);
-  weigh(d, hn::LoadU(d, places.y + i), y);
+  weigh(d, hn::LoadU(d, places.x + point), x);
+  weigh(d, hn::LoadU(d, places.y + point), y);
   for (int r = 0; r < kTaps; ++r) {
     const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, offset);
     for (int c = 0; c < kChannels; ++c) {
@@ -421,7 +428,8 @@ void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n
       for (int k = 0; k < kTaps; ++k) hn::StoreU(w[k], d, to[k] + i);
     }
   };
-  MakePixels<kStride, kFurther(kTaps, kChannels), kChannels>(task, n, dst, [&](ptrdiff_t first, T* to) HWY_ATTR {
+  MakePixels<kStride, kFurther(kTaps, kChannels), kChannels>(task, n, dst, [&](ptrdiff_t point, T* to) HWY_ATTR {
+    const ptrdiff_t first = places.first + point;
     W x[kTaps][kStride], y[kTaps][kStride];
     weighAlong(places.x + first, x);
     weighAlong(places.y + first, y);

@@ -29,6 +29,7 @@ struct Interval {
   double low = 1, high = 0;
 
   bool Contains(double x) const { return x >= low && x <= high; }
+  bool IsEmpty() const { return low > high; }
 };
 
 // Points along both axes.
@@ -70,17 +71,23 @@ struct SampleTask {
   bool isShift = false;  // nearest only: points are whole and one apart, so that pixels move in runs
   PointBox interior;     // points that need no test
 
-  // Finds the interior for a method. It is empty where offsets of the image take more than 32 bits.
-  void SetInterior(int taps) {
+  // The points that have all taps, for a method.
+  PointBox InnerBox(int taps) const {
+    const int further = kFurther(taps, Channels(src.layout));
+    return {InteriorOf(area.columns, taps, further, area.isBounded, area.left, area.right),
+            InteriorOf(area.rows, taps, 0, area.isBounded, area.top, area.bottom)};
+  }
+
+  // Whether offsets of all pixels fit into 32 bits.
+  bool HasShortOffsets() const {
     const int64_t reach = std::max(-int64_t{area.rows.begin}, int64_t{area.rows.end}) + 8;
     const int64_t across = std::max(-int64_t{area.columns.begin}, int64_t{area.columns.end}) + 8;
     const int64_t size = src.step < 0 ? -int64_t{src.step} : int64_t{src.step};
-    interior = {};
-    if (size > kLargestOffset || size * reach + across * src.PixelBytes() > kLargestOffset) return;
-    const int further = kFurther(taps, Channels(src.layout));
-    interior.u = InteriorOf(area.columns, taps, further, area.isBounded, area.left, area.right);
-    interior.v = InteriorOf(area.rows, taps, 0, area.isBounded, area.top, area.bottom);
+    return size <= kLargestOffset && size * reach + across * src.PixelBytes() <= kLargestOffset;
   }
+
+  // Finds the interior for a method. It is empty where offsets are too long.
+  void SetInterior(int taps) { interior = HasShortOffsets() ? InnerBox(taps) : PointBox{}; }
 };
 
 // Weights, and sums of weighted pixels, are single precision unless pixels are double.

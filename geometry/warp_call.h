@@ -2,7 +2,7 @@
 #pragma once
 
 #include "geometry/sampler.h"
-#include "geometry/warp_points.h"
+#include "geometry/warp_anchors.h"
 
 namespace qvp {
 
@@ -83,16 +83,20 @@ void SampleAny(const SampleTask<T>& task, const Points& points, ptrdiff_t first,
   }
 }
 
-// A row of an affine warp: pixels beyond the image, pixels at its border, pixels inside, and these in turn.
-template <int kTaps, class T>
-void WarpRow(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t width, T* row) {
+// A row of an affine warp: pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those in
+// the inner box are at `insidePoints`, wherever a tile begins.
+template <int kTaps, class T, class Points>
+void WarpRow(const SampleTask<T>& task, const PointBox& inner, const AffinePoints& points, const Points& insidePoints,
+             ptrdiff_t width, T* row) {
   const int channels = Channels(task.src.layout);
-  const Spans spans = SpansOf<kTaps>(task, points, width);
+  const Spans spans = SpansOf<kTaps>(task, inner, points, width);
   FillBeyond(task, spans.touching.first, row);
   SampleAny<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
-  for (ptrdiff_t x = spans.inside.first; x < spans.inside.end; x += kBlock) {
-    const ptrdiff_t n = std::min<ptrdiff_t>(spans.inside.end - x, kBlock);
-    SampleInside<kTaps>(task, points.From(x), n, row + x * channels);
+  if (task.interior.u.IsEmpty()) SampleAny<kTaps>(task, insidePoints, spans.inside.first, spans.inside.end, row);
+  for (ptrdiff_t x = spans.inside.first, n; !task.interior.u.IsEmpty() && x < spans.inside.end; x += n) {
+    const auto from = insidePoints.From(x);
+    n = std::min<ptrdiff_t>(spans.inside.end - x, from.MostAtOnce());
+    SampleInside<kTaps>(task, from, n, row + x * channels);
   }
   SampleAny<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
   FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
@@ -102,16 +106,22 @@ template <int kTaps, class T>
 void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width, ptrdiff_t height) {
   SampleTask<T> task = TaskOf(call, record);
   task.SetInterior(kTaps);
-  if (record.kind == WarpKind::kPerspective) {
-    for (ptrdiff_t y = 0; y < height; ++y) {
-      SampleAny<kTaps>(task, PerspectivePoints(record, call.x, call.y + y), 0, width, call.dst.Row(y));
-    }
-    return;
-  }
+  const PointBox inner = SafeBox(task.InnerBox(kTaps));
   const FixedSteps steps(record, kTaps == 1 && !task.isShift ? width : 0);
   const FixedSteps* usable = kTaps == 1 && !task.isShift && steps.IsUsable() ? &steps : nullptr;
+  const AnchorSteps anchorSteps(record);
   for (ptrdiff_t y = 0; y < height; ++y) {
-    WarpRow<kTaps>(task, AffinePoints(record, call.x, call.y + y, usable), width, call.dst.Row(y));
+    T* row = call.dst.Row(y);
+    const AffinePoints points(record, call.x, call.y + y, usable);
+    if (record.kind == WarpKind::kPerspective) {
+      SampleAny<kTaps>(task, PerspectivePoints(record, call.x, call.y + y), 0, width, row);
+    } else if constexpr (kTaps == 1 || std::is_same_v<T, double>) {
+      WarpRow<kTaps>(task, inner, points, points, width, row);
+    } else if (anchorSteps.IsUsableFor(points, record.width)) {
+      WarpRow<kTaps>(task, inner, points, AnchoredPoints(points, anchorSteps, call.x), width, row);
+    } else {
+      SampleAny<kTaps>(task, points, 0, width, row);
+    }
   }
 }
 

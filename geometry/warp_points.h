@@ -17,6 +17,13 @@ struct Line {
 
   double At(double x) const { return a * x + b + c; }
 
+  // The same in other units, a power of two.
+  Line Times(double units) const {
+    Line line(*this);
+    line.a *= units, line.b *= units, line.c *= units;
+    return line;
+  }
+
   // Whether no step before column x loses more than 2^-27 by rounding.
   bool IsSmall(double x) const {
     constexpr double kSmall = 1 << 24;
@@ -113,6 +120,8 @@ struct AffinePoints {
     if (steps == nullptr || !u.IsSmall(end) || !v.IsSmall(end)) return false;
     return steps->Place<kPixelBytes>(u.At(columns.first), v.At(columns.first), n, step, offset);
   }
+
+  ptrdiff_t MostAtOnce() const { return kBlock; }
 
   // The points from column `x` on.
   AffinePoints From(ptrdiff_t x) const {
@@ -222,7 +231,7 @@ inline Interval TouchingOf(const SampleArea& area, int taps, Extent extent, doub
 }
 
 template <int kTaps, class T>
-Spans SpansOf(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t n) {
+Spans SpansOf(const SampleTask<T>& task, const PointBox& inner, const AffinePoints& points, ptrdiff_t n) {
   const SampleArea& area = task.area;
   const double begin = points.columns.first, last = begin + static_cast<double>(n - 1);
   const double ends = (points.u.At(begin) + points.v.At(begin)) + (points.u.At(last) + points.v.At(last));
@@ -234,7 +243,7 @@ Spans SpansOf(const SampleTask<T>& task, const AffinePoints& points, ptrdiff_t n
                              TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
                             n);
   }
-  const Span inside = SpanOf(points, task.interior, n);
+  const Span inside = SpanOf(points, inner, n);
   spans.inside = inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};
   return spans;
 }

@@ -1,0 +1,160 @@
+// Affine points in fixed point, for interpolation in single precision.
+#pragma once
+
+#include "geometry/warp_points.h"
+
+namespace qvp {
+
+// Every kAnchorColumns-th column of the whole destination is an anchor: its point is computed in double precision and
+// rounded to 2^-26 pixel, of which 31 bits hold the way to the columns behind it, rounded alike. A point is wrong by
+// 2^-26 pixel, half of what a weight is rounded by.
+inline constexpr int kAnchorColumns = 8, kAnchorBits = 26;
+inline constexpr double kAnchorUnits = 1 << kAnchorBits;
+
+// The ways of the columns from their anchor, for as many columns as the longest vector has lanes.
+class AnchorSteps {
+ public:
+  static constexpr int kColumns = 2 * kAnchorColumns;
+
+  explicit AnchorSteps(const WarpRecord& record) {
+    const double au = record.c[0][0], av = record.c[1][0];
+    isShort_ = Line::Size(au) <= kSteepest && Line::Size(av) <= kSteepest;
+    for (int i = 0; isShort_ && i < kColumns; ++i) {
+      u[i] = Rounded(au * (i % kAnchorColumns));
+      v[i] = Rounded(av * (i % kAnchorColumns));
+    }
+  }
+
+  // Whether a row of the destination can be placed by anchors. No matter which part of it is computed.
+  bool IsUsableFor(const AffinePoints& points, ptrdiff_t width) const {
+    return isShort_ && points.u.IsSmall(static_cast<double>(width)) && points.v.IsSmall(static_cast<double>(width));
+  }
+
+  int32_t u[kColumns], v[kColumns];
+
+ private:
+  static constexpr double kSteepest = 4;
+  static int32_t Rounded(double x) { return static_cast<int32_t>((x * kAnchorUnits + kToWhole) - kToWhole); }
+
+  bool isShort_;
+};
+
+// The box without its rim, where rounding may lead a point out of it.
+inline PointBox SafeBox(const PointBox& box) {
+  constexpr double kRim = 1.0 / (1 << 20);
+  return {{box.u.low + kRim, box.u.high - kRim}, {box.v.low + kRim, box.v.high - kRim}};
+}
+
+// The anchors of a block. Low halves of words count.
+struct Anchors {
+  static constexpr int kCount = kBlock / kAnchorColumns;
+  int64_t u[kCount], v[kCount];  // fractions
+  int64_t offset[kCount];        // of the whole pixels
+
+  // One anchor for a vector or half of it.
+  template <class D>
+  HWY_INLINE static hn::Vec<D> At(D d, const int64_t* anchors, ptrdiff_t column) {
+    const auto at = [&](ptrdiff_t k) HWY_ATTR { return hn::Set(d, static_cast<int32_t>(anchors[k])); };
+    const ptrdiff_t k = column / kAnchorColumns;
+    if constexpr (hn::MaxLanes(D()) <= kAnchorColumns) {
+      return at(k);
+    } else {
+      return hn::ConcatLowerLower(d, at(k + 1), at(k));
+    }
+  }
+};
+
+// Interior points of a row.
+struct AnchoredPoints {
+  using Coordinate = double;
+  Line u, v;  // in units
+  const AnchorSteps* steps;
+  ptrdiff_t column;
+
+  AnchoredPoints(const AffinePoints& points, const AnchorSteps& anchorSteps, ptrdiff_t x)
+      : u(points.u.Times(kAnchorUnits)), v(points.v.Times(kAnchorUnits)), steps(&anchorSteps), column(x) {}
+
+  AnchoredPoints From(ptrdiff_t x) const {
+    AnchoredPoints points(*this);
+    points.column += x;
+    return points;
+  }
+
+  // Columns before the first one from its anchor on.
+  ptrdiff_t Lead() const { return column % kAnchorColumns; }
+  ptrdiff_t MostAtOnce() const { return kBlock - Lead(); }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    HWY_ALIGN double xs[hn::MaxLanes(D())], ys[hn::MaxLanes(D())];
+    for (size_t k = 0; k < hn::Lanes(d); ++k) {
+      const ptrdiff_t at = column + i + static_cast<ptrdiff_t>(k), way = at % kAnchorColumns;
+      xs[k] = At(u, at - way, steps->u[way]);
+      ys[k] = At(v, at - way, steps->v[way]);
+    }
+    x = hn::Load(d, xs);
+    y = hn::Load(d, ys);
+  }
+
+  // The anchors of n columns from the first one's on.
+  void Set(ptrdiff_t n, int32_t rowBytes, int32_t pixelBytes, Anchors& anchors) const {
+    const hn::ScalableTag<double> d;
+    const hn::Repartition<int32_t, decltype(d)> ints;
+    const auto stride = hn::Set(ints, rowBytes), across = hn::Set(ints, pixelBytes);
+    auto x =
+        hn::Add(hn::Mul(hn::Iota(d, 0), hn::Set(d, kAnchorColumns)), hn::Set(d, static_cast<double>(column - Lead())));
+    const auto next = hn::Set(d, static_cast<double>(hn::Lanes(d) * kAnchorColumns));
+    for (ptrdiff_t i = 0; i * kAnchorColumns < n; i += hn::Lanes(d)) {
+      const auto row = hn::Mul(hn::BitCast(ints, Split(d, v, x, anchors.v + i)), stride);
+      const auto pixel = hn::Mul(hn::BitCast(ints, Split(d, u, x, anchors.u + i)), across);
+      hn::StoreU(hn::BitCast(hn::Rebind<int64_t, decltype(d)>(), hn::Add(row, pixel)),
+                 hn::Rebind<int64_t, decltype(d)>(), anchors.offset + i);
+      x = hn::Add(x, next);
+    }
+  }
+
+ private:
+  static double At(const Line& line, ptrdiff_t anchor, int32_t way) {
+    return ((line.At(static_cast<double>(anchor)) + kToWhole) - kToWhole + way) / kAnchorUnits;
+  }
+
+  // Stores the fractions of anchors, and gives their whole pixels.
+  template <class D>
+  HWY_INLINE static hn::Vec<hn::Rebind<uint64_t, D>> Split(D d, const Line& line, hn::Vec<D> x, int64_t* fraction) {
+    const hn::Rebind<uint64_t, D> bits;
+    const auto big = hn::Set(d, kToWhole);
+    const auto units = hn::Sub(hn::BitCast(bits, hn::Add(line.At(d, x), big)), hn::BitCast(bits, big));
+    const hn::Rebind<int64_t, D> words;
+    hn::StoreU(hn::BitCast(words, hn::And(units, hn::Set(bits, (1 << kAnchorBits) - 1))), words, fraction);
+    return hn::ShiftRight<kAnchorBits>(units);
+  }
+};
+
+// Places n points, and repeats the last one up to a multiple of kWhole.
+template <int kTaps, int kPixelBytes>
+void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<float>& places) {
+  const hn::ScalableTag<float> d;
+  const hn::Rebind<int32_t, decltype(d)> ints;
+  Anchors anchors;
+  places.first = points.Lead();
+  const ptrdiff_t end = places.first + n;
+  points.Set(end, step, kPixelBytes, anchors);
+  const auto rowBytes = hn::Set(ints, step), pixelBytes = hn::Set(ints, kPixelBytes);
+  const auto before = hn::Set(ints, kTapsBefore(kTaps) * (step + kPixelBytes));
+  const auto part = hn::Set(ints, (1 << kAnchorBits) - 1);
+  const auto unit = hn::Set(d, static_cast<float>(1 / kAnchorUnits));
+  for (ptrdiff_t i = 0; i < end; i += hn::Lanes(d)) {
+    const auto u = hn::Add(Anchors::At(ints, anchors.u, i), hn::LoadU(ints, points.steps->u + i % kAnchorColumns));
+    const auto v = hn::Add(Anchors::At(ints, anchors.v, i), hn::LoadU(ints, points.steps->v + i % kAnchorColumns));
+    const auto column = hn::ShiftRight<kAnchorBits>(u);
+    const auto across = kPixelBytes == 1 ? column : hn::Mul(column, pixelBytes);
+    const auto offset = hn::Add(hn::Mul(hn::ShiftRight<kAnchorBits>(v), rowBytes), across);
+    const auto origin = hn::Sub(Anchors::At(ints, anchors.offset, i), before);
+    hn::StoreU(hn::Add(origin, offset), ints, places.offset + i);
+    hn::StoreU(hn::Mul(hn::ConvertTo(d, hn::And(u, part)), unit), d, places.x + i);
+    hn::StoreU(hn::Mul(hn::ConvertTo(d, hn::And(v, part)), unit), d, places.y + i);
+  }
+  places.Fill(n);
+}
+
+}  // namespace qvp
