@@ -94,4 +94,8 @@ struct SampleTask {
 template <class T>
 using WorkOf = std::conditional_t<std::is_same_v<T, double>, double, float>;
 
+// Linear interpolation of bytes is done in integers.
+template <int kTaps, class T>
+using FractionOf = std::conditional_t<kTaps == 2 && std::is_same_v<T, uint8_t>, int32_t, WorkOf<T>>;
+
 }  // namespace qvp

@@ -110,12 +110,11 @@ void StorePixel(const T* value, double share, int written, T* dst) {
   }
 }
 
-// The weighted sum of a point's taps, from the image where they are all in it and from copies otherwise.
+// The weighted sum of the taps from `first` on, four elements more than there are channels may be read and written.
 template <int kTaps, class T>
-void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInterior, T* out) {
+void BlendWeighted(const SampleTask<T>& task, const Verdict& verdict, const uint8_t* first, ptrdiff_t step, T* out) {
   using W = WorkOf<T>;
   const hn::CappedTag<W, 1> d;
-  const int channels = Channels(task.src.layout);
   const Weigher<kTaps, W> weigh(task);
   hn::Vec<hn::CappedTag<W, 1>> weights[kTaps];
   W x[kTaps], y[kTaps];
@@ -123,14 +122,29 @@ void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInter
   for (int k = 0; k < kTaps; ++k) x[k] = hn::GetLane(weights[k]);
   weigh(d, hn::Set(d, static_cast<W>(verdict.y)), weights);
   for (int k = 0; k < kTaps; ++k) y[k] = hn::GetLane(weights[k]);
-  if (isInterior) {
-    const T* first = task.src.Row(static_cast<ptrdiff_t>(verdict.row)) + verdict.column * channels;
-    return BlendPixel<kTaps>(reinterpret_cast<const uint8_t*>(first), task.src.step, channels, x, y, 1, out);
-  }
+  BlendPixel<kTaps>(first, step, Channels(task.src.layout), x, y, 1, out);
+}
+
+// The value of a point, from the image where all its taps are in it and from copies otherwise.
+template <int kTaps, class T>
+void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInterior, T* out) {
+  const int channels = Channels(task.src.layout);
   T patch[kTaps * kTaps * 4 + 4];
-  FetchPatch<kTaps>(task, verdict, patch);
-  std::memset(patch + kTaps * kTaps * channels, 0, 4 * sizeof(T));  // is read, but not used
-  BlendPixel<kTaps>(reinterpret_cast<const uint8_t*>(patch), kTaps * channels * sizeof(T), channels, x, y, 1, out);
+  const T* first = patch;
+  if (isInterior) first = task.src.Row(static_cast<ptrdiff_t>(verdict.row)) + verdict.column * channels;
+  if (!isInterior) {
+    FetchPatch<kTaps>(task, verdict, patch);
+    std::memset(patch + kTaps * kTaps * channels, 0, 4 * sizeof(T));  // is read, but not used
+  }
+  const auto* bytes = reinterpret_cast<const uint8_t*>(first);
+  const ptrdiff_t step = isInterior ? task.src.step : ptrdiff_t{kTaps} * channels * sizeof(T);
+  if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
+    constexpr int kUnits = 1 << kFractionBits;
+    const auto x = static_cast<int>(verdict.x * kUnits), y = static_cast<int>(verdict.y * kUnits);
+    BlendBytesOf(bytes, bytes + step, channels, x, y, out);
+  } else {
+    BlendWeighted<kTaps>(task, verdict, bytes, step, out);
+  }
 }
 
 template <int kTaps, class T>

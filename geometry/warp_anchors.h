@@ -130,29 +130,40 @@ struct AnchoredPoints {
   }
 };
 
+// The fraction of a position in units.
+template <class F, class V>
+HWY_INLINE auto FractionIn(V units) {
+  const hn::ScalableTag<int32_t> ints;
+  const auto part = hn::And(units, hn::Set(ints, (1 << kAnchorBits) - 1));
+  if constexpr (kIsWhole<F>) {
+    return hn::ShiftRight<kAnchorBits - kFractionBits>(part);
+  } else {
+    const hn::ScalableTag<float> d;
+    return hn::Mul(hn::ConvertTo(d, part), hn::Set(d, static_cast<float>(1 / kAnchorUnits)));
+  }
+}
+
 // Places n points, and repeats the last one up to a multiple of kWhole.
-template <int kTaps, int kPixelBytes>
-void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<float>& places) {
-  const hn::ScalableTag<float> d;
-  const hn::Rebind<int32_t, decltype(d)> ints;
+template <int kTaps, int kPixelBytes, class F>
+void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<F>& places) {
+  const hn::ScalableTag<int32_t> d;
+  const hn::ScalableTag<F> fractions;
   Anchors anchors;
   places.first = points.Lead();
   const ptrdiff_t end = places.first + n;
   points.Set(end, step, kPixelBytes, anchors);
-  const auto rowBytes = hn::Set(ints, step), pixelBytes = hn::Set(ints, kPixelBytes);
-  const auto before = hn::Set(ints, kTapsBefore(kTaps) * (step + kPixelBytes));
-  const auto part = hn::Set(ints, (1 << kAnchorBits) - 1);
-  const auto unit = hn::Set(d, static_cast<float>(1 / kAnchorUnits));
+  const auto rowBytes = hn::Set(d, step), pixelBytes = hn::Set(d, kPixelBytes);
+  const auto before = hn::Set(d, kTapsBefore(kTaps) * (step + kPixelBytes));
   for (ptrdiff_t i = 0; i < end; i += hn::Lanes(d)) {
-    const auto u = hn::Add(Anchors::At(ints, anchors.u, i), hn::LoadU(ints, points.steps->u + i % kAnchorColumns));
-    const auto v = hn::Add(Anchors::At(ints, anchors.v, i), hn::LoadU(ints, points.steps->v + i % kAnchorColumns));
+    const auto u = hn::Add(Anchors::At(d, anchors.u, i), hn::LoadU(d, points.steps->u + i % kAnchorColumns));
+    const auto v = hn::Add(Anchors::At(d, anchors.v, i), hn::LoadU(d, points.steps->v + i % kAnchorColumns));
     const auto column = hn::ShiftRight<kAnchorBits>(u);
     const auto across = kPixelBytes == 1 ? column : hn::Mul(column, pixelBytes);
     const auto offset = hn::Add(hn::Mul(hn::ShiftRight<kAnchorBits>(v), rowBytes), across);
-    const auto origin = hn::Sub(Anchors::At(ints, anchors.offset, i), before);
-    hn::StoreU(hn::Add(origin, offset), ints, places.offset + i);
-    hn::StoreU(hn::Mul(hn::ConvertTo(d, hn::And(u, part)), unit), d, places.x + i);
-    hn::StoreU(hn::Mul(hn::ConvertTo(d, hn::And(v, part)), unit), d, places.y + i);
+    const auto origin = hn::Sub(Anchors::At(d, anchors.offset, i), before);
+    hn::StoreU(hn::Add(origin, offset), d, places.offset + i);
+    hn::StoreU(FractionIn<F>(u), fractions, places.x + i);
+    hn::StoreU(FractionIn<F>(v), fractions, places.y + i);
   }
   places.Fill(n);
 }

@@ -1,0 +1,249 @@
+// Weighted sums of taps in floating point. Lanes are points where their taps fit into words, and channels of one point
+// otherwise.
+#pragma once
+
+#include "geometry/resize_kernels.h"
+#include "geometry/sample_pixels.h"
+
+namespace qvp {
+
+// ---- Weights
+
+// A cubic's weights are polynomials of the fraction. Mitchell, Netravali: Reconstruction filters in computer graphics
+// (1988), expanded for the distances f + 1, f, 1 - f and 2 - f.
+struct CubicPolynomials {
+  double of[4][4];  // coefficients of 1, f, f^2, f^3
+
+  CubicPolynomials(double b, double c)
+      : of{{b / 6, -b / 2 - c, b / 2 + 2 * c, -b / 6 - c},
+           {1 - b / 3, 0, -3 + 2 * b + c, 2 - 1.5 * b - c},
+           {b / 6, b / 2 + c, 3 - 2.5 * b - 2 * c, -2 + 1.5 * b + c},
+           {0, 0, -c, b / 6 + c}} {}
+};
+
+// The weights of points from the one before their first tap's position on: w[k] = weight of tap k.
+template <int kTaps, class W>
+class Weigher;
+
+template <class W>
+class Weigher<2, W> {
+ public:
+  template <class T>
+  explicit Weigher(const SampleTask<T>&) {}
+
+  template <class D>
+  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
+    w[0] = hn::Sub(hn::Set(d, W{1}), f);
+    w[1] = f;
+  }
+};
+
+template <class W>
+class Weigher<4, W> {
+ public:
+  template <class T>
+  explicit Weigher(const SampleTask<T>& task) {
+    const CubicPolynomials cubic(task.b, task.c);
+    for (int k = 0; k < 16; ++k) p_[k / 4][k % 4] = static_cast<W>(cubic.of[k / 4][k % 4]);
+  }
+
+  template <class D>
+  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
+    for (int k = 0; k < 4; ++k) {
+      w[k] = hn::Set(d, p_[k][3]);
+      for (int power = 2; power >= 0; --power) w[k] = hn::Add(hn::Mul(w[k], f), hn::Set(d, p_[k][power]));
+    }
+  }
+
+ private:
+  W p_[4][4];
+};
+
+// Lanczos of three lobes, divided by the sum of the weights.
+template <class W>
+class Weigher<6, W> {
+ public:
+  template <class T>
+  explicit Weigher(const SampleTask<T>&) {}
+
+  template <class D>
+  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
+    HWY_ALIGN W fractions[hn::MaxLanes(D())], weights[6][hn::MaxLanes(D())];
+    hn::Store(f, d, fractions);
+    for (size_t i = 0; i < hn::Lanes(d); ++i) WeighOne(static_cast<double>(fractions[i]), weights, i);
+    for (int k = 0; k < 6; ++k) w[k] = hn::Load(d, weights[k]);
+  }
+
+ private:
+  template <size_t kLanes>
+  static void WeighOne(double f, W (*to)[kLanes], size_t i) {
+    const ResizeKernel kernel{qvpInterpolationLanczos, 0, 0, 3};
+    double weights[6], sum = 0;
+    for (int k = 0; k < 6; ++k) sum += weights[k] = kernel.At(k < 3 ? f + (2 - k) : (k - 2) - f);
+    for (int k = 0; k < 6; ++k) to[k][i] = static_cast<W>(weights[k] / sum);
+  }
+};
+
+// ---- Lanes are points
+
+// The taps of a row of as many points as there are lanes: a word holds several taps of one channel, or one tap of
+// several channels.
+template <int kTaps, int kChannels, class T, class D>
+class RowTaps {
+ public:
+  HWY_INLINE RowTaps(D, const uint8_t* row, hn::Vec<hn::Rebind<int32_t, D>> offset) {
+    for (int i = 0; i < kWords; ++i) words_[i] = GatherWords(Words(), row + i * kWordBytes, offset);
+  }
+
+  HWY_INLINE hn::Vec<D> At(int tap, int channel) const {
+    const D d;
+    if constexpr (std::is_floating_point_v<T>) {
+      return hn::BitCast(d, words_[tap]);
+    } else {
+      const int element = kChannels == 1 ? tap % kPerWord : channel;
+      const auto word = words_[kChannels == 1 ? tap / kPerWord : tap];
+      const auto top = hn::ShiftLeftSame(word, 32 - kBits - element * kBits);
+      if constexpr (std::is_signed_v<T>) return hn::ConvertTo(d, hn::ShiftRight<32 - kBits>(top));
+      const hn::Rebind<uint32_t, D> bits;
+      return hn::ConvertTo(d, hn::BitCast(Words(), hn::ShiftRight<32 - kBits>(hn::BitCast(bits, top))));
+    }
+  }
+
+ private:
+  using Words = hn::Rebind<std::conditional_t<std::is_same_v<T, double>, double, int32_t>, D>;
+  static constexpr int kBits = 8 * sizeof(T), kPerWord = std::max<int>(32 / kBits, 1);
+  static constexpr int kWords = kChannels == 1 ? (kTaps + kPerWord - 1) / kPerWord : kTaps;
+  static constexpr int kWordBytes = (kChannels == 1 ? kPerWord : kChannels) * sizeof(T);
+  static_assert(kChannels == 1 || sizeof(T) == 1);
+
+  hn::Vec<Words> words_[kWords];
+};
+
+// Whole pixels from one vector for each channel.
+template <int kChannels, class D, class T = hn::TFromD<D>>
+HWY_INLINE void StorePixels(D d, const hn::Vec<D>* v, T* to) {
+  if constexpr (kChannels == 3) hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
+  if constexpr (kChannels == 4) hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
+}
+
+// The weighted sums of as many points as there are lanes, from the i-th on.
+template <int kTaps, int kChannels, class T, class D>
+HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<kTaps, WorkOf<T>>& weigh,
+                        const Places<WorkOf<T>>& places, ptrdiff_t i, hn::Vec<D>* total) {
+  using V = hn::Vec<D>;
+  const ptrdiff_t point = places.first + i;
+  const auto offset = hn::LoadU(hn::Rebind<int32_t, D>(), places.offset + point);
+  V x[kTaps], y[kTaps];
+  weigh(d, hn::LoadU(d, places.x + point), x);
+  weigh(d, hn::LoadU(d, places.y + point), y);
+  for (int r = 0; r < kTaps; ++r) {
+    const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, offset);
+    for (int c = 0; c < kChannels; ++c) {
+      V row = hn::Mul(taps.At(0, c), x[0]);
+      for (int k = 1; k < kTaps; ++k) row = hn::Add(row, hn::Mul(taps.At(k, c), x[k]));
+      total[c] = r == 0 ? hn::Mul(row, y[0]) : hn::Add(total[c], hn::Mul(row, y[r]));
+    }
+  }
+}
+
+// Pixels of n points.
+template <int kTaps, int kChannels, class T>
+void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* dst) {
+  using D = hn::ScalableTag<WorkOf<T>>;
+  constexpr int kLanes = hn::MaxLanes(D()), kParts = kChannels == 1 ? kVectorsAtOnce<T, WorkOf<T>> : 1;
+  const D d;
+  const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
+  const ptrdiff_t step = task.src.step;
+  const Weigher<kTaps, WorkOf<T>> weigh(task);
+  MakePixels<kLanes * kParts, 0, kChannels>(task, n, dst, [&](ptrdiff_t i, T* to) HWY_ATTR {
+    if constexpr (kChannels == 1) {
+      const auto part = [&](ptrdiff_t k) HWY_ATTR {
+        hn::Vec<D> total;
+        BlendAt<kTaps, 1, T>(d, src, step, weigh, places, i + k * kLanes, &total);
+        return total;
+      };
+      hn::StoreU(NarrowParts<T>(d, part), hn::CappedTag<T, kLanes * kParts>(), to);
+    } else {
+      hn::Vec<D> total[kChannels];
+      hn::Vec<hn::Rebind<T, D>> pixels[kChannels];
+      BlendAt<kTaps, kChannels, T>(d, src, step, weigh, places, i, total);
+      for (int c = 0; c < kChannels; ++c) pixels[c] = Narrow<T>(d, total[c]);
+      StorePixels<kChannels>(hn::Rebind<T, D>(), pixels, to);
+    }
+  });
+}
+
+// ---- Lanes are channels
+
+// Four channels of a pixel.
+template <class W>
+struct Quad {
+  static constexpr int kVectors = 4 * sizeof(W) / kBlockBytes, kLanes = 4 / kVectors;
+  hn::Full128<W> d;
+  hn::Vec<hn::Full128<W>> v[kVectors];
+
+  template <class T>
+  HWY_INLINE static Quad Weighted(const T* pixel, W weight) {
+    Quad q;
+    for (int i = 0; i < kVectors; ++i) q.v[i] = hn::Mul(LoadWide(q.d, pixel + i * kLanes), hn::Set(q.d, weight));
+    return q;
+  }
+  HWY_INLINE void Scale(W weight) {
+    for (int i = 0; i < kVectors; ++i) v[i] = hn::Mul(v[i], hn::Set(d, weight));
+  }
+  HWY_INLINE void Add(const Quad& other) {
+    for (int i = 0; i < kVectors; ++i) v[i] = hn::Add(v[i], other.v[i]);
+  }
+  template <class T>
+  HWY_INLINE void StoreTo(T* pixel) const {
+    for (int i = 0; i < kVectors; ++i) {
+      hn::StoreU(Narrow<T>(d, v[i]), hn::Rebind<T, hn::Full128<W>>(), pixel + i * kLanes);
+    }
+  }
+};
+
+// The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read
+// at each tap and written, however many channels there are.
+template <int kTaps, class T, class W>
+HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, const W* x, const W* y, ptrdiff_t stride,
+                           T* out) {
+  Quad<W> total;
+  for (int r = 0; r < kTaps; ++r) {
+    const T* taps = reinterpret_cast<const T*>(first + r * step);
+    Quad<W> row = Quad<W>::Weighted(taps, x[0]);
+    for (int k = 1; k < kTaps; ++k) row.Add(Quad<W>::Weighted(taps + k * channels, x[k * stride]));
+    row.Scale(y[r * stride]);
+    if (r == 0) total = row;
+    if (r != 0) total.Add(row);
+  }
+  total.StoreTo(out);
+}
+
+// As BlendPoints.
+template <int kTaps, int kChannels, class T, class W>
+void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n, T* dst) {
+  constexpr int kStride = 16;
+  const hn::ScalableTag<W> d;
+  const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
+  const ptrdiff_t step = task.src.step;
+  const Weigher<kTaps, W> weigh(task);
+  const auto weighAlong = [&](const W* fraction, W(*to)[kStride]) HWY_ATTR {
+    hn::Vec<hn::ScalableTag<W>> w[kTaps];
+    for (ptrdiff_t i = 0; i < kStride; i += hn::Lanes(d)) {
+      weigh(d, hn::LoadU(d, fraction + i), w);
+      for (int k = 0; k < kTaps; ++k) hn::StoreU(w[k], d, to[k] + i);
+    }
+  };
+  MakePixels<kStride, kFurther(kTaps, kChannels), kChannels>(task, n, dst, [&](ptrdiff_t point, T* to) HWY_ATTR {
+    const ptrdiff_t first = places.first + point;
+    W x[kTaps][kStride], y[kTaps][kStride];
+    weighAlong(places.x + first, x);
+    weighAlong(places.y + first, y);
+    for (ptrdiff_t i = 0; i < kStride; ++i) {
+      BlendPixel<kTaps>(src + places.offset[first + i], step, kChannels, x[0] + i, y[0] + i, kStride,
+                        to + i * kChannels);
+    }
+  });
+}
+
+}  // namespace qvp
