@@ -82,8 +82,16 @@ void Stage(const Map* from, ptrdiff_t n, Map* to) {
   std::fill(to + n, to + kBlock, to[n - 1]);
 }
 
+// Where the rows that follow take their pixels, told by one of their points.
+template <class T>
+void FetchAhead(SampleTask<T>& task, const RemapCall<T>& call, ptrdiff_t y) {
+  const ptrdiff_t x = call.size.width / 2, below = std::min<ptrdiff_t>(y + kRowsAhead, call.size.height - 1);
+  const auto way = [&](const auto& map) { return NumberAt(map.Row(below) + x) - NumberAt(map.Row(y) + x); };
+  task.FetchAhead(way(call.x), way(call.y));
+}
+
 template <int kTaps, class T>
-void RemapRows(const SampleTask<T>& task, const RemapCall<T>& call) {
+void RemapRows(SampleTask<T>& task, const RemapCall<T>& call) {
   using Map = WorkOf<T>;
   const int channels = Channels(call.dst.layout);
   Map u[kBlock], v[kBlock];
@@ -91,6 +99,7 @@ void RemapRows(const SampleTask<T>& task, const RemapCall<T>& call) {
     const Map *mapX = call.x.Row(y), *mapY = call.y.Row(y);
     T* row = call.dst.Row(y);
     ptrdiff_t x = 0;
+    FetchAhead(task, call, y);
     for (; x + kBlock <= call.size.width; x += kBlock)
       Sample<kTaps>(task, mapX + x, mapY + x, kBlock, row + x * channels);
     if (x == call.size.width) continue;
@@ -106,7 +115,7 @@ QvpStatus Remap(const RemapCall<T>& call) {
   const int asked = call.interpolation & INT32_MAX;
   if (const QvpStatus failed = CheckRemap(call, asked)) return failed;
   const int method = MethodFor(call.srcSize, asked);
-  const SampleTask<T> task = TaskOf(call, method);
+  SampleTask<T> task = TaskOf(call, method);
   switch (method) {
     case qvpInterpolationNearest: RemapRows<1>(task, call); break;
     case qvpInterpolationLinear: RemapRows<2>(task, call); break;

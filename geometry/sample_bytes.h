@@ -64,9 +64,8 @@ HWY_INLINE auto BlendAlternate(const uint8_t* src, ptrdiff_t step, const Places<
   const auto even = load(places.offset, i), odd = load(places.offset, j);
   const auto x = Alternate(load(places.x, i), load(places.x, j));
   const auto y = Alternate(load(places.y, i), load(places.y, j));
-  const auto row = [&](const uint8_t* base) HWY_ATTR {
-    return BetweenTaps(GatherWords(d, base, even), GatherWords(d, base, odd), x);
-  };
+  const auto row = [&](const uint8_t* base)
+                       HWY_ATTR { return BetweenTaps(GatherWords(d, base, even), GatherWords(d, base, odd), x); };
   return ToWhole(Between(row(src), row(src + step), y));
 }
 
@@ -118,8 +117,8 @@ HWY_INLINE auto SpreadFractions(const int32_t* fractions) {
   const hn::ScalableTag<uint64_t> wide;
   alignas(16) static constexpr uint8_t kFirst[16] = {0, 1, 0, 1, 0, 1, 0, 1, 8, 9, 8, 9, 8, 9, 8, 9};
   const auto words = hn::LoadU(hn::Rebind<uint32_t, FourLanes>(), reinterpret_cast<const uint32_t*>(fractions));
-  return hn::BitCast(Words(), hn::TableLookupBytes(hn::BitCast(d, hn::PromoteTo(wide, words)),
-                                                   hn::LoadDup128(d, kFirst)));
+  return hn::BitCast(Words(),
+                     hn::TableLookupBytes(hn::BitCast(d, hn::PromoteTo(wide, words)), hn::LoadDup128(d, kFirst)));
 }
 
 // As many points as there are lanes for.

@@ -1,6 +1,8 @@
 // Values at interior points: all taps lie in the image, so that nothing is judged and no tap is tested.
 #pragma once
 
+#include <hwy/cache_control.h>
+
 #include "geometry/sample_bytes.h"
 #include "geometry/sample_floats.h"
 
@@ -22,6 +24,15 @@ void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T
 
 // ---- Blocks
 
+// Fetches what the same columns need some rows below: a line of the cache holds the taps of at least four points that
+// are close together.
+template <class T>
+void Fetch(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n) {
+  if (task.ahead == 0) return;
+  const auto* base = reinterpret_cast<const uint8_t*>(task.src.data) + task.ahead;
+  for (ptrdiff_t i = 0; i < n; i += 4) hwy::Prefetch(base + offset[i]);
+}
+
 template <int kTaps, int kChannels, class T, class Points>
 void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
   constexpr int kPixelBytes = kChannels * int{sizeof(T)};
@@ -31,9 +42,11 @@ void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdi
     if (!points.template PlaceNearest<kPixelBytes>(n, step, places.offset)) {
       Place<1, kPixelBytes>(points, task.isShift ? 1 : n, step, places);
     }
+    Fetch(task, places.offset, task.isShift ? 0 : n);
     MovePixels<kChannels>(task, places.offset, n, dst);
   } else {
     Place<kTaps, kPixelBytes>(points, n, step, places);
+    Fetch(task, places.offset + places.first, n);
     constexpr bool kAreWords = kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1);
     if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
       BlendBytes<kChannels>(task, places, n, dst);

@@ -81,9 +81,8 @@ HWY_INLINE Split<F, D> SplitDoubles(D d, hn::Vec<hn::ScalableTag<double>> lower,
                                     hn::Vec<hn::ScalableTag<double>> upper) {
   static_assert(std::is_same_v<hn::TFromD<D>, float>);
   const hn::Rebind<int32_t, D> ints;
-  const auto lowWords = [&](auto low, auto high) HWY_ATTR {
-    return hn::ConcatEven(ints, hn::BitCast(ints, high), hn::BitCast(ints, low));
-  };
+  const auto lowWords = [&](auto low, auto high)
+                            HWY_ATTR { return hn::ConcatEven(ints, hn::BitCast(ints, high), hn::BitCast(ints, low)); };
   Split<F, D> split;
   if constexpr (kIsWhole<F> && kTaps > 1) {
     const auto low = UnitsOf(lower), high = UnitsOf(upper);

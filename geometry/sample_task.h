@@ -70,6 +70,7 @@ struct SampleTask {
   double b = 0, c = 0;   // of the cubic
   bool isShift = false;  // nearest only: points are whole and one apart, so that pixels move in runs
   PointBox interior;     // points that need no test
+  ptrdiff_t ahead = 0;   // bytes from a point's taps to those to fetch
 
   // The points that have all taps, for a method.
   PointBox InnerBox(int taps) const {
@@ -86,9 +87,20 @@ struct SampleTask {
     return size <= kLargestOffset && size * reach + across * src.PixelBytes() <= kLargestOffset;
   }
 
+  // A row of the destination crosses many rows of the source, too many for a CPU to foresee. The rows that follow cross
+  // them in about the same way, at points this far away.
+  void FetchAhead(double columns, double rows) {
+    constexpr Interval kNear{-1e4, 1e4};
+    const bool isNear = kNear.Contains(columns) && kNear.Contains(rows);
+    ahead = isNear ? static_cast<ptrdiff_t>(rows) * src.step + static_cast<ptrdiff_t>(columns) * src.PixelBytes() : 0;
+  }
+
   // Finds the interior for a method. It is empty where offsets are too long.
   void SetInterior(int taps) { interior = HasShortOffsets() ? InnerBox(taps) : PointBox{}; }
 };
+
+// How many rows of the destination are worked on before what is fetched for them.
+inline constexpr int kRowsAhead = 4;
 
 // Weights, and sums of weighted pixels, are single precision unless pixels are double.
 template <class T>

@@ -110,11 +110,16 @@ void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width
   const FixedSteps steps(record, kTaps == 1 && !task.isShift ? width : 0);
   const FixedSteps* usable = kTaps == 1 && !task.isShift && steps.IsUsable() ? &steps : nullptr;
   const AnchorSteps anchorSteps(record);
+  task.FetchAhead(record.c[0][1] * kRowsAhead, record.c[1][1] * kRowsAhead);
   for (ptrdiff_t y = 0; y < height; ++y) {
     T* row = call.dst.Row(y);
     const AffinePoints points(record, call.x, call.y + y, usable);
     if (record.kind == WarpKind::kPerspective) {
-      SampleAny<kTaps>(task, PerspectivePoints(record, call.x, call.y + y), 0, width, row);
+      const PerspectivePoints tilted(record, call.x, call.y + y);
+      const auto there = PerspectivePoints(record, call.x, call.y + y + kRowsAhead).Middle(width);
+      const auto here = tilted.Middle(width);
+      task.FetchAhead(there[0] - here[0], there[1] - here[1]);
+      SampleAny<kTaps>(task, tilted, 0, width, row);
     } else if constexpr (kTaps == 1 || std::is_same_v<T, double>) {
       WarpRow<kTaps>(task, inner, points, points, width, row);
     } else if (anchorSteps.IsUsableFor(points, record.width)) {

@@ -146,6 +146,12 @@ struct PerspectivePoints {
 
   PerspectivePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], y) {}
 
+  // The point in the middle of n columns.
+  std::array<double, 2> Middle(ptrdiff_t n) const {
+    const double column = affine.columns.first + static_cast<double>(n / 2), depth = w.At(column);
+    return {affine.u.At(column) / depth, affine.v.At(column) / depth};
+  }
+
   PerspectivePoints From(ptrdiff_t x) const {
     PerspectivePoints points(*this);
     points.affine = affine.From(x);
@@ -187,7 +193,7 @@ struct Span {
 // search.
 template <class Property>
 ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
-  const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n)) : 0);
+  const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n - 1)) : 0);
   Span open{0, n};
   const auto probe = [&](ptrdiff_t x) {
     if (x < open.first || x >= open.end) return;
