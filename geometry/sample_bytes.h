@@ -124,12 +124,10 @@ HWY_INLINE auto SpreadFractions(const int32_t* fractions) {
 // As many points as there are lanes for.
 template <int kChannels>
 HWY_INLINE auto BlendFourLanes(const uint8_t* src, ptrdiff_t step, const Places<int32_t>& places, ptrdiff_t i) {
-  const hn::ScalableTag<double> words;
   const ptrdiff_t point = places.first + i;
-  const auto offset = hn::LoadU(hn::Rebind<int32_t, FourLanes>(), places.offset + point);
   const auto x = SpreadFractions(places.x + point), y = SpreadFractions(places.y + point);
   const auto row = [&](const uint8_t* base) HWY_ATTR {
-    const auto taps = hn::BitCast(hn::ScalableTag<uint8_t>(), GatherWords(words, base, offset));
+    const auto taps = hn::BitCast(hn::ScalableTag<uint8_t>(), LoadWords<1>(base, places.offset + point));
     return Between(SpreadTaps<kChannels, 0>(taps), SpreadTaps<kChannels, 1>(taps), x);
   };
   return ToWhole(Between(row(src), row(src + step), y));

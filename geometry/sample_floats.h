@@ -86,37 +86,65 @@ class Weigher<6, W> {
 
 // ---- Lanes are points
 
-// The taps of a row of as many points as there are lanes: a word holds several taps of one channel, or one tap of
-// several channels.
+// The taps of a row of as many points as there are lanes. For integers a word holds several taps of one channel, or one
+// tap of several channels.
 template <int kTaps, int kChannels, class T, class D>
 class RowTaps {
  public:
-  HWY_INLINE RowTaps(D, const uint8_t* row, hn::Vec<hn::Rebind<int32_t, D>> offset) {
-    for (int i = 0; i < kWords; ++i) words_[i] = GatherWords(Words(), row + i * kWordBytes, offset);
+  HWY_INLINE RowTaps(D, const uint8_t* row, const int32_t* offset) {
+    const auto at = hn::LoadU(Words(), offset);
+    for (int i = 0; i < kWords; ++i) words_[i] = GatherWords(Words(), row + i * kWordBytes, at);
   }
 
   HWY_INLINE hn::Vec<D> At(int tap, int channel) const {
     const D d;
-    if constexpr (std::is_floating_point_v<T>) {
-      return hn::BitCast(d, words_[tap]);
-    } else {
-      const int element = kChannels == 1 ? tap % kPerWord : channel;
-      const auto word = words_[kChannels == 1 ? tap / kPerWord : tap];
-      const auto top = hn::ShiftLeftSame(word, 32 - kBits - element * kBits);
-      if constexpr (std::is_signed_v<T>) return hn::ConvertTo(d, hn::ShiftRight<32 - kBits>(top));
-      const hn::Rebind<uint32_t, D> bits;
-      return hn::ConvertTo(d, hn::BitCast(Words(), hn::ShiftRight<32 - kBits>(hn::BitCast(bits, top))));
-    }
+    const int element = kChannels == 1 ? tap % kPerWord : channel;
+    const auto word = words_[kChannels == 1 ? tap / kPerWord : tap];
+    const auto top = hn::ShiftLeftSame(word, 32 - kBits - element * kBits);
+    if constexpr (std::is_signed_v<T>) return hn::ConvertTo(d, hn::ShiftRight<32 - kBits>(top));
+    const hn::Rebind<uint32_t, D> bits;
+    return hn::ConvertTo(d, hn::BitCast(Words(), hn::ShiftRight<32 - kBits>(hn::BitCast(bits, top))));
   }
 
  private:
-  using Words = hn::Rebind<std::conditional_t<std::is_same_v<T, double>, double, int32_t>, D>;
-  static constexpr int kBits = 8 * sizeof(T), kPerWord = std::max<int>(32 / kBits, 1);
+  using Words = hn::Rebind<int32_t, D>;
+  static constexpr int kBits = 8 * sizeof(T), kPerWord = 32 / kBits;
   static constexpr int kWords = kChannels == 1 ? (kTaps + kPerWord - 1) / kPerWord : kTaps;
   static constexpr int kWordBytes = (kChannels == 1 ? kPerWord : kChannels) * sizeof(T);
   static_assert(kChannels == 1 || sizeof(T) == 1);
 
   hn::Vec<Words> words_[kWords];
+};
+
+// Floats are loaded as pairs of taps.
+template <int kTaps, class D>
+class RowTaps<kTaps, 1, float, D> {
+ public:
+  HWY_INLINE RowTaps(D d, const uint8_t* row, const int32_t* offset) {
+    const hn::Repartition<uint64_t, D> pairs;
+    for (int i = 0; i < kTaps; i += 2, row += 2 * sizeof(float)) {
+      const auto even = hn::BitCast(pairs, LoadWords<2>(row, offset));
+      const auto odd = hn::BitCast(pairs, LoadWords<2>(row, offset + 1));
+      taps_[i] = hn::OddEven(hn::BitCast(d, hn::ShiftLeft<32>(odd)), hn::BitCast(d, even));
+      taps_[i + 1] = hn::OddEven(hn::BitCast(d, odd), hn::BitCast(d, hn::ShiftRight<32>(even)));
+    }
+  }
+  HWY_INLINE hn::Vec<D> At(int tap, int) const { return taps_[tap]; }
+
+ private:
+  hn::Vec<D> taps_[kTaps];
+};
+
+template <int kTaps, class D>
+class RowTaps<kTaps, 1, double, D> {
+ public:
+  HWY_INLINE RowTaps(D, const uint8_t* row, const int32_t* offset) {
+    for (int i = 0; i < kTaps; ++i) taps_[i] = LoadWords<1>(row + i * sizeof(double), offset);
+  }
+  HWY_INLINE hn::Vec<D> At(int tap, int) const { return taps_[tap]; }
+
+ private:
+  hn::Vec<D> taps_[kTaps];
 };
 
 // Whole pixels from one vector for each channel.
@@ -132,12 +160,11 @@ HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<k
                         const Places<WorkOf<T>>& places, ptrdiff_t i, hn::Vec<D>* total) {
   using V = hn::Vec<D>;
   const ptrdiff_t point = places.first + i;
-  const auto offset = hn::LoadU(hn::Rebind<int32_t, D>(), places.offset + point);
   V x[kTaps], y[kTaps];
   weigh(d, hn::LoadU(d, places.x + point), x);
   weigh(d, hn::LoadU(d, places.y + point), y);
   for (int r = 0; r < kTaps; ++r) {
-    const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, offset);
+    const RowTaps<kTaps, kChannels, T, D> taps(d, src + r * step, places.offset + point);
     for (int c = 0; c < kChannels; ++c) {
       V row = hn::Mul(taps.At(0, c), x[0]);
       for (int k = 1; k < kTaps; ++k) row = hn::Add(row, hn::Mul(taps.At(k, c), x[k]));

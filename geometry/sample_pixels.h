@@ -5,34 +5,40 @@
 
 namespace qvp {
 
-// Elements at offsets from any address.
-#if HWY_TARGET <= HWY_AVX2
-template <class D>
-HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<hn::Rebind<int32_t, D>> offset) {
-  using T = hn::TFromD<D>;
-  const auto* from = reinterpret_cast<const T*>(base);
-  if constexpr (sizeof(T) == sizeof(int32_t)) return hn::GatherOffset(d, from, offset);
-  if constexpr (sizeof(T) == sizeof(int64_t))
-    return hn::GatherOffset(d, from, hn::PromoteTo(hn::Rebind<int64_t, D>(), offset));
-}
-#else
 template <class T>
 T WordAt(const uint8_t* from) {
   T word;
   std::memcpy(&word, from, sizeof(T));
   return word;
 }
+
+// Words at offsets from any address. Of 32 bits, gathering is quicker than single loads, of 64 it is not.
+#if HWY_TARGET <= HWY_AVX2
+template <class D>
+HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<D> offset) {
+  return hn::GatherOffset(d, reinterpret_cast<const int32_t*>(base), offset);
+}
+#else
 HWY_INLINE hn::Vec128<int32_t> GatherWords(hn::Full128<int32_t>, const uint8_t* base, hn::Vec128<int32_t> offset) {
   const auto at = [&](int i) { return WordAt<int32_t>(base + i); };
   return hn::Vec128<int32_t>{_mm_setr_epi32(at(_mm_extract_epi32(offset.raw, 0)), at(_mm_extract_epi32(offset.raw, 1)),
                                             at(_mm_extract_epi32(offset.raw, 2)),
                                             at(_mm_extract_epi32(offset.raw, 3)))};
 }
-HWY_INLINE hn::Vec128<double> GatherWords(hn::Full128<double>, const uint8_t* base, hn::Vec128<int32_t, 2> offset) {
-  return hn::Vec128<double>{_mm_setr_pd(WordAt<double>(base + _mm_extract_epi32(offset.raw, 0)),
-                                        WordAt<double>(base + _mm_extract_epi32(offset.raw, 1)))};
-}
 #endif
+
+// Words of 64 bits, at every kStride-th offset.
+template <int kStride>
+HWY_INLINE hn::Vec<hn::ScalableTag<double>> LoadWords(const uint8_t* base, const int32_t* offset) {
+  const auto at = [&](int i) { return WordAt<double>(base + offset[i * kStride]); };
+#if HWY_TARGET <= HWY_AVX3
+  return hn::Vec512<double>{_mm512_setr_pd(at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7))};
+#elif HWY_TARGET <= HWY_AVX2
+  return hn::Vec256<double>{_mm256_setr_pd(at(0), at(1), at(2), at(3))};
+#else
+  return hn::Vec128<double>{_mm_setr_pd(at(0), at(1))};
+#endif
+}
 
 // Makes the pixels of n points by strides: make(i, to) writes those of kStride points from the i-th on, and elements of
 // kOver pixels behind them. What a stride has too much, and channels that stay, are kept off the destination.
