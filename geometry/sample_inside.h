@@ -24,13 +24,13 @@ void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T
 
 // ---- Blocks
 
-// Fetches what the same columns need some rows below: a line of the cache holds the taps of at least four points that
-// are close together.
-template <class T>
+// Fetches what the same columns need some rows below. A line of the cache holds the taps of several points that are
+// close together, and those of a few rows.
+template <int kPixelBytes, class T>
 void Fetch(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n) {
   if (task.ahead == 0) return;
   const auto* base = reinterpret_cast<const uint8_t*>(task.src.data) + task.ahead;
-  for (ptrdiff_t i = 0; i < n; i += 4) hwy::Prefetch(base + offset[i]);
+  for (ptrdiff_t i = 0; i < n; i += std::max(4, 16 / kPixelBytes)) hwy::Prefetch(base + offset[i]);
 }
 
 template <int kTaps, int kChannels, class T, class Points>
@@ -42,11 +42,11 @@ void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdi
     if (!points.template PlaceNearest<kPixelBytes>(n, step, places.offset)) {
       Place<1, kPixelBytes>(points, task.isShift ? 1 : n, step, places);
     }
-    Fetch(task, places.offset, task.isShift ? 0 : n);
+    Fetch<kPixelBytes>(task, places.offset, task.isShift ? 0 : n);
     MovePixels<kChannels>(task, places.offset, n, dst);
   } else {
     Place<kTaps, kPixelBytes>(points, n, step, places);
-    Fetch(task, places.offset + places.first, n);
+    Fetch<kPixelBytes>(task, places.offset + places.first, n);
     constexpr bool kAreWords = kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1);
     if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
       BlendBytes<kChannels>(task, places, n, dst);

@@ -83,6 +83,20 @@ void SampleAny(const SampleTask<T>& task, const Points& points, ptrdiff_t first,
   }
 }
 
+// A row of a perspective warp: blocks of `certain` points that are all in the inner box, and others.
+template <int kTaps, class T, class Certain, class Any>
+void TiltRow(const SampleTask<T>& task, const PointBox& inner, const PerspectivePoints& points, const Certain& certain,
+             const Any& any, ptrdiff_t width, T* row) {
+  for (ptrdiff_t x = 0; x < width; x += kBlock) {
+    const ptrdiff_t n = std::min<ptrdiff_t>(width - x, kBlock);
+    if (!task.interior.u.IsEmpty() && points.From(x).AreAllIn(inner, n)) {
+      SampleInside<kTaps>(task, certain.From(x), n, row + x * Channels(task.src.layout));
+    } else {
+      SampleAny<kTaps>(task, any, x, x + n, row);
+    }
+  }
+}
+
 // A row of an affine warp: pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those in
 // the inner box are at `insidePoints`, wherever a tile begins.
 template <int kTaps, class T, class Points>
@@ -104,6 +118,7 @@ void WarpRow(const SampleTask<T>& task, const PointBox& inner, const AffinePoint
 
 template <int kTaps, class T>
 void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width, ptrdiff_t height) {
+  constexpr bool kIsExact = kTaps == 1 || std::is_same_v<T, double>;
   SampleTask<T> task = TaskOf(call, record);
   task.SetInterior(kTaps);
   const PointBox inner = SafeBox(task.InnerBox(kTaps));
@@ -116,11 +131,17 @@ void WarpTile(const WarpCall<T>& call, const WarpRecord& record, ptrdiff_t width
     const AffinePoints points(record, call.x, call.y + y, usable);
     if (record.kind == WarpKind::kPerspective) {
       const PerspectivePoints tilted(record, call.x, call.y + y);
-      const auto there = PerspectivePoints(record, call.x, call.y + y + kRowsAhead).Middle(width);
-      const auto here = tilted.Middle(width);
+      const PerspectivePoints below(record, call.x, call.y + y + kRowsAhead);
+      const auto here = tilted.At(width / 2), there = below.At(width / 2);
       task.FetchAhead(there[0] - here[0], there[1] - here[1]);
-      SampleAny<kTaps>(task, tilted, 0, width, row);
-    } else if constexpr (kTaps == 1 || std::is_same_v<T, double>) {
+      if constexpr (kIsExact) {
+        TiltRow<kTaps>(task, inner, tilted, tilted, tilted, width, row);
+      } else {
+        const QuotientPoints<false> certain{tilted, &inner};
+        const QuotientPoints<true> any{tilted, &inner};
+        TiltRow<kTaps>(task, inner, tilted, certain, any, width, row);
+      }
+    } else if constexpr (kIsExact) {
       WarpRow<kTaps>(task, inner, points, points, width, row);
     } else if (anchorSteps.IsUsableFor(points, record.width)) {
       WarpRow<kTaps>(task, inner, points, AnchoredPoints(points, anchorSteps, call.x), width, row);

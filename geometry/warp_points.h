@@ -31,6 +31,9 @@ struct Line {
   }
   static double Size(double x) { return x < 0 ? -x : x; }
 
+  // No column up to x is farther from the exact value.
+  double RoundingUpTo(double x) const { return (Size(a * x) + Size(b) + Size(c)) * 0x1p-51; }
+
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V At(D d, V x) const {
     return hn::Add(hn::Add(hn::Mul(hn::Set(d, a), x), hn::Set(d, b)), hn::Set(d, c));
@@ -146,10 +149,9 @@ struct PerspectivePoints {
 
   PerspectivePoints(const WarpRecord& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], y) {}
 
-  // The point in the middle of n columns.
-  std::array<double, 2> Middle(ptrdiff_t n) const {
-    const double column = affine.columns.first + static_cast<double>(n / 2), depth = w.At(column);
-    return {affine.u.At(column) / depth, affine.v.At(column) / depth};
+  template <int kPixelBytes>
+  bool PlaceNearest(ptrdiff_t, int32_t, int32_t*) const {
+    return false;
   }
 
   PerspectivePoints From(ptrdiff_t x) const {
@@ -158,13 +160,75 @@ struct PerspectivePoints {
     return points;
   }
 
+  // One point, roughly.
+  std::array<double, 2> At(ptrdiff_t x) const {
+    const double column = affine.columns.first + static_cast<double>(x), depth = w.At(column);
+    return {affine.u.At(column) / depth, affine.v.At(column) / depth};
+  }
+
+  // Whether all of n points certainly are in a box. With the horizon elsewhere, coordinates between those of the first
+  // and the last point are between these, but for rounding.
+  bool AreAllIn(const PointBox& box, ptrdiff_t n) const {
+    const double first = affine.columns.first, last = first + static_cast<double>(n - 1);
+    const double near = w.At(first), far = w.At(last), depth = std::min(Line::Size(near), Line::Size(far));
+    if (!(depth > 0) || (near > 0) != (far > 0)) return false;
+    const double farthest = std::max(box.u.high, box.v.high) + 1;
+    const double doubt = affine.u.RoundingUpTo(last) + affine.v.RoundingUpTo(last) + farthest * w.RoundingUpTo(last);
+    const double rim = 2 * doubt / depth;
+    if (!(rim < 0.5)) return false;
+    const auto isIn = [&](const std::array<double, 2>& at) {
+      return Interval{box.u.low + rim, box.u.high - rim}.Contains(at[0]) &&
+             Interval{box.v.low + rim, box.v.high - rim}.Contains(at[1]);
+    };
+    return isIn(At(0)) && isIn(At(n - 1));
+  }
+
+  template <class D>
+  HWY_INLINE hn::Vec<D> Divisor(D d, ptrdiff_t i) const {
+    const auto depth = w.At(d, affine.columns.Load(d, i));
+    return hn::IfThenElse(hn::Ge(hn::Abs(depth), hn::Set(d, 1e-300)), depth, hn::NaN(d));
+  }
+
   template <class D>
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
     affine.Load(d, i, x, y);
-    const auto depth = w.At(d, affine.columns.Load(d, i));
-    const auto divisor = hn::IfThenElse(hn::Ge(hn::Abs(depth), hn::Set(d, 1e-300)), depth, hn::NaN(d));
+    const auto divisor = Divisor(d, i);
     x = hn::Div(x, divisor);
     y = hn::Div(y, divisor);
+  }
+};
+
+// The same for interpolation in single precision. Points of a box have their coordinates by a common quotient, which
+// doubles their rounding; what is outside of it, or at its rim, is told by exact ones. Unless points are tested, all
+// are in the box.
+template <bool kIsTested>
+struct QuotientPoints {
+  using Coordinate = double;
+  PerspectivePoints points;
+  const PointBox* box;
+
+  QuotientPoints From(ptrdiff_t x) const { return {points.From(x), box}; }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    points.affine.Load(d, i, x, y);
+    const auto factor = hn::Div(hn::Set(d, 1.0), points.Divisor(d, i));
+    x = hn::Mul(x, factor);
+    y = hn::Mul(y, factor);
+    if constexpr (kIsTested) {
+      const auto isIn = hn::And(IsIn(d, box->u, x), IsIn(d, box->v, y));
+      if (hn::AllTrue(d, isIn)) return;
+      hn::Vec<D> exactX, exactY;
+      points.Load(d, i, exactX, exactY);
+      x = hn::IfThenElse(isIn, x, exactX);
+      y = hn::IfThenElse(isIn, y, exactY);
+    }
+  }
+
+ private:
+  template <class D>
+  HWY_INLINE static hn::Mask<D> IsIn(D d, const Interval& interval, hn::Vec<D> x) {
+    return hn::And(hn::Ge(x, hn::Set(d, interval.low)), hn::Le(x, hn::Set(d, interval.high)));
   }
 };
 
