@@ -29,8 +29,17 @@ struct PointArray {
 
 // ---- Pixels and fractions
 
-// Fractions are numbers, of the precision of the weights, or whole units of 2^-15, rounded down.
-inline constexpr int kFractionBits = 15;
+// Fractions are numbers, of the precision of the weights, or whole units of 2^-15: a position is rounded to units of
+// 2^-26, and these down to 2^-15.
+inline constexpr int kFractionBits = 15, kUnitBits = 26;
+inline constexpr double kUnits = 1 << kUnitBits;
+
+template <class V>
+HWY_INLINE V FractionOfUnits(V units) {
+  const hn::DFromV<V> ints;
+  return hn::And(hn::ShiftRight<kUnitBits - kFractionBits>(units), hn::Set(ints, (1 << kFractionBits) - 1));
+}
+
 template <class F>
 constexpr bool kIsWhole = std::is_integral_v<F>;
 
@@ -68,11 +77,12 @@ HWY_INLINE hn::Vec<hn::ScalableTag<int64_t>> SplitDouble(hn::Vec<hn::ScalableTag
   }
 }
 
-// A double in units of 2^-15, rounded down.
-HWY_INLINE hn::Vec<hn::ScalableTag<uint64_t>> UnitsOf(hn::Vec<hn::ScalableTag<double>> x) {
+// The nearest whole number to a double, below 2^51.
+HWY_INLINE hn::Vec<hn::ScalableTag<uint64_t>> NearestWhole(hn::Vec<hn::ScalableTag<double>> x) {
   const hn::ScalableTag<double> d;
-  const auto units = hn::Floor(hn::Mul(x, hn::Set(d, 1 << kFractionBits)));
-  return hn::BitCast(hn::ScalableTag<uint64_t>(), hn::Add(units, hn::Set(d, kToWhole)));
+  const hn::ScalableTag<uint64_t> bits;
+  const auto big = hn::Set(d, kToWhole);
+  return hn::Sub(hn::BitCast(bits, hn::Add(x, big)), hn::BitCast(bits, big));
 }
 
 // From one vector of doubles for the lower half of the lanes of D and one for the upper half.
@@ -85,9 +95,10 @@ HWY_INLINE Split<F, D> SplitDoubles(D d, hn::Vec<hn::ScalableTag<double>> lower,
                             HWY_ATTR { return hn::ConcatEven(ints, hn::BitCast(ints, high), hn::BitCast(ints, low)); };
   Split<F, D> split;
   if constexpr (kIsWhole<F> && kTaps > 1) {
-    const auto low = UnitsOf(lower), high = UnitsOf(upper);
-    split.pixel = lowWords(hn::ShiftRight<kFractionBits>(low), hn::ShiftRight<kFractionBits>(high));
-    split.fraction = hn::And(lowWords(low, high), hn::Set(ints, (1 << kFractionBits) - 1));
+    const auto units = hn::Set(hn::ScalableTag<double>(), kUnits);
+    const auto low = NearestWhole(hn::Mul(lower, units)), high = NearestWhole(hn::Mul(upper, units));
+    split.pixel = lowWords(hn::ShiftRight<kUnitBits>(low), hn::ShiftRight<kUnitBits>(high));
+    split.fraction = FractionOfUnits(lowWords(low, high));
   } else {
     const hn::Half<D> half;
     hn::Vec<hn::ScalableTag<double>> f0, f1;
@@ -107,7 +118,7 @@ HWY_INLINE Split<F, D> SplitSame(D d, hn::Vec<D> x) {
     if constexpr (std::is_same_v<hn::TFromD<D>, double>) split.pixel = hn::DemoteTo(ints, whole);
     if constexpr (std::is_same_v<hn::TFromD<D>, float>) split.pixel = RoundToInt(whole);
     if constexpr (kIsWhole<F>) {
-      split.fraction = RoundToInt(hn::Floor(hn::Mul(fraction, hn::Set(d, 1 << kFractionBits))));
+      split.fraction = FractionOfUnits(RoundToInt(hn::Mul(fraction, hn::Set(d, static_cast<float>(kUnits)))));
     } else {
       split.fraction = fraction;
     }

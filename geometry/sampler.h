@@ -139,9 +139,10 @@ void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInter
   const auto* bytes = reinterpret_cast<const uint8_t*>(first);
   const ptrdiff_t step = isInterior ? task.src.step : ptrdiff_t{kTaps} * channels * sizeof(T);
   if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
-    constexpr int kUnits = 1 << kFractionBits;
-    const auto x = static_cast<int>(verdict.x * kUnits), y = static_cast<int>(verdict.y * kUnits);
-    BlendBytesOf(bytes, bytes + step, channels, x, y, out);
+    const auto fraction = [](double x) {
+      return static_cast<int>((x * kUnits + kToWhole) - kToWhole) >> (kUnitBits - kFractionBits);
+    };
+    BlendBytesOf(bytes, bytes + step, channels, fraction(verdict.x), fraction(verdict.y), out);
   } else {
     BlendWeighted<kTaps>(task, verdict, bytes, step, out);
   }

@@ -8,8 +8,7 @@ namespace qvp {
 // Every kAnchorColumns-th column of the whole destination is an anchor: its point is computed in double precision and
 // rounded to 2^-26 pixel, of which 31 bits hold the way to the columns behind it, rounded alike. A point is wrong by
 // 2^-26 pixel, half of what a weight is rounded by.
-inline constexpr int kAnchorColumns = 8, kAnchorBits = 26;
-inline constexpr double kAnchorUnits = 1 << kAnchorBits;
+inline constexpr int kAnchorColumns = 8;
 
 // The ways of the columns from their anchor, for as many columns as the longest vector has lanes.
 class AnchorSteps {
@@ -34,7 +33,7 @@ class AnchorSteps {
 
  private:
   static constexpr double kSteepest = 4;
-  static int32_t Rounded(double x) { return static_cast<int32_t>((x * kAnchorUnits + kToWhole) - kToWhole); }
+  static int32_t Rounded(double x) { return static_cast<int32_t>((x * kUnits + kToWhole) - kToWhole); }
 
   bool isShort_;
 };
@@ -72,7 +71,7 @@ struct AnchoredPoints {
   ptrdiff_t column;
 
   AnchoredPoints(const AffinePoints& points, const AnchorSteps& anchorSteps, ptrdiff_t x)
-      : u(points.u.Times(kAnchorUnits)), v(points.v.Times(kAnchorUnits)), steps(&anchorSteps), column(x) {}
+      : u(points.u.Times(kUnits)), v(points.v.Times(kUnits)), steps(&anchorSteps), column(x) {}
 
   AnchoredPoints From(ptrdiff_t x) const {
     AnchoredPoints points(*this);
@@ -115,31 +114,29 @@ struct AnchoredPoints {
 
  private:
   static double At(const Line& line, ptrdiff_t anchor, int32_t way) {
-    return ((line.At(static_cast<double>(anchor)) + kToWhole) - kToWhole + way) / kAnchorUnits;
+    return ((line.At(static_cast<double>(anchor)) + kToWhole) - kToWhole + way) / kUnits;
   }
 
   // Stores the fractions of anchors, and gives their whole pixels.
   template <class D>
   HWY_INLINE static hn::Vec<hn::Rebind<uint64_t, D>> Split(D d, const Line& line, hn::Vec<D> x, int64_t* fraction) {
     const hn::Rebind<uint64_t, D> bits;
-    const auto big = hn::Set(d, kToWhole);
-    const auto units = hn::Sub(hn::BitCast(bits, hn::Add(line.At(d, x), big)), hn::BitCast(bits, big));
+    const auto units = NearestWhole(line.At(d, x));
     const hn::Rebind<int64_t, D> words;
-    hn::StoreU(hn::BitCast(words, hn::And(units, hn::Set(bits, (1 << kAnchorBits) - 1))), words, fraction);
-    return hn::ShiftRight<kAnchorBits>(units);
+    hn::StoreU(hn::BitCast(words, hn::And(units, hn::Set(bits, (1 << kUnitBits) - 1))), words, fraction);
+    return hn::ShiftRight<kUnitBits>(units);
   }
 };
 
 // The fraction of a position in units.
 template <class F, class V>
 HWY_INLINE auto FractionIn(V units) {
-  const hn::ScalableTag<int32_t> ints;
-  const auto part = hn::And(units, hn::Set(ints, (1 << kAnchorBits) - 1));
   if constexpr (kIsWhole<F>) {
-    return hn::ShiftRight<kAnchorBits - kFractionBits>(part);
+    return FractionOfUnits(units);
   } else {
     const hn::ScalableTag<float> d;
-    return hn::Mul(hn::ConvertTo(d, part), hn::Set(d, static_cast<float>(1 / kAnchorUnits)));
+    const auto part = hn::And(units, hn::Set(hn::ScalableTag<int32_t>(), (1 << kUnitBits) - 1));
+    return hn::Mul(hn::ConvertTo(d, part), hn::Set(d, static_cast<float>(1 / kUnits)));
   }
 }
 
@@ -157,9 +154,9 @@ void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<F>& p
   for (ptrdiff_t i = 0; i < end; i += hn::Lanes(d)) {
     const auto u = hn::Add(Anchors::At(d, anchors.u, i), hn::LoadU(d, points.steps->u + i % kAnchorColumns));
     const auto v = hn::Add(Anchors::At(d, anchors.v, i), hn::LoadU(d, points.steps->v + i % kAnchorColumns));
-    const auto column = hn::ShiftRight<kAnchorBits>(u);
+    const auto column = hn::ShiftRight<kUnitBits>(u);
     const auto across = kPixelBytes == 1 ? column : hn::Mul(column, pixelBytes);
-    const auto offset = hn::Add(hn::Mul(hn::ShiftRight<kAnchorBits>(v), rowBytes), across);
+    const auto offset = hn::Add(hn::Mul(hn::ShiftRight<kUnitBits>(v), rowBytes), across);
     const auto origin = hn::Sub(Anchors::At(d, anchors.offset, i), before);
     hn::StoreU(hn::Add(origin, offset), d, places.offset + i);
     hn::StoreU(FractionIn<F>(u), fractions, places.x + i);

@@ -83,18 +83,26 @@ void SampleAny(const SampleTask<T>& task, const Points& points, ptrdiff_t first,
   }
 }
 
-// A row of a perspective warp: blocks of `certain` points that are all in the inner box, and others.
+// Interior points in blocks.
+template <int kTaps, class T, class Points>
+void SampleSpan(const SampleTask<T>& task, const Points& points, const Span& span, T* row) {
+  for (ptrdiff_t x = span.first, n; x < span.end; x += n) {
+    const auto from = points.From(x);
+    n = std::min<ptrdiff_t>(span.end - x, from.MostAtOnce());
+    SampleInside<kTaps>(task, from, n, row + x * Channels(task.src.layout));
+  }
+}
+
+// A row of a perspective warp: points of any kind, `certain` ones that are all in the inner box, and any again.
 template <int kTaps, class T, class Certain, class Any>
 void TiltRow(const SampleTask<T>& task, const PointBox& inner, const PerspectivePoints& points, const Certain& certain,
              const Any& any, ptrdiff_t width, T* row) {
-  for (ptrdiff_t x = 0; x < width; x += kBlock) {
-    const ptrdiff_t n = std::min<ptrdiff_t>(width - x, kBlock);
-    if (!task.interior.u.IsEmpty() && points.From(x).AreAllIn(inner, n)) {
-      SampleInside<kTaps>(task, certain.From(x), n, row + x * Channels(task.src.layout));
-    } else {
-      SampleAny<kTaps>(task, any, x, x + n, row);
-    }
-  }
+  Span span = points.Inside(inner, width);
+  const bool isEmpty = span.first >= span.end || task.interior.u.IsEmpty();
+  if (isEmpty || !points.From(span.first).AreAllIn(inner, span.end - span.first)) span = {width, width};
+  SampleAny<kTaps>(task, any, 0, span.first, row);
+  SampleSpan<kTaps>(task, certain, span, row);
+  SampleAny<kTaps>(task, any, span.end, width, row);
 }
 
 // A row of an affine warp: pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those in
@@ -106,11 +114,10 @@ void WarpRow(const SampleTask<T>& task, const PointBox& inner, const AffinePoint
   const Spans spans = SpansOf<kTaps>(task, inner, points, width);
   FillBeyond(task, spans.touching.first, row);
   SampleAny<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
-  if (task.interior.u.IsEmpty()) SampleAny<kTaps>(task, insidePoints, spans.inside.first, spans.inside.end, row);
-  for (ptrdiff_t x = spans.inside.first, n; !task.interior.u.IsEmpty() && x < spans.inside.end; x += n) {
-    const auto from = insidePoints.From(x);
-    n = std::min<ptrdiff_t>(spans.inside.end - x, from.MostAtOnce());
-    SampleInside<kTaps>(task, from, n, row + x * channels);
+  if (task.interior.u.IsEmpty()) {
+    SampleAny<kTaps>(task, insidePoints, spans.inside.first, spans.inside.end, row);
+  } else {
+    SampleSpan<kTaps>(task, insidePoints, spans.inside, row);
   }
   SampleAny<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
   FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);

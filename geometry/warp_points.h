@@ -8,6 +8,11 @@
 
 namespace qvp {
 
+// Columns [first, end).
+struct Span {
+  ptrdiff_t first, end;
+};
+
 // One linear function of the column x: (a x + b) + c. Each of its rounded steps is monotone in x, and so is the result.
 struct Line {
   double a, b, c;
@@ -154,6 +159,8 @@ struct PerspectivePoints {
     return false;
   }
 
+  ptrdiff_t MostAtOnce() const { return kBlock; }
+
   PerspectivePoints From(ptrdiff_t x) const {
     PerspectivePoints points(*this);
     points.affine = affine.From(x);
@@ -164,6 +171,24 @@ struct PerspectivePoints {
   std::array<double, 2> At(ptrdiff_t x) const {
     const double column = affine.columns.first + static_cast<double>(x), depth = w.At(column);
     return {affine.u.At(column) / depth, affine.v.At(column) / depth};
+  }
+
+  // The columns of n that are in a box, roughly. In front of the horizon, u / w >= low is u - low w >= 0, which is
+  // linear.
+  Span Inside(const PointBox& box, ptrdiff_t n) const {
+    const double begin = affine.columns.first, last = begin + static_cast<double>(n - 1);
+    const double side = w.At(begin) < 0 ? -1 : 1;
+    Interval inside{0, static_cast<double>(n - 1)};
+    const auto clip = [&](const Line& line, double bound, double sign) {
+      const auto over = [&](double x) { return sign * (line.At(x) - bound * w.At(x)); };
+      const double from = over(begin), to = over(last), zero = from / (from - to) * static_cast<double>(n - 1);
+      if (from < 0) inside.low = to < 0 ? static_cast<double>(n) : std::max(inside.low, zero);
+      if (to < 0) inside.high = std::min(inside.high, zero);
+    };
+    clip(affine.u, box.u.low, side), clip(affine.u, box.u.high, -side);
+    clip(affine.v, box.v.low, side), clip(affine.v, box.v.high, -side);
+    if (!(inside.low + 2 < inside.high)) return {n, n};
+    return {static_cast<ptrdiff_t>(inside.low) + 1, static_cast<ptrdiff_t>(inside.high)};
   }
 
   // Whether all of n points certainly are in a box. With the horizon elsewhere, coordinates between those of the first
@@ -184,8 +209,13 @@ struct PerspectivePoints {
   }
 
   template <class D>
+  HWY_INLINE hn::Vec<D> Depth(D d, ptrdiff_t i) const {
+    return w.At(d, affine.columns.Load(d, i));
+  }
+
+  template <class D>
   HWY_INLINE hn::Vec<D> Divisor(D d, ptrdiff_t i) const {
-    const auto depth = w.At(d, affine.columns.Load(d, i));
+    const auto depth = Depth(d, i);
     return hn::IfThenElse(hn::Ge(hn::Abs(depth), hn::Set(d, 1e-300)), depth, hn::NaN(d));
   }
 
@@ -207,12 +237,13 @@ struct QuotientPoints {
   PerspectivePoints points;
   const PointBox* box;
 
+  ptrdiff_t MostAtOnce() const { return kBlock; }
   QuotientPoints From(ptrdiff_t x) const { return {points.From(x), box}; }
 
   template <class D>
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
     points.affine.Load(d, i, x, y);
-    const auto factor = hn::Div(hn::Set(d, 1.0), points.Divisor(d, i));
+    const auto factor = hn::Div(hn::Set(d, 1.0), kIsTested ? points.Divisor(d, i) : points.Depth(d, i));
     x = hn::Mul(x, factor);
     y = hn::Mul(y, factor);
     if constexpr (kIsTested) {
@@ -247,11 +278,6 @@ void Locate(const Points& points, ptrdiff_t n, double* u, double* v) {
 }
 
 // ---- Spans of a row
-
-// Columns [first, end).
-struct Span {
-  ptrdiff_t first, end;
-};
 
 // The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the
 // search.
