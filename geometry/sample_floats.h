@@ -266,9 +266,11 @@ void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n
     W x[kTaps][kStride], y[kTaps][kStride];
     weighAlong(places.x + first, x);
     weighAlong(places.y + first, y);
+    const uint8_t* const from = src;  // copies, which stores of pixels cannot change
+    const int32_t* const offset = places.offset + first;
+    const ptrdiff_t rowBytes = step;
     for (ptrdiff_t i = 0; i < kStride; ++i) {
-      BlendPixel<kTaps>(src + places.offset[first + i], step, kChannels, x[0] + i, y[0] + i, kStride,
-                        to + i * kChannels);
+      BlendPixel<kTaps>(from + offset[i], rowBytes, kChannels, x[0] + i, y[0] + i, kStride, to + i * kChannels);
     }
   });
 }
