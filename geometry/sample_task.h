@@ -91,8 +91,10 @@ struct SampleTask {
   // them in about the same way, at points this far away.
   void FetchAhead(double columns, double rows) {
     constexpr Interval kNear{-1e4, 1e4};
-    const bool isNear = kNear.Contains(columns) && kNear.Contains(rows);
-    ahead = isNear ? static_cast<ptrdiff_t>(rows) * src.step + static_cast<ptrdiff_t>(columns) * src.PixelBytes() : 0;
+    const bool isNear = !interior.u.IsEmpty() && kNear.Contains(columns) && kNear.Contains(rows);
+    const int64_t bytes =
+        isNear ? int64_t{src.step} * static_cast<int>(rows) + src.PixelBytes() * static_cast<int>(columns) : 0;
+    ahead = static_cast<ptrdiff_t>(bytes);
   }
 
   // Finds the interior for a method. It is empty where offsets are too long.

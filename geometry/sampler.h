@@ -110,7 +110,8 @@ void StorePixel(const T* value, double share, int written, T* dst) {
   }
 }
 
-// The weighted sum of the taps from `first` on, four elements more than there are channels may be read and written.
+// The weighted sum of the taps from `first` on. Four elements are read at each tap and written, however many channels
+// there are.
 template <int kTaps, class T>
 void BlendWeighted(const SampleTask<T>& task, const Verdict& verdict, const uint8_t* first, ptrdiff_t step, T* out) {
   using W = WorkOf<T>;

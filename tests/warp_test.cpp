@@ -1,5 +1,6 @@
 // Warps and remap against the formulas in double precision.
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 
 #include <cmath>
 #include <vector>
@@ -44,7 +45,7 @@ double PixelAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int c
 
 template <class T>
 double ValueAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
-  p = {std::clamp(p.u, -99.0, 99.0), std::clamp(p.v, -99.0, 99.0)};
+  p = {std::clamp(p.u, -999.0, 999.0), std::clamp(p.v, -999.0, 999.0)};
   if (rule.taps == 1) {
     return PixelAt(src, size, rule, channels, std::lround(std::floor(p.u + 0.5)), std::lround(std::floor(p.v + 0.5)),
                    c);
@@ -309,6 +310,99 @@ TEST(Warp, PlacesNearestPixelsExactly) {
       }
     }
   }
+}
+
+// Rows of several blocks, whose tiles begin anywhere: slopes up to and beyond what is placed in fixed point, both ways,
+// and a tilt whose horizon is outside.
+template <class T, int kChannels>
+void CheckLongRows(QvpDataType type, double tolerance) {
+  const QvpiSize size{400, 300}, to{777, 3};
+  const double matrices[][3][3] = {{{0.48, 0.2, 7.123}, {-0.3, 0.48, 270.3}, {0, 0, 1}},
+                                   {{-3.99, 1, 401.5}, {0.1, 3.99, -2.25}, {0, 0, 1}},
+                                   {{4.01, 0, -0.4}, {-0.25, -4.01, 290}, {0, 0, 1}},
+                                   {{0.5, 0.1, 1}, {0.3, 0.5, 2}, {0.0005, 0.01, 1}},
+                                   {{-0.6, 0.1, -400}, {-0.4, -0.5, -10}, {-0.0005, 0.01, -1.1}}};
+  const std::integral_constant<int, kChannels> layout;
+  for (const int taps : {2, 4}) {
+    for (size_t m = 0; m < std::size(matrices); ++m) {
+      const Rule rule{.taps = taps};
+      const Warp warp(kChannels, type, taps, matrices[m], m >= 3, qvpBorderReplicate, size, to, rule);
+      ASSERT_EQ(warp.status, 0);
+      test::Image<T> src(size.width * kChannels, size.height, sizeof(T)), dst(to.width * kChannels, to.height, 0);
+      MakeNumbers(src, size.width * kChannels, size.height);
+      test::Image<T> tiles(dst);
+      ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, layout), 0);
+      for (int x = 0, width = 1; x < to.width; x += width, width = width * 5 % 143) {
+        ASSERT_GE(warp(src, src.data(), tiles.data() + x * kChannels, tiles.step(), {x, 0}, {width, 3}, layout), 0);
+      }
+      for (int y = 0; y < to.height; ++y) {
+        for (int x = 0; x < to.width * kChannels; ++x) {
+          ASSERT_EQ(dst(x, y), tiles(x, y)) << m << " taps " << taps << ' ' << x << ',' << y;
+          const Point p = Map(matrices[m], m >= 3, x / kChannels, y);
+          const double expected = Saturated<T>(ValueAt(src, size, rule, kChannels, p, x % kChannels));
+          ASSERT_NEAR(dst(x, y), expected, tolerance) << m << " taps " << taps << ' ' << x << ',' << y;
+        }
+      }
+    }
+  }
+}
+
+TEST(Warp, InterpolatesLongRows) {
+  CheckLongRows<uint8_t, 1>(qvp8u, 1), CheckLongRows<uint8_t, 3>(qvp8u, 1), CheckLongRows<uint8_t, 4>(qvp8u, 1);
+  CheckLongRows<uint16_t, 1>(qvp16u, 1), CheckLongRows<int16_t, 3>(qvp16s, 1);
+  CheckLongRows<float, 1>(qvp32f, 2e-3), CheckLongRows<float, 3>(qvp32f, 2e-3);
+  CheckLongRows<double, 1>(qvp64f, 1e-8);
+}
+
+// Where fractions are eighths nothing is rounded but the result, ties to even: between any two values, at every place
+// of a vector, inside and at the border.
+TEST(Warp, BytesAreExactBetweenEighths) {
+  const QvpiSize size{900, 3};
+  for (int eighth = 0; eighth < 8; ++eighth) {
+    const double matrix[2][3] = {{1, 0, eighth / 8.0}, {0, 1, 0.5}};
+    const Warp warp(1, qvp8u, 2, matrix, false, qvpBorderReplicate, size, size, {.taps = 2});
+    test::Image<uint8_t> src(size.width, size.height, 1), dst(size.width, size.height, 0);
+    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, size, std::integral_constant<int, 1>()), 0);
+    for (int y = 0; y < size.height; ++y) {
+      for (int x = 0; x < size.width; ++x) {
+        const double value = ValueAt(src, size, {.taps = 2}, 1, {x + eighth / 8.0, y + 0.5}, 0);
+        ASSERT_EQ(dst(x, y), std::nearbyint(value)) << eighth << ' ' << x << ',' << y;
+      }
+    }
+  }
+}
+
+// An image whose rows are so far apart that offsets in it take more than 32 bits has the pixels of a dense one. Only
+// the pages of its rows are ever touched.
+TEST(Warp, DistantRowsGiveTheSamePixels) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "an image beyond 2 GiB";
+  constexpr int kStep = 300000000;
+  const size_t bytes = size_t{kStep} * kSource.height;
+  void* memory = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  if (memory == MAP_FAILED) GTEST_SKIP() << "no room for addresses";
+  auto* distant = static_cast<uint8_t*>(memory);
+  test::Image<uint8_t> src(kSource.width, kSource.height, 0), dst(kTarget.width, kTarget.height, 0), other(dst);
+  for (int y = 0; y < kSource.height; ++y) {
+    std::memcpy(distant + size_t{kStep} * y, src.data() + y * src.step(), kSource.width);
+  }
+  test::Block record(576), buffer(1024), init(64);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  const auto check = [&](auto function) {
+    ASSERT_EQ(function(src.data(), src.step(), dst.data(), dst.step(), {0, 0}, kTarget, spec, buffer.data()), 0);
+    ASSERT_EQ(function(distant, kStep, other.data(), other.step(), {0, 0}, kTarget, spec, buffer.data()), 0);
+    for (int y = 0; y < kTarget.height; ++y) {
+      for (int x = 0; x < kTarget.width; ++x) ASSERT_EQ(dst(x, y), other(x, y)) << x << ',' << y;
+    }
+  };
+  ASSERT_EQ(qvpiWarpAffineLinearInit(kSource, kTarget, qvp8u, kMatrices[0], 1, 1, 1, nullptr, 0, spec), 0);
+  check(qvpiWarpAffineLinear_8u_C1R);
+  ASSERT_EQ(
+      qvpiWarpAffineCubicInit(kSource, kTarget, qvp8u, kMatrices[0], 1, 1, 0, 0.5, 1, nullptr, 0, spec, init.data()),
+      0);
+  check(qvpiWarpAffineCubic_8u_C1R);
+  ASSERT_EQ(qvpiWarpPerspectiveLinearInit(kSource, kTarget, qvp8u, kMatrices[5], 1, 1, 1, nullptr, 0, spec), 0);
+  check(qvpiWarpPerspectiveLinear_8u_C1R);
+  munmap(memory, bytes);
 }
 
 TEST(Warp, RefusesInOrder) {
