@@ -1,4 +1,4 @@
-// Warps and remap against OpenCV, which rounds positions to 1/32 pixel: ours keep them exact.
+// Warps and remap against OpenCV, which rounds positions to 1/32 pixel: ours keep 15 bits of a fraction, or more.
 #include <cmath>
 #include <opencv2/imgproc.hpp>
 

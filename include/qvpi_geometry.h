@@ -745,7 +745,9 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *      u = a00 x + a01 y + a02,  v = a10 x + a11 y + a12
  *
  *  in the source, in double precision, computed for each pixel from its place in the whole destination: every tiling
- *  gives the bits of the whole. A perspective transform divides both by a20 x + a21 y + a22.
+ *  gives the bits of the whole. A perspective transform divides both by a20 x + a21 y + a22. Linear and cubic
+ *  interpolation in single precision round positions between pixels of the source to 2^-26 pixel, and need no more
+ *  than that of a quotient; which pixels are written is told by the exact one.
  *
  *  For example {1, 0, 3; 0, 1, -2}, forward, moves the image right by 3 and up by 2: destination (5, 7) takes source
  *  (2, 9). A rotation by 10 degrees counter-clockwise about the centre of a 1920x1080 image is made by
@@ -759,15 +761,17 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *  **Methods.** Nearest takes the pixel at floor(u + 0.5), of two equally near ones the right or lower one. Linear
  *  weighs 2x2 pixels, cubic 4x4 (Mitchell, Netravali: Reconstruction filters in computer graphics, 1988; B and C are
  *  the caller's: 0 and 0.5 pass through the pixels), with the exact fraction of u and v as a single-precision number,
- *  for 64f double: sum over rows r of wy[r] * (sum over k of wx[k] * p[r][k]), each operation rounded. Integers are
- *  rounded to the nearest, ties to even, and saturated. Nearest is exact. An affine transform that only moves by whole
- *  pixels copies them, whatever the method. Greatest errors against the same formula in extended precision, measured on
- *  random images that use the whole range of the type, for 32f and 64f relative to the largest pixel:
+ *  for 64f double: sum over rows r of wy[r] * (sum over k of wx[k] * p[r][k]), each operation rounded. Linear
+ *  interpolation of 8u is done in integers: fractions are cut to 2^-15 and each step between two values is rounded to
+ *  2^-7. Integers are rounded to the nearest, ties to even, and saturated. Nearest is exact. An affine transform that
+ *  only moves by whole pixels copies them, whatever the method. Greatest errors against the same formula in extended
+ *  precision, measured on random images that use the whole range of the type, for 32f and 64f relative to the largest
+ *  pixel:
  *
  *  | | 8u | 16u, 16s | 32f | 64f |
  *  |---|---|---|---|---|
- *  | linear | 1, within 2e-5 of a tie | 1, within 0.008 of a tie | 1.6e-7 | 2.2e-16 |
- *  | cubic | 1, within 2e-5 of a tie | 1, within 0.015 of a tie | 4.1e-7 | 1.1e-15 |
+ *  | linear | 1, within 0.02 of a tie | 1, within 0.008 of a tie | 1.6e-7 | 2.2e-16 |
+ *  | cubic | 1, within 4e-5 of a tie | 1, within 0.016 of a tie | 4.1e-7 | 1.1e-15 |
  *
  *  (An integer is off by 1 only where the exact value is that close to the middle of two integers.)
  *
@@ -1531,12 +1535,13 @@ QvpStatus qvpiGetRotateTransform(double angle, double shiftX, double shiftY, dou
  *  around it too, and the nearest ones of the edge where the source ends. Lanczos becomes the classic cubic where the
  *  source has a side below 6 pixels, cubics linear below 4, and all methods nearest at 1.
  *
- *  Maps are single precision, for 64f double; weights and sums are as precise as the maps. Integers are rounded to the
- *  nearest, ties to even, and saturated. Greatest errors, measured as for qvpiWarpAffineGetSize():
+ *  Maps are single precision, for 64f double; weights and sums are as precise as the maps, but for linear
+ *  interpolation of 8u, which is done in integers as in warps. Integers are rounded to the nearest, ties to even, and
+ *  saturated. Greatest errors, measured as for qvpiWarpAffineGetSize():
  *
  *  | | 8u | 16u, 16s | 32f | 64f |
  *  |---|---|---|---|---|
- *  | linear | 1, within 1e-5 of a tie | 1, within 0.008 of a tie | 1.2e-7 | 2.2e-16 |
+ *  | linear | 1, within 0.02 of a tie | 1, within 0.008 of a tie | 1.2e-7 | 2.2e-16 |
  *  | cubics | 1, within 2e-5 of a tie | 1, within 0.015 of a tie | 3.5e-7 | 5.1e-16 |
  *  | Lanczos | 1, within 0.02 of a tie | 6 | 1.8e-4 | 1.8e-4 |
  *
