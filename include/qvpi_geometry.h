@@ -746,8 +746,8 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *
  *  in the source, in double precision, computed for each pixel from its place in the whole destination: every tiling
  *  gives the bits of the whole. A perspective transform divides both by a20 x + a21 y + a22. Linear and cubic
- *  interpolation in single precision round positions between pixels of the source to 2^-26 pixel, and need no more
- *  than that of a quotient; which pixels are written is told by the exact one.
+ *  interpolation may round u and v to 2^-26 pixel before they weigh the pixels around them (not for 64f); which pixels
+ *  of the destination are written depends on the unrounded ones.
  *
  *  For example {1, 0, 3; 0, 1, -2}, forward, moves the image right by 3 and up by 2: destination (5, 7) takes source
  *  (2, 9). A rotation by 10 degrees counter-clockwise about the centre of a 1920x1080 image is made by
