@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -17,6 +18,18 @@ template <class T>
 T* AtBoundary(T* p) {
   using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
   return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + (-reinterpret_cast<uintptr_t>(p) & (kRecordBoundary - 1)));
+}
+
+// Makes a record: fill() checks all arguments, writes all but the identification, and tells the status. The word that
+// identifies the record is cleared first and written last, so that what a refused or unfinished Init leaves is no record
+// to anyone, whichever check failed. Without a record, a null pointer, fill() is to say so.
+template <class Fill>
+QvpStatus InitRecord(void* identification, uint32_t tag, const Fill& fill) {
+  const auto put = [&](uint32_t word) { std::memcpy(identification, &word, sizeof(word)); };
+  if (identification) put(0);
+  const QvpStatus status = fill();
+  if (identification && status >= 0) put(tag);
+  return status;
 }
 
 // A count of bytes that remembers when it has left 64 bits, so that no size ever wraps.
