@@ -195,7 +195,7 @@ QvpStatus Compare(const Image<const T>& a, const Image<const T>& b, const Bytes&
 }
 
 template <class T>
-QvpStatus CompareC(const Image<const T>& src, const T* values, const Bytes& dst, Size roi, QvpCmpOp relation) {
+QvpStatus CompareC(const T* values, const Image<const T>& src, const Bytes& dst, Size roi, QvpCmpOp relation) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst}, {values})) return failed;
   if (relation == qvpCmpLess) return CompareConstant(Less(), src, values, dst, roi);
   if (relation == qvpCmpLessEq) return CompareConstant(LessOrEqual(), src, values, dst, roi);
@@ -211,7 +211,7 @@ QvpStatus EqualEps(const Image<const Qvp32f>& a, const Image<const Qvp32f>& b, c
   return CompareImages(Within{eps}, a, b, dst, roi);
 }
 
-QvpStatus EqualEpsC(const Image<const Qvp32f>& src, const Qvp32f* values, const Bytes& dst, Size roi, float eps) {
+QvpStatus EqualEpsC(const Qvp32f* values, const Image<const Qvp32f>& src, const Bytes& dst, Size roi, float eps) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst}, {values})) return failed;
   if (!(eps >= 0)) return qvpStatusEps;
   return CompareConstant(Within{eps}, src, values, dst, roi);
@@ -219,19 +219,10 @@ QvpStatus EqualEpsC(const Image<const Qvp32f>& src, const Qvp32f* values, const 
 
 }  // namespace
 
-#define COMPARE_TWO(name, impl, last, type, layout)                                                                 \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
-                                        Qvp8u* pDst, int dstStep, QvpiSize roiSize, last parameter) {               \
-    return impl(Image<const Qvp##type>{pSrc1, src1Step, Layout::k##layout},                                         \
-                Image<const Qvp##type>{pSrc2, src2Step, Layout::k##layout}, Bytes{pDst, dstStep, Layout::kC1},      \
-                roiSize, parameter);                                                                                \
-  }
-#define COMPARE_CONSTANT(name, impl, last, type, layout)                                                     \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(type) value, \
-                                        Qvp8u* pDst, int dstStep, QvpiSize roiSize, last parameter) {        \
-    return impl(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, Values(value),                     \
-                Bytes{pDst, dstStep, Layout::kC1}, roiSize, parameter);                                      \
-  }
+#define COMPARE_TWO(name, impl, last, type, layout) \
+  QVP_TWO_TO_ONE(name##_##type##_##layout##R, type, 8u, layout, C1, impl, (last parameter), (parameter))
+#define COMPARE_CONSTANT(name, impl, last, type, layout) \
+  QVP_WITH_VALUES(name##_##type##_##layout##R, type, 8u, layout, C1, impl, (last parameter), (parameter))
 #define COMPARE(type)                                                \
   QVP_EACH_LAYOUT(COMPARE_TWO, qvpiCompare, Compare, QvpCmpOp, type) \
   QVP_EACH_LAYOUT(COMPARE_CONSTANT, qvpiCompareC, CompareC, QvpCmpOp, type)

@@ -117,22 +117,14 @@ QvpStatus RoundFloats(const Image<const S>& src, const Image<T>& dst, Size roi, 
 
 }  // namespace
 
-#define CONVERT(from, to, suffix, impl, layout)                                                                       \
-  QvpStatus qvpiConvert_##from##to##_##layout##suffix(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, \
-                                                      QvpiSize roiSize) {                                             \
-    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize);             \
-  }
-#define CONVERT_ROUND(from, to, layout)                                                                          \
-  QvpStatus qvpiConvert_##from##to##_##layout##R(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, \
-                                                 QvpiSize roiSize, QvpRoundMode roundMode) {                     \
-    return RoundFloats(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize,  \
-                       roundMode);                                                                               \
-  }
-#define CONVERT_SFS(from, to, impl)                                                                                   \
-  QvpStatus qvpiConvert_##from##to##_C1RSfs(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep,           \
-                                            QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor) {              \
-    return impl(View(pSrc, srcStep, Layout::kC1), View(pDst, dstStep, Layout::kC1), roiSize, roundMode, scaleFactor); \
-  }
+#define CONVERT(from, to, suffix, impl, layout) \
+  QVP_CONVERT(qvpiConvert_##from##to##_##layout##suffix, from, to, layout, impl, (), ())
+#define CONVERT_ROUND(from, to, layout)                                                                      \
+  QVP_CONVERT(qvpiConvert_##from##to##_##layout##R, from, to, layout, RoundFloats, (QvpRoundMode roundMode), \
+              (roundMode))
+#define CONVERT_SFS(from, to, impl)                                                                           \
+  QVP_CONVERT(qvpiConvert_##from##to##_C1RSfs, from, to, C1, impl, (QvpRoundMode roundMode, int scaleFactor), \
+              (roundMode, scaleFactor))
 
 #define CONVERT_LAYOUTS(from, to) QVP_EACH_LAYOUT(CONVERT, from, to, R, ConvertValues)
 CONVERT_LAYOUTS(8u, 16u)

@@ -22,6 +22,7 @@ HWY_INLINE V InRange(D d, V v, V lower, V upper) {
 }
 
 // Counts in lanes as wide as the pixels: lane i of vector k counts samples of channel (k * lanes + i) mod channels.
+// They are kept from row to row, and added to the totals before they overflow.
 constexpr int kVectors = 3;
 
 template <class T>
@@ -39,18 +40,26 @@ class Counter {
   void Add(const T* row, ptrdiff_t n) {
     ptrdiff_t i = 0;
     while (i + kStride <= n) {
-      const ptrdiff_t rounds = std::min<ptrdiff_t>((n - i) / kStride, kMostRounds);
+      const ptrdiff_t rounds = std::min<ptrdiff_t>((n - i) / kStride, FreeRounds());
       AddRounds(row + i, rounds);
       i += rounds * kStride;
     }
-    AddTail(row + i, n - i);
+    if (i < n) AddTail(row + i, n - i);
   }
 
-  int64_t Of(int channel) const { return totals_[channel]; }
+  int64_t Of(int channel) {
+    Drain();
+    return totals_[channel];
+  }
 
  private:
-  // A lane counts up to this before it is added to the totals.
+  // A lane counts up to this.
   static constexpr ptrdiff_t kMostRounds = sizeof(Lane) == 1 ? 255 : 1 << 24;
+
+  ptrdiff_t FreeRounds() {
+    if (rounds_ == kMostRounds) Drain();
+    return kMostRounds - rounds_;
+  }
 
   HWY_INLINE hn::Vec<Lanes> At(const T* from, int k) const {
     return hn::BitCast(
@@ -58,48 +67,46 @@ class Counter {
   }
 
   void AddRounds(const T* row, ptrdiff_t rounds) {
-    auto a = hn::Zero(Lanes()), b = a, c = a;
+    auto a = hn::Load(Lanes(), counts_), b = hn::Load(Lanes(), counts_ + kLanes),
+         c = hn::Load(Lanes(), counts_ + 2 * kLanes);
     for (ptrdiff_t i = 0; i < rounds * kStride; i += kStride) {  // lanes in range are -1
       a = hn::Sub(a, At(row + i, 0));
       b = hn::Sub(b, At(row + i, 1));
       c = hn::Sub(c, At(row + i, 2));
     }
-    AddCounts(a, b, c);
+    hn::Store(a, Lanes(), counts_);
+    hn::Store(b, Lanes(), counts_ + kLanes);
+    hn::Store(c, Lanes(), counts_ + 2 * kLanes);
+    rounds_ += rounds;
   }
 
   // Fewer samples than a stride.
   void AddTail(const T* row, ptrdiff_t n) {
-    if (n == 0) return;
+    FreeRounds();
     HWY_ALIGN T samples[kStride] = {};
     std::memcpy(samples, row, n * sizeof(T));
-    const auto at = [&](int k) HWY_ATTR {
-      const auto isSample = hn::FirstN(Lanes(), std::clamp<ptrdiff_t>(n - k * kLanes, 0, kLanes));
-      return hn::IfThenElseZero(isSample, hn::Sub(hn::Zero(Lanes()), At(samples, k)));
-    };
-    AddCounts(at(0), at(1), at(2));
+    for (int k = 0; k * kLanes < n; ++k) {
+      Lane* const counts = counts_ + k * kLanes;
+      const auto isSample = hn::FirstN(Lanes(), std::min<ptrdiff_t>(n - k * kLanes, kLanes));
+      const auto found = hn::IfThenElseZero(isSample, At(samples, k));
+      hn::Store(hn::Sub(hn::Load(Lanes(), counts), found), Lanes(), counts);
+    }
+    ++rounds_;
   }
 
-  void AddCounts(hn::Vec<Lanes> a, hn::Vec<Lanes> b, hn::Vec<Lanes> c) {
-    if constexpr (sizeof(Lane) == 1) {
-      if (channels_ == 1) {
-        const hn::ScalableTag<uint64_t> d;
-        const auto sums = hn::Add(hn::Add(hn::SumsOf8(a), hn::SumsOf8(b)), hn::SumsOf8(c));
-        totals_[0] += static_cast<int64_t>(hn::GetLane(hn::SumOfLanes(d, sums)));
-        return;
-      }
-    }
-    HWY_ALIGN Lane counts[kStride];
-    hn::Store(a, Lanes(), counts);
-    hn::Store(b, Lanes(), counts + kLanes);
-    hn::Store(c, Lanes(), counts + 2 * kLanes);
+  void Drain() {
     for (ptrdiff_t i = 0, channel = 0; i < kStride; ++i) {
-      totals_[channel] += counts[i];
+      totals_[channel] += counts_[i];
       channel = channel + 1 == channels_ ? 0 : channel + 1;
     }
+    std::memset(counts_, 0, sizeof(counts_));
+    rounds_ = 0;
   }
 
   PerChannel<D> lower_, upper_;
   int channels_;
+  ptrdiff_t rounds_ = 0;
+  HWY_ALIGN Lane counts_[kStride] = {};
   int64_t totals_[4] = {};
 };
 
@@ -119,13 +126,10 @@ QvpStatus CountInRange(const Image<const T>& src, Size roi, int* counts, const T
 
 }  // namespace
 
-#define COUNT_IN_RANGE(type, layout)                                                                                  \
-  QvpStatus qvpiCountInRange_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QvpiSize roiSize, int* pCounts, \
-                                                  QVP_VALUES_##layout(type) lowerBound,                               \
-                                                  QVP_VALUES_##layout(type) upperBound) {                             \
-    return CountInRange(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, roiSize, pCounts,                   \
-                        Values(lowerBound), Values(upperBound));                                                      \
-  }
+#define COUNT_IN_RANGE(type, layout)                                                                     \
+  QVP_REDUCE(qvpiCountInRange, type, layout, CountInRange,                                               \
+             (int* pCounts, QVP_VALUES_##layout(type) lowerBound, QVP_VALUES_##layout(type) upperBound), \
+             (pCounts, Values(lowerBound), Values(upperBound)))
 
 COUNT_IN_RANGE(8u, C1)
 COUNT_IN_RANGE(8u, C3)

@@ -42,37 +42,6 @@ HWY_INLINE V ByteQuotient(V a, V b) {
   return hn::IfThenElse(isZero, hn::VecFromMask(bytes, hn::Ne(b, hn::Zero(bytes))), quotient);
 }
 
-// The reciprocal of normal numbers below 2^125, without a division, to 2^-17 and never too large. The first estimate
-// comes from the bits: the difference from a constant negates the exponent and, to within 5.1 %, the mantissa's share.
-// Each Newton step squares that error.
-template <class V>
-HWY_INLINE V ReciprocalFromBits(V v) {
-  const hn::DFromV<V> d;
-  const hn::RebindToSigned<decltype(d)> bits;
-  V r = hn::BitCast(d, hn::Sub(hn::Set(bits, 0x7EF311C3), hn::BitCast(bits, v)));
-  for (int step = 0; step < 2; ++step) r = hn::Mul(r, hn::Sub(hn::Set(d, 2.0f), hn::Mul(v, r)));
-  return r;
-}
-
-// second / first. The third Newton step is made on the quotient, by a small addition: so little is lost by rounding.
-// Where that does not work (the divisor is not in range, or the quotient overflows) the CPU divides; 0 / 0 and NaN / 0
-// give one NaN, whose bits must not pass through arithmetic, which would change them.
-template <class V>
-HWY_INLINE V FloatQuotient(V a, V b) {
-  const hn::DFromV<V> d;
-  const hn::RebindToSigned<decltype(d)> bits;
-  const V r = ReciprocalFromBits(a), rough = hn::Mul(b, r);
-  const V quotient = hn::Add(rough, hn::Mul(rough, hn::Sub(hn::Set(d, 1.0f), hn::Mul(a, r))));
-  const auto magnitude = hn::And(hn::BitCast(bits, a), hn::Set(bits, 0x7FFFFFFF));
-  const auto isOutside =
-      hn::Or(hn::Lt(magnitude, hn::Set(bits, 0x00800000)), hn::Gt(magnitude, hn::Set(bits, 0x7E000000)));
-  const auto isOdd = hn::Or(hn::RebindMask(d, isOutside), hn::IsNaN(quotient));
-  if (HWY_LIKELY(hn::AllFalse(d, isOdd))) return quotient;
-  const auto isIndefinite = hn::And(hn::Eq(a, hn::Zero(d)), hn::Not(hn::Gt(hn::Abs(b), hn::Zero(d))));
-  const V divided = hn::IfThenElse(isOdd, hn::Div(b, a), quotient);
-  return hn::IfThenElse(isIndefinite, hn::BitCast(d, hn::Set(bits, 0x7FBFFFFF)), divided);
-}
-
 // Whether an element is zero; with kKeepAlpha, one of the first three of four.
 template <bool kKeepAlpha, class T>
 bool ContainsZero(const T* elements, ptrdiff_t n) {
@@ -97,9 +66,9 @@ bool ContainsZero(const T* elements, ptrdiff_t n) {
 template <bool kKeepAlpha, class D, class Kernel, class T>
 bool DivideRows(D d, const Kernel& kernel, Size roi, const Image<const T>& a, const Image<const T>& b,
                 const Image<T>& dst) {
-  constexpr ptrdiff_t kPiece = LineWriter::kPieceBytes / sizeof(T);
+  constexpr ptrdiff_t kPiece = kPieceBytes / ptrdiff_t{sizeof(T)};
   bool foundZero = false;
-  const auto row = [&](ptrdiff_t n, T* to, const T* divisors, const T* dividends) QVP_ROW_KERNEL {
+  const auto row = [&](ptrdiff_t n, T* to, const T* divisors, const T* dividends) HWY_ATTR {
     const Kernel own = kernel;
     for (ptrdiff_t i = 0; i < n; i += kPiece) {
       const ptrdiff_t piece = std::min(kPiece, n - i);
@@ -144,7 +113,7 @@ QvpStatus Divide(const Image<const T>& a, const Image<const T>& b, const Image<T
 
 QvpStatus DivideFloats(const Image<const float>& a, const Image<const float>& b, const Image<float>& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
-  const auto kernel = [](auto x, auto y) HWY_ATTR { return FloatQuotient(x, y); };
+  const auto kernel = [](auto x, auto y) HWY_ATTR { return hn::Div(y, x); };
   return DivideImages(hn::ScalableTag<float>(), kernel, roi, a, b, dst);
 }
 

@@ -38,46 +38,54 @@ QvpStatus Reduce(const Image<const T>& src, const Image<uint8_t>& dst, Size roi)
   return qvpStatusNoError;
 }
 
-QvpStatus CheckRange(Size roi, Operands images, float low, float high) {
+// Ends that are infinite or not numbers are no range.
+QvpStatus CheckRange(Size roi, Operands images, double low, double high) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, images)) return failed;
-  return high - low > 0 ? qvpStatusNoError : qvpStatusScaleRange;
+  return high - low > 0 && high - low < __builtin_inf() ? qvpStatusNoError : qvpStatusScaleRange;
 }
 
-// In double, so that 255 gives the upper end exactly.
+// In double precision. 255 gives the upper end itself, whatever the product is rounded to.
 QvpStatus ToFloat(const Image<const uint8_t>& src, const Image<float>& dst, Size roi, float low, float high) {
   if (const QvpStatus failed = CheckRange(roi, {src, dst}, low, high)) return failed;
-  const double factor = (static_cast<double>(high) - low) / 255, first = low;
+  const double first = low, last = high, factor = (last - first) / 255;
   const auto kernel = [=](auto v) HWY_ATTR {
     const hn::DFromV<decltype(v)> d;
-    return hn::Add(hn::Set(d, first), hn::Mul(v, hn::Set(d, factor)));
+    const auto inside = hn::Add(hn::Set(d, first), hn::Mul(v, hn::Set(d, factor)));
+    return hn::IfThenElse(hn::Eq(v, hn::Set(d, 255.0)), hn::Set(d, last), inside);
   };
   MapImages(hn::ScalableTag<double>(), kernel, roi, dst, src);
   return qvpStatusNoError;
 }
 
+// v 255 / range in double precision. The product with a rounded factor is off by less than 2^-51 of it, so that it may
+// stand for the quotient unless it comes this close to a half.
+struct InRangeOf {
+  double range, factor;
+
+  template <class V>
+  HWY_INLINE V operator()(V v) const {
+    const hn::DFromV<V> d;
+    const V product = hn::Mul(v, hn::Set(d, factor));
+    const auto isClose = hn::Gt(hn::Abs(hn::Sub(product, hn::Round(product))), hn::Set(d, 0.5 - 0x1p-40));
+    if (HWY_LIKELY(hn::AllFalse(d, isClose))) return product;
+    return hn::IfThenElse(isClose, hn::Div(hn::Mul(v, hn::Set(d, 255.0)), hn::Set(d, range)), product);
+  }
+};
+
 QvpStatus FromFloat(const Image<const float>& src, const Image<uint8_t>& dst, Size roi, float low, float high) {
   if (const QvpStatus failed = CheckRange(roi, {src, dst}, low, high)) return failed;
-  const double factor = 255 / (static_cast<double>(high) - low), first = low;
-  const auto kernel = [=](auto v) HWY_ATTR {
-    const hn::DFromV<decltype(v)> d;
-    return hn::Mul(hn::Sub(v, hn::Set(d, first)), hn::Set(d, factor));
-  };
+  const double first = low, range = static_cast<double>(high) - first;
+  const InRangeOf scaled{range, 255 / range};
+  const auto kernel = [=](auto v) HWY_ATTR { return scaled(hn::Sub(v, hn::Set(hn::DFromV<decltype(v)>(), first))); };
   MapImages(hn::ScalableTag<double>(), kernel, roi, dst, src);
   return qvpStatusNoError;
 }
 
 }  // namespace
 
-#define SCALE(from, to, impl, layout)                                                                          \
-  QvpStatus qvpiScale_##from##to##_##layout##R(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, \
-                                               QvpiSize roiSize) {                                             \
-    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize);      \
-  }
-#define SCALE_FLOAT(from, to, impl, layout)                                                                           \
-  QvpStatus qvpiScale_##from##to##_##layout##R(const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep,        \
-                                               QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax) {                          \
-    return impl(View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##layout), roiSize, vMin, vMax); \
-  }
+#define SCALE(from, to, impl, layout) QVP_CONVERT(qvpiScale_##from##to##_##layout##R, from, to, layout, impl, (), ())
+#define SCALE_FLOAT(from, to, impl, layout) \
+  QVP_CONVERT(qvpiScale_##from##to##_##layout##R, from, to, layout, impl, (Qvp32f vMin, Qvp32f vMax), (vMin, vMax))
 
 QVP_EACH_LAYOUT(SCALE, 8u, 16u, Expand)
 QVP_EACH_LAYOUT(SCALE, 8u, 16s, Expand)

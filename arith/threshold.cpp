@@ -28,17 +28,17 @@ HWY_INLINE V IfBelow(V v, V bound, V value, V otherwise) {
   }
 }
 
-// The pixel stands second: it is what a comparison with NaN gives.
+// NaN stays.
 struct BoundAbove {
   template <class V>
   HWY_INLINE V operator()(V v, V bound) const {
-    return hn::Min(bound, v);
+    return MinOrSecond(bound, v);
   }
 };
 struct BoundBelow {
   template <class V>
   HWY_INLINE V operator()(V v, V bound) const {
-    return hn::Max(bound, v);
+    return MaxOrSecond(bound, v);
   }
 };
 struct ValueAbove {
@@ -65,7 +65,7 @@ template <class Op, class T, class... Constant>
 void Apply(const Image<const T>& src, const Image<T>& dst, Size roi, const Constant*... values) {
   const hn::ScalableTag<T> d;
   const auto rows = [&](auto keepAlpha, const auto&... constant) {
-    const auto row = [&](ptrdiff_t n, T* to, const T* from) QVP_ROW_KERNEL {
+    const auto row = [&](ptrdiff_t n, T* to, const T* from) HWY_ATTR {
       MapRowWith<keepAlpha()>(
           d, to, n, [&](auto at, auto v) { return Op()(v, at(constant)...); }, from);
     };
@@ -104,36 +104,23 @@ QvpStatus TwoSided(const Image<const T>& src, const Image<T>& dst, Size roi, con
 
 }  // namespace
 
-// The two exports of a name: the parameters and arguments that follow the size are given in parentheses.
-#define UNWRAP(...) __VA_ARGS__
-#define BOTH_PLACES(name, type, layout, impl, parameters, arguments)                                                \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,           \
-                                        QvpiSize roiSize, UNWRAP parameters) {                                      \
-    return impl(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout},                                           \
-                Image<Qvp##type>{pDst, dstStep, Layout::k##layout}, roiSize, UNWRAP arguments);                     \
-  }                                                                                                                 \
-  QvpStatus name##_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, UNWRAP parameters) { \
-    return impl(Image<const Qvp##type>{pSrcDst, srcDstStep, Layout::k##layout},                                     \
-                Image<Qvp##type>{pSrcDst, srcDstStep, Layout::k##layout}, roiSize, UNWRAP arguments);               \
-  }
-
-#define THRESHOLDS(type, layout)                                                                             \
-  BOTH_PLACES(qvpiThreshold, type, layout, Threshold, (QVP_VALUES_##layout(type) threshold, QvpCmpOp cmpOp), \
-              (Values(threshold), cmpOp))                                                                    \
-  BOTH_PLACES(qvpiThreshold_GT, type, layout, OneSided<BoundAbove>, (QVP_VALUES_##layout(type) threshold),   \
-              (Values(threshold)))                                                                           \
-  BOTH_PLACES(qvpiThreshold_LT, type, layout, OneSided<BoundBelow>, (QVP_VALUES_##layout(type) threshold),   \
-              (Values(threshold)))                                                                           \
-  BOTH_PLACES(qvpiThreshold_GTVal, type, layout, OneSided<ValueAbove>,                                       \
-              (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                        \
-              (Values(threshold), Values(value)))                                                            \
-  BOTH_PLACES(qvpiThreshold_LTVal, type, layout, OneSided<ValueBelow>,                                       \
-              (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                        \
-              (Values(threshold), Values(value)))                                                            \
-  BOTH_PLACES(qvpiThreshold_LTValGTVal, type, layout, TwoSided,                                              \
-              (QVP_VALUES_##layout(type) thresholdLT, QVP_VALUES_##layout(type) valueLT,                     \
-               QVP_VALUES_##layout(type) thresholdGT, QVP_VALUES_##layout(type) valueGT),                    \
-              (Values(thresholdLT), Values(valueLT), Values(thresholdGT), Values(valueGT)))
+#define THRESHOLDS(type, layout)                                                                                   \
+  QVP_BOTH_PLACES(qvpiThreshold, , type, layout, Threshold, (QVP_VALUES_##layout(type) threshold, QvpCmpOp cmpOp), \
+                  (Values(threshold), cmpOp))                                                                      \
+  QVP_BOTH_PLACES(qvpiThreshold_GT, , type, layout, OneSided<BoundAbove>, (QVP_VALUES_##layout(type) threshold),   \
+                  (Values(threshold)))                                                                             \
+  QVP_BOTH_PLACES(qvpiThreshold_LT, , type, layout, OneSided<BoundBelow>, (QVP_VALUES_##layout(type) threshold),   \
+                  (Values(threshold)))                                                                             \
+  QVP_BOTH_PLACES(qvpiThreshold_GTVal, , type, layout, OneSided<ValueAbove>,                                       \
+                  (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                          \
+                  (Values(threshold), Values(value)))                                                              \
+  QVP_BOTH_PLACES(qvpiThreshold_LTVal, , type, layout, OneSided<ValueBelow>,                                       \
+                  (QVP_VALUES_##layout(type) threshold, QVP_VALUES_##layout(type) value),                          \
+                  (Values(threshold), Values(value)))                                                              \
+  QVP_BOTH_PLACES(qvpiThreshold_LTValGTVal, , type, layout, TwoSided,                                              \
+                  (QVP_VALUES_##layout(type) thresholdLT, QVP_VALUES_##layout(type) valueLT,                       \
+                   QVP_VALUES_##layout(type) thresholdGT, QVP_VALUES_##layout(type) valueGT),                      \
+                  (Values(thresholdLT), Values(valueLT), Values(thresholdGT), Values(valueGT)))
 
 QVP_EACH_LAYOUT(THRESHOLDS, 8u)
 QVP_EACH_LAYOUT(THRESHOLDS, 16u)

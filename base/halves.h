@@ -88,7 +88,7 @@ template <class Op>
 auto InFloatLanes(const Op& op) {
   const auto rounded = [op](auto... v) HWY_ATTR {
     const hn::ScalableTag<float> d;
-    const auto result = hn::Max(op(v...), hn::Zero(d));  // NaN gives the second operand
+    const auto result = MaxOrSecond(op(v...), hn::Zero(d));
     return RoundToInt(hn::Min(result, hn::Set(d, 255.0f)));
   };
   return [rounded](auto... v) HWY_ATTR { return ViaFloats(rounded, v...); };

@@ -76,5 +76,9 @@ auto AsBytes(T* data, ptrdiff_t step, Layout layout) {
   using Byte = std::conditional_t<std::is_const_v<T>, const uint8_t, uint8_t>;
   return Image<Byte>{reinterpret_cast<Byte*>(data), step, layout, sizeof(T)};
 }
+template <class T>
+auto AsBytes(const Image<T>& image) {
+  return AsBytes(image.data, image.step, image.layout);
+}
 
 }  // namespace qvp

@@ -6,26 +6,9 @@
 #include <limits>
 #include <type_traits>
 
-#include "base/simd.h"
+#include "base/floats.h"
 
 namespace qvp {
-
-// Rounds to the nearest integer, ties to even. Lanes beyond the range, and NaN, give the lowest integer.
-HWY_INLINE hn::Vec128<int32_t> RoundToInt(hn::Vec128<float> v) { return hn::Vec128<int32_t>{_mm_cvtps_epi32(v.raw)}; }
-#if HWY_TARGET <= HWY_AVX2
-HWY_INLINE hn::Vec256<int32_t> RoundToInt(hn::Vec256<float> v) {
-  return hn::Vec256<int32_t>{_mm256_cvtps_epi32(v.raw)};
-}
-#endif
-#if HWY_TARGET <= HWY_AVX3
-HWY_INLINE hn::Vec512<int32_t> RoundToInt(hn::Vec512<float> v) {
-  return hn::Vec512<int32_t>{_mm512_cvtps_epi32(v.raw)};
-}
-#endif
-template <size_t N>
-HWY_INLINE hn::Vec128<int32_t, N> RoundToInt(hn::Vec128<float, N> v) {
-  return hn::Vec128<int32_t, N>{_mm_cvtps_epi32(v.raw)};
-}
 
 // Loads as many elements as D has lanes, converted to the lanes' type, which holds every value of S but for 32-bit
 // integers as float: those are rounded to the nearest.
@@ -61,7 +44,7 @@ HWY_INLINE hn::Vec<D> LoadWide(D d, const S* from) {
 template <class D, class V = hn::Vec<D>>
 HWY_INLINE auto NarrowToUnsigned32(D d, V v) {
   const hn::Rebind<uint32_t, D> to;
-  const V half = hn::Set(d, 2147483648.0f), positive = hn::Max(v, hn::Zero(d));
+  const V half = hn::Set(d, 2147483648.0f), positive = MaxOrSecond(v, hn::Zero(d));
   const auto isUpper = hn::Ge(positive, half), isAbove = hn::Ge(positive, hn::Set(d, 4294967296.0f));
   const V reduced = hn::Sub(positive, hn::IfThenElseZero(isUpper, half));
   const auto whole = hn::BitCast(to, RoundToInt(reduced));
@@ -80,8 +63,7 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
   } else if constexpr (std::is_same_v<L, float> && std::is_same_v<T, uint32_t>) {
     return NarrowToUnsigned32(d, v);
   } else if constexpr (std::is_same_v<L, float> && std::is_integral_v<T>) {
-    // The lower bound stands second: it is what a comparison with NaN gives.
-    const V bounded = hn::Max(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
+    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
     if constexpr (sizeof(T) < sizeof(int32_t)) {
       const V top = hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()));
       return hn::DemoteTo(to, RoundToInt(hn::Min(bounded, top)));
@@ -90,7 +72,7 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
       return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToInt(bounded));
     }
   } else if constexpr (std::is_same_v<L, double> && std::is_integral_v<T>) {
-    const V bounded = hn::Max(v, hn::Set(d, static_cast<double>(std::numeric_limits<T>::lowest())));
+    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<double>(std::numeric_limits<T>::lowest())));
     const V top = hn::Set(d, static_cast<double>(std::numeric_limits<T>::max()));
     const auto whole = hn::DemoteTo(ints, hn::Round(hn::Min(bounded, top)));
     if constexpr (sizeof(T) < sizeof(int32_t)) {

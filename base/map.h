@@ -67,7 +67,7 @@ constexpr int kVectorsAtOnce = std::is_integral_v<T> && sizeof(T) < sizeof(int32
 template <class T, class D, class V = hn::Vec<D>>
 HWY_INLINE auto Whole(D d, V v) {
   if constexpr (std::is_same_v<hn::TFromD<D>, float>) {
-    const V bounded = hn::Max(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));  // NaN: the second
+    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
     return RoundToInt(hn::Min(bounded, hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()))));
   } else {
     return v;

@@ -1,8 +1,8 @@
 # How the libraries of one CPU build are made. A new source file needs no line here.
-set(QVPI_SOURCE_FOLDERS core arith filter geometry stats transform feature signal)
+set(QVPI_SOURCE_FOLDERS base core arith filter geometry stats transform feature signal)
 set(QVPI_WARNINGS -Wall -Wextra -Wshadow -Wcast-qual -Wmissing-declarations -Werror)
 set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function -fno-sanitize-recover=all
-                    -fno-omit-frame-pointer -g)
+                    -fno-omit-frame-pointer -g1 -O1)
 set(QVPI_SOVERSION 10)
 
 # No exceptions, no run-time type information and no C++ run-time library; float results must not depend on the CPU.
@@ -68,7 +68,17 @@ function(qvpi_companion code bits)
   qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
 endfunction()
 
-function(qvpi_cpu code bits feature vectors output folder name)
+# Whether the machine that builds can run what needs a CPU feature.
+file(READ /proc/cpuinfo QVPI_CPUINFO)
+function(qvpi_runs_here feature result)
+  if(QVPI_CPUINFO MATCHES " ${feature} ")
+    set(${result} TRUE PARENT_SCOPE)
+  else()
+    set(${result} FALSE PARENT_SCOPE)
+  endif()
+endfunction()
+
+function(qvpi_cpu code bits feature tests vectors output folder name)
   if(NOT code IN_LIST QVPI_CPUS)
     return()
   endif()
@@ -97,7 +107,11 @@ function(qvpi_cpu code bits feature vectors output folder name)
   qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map)
   target_link_libraries(${library} PUBLIC qvpcore_${code})
   target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
-  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_FOLDER ${folder})
+  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests} QVPI_FOLDER ${folder})
   set_property(GLOBAL APPEND PROPERTY QVPI_CPU_BUILDS ${code})
+  qvpi_runs_here(${feature} runs)
+  if(runs AND bits EQUAL 64)  # rows go upwards: the best one stays
+    set_property(GLOBAL PROPERTY QVPI_HOST_BUILD ${code})
+  endif()
   add_custom_target(${code} DEPENDS ${library} ${library}_static)
 endfunction()

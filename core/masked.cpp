@@ -103,14 +103,14 @@ QvpStatus SetMasked(const void* value, const Bytes& dst, Size roi, const ConstBy
 
 }  // namespace
 
-#define MASKED(type)                                                   \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C1MR, type, C1, CopyMasked)        \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C3MR, type, C3, CopyMasked)        \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_C4MR, type, C4, CopyMasked)        \
-  QVP_MASKED_MOVE(qvpiCopy_##type##_AC4MR, type, AC4, CopyMasked)      \
-  QVP_MASKED_FILL(qvpiSet_##type##_C1MR, type, C1, SetMasked)          \
-  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C3MR, type, C3, SetMasked) \
-  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_C4MR, type, C4, SetMasked) \
-  QVP_MASKED_FILL_CHANNELS(qvpiSet_##type##_AC4MR, type, AC4, SetMasked)
+#define MASKED(type)                                              \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C1MR, type, C1, CopyMasked)   \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C3MR, type, C3, CopyMasked)   \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_C4MR, type, C4, CopyMasked)   \
+  QVP_MASKED_MOVE(qvpiCopy_##type##_AC4MR, type, AC4, CopyMasked) \
+  QVP_MASKED_FILL(qvpiSet_##type##_C1MR, type, C1, SetMasked)     \
+  QVP_MASKED_FILL(qvpiSet_##type##_C3MR, type, C3, SetMasked)     \
+  QVP_MASKED_FILL(qvpiSet_##type##_C4MR, type, C4, SetMasked)     \
+  QVP_MASKED_FILL(qvpiSet_##type##_AC4MR, type, AC4, SetMasked)
 
 QVP_EACH_MOVED_TYPE(MASKED)

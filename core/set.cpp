@@ -80,16 +80,16 @@ void qvp::FillPixels(const void* value, const Bytes& dst, Size roi) {
   Fence(store);
 }
 
-#define SET(type)                                              \
-  QVP_FILL(qvpiSet_##type##_C1R, type, C1, Set)                \
-  QVP_FILL_L(qvpiSet_##type##_C1R_L, type, C1, Set)            \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_C3R, type, C3, Set)       \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C3R_L, type, C3, Set)   \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_C4R, type, C4, Set)       \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_C4R_L, type, C4, Set)   \
-  QVP_FILL_CHANNELS(qvpiSet_##type##_AC4R, type, AC4, Set)     \
-  QVP_FILL_CHANNELS_L(qvpiSet_##type##_AC4R_L, type, AC4, Set) \
-  QVP_FILL(qvpiSet_##type##_C3CR, type, C3CR, Set)             \
+#define SET(type)                                     \
+  QVP_FILL(qvpiSet_##type##_C1R, type, C1, Set)       \
+  QVP_FILL(qvpiSet_##type##_C3R, type, C3, Set)       \
+  QVP_FILL(qvpiSet_##type##_C4R, type, C4, Set)       \
+  QVP_FILL(qvpiSet_##type##_AC4R, type, AC4, Set)     \
+  QVP_FILL_L(qvpiSet_##type##_C1R_L, type, C1, Set)   \
+  QVP_FILL_L(qvpiSet_##type##_C3R_L, type, C3, Set)   \
+  QVP_FILL_L(qvpiSet_##type##_C4R_L, type, C4, Set)   \
+  QVP_FILL_L(qvpiSet_##type##_AC4R_L, type, AC4, Set) \
+  QVP_FILL(qvpiSet_##type##_C3CR, type, C3CR, Set)    \
   QVP_FILL(qvpiSet_##type##_C4CR, type, C4CR, Set)
 
 QVP_EACH_MOVED_TYPE(SET)

@@ -52,22 +52,16 @@ QvpStatus Duplicate(const ConstBytes& src, const Bytes& dst, Size roi) {
 
 }  // namespace
 
-#define SWAP(type, from, to, name)                                                                               \
-  QvpStatus qvpiSwapChannels_##type##_##name(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,   \
-                                             QvpiSize roiSize, const int* dstOrder) {                            \
-    return SwapChannels(AsBytes(pSrc, srcStep, Layout::k##from), AsBytes(pDst, dstStep, Layout::k##to), roiSize, \
-                        dstOrder);                                                                               \
-  }
-#define SWAP_LAYOUTS(type)                                                                                    \
-  SWAP(type, C3, C3, C3R)                                                                                     \
-  SWAP(type, C4, C4, C4R)                                                                                     \
-  SWAP(type, AC4, AC4, AC4R)                                                                                  \
-  SWAP(type, C4, C3, C4C3R)                                                                                   \
-  QvpStatus qvpiSwapChannels_##type##_C3C4R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, \
-                                            QvpiSize roiSize, const int* dstOrder, Qvp##type val) {           \
-    return SwapThreeToFour(AsBytes(pSrc, srcStep, Layout::kC3), AsBytes(pDst, dstStep, Layout::kC4), roiSize, \
-                           dstOrder, &val);                                                                   \
-  }
+#define SWAP(type, from, to, name)                                                                      \
+  QVP_MAP(AsBytes, qvpiSwapChannels_##type##_##name, type, from, type, to, int, QvpiSize, SwapChannels, \
+          (const int* dstOrder), (dstOrder))
+#define SWAP_LAYOUTS(type)                                                                              \
+  SWAP(type, C3, C3, C3R)                                                                               \
+  SWAP(type, C4, C4, C4R)                                                                               \
+  SWAP(type, AC4, AC4, AC4R)                                                                            \
+  SWAP(type, C4, C3, C4C3R)                                                                             \
+  QVP_MAP(AsBytes, qvpiSwapChannels_##type##_C3C4R, type, C3, type, C4, int, QvpiSize, SwapThreeToFour, \
+          (const int* dstOrder, Qvp##type val), (dstOrder, &val))
 
 QVP_EACH_MOVED_TYPE(SWAP_LAYOUTS)
 
