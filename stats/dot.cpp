@@ -2,10 +2,13 @@
 #include "base/check.h"
 #include "base/export.h"
 #include "base/map.h"
-#include "stats/reduction.h"
+#include "base/scalar.h"
+#include "stats/exact_sums.h"
+#include "stats/float_sums.h"
 
 namespace {
 using namespace qvp;
+using namespace qvp::stats;
 
 struct Pair {
   template <class V>
@@ -21,7 +24,7 @@ void DotOfIntegers(const Image<const T>& a, const Image<const T>& b, Size roi, d
   const auto add = [&](ptrdiff_t pixels, const T* rowA, const T* rowB) {
     exact.Add(pixels * channels, Pair(), AsUnsigned(rowA), AsUnsigned(rowB));
   };
-  ForEachRow(roi, add, a, b);
+  Rows(a, b).ForEach(roi, add);
   uint64_t sums[4];
   exact.Finish(channels, sums);
   for (int c = 0; c < channels; ++c) {
@@ -36,26 +39,31 @@ HWY_INLINE V Unsigned(V v) {
   return hn::IfThenElse(hn::Lt(v, hn::Zero(d)), hn::Add(v, hn::Set(d, 4294967296.0)), v);
 }
 
-// Products and sums in the lanes of the kernel.
-template <class Kernel, class S, class T, class F>
-void DotInLanes(const Image<const T>& a, const Image<const T>& b, Size roi, double* dots, const F& toLanes) {
-  const int channels = Channels(a.layout);
-  Accumulators<Kernel> partials;
-  const auto multiply = [=](auto x, auto y) HWY_ATTR { return hn::Mul(toLanes(x), toLanes(y)); };
-  for (ptrdiff_t y = 0; y < roi.height; ++y) {
-    partials.Add(roi.width * channels, multiply, reinterpret_cast<const S*>(a.Row(y)),
-                 reinterpret_cast<const S*>(b.Row(y)));
+struct Product {
+  template <class V>
+  HWY_INLINE V operator()(V a, V b) const {
+    return hn::Mul(a, b);
   }
-  SumPartials(partials, channels, dots);
-}
+};
+struct UnsignedProduct {
+  template <class V>
+  HWY_INLINE V operator()(V a, V b) const {
+    return hn::Mul(Unsigned(a), Unsigned(b));
+  }
+};
 
+// Products and sums in the lanes of the kernel. Unsigned integers are loaded as signed ones.
 template <class Kernel, class T>
-void DotOfFloats(const Image<const T>& a, const Image<const T>& b, Size roi, double* dots) {
-  if constexpr (std::is_same_v<T, uint32_t>) {
-    DotInLanes<Kernel, int32_t>(a, b, roi, dots, [](auto v) HWY_ATTR { return Unsigned(v); });
-  } else {
-    DotInLanes<Kernel, T>(a, b, roi, dots, [](auto v) HWY_ATTR { return v; });
-  }
+void DotInLanes(const Image<const T>& a, const Image<const T>& b, Size roi, double* dots) {
+  constexpr bool kIsUnsigned = std::is_same_v<T, uint32_t>;
+  using Sample = std::conditional_t<kIsUnsigned, int32_t, T>;
+  using F = std::conditional_t<kIsUnsigned, UnsignedProduct, Product>;
+  const int channels = Channels(a.layout);
+  RunningSums<Kernel, F, Sample, Sample> sums{F()};
+  Rows(a, b).ForEach(roi, [&](ptrdiff_t pixels, const T* rowA, const T* rowB) {
+    sums.Add(pixels * channels, reinterpret_cast<const Sample*>(rowA), reinterpret_cast<const Sample*>(rowB));
+  });
+  sums.Finish(channels, dots);
 }
 
 template <class T>
@@ -63,9 +71,9 @@ void DotOf(const Image<const T>& a, const Image<const T>& b, Size roi, QvpHintAl
   if constexpr (sizeof(T) <= 2) {
     (a.layout == Layout::kC1 ? DotOfIntegers<T, true> : DotOfIntegers<T, false>)(a, b, roi, dots);
   } else if constexpr (std::is_integral_v<T>) {
-    DotOfFloats<AccurateSums, T>(a, b, roi, dots);
+    DotInLanes<AccurateSums, T>(a, b, roi, dots);
   } else {
-    (hint == qvpAlgHintAccurate ? DotOfFloats<AccurateSums, T> : DotOfFloats<FastSums, T>)(a, b, roi, dots);
+    (hint == qvpAlgHintAccurate ? DotInLanes<AccurateSums, T> : DotInLanes<FastSums, T>)(a, b, roi, dots);
   }
 }
 
@@ -80,20 +88,13 @@ QvpStatus DotProduct(const Image<const T>& a, const Image<const T>& b, Size roi,
   return qvpStatusNoError;
 }
 
-template <class T>
-T At(const T* p, ptrdiff_t i) {
-  T value;
-  std::memcpy(&value, p + i, sizeof(T));
-  return value;
-}
-
 // kVectors vectors of the result, from column x on.
 template <int kVectors, class D, class T = hn::TFromD<D>>
 HWY_INLINE void AddWeightedRows(D d, const T* const* rows, int count, const T* taps, ptrdiff_t x, T* dst) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
   hn::Vec<D> sums[kVectors];
   const auto term = [&](int k, int v) HWY_ATTR {
-    return hn::Mul(hn::LoadU(d, At(rows, k) + x + v * kLanes), hn::Set(d, At(taps, k)));
+    return hn::Mul(hn::LoadU(d, LoadScalar(rows + k) + x + v * kLanes), hn::Set(d, LoadScalar(taps + k)));
   };
   for (int v = 0; v < kVectors; ++v) sums[v] = term(0, v);
   for (int k = 1; k < count; ++k) {
@@ -107,7 +108,7 @@ QvpStatus WeightedSumOfRows(const T* const* rows, T* dst, int count, const T* ta
   if (rows == nullptr || dst == nullptr || taps == nullptr) return qvpStatusNullPointer;
   if (n < 1 || count < 1) return qvpStatusSize;
   for (int k = 0; k < count; ++k) {
-    if (At(rows, k) == nullptr) return qvpStatusNullPointer;
+    if (LoadScalar(rows + k) == nullptr) return qvpStatusNullPointer;
   }
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
@@ -120,12 +121,9 @@ QvpStatus WeightedSumOfRows(const T* const* rows, T* dst, int count, const T* ta
 
 }  // namespace
 
-#define DOT_PRODUCT(type, form, layout)                                                                                \
-  QvpStatus qvpiDotProd_##type##64f_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2,          \
-                                                int src2Step, QvpiSize roiSize, Qvp64f* pDp QVP_##form##_PARAMETER) {  \
-    return DotProduct(Image<const Qvp##type>{pSrc1, src1Step, Layout::k##layout},                                      \
-                      Image<const Qvp##type>{pSrc2, src2Step, Layout::k##layout}, roiSize, pDp QVP_##form##_ARGUMENT); \
-  }
+#define DOT_PRODUCT(type, form, layout)                                             \
+  QVP_TWO_TO_NUMBERS(qvpiDotProd_##type##64f_##layout##R, type, layout, DotProduct, \
+                     (Qvp64f * pDp QVP_##form##_PARAMETER), (pDp QVP_##form##_ARGUMENT))
 
 QVP_EACH_LAYOUT(DOT_PRODUCT, 8u, PLAIN)
 QVP_EACH_LAYOUT(DOT_PRODUCT, 16u, PLAIN)

@@ -1,17 +1,12 @@
 // Sizes, Init functions and levels of histograms.
 #include "base/record.h"
+#include "base/scalar.h"
 #include "qvpi.h"
 #include "stats/histogram_spec.h"
 
 namespace {
 using namespace qvp;
-
-template <class T>
-T Entry(const T* array, ptrdiff_t i) {
-  T value;
-  std::memcpy(&value, array + i, sizeof(T));
-  return value;
-}
+using namespace qvp::stats;
 
 // Toward zero, within the range of 32 bits.
 int32_t Truncated(double v) {
@@ -24,13 +19,11 @@ int32_t Ceiling(double v) {
   return v > whole && whole < INT32_MAX ? whole + 1 : whole;
 }
 
-// Writes a record: as long as it is not finished, its identification is 0.
+// Writes what follows a record's identification.
 class Writer {
  public:
   Writer(QvpiHistogramSpec* spec, QvpDataType type, int channels, bool isUniform)
-      : bytes_(reinterpret_cast<uint8_t*>(spec)), header_{type, channels, isUniform, 0, {}, {}} {
-    WriteIdentification(0);
-  }
+      : bytes_(reinterpret_cast<uint8_t*>(spec)), header_{type, channels, isUniform, 0, {}, {}} {}
 
   void Add(int channel, int levels) {
     header_.levels[channel] = levels;
@@ -47,24 +40,26 @@ class Writer {
   void Finish() {
     std::memset(bytes_, 0, HistogramRecord::kHeaderBytes);
     std::memcpy(bytes_, &header_, sizeof(header_));
-    WriteIdentification(HistogramRecord::kIdentification);
   }
 
  private:
-  void WriteIdentification(uint32_t word) {
-    std::memcpy(bytes_ + offsetof(HistogramHeader, identification), &word, sizeof(word));
-  }
-
   uint8_t* bytes_;
   HistogramHeader header_;
   ptrdiff_t offset_ = HistogramRecord::kHeaderBytes;
 };
 
+template <class Fill>
+QvpStatus MakeRecord(QvpiHistogramSpec* spec, const Fill& fill) {
+  uint8_t* const begin = reinterpret_cast<uint8_t*>(spec);
+  return InitRecord(begin ? begin + offsetof(HistogramHeader, identification) : nullptr,
+                    HistogramRecord::kIdentification, fill);
+}
+
 QvpStatus CheckLevels(const float* levels, int n) {
   if (levels == nullptr) return qvpStatusNullPointer;
   if (n < 2) return qvpStatusHistoLevels;
   for (ptrdiff_t k = 0; k + 1 < n; ++k) {
-    if (!(Entry(levels, k) < Entry(levels, k + 1))) return qvpStatusRange;
+    if (!(LoadScalar(levels + k) < LoadScalar(levels + k + 1))) return qvpStatusRange;
   }
   return qvpStatusNoError;
 }
@@ -76,11 +71,53 @@ QvpStatus CheckBounds(double lower, double upper, int n) {
   return lower < upper && (isFinite || n == 2) ? qvpStatusNoError : qvpStatusRange;
 }
 
-// Whatever fails, the record is none from here on.
-QvpStatus CheckFirst(QvpDataType type, const void* a, const void* b, const void* c, QvpiHistogramSpec* spec) {
-  if (spec) Writer(spec, type, 0, false);
+QvpStatus CheckFirst(QvpDataType type, const void* a, const void* b, const void* c, const void* spec, int channels) {
   if (!IsHistogramType(type)) return qvpStatusDataType;
-  return a && b && c && spec ? qvpStatusNoError : qvpStatusNullPointer;
+  if (!a || !b || !c || !spec) return qvpStatusNullPointer;
+  return IsHistogramChannels(channels) ? qvpStatusNoError : qvpStatusNumChannels;
+}
+
+QvpStatus FillLevels(QvpDataType type, const Qvp32f* const levels[], const int counts[], int channels,
+                     QvpiHistogramSpec* spec) {
+  if (const QvpStatus failed = CheckFirst(type, levels, counts, counts, spec, channels)) return failed;
+  for (int c = 0; c < channels; ++c) {
+    const QvpStatus failed = CheckLevels(LoadScalar(levels + c), LoadScalar(counts + c));
+    if (failed) return failed;
+  }
+  Writer writer(spec, type, channels, false);
+  for (int c = 0; c < channels; ++c) {
+    const int n = LoadScalar(counts + c);
+    writer.Add(c, n);
+    for (ptrdiff_t k = 0; k < n; ++k) writer.Put(k, LoadScalar(LoadScalar(levels + c) + k), Ceiling);
+  }
+  writer.Finish();
+  return qvpStatusNoError;
+}
+
+// The n levels of a channel, from lower to upper in equal steps. Returns the step.
+double AddUniformLevels(Writer& writer, int channel, double lower, double upper, int n) {
+  const double step = (upper - lower) / (n - 1);
+  writer.Add(channel, n);
+  writer.Put(0, lower, Truncated);
+  for (ptrdiff_t k = 1; k + 1 < n; ++k) writer.Put(k, lower + static_cast<double>(k) * step, Truncated);
+  writer.Put(n - 1, upper, Truncated);
+  return step;
+}
+
+QvpStatus FillUniform(QvpDataType type, const Qvp32f lower[], const Qvp32f upper[], const int counts[], int channels,
+                      QvpiHistogramSpec* spec) {
+  if (const QvpStatus failed = CheckFirst(type, lower, upper, counts, spec, channels)) return failed;
+  for (int c = 0; c < channels; ++c) {
+    const QvpStatus failed = CheckBounds(LoadScalar(lower + c), LoadScalar(upper + c), LoadScalar(counts + c));
+    if (failed) return failed;
+  }
+  Writer writer(spec, type, channels, true);
+  bool isNarrow = false;
+  for (int c = 0; c < channels; ++c) {
+    isNarrow |= AddUniformLevels(writer, c, LoadScalar(lower + c), LoadScalar(upper + c), LoadScalar(counts + c)) < 1;
+  }
+  writer.Finish();
+  return isNarrow && type != qvp32f ? qvpStatusSizeWarning : qvpStatusNoError;
 }
 
 }  // namespace
@@ -92,7 +129,7 @@ QvpStatus qvpiHistogramGetBufferSize(QvpDataType dataType, QvpiSize roiSize, con
   if (!IsHistogramChannels(numChannels)) return qvpStatusNumChannels;
   ByteCount bytes = HistogramRecord::kHeaderBytes;
   for (int c = 0; c < numChannels; ++c) {
-    const int n = Entry(nLevels, c);
+    const int n = LoadScalar(nLevels + c);
     if (n < 2) return qvpStatusHistoLevels;
     bytes = bytes + ByteCount(n) * HistogramRecord::kLevelBytes;
   }
@@ -104,43 +141,12 @@ QvpStatus qvpiHistogramGetBufferSize(QvpDataType dataType, QvpiSize roiSize, con
 
 QvpStatus qvpiHistogramInit(QvpDataType dataType, const Qvp32f* const pLevels[], const int nLevels[], int numChannels,
                             QvpiHistogramSpec* pSpec) {
-  if (const QvpStatus failed = CheckFirst(dataType, pLevels, nLevels, nLevels, pSpec)) return failed;
-  Writer writer(pSpec, dataType, numChannels, false);
-  if (!IsHistogramChannels(numChannels)) return qvpStatusNumChannels;
-  for (int c = 0; c < numChannels; ++c) {
-    if (const QvpStatus failed = CheckLevels(Entry(pLevels, c), Entry(nLevels, c))) return failed;
-  }
-  for (int c = 0; c < numChannels; ++c) {
-    const int n = Entry(nLevels, c);
-    writer.Add(c, n);
-    for (ptrdiff_t k = 0; k < n; ++k) writer.Put(k, Entry(Entry(pLevels, c), k), Ceiling);
-  }
-  writer.Finish();
-  return qvpStatusNoError;
+  return MakeRecord(pSpec, [&] { return FillLevels(dataType, pLevels, nLevels, numChannels, pSpec); });
 }
 
 QvpStatus qvpiHistogramUniformInit(QvpDataType dataType, const Qvp32f lowerLevel[], const Qvp32f upperLevel[],
                                    const int nLevels[], int numChannels, QvpiHistogramSpec* pSpec) {
-  if (const QvpStatus failed = CheckFirst(dataType, lowerLevel, upperLevel, nLevels, pSpec)) return failed;
-  Writer writer(pSpec, dataType, numChannels, true);
-  if (!IsHistogramChannels(numChannels)) return qvpStatusNumChannels;
-  for (int c = 0; c < numChannels; ++c) {
-    const QvpStatus failed = CheckBounds(Entry(lowerLevel, c), Entry(upperLevel, c), Entry(nLevels, c));
-    if (failed) return failed;
-  }
-  bool isNarrow = false;
-  for (int c = 0; c < numChannels; ++c) {
-    const double lower = Entry(lowerLevel, c), upper = Entry(upperLevel, c);
-    const int n = Entry(nLevels, c);
-    const double step = (upper - lower) / (n - 1);
-    isNarrow |= step < 1;
-    writer.Add(c, n);
-    writer.Put(0, lower, Truncated);
-    for (ptrdiff_t k = 1; k + 1 < n; ++k) writer.Put(k, lower + static_cast<double>(k) * step, Truncated);
-    writer.Put(n - 1, upper, Truncated);
-  }
-  writer.Finish();
-  return isNarrow && dataType != qvp32f ? qvpStatusSizeWarning : qvpStatusNoError;
+  return MakeRecord(pSpec, [&] { return FillUniform(dataType, lowerLevel, upperLevel, nLevels, numChannels, pSpec); });
 }
 
 QvpStatus qvpiHistogramGetLevels(const QvpiHistogramSpec* pSpec, Qvp32f* const pLevels[]) {
@@ -149,13 +155,13 @@ QvpStatus qvpiHistogramGetLevels(const QvpiHistogramSpec* pSpec, Qvp32f* const p
   if (!record.IsValid()) return qvpStatusBadArgument;
   const int channels = record.header().channels;
   for (int c = 0; c < channels; ++c) {
-    if (Entry(pLevels, c) == nullptr) return qvpStatusNullPointer;
+    if (LoadScalar(pLevels + c) == nullptr) return qvpStatusNullPointer;
   }
   for (int c = 0; c < channels; ++c) {
     for (ptrdiff_t k = 0; k < record.Levels(c); ++k) {
       const bool isFloat = record.header().dataType == qvp32f;
       const float level = isFloat ? record.Level<float>(c, k) : static_cast<float>(record.Level<int32_t>(c, k));
-      std::memcpy(Entry(pLevels, c) + k, &level, sizeof(level));
+      std::memcpy(LoadScalar(pLevels + c) + k, &level, sizeof(level));
     }
   }
   return qvpStatusNoError;

@@ -7,7 +7,7 @@
 
 #include "qvptypes.h"
 
-namespace qvp {
+namespace qvp::stats {
 
 struct HistogramHeader {
   int32_t dataType, channels, isUniform;
@@ -55,4 +55,4 @@ constexpr bool IsHistogramType(QvpDataType type) {
 }
 constexpr bool IsHistogramChannels(int channels) { return channels == 1 || channels == 3 || channels == 4; }
 
-}  // namespace qvp
+}  // namespace qvp::stats

@@ -1,10 +1,12 @@
 // Norms of images, of differences, and of differences related to the second image.
 #include "base/check.h"
 #include "base/export.h"
-#include "stats/reduction.h"
+#include "stats/exact_sums.h"
+#include "stats/float_sums.h"
 
 namespace {
 using namespace qvp;
+using namespace qvp::stats;
 
 enum class Norm { kInf, kL1, kL2 };
 
@@ -42,7 +44,7 @@ struct LargestLanes {
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* largest, const At& at) {
-    for (int k = 0; k < kVectors; ++k) largest[k] = hn::Max(at(k), largest[k]);
+    for (int k = 0; k < kVectors; ++k) largest[k] = MaxOrSecond(at(k), largest[k]);
   }
 };
 
@@ -94,28 +96,32 @@ class IntegerMeter {
   ExactSums<Kernel> sums_;
 };
 
-template <Norm kNorm, class Kernel>
+// What is summed up: |v| or v^2, of samples or of their differences.
+template <Norm kNorm, class D>
+struct Summand {
+  template <class... V>
+  HWY_INLINE auto operator()(V... v) const {
+    const auto m = Magnitude<D>()(v...);
+    if constexpr (kNorm == Norm::kL1) return m;
+    if constexpr (kNorm == Norm::kL2) return hn::Mul(m, m);
+  }
+};
+
+template <Norm kNorm, class Kernel, int kImages, class Sample = float>
 class FloatMeter {
  public:
   template <class... T>
   void Add(ptrdiff_t n, const T*... rows) {
-    partials_.Add(
-        n,
-        [](auto... v) HWY_ATTR {
-          const auto m = Magnitude<typename Kernel::D>()(v...);
-          if constexpr (kNorm == Norm::kL1) return m;
-          if constexpr (kNorm == Norm::kL2) return hn::Mul(m, m);
-        },
-        rows...);
+    static_assert(sizeof...(T) == kImages);
+    sums_.Add(n, rows...);
   }
-  void Finish(int channels, double* values) const { SumPartials(partials_, channels, values); }
+  void Finish(int channels, double* values) { sums_.Finish(channels, values); }
 
  private:
-  Accumulators<Kernel> partials_;
+  using F = Summand<kNorm, typename Kernel::D>;
+  using Sums = std::conditional_t<kImages == 1, RunningSums<Kernel, F, Sample>, RunningSums<Kernel, F, Sample, Sample>>;
+  Sums sums_{F()};
 };
-
-// The accurate sums of one channel: even and odd columns.
-using EvenOddSums = FloatSums<double, 2, hn::FixedTag<double, 2>>;
 
 // Squares of signed samples are products of them as they are; those of differences need the sign's bit.
 template <Norm kNorm, class T, bool kIsDifference, bool kOneChannel, class U = hwy::MakeUnsigned<T>>
@@ -142,11 +148,9 @@ void WithMeters(int channels, QvpHintAlgorithm hint, const Use& use) {
       use.template operator()<IntegerMeterFor<kNorm, T, true, false>, IntegerMeterFor<kNorm, T, false, false>>();
     }
   } else if (hint != qvpAlgHintAccurate) {
-    use.template operator()<FloatMeter<kNorm, FastSums>, FloatMeter<kNorm, FastSums>>();
-  } else if (channels == 1) {
-    use.template operator()<FloatMeter<kNorm, EvenOddSums>, FloatMeter<kNorm, EvenOddSums>>();
+    use.template operator()<FloatMeter<kNorm, FastSums, 2>, FloatMeter<kNorm, FastSums, 1>>();
   } else {
-    use.template operator()<FloatMeter<kNorm, AccurateSums>, FloatMeter<kNorm, AccurateSums>>();
+    use.template operator()<FloatMeter<kNorm, AccurateSums, 2>, FloatMeter<kNorm, AccurateSums, 1>>();
   }
 }
 
@@ -158,7 +162,7 @@ double SquareRoot(double v) {
 // What a meter told as the norm.
 template <Norm kNorm>
 double Finished(double v) {
-  return kNorm == Norm::kL2 ? Canonical(SquareRoot(v)) : v;
+  return kNorm == Norm::kL2 ? SquareRoot(v) : v;
 }
 
 template <Norm kNorm, class T>
@@ -166,8 +170,7 @@ void Measure(const Image<const T>& src, Size roi, QvpHintAlgorithm hint, double*
   const int channels = Channels(src.layout);
   WithMeters<kNorm, T>(channels, hint, [&]<class, class Meter>() {
     Meter meter;
-    ForEachRow(
-        roi, [&](ptrdiff_t pixels, const T* row) { meter.Add(pixels * channels, AsUnsigned(row)); }, src);
+    Rows(src).ForEach(roi, [&](ptrdiff_t pixels, const T* row) { meter.Add(pixels * channels, AsUnsigned(row)); });
     meter.Finish(channels, values);
   });
 }
@@ -212,7 +215,7 @@ QvpStatus NormOfDifference(const Image<const T>& a, const Image<const T>& b, Siz
     const auto add = [&](ptrdiff_t pixels, const T* rowA, const T* rowB) {
       meter.Add(pixels * channels, AsUnsigned(rowA), AsUnsigned(rowB));
     };
-    ForEachRow(roi, add, a, b);
+    Rows(a, b).ForEach(roi, add);
     meter.Finish(channels, values);
   });
   for (double& v : values) v = Finished<kNorm>(v);
@@ -251,14 +254,14 @@ QvpStatus RelativeNorm(const Image<const T>& a, const Image<const T>& b, Size ro
     const auto add = [&](ptrdiff_t pixels, const T* rowA, const T* rowB) {
       AddInTurns(difference, single, pixels * channels, rowA, rowB);
     };
-    ForEachRow(roi, add, a, b);
+    Rows(a, b).ForEach(roi, add);
     difference.Finish(channels, numerators);
     single.Finish(channels, denominators);
   });
   QvpStatus status = qvpStatusNoError;
   for (int c = 0; c < channels; ++c) {
     if (!Vanishes<T>(denominators[c])) {
-      values[c] = Canonical(Finished<kNorm>(numerators[c] / denominators[c]));
+      values[c] = Finished<kNorm>(numerators[c] / denominators[c]);
     } else {
       values[c] = Vanishes<T>(numerators[c]) || numerators[c] != numerators[c] ? kNaN : kInfinity;
       status = qvpStatusDivideByZero;
@@ -271,21 +274,13 @@ QvpStatus RelativeNorm(const Image<const T>& a, const Image<const T>& b, Size ro
 }  // namespace
 
 // The norms of images, of differences and of relative differences.
-#define NORM(norm, type, form, layout)                                                                   \
-  QvpStatus qvpiNorm_##norm##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QvpiSize roiSize, \
-                                                   Qvp64f* pValue QVP_##form##_PARAMETER) {              \
-    return NormOf<Norm::k##norm>(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, roiSize,      \
-                                 pValue QVP_##form##_ARGUMENT);                                          \
-  }                                                                                                      \
-  NORM_OF_TWO(qvpiNormDiff_##norm, norm, type, form, layout, NormOfDifference)                           \
-  NORM_OF_TWO(qvpiNormRel_##norm, norm, type, form, layout, RelativeNorm)
-#define NORM_OF_TWO(name, norm, type, form, layout, impl)                                                           \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc1, int src1Step, const Qvp##type* pSrc2, int src2Step, \
-                                        QvpiSize roiSize, Qvp64f* pValue QVP_##form##_PARAMETER) {                  \
-    return impl<Norm::k##norm>(Image<const Qvp##type>{pSrc1, src1Step, Layout::k##layout},                          \
-                               Image<const Qvp##type>{pSrc2, src2Step, Layout::k##layout}, roiSize,                 \
-                               pValue QVP_##form##_ARGUMENT);                                                       \
-  }
+#define NORM(norm, type, form, layout)                                                                       \
+  QVP_REDUCE(qvpiNorm_##norm, type, layout, NormOf<Norm::k##norm>, (Qvp64f * pValue QVP_##form##_PARAMETER), \
+             (pValue QVP_##form##_ARGUMENT))                                                                 \
+  QVP_REDUCE_TWO(qvpiNormDiff_##norm, type, layout, NormOfDifference<Norm::k##norm>,                         \
+                 (Qvp64f * pValue QVP_##form##_PARAMETER), (pValue QVP_##form##_ARGUMENT))                   \
+  QVP_REDUCE_TWO(qvpiNormRel_##norm, type, layout, RelativeNorm<Norm::k##norm>,                              \
+                 (Qvp64f * pValue QVP_##form##_PARAMETER), (pValue QVP_##form##_ARGUMENT))
 #define NORMS_OF(type, form)           \
   QVP_C1_C3_C4(NORM, Inf, type, PLAIN) \
   QVP_C1_C3_C4(NORM, L1, type, form)   \

@@ -1,10 +1,12 @@
 // Sums and means.
 #include "base/check.h"
 #include "base/export.h"
-#include "stats/reduction.h"
+#include "stats/exact_sums.h"
+#include "stats/float_sums.h"
 
 namespace {
 using namespace qvp;
+using namespace qvp::stats;
 
 // Signed samples are summed as unsigned ones, 32768 larger.
 constexpr uint16_t kSign = 0x8000;
@@ -19,7 +21,7 @@ void SumIntegers(const Image<const T>& src, Size roi, double* sums) {
     return v;
   };
   const auto add = [&](ptrdiff_t pixels, const T* row) { exact.Add(pixels * channels, toUnsigned, AsUnsigned(row)); };
-  ForEachRow(roi, add, src);
+  Rows(src).ForEach(roi, add);
   uint64_t totals[4];
   exact.Finish(channels, totals);
   for (int c = 0; c < channels; ++c) {
@@ -29,14 +31,19 @@ void SumIntegers(const Image<const T>& src, Size roi, double* sums) {
   }
 }
 
+struct Same {
+  template <class V>
+  HWY_INLINE V operator()(V v) const {
+    return v;
+  }
+};
+
 template <class Kernel>
 void SumFloats(const Image<const float>& src, Size roi, double* sums) {
   const int channels = Channels(src.layout);
-  Accumulators<Kernel> partials;
-  const auto same = [](auto v) HWY_ATTR { return v; };
-  ForEachRow(
-      roi, [&](ptrdiff_t pixels, const float* row) { partials.Add(pixels * channels, same, row); }, src);
-  SumPartials(partials, channels, sums);
+  RunningSums<Kernel, Same, float> partials{Same()};
+  Rows(src).ForEach(roi, [&](ptrdiff_t pixels, const float* row) { partials.Add(pixels * channels, row); });
+  partials.Finish(channels, sums);
 }
 
 template <class T>
@@ -63,22 +70,16 @@ QvpStatus Mean(const Image<const T>& src, Size roi, double* mean, QvpHintAlgorit
   double means[4] = {};
   SumPixels(src, roi, hint, means);
   const double pixels = static_cast<double>(static_cast<int64_t>(roi.width) * roi.height);
-  for (double& m : means) m = Canonical(m / pixels);
+  for (double& m : means) m /= pixels;
   StoreValues(mean, means, Channels(src.layout));
   return qvpStatusNoError;
 }
 
 }  // namespace
 
-#define SUM(type, form, layout)                                                                                  \
-  QvpStatus qvpiSum_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QvpiSize roiSize,                   \
-                                         Qvp64f* pSum QVP_##form##_PARAMETER) {                                  \
-    return Sum(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, roiSize, pSum QVP_##form##_ARGUMENT);   \
-  }                                                                                                              \
-  QvpStatus qvpiMean_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, QvpiSize roiSize,                  \
-                                          Qvp64f* pMean QVP_##form##_PARAMETER) {                                \
-    return Mean(Image<const Qvp##type>{pSrc, srcStep, Layout::k##layout}, roiSize, pMean QVP_##form##_ARGUMENT); \
-  }
+#define SUM(type, form, layout)                                                                                \
+  QVP_REDUCE(qvpiSum, type, layout, Sum, (Qvp64f * pSum QVP_##form##_PARAMETER), (pSum QVP_##form##_ARGUMENT)) \
+  QVP_REDUCE(qvpiMean, type, layout, Mean, (Qvp64f * pMean QVP_##form##_PARAMETER), (pMean QVP_##form##_ARGUMENT))
 
 QVP_C1_C3_C4(SUM, 8u, PLAIN)
 QVP_C1_C3_C4(SUM, 16u, PLAIN)

@@ -92,16 +92,22 @@ T ValueAt(test::Random& random, const std::vector<float>& levels) {
   }
 }
 
-void CheckAll(const std::vector<std::vector<float>>& levels, bool isUniform) {
+// A vector is corrected if one of its values is close to a level: single pixels show what is done without others.
+const std::vector<QvpiSize> kSmall{{1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}, {37, 3}},
+    kAll{{1, 1}, {37, 3}, {800, 2}, {300, 230}};
+
+void CheckAll(const std::vector<std::vector<float>>& levels, bool isUniform,
+              const std::vector<QvpiSize>& sizes = kAll) {
   for (const Export* function : test::FunctionsOf({"Histogram"})) {
     const Name name(function->name);
     const Record record(TypeOf(name.type), levels, isUniform);
     ASSERT_GE(record.status, 0) << function->name;
+    static uint64_t seed = 0;
     test::WithType(name.type, [&]<class T>() {
-      for (const QvpiSize size : {QvpiSize{1, 1}, {37, 3}, {800, 2}, {300, 230}}) {
+      for (const QvpiSize size : sizes) {
         const int samples = size.width * name.channels;
         test::Image<T> image(samples, size.height, 5);
-        test::Random random(size.width);
+        test::Random random(++seed);
         for (int i = 0; i < samples * size.height; ++i) {
           image.Put(i % samples, i / samples, ValueAt<T>(random, record.stored[i % samples % name.channels]));
         }
@@ -143,6 +149,25 @@ TEST(Histogram, DoesNotTrustGuessesBetweenCloseLevels) {
   levels[2] = {-3e38f, 0, 0, 3e38f};
   levels[3] = {5, 0, 0, 5.000002f};
   CheckAll(levels, true);
+}
+
+// Bounds of every size and sign, whose levels integers round: the bins of a small region are those of a large one.
+TEST(Histogram, CountsInUniformBinsOfEveryOrigin) {
+  std::vector<std::vector<float>> levels{{-10.9f, 0, 0, 51.5f}, {-3e9f, 0, 0, 6e9f}};
+  levels.emplace_back(101, 20694.385926899507f);
+  levels.back()[0] = -4066.6426491141465f;
+  test::Random random(15);
+  while (levels.size() % 4 != 0 || levels.size() < 160) {
+    const float lower =
+        std::ldexp(static_cast<float>(random.Next()) - 2e9f, -15 - static_cast<int>(random.Next() % 20));
+    const int n = 2 + random.Next() % (random.Next() % 2 ? 8 : 300);
+    const float width =
+        std::ldexp(static_cast<float>(random.Next() % 1000000 + 1), -10 - static_cast<int>(random.Next() % 10));
+    if (!(lower < lower + width * (n - 1))) continue;
+    levels.emplace_back(n, lower + width * (n - 1));
+    levels.back()[0] = lower;
+  }
+  for (size_t i = 0; i < levels.size(); i += 4) CheckAll({levels.begin() + i, levels.begin() + i + 4}, true, kSmall);
 }
 
 TEST(Histogram, RoundsLevelsOfIntegers) {

@@ -344,6 +344,41 @@ TEST(Extrema, AreFoundInEveryPlace) {
   }
 }
 
+// All partial sums fill, whatever the width; and neither the width nor packing has an influence.
+TEST(FastSums, DependNeitherOnTheWidthNorOnPacking) {
+  const int n = 1 << 21;
+  std::vector<float> ones(n, 1.0f), rows(2 * n, 1.0f);
+  for (const int width : {1, 3, 7, 47, 100}) {
+    double packed = 0, gaps = 0;
+    const QvpiSize roi{width, n / width};
+    ASSERT_EQ(qvpiSum_32f_C1R(ones.data(), 4 * width, roi, &packed, qvpAlgHintFast), 0);
+    EXPECT_EQ(packed, roi.width * roi.height);
+    ASSERT_EQ(qvpiSum_32f_C1R(rows.data(), 8 * width, roi, &gaps, qvpAlgHintFast), 0);
+    EXPECT_EQ(gaps, packed);
+  }
+  test::Random random(2);
+  for (float& v : ones) v = static_cast<float>(random.Next() % 100000) / 7;
+  const auto sumOf = [&](int width, const auto& function) {
+    double sums[3] = {};
+    function(width, sums);
+    return sums[0];
+  };
+  const auto norm = [&](int width, double* value) {
+    qvpiNorm_L2_32f_C1R(ones.data(), 4 * width, {width, 48000 / width}, value, qvpAlgHintFast);
+  };
+  const auto dot = [&](int width, double* value) {
+    qvpiDotProd_32f64f_C1R(ones.data(), 4 * width, ones.data() + 7, 4 * width, {width, 48000 / width}, value, 1);
+  };
+  const auto mean = [&](int width, double* value) {
+    qvpiMean_32f_C3R(ones.data(), 12 * width, {width, 15000 / width}, value, qvpAlgHintFast);
+  };
+  for (const int width : {1, 2, 5, 24, 100, 375}) {
+    EXPECT_EQ(sumOf(width, norm), sumOf(3000, norm)) << width;
+    EXPECT_EQ(sumOf(width, dot), sumOf(3000, dot)) << width;
+    EXPECT_EQ(sumOf(width, mean), sumOf(3000, mean)) << width;
+  }
+}
+
 TEST(WeightedSumOfRows, AddsRowsInOrder) {
   test::Random random(1);
   for (const int len : {1, 3, 8, 33, 64, 75}) {

@@ -1,75 +1,10 @@
-// Sums along rows, per channel: exact ones of integers, and float ones in partial sums whose number and order are the
-// same on every CPU.
-//
-// A kernel says what happens to a round of kVectors vectors of consecutive samples. A round is a multiple of 12 samples
-// unless there is one channel only, so that each lane of the accumulators belongs to one channel.
+// Exact sums of integers, and of their products, for each channel.
 #pragma once
 
-#include <algorithm>
-#include <bit>
+#include "base/pairs.h"
+#include "stats/accumulators.h"
 
-#include "base/lanes.h"
-#include "base/rows.h"
-
-namespace qvp {
-
-// Two factors of a product.
-template <class V>
-struct Factors {
-  V a, b;
-};
-
-// As many samples as D has lanes, or those of them that a row of n still has, then zeros.
-template <class D, class T>
-HWY_INLINE hn::Vec<D> LoadUpTo(D d, const T* from, ptrdiff_t n) {
-  if (n >= static_cast<ptrdiff_t>(hn::MaxLanes(d))) return LoadWide(d, from);
-  if (n <= 0) return hn::Zero(d);
-  return LoadWide(d, Partial<T>(from, n).lanes);
-}
-
-// The accumulators of a kernel, kept in memory from row to row.
-template <class Kernel>
-class Accumulators {
- public:
-  using Lane = hn::TFromD<typename Kernel::Sums>;
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(typename Kernel::D()), kRound = kLanes * Kernel::kVectors;
-  static constexpr int kSums = Kernel::kSums, kSumLanes = static_cast<int>(hn::MaxLanes(typename Kernel::Sums()));
-
-  // Whole rounds of what f makes of the samples of the rows.
-  template <class F, class... T>
-  HWY_INLINE void AddRounds(ptrdiff_t rounds, const F& f, const T*... rows) {
-    hn::Vec<typename Kernel::Sums> sums[kSums];
-    for (int s = 0; s < kSums; ++s) sums[s] = hn::Load(typename Kernel::Sums(), lanes_[s]);
-    for (ptrdiff_t i = 0; i < rounds * kRound; i += kRound) {
-      Kernel::Round(sums, [&](int k) HWY_ATTR { return f(LoadWide(typename Kernel::D(), rows + i + k * kLanes)...); });
-    }
-    for (int s = 0; s < kSums; ++s) hn::Store(sums[s], typename Kernel::Sums(), lanes_[s]);
-  }
-
-  // One round of n samples, filled up with zeros.
-  template <class F, class... T>
-  void AddEnd(ptrdiff_t n, const F& f, const T*... rows) {
-    hn::Vec<typename Kernel::Sums> sums[kSums];
-    for (int s = 0; s < kSums; ++s) sums[s] = hn::Load(typename Kernel::Sums(), lanes_[s]);
-    Kernel::Round(
-        sums, [&](int k) HWY_ATTR { return f(LoadUpTo(typename Kernel::D(), rows + k * kLanes, n - k * kLanes)...); });
-    for (int s = 0; s < kSums; ++s) hn::Store(sums[s], typename Kernel::Sums(), lanes_[s]);
-  }
-
-  // n samples, the first of which belongs to the first channel.
-  template <class F, class... T>
-  void Add(ptrdiff_t n, const F& f, const T*... rows) {
-    const ptrdiff_t rounds = n / kRound, done = rounds * kRound;
-    AddRounds(rounds, f, rows...);
-    if (done < n) AddEnd(n - done, f, rows + done...);
-  }
-
-  const Lane* operator[](int sum) const { return lanes_[sum]; }
-  void Clear() { std::memset(lanes_, 0, sizeof(lanes_)); }
-
- private:
-  HWY_ALIGN Lane lanes_[kSums][kSumLanes] = {};
-};
+namespace qvp::stats {
 
 // Exact sums of integers. A kernel for it also says
 //   kMostRounds           how many rounds its lanes hold
@@ -168,12 +103,12 @@ struct ByteSums {
 
 // The even and the odd lanes of a vector in lanes of twice the width.
 template <class U>
-struct Halves {
+struct EvenOdd {
   using Wide = hwy::MakeWide<U>;
   using D = hn::ScalableTag<Wide>;
   hn::Vec<D> even, odd;
 
-  explicit HWY_INLINE Halves(hn::Vec<hn::ScalableTag<U>> v) {
+  explicit HWY_INLINE EvenOdd(hn::Vec<hn::ScalableTag<U>> v) {
     const auto wide = hn::BitCast(D(), v);
     even = hn::And(wide, hn::Set(D(), hwy::LimitsMax<U>()));
     odd = hn::ShiftRight<8 * sizeof(U)>(wide);
@@ -184,7 +119,7 @@ struct Halves {
 template <class U>
 struct SplitSums {
   using D = hn::ScalableTag<U>;
-  using Sums = typename Halves<U>::D;
+  using Sums = typename EvenOdd<U>::D;
   static constexpr int kVectors = 3, kSums = 6;
   static constexpr ptrdiff_t kMostRounds = sizeof(U) == 1 ? 257 : 65537;  // (2^16 - 1) / 255, (2^32 - 1) / 65535
   static constexpr int Position(int sum, int lane) {
@@ -196,7 +131,7 @@ struct SplitSums {
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
     for (int k = 0; k < kVectors; ++k) {
-      const Halves<U> halves(at(k));
+      const EvenOdd<U> halves(at(k));
       sums[2 * k] = hn::Add(sums[2 * k], halves.even);
       sums[2 * k + 1] = hn::Add(sums[2 * k + 1], halves.odd);
     }
@@ -206,12 +141,9 @@ struct SplitSums {
 // sum + a b, for pairs of neighbouring 16-bit lanes.
 template <class V, class W>
 HWY_INLINE V AddPairProducts(V sum, W a, W b) {
-  const hn::RebindToSigned<hn::DFromV<V>> d;
-  auto unused = hn::Zero(d);
-  return hn::BitCast(hn::DFromV<V>(),
-                     hn::ReorderWidenMulAccumulate(d, hn::BitCast(hn::Repartition<int16_t, decltype(d)>(), a),
-                                                   hn::BitCast(hn::Repartition<int16_t, decltype(d)>(), b),
-                                                   hn::BitCast(d, sum), unused));
+  const hn::Repartition<int16_t, hn::DFromV<V>> d;
+  const auto products = MulAddPairs(hn::BitCast(d, a), hn::BitCast(d, b));
+  return hn::Add(sum, hn::BitCast(hn::DFromV<V>(), products));
 }
 
 // Sums of products of bytes of one channel. A lane grows by 2 * 255^2 in a round.
@@ -228,7 +160,7 @@ struct ByteProducts {
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
     for (int k = 0; k < kVectors; ++k) {
       const auto factors = at(k);
-      const Halves<uint8_t> a(factors.a), b(factors.b);
+      const EvenOdd<uint8_t> a(factors.a), b(factors.b);
       sums[2 * k] = AddPairProducts(sums[2 * k], a.even, b.even);
       sums[2 * k + 1] = AddPairProducts(sums[2 * k + 1], a.odd, b.odd);
     }
@@ -279,7 +211,7 @@ constexpr uint32_t kWordPairBias = 0x7FFFFFFF;
 template <class V, class W>
 HWY_INLINE void AddWidePairProducts(V& even, V& odd, W a, W b) {
   const hn::ScalableTag<uint32_t> d;
-  const Halves<uint32_t> halves(AddPairProducts(hn::Set(d, kWordPairBias), a, b));
+  const EvenOdd<uint32_t> halves(AddPairProducts(hn::Set(d, kWordPairBias), a, b));
   even = hn::Add(even, halves.even);
   odd = hn::Add(odd, halves.odd);
 }
@@ -347,7 +279,7 @@ struct UnsignedWordProducts {
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
     for (int k = 0; k < kVectors; ++k) {
       const auto factors = at(k);
-      const Halves<uint16_t> low(hn::Mul(factors.a, factors.b)), high(hn::MulHigh(factors.a, factors.b));
+      const EvenOdd<uint16_t> low(hn::Mul(factors.a, factors.b)), high(hn::MulHigh(factors.a, factors.b));
       sums[4 * k] = hn::Add(sums[4 * k], low.even);
       sums[4 * k + 1] = hn::Add(sums[4 * k + 1], low.odd);
       sums[4 * k + 2] = hn::Add(sums[4 * k + 2], high.even);
@@ -365,66 +297,4 @@ using ProductsOf = std::conditional_t<
     std::conditional_t<std::is_signed_v<T>, std::conditional_t<kOneChannel, WordProducts, WordPixelProducts>,
                        UnsignedWordProducts>>;
 
-// Partial sums of floats: every build has the same number of them, and sample i of a row goes to number i modulo that.
-template <class L, int kPartials, class DL = hn::ScalableTag<L>>
-struct FloatSums {
-  using D = DL;
-  using Sums = D;
-  static constexpr int kVectors = kPartials / static_cast<int>(hn::MaxLanes(D())), kSums = kVectors;
-
-  template <class At>
-  static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
-    for (int k = 0; k < kVectors; ++k) sums[k] = hn::Add(sums[k], at(k));
-  }
-};
-
-// NaN has one pattern of bits: which operand's pattern an addition hands on depends on the compiler.
-constexpr double kNaN = std::bit_cast<double>(0xFFF8000000000000);
-constexpr double kInfinity = std::bit_cast<double>(0x7FF0000000000000);
-constexpr double Canonical(double v) { return v != v ? kNaN : v; }
-
-// Adds the partial sums of each channel in ascending order, in their own precision.
-template <class Kernel>
-void SumPartials(const Accumulators<Kernel>& partials, int channels, double* sums) {
-  using L = typename Accumulators<Kernel>::Lane;
-  L totals[4] = {};
-  for (int s = 0, channel = 0; s < Kernel::kSums; ++s) {
-    for (int lane = 0; lane < Accumulators<Kernel>::kSumLanes; ++lane) {
-      totals[channel] += partials[s][lane];
-      channel = channel + 1 == channels ? 0 : channel + 1;
-    }
-  }
-  for (int c = 0; c < channels; ++c) sums[c] = Canonical(static_cast<double>(totals[c]));
-}
-
-// Calls use(pixels, row pointers...). Rows of floats are never joined: their sums must not depend on packing.
-template <class Use, class... T>
-void ForEachRow(Size roi, const Use& use, const Image<const T>&... images) {
-  if constexpr ((std::is_integral_v<T> && ...)) {
-    Rows(images...).ForEach(roi, use);
-  } else {
-    for (ptrdiff_t y = 0; y < roi.height; ++y) use(roi.width, images.Row(y)...);
-  }
-}
-
-// The samples of a row without their signs: kernels of integers tell themselves what the bits mean.
-template <class T>
-HWY_INLINE auto AsUnsigned(const T* row) {
-  if constexpr (std::is_integral_v<T>) {
-    return reinterpret_cast<const hwy::MakeUnsigned<T>*>(row);
-  } else {
-    return row;
-  }
-}
-
-// Writes one value for each channel, to any address.
-template <class T>
-void StoreValues(T* to, const T* values, int channels) {
-  std::memcpy(to, values, channels * sizeof(T));
-}
-
-// Fast: single precision. Accurate: double precision.
-using FastSums = FloatSums<float, 48>;
-using AccurateSums = FloatSums<double, 24>;
-
-}  // namespace qvp
+}  // namespace qvp::stats

@@ -1,0 +1,90 @@
+// Sums of floats in partial sums, whose number and order are the same on every CPU.
+#pragma once
+
+#include <bit>
+#include <tuple>
+
+#include "stats/accumulators.h"
+
+namespace qvp::stats {
+
+// Sample i goes to partial sum i modulo kPartials.
+template <class L, int kPartials>
+struct FloatSums {
+  using D = hn::ScalableTag<L>;
+  using Sums = D;
+  static constexpr int kVectors = kPartials / static_cast<int>(hn::MaxLanes(D())), kSums = kVectors;
+
+  template <class At>
+  static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
+    for (int k = 0; k < kVectors; ++k) sums[k] = hn::Add(sums[k], at(k));
+  }
+};
+
+// Fast: single precision. Accurate: double precision.
+using FastSums = FloatSums<float, 48>;
+using AccurateSums = FloatSums<double, 24>;
+
+// The sums of what f makes of samples. These are counted through all rows: so the partial sums depend neither on how
+// wide the image is nor on whether its rows are packed, and fill alike even if it is one pixel wide. What a row has
+// beyond whole rounds waits for the beginning of the next one.
+template <class Kernel, class F, class... T>
+class RunningSums {
+ public:
+  explicit RunningSums(const F& f) : f_(f) {}
+
+  // The next n samples.
+  void Add(ptrdiff_t n, const T*... rows) {
+    if (n < kRound - waiting_) return Wait(n, rows...);
+    const ptrdiff_t head = waiting_ == 0 ? 0 : kRound - waiting_, rounds = (n - head) / kRound;
+    if (head > 0) {
+      Wait(head, rows...);
+      AddWaiting();
+    }
+    lanes_.AddRounds(rounds, f_, (rows + head)...);
+    const ptrdiff_t done = head + rounds * kRound;
+    if (done < n) Wait(n - done, (rows + done)...);
+  }
+
+  // Adds the partial sums of each channel in ascending order, in their own precision.
+  void Finish(int channels, double* sums) {
+    if (waiting_ > 0) AddWaiting();
+    typename Accumulators<Kernel>::Lane totals[4] = {};
+    for (int s = 0, channel = 0; s < Kernel::kSums; ++s) {
+      for (int lane = 0; lane < Accumulators<Kernel>::kSumLanes; ++lane) {
+        totals[channel] += lanes_[s][lane];
+        channel = channel + 1 == channels ? 0 : channel + 1;
+      }
+    }
+    for (int c = 0; c < channels; ++c) sums[c] = static_cast<double>(totals[c]);
+  }
+
+ private:
+  static constexpr ptrdiff_t kRound = Accumulators<Kernel>::kRound;
+  template <class S>
+  struct Round {
+    S samples[kRound];
+  };
+
+  void Wait(ptrdiff_t n, const T*... rows) {
+    const auto copy = [&](auto&... stage) { (std::memcpy(stage.samples + waiting_, rows, n * sizeof(T)), ...); };
+    std::apply(copy, stages_);
+    waiting_ += n;
+  }
+
+  void AddWaiting() {
+    std::apply([&](const auto&... stage) { lanes_.AddEnd(waiting_, f_, stage.samples...); }, stages_);
+    waiting_ = 0;
+  }
+
+  F f_;
+  Accumulators<Kernel> lanes_;
+  std::tuple<Round<T>...> stages_;
+  ptrdiff_t waiting_ = 0;
+};
+
+// What relative norms give for 0 / 0 and x / 0.
+inline constexpr double kNaN = std::bit_cast<double>(0xFFF8000000000000);
+inline constexpr double kInfinity = std::bit_cast<double>(0x7FF0000000000000);
+
+}  // namespace qvp::stats
