@@ -352,7 +352,7 @@ QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, 
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -407,7 +407,7 @@ QvpStatus qvpiDFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -461,7 +461,7 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source
@@ -508,7 +508,7 @@ QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 31 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
  *
  *  @param pSrc source
  *  @param srcStep bytes between rows of the source

@@ -5,7 +5,7 @@
 
 #include "signal/dft_ends.h"
 
-namespace qvp {
+namespace qvp::dft {
 namespace {
 
 template <class T>
@@ -354,4 +354,4 @@ void TransformColumns(const DftPlan& plan, Direction direction, const DftColumns
   transform(plan, src, dst, count, block);
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace qvp {
+namespace qvp::dft {
 
 // Lines that are transformed together. Lengths whose blocks would not stay in the caches go one by one.
 inline constexpr int kDftLines = 8;
@@ -22,7 +22,7 @@ enum class Direction { kForward, kInverse };
 
 // Lengths with prime factors up to this go through them; others by a chirp (Bluestein, 1970), as a convolution of a
 // power of two's length.
-inline constexpr int kLargestFactor = 31;
+inline constexpr int kLargestFactor = 61;
 
 struct DftPlan {
   int64_t length;         // of the lines, in real or complex numbers
@@ -68,4 +68,4 @@ struct DftColumns {
 void TransformColumns(const DftPlan& plan, Direction direction, const DftColumns<const float>& src,
                       const DftColumns<float>& dst, int count, float* block);
 
-}  // namespace qvp
+}  // namespace qvp::dft

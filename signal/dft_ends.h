@@ -6,7 +6,7 @@
 
 #include "signal/dft_tiles.h"
 
-namespace qvp {
+namespace qvp::dft {
 
 // Whether the first and the last pass differ and have butterflies for the factors that WithFactor knows.
 inline bool HasEnds(const DftPlan& plan) {
@@ -162,4 +162,4 @@ void LastColumnPass(const DftPlan& plan, const int32_t* places, float scale, Blo
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

@@ -8,7 +8,7 @@
 #include "base/simd.h"
 #include "signal/dft.h"
 
-namespace qvp {
+namespace qvp::dft {
 
 constexpr bool HasOwnButterfly(int factor) { return factor <= 5 || factor == 8; }
 
@@ -241,4 +241,4 @@ void RunPassesUpward(const DftPlan& plan, const uint8_t* base, Planes planes, fl
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

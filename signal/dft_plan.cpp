@@ -5,7 +5,7 @@
 #include "signal/dft_passes.h"
 #include "signal/sin_cos.h"
 
-namespace qvp {
+namespace qvp::dft {
 namespace {
 
 constexpr int64_t kBoundary = 64;
@@ -137,4 +137,4 @@ void WriteDft(const DftPlan& plan, uint8_t* to) {
   if (plan.chirpLength) WriteChirp(plan, to);
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

@@ -6,7 +6,7 @@
 
 #include "signal/dft_passes.h"
 
-namespace qvp {
+namespace qvp::dft {
 
 template <class T>
 T* At(T* p, ptrdiff_t bytes) {
@@ -127,4 +127,4 @@ struct NumberVectors {
   }
 };
 
-}  // namespace qvp
+}  // namespace qvp::dft

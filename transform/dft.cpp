@@ -4,6 +4,7 @@
 
 namespace {
 using namespace qvp;
+using namespace qvp::dft;
 
 bool IsSize(QvpiSize size) { return size.width >= 1 && size.height >= 1; }
 
@@ -13,9 +14,11 @@ QvpStatus GetSize(FourierFamily family, QvpiSize size, int flag, const FourierSi
 }
 
 QvpStatus Init(FourierFamily family, QvpiSize size, int flag, QvpHintAlgorithm hint, void* spec) {
-  FourierClear(spec);
-  if (spec == nullptr) return qvpStatusNullPointer;
-  return IsSize(size) ? FourierInit(family, size, flag, hint, spec) : qvpStatusSize;
+  return FourierInit(family, spec, [=](FourierDemand& demand) -> QvpStatus {
+    if (spec == nullptr) return qvpStatusNullPointer;
+    demand = {size, flag, hint};
+    return IsSize(size) ? qvpStatusNoError : qvpStatusSize;
+  });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 namespace {
 using namespace qvp;
+using namespace qvp::dft;
 
 bool IsOrder(int order) { return order >= 0 && order <= kLargestOrder; }
 
@@ -17,12 +18,14 @@ QvpStatus GetSize(FourierFamily family, int orderX, int orderY, int flag, const 
 
 // An order that no transform can have is refused even without a record.
 QvpStatus Init(FourierFamily family, int orderX, int orderY, int flag, QvpHintAlgorithm hint, void* spec) {
-  constexpr unsigned kLargest = kLargestOrder + 1;
-  FourierClear(spec);
-  if (static_cast<unsigned>(orderX) > kLargest || static_cast<unsigned>(orderY) > kLargest) return qvpStatusFftOrder;
-  if (spec == nullptr) return qvpStatusNullPointer;
-  if (!IsOrder(orderX) || !IsOrder(orderY)) return qvpStatusFftOrder;
-  return FourierInit(family, SizeOf(orderX, orderY), flag, hint, spec);
+  return FourierInit(family, spec, [=](FourierDemand& demand) -> QvpStatus {
+    constexpr unsigned kLargest = kLargestOrder + 1;
+    if (static_cast<unsigned>(orderX) > kLargest || static_cast<unsigned>(orderY) > kLargest) return qvpStatusFftOrder;
+    if (spec == nullptr) return qvpStatusNullPointer;
+    if (!IsOrder(orderX) || !IsOrder(orderY)) return qvpStatusFftOrder;
+    demand = {SizeOf(orderX, orderY), flag, hint};
+    return qvpStatusNoError;
+  });
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include "base/check.h"
 #include "base/record.h"
 
-namespace qvp {
+namespace qvp::dft {
 namespace {
 
 // A call: one channel of the images. A complex image is one channel of pairs.
@@ -32,10 +32,10 @@ struct Channel {
 void TransformRows(const Call& call, const Channel<const float>& src, const Channel<float>& dst) {
   const DftPlan& plan = call.Plan(kRows);
   const bool isReal = plan.kind == DftKind::kReal;
-  for (int64_t y = 0; y < call.record.height; y += plan.Lines()) {
+  for (int64_t y = 0; y < call.record.height(); y += plan.Lines()) {
     DftLines<const float> from;
     DftLines<float> to;
-    from.count = to.count = static_cast<int>(std::min<int64_t>(plan.Lines(), call.record.height - y));
+    from.count = to.count = static_cast<int>(std::min<int64_t>(plan.Lines(), call.record.height() - y));
     for (int l = 0; l < to.count; ++l) {
       from.at[l] = src.Row(y + l);
       to.at[l] = dst.Row(y + l);
@@ -49,8 +49,8 @@ void TransformRows(const Call& call, const Channel<const float>& src, const Chan
 // The first column of a packed spectrum, and the last one of even widths, are spectra of real columns.
 void TransformRealColumns(const Call& call, const Channel<const float>& src, const Channel<float>& dst) {
   const DftPlan& plan = call.Plan(kRealColumns);
-  const int columns = call.record.width % 2 == 0 ? 2 : 1;
-  const ptrdiff_t last = call.record.width - 1;
+  const int columns = call.record.width() % 2 == 0 ? 2 : 1;
+  const ptrdiff_t last = call.record.width() - 1;
   DftLines<const float> from{{src.Row(0), src.Row(0) + last * Channels(src.image.layout)}, src.image.step, columns};
   DftLines<float> to{{dst.Row(0), dst.Row(0) + last * Channels(dst.image.layout)}, dst.image.step, columns};
   if (plan.Lines() > 1) return TransformLines(plan, call.direction, from, to, call.block);
@@ -66,8 +66,7 @@ void TransformRealColumns(const Call& call, const Channel<const float>& src, con
 void TransformComplexColumns(const Call& call, const Channel<const float>& src, const Channel<float>& dst,
                              ptrdiff_t first, int64_t count) {
   const DftPlan& plan = call.Plan(kColumns);
-  const bool isReal = call.record.identification == static_cast<int32_t>(FourierFamily::kRealPower) ||
-                      call.record.identification == static_cast<int32_t>(FourierFamily::kRealAny);
+  const bool isReal = IsReal(call.record.identification);
   const ptrdiff_t pitch = isReal ? 2 * src.Pitch() : src.Pitch(), imaginary = pitch / 2;
   for (int64_t u = 0; u < count; u += plan.Lines()) {
     const ptrdiff_t at = first + u * (pitch / static_cast<ptrdiff_t>(sizeof(float)));
@@ -79,15 +78,15 @@ void TransformComplexColumns(const Call& call, const Channel<const float>& src, 
 }
 
 void TransformAllColumns(const Call& call, bool isReal, const Channel<const float>& src, const Channel<float>& dst) {
-  if (!isReal) return TransformComplexColumns(call, src, dst, 0, call.record.width);
+  if (!isReal) return TransformComplexColumns(call, src, dst, 0, call.record.width());
   TransformRealColumns(call, src, dst);
-  TransformComplexColumns(call, src, dst, Channels(src.image.layout), (call.record.width - 1) / 2);
+  TransformComplexColumns(call, src, dst, Channels(src.image.layout), (call.record.width() - 1) / 2);
 }
 
 void TransformChannel(const Call& call, bool isReal, const Channel<const float>& src, const Channel<float>& dst) {
   const Image<const float> result = View<const float>(dst.image.data, dst.image.step, dst.image.layout);
   const Channel<const float> done{result, dst.channel};
-  const bool hasColumns = call.record.height > 1;
+  const bool hasColumns = call.record.height() > 1;
   if (call.direction == Direction::kForward) {
     TransformRows(call, src, dst);
     if (hasColumns) TransformAllColumns(call, isReal, done, dst);
@@ -104,7 +103,7 @@ QvpStatus FourierTransform(FourierFamily family, Direction direction, const Imag
   if (spec == nullptr) return qvpStatusNullPointer;
   const uint8_t* const base = AtBoundary(static_cast<const uint8_t*>(spec));
   const FourierRecord& record = *reinterpret_cast<const FourierRecord*>(base);
-  if (record.identification != static_cast<int32_t>(family)) return qvpStatusContextMatch;
+  if (record.identification != family) return qvpStatusContextMatch;
   if (const QvpStatus failed = Validate<kPointers, kSteps>({1, 1}, {src, dst})) return failed;
   if (buffer == nullptr) return qvpStatusNullPointer;
   const Call call{base, record, direction, reinterpret_cast<float*>(AtBoundary(buffer))};
@@ -113,4 +112,4 @@ QvpStatus FourierTransform(FourierFamily family, Direction direction, const Imag
   return qvpStatusNoError;
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

@@ -1,12 +1,13 @@
 // Sizes and contents of the records of Fourier transforms.
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 #include "base/record.h"
 #include "base/simd.h"
 #include "transform/fourier.h"
 
-namespace qvp {
+namespace qvp::dft {
 namespace {
 
 struct Plans {
@@ -65,20 +66,19 @@ QvpStatus FourierGetSizes(FourierFamily family, QvpiSize size, int flag, const F
   return record ? record : buffer;
 }
 
-void FourierClear(void* spec) {
-  if (spec) std::memset(AtBoundary(static_cast<uint8_t*>(spec)), 0, sizeof(FourierRecord::identification));
-}
-
-QvpStatus FourierInit(FourierFamily family, QvpiSize size, int flag, int hint, void* spec) {
-  Plans plans = PlansFor(family, size);
+QvpStatus FourierFill(FourierFamily family, const FourierDemand& demand, void* spec) {
+  Plans plans = PlansFor(family, demand.size);
   for (DftPlan& plan : plans.plan) {
-    if (const QvpStatus failed = SetScale(flag, plan)) return failed;
+    if (const QvpStatus failed = SetScale(demand.flag, plan)) return failed;
   }
   int bytes = 0, bufferBytes = 0;
   if (const QvpStatus failed = RecordBytes(plans).StoreTo(&bytes)) return failed;
   if (const QvpStatus failed = BufferBytes(plans).StoreTo(&bufferBytes)) return failed;
   uint8_t* const base = AtBoundary(static_cast<uint8_t*>(spec));
-  FourierRecord record{0, size.width, size.height, hint, bufferBytes, {}};
+  const auto side = [&](int length) {
+    return IsPower(family) ? std::countr_zero(static_cast<unsigned>(length)) : length;
+  };
+  FourierRecord record{{}, side(demand.size.width), side(demand.size.height), demand.hint, bufferBytes, {}};
   int64_t end = kRecordBoundary;
   for (int i = 0; i < plans.count; ++i) {
     record.plans[i] = IsShared(plans, i) ? record.plans[kRows] : end;
@@ -86,10 +86,9 @@ QvpStatus FourierInit(FourierFamily family, QvpiSize size, int flag, int hint, v
     WriteDft(plans.plan[i], base + end);
     end += plans.plan[i].bytes;
   }
-  record.identification = static_cast<int32_t>(family);
   static_assert(sizeof(record) <= kRecordBoundary);
   std::memcpy(base, &record, sizeof(record));
   return qvpStatusNoError;
 }
 
-}  // namespace qvp
+}  // namespace qvp::dft

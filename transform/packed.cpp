@@ -215,7 +215,7 @@ struct Phase {
   static HWY_INLINE V Of(V re, V im) {
     const hn::DFromV<V> d;
     const V zero = hn::Zero(d), pi = hn::Set(d, 0x1.921fb54442d18p+1), halfPi = hn::Set(d, 0x1.921fb54442d18p+0);
-    const V largest = hn::Set(d, 0x1p+200);  // infinities become comparable
+    const V largest = hn::Set(d, 0x1p+300);  // of infinities: a float to it is less than any float
     const V x = hn::Min(hn::Abs(re), largest), y = hn::Min(hn::Abs(im), largest), longer = hn::Max(x, y);
     const V divisor = hn::IfThenElse(hn::Gt(longer, zero), longer, hn::Set(d, 1.0));
     const V fromAxis = ArcTangent(hn::Div(hn::Min(x, y), divisor));
