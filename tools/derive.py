@@ -9,7 +9,7 @@ The headers are the single list of exported names. For one CPU build this writes
 
 and for the tests
 
-  calls.h      one row per function: its name, its parameters, and a way to call it with arguments made at run time
+  calls.cpp    one row per function: its name, its parameters, and a way to call it with arguments made at run time
 """
 import argparse
 import re
@@ -83,22 +83,22 @@ def argument(index, kind):
 
 
 def calls(functions):
-    lines = []
+    lines = ['#include "tests/support/calls.h"', "namespace test {", "const Call kCalls[] = {"]
     for result, name, params in functions:
         if result != "QvpStatus":
             continue
         split = [parameter(p) for p in params]
         arguments = ", ".join(argument(i, kind) for i, (kind, _) in enumerate(split))
-        described = ", ".join(f'{{"{kind}", "{label}"}}' for kind, label in split)
-        lines.append(f'{{"{name}", {{{described}}}, [](const Argument* a) -> QvpStatus {{ return {name}({arguments}); }}}},')
-    return "\n".join(lines) + "\n"
+        described = ";".join(f"{kind}|{label}" for kind, label in split)
+        lines.append(f'{{"{name}", "{described}", [](const Argument* a) {{ return {name}({arguments}); }}}},')
+    return "\n".join(lines + ["{nullptr, nullptr, nullptr}};", "}  // namespace test"]) + "\n"
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
-    parser.add_argument("--calls", action="store_true", help="write the tests' calls.h instead")
+    parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
     parser.add_argument("--out", type=Path, required=True, help="folder to write to")
     parser.add_argument("headers", nargs="+", type=Path)
     options = parser.parse_args()
@@ -108,7 +108,7 @@ def main():
         raise SystemExit("a name is declared twice: " + ", ".join(sorted({n for n in names if names.count(n) > 1})))
     options.out.mkdir(parents=True, exist_ok=True)
     if options.calls:
-        (options.out / "calls.h").write_text(calls(functions))
+        (options.out / "calls.cpp").write_text(calls(functions))
         return
     (options.out / "exports.map").write_text(exports(names))
     if options.cpu:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "tests/support/calls.h"
 #include "tests/support/lessons.h"
 
 namespace test {
@@ -19,27 +20,27 @@ constexpr Lesson kLessons[] = {FilterLesson, FourierLesson, HogLesson,   ResizeL
 // begin at every alignment.
 int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPixel + 17 * (place + 1)); }
 
-template <class T>
-T As(const Argument& a) {
-  if constexpr (requires(T t) {
-                  t.x;
-                  t.width;
-                }) {
-    return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second),
-            static_cast<decltype(T::x)>(a.third), static_cast<decltype(T::x)>(a.fourth)};
-  } else if constexpr (requires(T t) { t.x; }) {
-    return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second)};
-  } else {
-    return {static_cast<decltype(T::width)>(a.number), static_cast<decltype(T::width)>(a.second)};
+// The parameters that a row of the table describes.
+std::vector<Parameter> ParametersOf(std::string_view described) {
+  std::vector<Parameter> parameters;
+  while (!described.empty()) {
+    const std::string_view one = described.substr(0, described.find(';'));
+    const size_t middle = one.find('|');
+    parameters.push_back({one.substr(0, middle), one.substr(middle + 1)});
+    described.remove_prefix(std::min(described.size(), one.size() + 1));
   }
+  return parameters;
 }
 
 }  // namespace
 
 const std::vector<Export>& Exports() {
-  static const std::vector<Export> exports = {
-#include "calls.h"
-  };
+  static const std::vector<Export> exports = [] {
+    std::vector<Export> list;
+    for (const Call* row = kCalls; row->name; ++row)
+      list.push_back({row->name, ParametersOf(row->parameters), row->call});
+    return list;
+  }();
   return exports;
 }
 
@@ -56,6 +57,7 @@ Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(fu
 Argument Scene::ArgumentFor(size_t place) {
   const auto& parameters = function_.parameters;
   const std::string_view name = parameters[place].name;
+  place_ = place;
   Argument argument;
   for (const Lesson lesson : kLessons) {
     if (lesson(*this, place, argument)) return argument;
@@ -77,10 +79,10 @@ Argument Scene::ArgumentFor(size_t place) {
   throw std::invalid_argument(function_.name + " has a parameter " + std::string(name));
 }
 
-uint8_t* Scene::Add(std::vector<std::unique_ptr<Block>>& list, size_t bytes) {
-  list.push_back(std::make_unique<Block>(bytes));
-  random_.Fill(list.back()->data(), bytes);
-  return list.back()->data();
+uint8_t* Scene::Add(std::vector<Memory>& list, size_t bytes) {
+  list.push_back({std::make_unique<Block>(bytes), place_});
+  random_.Fill(list.back().block->data(), bytes);
+  return list.back().block->data();
 }
 
 const void* Scene::ImageFor(const Parameter& parameter, size_t bytes) {
@@ -88,28 +90,56 @@ const void* Scene::ImageFor(const Parameter& parameter, size_t bytes) {
   const int planes = parameter.type.ends_with("* const*") ? 4 : 1;
   auto pointers = std::make_unique<const void*[]>(planes);
   for (int i = 0; i < planes; ++i) {
-    auto block = std::make_unique<Block>(bytes);
-    random_.Fill(block->data(), block->size());
+    uint8_t* const image = isOutput ? Output(bytes) : Input(bytes);
     if (parameter.name == "pMask") {  // half of the pixels
-      for (size_t b = 0; b < block->size(); ++b) block->data()[b] &= static_cast<uint8_t>(-(block->data()[b] >> 7));
+      for (size_t b = 0; b < bytes; ++b) image[b] &= static_cast<uint8_t>(-(image[b] >> 7));
     }
-    pointers[i] = block->data();
-    (isOutput ? outputs_ : blocks_).push_back(std::move(block));
+    pointers[i] = image;
   }
   if (planes == 1) return pointers[0];
   planes_.push_back(std::move(pointers));
   return planes_.back().get();
 }
 
-uint64_t Scene::HashOfOutputs() const {
-  uint64_t hash = 14695981039346656037u;
-  for (const auto& block : outputs_) {
-    for (size_t i = 0; i < block->size(); i += sizeof(uint64_t)) {
-      uint64_t eight = 0;
-      std::memcpy(&eight, block->data() + i, std::min(block->size() - i, sizeof(eight)));
-      hash = (hash ^ eight) * 1099511628211u;
-      hash ^= hash >> 29;
+// Elements lie along rows, which begin at any address.
+void Scene::UnifyNans(const Memory& output, uint8_t* bytes) const {
+  const auto& parameters = function_.parameters;
+  const std::string_view type = parameters[output.place].type;
+  const size_t all = output.block->size(), next = output.place + 1;
+  const bool isDouble = type.find("64f") != std::string_view::npos;
+  if (!isDouble && type.find("32f") == std::string_view::npos) return;
+  const bool hasStep = next < parameters.size() && parameters[next].name.ends_with("Step");
+  const size_t step = hasStep ? arguments[next].number : all, element = isDouble ? 8 : 4;
+  for (size_t row = 0; row < all; row += step) {
+    for (size_t i = row; i + element <= std::min(row + step, all); i += element) {
+      float single;
+      double real;
+      std::memcpy(&single, bytes + i, sizeof(single));
+      std::memcpy(&real, bytes + i, isDouble ? sizeof(real) : 0);
+      if (isDouble ? real != real : single != single) std::memset(bytes + i, 0xFF, element);
     }
+  }
+}
+
+std::vector<uint8_t> Scene::Outputs() const {
+  std::vector<uint8_t> bytes;
+  for (const Memory& output : outputs_) {
+    const size_t first = bytes.size();
+    bytes.insert(bytes.end(), output.block->data(), output.block->data() + output.block->size());
+    UnifyNans(output, bytes.data() + first);
+  }
+  return bytes;
+}
+
+uint64_t Scene::HashOfOutputs() const {
+  std::vector<uint8_t> bytes = Outputs();
+  bytes.resize((bytes.size() + 7) / 8 * 8);
+  uint64_t hash = 14695981039346656037u;
+  for (size_t i = 0; i < bytes.size(); i += sizeof(uint64_t)) {
+    uint64_t eight;
+    std::memcpy(&eight, bytes.data() + i, sizeof(eight));
+    hash = (hash ^ eight) * 1099511628211u;
+    hash ^= hash >> 29;
   }
   return hash;
 }

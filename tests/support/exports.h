@@ -41,24 +41,32 @@ class Scene {
 
   std::vector<Argument> arguments;
   QvpStatus Call() const { return function_.call(arguments.data()); }
+  // The bytes of all outputs. A float result that is NaN has no promised bits: all of them become one.
+  std::vector<uint8_t> Outputs() const;
   uint64_t HashOfOutputs() const;
 
   // For lessons: memory that lives as long as the scene. Outputs are hashed; both are filled with random bytes.
-  uint8_t* Input(size_t bytes) { return Add(blocks_, bytes); }
+  uint8_t* Input(size_t bytes) { return Add(inputs_, bytes); }
   uint8_t* Output(size_t bytes) { return Add(outputs_, bytes); }
   const Export& function() const { return function_; }
   QvpiSize roi() const { return roi_; }
   Random& random() { return random_; }
 
  private:
-  uint8_t* Add(std::vector<std::unique_ptr<Block>>& list, size_t bytes);
+  struct Memory {
+    std::unique_ptr<Block> block;
+    size_t place;  // of the parameter that it belongs to
+  };
+  uint8_t* Add(std::vector<Memory>& list, size_t bytes);
+  void UnifyNans(const Memory& output, uint8_t* bytes) const;
   const void* ImageFor(const Parameter& parameter, size_t bytes);
   Argument ArgumentFor(size_t place);
 
   const Export& function_;
   QvpiSize roi_;
   Random random_;
-  std::vector<std::unique_ptr<Block>> blocks_, outputs_;
+  size_t place_ = 0;  // of the parameter that an argument is made for
+  std::vector<Memory> inputs_, outputs_;
   std::vector<std::unique_ptr<const void*[]>> planes_;
 };
 

@@ -1,0 +1,30 @@
+// The rows of the list of functions as they are derived from the public headers: a table without constructors, whose
+// file is compiled without optimisation, in seconds.
+#pragma once
+
+#include "tests/support/exports.h"
+
+namespace test {
+
+struct Call {
+  const char *name, *parameters;  // "type|name" of each parameter, with semicolons between
+  QvpStatus (*call)(const Argument*);
+};
+
+// Ends with a row without a name.
+extern const Call kCalls[];
+
+// A structure of two or four numbers.
+template <class T>
+T As(const Argument& a) {
+  if constexpr (requires(T t) { t.x, t.width; }) {
+    return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second),
+            static_cast<decltype(T::x)>(a.third), static_cast<decltype(T::x)>(a.fourth)};
+  } else if constexpr (requires(T t) { t.x; }) {
+    return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second)};
+  } else {
+    return {static_cast<decltype(T::width)>(a.number), static_cast<decltype(T::width)>(a.second)};
+  }
+}
+
+}  // namespace test
