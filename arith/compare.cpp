@@ -91,7 +91,7 @@ struct Constants {
 
 // One mask byte for each of n samples. The first one belongs to the first channel.
 template <class T, class Relation, class Other>
-void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
+HWY_NOINLINE void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
   const auto at = [&](const T* from, const Other& to, ptrdiff_t i, ptrdiff_t phase) HWY_ATTR {

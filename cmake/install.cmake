@@ -4,7 +4,8 @@
 #   <libdir>/glibc-hwcaps/<level>/    the builds above it, which the dynamic linker takes instead on CPUs that have them
 #   <libdir32>/          the 32-bit build, with a companion of its own
 #
-# The library folders also get the static archives, a CMake package and pkg-config files.
+# The library folders also get the static archives, a CMake package and pkg-config files: <package> for the shared
+# library, <package>-static-<code> for the archive of one build.
 set(folder lib32)
 if(CMAKE_INSTALL_LIBDIR MATCHES x86_64-linux-gnu)
   string(REPLACE x86_64 i386 folder ${CMAKE_INSTALL_LIBDIR})
@@ -26,6 +27,15 @@ function(qvpi_install_pkgconfig name requires description libdir component)
   install(FILES ${file} DESTINATION ${libdir}/pkgconfig COMPONENT ${component} ${ARGN})
 endfunction()
 
+function(qvpi_install_archive_pkgconfig package code folder libdir component)
+  set(name ${package}-static-${code})
+  set(description "The archive of the build ${code} of qvpIP")
+  file(RELATIVE_PATH up /prefix/${libdir}/pkgconfig /prefix)
+  set(file ${PROJECT_BINARY_DIR}/install/${libdir}/${name}.pc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/archive.pc.in ${file} @ONLY)
+  install(FILES ${file} DESTINATION ${libdir}/pkgconfig COMPONENT ${component} ${ARGN})
+endfunction()
+
 function(qvpi_install_cmake_package package bits exports libdir component)
   set(files ${PROJECT_BINARY_DIR}/install/${package}-config)
   string(TOUPPER ${CMAKE_BUILD_TYPE} configuration)
@@ -40,7 +50,8 @@ function(qvpi_install_cmake_package package bits exports libdir component)
 endfunction()
 
 # The libraries that programs link. In CMake they are <package>::<package> and <package>::core, and the archives the
-# same with the suffix _static; the package has the name of the library.
+# same with the suffix _static, behind which those of higher levels have their code; the package has the name of the
+# library.
 function(qvpi_install_baseline code libdir runtime development)
   get_target_property(package qvpi_${code} OUTPUT_NAME)
   get_target_property(bits qvpi_${code} QVPI_BITS)
@@ -57,15 +68,22 @@ function(qvpi_install_baseline code libdir runtime development)
   qvpi_install_cmake_package(${package} ${bits} ${package}-${runtime} ${libdir} ${development} ${ARGN})
   qvpi_install_pkgconfig(${package} qvpcore "${PROJECT_DESCRIPTION}" ${libdir} ${development} ${ARGN})
   qvpi_install_pkgconfig(qvpcore "" "Companion library of qvpIP" ${libdir} ${development} ${ARGN})
+  qvpi_install_archive_pkgconfig(${package} ${code} . ${libdir} ${development} ${ARGN})
 endfunction()
 
-# The companion in the library folder, two folders up, serves every level.
+# The companion of the baseline, in the library folder, two folders up, serves every level.
 function(qvpi_install_level code libdir runtime development)
   get_target_property(folder qvpi_${code} QVPI_FOLDER)
+  get_target_property(package qvpi_${code} OUTPUT_NAME)
   set_target_properties(qvpi_${code} PROPERTIES INSTALL_RPATH $ORIGIN/../..)
-  install(TARGETS qvpi_${code} qvpi_${code}_static
-    LIBRARY DESTINATION ${libdir}/${folder} COMPONENT ${runtime} NAMELINK_SKIP ${ARGN}
-    ARCHIVE DESTINATION ${libdir}/${folder} COMPONENT ${development} ${ARGN})
+  set_target_properties(qvpi_${code}_static PROPERTIES EXPORT_NAME ${package}_static_${code}
+    INTERFACE_LINK_LIBRARIES qvpcore_${baseline}_static)
+  install(TARGETS qvpi_${code}
+    LIBRARY DESTINATION ${libdir}/${folder} COMPONENT ${runtime} NAMELINK_SKIP ${ARGN})
+  install(TARGETS qvpi_${code}_static EXPORT ${package}-${runtime}
+    ARCHIVE DESTINATION ${libdir}/${folder} COMPONENT ${development} ${ARGN}
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  qvpi_install_archive_pkgconfig(${package} ${code} ${folder} ${libdir} ${development} ${ARGN})
 endfunction()
 
 # All builds of one pointer width; the table of CPU builds lists the lowest level first.
@@ -76,7 +94,10 @@ function(qvpi_install_libraries bits)
     get_target_property(code_bits qvpi_${code} QVPI_BITS)
     if(code_bits EQUAL bits)
       cmake_language(CALL ${rule} ${code} ${ARGN})
-      set(rule qvpi_install_level)
+      if(rule STREQUAL qvpi_install_baseline)
+        set(baseline ${code})
+        set(rule qvpi_install_level)
+      endif()
     endif()
   endforeach()
 endfunction()

@@ -7,8 +7,11 @@ set(QVPI_SOVERSION 10)
 
 # No exceptions, no run-time type information and no C++ run-time library; float results must not depend on the CPU.
 set(QVPI_FLAGS ${QVPI_WARNINGS} -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffp-contract=off
-               -fvisibility=hidden -fno-math-errno -fcf-protection)
+               -fvisibility=hidden -fno-math-errno -fcf-protection -ffunction-sections -fdata-sections)
 
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+  list(APPEND QVPI_FLAGS -fno-addrsig)  # tables of symbols that would not survive the archive's renames
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)  # GCC 12 warns of its own intrinsics; clang warns of ours
   list(APPEND QVPI_FLAGS -Wno-uninitialized -Wno-maybe-uninitialized)
 endif()
@@ -39,9 +42,10 @@ function(qvpi_settings target bits)
   endif()
 endfunction()
 
-# A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/.
+# A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/. Further
+# arguments are objects that only the shared one has.
 function(qvpi_shared_and_static name objects output code bits map)
-  add_library(${name} SHARED $<TARGET_OBJECTS:${objects}>)
+  add_library(${name} SHARED $<TARGET_OBJECTS:${objects}> ${ARGN})
   add_library(${name}_static STATIC $<TARGET_OBJECTS:${objects}>)
   foreach(target ${name} ${name}_static)
     qvpi_settings(${target} ${bits})
@@ -50,6 +54,7 @@ function(qvpi_shared_and_static name objects output code bits map)
   endforeach()
   set_target_properties(${name} PROPERTIES VERSION ${QVPI_SOVERSION} SOVERSION ${QVPI_SOVERSION} LINK_DEPENDS ${map})
   target_link_options(${name} PRIVATE LINKER:--version-script=${map},-z,relro,-z,now,--as-needed,--gc-sections)
+  target_link_options(${name}_static INTERFACE LINKER:--gc-sections)  # a program gets the functions that it calls
   if(NOT QVPI_SANITIZE)
     target_link_options(${name} PRIVATE LINKER:-z,defs)
   endif()
@@ -86,25 +91,31 @@ function(qvpi_cpu code bits feature tests vectors output folder name)
 
   set(derived ${PROJECT_BINARY_DIR}/derived/${code})
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
-  qvpi_derive(${derived} FILES rename.h entries.S exports.map ARGS --cpu ${code} --bits ${bits} HEADERS ${headers})
+  qvpi_derive(${derived} FILES rename.h entries.S exports.map static.syms ARGS --cpu ${code} --bits ${bits} HEADERS ${headers})
 
   list(TRANSFORM QVPI_SOURCE_FOLDERS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.cpp" OUTPUT_VARIABLE patterns)
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   set(objects qvpi_${code}_objects)
-  add_library(${objects} OBJECT ${sources} ${derived}/entries.S ${derived}/rename.h)
+  set(entries qvpi_${code}_entries)
+  add_library(${objects} OBJECT ${sources} ${derived}/rename.h)
+  add_library(${entries} OBJECT ${derived}/entries.S)
   qvpi_settings(${objects} ${bits})
+  qvpi_settings(${entries} ${bits})
   target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR})
   target_include_directories(${objects} SYSTEM PRIVATE ${HWY_INCLUDE_DIR})
   target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
     HWY_IS_DEBUG_BUILD=0  # its checks would need its library
     QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
-  target_compile_options(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${ARGN};${QVPI_FLAGS}>"
-    $<$<COMPILE_LANGUAGE:ASM>:-fcf-protection>)
+  target_compile_options(${objects} PRIVATE ${ARGN} ${QVPI_FLAGS})
+  target_compile_options(${entries} PRIVATE -fcf-protection)
   # Every source begins with the precompiled header, and so with the renames.
-  target_precompile_headers(${objects} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:<hwy/highway.h$<ANGLE-R>;${derived}/rename.h>")
+  target_precompile_headers(${objects} PRIVATE <hwy/highway.h> ${derived}/rename.h)
 
   set(library qvpi_${code})
-  qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map)
+  qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map
+    $<TARGET_OBJECTS:${entries}>)
+  add_custom_command(TARGET ${library}_static POST_BUILD VERBATIM
+    COMMAND ${CMAKE_OBJCOPY} --redefine-syms=${derived}/static.syms $<TARGET_FILE:${library}_static>)
   target_link_libraries(${library} PUBLIC qvpcore_${code})
   target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
   set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests} QVPI_FOLDER ${folder})

@@ -6,6 +6,7 @@ The headers are the single list of exported names. For one CPU build this writes
   rename.h     one define per function: inside the library `name` means `<cpu>_name`
   entries.S    the entry table and the stub of each exported name, which jumps through its slot
   exports.map  the linker's version script
+  static.syms  for the archive: the renames undone, so that a name stands for the function itself and not for a stub
 
 and for the tests
 
@@ -114,6 +115,7 @@ def main():
     if options.cpu:
         (options.out / "rename.h").write_text(rename(names, options.cpu))
         (options.out / "entries.S").write_text(entries(names, options.cpu, options.bits))
+        (options.out / "static.syms").write_text("".join(f"{options.cpu}_{name} {name}\n" for name in names))
 
 
 if __name__ == "__main__":

@@ -66,6 +66,8 @@ class Package:
 
     def require_static(self, program, language):
         require_output(program, self.baseline)
+        functions = re.findall(r" [tT] (?:\w\d_)?(qvpi\w+)", run("nm", program))
+        require(len(functions) < 25, program, "has functions that it does not call:", functions)
         if language == "C":
             require_needs(program, ["libc.so.6"])
 
@@ -82,16 +84,22 @@ class Package:
         run(cmake, "--build", build)
         require_output(build / "consumer", self.best)
         self.require_static(build / "consumer_static", language)
+        for cpu in self.cpus[1:]:
+            require_output(build / f"consumer_static_{cpu}", cpu)
 
-    def pkgconfig(self, *options):
-        return run("pkg-config", *options, self.name, "qvpcore", PKG_CONFIG_PATH=f"{self.libdir}/pkgconfig").split()
+    def pkgconfig(self, *options, module=None):
+        return run("pkg-config", *options, module or self.name, PKG_CONFIG_PATH=f"{self.libdir}/pkgconfig").split()
 
     def try_pkgconfig(self, language):
         include = self.pkgconfig("--cflags")
         shared = self.compile("pc", language, include, self.pkgconfig("--libs"))
         require_output(shared, self.best, LD_LIBRARY_PATH=str(self.libdir))
-        static = self.compile("pc_static", language, include, ["-static", *self.pkgconfig("--static", "--libs")])
-        require_output(static, self.baseline)
+        for cpu in self.cpus:
+            archive = self.pkgconfig("--libs", module=f"{self.name}-static-{cpu}")
+            static = self.compile(f"pc_static_{cpu}", language, include, archive)
+            require_output(static, cpu)
+        whole = self.compile("pc_static", language, include, ["-static", *self.pkgconfig("--static", "--libs")])
+        require_output(whole, self.baseline)
 
     def try_compiler(self, language):
         include = [f"-I{self.prefix}/include"]
@@ -99,7 +107,7 @@ class Package:
         require_output(shared, self.best, LD_LIBRARY_PATH=str(self.libdir))
         if language == "C":
             archives = [f"{self.libdir}/lib{self.name}.a", f"{self.libdir}/libqvpcore.a"]
-            static = self.compile("cc_static", language, include, archives)
+            static = self.compile("cc_static", language, include, [*archives, "-Wl,--gc-sections"])
             self.require_static(static, language)
         return shared
 
