@@ -2,6 +2,7 @@
 #include "geometry/quad.h"
 
 #include <algorithm>
+#include <span>
 
 #include "base/export.h"
 
@@ -74,6 +75,22 @@ void Projection::Normalize() {
   if (last == 0) return;
   for (auto& row : c) {
     for (double& value : row) value /= last;
+  }
+}
+
+void Projection::Scale() {
+  double largest = 0;
+  for (const auto& row : c) {
+    for (const double value : row) largest = std::max(largest, Magnitude(value));
+  }
+  if (!(largest > 0) || !IsFinite()) return;
+  const auto scaleBy = [&](double factor) {
+    largest *= factor;
+    for (double& value : std::span(&c[0][0], 9)) value *= factor;
+  };
+  for (const double factor : {0x1p512, 0x1p256, 0x1p128, 0x1p64, 0x1p32, 0x1p16, 0x1p8, 0x1p4, 0x1p2, 0x1p1}) {
+    while (largest >= factor) scaleBy(1 / factor);
+    while (largest < 1 / factor) scaleBy(factor);
   }
 }
 

@@ -44,6 +44,7 @@ struct Projection {
   Projection Inverse() const;  // up to a factor
   Projection Times(const Projection& other) const;
   void Normalize();  // c22 becomes 1, where it is not 0
+  void Scale();      // the largest coefficient is about 1, by a power of two: the map stays as it is
 };
 
 // The projection of the square (0, 0), (1, 0), (1, 1), (0, 1) to a convex quadrangle.

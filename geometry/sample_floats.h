@@ -204,21 +204,21 @@ void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptr
 
 // Four channels of a pixel.
 template <class W>
-struct Quad {
+struct FourChannels {
   static constexpr int kVectors = 4 * sizeof(W) / kBlockBytes, kLanes = 4 / kVectors;
   hn::Full128<W> d;
   hn::Vec<hn::Full128<W>> v[kVectors];
 
   template <class T>
-  HWY_INLINE static Quad Weighted(const T* pixel, W weight) {
-    Quad q;
+  HWY_INLINE static FourChannels Weighted(const T* pixel, W weight) {
+    FourChannels q;
     for (int i = 0; i < kVectors; ++i) q.v[i] = hn::Mul(LoadWide(q.d, pixel + i * kLanes), hn::Set(q.d, weight));
     return q;
   }
   HWY_INLINE void Scale(W weight) {
     for (int i = 0; i < kVectors; ++i) v[i] = hn::Mul(v[i], hn::Set(d, weight));
   }
-  HWY_INLINE void Add(const Quad& other) {
+  HWY_INLINE void Add(const FourChannels& other) {
     for (int i = 0; i < kVectors; ++i) v[i] = hn::Add(v[i], other.v[i]);
   }
   template <class T>
@@ -230,20 +230,20 @@ struct Quad {
 };
 
 // The weighted sum of one point's taps; its weight of tap k is x[k * stride] and y[k * stride]. Four elements are read
-// at each tap and written, however many channels there are.
+// at each tap, however many channels there are.
 template <int kTaps, class T, class W>
-HWY_INLINE void BlendPixel(const uint8_t* first, ptrdiff_t step, int channels, const W* x, const W* y, ptrdiff_t stride,
-                           T* out) {
-  Quad<W> total;
+HWY_INLINE FourChannels<W> SumOfTaps(const uint8_t* first, ptrdiff_t step, int channels, const W* x, const W* y,
+                                     ptrdiff_t stride) {
+  FourChannels<W> total;
   for (int r = 0; r < kTaps; ++r) {
     const T* taps = reinterpret_cast<const T*>(first + r * step);
-    Quad<W> row = Quad<W>::Weighted(taps, x[0]);
-    for (int k = 1; k < kTaps; ++k) row.Add(Quad<W>::Weighted(taps + k * channels, x[k * stride]));
+    FourChannels<W> row = FourChannels<W>::Weighted(taps, x[0]);
+    for (int k = 1; k < kTaps; ++k) row.Add(FourChannels<W>::Weighted(taps + k * channels, x[k * stride]));
     row.Scale(y[r * stride]);
     if (r == 0) total = row;
     if (r != 0) total.Add(row);
   }
-  total.StoreTo(out);
+  return total;
 }
 
 // As BlendPoints.
@@ -270,7 +270,8 @@ void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n
     const int32_t* const offset = places.offset + first;
     const ptrdiff_t rowBytes = step;
     for (ptrdiff_t i = 0; i < kStride; ++i) {
-      BlendPixel<kTaps>(from + offset[i], rowBytes, kChannels, x[0] + i, y[0] + i, kStride, to + i * kChannels);
+      SumOfTaps<kTaps, T>(from + offset[i], rowBytes, kChannels, x[0] + i, y[0] + i, kStride)
+          .StoreTo(to + i * kChannels);
     }
   });
 }

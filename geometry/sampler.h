@@ -96,12 +96,9 @@ T ToElement(double value) {
   }
 }
 
-template <class T>
-void StorePixel(const T* value, double share, int written, T* dst) {
-  if (share == 1) {
-    std::memcpy(dst, value, written * sizeof(T));
-    return;
-  }
+// A value with a share below 1 is mixed with what was there before. Only what comes of that is rounded.
+template <class T, class W>
+void StoreMixed(const W* value, double share, int written, T* dst) {
   for (int c = 0; c < written; ++c) {
     T old;
     std::memcpy(&old, dst + c, sizeof(T));
@@ -110,10 +107,10 @@ void StorePixel(const T* value, double share, int written, T* dst) {
   }
 }
 
-// The weighted sum of the taps from `first` on. Four elements are read at each tap and written, however many channels
-// there are.
+// The weighted sum of the taps from `first` on. Four elements are read at each tap, however many channels there are.
 template <int kTaps, class T>
-void BlendWeighted(const SampleTask<T>& task, const Verdict& verdict, const uint8_t* first, ptrdiff_t step, T* out) {
+FourChannels<WorkOf<T>> WeightedSum(const SampleTask<T>& task, const Verdict& verdict, const uint8_t* first,
+                                    ptrdiff_t step) {
   using W = WorkOf<T>;
   const hn::CappedTag<W, 1> d;
   const Weigher<kTaps, W> weigh(task);
@@ -123,30 +120,49 @@ void BlendWeighted(const SampleTask<T>& task, const Verdict& verdict, const uint
   for (int k = 0; k < kTaps; ++k) x[k] = hn::GetLane(weights[k]);
   weigh(d, hn::Set(d, static_cast<W>(verdict.y)), weights);
   for (int k = 0; k < kTaps; ++k) y[k] = hn::GetLane(weights[k]);
-  BlendPixel<kTaps>(first, step, Channels(task.src.layout), x, y, 1, out);
+  return SumOfTaps<kTaps, T>(first, step, Channels(task.src.layout), x, y, 1);
 }
 
-// The value of a point, from the image where all its taps are in it and from copies otherwise.
+// The value of a point, not mixed, as blocks of points have it.
 template <int kTaps, class T>
-void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInterior, T* out) {
-  const int channels = Channels(task.src.layout);
-  T patch[kTaps * kTaps * 4 + 4];
-  const T* first = patch;
-  if (isInterior) first = task.src.Row(static_cast<ptrdiff_t>(verdict.row)) + verdict.column * channels;
-  if (!isInterior) {
-    FetchPatch<kTaps>(task, verdict, patch);
-    std::memset(patch + kTaps * kTaps * channels, 0, 4 * sizeof(T));  // is read, but not used
-  }
-  const auto* bytes = reinterpret_cast<const uint8_t*>(first);
-  const ptrdiff_t step = isInterior ? task.src.step : ptrdiff_t{kTaps} * channels * sizeof(T);
+void BlendJudged(const SampleTask<T>& task, const Verdict& verdict, const uint8_t* first, ptrdiff_t step, T* out) {
   if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
     const auto fraction = [](double x) {
       return static_cast<int>((x * kUnits + kToWhole) - kToWhole) >> (kUnitBits - kFractionBits);
     };
-    BlendBytesOf(bytes, bytes + step, channels, fraction(verdict.x), fraction(verdict.y), out);
+    BlendBytesOf(first, first + step, Channels(task.src.layout), fraction(verdict.x), fraction(verdict.y), out);
   } else {
-    BlendWeighted<kTaps>(task, verdict, bytes, step, out);
+    WeightedSum<kTaps>(task, verdict, first, step).StoreTo(out);
   }
+}
+
+// Writes the value of a point whose taps begin at `first`.
+template <int kTaps, class T>
+void StoreJudged(const SampleTask<T>& task, const Verdict& verdict, const T* first, ptrdiff_t step, T* dst) {
+  const int written = ProcessedChannels(task.src.layout);
+  const auto* bytes = reinterpret_cast<const uint8_t*>(first);
+  if (verdict.share < 1) {
+    WorkOf<T> sum[4];
+    WeightedSum<kTaps>(task, verdict, bytes, step).StoreTo(sum);
+    return StoreMixed(sum, verdict.share, written, dst);
+  }
+  T value[4];
+  BlendJudged<kTaps>(task, verdict, bytes, step, value);
+  std::memcpy(dst, value, written * sizeof(T));
+}
+
+// A point by its taps, in the image where all are in it and in copies otherwise.
+template <int kTaps, class T>
+void SampleJudged(const SampleTask<T>& task, const Verdict& verdict, bool isInterior, T* dst) {
+  const int channels = Channels(task.src.layout);
+  if (isInterior) {
+    const T* first = task.src.Row(static_cast<ptrdiff_t>(verdict.row)) + verdict.column * channels;
+    return StoreJudged<kTaps>(task, verdict, first, task.src.step, dst);
+  }
+  T patch[kTaps * kTaps * 4 + 4];
+  FetchPatch<kTaps>(task, verdict, patch);
+  std::memset(patch + kTaps * kTaps * channels, 0, 4 * sizeof(T));  // is read, but not used
+  StoreJudged<kTaps>(task, verdict, patch, ptrdiff_t{kTaps} * channels * sizeof(T), dst);
 }
 
 template <int kTaps, class T>
@@ -154,14 +170,16 @@ void SamplePoint(const SampleTask<T>& task, double u, double v, T* dst) {
   const Verdict verdict = Judge<kTaps>(task.area, u, v);
   if (verdict.fate == Fate::kSkipped) return;
   const int written = ProcessedChannels(task.src.layout);
-  T value[4];
-  if (verdict.fate == Fate::kConstant) return StorePixel(task.constant, verdict.share, written, dst);
-  if constexpr (kTaps == 1) FetchPatch<1>(task, verdict, value);
-  if constexpr (kTaps > 1) {
-    const bool isInterior = task.interior.u.Contains(u) && task.interior.v.Contains(v);
-    BlendJudged<kTaps>(task, verdict, isInterior, value);
+  if (verdict.fate == Fate::kConstant) {
+    std::memcpy(dst, task.constant, written * sizeof(T));
+  } else if constexpr (kTaps > 1) {
+    SampleJudged<kTaps>(task, verdict, task.interior.u.Contains(u) && task.interior.v.Contains(v), dst);
+  } else {
+    T value[4];
+    FetchPatch<1>(task, verdict, value);
+    if (verdict.share < 1) return StoreMixed(value, verdict.share, written, dst);
+    std::memcpy(dst, value, written * sizeof(T));
   }
-  StorePixel(value, verdict.share, written, dst);
 }
 
 // Whether no point of a block takes anything from the image. What is no number is left to closer inspection.

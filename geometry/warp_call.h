@@ -46,21 +46,19 @@ constexpr int ReachOf(QvpiInterpolationType interpolation) {
   return interpolation == qvpInterpolationNearest ? 0 : interpolation == qvpInterpolationLinear ? 1 : 2;
 }
 
-// Where the kind is transparent, points of the image itself have a value; where all sides are in memory, those of the
-// memory too.
+// The kind applies outside of the image enlarged by its sides in memory. Where it is transparent, or none, points of
+// the enlarged image have a value.
 inline SampleArea AreaOf(const WarpRecord& record) {
   const int reach = ReachOf(record.interpolation);
+  const BorderKind kind = KindOf(record.border);
   SampleArea area;
   area.columns = EffectiveColumns(record.border, record.sourceWidth, reach, reach);
   area.rows = EffectiveRows(record.border, record.sourceHeight, reach, reach);
-  const BorderKind kind = KindOf(record.border);
   area.kind = kind == BorderKind::kConst ? BorderKind::kConst : BorderKind::kReplicate;
   area.isBounded = kind == BorderKind::kTransparent || kind == BorderKind::kInMemory;
   area.isSmooth = record.isSmooth != 0;
-  const int more = kind == BorderKind::kInMemory ? reach : 0;
-  area.left = area.top = -more;
-  area.right = record.sourceWidth - 1 + more;
-  area.bottom = record.sourceHeight - 1 + more;
+  area.left = static_cast<double>(area.columns.begin), area.right = static_cast<double>(area.columns.end - 1);
+  area.top = static_cast<double>(area.rows.begin), area.bottom = static_cast<double>(area.rows.end - 1);
   return area;
 }
 

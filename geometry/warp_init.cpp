@@ -48,6 +48,7 @@ struct Given {
   static Given Of(const double (*c)[3], WarpKind kind, QvpiWarpDirection direction) {
     Given given{kind, {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}, direction};
     for (int i = 0; i < (kind == WarpKind::kAffine ? 2 : 3); ++i) std::copy(c[i], c[i] + 3, given.matrix.c[i]);
+    if (kind == WarpKind::kPerspective) given.matrix.Scale();
     return given;
   }
 
@@ -60,7 +61,11 @@ struct Given {
   }
 
   Projection Inverse() const {
-    if (kind == WarpKind::kPerspective) return matrix.Inverse();
+    if (kind == WarpKind::kPerspective) {
+      Projection inverse = matrix.Inverse();
+      inverse.Scale();
+      return inverse;
+    }
     const auto& c = matrix.c;
     const double det = c[0][0] * c[1][1] - c[0][1] * c[1][0];
     const double a = c[1][1] / det, b = -c[0][1] / det, d = -c[1][0] / det, e = c[0][0] / det;
@@ -79,6 +84,7 @@ QvpStatus CheckRest(const WarpSetup& s) {
   const BorderKind kind = KindOf(s.border);
   if (kind == BorderKind::kConst && s.borderValue == nullptr) return qvpStatusNullPointer;
   if (s.channels != 1 && s.channels != 3 && s.channels != 4) return qvpStatusNumChannels;
+  if (!std::isfinite(s.b) || !std::isfinite(s.c)) return qvpStatusBadArgument;
   if (s.isSmooth && (kind == BorderKind::kConst || kind == BorderKind::kReplicate)) return qvpStatusNotSupportedMode;
   const bool isNearest = s.interpolation == qvpInterpolationNearest;
   if (!isNearest && (s.src.width == 1 || s.src.height == 1)) return qvpStatusSize;
@@ -131,12 +137,6 @@ void FillRecord(const WarpSetup& s, const Given& given, const Quad4& target, War
   record.c2 = s.c;
 }
 
-// The record is refused by all calls from the first check that can tell its place until all checks have passed.
-QvpStatus Refuse(QvpStatus status, QvpiWarpSpec* spec, bool isComplete) {
-  if (spec != nullptr && isComplete) RecordOf(spec)->tag = 0;
-  return status;
-}
-
 QvpStatus CheckGiven(const WarpSetup& s, const double (*coeffs)[3], WarpKind kind, QvpiWarpDirection direction) {
   if (IsAnyBelowOne(s.src, s.dst)) return qvpStatusSize;
   if (!IsKnownType(s.type)) return qvpStatusDataType;
@@ -148,39 +148,41 @@ QvpStatus CheckGiven(const WarpSetup& s, const double (*coeffs)[3], WarpKind kin
   return isFlat ? qvpStatusCoefficient : qvpStatusNoError;
 }
 
+// `buffer` is the record where no Init buffer is asked for.
 QvpStatus Init(const WarpSetup& s, const double (*coeffs)[3], WarpKind kind, QvpiWarpDirection direction,
                QvpiWarpSpec* spec, const void* buffer, WarpForm form) {
-  const bool isComplete = spec != nullptr && coeffs != nullptr && buffer != nullptr;
-  if (!IsKnownBorder(s.border)) return Refuse(qvpStatusBorder, spec, isComplete);
-  if (!isComplete) return qvpStatusNullPointer;
-  Refuse(qvpStatusNoError, spec, true);
-  if (const QvpStatus failed = CheckGiven(s, coeffs, kind, direction)) return failed;
-  const Given given = Given::Of(coeffs, kind, direction);
-  WarpRecord& record = *RecordOf(spec);
-  FillRecord(s, given, TargetOf(given, s.src), record);
-  record.tag = static_cast<uint32_t>(form);
-  return qvpStatusNoError;
+  WarpRecord* record = RecordOf(spec);
+  return InitRecord(record, static_cast<uint32_t>(form), [&]() -> QvpStatus {
+    if (!IsKnownBorder(s.border)) return qvpStatusBorder;
+    if (spec == nullptr || coeffs == nullptr || buffer == nullptr) return qvpStatusNullPointer;
+    if (const QvpStatus failed = CheckGiven(s, coeffs, kind, direction)) return failed;
+    const Given given = Given::Of(coeffs, kind, direction);
+    FillRecord(s, given, TargetOf(given, s.src), *record);
+    return qvpStatusNoError;
+  });
+}
+
+QvpStatus CheckQuads(const WarpSetup& s, const Quad4& from, const Quad4& to) {
+  if (IsAnyBelowOne(s.src, s.dst)) return qvpStatusSize;
+  if (!IsKnownType(s.type)) return qvpStatusDataType;
+  if (ShapeOf(from) != QuadShape::kConvex || ShapeOf(to) != QuadShape::kConvex) return qvpStatusQuad;
+  return CheckRest(s);
 }
 
 QvpStatus InitQuad(const WarpSetup& s, const double (*srcQuad)[2], const double (*dstQuad)[2], QvpiWarpSpec* spec,
                    const void* buffer, WarpForm form) {
-  const bool isComplete = spec != nullptr && srcQuad != nullptr && dstQuad != nullptr && buffer != nullptr;
-  if (!IsKnownBorder(s.border)) return Refuse(qvpStatusBorder, spec, isComplete);
-  if (!isComplete) return qvpStatusNullPointer;
-  Refuse(qvpStatusNoError, spec, true);
-  if (IsAnyBelowOne(s.src, s.dst)) return qvpStatusSize;
-  if (!IsKnownType(s.type)) return qvpStatusDataType;
-  const Quad4 from(srcQuad), to(dstQuad);
-  if (ShapeOf(from) != QuadShape::kConvex || ShapeOf(to) != QuadShape::kConvex) return qvpStatusQuad;
-  if (const QvpStatus failed = CheckRest(s)) return failed;
-  Projection toSource = Between(to, from);
-  toSource.Normalize();
-  if (!toSource.IsFinite()) return qvpStatusQuad;
-  const Given given{WarpKind::kPerspective, toSource, qvpWarpBackward};
-  WarpRecord& record = *RecordOf(spec);
-  FillRecord(s, given, to, record);
-  record.tag = static_cast<uint32_t>(form);
-  return qvpStatusNoError;
+  WarpRecord* record = RecordOf(spec);
+  return InitRecord(record, static_cast<uint32_t>(form), [&]() -> QvpStatus {
+    if (!IsKnownBorder(s.border)) return qvpStatusBorder;
+    if (spec == nullptr || srcQuad == nullptr || dstQuad == nullptr || buffer == nullptr) return qvpStatusNullPointer;
+    const Quad4 from(srcQuad), to(dstQuad);
+    if (const QvpStatus failed = CheckQuads(s, from, to)) return failed;
+    Projection toSource = Between(to, from);
+    toSource.Normalize();
+    if (!toSource.IsFinite()) return qvpStatusQuad;
+    FillRecord(s, {WarpKind::kPerspective, toSource, qvpWarpBackward}, to, *record);
+    return qvpStatusNoError;
+  });
 }
 
 // ---- Sizes

@@ -782,10 +782,12 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *  | replicate | the nearest pixel of the edge | all pixels are written |
  *  | constant | the given value, rounded and saturated to the type | all are written; edges blend into the value |
  *  | transparent | | only pixels with 0 <= u <= srcWidth - 1 and 0 <= v <= srcHeight - 1 are written |
- *  | qvpBorderInMem | are in memory | as transparent, with the image larger by the method's reach |
+ *  | qvpBorderInMem | are in memory | as transparent with all sides in memory |
  *
  *  A side that is in memory is read where it lies, as far as the method reaches: 0 pixels for nearest, 1 for linear, 2
- *  for cubic. The kind applies outside of the image so enlarged. Points that are no numbers lie outside.
+ *  for cubic. The kind applies outside of the image so enlarged: transparent with the left side in memory, linear
+ *  interpolation writes pixels with -1 <= u <= srcWidth - 1, and smooth edges begin beyond these. Points that are no
+ *  numbers lie outside.
  *
  *  @param srcSize,dstSize sizes of source and destination
  *  @param dataType type of the samples
@@ -853,8 +855,8 @@ QvpStatus qvpiWarpQuadGetSize_L(QvpiSizeL srcSize, const double srcQuad[4][2], Q
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -878,8 +880,8 @@ QvpStatus qvpiWarpAffineNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpD
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -902,20 +904,20 @@ QvpStatus qvpiWarpAffineLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDa
  *  @param coeffs coefficients
  *  @param direction what the coefficients map
  *  @param numChannels channels of a pixel
- *  @param valueB,valueC B and C
+ *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
- *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
- *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
- *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
- *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
- *          1. qvpStatusSizeOverflow: a length above 33554431. qvpStatusCoefficient: the source becomes a quadrangle
- *          without area.
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a coefficient
+ *          is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2| where |d1| <=
+ *          1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
+ *          qvpStatusBadArgument: B or C is not finite. qvpStatusNotSupportedMode: smoothEdge with replicate or
+ *          constant. qvpStatusSize: a source length of 1. qvpStatusSizeOverflow: a length above 33554431.
+ *          qvpStatusCoefficient: the source becomes a quadrangle without area.
  */
 QvpStatus qvpiWarpAffineCubicInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiWarpAffineCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
@@ -933,8 +935,8 @@ QvpStatus qvpiWarpAffineCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDat
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -958,8 +960,8 @@ QvpStatus qvpiWarpPerspectiveNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize,
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -981,19 +983,19 @@ QvpStatus qvpiWarpPerspectiveLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, 
  *  @param coeffs coefficients
  *  @param direction what the coefficients map
  *  @param numChannels channels of a pixel
- *  @param valueB,valueC B and C
+ *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
- *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
- *          coefficient is no finite number, or the determinant is not above 1e-10 times its largest product.
- *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
- *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a coefficient
+ *          is no finite number, or the determinant is not above 1e-10 times its largest product. qvpStatusNullPointer:
+ *          a constant border without value. qvpStatusNumChannels: not 1, 3 or 4. qvpStatusBadArgument: B or C is not
+ *          finite. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
+ *          1. qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiWarpPerspectiveCubicInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiWarpPerspectiveCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[3][3], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
@@ -1010,8 +1012,8 @@ QvpStatus qvpiWarpPerspectiveCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Q
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
@@ -1034,8 +1036,8 @@ QvpStatus qvpiWarpQuadNearestInit_L(QvpiSizeL srcSize, const double srcQuad[4][2
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
@@ -1056,18 +1058,18 @@ QvpStatus qvpiWarpQuadLinearInit_L(QvpiSizeL srcSize, const double srcQuad[4][2]
  *  @param srcQuad,dstQuad corners in any order that goes around, the same for both
  *  @param dataType type of the samples
  *  @param numChannels channels of a pixel
- *  @param valueB,valueC B and C
+ *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: points up to one pixel outside (dx across and dy down) take share (1 - dx)(1 - dy) of the
- *         value at the edge, and the rest of the old destination, rounded to the nearest
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
+ *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
  *          qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
- *          qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of 1.
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          qvpStatusBadArgument: B or C is not finite. qvpStatusNotSupportedMode: smoothEdge with replicate or
+ *          constant. qvpStatusSize: a source length of 1. qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiWarpQuadCubicInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiWarpQuadCubicInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
@@ -1547,8 +1549,9 @@ QvpStatus qvpiGetRotateTransform(double angle, double shiftX, double shiftY, dou
  *
  *  Not in place. AC4 leaves the fourth channel alone.
  *
- *  With qvpSmoothEdge added to the method points up to one pixel outside the region (dx across and dy down) take share
- *  (1 - dx)(1 - dy) of the value at its edge, and the rest of the old destination, rounded to the nearest.
+ *  With qvpSmoothEdge added to the method a point up to one pixel outside the region, dx across and dy down, gives a * S
+ *  + (1 - a) * old with a = (1 - dx) * (1 - dy), the value S at the edge of the region, not rounded, and the old pixel;
+ *  the sum is rounded once.
  *
  *  @param pSrc,srcStep the whole source, at its first pixel
  *  @param srcSize size of the whole source

@@ -64,9 +64,13 @@ double ValueAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int c
 }
 
 template <class T>
+double Clamped(double x) {
+  return std::clamp<double>(x, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
+}
+
+template <class T>
 double Saturated(double x) {
-  if constexpr (std::is_floating_point_v<T>) return x;
-  return std::clamp<double>(std::nearbyint(x), std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
+  return Clamped<T>(std::is_floating_point_v<T> ? x : std::nearbyint(x));
 }
 
 // Random bits are no image for floating-point types.
@@ -209,31 +213,41 @@ TEST(Warp, FollowsTheFormula64f) {
   CheckWarp<double, 1>(qvp64f, 1e-9), CheckWarp<double, 3>(qvp64f, 1e-9), CheckWarp<double, 4>(qvp64f, 1e-9);
 }
 
-// A region inside a larger image: what is around it is read as far as the method reaches, and not farther.
+// A region inside a larger image. Sides in memory enlarge it by what the method reaches, and the kind applies outside
+// of that: with transparency beyond, pixels are those of a warp of the enlarged image, smooth edges too.
 TEST(Warp, ReadsSidesInMemory) {
   const double matrix[2][3] = {{0.4, 0.01, -4}, {0.005, 0.9, -3.9}};
-  for (const int taps : {1, 2, 4}) {
-    const int reach = taps / 2;
-    const QvpiSize inner{15, 10}, outer{inner.width + 2 * reach, inner.height + 2 * reach}, to{50, 18};
-    const Rule rule{.taps = taps};
-    test::Image<uint8_t> src(outer.width, outer.height, 0), all(to.width, to.height, 3), dst(all);
-    const double shifted[2][3] = {{0.4, 0.01, -4.0 + reach}, {0.005, 0.9, -3.9 + reach}};
-    const uint8_t* at = src.data() + reach * src.step() + reach;
-    const std::integral_constant<int, 1> c1;
-    const Warp some(1, qvp8u, taps, matrix, false, qvpBorderInMem, inner, to, rule);
-    const Warp whole(1, qvp8u, taps, shifted, false, qvpBorderTransparent, outer, to, rule);
-    ASSERT_EQ(some(src, at, dst.data(), dst.step(), {0, 0}, to, c1), 0);
-    ASSERT_EQ(whole(src, src.data(), all.data(), all.step(), {0, 0}, to, c1), 0);
-    for (int y = 0; y < to.height; ++y) {
-      for (int x = 0; x < to.width; ++x) ASSERT_NEAR(dst(x, y), all(x, y), 1) << taps << ' ' << x << ',' << y;
+  const QvpiSize inner{15, 10}, to{50, 18};
+  constexpr int kTransparent = qvpBorderTransparent;
+  for (const int border : {+qvpBorderInMem, qvpBorderInMem | kTransparent, qvpBorderInMemLeft | kTransparent,
+                           qvpBorderInMemTop | qvpBorderInMemRight | kTransparent}) {
+    for (const int taps : {1, 2, 4}) {
+      const auto reach = [&](int side) { return border & side ? taps / 2 : 0; };
+      const int left = reach(qvpBorderInMemLeft), top = reach(qvpBorderInMemTop);
+      const QvpiSize outer{left + inner.width + reach(qvpBorderInMemRight),
+                           top + inner.height + reach(qvpBorderInMemBottom)};
+      const double shifted[2][3] = {{0.4, 0.01, -4.0 + left}, {0.005, 0.9, -3.9 + top}};
+      for (const int smooth : {0, 1}) {
+        test::Image<uint8_t> src(outer.width, outer.height, 0), all(to.width, to.height, 3), dst(all);
+        const uint8_t* at = src.data() + top * src.step() + left;
+        const std::integral_constant<int, 1> c1;
+        const Warp some(1, qvp8u, taps, matrix, false, border, inner, to, {.taps = taps}, smooth);
+        const Warp whole(1, qvp8u, taps, shifted, false, kTransparent, outer, to, {.taps = taps}, smooth);
+        ASSERT_EQ(some(src, at, dst.data(), dst.step(), {0, 0}, to, c1), 0);
+        ASSERT_EQ(whole(src, src.data(), all.data(), all.step(), {0, 0}, to, c1), 0);
+        for (int y = 0; y < to.height; ++y) {
+          for (int x = 0; x < to.width; ++x) ASSERT_NEAR(dst(x, y), all(x, y), 1) << border << ' ' << x << ',' << y;
+        }
+      }
     }
   }
 }
 
 // Rows begin and end up to two pixels outside, so that all shares occur, on the left, the right and at the corners.
-// Integers are rounded twice: the value, whose ties may fall either way, and what is mixed.
+// Only the mixture of the value, which may be beyond the type, and the old pixel is rounded. Where nothing is mixed,
+// bytes are within 0.02 of it.
 template <class T, int kChannels>
-void CheckSmoothEdges(QvpDataType type, double tolerance) {
+void CheckSmoothEdges(QvpDataType type, double tolerance, double unmixed = 0) {
   const QvpiSize size{5, 6}, to{24, 9};
   for (const int taps : {1, 2, 4}) {
     for (const double turn : {0.0, 0.03}) {
@@ -250,8 +264,9 @@ void CheckSmoothEdges(QvpDataType type, double tolerance) {
           const Point p = Map(matrix, false, x / kChannels, y);
           const Point edge{std::clamp(p.u, 0.0, 4.0), std::clamp(p.v, 0.0, 5.0)};
           const double share = std::max(0.0, 1 - std::fabs(p.u - edge.u)) * std::max(0.0, 1 - std::fabs(p.v - edge.v));
-          const double value = Saturated<T>(ValueAt(src, size, {.taps = taps}, kChannels, edge, x % kChannels));
-          ASSERT_NEAR(dst(x, y), share * value + (1 - share) * before(x, y), tolerance) << taps << ' ' << x << ',' << y;
+          const double value = ValueAt(src, size, {.taps = taps}, kChannels, edge, x % kChannels);
+          const double mixed = Clamped<T>(share * value + (1 - share) * before(x, y));
+          ASSERT_NEAR(dst(x, y), mixed, tolerance + (share == 1) * unmixed) << taps << ' ' << x << ',' << y;
         }
       }
     }
@@ -259,9 +274,9 @@ void CheckSmoothEdges(QvpDataType type, double tolerance) {
 }
 
 TEST(Warp, BlendsSmoothEdges) {
-  CheckSmoothEdges<uint8_t, 3>(qvp8u, 1.5);
-  CheckSmoothEdges<uint16_t, 1>(qvp16u, 1.5);
-  CheckSmoothEdges<int16_t, 4>(qvp16s, 1.5);
+  CheckSmoothEdges<uint8_t, 3>(qvp8u, 0.5001, 0.02);
+  CheckSmoothEdges<uint16_t, 1>(qvp16u, 0.52);
+  CheckSmoothEdges<int16_t, 4>(qvp16s, 0.52);
   CheckSmoothEdges<float, 3>(qvp32f, 2e-3);
   CheckSmoothEdges<double, 1>(qvp64f, 1e-9);
 }
@@ -431,6 +446,74 @@ TEST(Warp, RefusesInOrder) {
   EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 3, 6, value, 1), qvpStatusNotSupportedMode);
   EXPECT_EQ(init(good, {1, 5}, qvp8u, 1, 3, 6, value, 0), qvpStatusSize);
   EXPECT_EQ(init(good, {33554432, 5}, qvp8u, 1, 3, 6, value, 0), qvpStatusSizeOverflow);
+}
+
+// Whatever an Init refuses, and whatever else is wrong with it, no record is left that a call would take.
+TEST(Warp, RefusedInitsLeaveNoRecord) {
+  const double good[3][3] = {{1, 0, 0.5}, {0, 1, 0}, {0, 0, 1}}, flat[3][3] = {};
+  const double square[4][2] = {{0, 0}, {4, 0}, {4, 4}, {0, 4}};
+  test::Block record(576), room(64);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  const QvpiSize size{5, 5}, none{5, 0};
+  const auto affine = [&](auto* matrix, QvpiSize src, int channels, int border, Qvp8u* buffer) {
+    return qvpiWarpAffineCubicInit(src, size, qvp8u, matrix, 1, channels, 0, 0.5, border, nullptr, 0, spec, buffer);
+  };
+  const auto tilt = [&](auto* matrix, int border, double b, Qvp8u* buffer) {
+    return qvpiWarpPerspectiveCubicInit(size, size, qvp8u, matrix, 1, 1, b, 0.5, border, nullptr, 0, spec, buffer);
+  };
+  const auto quad = [&](const double(*from)[2], const double(*to)[2], int border, double c, Qvp8u* buffer) {
+    return qvpiWarpQuadCubicInit(size, from, size, to, qvp8u, 1, 0, c, border, nullptr, 0, spec, buffer);
+  };
+  const auto check = [&](QvpStatus status, QvpStatus expected) {
+    int bytes = 0;
+    EXPECT_EQ(status, expected);
+    EXPECT_EQ(qvpiWarpGetBufferSize(spec, size, &bytes), status == 0 ? 0 : qvpStatusContextMatch) << status;
+    ASSERT_EQ(affine(good, size, 1, 1, room.data()), 0);
+  };
+  constexpr std::nullptr_t kNoMatrix = nullptr;
+  check(affine(good, size, 1, 1, room.data()), 0);
+  check(affine(static_cast<const double(*)[3]>(kNoMatrix), size, 1, 1, room.data()), qvpStatusNullPointer);
+  check(affine(static_cast<const double(*)[3]>(kNoMatrix), size, 1, 2, room.data()), qvpStatusBorder);
+  check(affine(good, size, 1, 1, nullptr), qvpStatusNullPointer);
+  check(affine(good, size, 1, 0x31, nullptr), qvpStatusNullPointer);
+  check(affine(good, size, 1, 256, nullptr), qvpStatusBorder);
+  check(affine(good, none, 1, 1, room.data()), qvpStatusSize);
+  check(affine(flat, size, 1, 1, room.data()), qvpStatusCoefficient);
+  check(affine(good, size, 2, 1, room.data()), qvpStatusNumChannels);
+  check(affine(good, size, 1, qvpBorderConst, room.data()), qvpStatusNullPointer);
+  check(tilt(flat, 1, 0, room.data()), qvpStatusCoefficient);
+  check(tilt(good, 1, NAN, room.data()), qvpStatusBadArgument);
+  check(tilt(good, 3, NAN, nullptr), qvpStatusBorder);
+  check(quad(nullptr, square, 1, 0, room.data()), qvpStatusNullPointer);
+  check(quad(square, nullptr, 5, 0, room.data()), qvpStatusBorder);
+  check(quad(square, square, 1, 0, nullptr), qvpStatusNullPointer);
+  check(quad(square, square, 1, -INFINITY, room.data()), qvpStatusBadArgument);
+  check(quad(square, square, 1, 0, room.data()), 0);
+}
+
+// A common factor of a perspective's coefficients changes nothing, however large or small it is.
+TEST(Warp, PerspectivesMayHaveAnyFactor) {
+  constexpr int kForward = 0, kBackward = 1;
+  const double matrix[3][3] = {{0.25, 0.125, 1}, {0.03125, 0.5, 2}, {0.015625, -0.0009765625, 0.75}};
+  test::Image<uint8_t> src(kSource.width, kSource.height, 0);
+  test::Block record(576), buffer(1024);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  for (const int direction : {kForward, kBackward}) {
+    test::Image<uint8_t> expected(kTarget.width, kTarget.height, 0), dst(expected);
+    for (const int power : {0, -1060, -700, -360, -341, 340, 700, 1022}) {
+      double scaled[3][3];
+      for (int i = 0; i < 9; ++i) scaled[i / 3][i % 3] = std::ldexp(matrix[i / 3][i % 3], power);
+      ASSERT_EQ(qvpiWarpPerspectiveLinearInit(kSource, kTarget, qvp8u, scaled, direction, 1, 1, nullptr, 0, spec), 0)
+          << power;
+      auto& out = power == 0 ? expected : dst;
+      ASSERT_EQ(qvpiWarpPerspectiveLinear_8u_C1R(src.data(), src.step(), out.data(), out.step(), {0, 0}, kTarget, spec,
+                                                 buffer.data()),
+                0);
+      for (int y = 0; power != 0 && y < kTarget.height; ++y) {
+        for (int x = 0; x < kTarget.width; ++x) ASSERT_EQ(dst(x, y), expected(x, y)) << power << ' ' << x << ',' << y;
+      }
+    }
+  }
 }
 
 TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
