@@ -2,11 +2,13 @@
 #include "base/export.h"
 #include "geometry/sampler.h"
 
-namespace qvp {
+namespace qvp::remap {
 namespace {
 
+using namespace sampling;
+
 template <class T>
-struct RemapCall {
+struct Call {
   using Map = WorkOf<T>;
 
   Image<const T> src;
@@ -19,7 +21,7 @@ struct RemapCall {
 };
 
 template <class T>
-QvpStatus CheckRemap(const RemapCall<T>& call, int method) {
+QvpStatus Check(const Call<T>& call, int method) {
   if (!call.src.data || !call.dst.data || !call.x.data || !call.y.data) return qvpStatusNullPointer;
   const QvpiRect roi = call.roi;
   if (call.srcSize.width < 1 || call.srcSize.height < 1) return qvpStatusSize;
@@ -46,31 +48,22 @@ int MethodFor(QvpiSize size, int method) {
   return shortest == 1 ? qvpInterpolationNearest : method;
 }
 
-constexpr int TapsOf(int method) {
-  return method == qvpInterpolationNearest   ? 1
-         : method == qvpInterpolationLinear  ? 2
-         : method == qvpInterpolationLanczos ? 6
-                                             : 4;
-}
-
 // Points of the region have a value. Linear interpolation keeps to its pixels; the larger methods read around it.
 template <class T>
-SampleTask<T> TaskOf(const RemapCall<T>& call, int method) {
+Task<T> TaskOf(const Call<T>& call, int method) {
   const QvpiRect roi = call.roi;
-  const ptrdiff_t left = roi.x, top = roi.y;
-  const ptrdiff_t right = left + std::min(roi.width, call.srcSize.width - roi.x);
-  const ptrdiff_t bottom = top + std::min(roi.height, call.srcSize.height - roi.y);
-  SampleTask<T> task{call.src, {{0, call.srcSize.width}, {0, call.srcSize.height}}, {}, 0, 0, false, {}};
-  SampleArea& area = task.area;
-  if (method == qvpInterpolationNearest || method == qvpInterpolationLinear) {
-    area.columns = {left, right};
-    area.rows = {top, bottom};
+  const Extent columns{roi.x, ptrdiff_t{roi.x} + std::min(roi.width, call.srcSize.width - roi.x)};
+  const Extent rows{roi.y, ptrdiff_t{roi.y} + std::min(roi.height, call.srcSize.height - roi.y)};
+  Task<T> task{call.src, {{0, call.srcSize.width}, {0, call.srcSize.height}},
+               {},       {0, method == qvpInterpolationCubicClassic ? 0.75 : 0.5},
+               false,    {}};
+  if (TapsOf(method) <= 2) {
+    task.area.columns = columns;
+    task.area.rows = rows;
   }
-  area.isBounded = true;
-  area.isSmooth = call.interpolation < 0;
-  area.left = static_cast<double>(left), area.right = static_cast<double>(right - 1);
-  area.top = static_cast<double>(top), area.bottom = static_cast<double>(bottom - 1);
-  task.c = method == qvpInterpolationCubicClassic ? 0.75 : 0.5;
+  task.area.isBounded = true;
+  task.area.isSmooth = call.interpolation < 0;
+  task.area.SetBounds(columns, rows);
   task.SetInterior(TapsOf(method));
   return task;
 }
@@ -84,14 +77,14 @@ void Stage(const Map* from, ptrdiff_t n, Map* to) {
 
 // Where the rows that follow take their pixels, told by one of their points.
 template <class T>
-void FetchAhead(SampleTask<T>& task, const RemapCall<T>& call, ptrdiff_t y) {
+void FetchAhead(Task<T>& task, const Call<T>& call, ptrdiff_t y) {
   const ptrdiff_t x = call.size.width / 2, below = std::min<ptrdiff_t>(y + kRowsAhead, call.size.height - 1);
-  const auto way = [&](const auto& map) { return NumberAt(map.Row(below) + x) - NumberAt(map.Row(y) + x); };
-  task.FetchAhead(way(call.x), way(call.y));
+  const auto change = [&](const auto& map) { return NumberAt(map.Row(below) + x) - NumberAt(map.Row(y) + x); };
+  task.FetchAhead(change(call.x), change(call.y));
 }
 
 template <int kTaps, class T>
-void RemapRows(SampleTask<T>& task, const RemapCall<T>& call) {
+void RemapRows(Task<T>& task, const Call<T>& call) {
   using Map = WorkOf<T>;
   const int channels = Channels(call.dst.layout);
   Map u[kBlock], v[kBlock];
@@ -111,35 +104,35 @@ void RemapRows(SampleTask<T>& task, const RemapCall<T>& call) {
 }
 
 template <class T>
-QvpStatus Remap(const RemapCall<T>& call) {
+QvpStatus Remap(const Call<T>& call) {
   const int asked = call.interpolation & INT32_MAX;
-  if (const QvpStatus failed = CheckRemap(call, asked)) return failed;
+  if (const QvpStatus failed = Check(call, asked)) return failed;
   const int method = MethodFor(call.srcSize, asked);
-  SampleTask<T> task = TaskOf(call, method);
-  switch (method) {
-    case qvpInterpolationNearest: RemapRows<1>(task, call); break;
-    case qvpInterpolationLinear: RemapRows<2>(task, call); break;
-    case qvpInterpolationLanczos: RemapRows<6>(task, call); break;
+  Task<T> task = TaskOf(call, method);
+  switch (TapsOf(method)) {
+    case 1: RemapRows<1>(task, call); break;
+    case 2: RemapRows<2>(task, call); break;
+    case 6: RemapRows<6>(task, call); break;
     default: RemapRows<4>(task, call); break;
   }
   return qvpStatusNoError;
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::remap
 
 using namespace qvp;
+using namespace qvp::remap;
 
 #define REMAP(type, mapType, layout)                                                                                   \
   QvpStatus qvpiRemap_##type##_##layout##R(                                                                            \
       const Qvp##type* pSrc, QvpiSize srcSize, int srcStep, QvpiRect srcRoi, const Qvp##mapType* pxMap, int xMapStep,  \
       const Qvp##mapType* pyMap, int yMapStep, Qvp##type* pDst, int dstStep, QvpiSize dstRoiSize, int interpolation) { \
-    return Remap(RemapCall<Qvp##type>{View(pSrc, srcStep, Layout::k##layout), srcSize, srcRoi,                         \
-                                      View(pxMap, xMapStep, Layout::kC1), View(pyMap, yMapStep, Layout::kC1),          \
-                                      View(pDst, dstStep, Layout::k##layout), dstRoiSize, interpolation});             \
+    return Remap(Call<Qvp##type>{View(pSrc, srcStep, Layout::k##layout), srcSize, srcRoi,                              \
+                                 View(pxMap, xMapStep, Layout::kC1), View(pyMap, yMapStep, Layout::kC1),               \
+                                 View(pDst, dstStep, Layout::k##layout), dstRoiSize, interpolation});                  \
   }
-#define REMAP_LAYOUTS(type, mapType) \
-  REMAP(type, mapType, C1) REMAP(type, mapType, C3) REMAP(type, mapType, C4) REMAP(type, mapType, AC4)
+#define REMAP_LAYOUTS(type, mapType) QVP_EACH_LAYOUT(REMAP, type, mapType)
 REMAP_LAYOUTS(8u, 32f)
 REMAP_LAYOUTS(16u, 32f)
 REMAP_LAYOUTS(16s, 32f)

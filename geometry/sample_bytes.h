@@ -3,10 +3,11 @@
 // it is rounded to a whole number.
 #pragma once
 
+#include "base/gather.h"
 #include "base/pack.h"
-#include "geometry/sample_pixels.h"
+#include "geometry/sample_task.h"
 
-namespace qvp {
+namespace qvp::sampling {
 
 using Words = hn::ScalableTag<int16_t>;
 inline constexpr int kByteBits = 7;  // a byte in its lane
@@ -77,8 +78,7 @@ HWY_INLINE V Sorted(V bytes) {
   return InOrder<4>(hn::TableLookupBytes(bytes, hn::LoadDup128(d, kColumns)));
 }
 
-inline void BlendSingleBytes(const SampleTask<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n,
-                             uint8_t* dst) {
+inline void BlendSingleBytes(const Task<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n, uint8_t* dst) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<int32_t>());
   const uint8_t* src = task.src.data;
   const ptrdiff_t step = task.src.step;
@@ -151,7 +151,7 @@ HWY_INLINE void StoreBlocks(V v, uint8_t* to) {
 }
 
 template <int kChannels>
-void BlendSeveralBytes(const SampleTask<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n, uint8_t* dst) {
+void BlendSeveralBytes(const Task<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n, uint8_t* dst) {
   constexpr ptrdiff_t kPoints = hn::MaxLanes(FourLanes());
   const uint8_t* src = task.src.data;
   const ptrdiff_t step = task.src.step;
@@ -163,7 +163,7 @@ void BlendSeveralBytes(const SampleTask<uint8_t>& task, const Places<int32_t>& p
 }
 
 template <int kChannels>
-void BlendBytes(const SampleTask<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n, uint8_t* dst) {
+void BlendBytes(const Task<uint8_t>& task, const Places<int32_t>& places, ptrdiff_t n, uint8_t* dst) {
   if constexpr (kChannels == 1) {
     BlendSingleBytes(task, places, n, dst);
   } else {
@@ -171,4 +171,4 @@ void BlendBytes(const SampleTask<uint8_t>& task, const Places<int32_t>& places, 
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::sampling

@@ -2,87 +2,11 @@
 // otherwise.
 #pragma once
 
-#include "geometry/resize_kernels.h"
-#include "geometry/sample_pixels.h"
+#include "base/gather.h"
+#include "base/map.h"
+#include "geometry/sample_task.h"
 
-namespace qvp {
-
-// ---- Weights
-
-// A cubic's weights are polynomials of the fraction. Mitchell, Netravali: Reconstruction filters in computer graphics
-// (1988), expanded for the distances f + 1, f, 1 - f and 2 - f.
-struct CubicPolynomials {
-  double of[4][4];  // coefficients of 1, f, f^2, f^3
-
-  CubicPolynomials(double b, double c)
-      : of{{b / 6, -b / 2 - c, b / 2 + 2 * c, -b / 6 - c},
-           {1 - b / 3, 0, -3 + 2 * b + c, 2 - 1.5 * b - c},
-           {b / 6, b / 2 + c, 3 - 2.5 * b - 2 * c, -2 + 1.5 * b + c},
-           {0, 0, -c, b / 6 + c}} {}
-};
-
-// The weights of points from the one before their first tap's position on: w[k] = weight of tap k.
-template <int kTaps, class W>
-class Weigher;
-
-template <class W>
-class Weigher<2, W> {
- public:
-  template <class T>
-  explicit Weigher(const SampleTask<T>&) {}
-
-  template <class D>
-  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
-    w[0] = hn::Sub(hn::Set(d, W{1}), f);
-    w[1] = f;
-  }
-};
-
-template <class W>
-class Weigher<4, W> {
- public:
-  template <class T>
-  explicit Weigher(const SampleTask<T>& task) {
-    const CubicPolynomials cubic(task.b, task.c);
-    for (int k = 0; k < 16; ++k) p_[k / 4][k % 4] = static_cast<W>(cubic.of[k / 4][k % 4]);
-  }
-
-  template <class D>
-  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
-    for (int k = 0; k < 4; ++k) {
-      w[k] = hn::Set(d, p_[k][3]);
-      for (int power = 2; power >= 0; --power) w[k] = hn::Add(hn::Mul(w[k], f), hn::Set(d, p_[k][power]));
-    }
-  }
-
- private:
-  W p_[4][4];
-};
-
-// Lanczos of three lobes, divided by the sum of the weights.
-template <class W>
-class Weigher<6, W> {
- public:
-  template <class T>
-  explicit Weigher(const SampleTask<T>&) {}
-
-  template <class D>
-  HWY_INLINE void operator()(D d, hn::Vec<D> f, hn::Vec<D>* w) const {
-    HWY_ALIGN W fractions[hn::MaxLanes(D())], weights[6][hn::MaxLanes(D())];
-    hn::Store(f, d, fractions);
-    for (size_t i = 0; i < hn::Lanes(d); ++i) WeighOne(static_cast<double>(fractions[i]), weights, i);
-    for (int k = 0; k < 6; ++k) w[k] = hn::Load(d, weights[k]);
-  }
-
- private:
-  template <size_t kLanes>
-  static void WeighOne(double f, W (*to)[kLanes], size_t i) {
-    const ResizeKernel kernel{qvpInterpolationLanczos, 0, 0, 3};
-    double weights[6], sum = 0;
-    for (int k = 0; k < 6; ++k) sum += weights[k] = kernel.At(k < 3 ? f + (2 - k) : (k - 2) - f);
-    for (int k = 0; k < 6; ++k) to[k][i] = static_cast<W>(weights[k] / sum);
-  }
-};
+namespace qvp::sampling {
 
 // ---- Lanes are points
 
@@ -175,13 +99,13 @@ HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<k
 
 // Pixels of n points.
 template <int kTaps, int kChannels, class T>
-void BlendPoints(const SampleTask<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* dst) {
+void BlendPoints(const Task<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t n, T* dst) {
   using D = hn::ScalableTag<WorkOf<T>>;
   constexpr int kLanes = hn::MaxLanes(D()), kParts = kChannels == 1 ? kVectorsAtOnce<T, WorkOf<T>> : 1;
   const D d;
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
-  const Weigher<kTaps, WorkOf<T>> weigh(task);
+  const Weigher<kTaps, WorkOf<T>> weigh(task.cubic);
   MakePixels<kLanes * kParts, 0, kChannels>(task, n, dst, [&](ptrdiff_t i, T* to) HWY_ATTR {
     if constexpr (kChannels == 1) {
       const auto part = [&](ptrdiff_t k) HWY_ATTR {
@@ -248,12 +172,12 @@ HWY_INLINE FourChannels<W> SumOfTaps(const uint8_t* first, ptrdiff_t step, int c
 
 // As BlendPoints.
 template <int kTaps, int kChannels, class T, class W>
-void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n, T* dst) {
+void BlendPixels(const Task<T>& task, const Places<W>& places, ptrdiff_t n, T* dst) {
   constexpr int kStride = 16;
   const hn::ScalableTag<W> d;
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   const ptrdiff_t step = task.src.step;
-  const Weigher<kTaps, W> weigh(task);
+  const Weigher<kTaps, W> weigh(task.cubic);
   const auto weighAlong = [&](const W* fraction, W(*to)[kStride]) HWY_ATTR {
     hn::Vec<hn::ScalableTag<W>> w[kTaps];
     for (ptrdiff_t i = 0; i < kStride; i += hn::Lanes(d)) {
@@ -276,4 +200,4 @@ void BlendPixels(const SampleTask<T>& task, const Places<W>& places, ptrdiff_t n
   });
 }
 
-}  // namespace qvp
+}  // namespace qvp::sampling

@@ -5,13 +5,14 @@
 
 #include "geometry/sample_bytes.h"
 #include "geometry/sample_floats.h"
+#include "geometry/sample_places.h"
 
-namespace qvp {
+namespace qvp::sampling {
 
 // ---- Nearest
 
 template <int kChannels, class T>
-void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T* dst) {
+void MovePixels(const Task<T>& task, const int32_t* offset, ptrdiff_t n, T* dst) {
   const auto* src = reinterpret_cast<const uint8_t*>(task.src.data);
   if (ProcessedChannels(task.src.layout) < kChannels) {
     for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(dst + i * kChannels, src + offset[i], (kChannels - 1) * sizeof(T));
@@ -27,14 +28,14 @@ void MovePixels(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n, T
 // Fetches what the same columns need some rows below. A line of the cache holds the taps of several points that are
 // close together, and those of a few rows.
 template <int kPixelBytes, class T>
-void Fetch(const SampleTask<T>& task, const int32_t* offset, ptrdiff_t n) {
+void Fetch(const Task<T>& task, const int32_t* offset, ptrdiff_t n) {
   if (task.ahead == 0) return;
   const auto* base = reinterpret_cast<const uint8_t*>(task.src.data) + task.ahead;
   for (ptrdiff_t i = 0; i < n; i += std::max(4, 16 / kPixelBytes)) hwy::Prefetch(base + offset[i]);
 }
 
 template <int kTaps, int kChannels, class T, class Points>
-void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
+void SampleChannelsInside(const Task<T>& task, const Points& points, ptrdiff_t n, T* dst) {
   constexpr int kPixelBytes = kChannels * int{sizeof(T)};
   const auto step = static_cast<int32_t>(task.src.step);
   Places<FractionOf<kTaps, T>> places;
@@ -47,7 +48,7 @@ void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdi
   } else {
     Place<kTaps, kPixelBytes>(points, n, step, places);
     Fetch<kPixelBytes>(task, places.offset + places.first, n);
-    constexpr bool kAreWords = kTaps <= 4 && (kChannels == 1 || sizeof(T) == 1);
+    constexpr bool kAreWords = kChannels == 1 || (kTaps <= 4 && sizeof(T) == 1);
     if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
       BlendBytes<kChannels>(task, places, n, dst);
     } else if constexpr (kAreWords) {
@@ -60,7 +61,7 @@ void SampleChannelsInside(const SampleTask<T>& task, const Points& points, ptrdi
 
 // Values at n interior points, up to kBlock, to as many pixels.
 template <int kTaps, class T, class Points>
-void SampleInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, T* dst) {
+void SampleInside(const Task<T>& task, const Points& points, ptrdiff_t n, T* dst) {
   switch (Channels(task.src.layout)) {
     case 1: return SampleChannelsInside<kTaps, 1>(task, points, n, dst);
     case 3: return SampleChannelsInside<kTaps, 3>(task, points, n, dst);
@@ -68,4 +69,4 @@ void SampleInside(const SampleTask<T>& task, const Points& points, ptrdiff_t n, 
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::sampling

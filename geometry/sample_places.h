@@ -1,12 +1,9 @@
 // Where the taps of points lie, and between which fractions of a pixel: the first step of every interior block.
 #pragma once
 
-#include <type_traits>
-
-#include "base/map.h"
 #include "geometry/sample_task.h"
 
-namespace qvp {
+namespace qvp::sampling {
 
 // Points whose coordinates are in memory, with room for whole vectors; those behind the last one repeat it.
 template <class C>
@@ -29,19 +26,11 @@ struct PointArray {
 
 // ---- Pixels and fractions
 
-// Fractions are numbers, of the precision of the weights, or whole units of 2^-15: a position is rounded to units of
-// 2^-26, and these down to 2^-15.
-inline constexpr int kFractionBits = 15, kUnitBits = 26;
-inline constexpr double kUnits = 1 << kUnitBits;
-
 template <class V>
 HWY_INLINE V FractionOfUnits(V units) {
   const hn::DFromV<V> ints;
   return hn::And(hn::ShiftRight<kUnitBits - kFractionBits>(units), hn::Set(ints, (1 << kFractionBits) - 1));
 }
-
-template <class F>
-constexpr bool kIsWhole = std::is_integral_v<F>;
 
 // Fractions of F in as many lanes as D has, and the type that positions with such fractions are computed in.
 template <class F>
@@ -53,10 +42,6 @@ struct Split {
   hn::Vec<hn::Rebind<int32_t, D>> pixel;
   hn::Vec<hn::Rebind<F, D>> fraction;
 };
-
-// Numbers of this size have no fraction: adding it rounds to the nearest, ties to even, and shows the result in the low
-// 32 bits.
-inline constexpr double kToWhole = 6755399441055744.0;  // 1.5 * 2^52
 
 // The pixel, in the low half of each lane, and the fraction of a double.
 template <int kTaps>
@@ -77,8 +62,8 @@ HWY_INLINE hn::Vec<hn::ScalableTag<int64_t>> SplitDouble(hn::Vec<hn::ScalableTag
   }
 }
 
-// The nearest whole number to a double, below 2^51.
-HWY_INLINE hn::Vec<hn::ScalableTag<uint64_t>> NearestWhole(hn::Vec<hn::ScalableTag<double>> x) {
+// The nearest whole number to a double, below 2^51, as an integer.
+HWY_INLINE hn::Vec<hn::ScalableTag<uint64_t>> NearestWholes(hn::Vec<hn::ScalableTag<double>> x) {
   const hn::ScalableTag<double> d;
   const hn::ScalableTag<uint64_t> bits;
   const auto big = hn::Set(d, kToWhole);
@@ -96,7 +81,7 @@ HWY_INLINE Split<F, D> SplitDoubles(D d, hn::Vec<hn::ScalableTag<double>> lower,
   Split<F, D> split;
   if constexpr (kIsWhole<F> && kTaps > 1) {
     const auto units = hn::Set(hn::ScalableTag<double>(), kUnits);
-    const auto low = NearestWhole(hn::Mul(lower, units)), high = NearestWhole(hn::Mul(upper, units));
+    const auto low = NearestWholes(hn::Mul(lower, units)), high = NearestWholes(hn::Mul(upper, units));
     split.pixel = lowWords(hn::ShiftRight<kUnitBits>(low), hn::ShiftRight<kUnitBits>(high));
     split.fraction = FractionOfUnits(lowWords(low, high));
   } else {
@@ -133,25 +118,6 @@ HWY_INLINE Split<F, D> SplitSame(D d, hn::Vec<D> x) {
   }
   return split;
 }
-
-// Points that are placed at once, for results that fill a vector of bytes.
-inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
-
-// Where the points of a block have their first taps, in bytes, and their fractions. The first point is at `first`.
-template <class F>
-struct Places {
-  ptrdiff_t first = 0;
-  int32_t offset[kBlock + kWhole];
-  F x[kBlock + kWhole], y[kBlock + kWhole];
-
-  // Repeats the last of n points up to a multiple of kWhole.
-  void Fill(ptrdiff_t n) {
-    for (ptrdiff_t i = n; i % kWhole != 0; ++i) {
-      offset[first + i] = offset[first + n - 1];
-      x[first + i] = y[first + i] = 0;
-    }
-  }
-};
 
 template <int kTaps, class F, class D, class Points>
 HWY_INLINE void SplitPoints(D d, const Points& points, ptrdiff_t i, Split<F, D>& column, Split<F, D>& row) {
@@ -193,4 +159,4 @@ void Place(const Points& points, ptrdiff_t n, int32_t step, Places<F>& places) {
   if constexpr (kTaps > 1) places.Fill(n);
 }
 
-}  // namespace qvp
+}  // namespace qvp::sampling

@@ -1,27 +1,42 @@
-// What a sampling call is about: the pixels that can be read, and which points between them have a value.
+// What a sampling call is about: the pixels that can be read, which points between them have a value, and where the
+// taps of a block of points lie.
 #pragma once
 
 #include <algorithm>
+#include <cstring>
+#include <type_traits>
 
 #include "base/border.h"
 #include "base/image.h"
 #include "base/lanes.h"
+#include "geometry/sample_weights.h"
 
-namespace qvp {
+namespace qvp::sampling {
 
-// Points come in blocks of up to kBlock.
-inline constexpr int kBlock = 256;
+// Taps along an axis of a method that remap and the warps know.
+constexpr int TapsOf(int interpolation) {
+  switch (interpolation) {
+    case qvpInterpolationNearest: return 1;
+    case qvpInterpolationLinear: return 2;
+    case qvpInterpolationLanczos: return 6;
+    default: return 4;
+  }
+}
 
-// Points up to whole vectors of any build.
-constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
+// ---- What has a value
 
 // What can be read, and which points have a value.
-struct SampleArea {
+struct Area {
   Extent columns, rows;
   BorderKind kind = BorderKind::kReplicate;  // or kConst: what stands for pixels elsewhere
   bool isBounded = false;                    // points beyond the bounds are left alone ...
   bool isSmooth = false;                     // ... but blended in on one pixel around them
   double left = 0, top = 0, right = 0, bottom = 0;
+
+  void SetBounds(Extent x, Extent y) {
+    left = static_cast<double>(x.begin), right = static_cast<double>(x.end - 1);
+    top = static_cast<double>(y.begin), bottom = static_cast<double>(y.end - 1);
+  }
 };
 
 // Numbers from `low` to `high`, both included; empty if `high` is the lower one.
@@ -62,12 +77,16 @@ inline Interval InteriorOf(Extent extent, int taps, int further, bool isBounded,
   return {static_cast<double>(first) - kPointsBefore(taps), static_cast<double>(last) + 0.5 - kPointsBefore(taps) / 2};
 }
 
+// Weights, and sums of weighted pixels, are single precision unless pixels are double.
 template <class T>
-struct SampleTask {
+using WorkOf = std::conditional_t<std::is_same_v<T, double>, double, float>;
+
+template <class T>
+struct Task {
   Image<const T> src;
-  SampleArea area;
+  Area area;
   T constant[4] = {};
-  double b = 0, c = 0;   // of the cubic
+  CubicPolynomials<WorkOf<T>> cubic;
   bool isShift = false;  // nearest only: points are whole and one apart, so that pixels move in runs
   PointBox interior;     // points that need no test
   ptrdiff_t ahead = 0;   // bytes from a point's taps to those to fetch
@@ -87,6 +106,9 @@ struct SampleTask {
     return size <= kLargestOffset && size * reach + across * src.PixelBytes() <= kLargestOffset;
   }
 
+  // Finds the interior for a method. It is empty where offsets are too long.
+  void SetInterior(int taps) { interior = HasShortOffsets() ? InnerBox(taps) : PointBox{}; }
+
   // A row of the destination crosses many rows of the source, too many for a CPU to foresee. The rows that follow cross
   // them in about the same way, at points this far away.
   void FetchAhead(double columns, double rows) {
@@ -96,20 +118,73 @@ struct SampleTask {
         isNear ? int64_t{src.step} * static_cast<int>(rows) + src.PixelBytes() * static_cast<int>(columns) : 0;
     ahead = static_cast<ptrdiff_t>(bytes);
   }
-
-  // Finds the interior for a method. It is empty where offsets are too long.
-  void SetInterior(int taps) { interior = HasShortOffsets() ? InnerBox(taps) : PointBox{}; }
 };
 
 // How many rows of the destination are worked on before what is fetched for them.
 inline constexpr int kRowsAhead = 4;
 
-// Weights, and sums of weighted pixels, are single precision unless pixels are double.
-template <class T>
-using WorkOf = std::conditional_t<std::is_same_v<T, double>, double, float>;
+// ---- Blocks of points
+
+// Numbers of this size have no fraction: adding it rounds to the nearest, ties to even, and shows the result in the low
+// 32 bits.
+inline constexpr double kToWhole = 6755399441055744.0;  // 1.5 * 2^52
+inline double NearestWhole(double x) { return (x + kToWhole) - kToWhole; }
+
+// Points come in blocks of up to kBlock.
+inline constexpr int kBlock = 256;
+
+// Points up to whole vectors of any build.
+constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
 
 // Linear interpolation of bytes is done in integers.
 template <int kTaps, class T>
 using FractionOf = std::conditional_t<kTaps == 2 && std::is_same_v<T, uint8_t>, int32_t, WorkOf<T>>;
 
-}  // namespace qvp
+// Fractions are numbers, of the precision of the weights, or whole units of 2^-15: a position is rounded to units of
+// 2^-26, and these down to 2^-15.
+inline constexpr int kFractionBits = 15, kUnitBits = 26;
+inline constexpr double kUnits = 1 << kUnitBits;
+
+template <class F>
+constexpr bool kIsWhole = std::is_integral_v<F>;
+
+// Points that are placed at once, for results that fill a vector of bytes.
+inline constexpr ptrdiff_t kWhole = std::max<ptrdiff_t>(hn::MaxLanes(hn::ScalableTag<uint8_t>()), 16);
+
+// Where the points of a block have their first taps, in bytes, and their fractions. The first point is at `first`.
+template <class F>
+struct Places {
+  ptrdiff_t first = 0;
+  int32_t offset[kBlock + kWhole];
+  F x[kBlock + kWhole], y[kBlock + kWhole];
+
+  // Repeats the last of n points up to a multiple of kWhole.
+  void Fill(ptrdiff_t n) {
+    for (ptrdiff_t i = n; i % kWhole != 0; ++i) {
+      offset[first + i] = offset[first + n - 1];
+      x[first + i] = y[first + i] = 0;
+    }
+  }
+};
+
+// Makes the pixels of n points by strides: make(i, to) writes those of kStride points from the i-th on, and elements of
+// kOver pixels behind them. What a stride has too much, and channels that stay, are kept off the destination.
+template <int kStride, int kOver, int kChannels, class T, class Make>
+void MakePixels(const Task<T>& task, ptrdiff_t n, T* dst, const Make& make) {
+  const int written = ProcessedChannels(task.src.layout);
+  ptrdiff_t i = 0;
+  for (; written == kChannels && i + kStride + kOver <= n; i += kStride) make(i, dst + i * kChannels);
+  for (; i < n; i += kStride) {
+    T out[kStride * kChannels + 4];
+    make(i, out);
+    const ptrdiff_t rest = std::min<ptrdiff_t>(n - i, kStride);
+    T* to = dst + i * kChannels;
+    if (written == kChannels) {
+      std::memcpy(to, out, rest * kChannels * sizeof(T));
+      continue;
+    }
+    for (ptrdiff_t j = 0; j < rest; ++j) std::memcpy(to + j * kChannels, out + j * kChannels, written * sizeof(T));
+  }
+}
+
+}  // namespace qvp::sampling

@@ -1,23 +1,24 @@
 // Affine points in fixed point, for interpolation in single precision.
 #pragma once
 
+#include "geometry/sample_places.h"
 #include "geometry/warp_points.h"
 
-namespace qvp {
+namespace qvp::warp {
 
 // Every kAnchorColumns-th column of the whole destination is an anchor: its point is computed in double precision and
-// rounded to 2^-26 pixel, of which 31 bits hold the way to the columns behind it, rounded alike. A point is wrong by
+// rounded to 2^-26 pixel, and 31 bits hold the offsets of the columns behind it, rounded alike. A point is wrong by
 // 2^-26 pixel, half of what a weight is rounded by.
 inline constexpr int kAnchorColumns = 8;
 
-// The ways of the columns from their anchor, for as many columns as the longest vector has lanes.
+// The offsets of the columns from their anchor, for as many columns as the longest vector has lanes.
 class AnchorSteps {
  public:
   static constexpr int kColumns = 2 * kAnchorColumns;
 
-  explicit AnchorSteps(const WarpRecord& record) {
+  explicit AnchorSteps(const Record& record) {
     const double au = record.c[0][0], av = record.c[1][0];
-    isShort_ = Line::Size(au) <= kSteepest && Line::Size(av) <= kSteepest;
+    isShort_ = std::fabs(au) <= kSteepest && std::fabs(av) <= kSteepest;
     for (int i = 0; isShort_ && i < kColumns; ++i) {
       u[i] = Rounded(au * (i % kAnchorColumns));
       v[i] = Rounded(av * (i % kAnchorColumns));
@@ -33,7 +34,7 @@ class AnchorSteps {
 
  private:
   static constexpr double kSteepest = 4;
-  static int32_t Rounded(double x) { return static_cast<int32_t>((x * kUnits + kToWhole) - kToWhole); }
+  static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kUnits)); }
 
   bool isShort_;
 };
@@ -87,9 +88,9 @@ struct AnchoredPoints {
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
     HWY_ALIGN double xs[hn::MaxLanes(D())], ys[hn::MaxLanes(D())];
     for (size_t k = 0; k < hn::Lanes(d); ++k) {
-      const ptrdiff_t at = column + i + static_cast<ptrdiff_t>(k), way = at % kAnchorColumns;
-      xs[k] = At(u, at - way, steps->u[way]);
-      ys[k] = At(v, at - way, steps->v[way]);
+      const ptrdiff_t at = column + i + static_cast<ptrdiff_t>(k), place = at % kAnchorColumns;
+      xs[k] = At(u, at - place, steps->u[place]);
+      ys[k] = At(v, at - place, steps->v[place]);
     }
     x = hn::Load(d, xs);
     y = hn::Load(d, ys);
@@ -113,15 +114,15 @@ struct AnchoredPoints {
   }
 
  private:
-  static double At(const Line& line, ptrdiff_t anchor, int32_t way) {
-    return ((line.At(static_cast<double>(anchor)) + kToWhole) - kToWhole + way) / kUnits;
+  static double At(const Line& line, ptrdiff_t anchor, int32_t offset) {
+    return (NearestWhole(line.At(static_cast<double>(anchor))) + offset) / kUnits;
   }
 
   // Stores the fractions of anchors, and gives their whole pixels.
   template <class D>
   HWY_INLINE static hn::Vec<hn::Rebind<uint64_t, D>> Split(D d, const Line& line, hn::Vec<D> x, int64_t* fraction) {
     const hn::Rebind<uint64_t, D> bits;
-    const auto units = NearestWhole(line.At(d, x));
+    const auto units = NearestWholes(line.At(d, x));
     const hn::Rebind<int64_t, D> words;
     hn::StoreU(hn::BitCast(words, hn::And(units, hn::Set(bits, (1 << kUnitBits) - 1))), words, fraction);
     return hn::ShiftRight<kUnitBits>(units);
@@ -140,7 +141,7 @@ HWY_INLINE auto FractionIn(V units) {
   }
 }
 
-// Places n points, and repeats the last one up to a multiple of kWhole.
+// Places n points, and repeats the last one up to a multiple of kWhole. Takes the place of the general way.
 template <int kTaps, int kPixelBytes, class F>
 void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<F>& places) {
   const hn::ScalableTag<int32_t> d;
@@ -165,4 +166,4 @@ void Place(const AnchoredPoints& points, ptrdiff_t n, int32_t step, Places<F>& p
   places.Fill(n);
 }
 
-}  // namespace qvp
+}  // namespace qvp::warp

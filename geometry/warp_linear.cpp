@@ -3,5 +3,6 @@
 #include "geometry/warp_call.h"
 
 using namespace qvp;
+using namespace qvp::warp;
 
-QVP_WARP(Linear, 2)
+QVP_WARP_TYPES(Linear)

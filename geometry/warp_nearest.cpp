@@ -3,5 +3,6 @@
 #include "geometry/warp_call.h"
 
 using namespace qvp;
+using namespace qvp::warp;
 
-QVP_WARP(Nearest, 1)
+QVP_WARP_TYPES(Nearest)

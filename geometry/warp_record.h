@@ -4,19 +4,19 @@
 #include "base/image.h"
 #include "base/record.h"
 
-namespace qvp {
+namespace qvp::warp {
 
 // Which functions made a record and may use it: those with 32-bit sizes or the `_L` ones. The value is the record's
 // first word.
-enum class WarpForm : uint32_t { kPlain = 0x4B617394, kWide = 0x4B617395 };
+enum class Form : uint32_t { kPlain = 0x4B617394, kWide = 0x4B617395 };
 
-enum class WarpKind : int32_t { kAffine, kPerspective };
+enum class Kind : int32_t { kAffine, kPerspective };
 
-inline constexpr int64_t kWarpRecordBytes = 512, kLongestWarp = 0x1FFFFFF;
+inline constexpr int64_t kRecordBytes = 512, kLongestSide = 0x1FFFFFF;
 
-struct WarpRecord {
+struct Record {
   uint32_t tag;
-  WarpKind kind;
+  Kind kind;
   QvpiInterpolationType interpolation;
   QvpDataType type;
   int32_t channels;
@@ -28,16 +28,16 @@ struct WarpRecord {
   double c[3][3];
   double quad[4][2];  // of the source in the destination, moved into it
   double borderValue[4];
-  double b, c2;  // of the cubic: B and C
+  double cubicB, cubicC;
 };
-static_assert(sizeof(WarpRecord) <= kWarpRecordBytes);
+static_assert(sizeof(Record) <= kRecordBytes);
 
-inline const WarpRecord* RecordOf(const QvpiWarpSpec* spec) {
-  return reinterpret_cast<const WarpRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(spec)));
+inline const Record* RecordOf(const QvpiWarpSpec* spec) {
+  return reinterpret_cast<const Record*>(AtBoundary(reinterpret_cast<const uint8_t*>(spec)));
 }
-inline WarpRecord* RecordOf(QvpiWarpSpec* spec) {
-  return reinterpret_cast<WarpRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(spec)));
+inline Record* RecordOf(QvpiWarpSpec* spec) {
+  return reinterpret_cast<Record*>(AtBoundary(reinterpret_cast<uint8_t*>(spec)));
 }
-inline bool IsOf(WarpForm form, const WarpRecord* record) { return record->tag == static_cast<uint32_t>(form); }
+inline bool IsOf(Form form, const Record* record) { return record->tag == static_cast<uint32_t>(form); }
 
-}  // namespace qvp
+}  // namespace qvp::warp

@@ -1,112 +1,11 @@
-// Quadrangles, bounds and transforms.
-#include "geometry/quad.h"
-
+// Quadrangles, bounds and transforms for the coefficients of warps.
 #include <algorithm>
-#include <span>
+#include <cmath>
 
 #include "base/export.h"
+#include "geometry/quadrangle.h"
 
-namespace qvp {
-
-namespace {
-
-constexpr double kRelative = 1e-10;
-
-bool IsNumber(double x) { return x - x == 0; }
-double Magnitude(double x) { return x < 0 ? -x : x; }
-double SquareRoot(double x) { return __builtin_sqrt(x < 0 ? 0 : x); }
-double Length(Vertex e) { return SquareRoot(e.x * e.x + e.y * e.y); }
-Vertex Edge(const Quad4& q, int i) {
-  const Vertex a = q.at[i], b = q.at[(i + 1) % 4];
-  return {b.x - a.x, b.y - a.y};
-}
-
-}  // namespace
-
-QuadShape ShapeOf(const Quad4& quad) {
-  int left = 0;
-  for (int i = 0; i < 4; ++i) {
-    const Vertex a = Edge(quad, i), b = Edge(quad, (i + 1) % 4);
-    const double cross = a.x * b.y - a.y * b.x;
-    if (!(Magnitude(cross) > kRelative * Length(a) * Length(b)) || !IsNumber(cross)) return QuadShape::kDegenerate;
-    left += cross < 0;
-  }
-  return left == 0 || left == 4 ? QuadShape::kConvex : QuadShape::kNotConvex;
-}
-
-bool Projection::IsFinite() const { return std::all_of(&c[0][0], &c[0][0] + 9, IsNumber); }
-
-// The determinant is compared with the largest of its six products: a factor of the matrix does not matter.
-bool Projection::IsSingular() const {
-  double sum = 0, largest = 0;
-  for (int i = 0; i < 3; ++i) {
-    const int j = (i + 1) % 3, k = (i + 2) % 3;
-    const double plus = c[0][i] * c[1][j] * c[2][k], minus = c[0][i] * c[1][k] * c[2][j];
-    sum += plus - minus;
-    largest = std::max(largest, std::max(Magnitude(plus), Magnitude(minus)));
-  }
-  return !(Magnitude(sum) > kRelative * largest);
-}
-
-Projection Projection::Inverse() const {
-  Projection inverse;
-  for (int i = 0; i < 3; ++i) {
-    const int i1 = (i + 1) % 3, i2 = (i + 2) % 3;
-    for (int j = 0; j < 3; ++j) {
-      const int j1 = (j + 1) % 3, j2 = (j + 2) % 3;
-      inverse.c[j][i] = c[i1][j1] * c[i2][j2] - c[i1][j2] * c[i2][j1];
-    }
-  }
-  return inverse;
-}
-
-Projection Projection::Times(const Projection& other) const {
-  Projection product;
-  for (int i = 0; i < 3; ++i) {
-    for (int j = 0; j < 3; ++j) {
-      product.c[i][j] = c[i][0] * other.c[0][j] + c[i][1] * other.c[1][j] + c[i][2] * other.c[2][j];
-    }
-  }
-  return product;
-}
-
-void Projection::Normalize() {
-  const double last = c[2][2];
-  if (last == 0) return;
-  for (auto& row : c) {
-    for (double& value : row) value /= last;
-  }
-}
-
-void Projection::Scale() {
-  double largest = 0;
-  for (const auto& row : c) {
-    for (const double value : row) largest = std::max(largest, Magnitude(value));
-  }
-  if (!(largest > 0) || !IsFinite()) return;
-  const auto scaleBy = [&](double factor) {
-    largest *= factor;
-    for (double& value : std::span(&c[0][0], 9)) value *= factor;
-  };
-  for (const double factor : {0x1p512, 0x1p256, 0x1p128, 0x1p64, 0x1p32, 0x1p16, 0x1p8, 0x1p4, 0x1p2, 0x1p1}) {
-    while (largest >= factor) scaleBy(1 / factor);
-    while (largest < 1 / factor) scaleBy(factor);
-  }
-}
-
-// Heckbert: Fundamentals of texture mapping and image warping (1989).
-Projection SquareTo(const Quad4& quad) {
-  const Vertex a = quad.at[0], b = quad.at[1], c = quad.at[2], d = quad.at[3];
-  const double sx = a.x - b.x + c.x - d.x, sy = a.y - b.y + c.y - d.y;
-  const double bx = b.x - c.x, by = b.y - c.y, dx = d.x - c.x, dy = d.y - c.y;
-  const double det = bx * dy - dx * by;
-  const double g = (sx * dy - dx * sy) / det, h = (bx * sy - sx * by) / det;
-  return {
-      {{b.x - a.x + g * b.x, d.x - a.x + h * d.x, a.x}, {b.y - a.y + g * b.y, d.y - a.y + h * d.y, a.y}, {g, h, 1}}};
-}
-
-Projection Between(const Quad4& from, const Quad4& to) { return SquareTo(to).Times(SquareTo(from).Inverse()); }
-
+namespace qvp::warp {
 namespace {
 
 struct Affine {
@@ -131,20 +30,20 @@ struct Bilinear {
   }
 };
 
-Quad4 CornersOf(QvpiRect r) {
+Quadrangle CornersOf(QvpiRect r) {
   const double left = r.x, top = r.y;
   return {left, top, left + r.width - 1, top + r.height - 1};
 }
 
 template <class Map>
-QvpStatus MapCorners(QvpiRect roi, const Map& map, Quad4& quad) {
+QvpStatus MapCorners(QvpiRect roi, const Map& map, Quadrangle& quad) {
   if (map.c == nullptr) return qvpStatusNullPointer;
   if (roi.x < 0 || roi.y < 0 || roi.width < 1 || roi.height < 1) return qvpStatusSize;
   quad = CornersOf(roi);
   for (Vertex& p : quad.at) p = map(p);
-  const QuadShape shape = ShapeOf(quad);
-  if (shape == QuadShape::kDegenerate) return qvpStatusCoefficient;
-  return shape == QuadShape::kConvex ? qvpStatusNoError : qvpStatusQuad;
+  const Shape shape = ShapeOf(quad);
+  if (shape == Shape::kDegenerate) return qvpStatusCoefficient;
+  return shape == Shape::kConvex ? qvpStatusNoError : qvpStatusQuad;
 }
 
 // A degenerate result is told, and yet written.
@@ -153,7 +52,7 @@ bool IsWritten(QvpStatus status) { return status == qvpStatusNoError || status =
 template <class Map>
 QvpStatus GetQuad(QvpiRect roi, double (*corners)[2], const Map& map) {
   if (corners == nullptr) return qvpStatusNullPointer;
-  Quad4 quad;
+  Quadrangle quad;
   const QvpStatus status = MapCorners(roi, map, quad);
   if (IsWritten(status)) quad.CopyTo(corners);
   return status;
@@ -162,7 +61,7 @@ QvpStatus GetQuad(QvpiRect roi, double (*corners)[2], const Map& map) {
 template <class Map>
 QvpStatus GetBound(QvpiRect roi, double (*bound)[2], const Map& map) {
   if (bound == nullptr) return qvpStatusNullPointer;
-  Quad4 quad;
+  Quadrangle quad;
   const QvpStatus status = MapCorners(roi, map, quad);
   if (!IsWritten(status)) return status;
   Vertex low = quad.at[0], high = quad.at[0];
@@ -183,9 +82,9 @@ QvpStatus CheckTransform(QvpiRect roi, const double (*quad)[2], const void* coef
 
 QvpStatus GetAffineTransform(QvpiRect roi, const double (*corners)[2], double (*coeffs)[3]) {
   if (const QvpStatus failed = CheckTransform(roi, corners, coeffs)) return failed;
-  Quad4 quad(corners);  // the corner opposite to the first one follows from the others
+  Quadrangle quad(corners);  // the corner opposite to the first one follows from the others
   quad.at[2] = {quad.at[1].x + quad.at[3].x - quad.at[0].x, quad.at[1].y + quad.at[3].y - quad.at[0].y};
-  if (ShapeOf(quad) == QuadShape::kDegenerate) return qvpStatusCoefficient;
+  if (ShapeOf(quad) == Shape::kDegenerate) return qvpStatusCoefficient;
   const Vertex origin = quad.at[0];
   const double width = roi.width - 1.0, height = roi.height - 1.0;
   const double across[] = {(quad.at[1].x - origin.x) / width, (quad.at[1].y - origin.y) / width};
@@ -201,8 +100,8 @@ QvpStatus GetAffineTransform(QvpiRect roi, const double (*corners)[2], double (*
 
 QvpStatus GetPerspectiveTransform(QvpiRect roi, const double (*corners)[2], double (*coeffs)[3]) {
   if (const QvpStatus failed = CheckTransform(roi, corners, coeffs)) return failed;
-  const Quad4 quad(corners);
-  if (ShapeOf(quad) != QuadShape::kConvex) return qvpStatusQuad;
+  const Quadrangle quad(corners);
+  if (ShapeOf(quad) != Shape::kConvex) return qvpStatusQuad;
   Projection projection = Between(CornersOf(roi), quad);
   projection.Normalize();
   for (int i = 0; i < 3; ++i) std::copy(projection.c[i], projection.c[i] + 3, coeffs[i]);
@@ -211,7 +110,7 @@ QvpStatus GetPerspectiveTransform(QvpiRect roi, const double (*corners)[2], doub
 
 QvpStatus GetBilinearTransform(QvpiRect roi, const double (*q)[2], double (*coeffs)[4]) {
   if (const QvpStatus failed = CheckTransform(roi, q, coeffs)) return failed;
-  if (ShapeOf(Quad4(q)) != QuadShape::kConvex) return qvpStatusQuad;
+  if (ShapeOf(Quadrangle(q)) != Shape::kConvex) return qvpStatusQuad;
   const double width = roi.width - 1.0, height = roi.height - 1.0, x = roi.x, y = roi.y;
   double c[2][4];
   for (int i = 0; i < 2; ++i) {
@@ -226,7 +125,7 @@ QvpStatus GetBilinearTransform(QvpiRect roi, const double (*q)[2], double (*coef
   return qvpStatusNoError;
 }
 
-struct Turn {
+struct Rotation {
   double cosine, sine;
 };
 
@@ -239,7 +138,7 @@ double Remainder(double x, double modulus) {
 }
 
 // By the power series on half a right angle. Whole right angles are exact.
-Turn SmallTurn(double degrees) {
+Rotation SmallRotation(double degrees) {
   const double x = degrees * (3.14159265358979323846 / 180), square = x * x;
   double sine = 0, cosine = 0;
   for (int k = 20; k > 0; k -= 2) {
@@ -248,37 +147,37 @@ Turn SmallTurn(double degrees) {
   }
   return {1 - cosine, x * (1 - sine)};
 }
-Turn TurnBy(double degrees) {
-  const double angle = Remainder(Magnitude(degrees), 360);
+Rotation RotationBy(double degrees) {
+  const double angle = Remainder(std::fabs(degrees), 360);
   const int quarter = (static_cast<int>(angle / 45) + 1) / 2;  // the nearest one
-  const Turn t = SmallTurn(angle - 90.0 * quarter);
-  const double cosines[] = {t.cosine, -t.sine, -t.cosine, t.sine};
+  const Rotation r = SmallRotation(angle - 90.0 * quarter);
+  const double cosines[] = {r.cosine, -r.sine, -r.cosine, r.sine};
   const double sine = cosines[(quarter + 3) % 4];
   return {cosines[quarter % 4], degrees < 0 ? -sine : sine};
 }
 
 QvpStatus GetRotateShift(double x, double y, double angle, double* shiftX, double* shiftY) {
   if (shiftX == nullptr || shiftY == nullptr) return qvpStatusNullPointer;
-  if (!IsNumber(x) || !IsNumber(y) || !IsNumber(angle)) return qvpStatusCoefficient;
-  const Turn turn = TurnBy(angle);
-  *shiftX = (1 - turn.cosine) * x - turn.sine * y;
-  *shiftY = turn.sine * x + (1 - turn.cosine) * y;
+  if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(angle)) return qvpStatusCoefficient;
+  const Rotation rotation = RotationBy(angle);
+  *shiftX = (1 - rotation.cosine) * x - rotation.sine * y;
+  *shiftY = rotation.sine * x + (1 - rotation.cosine) * y;
   return qvpStatusNoError;
 }
 
 QvpStatus GetRotateTransform(double angle, double shiftX, double shiftY, double (*coeffs)[3]) {
   if (coeffs == nullptr) return qvpStatusNullPointer;
-  if (!IsNumber(angle) || !IsNumber(shiftX) || !IsNumber(shiftY)) return qvpStatusCoefficient;
-  const Turn turn = TurnBy(angle);
-  const double matrix[2][3] = {{turn.cosine, turn.sine, shiftX}, {-turn.sine, turn.cosine, shiftY}};
+  if (!std::isfinite(angle) || !std::isfinite(shiftX) || !std::isfinite(shiftY)) return qvpStatusCoefficient;
+  const Rotation rotation = RotationBy(angle);
+  const double matrix[2][3] = {{rotation.cosine, rotation.sine, shiftX}, {-rotation.sine, rotation.cosine, shiftY}};
   for (int i = 0; i < 2; ++i) std::copy(matrix[i], matrix[i] + 3, coeffs[i]);
   return qvpStatusNoError;
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::warp
 
-using namespace qvp;
+using namespace qvp::warp;
 
 #define QUERIES(Kind, columns, rows)                                                                           \
   QvpStatus qvpiGet##Kind##Quad(QvpiRect srcRoi, double quad[4][2], const double coeffs[rows][columns]) {      \

@@ -3,22 +3,22 @@
 
 #include "qvptypes.h"
 
-namespace qvp {
+namespace qvp::warp {
 
 struct Vertex {
   double x, y;
 };
 
 // Four corners, clockwise from the top left one.
-struct Quad4 {
+struct Quadrangle {
   Vertex at[4];
 
-  Quad4() = default;
-  explicit Quad4(const double (*corners)[2]) {
+  Quadrangle() = default;
+  explicit Quadrangle(const double (*corners)[2]) {
     for (int i = 0; i < 4; ++i) at[i] = {corners[i][0], corners[i][1]};
   }
   // The centres of the corner pixels.
-  Quad4(double left, double top, double right, double bottom)
+  Quadrangle(double left, double top, double right, double bottom)
       : at{{left, top}, {right, top}, {right, bottom}, {left, bottom}} {}
 
   void CopyTo(double (*corners)[2]) const {
@@ -26,10 +26,10 @@ struct Quad4 {
   }
 };
 
-enum class QuadShape { kConvex, kNotConvex, kDegenerate };
+enum class Shape { kConvex, kNotConvex, kDegenerate };
 
 // By the cross products of edges that follow each other, relative to their lengths. What is no number is degenerate.
-QuadShape ShapeOf(const Quad4& quad);
+Shape ShapeOf(const Quadrangle& quad);
 
 // A 3x3 matrix for points in homogeneous coordinates.
 struct Projection {
@@ -48,9 +48,9 @@ struct Projection {
 };
 
 // The projection of the square (0, 0), (1, 0), (1, 1), (0, 1) to a convex quadrangle.
-Projection SquareTo(const Quad4& quad);
+Projection SquareTo(const Quadrangle& quad);
 
 // The projection that takes the corners of one convex quadrangle to those of another.
-Projection Between(const Quad4& from, const Quad4& to);
+Projection Between(const Quadrangle& from, const Quadrangle& to);
 
-}  // namespace qvp
+}  // namespace qvp::warp

@@ -1,0 +1,42 @@
+// Words at scattered addresses, collected in vectors.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "base/simd.h"
+
+namespace qvp {
+
+// The 32-bit words at byte offsets from any address. Beyond one block, gathering is quicker than single loads.
+template <class D>
+HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<D> offset) {
+  if constexpr (hn::MaxLanes(D()) * sizeof(int32_t) > kBlockBytes) {
+    return hn::GatherOffset(d, reinterpret_cast<const int32_t*>(base), offset);
+  } else {
+    const hn::CappedTag<int32_t, 1> one;
+    const hn::Half<D> half;
+    const auto at = [&](int i) HWY_ATTR {
+      return hn::LoadU(one, reinterpret_cast<const int32_t*>(base + hn::ExtractLane(offset, i)));
+    };
+    return hn::Combine(d, hn::Combine(half, at(3), at(2)), hn::Combine(half, at(1), at(0)));
+  }
+}
+
+// The 64-bit words at every kStride-th offset. Of these, single loads are quicker on every CPU.
+template <int kStride, class D>
+HWY_INLINE hn::Vec<D> LoadWords(D d, const uint8_t* base, const int32_t* offset) {
+  if constexpr (hn::MaxLanes(D()) == 1) {
+    return hn::LoadU(d, reinterpret_cast<const double*>(base + *offset));
+  } else {
+    const hn::Half<D> half;
+    const auto lower = LoadWords<kStride>(half, base, offset);
+    return hn::Combine(d, LoadWords<kStride>(half, base, offset + hn::MaxLanes(half) * kStride), lower);
+  }
+}
+template <int kStride>
+HWY_INLINE hn::Vec<hn::ScalableTag<double>> LoadWords(const uint8_t* base, const int32_t* offset) {
+  return LoadWords<kStride>(hn::ScalableTag<double>(), base, offset);
+}
+
+}  // namespace qvp

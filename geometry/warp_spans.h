@@ -1,0 +1,73 @@
+// Which columns of a row take something from the image, and which need no test.
+#pragma once
+
+#include "geometry/warp_points.h"
+
+namespace qvp::warp {
+
+// The first of columns [0, n) with a property that all columns behind it have too, or n. A close guess saves the
+// search.
+template <class Property>
+ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
+  const auto near = static_cast<ptrdiff_t>(guess >= 0 ? std::min(guess, static_cast<double>(n - 1)) : 0);
+  Span open{0, n};
+  const auto probe = [&](ptrdiff_t x) {
+    if (x < open.first || x >= open.end) return;
+    if (has(x)) open.end = x;
+    if (open.end != x) open.first = x + 1;
+  };
+  for (const ptrdiff_t x : {near + 1, near}) probe(x);
+  while (open.first < open.end) probe(open.first + (open.end - open.first) / 2);
+  return open.first;
+}
+
+// The columns of n, counted from column `x`, whose coordinates lie in the interval. The line is finite there.
+inline Span SpanOf(const Line& line, const Interval& interval, double x, ptrdiff_t n) {
+  const bool isRising = line.a >= 0;
+  const double enter = isRising ? interval.low : interval.high, leave = isRising ? interval.high : interval.low;
+  const auto guess = [&](double value) { return (value - line.b - line.c) / line.a - x; };
+  const auto at = [&](ptrdiff_t i) { return line.At(x + static_cast<double>(i)); };
+  const ptrdiff_t first =
+      FirstWith(n, guess(enter), [&](ptrdiff_t i) { return isRising ? at(i) >= enter : at(i) <= enter; });
+  const ptrdiff_t end =
+      FirstWith(n, guess(leave), [&](ptrdiff_t i) { return isRising ? at(i) > leave : at(i) < leave; });
+  return {first, std::max(first, end)};
+}
+
+inline Span SpanOf(const AffinePoints& points, const PointBox& box, ptrdiff_t n) {
+  const Span a = SpanOf(points.u, box.u, points.columns.first, n), b = SpanOf(points.v, box.v, points.columns.first, n);
+  const ptrdiff_t first = std::max(a.first, b.first);
+  return {first, std::max(first, std::min(a.end, b.end))};
+}
+
+// The columns that need not be tested, among those that may take something from the image.
+struct Spans {
+  Span touching, inside;
+};
+
+// The points of which some tap lies in the extent, or that are within the bounds.
+inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low, double high) {
+  if (area.isBounded) return {low - area.isSmooth, high + area.isSmooth};
+  const double before = kTapsBefore(taps) - kPointsBefore(taps);
+  return {static_cast<double>(extent.begin) - taps + 1 + before, static_cast<double>(extent.end) + before};
+}
+
+template <int kTaps, class T>
+Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& points, ptrdiff_t n) {
+  const Area& area = task.area;
+  const double begin = points.columns.first, last = begin + static_cast<double>(n - 1);
+  const double ends = (points.u.At(begin) + points.v.At(begin)) + (points.u.At(last) + points.v.At(last));
+  Spans spans{{0, n}, {n, n}};
+  if (!(ends - ends == 0)) return spans;
+  if (area.isBounded || area.kind == BorderKind::kConst) {
+    spans.touching = SpanOf(points,
+                            {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+                             TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
+                            n);
+  }
+  const Span inside = SpanOf(points, inner, n);
+  spans.inside = inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};
+  return spans;
+}
+
+}  // namespace qvp::warp
