@@ -9,8 +9,8 @@
 #include "core/copy.h"
 #include "geometry/transpose.h"
 
+namespace qvp::mirror {
 namespace {
-using namespace qvp;
 
 using Wide = hn::ScalableTag<uint8_t>;
 using Block = hn::Full128<uint8_t>;
@@ -104,12 +104,12 @@ void ReverseRows(const ConstBytes& src, const Bytes& dst, Size roi) {
   for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRow(reversal, dst, src.Row(y) + n, dst.Row(y), n);
 }
 
-// Two pieces of rows change places, one of them being held back in a buffer; both are reversed if asked.
-class Exchange {
+// Swaps two pieces of rows, one of them being held back in a buffer; both are reversed if asked.
+class Swap {
  public:
   static constexpr ptrdiff_t kMostPixels = 256;
 
-  Exchange(const Bytes& image, bool reverses)
+  Swap(const Bytes& image, bool reverses)
       : image_(image),
         buffer_{pixels_, 0, image.layout == Layout::kAC4 ? Layout::kC4 : image.layout, image.elementBytes},
         reversal_(image),
@@ -136,31 +136,31 @@ class Exchange {
   bool reverses_;
 };
 
-void ReverseRowInPlace(const Exchange& exchange, const Bytes& image, uint8_t* row, ptrdiff_t width) {
+void ReverseRowInPlace(const Swap& swap, const Bytes& image, uint8_t* row, ptrdiff_t width) {
   const int bytes = image.PixelBytes();
-  for (ptrdiff_t left = 0, half = width / 2; left < half; left += Exchange::kMostPixels) {
-    const ptrdiff_t n = std::min(Exchange::kMostPixels, half - left);
-    exchange(row + left * bytes, row + (width - left - n) * bytes, n);
+  for (ptrdiff_t left = 0, half = width / 2; left < half; left += Swap::kMostPixels) {
+    const ptrdiff_t n = std::min(Swap::kMostPixels, half - left);
+    swap(row + left * bytes, row + (width - left - n) * bytes, n);
   }
 }
 
 void ReverseRowsInPlace(const Bytes& image, Size roi) {
-  const Exchange exchange(image, true);
-  for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRowInPlace(exchange, image, image.Row(y), roi.width);
+  const Swap swap(image, true);
+  for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRowInPlace(swap, image, image.Row(y), roi.width);
 }
 
-// Row y and row H - 1 - y change places, with or without a reversal of both.
-void ExchangeRows(const Bytes& image, Size roi, bool reverses) {
-  const Exchange exchange(image, reverses);
+// Swaps row y and row H - 1 - y, with or without a reversal of both.
+void SwapRows(const Bytes& image, Size roi, bool reverses) {
+  const Swap swap(image, reverses);
   const int bytes = image.PixelBytes();
   for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
     uint8_t *const upper = image.Row(y), *const lower = image.Row(roi.height - 1 - y);
-    for (ptrdiff_t x = 0; x < roi.width; x += Exchange::kMostPixels) {
-      const ptrdiff_t n = std::min(Exchange::kMostPixels, roi.width - x);
-      exchange(upper + x * bytes, lower + (reverses ? roi.width - x - n : x) * bytes, n);
+    for (ptrdiff_t x = 0; x < roi.width; x += Swap::kMostPixels) {
+      const ptrdiff_t n = std::min(Swap::kMostPixels, roi.width - x);
+      swap(upper + x * bytes, lower + (reverses ? roi.width - x - n : x) * bytes, n);
     }
   }
-  if (reverses && roi.height % 2 != 0) ReverseRowInPlace(exchange, image, image.Row(roi.height / 2), roi.width);
+  if (reverses && roi.height % 2 != 0) ReverseRowInPlace(swap, image, image.Row(roi.height / 2), roi.width);
 }
 
 bool IsDiagonal(QvpiAxis flip) { return flip == qvpAxis45 || flip == qvpAxis135; }
@@ -169,13 +169,13 @@ QvpStatus MirrorInPlace(const Bytes& image, Size roi, QvpiAxis flip) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {image})) return failed;
   if (IsDiagonal(flip) && roi.width != roi.height) return qvpStatusSize;
   switch (flip) {
-    case qvpAxisHorizontal: ExchangeRows(image, roi, false); break;
+    case qvpAxisHorizontal: SwapRows(image, roi, false); break;
     case qvpAxisVertical: ReverseRowsInPlace(image, roi); break;
-    case qvpAxisBoth: ExchangeRows(image, roi, true); break;
-    case qvpAxis45: TransposeInPlace(image, roi.width); break;
+    case qvpAxisBoth: SwapRows(image, roi, true); break;
+    case qvpAxis45: transpose::TransposeInPlace(image, roi.width); break;
     case qvpAxis135:
-      ExchangeRows(image, roi, true);
-      TransposeInPlace(image, roi.width);
+      SwapRows(image, roi, true);
+      transpose::TransposeInPlace(image, roi.width);
       break;
     default: return qvpStatusMirrorFlip;
   }
@@ -210,9 +210,9 @@ QvpStatus MirrorDiagonal(const ConstBytes& src, const Bytes& dst, Size roi, Qvpi
   const Size turned(roi.height, roi.width);
   if (Overlap(src, roi, Constant(dst), turned)) return qvpStatusNotSupportedMode;
   if (flip == qvpAxis45) {
-    TransposePixels(src, dst, roi);
+    transpose::TransposePixels(src, dst, roi);
   } else {
-    TransposePixels(Upended(src, roi.height), Upended(dst, turned.height), roi);
+    transpose::TransposePixels(Upended(src, roi.height), Upended(dst, turned.height), roi);
   }
   return qvpStatusNoError;
 }
@@ -237,6 +237,10 @@ QvpStatus Mirror(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis fli
 }
 
 }  // namespace
+}  // namespace qvp::mirror
+
+using namespace qvp;
+using namespace qvp::mirror;
 
 #define MIRROR(type, layout)                                                                                        \
   QvpStatus qvpiMirror_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,       \

@@ -10,8 +10,8 @@
 #include "core/channels.h"
 #include "core/copy.h"
 
+namespace qvp::transpose {
 namespace {
-using namespace qvp;
 
 using Wide = hn::ScalableTag<uint8_t>;
 using Block = hn::Full128<uint8_t>;
@@ -40,7 +40,7 @@ HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* from, ptrdiff_t stride) {
 
 // In each block, lane j of vector i becomes lane i of vector j. Every round interleaves the two halves of the vectors.
 template <class D, int kSide>
-HWY_INLINE void Turn(D d, hn::Vec<D> (&v)[kSide]) {
+HWY_INLINE void TransposeLanes(D d, hn::Vec<D> (&v)[kSide]) {
   for (int round = 1; round < kSide; round *= 2) {
     hn::Vec<D> next[kSide];
     for (int i = 0; i < kSide / 2; ++i) {
@@ -83,7 +83,7 @@ struct Tile {
       if constexpr (U::kIsSpread) bytes = hn::TableLookupBytesOr0(bytes, hn::LoadDup128(d, spread));
       v[i] = hn::BitCast(lanes, bytes);
     }
-    if constexpr (kColumns > 1) Turn(lanes, v);
+    if constexpr (kColumns > 1) TransposeLanes(lanes, v);
     for (ptrdiff_t i = 0; i < kColumns; ++i) Put(d, hn::BitCast(d, v[i]), dst + i * dstStep);
   }
 
@@ -206,7 +206,7 @@ void TransposeAnySize(const ConstBytes& src, const Bytes& dst, Size size) {
 
 }  // namespace
 
-void qvp::TransposePixels(const ConstBytes& src, const Bytes& dst, Size size) {
+void TransposePixels(const ConstBytes& src, const Bytes& dst, Size size) {
   switch (dst.PixelBytes()) {
     case 1: return TransposeAnySize<1>(src, dst, size);
     case 2: return TransposeAnySize<2>(src, dst, size);
@@ -220,7 +220,7 @@ void qvp::TransposePixels(const ConstBytes& src, const Bytes& dst, Size size) {
 }
 
 // Blocks on both sides of the diagonal change places; a block on it does so with itself.
-void qvp::TransposeInPlace(const Bytes& image, ptrdiff_t side) {
+void TransposeInPlace(const Bytes& image, ptrdiff_t side) {
   constexpr ptrdiff_t kPart = 32;
   alignas(kStreamedLine) uint8_t pixels[kPart * kPart * 16];
   const int bytes = image.PixelBytes();
@@ -262,6 +262,10 @@ QvpStatus TransposeChecked(const ConstBytes& src, const Bytes& dst, Size size) {
 }
 
 }  // namespace
+}  // namespace qvp::transpose
+
+using namespace qvp;
+using namespace qvp::transpose;
 
 #define TRANSPOSE(type, layout)                                                                         \
   QVP_MOVE(qvpiTranspose_##type##_##layout##R, type, layout, layout, TransposeChecked)                  \

@@ -3,7 +3,7 @@
 
 #include "base/image.h"
 
-namespace qvp {
+namespace qvp::transpose {
 
 // dst(x, y) = src(y, x). `size` is that of the source. With the destination's layout AC4 the fourth channel of the
 // destination stays. The images must not overlap.
@@ -12,4 +12,4 @@ void TransposePixels(const ConstBytes& src, const Bytes& dst, Size size);
 // The same within one square image.
 void TransposeInPlace(const Bytes& image, ptrdiff_t side);
 
-}  // namespace qvp
+}  // namespace qvp::transpose

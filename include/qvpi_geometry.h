@@ -736,16 +736,16 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *  method fill it, ask for the size of the work buffer (qvpiWarpGetBufferSize()), and call the function, once for the
  *  image or once for each tile. Records and buffers may begin at any address. A record is only read by the calls, so
  *  that any number of threads may share it, each with a buffer of its own; it must not be moved or copied. Functions
- *  without `_L` take records of Inits without `_L`, and the others those with it.
+ *  without `_L` take records of Inits without `_L`, and the others those with it. Steps of the calls may be negative.
  *
  *  **Coordinates.** Pixels lie at whole coordinates: (0, 0) is the centre of the top left pixel, x goes right, y down.
  *  Coefficients map source to destination (qvpWarpForward) or destination to source (qvpWarpBackward). A record keeps
  *  the latter, a, and destination pixel (x, y) takes the value at
  *
- *      u = a00 x + a01 y + a02,  v = a10 x + a11 y + a12
+ *      u = a00 * x + a01 * y + a02,  v = a10 * x + a11 * y + a12
  *
  *  in the source, in double precision, computed for each pixel from its place in the whole destination: every tiling
- *  gives the bits of the whole. A perspective transform divides both by a20 x + a21 y + a22. Linear and cubic
+ *  gives the bits of the whole. A perspective transform divides both by a20 * x + a21 * y + a22. Linear and cubic
  *  interpolation may round u and v to 2^-26 pixel before they weigh the pixels around them (not for 64f); which pixels
  *  of the destination are written depends on the unrounded ones.
  *
@@ -758,20 +758,29 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
  *
  *  and maps source (0, 0), forward, to (-79.1, 174.8).
  *
+ *  Before C23, C does not take `double[2][3]` for `const double[2][3]`, about which strict compilers warn. A union has
+ *  the coefficients under both types, without a cast:
+ *
+ *      union { double out[2][3]; const double in[2][3]; } turn;
+ *      qvpiGetRotateTransform(10, shiftX, shiftY, turn.out);
+ *      qvpiWarpAffineLinearInit(srcSize, dstSize, qvp8u, turn.in, qvpWarpForward, ...);
+ *
  *  **Methods.** Nearest takes the pixel at floor(u + 0.5), of two equally near ones the right or lower one. Linear
  *  weighs 2x2 pixels, cubic 4x4 (Mitchell, Netravali: Reconstruction filters in computer graphics, 1988; B and C are
  *  the caller's: 0 and 0.5 pass through the pixels), with the exact fraction of u and v as a single-precision number,
  *  for 64f double: sum over rows r of wy[r] * (sum over k of wx[k] * p[r][k]), each operation rounded. Linear
  *  interpolation of 8u is done in integers: fractions are cut to 2^-15 and each step between two values is rounded to
- *  2^-7. Integers are rounded to the nearest, ties to even, and saturated. Nearest is exact. An affine transform that
- *  only moves by whole pixels copies them, whatever the method. Greatest errors against the same formula in extended
- *  precision, measured on random images that use the whole range of the type, for 32f and 64f relative to the largest
- *  pixel:
+ *  2^-7. Integers are rounded to the nearest, ties to even, and saturated. A NaN or an infinity among the pixels that
+ *  are weighed makes a result NaN even where its weight is 0. Nearest is exact. An affine transform that only moves by
+ *  whole pixels copies them, whatever the method.
+ *
+ *  Errors against the same formula in extended precision, for 32f and 64f relative to the largest pixel. That of linear
+ *  8u is a bound; the others are above the greatest that were found on random images of the type's whole range:
  *
  *  | | 8u | 16u, 16s | 32f | 64f |
  *  |---|---|---|---|---|
- *  | linear | 1, within 0.02 of a tie | 1, within 0.008 of a tie | 1.6e-7 | 2.2e-16 |
- *  | cubic | 1, within 4e-5 of a tie | 1, within 0.016 of a tie | 4.1e-7 | 1.1e-15 |
+ *  | linear | 1, within 0.024 of a tie | 1, within 0.01 of a tie | 2e-7 | 3e-16 |
+ *  | cubic | 1, within 6e-5 of a tie | 1, within 0.02 of a tie | 6e-7 | 1.2e-15 |
  *
  *  (An integer is off by 1 only where the exact value is that close to the middle of two integers.)
  *
@@ -855,12 +864,12 @@ QvpStatus qvpiWarpQuadGetSize_L(QvpiSizeL srcSize, const double srcQuad[4][2], Q
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
- *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
+ *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 * c11 and d2 = c01 * c10, |d2|
  *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
  *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSizeOverflow: a length
  *          above 33554431. qvpStatusCoefficient: the source becomes a quadrangle without area.
@@ -880,12 +889,12 @@ QvpStatus qvpiWarpAffineNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpD
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
- *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2|
+ *          coefficient is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 * c11 and d2 = c01 * c10, |d2|
  *          where |d1| <= 1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3
  *          or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
  *          1. qvpStatusSizeOverflow: a length above 33554431. qvpStatusCoefficient: the source becomes a quadrangle
@@ -907,13 +916,13 @@ QvpStatus qvpiWarpAffineLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDa
  *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a coefficient
- *          is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 c11 and d2 = c01 c10, |d2| where |d1| <=
+ *          is no finite number, or |(d1 - d2) / d1| <= 1e-10 with d1 = c00 * c11 and d2 = c01 * c10, |d2| where |d1| <=
  *          1e-200. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels: not 1, 3 or 4.
  *          qvpStatusBadArgument: B or C is not finite. qvpStatusNotSupportedMode: smoothEdge with replicate or
  *          constant. qvpStatusSize: a source length of 1. qvpStatusSizeOverflow: a length above 33554431.
@@ -935,8 +944,8 @@ QvpStatus qvpiWarpAffineCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDat
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -960,8 +969,8 @@ QvpStatus qvpiWarpPerspectiveNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize,
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusWarpDirection: another direction. qvpStatusCoefficient: a
@@ -986,8 +995,8 @@ QvpStatus qvpiWarpPerspectiveLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, 
  *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
@@ -1012,8 +1021,8 @@ QvpStatus qvpiWarpPerspectiveCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Q
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
@@ -1036,8 +1045,8 @@ QvpStatus qvpiWarpQuadNearestInit_L(QvpiSizeL srcSize, const double srcQuad[4][2
  *  @param numChannels channels of a pixel
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
  *          not 8u, 16u, 16s, 32f or 64f. qvpStatusQuad: a quadrangle that is degenerate or not convex.
@@ -1061,8 +1070,8 @@ QvpStatus qvpiWarpQuadLinearInit_L(QvpiSizeL srcSize, const double srcQuad[4][2]
  *  @param valueB,valueC B and C, finite
  *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
  *  @param pBorderValue constant border: a value for each channel; else not used, may be null
- *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a =
- *         (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with
+ *         a = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
  *  @param pSpec record
  *  @param pInitBuf Init buffer
  *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
@@ -1377,7 +1386,8 @@ QvpStatus qvpiWarpPerspectiveCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcSte
 
 /** @name Warp: quadrangle of a rectangle, affine
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 * x + c01 * y + c02, c10 * x + c11 * y +
+ *  c12).
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
@@ -1417,8 +1427,8 @@ QvpStatus qvpiGetAffineTransform(QvpiRect srcRoi, const double quad[4][2], doubl
 
 /** @name Warp: quadrangle of a rectangle, perspective
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to ((c00 x + c01 y + c02) / w, (c10 x + c11 y + c12) /
- *  w), w = c20 x + c21 y + c22.
+/** Where the centres of a rectangle's corner pixels go: (x, y) to ((c00 * x + c01 * y + c02) / w, (c10 * x + c11
+ *  * y + c12) / w), w = c20 * x + c21 * y + c22.
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
@@ -1458,8 +1468,8 @@ QvpStatus qvpiGetPerspectiveTransform(QvpiRect srcRoi, const double quad[4][2], 
 
 /** @name Warp: quadrangle of a rectangle, bilinear
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x +
- *  c12 y + c13).
+/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 * x * y + c01 * x + c02 * y + c03, c10 * x
+ *  * y + c11 * x + c12 * y + c13).
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
@@ -1498,8 +1508,8 @@ QvpStatus qvpiGetBilinearTransform(QvpiRect srcRoi, const double quad[4][2], dou
 
 /** @name Warp: shift of a rotation
  *  @{ */
-/** The shift that makes a rotation by qvpiGetRotateTransform() turn about a centre: ((1 - cos) xCenter - sin yCenter,
- *  sin xCenter + (1 - cos) yCenter).
+/** The shift that makes a rotation by qvpiGetRotateTransform() turn about a centre: ((1 - cos) * xCenter - sin *
+ *  yCenter, sin * xCenter + (1 - cos) * yCenter).
  *
  *  @param xCenter,yCenter centre
  *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
@@ -1533,25 +1543,25 @@ QvpStatus qvpiGetRotateTransform(double angle, double shiftX, double shiftY, dou
  *
  *  Nearest takes the pixel at floor(x + 0.5) and floor(y + 0.5), exact for every number. Linear interpolation keeps to
  *  the pixels of the region. The cubics (B = 0, with C = 0.75 for qvpInterpolationCubicClassic and 0.5 for
- *  qvpInterpolationCubic) and Lanczos (3 lobes, weights within 1e-4 of the formula, divided by their sum) take pixels
- *  around it too, and the nearest ones of the edge where the source ends. Lanczos becomes the classic cubic where the
- *  source has a side below 6 pixels, cubics linear below 4, and all methods nearest at 1.
+ *  qvpInterpolationCubic) and Lanczos (sinc(t) * sinc(t / 3) for |t| < 3, the weights of an axis divided by their sum)
+ *  take pixels around it too, and the nearest ones of the edge where the source ends. Lanczos becomes the classic cubic
+ *  where the source has a side below 6 pixels, cubics linear below 4, and all methods nearest at 1.
  *
  *  Maps are single precision, for 64f double; weights and sums are as precise as the maps, but for linear
  *  interpolation of 8u, which is done in integers as in warps. Integers are rounded to the nearest, ties to even, and
- *  saturated. Greatest errors, measured as for qvpiWarpAffineGetSize():
+ *  saturated. A NaN or an infinity among the pixels that are weighed makes a result NaN even where its weight is 0.
+ *  Errors, stated as for qvpiWarpAffineGetSize():
  *
  *  | | 8u | 16u, 16s | 32f | 64f |
  *  |---|---|---|---|---|
- *  | linear | 1, within 0.02 of a tie | 1, within 0.008 of a tie | 1.2e-7 | 2.2e-16 |
- *  | cubics | 1, within 2e-5 of a tie | 1, within 0.015 of a tie | 3.5e-7 | 5.1e-16 |
- *  | Lanczos | 1, within 0.02 of a tie | 6 | 1.8e-4 | 1.8e-4 |
+ *  | linear | 1, within 0.024 of a tie | 1, within 0.008 of a tie | 1.5e-7 | 3e-16 |
+ *  | cubics, Lanczos | 1, within 5e-5 of a tie | 1, within 0.02 of a tie | 6e-7 | 1e-15 |
  *
  *  Not in place. AC4 leaves the fourth channel alone.
  *
- *  With qvpSmoothEdge added to the method a point up to one pixel outside the region, dx across and dy down, gives a * S
- *  + (1 - a) * old with a = (1 - dx) * (1 - dy), the value S at the edge of the region, not rounded, and the old pixel;
- *  the sum is rounded once.
+ *  With qvpSmoothEdge added to the method a point up to one pixel outside the region, dx across and dy down, gives
+ *  a * S + (1 - a) * old with a = (1 - dx) * (1 - dy), the value S at the edge of the region, not rounded, and the old
+ *  pixel; the sum is rounded once.
  *
  *  @param pSrc,srcStep the whole source, at its first pixel
  *  @param srcSize size of the whole source
@@ -1599,14 +1609,16 @@ QvpStatus qvpiRemap_64f_AC4R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, 
  *    135         dst(x, y) = src(W - 1 - y, H - 1 - x)
  *  @endcode
  *
- *  For the axes 45 and 135 the destination is H wide and W high. AC4 keeps the alpha of the destination. With the
- *  first three axes the source may be the destination, with the same step: the call then works in place.
+ *  For the axes 45 and 135 the destination is H wide and W high. AC4 keeps the alpha of the destination, in place that
+ *  of each pixel's place. With the first three axes the source may be the destination, with the same step: the call
+ *  then works in place. Steps may be negative with the first three axes, and in place with all.
  *
- *  @param pSrc,srcStep source image; with the axes up to both, of any step, also a negative one
+ *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
- *  @param roiSize size of the source in pixels
+ *  @param pSrcDst,srcDstStep the image, in place
+ *  @param roiSize size of the source in pixels; in place for the axes 45 and 135 a square
  *  @param flip the axis
- *  @return, in the order of the checks, for the axes 45 and 135:
+ *  @return, in the order of the checks, for the axes 45 and 135, not in place:
  *  - qvpStatusNullPointer: an image is null
  *  - qvpStatusStep: a step is below 1
  *  - qvpStatusSize: a side of the region is below 1
@@ -1615,7 +1627,7 @@ QvpStatus qvpiRemap_64f_AC4R(const Qvp64f* pSrc, QvpiSize srcSize, int srcStep, 
  *
  *  For all others:
  *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusSize: a side of the region is below 1, or the region is not a square where it has to be
  *  - qvpStatusMirrorFlip: an unknown axis
  *  - qvpStatusNoError: otherwise
  */
@@ -1639,21 +1651,6 @@ QvpStatus qvpiMirror_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int 
 QvpStatus qvpiMirror_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiAxis flip);
 QvpStatus qvpiMirror_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiAxis flip);
 QvpStatus qvpiMirror_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiAxis flip);
-/** @} */
-
-/** @name Mirror in place
- *  @{ */
-/** Mirrors an image about an axis in place, bits only, as qvpiMirror does. AC4 keeps the alpha of each pixel's place.
- *
- *  @param pSrcDst,srcDstStep the image
- *  @param roiSize its size in pixels; for the axes 45 and 135 a square
- *  @param flip the axis
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the image is null
- *  - qvpStatusSize: a side of the region is below 1, or the region is not a square where it has to be
- *  - qvpStatusMirrorFlip: an unknown axis
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiMirror_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip);
 QvpStatus qvpiMirror_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip);
 QvpStatus qvpiMirror_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip);
@@ -1680,15 +1677,16 @@ QvpStatus qvpiMirror_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize
  *  @{ */
 /** Exchanges rows and columns, bits only: dst(x, y) = src(y, x).
  *
- *  The source may be the destination, with the same step, where it is a square: the call then works in place.
+ *  The source may be the destination, with the same step, where it is a square: the call then works in place. Steps may
+ *  be negative.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image, `roiSize.height` wide and `roiSize.width` high
- *  @param roiSize size of the source in pixels
+ *  @param pSrcDst,srcDstStep the image, in place
+ *  @param roiSize size of the source in pixels; in place a square
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusSize: a side of the region is below 1, or the region is not a square and source and destination are the
- *    same
+ *  - qvpStatusSize: a side of the region is below 1, or the region is not a square in place
  *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiTranspose_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
@@ -1707,19 +1705,6 @@ QvpStatus qvpiTranspose_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, i
 QvpStatus qvpiTranspose_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Transpose in place
- *  @{ */
-/** Exchanges rows and columns of a square image in place, bits only.
- *
- *  @param pSrcDst,srcDstStep the image
- *  @param roiSize its size in pixels
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the image is null
- *  - qvpStatusSize: a side of the region is below 1, or the region is not a square
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiTranspose_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
