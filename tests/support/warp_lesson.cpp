@@ -18,18 +18,34 @@ QvpDataType TypeOf(const Scene& scene) {
 }
 int ChannelsOf(const Scene& scene) { return Has(scene, "_C4R") ? 4 : Has(scene, "_C3R") ? 3 : 1; }
 
+// Scenes differ in size: each size has a border and a method of its own.
+struct Manner {
+  QvpiBorderType border;
+  int isSmooth, interpolation;
+};
+Manner MannerOf(const Scene& scene) {
+  const int width = scene.roi().width;
+  if (width < 32) return {qvpBorderTransparent, 1, qvpInterpolationNearest | qvpSmoothEdge};
+  if (width < 64) return {qvpBorderTransparent, 1, qvpInterpolationLinear | qvpSmoothEdge};
+  if (width < 128) return {qvpBorderConst, 0, qvpInterpolationCubicClassic | qvpSmoothEdge};
+  if (width < 512) return {qvpBorderTransparent, 0, qvpInterpolationLanczos};
+  return {qvpBorderReplicate, 0, qvpInterpolationCubic};
+}
+constexpr double kValue[4] = {7.5, 80, 200, 33};
+
 // A record for the call, made by the Init that belongs to the function's name.
 QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   const QvpiSize s = SourceSize(scene), d = scene.roi();
   const QvpiSizeL sl{s.width, s.height}, dl{d.width, d.height};
   const QvpDataType type = TypeOf(scene);
   const int channels = ChannelsOf(scene);
+  const Manner manner = MannerOf(scene);
   Qvp8u buffer[64];
 #define INIT(Kind, Method, ...)                                                                                      \
   (IsWide(scene)                                                                                                     \
        ? qvpiWarp##Kind##Method##Init_L(sl, dl, type, kMatrix, qvpWarpBackward, channels, __VA_ARGS__ spec OPTIONAL) \
        : qvpiWarp##Kind##Method##Init(s, d, type, kMatrix, qvpWarpBackward, channels, __VA_ARGS__ spec OPTIONAL))
-#define BORDER qvpBorderReplicate, nullptr, 0,
+#define BORDER manner.border, kValue, manner.isSmooth,
 #define OPTIONAL , buffer
   if (Has(scene, "AffineCubic")) return INIT(Affine, Cubic, 0, 0.5, BORDER);
   if (Has(scene, "PerspectiveCubic")) return INIT(Perspective, Cubic, 0.25, 0.5, BORDER);
@@ -99,7 +115,7 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
   else if (name == "pBorderValue")
     argument.pointer = nullptr;
   else if (name == "interpolation")
-    argument.number = qvpInterpolationCubic;
+    argument.number = Has(scene, "Remap") ? MannerOf(scene).interpolation : qvpInterpolationCubic;
   else if (name == "direction")
     argument.number = qvpWarpBackward;
   else if (name == "dataType")
