@@ -79,7 +79,9 @@ void Stage(const Map* from, ptrdiff_t n, Map* to) {
 template <class T>
 void FetchAhead(Task<T>& task, const Call<T>& call, ptrdiff_t y) {
   const ptrdiff_t x = call.size.width / 2, below = std::min<ptrdiff_t>(y + kRowsAhead, call.size.height - 1);
-  const auto change = [&](const auto& map) { return NumberAt(map.Row(below) + x) - NumberAt(map.Row(y) + x); };
+  const auto change = [&](const auto& map) {
+    return double{LoadScalar(map.Row(below) + x)} - double{LoadScalar(map.Row(y) + x)};
+  };
   task.FetchAhead(change(call.x), change(call.y));
 }
 

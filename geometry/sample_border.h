@@ -1,6 +1,7 @@
 // Values at points whose taps need a test, one by one: at the border of the image, at its smooth edge and beyond.
 #pragma once
 
+#include "base/scalar.h"
 #include "geometry/sample_bytes.h"
 #include "geometry/sample_floats.h"
 
@@ -8,16 +9,11 @@ namespace qvp::sampling {
 
 // ---- What becomes of a point
 
-inline int64_t Floor(double x) {
-  const auto whole = static_cast<int64_t>(x);
-  return static_cast<double>(whole) > x ? whole - 1 : whole;
-}
-
 // The pixel that belongs to a coordinate: the nearest one, the upper of two; or the one at or before it. x + 0.5 would
 // round 0.49999999999999994 up.
 template <int kTaps>
 int64_t PixelOf(double x) {
-  const int64_t whole = Floor(x);
+  const int64_t whole = FloorOf(x);
   return kTaps == 1 && x - static_cast<double>(whole) >= 0.5 ? whole + 1 : whole;
 }
 
@@ -101,10 +97,8 @@ T ToElement(double value) {
 template <class T, class W>
 void StoreMixed(const W* value, double share, int written, T* dst) {
   for (int c = 0; c < written; ++c) {
-    T old;
-    std::memcpy(&old, dst + c, sizeof(T));
-    const T mixed = ToElement<T>(share * static_cast<double>(value[c]) + (1 - share) * static_cast<double>(old));
-    std::memcpy(dst + c, &mixed, sizeof(T));
+    const auto old = static_cast<double>(LoadScalar(dst + c));
+    StoreScalar(dst + c, ToElement<T>(share * static_cast<double>(value[c]) + (1 - share) * old));
   }
 }
 

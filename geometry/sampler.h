@@ -38,14 +38,6 @@ void FillBeyond(const Task<T>& task, ptrdiff_t n, T* dst) {
   for (; done < all; done += std::min(done, all - done)) std::memcpy(bytes + done, bytes, std::min(done, all - done));
 }
 
-// A coordinate from any address.
-template <class C>
-double NumberAt(const C* from) {
-  C number;
-  std::memcpy(&number, from, sizeof(C));
-  return static_cast<double>(number);
-}
-
 template <class C>
 bool AreAllInside(const PointBox& box, const C* u, const C* v, ptrdiff_t n) {
   const hn::ScalableTag<C> d;
@@ -80,7 +72,8 @@ void Sample(const Task<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
     return;
   }
   for (ptrdiff_t i = 0; i < n; ++i) {
-    SamplePoint<kTaps>(task, NumberAt(u + i), NumberAt(v + i), dst + i * channels);
+    SamplePoint<kTaps>(task, static_cast<double>(LoadScalar(u + i)), static_cast<double>(LoadScalar(v + i)),
+                       dst + i * channels);
   }
 }
 
