@@ -1,55 +1,77 @@
 // The general filter: checks, the choice of a kernel, and the walk over a region.
 #include "base/check.h"
-#include "filter/border_filter_kernels.h"
+#include "filter/border_filter_pairs.h"
+#include "filter/border_filter_reals.h"
 #include "qvpi.h"
 
+namespace qvp::filter {
 namespace {
-using namespace qvp;
 
 // What a call is about, beside the record.
 template <class T>
 struct Job {
-  FilterSource<T> source;
+  BorderedImage<T> src;
   Image<T> dst;
   Size roi;
   uint8_t* buffer;
 };
 
+// Two rows of n results. Where there is only one, `lower` is the same as `upper`: kernels store the upper results last.
+// What the kernel holds is copied, as bytes that are stored might be part of it for all that the compiler can tell. The
+// last vector may overlap the one before it: results are not what is read.
+template <class Kernel, class E, class T>
+void FilterRows(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
+  constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
+  const Kernel kernel = shared;
+  if (n < kLanes) {
+    T staged[2][kLanes];
+    kernel.template Run<1>(lines, 0, staged[0], staged[1]);
+    std::memcpy(lower, staged[1], n * sizeof(T));
+    std::memcpy(upper, staged[0], n * sizeof(T));
+    return;
+  }
+  ptrdiff_t i = 0;
+  for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, upper + i, lower + i);
+  for (; i + kLanes <= n; i += kLanes) kernel.template Run<1>(lines, i, upper + i, lower + i);
+  if (i < n) kernel.template Run<1>(lines, n - kLanes, upper + n - kLanes, lower + n - kLanes);
+}
+
 // Columns of a region that are filtered down its rows, two at a time.
 template <class Kernel, class T>
-class Columns {
+class ColumnFilter {
  public:
-  Columns(const FilterRecord& record, const Job<T>& job, Extent columns)
+  ColumnFilter(const FilterRecord& record, const Job<T>& job, Extent columns)
       : job_(job),
-        first_(columns.begin * job.source.channels),
-        samples_((columns.end - columns.begin) * job.source.channels),
-        window_(record, job.source, {columns.begin, columns.end - columns.begin}, job.roi.height) {}
+        first_(columns.begin * job.src.channels()),
+        samples_((columns.end - columns.begin) * job.src.channels()),
+        window_(job.src, {columns.begin - record.reach().left, columns.end + record.reach().right},
+                samples_ >= Form::kLanes, -record.reach().above,
+                static_cast<int>(Form::kRows == 2 ? record.PairsOfRows() : record.height + 1)) {}
 
   int64_t Bytes() const { return window_.Bytes(); }
   uint8_t* Start(uint8_t* memory) { return window_.Start(memory); }
 
   void Filter(const Kernel& kernel, ptrdiff_t y) {
-    if (y > 0) window_.Advance();
+    if (y > 0) window_.Advance(2 / Form::kRows);
     const ptrdiff_t next = std::min(y + 1, job_.roi.height - 1);
     FilterRows(kernel, window_.lines(), samples_, job_.dst.Row(y) + first_, job_.dst.Row(next) + first_);
   }
 
  private:
+  using Form = typename Kernel::Form;
+
   const Job<T>& job_;
   ptrdiff_t first_, samples_;
-  FilterWindow<typename Kernel::Form, T> window_;
+  RowWindow<Form, T> window_;
 };
 
 template <class Kernel, class T>
 void FilterBlocks(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
-  const FilterWork work(record.width, record.height, job.source.channels, job.roi.width);
-  const int64_t width = job.roi.width, blocks = (width + work.columns() - 1) / work.columns();
-  for (int64_t b = 0; b < blocks; ++b) {
-    Columns<Kernel, T> columns(
-        record, job, {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)});
-    columns.Start(AtBoundary(job.buffer));
-    for (ptrdiff_t y = 0; y < job.roi.height; y += 2) columns.Filter(kernel, y);
-  }
+  PlanFor(record.size(), job.src.channels(), job.roi.width).ForEachBlock([&](Extent columns) {
+    ColumnFilter<Kernel, T> block(record, job, columns);
+    block.Start(AtBoundary(job.buffer));
+    for (ptrdiff_t y = 0; y < job.roi.height; y += 2) block.Filter(kernel, y);
+  });
 }
 
 // Rows that need no conversion are read in place but for the columns that reach the border. False if their lines would
@@ -57,14 +79,14 @@ void FilterBlocks(const FilterRecord& record, const Job<T>& job, const Kernel& k
 template <class Kernel, class T>
 bool FilterInPlace(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
   constexpr int64_t kCacheBytes = 1 << 19;
-  const int channels = job.source.channels;
+  const int channels = job.src.channels();
   const ptrdiff_t width = job.roi.width, edge = std::max<ptrdiff_t>(Kernel::kLanes, record.width);
   const int64_t lineBytes = int64_t{width} * channels * int64_t{sizeof(T)};
   if (width < 4 * edge || lineBytes > kCacheBytes / (record.height + 1)) return false;
-  Columns<Kernel, T> left(record, job, {0, edge}), middle(record, job, {edge, width - edge}),
+  ColumnFilter<Kernel, T> left(record, job, {0, edge}), middle(record, job, {edge, width - edge}),
       right(record, job, {width - edge, width});
-  const FilterWork work(record.width, record.height, channels, width);
-  if (left.Bytes() + middle.Bytes() + right.Bytes() + kRecordBoundary > work.Total().value()) return false;
+  const int64_t bytes = left.Bytes() + middle.Bytes() + right.Bytes() + kRecordBoundary;
+  if (bytes > PlanFor(record.size(), channels, width).Bytes().value()) return false;
   right.Start(middle.Start(left.Start(AtBoundary(job.buffer))));
   for (ptrdiff_t y = 0; y < job.roi.height; y += 2) {
     left.Filter(kernel, y);
@@ -76,7 +98,7 @@ bool FilterInPlace(const FilterRecord& record, const Job<T>& job, const Kernel& 
 
 template <class Kernel, class T>
 void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& kernel) {
-  if constexpr (Kernel::Form::template kIsInPlace<T>) {
+  if constexpr (Kernel::Form::kIsInPlace) {
     if (FilterInPlace(record, job, kernel)) return;
   }
   FilterBlocks(record, job, kernel);
@@ -85,7 +107,7 @@ void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& k
 // Doubles hold all sums of an integer kernel that can be told from saturated ones, and the coefficients of all kinds.
 template <class T>
 void FilterInDouble(const FilterRecord& record, const Job<T>& job) {
-  FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.source.channels));
+  FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.src.channels()));
 }
 
 // Calls filter with the sides of the kernel as constants: for bytes and floats those of two common squares, and the
@@ -106,14 +128,14 @@ template <class T>
 void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
   using ImageOfFloats = std::conditional_t<std::is_same_v<T, float>, float, void>;
   WithSides<ImageOfFloats>(record, [&](auto width, auto height) {
-    FilterRegion(record, job, RealKernel<T, float, width, height>(record, record.Floats(), job.source.channels));
+    FilterRegion(record, job, RealKernel<T, float, width, height>(record, record.Floats(), job.src.channels()));
   });
 }
 
 template <class Sums, class T>
 void FilterBySums(const FilterRecord& record, const Job<T>& job, const Sums& sums) {
   WithSides<T>(record, [&](auto width, auto height) {
-    FilterRegion(record, job, PairKernel<T, Sums, width, height>(record, job.source.channels, sums));
+    FilterRegion(record, job, PairKernel<T, Sums, width, height>(record, job.src.channels(), sums));
   });
 }
 
@@ -152,19 +174,6 @@ void FilterByKind(const FilterRecord& record, const Job<T>& job) {
 }
 
 template <class T>
-FilterSource<T> SourceFor(const Image<const T>& image, Size roi, QvpiBorderType border, const T* value,
-                          const FilterRecord& record) {
-  FilterSource<T> source{image,
-                         KindOf(border),
-                         EffectiveColumns(border, roi.width, record.left(), record.right()),
-                         EffectiveRows(border, roi.height, record.above(), record.below()),
-                         {},
-                         Channels(image.layout)};
-  if (source.kind == BorderKind::kConst) std::memcpy(source.value, value, source.channels * sizeof(T));
-  return source;
-}
-
-template <class T>
 QvpStatus FilterBorder(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
                        const QvpiFilterBorderSpec* spec, uint8_t* buffer) {
   if (const QvpStatus failed = Validate<kPointers>(roi, {src, dst}, {spec, buffer})) return failed;
@@ -173,18 +182,21 @@ QvpStatus FilterBorder(const Image<const T>& src, const Image<T>& dst, Size roi,
   if (src.step < 1 || dst.step < static_cast<int64_t>(roi.width) * int64_t{sizeof(T)}) return qvpStatusStep;
   if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
   const FilterRecord& record = *FilterRecord::At(spec);
-  FilterByKind<T>(record, {SourceFor(src, roi, border, value, record), dst, roi, buffer});
+  FilterByKind<T>(record, {WithBorder(src, roi, border, value, record.reach()), dst, roi, buffer});
   return qvpStatusNoError;
 }
 
 }  // namespace
+}  // namespace qvp::filter
 
-#define FILTER_BORDER(type, layout)                                                                                    \
-  QvpStatus qvpiFilterBorder_##type##_##layout##R(                                                                     \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize dstRoiSize,                           \
-      QvpiBorderType borderType, const Qvp##type* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer) {    \
-    return FilterBorder<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, dstRoiSize, \
-                                   borderType, borderValue, pSpec, pBuffer);                                           \
+using namespace qvp;
+
+#define FILTER_BORDER(type, layout)                                                                                 \
+  QvpStatus qvpiFilterBorder_##type##_##layout##R(                                                                  \
+      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize dstRoiSize,                        \
+      QvpiBorderType borderType, const Qvp##type* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer) { \
+    return filter::FilterBorder<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout},  \
+                                           dstRoiSize, borderType, borderValue, pSpec, pBuffer);                    \
   }
 #define FILTER_BORDERS(type) FILTER_BORDER(type, C1) FILTER_BORDER(type, C3) FILTER_BORDER(type, C4)
 

@@ -1,11 +1,10 @@
-// The record and the work buffer of the general filter.
+// The record of the general filter, and the plan of its work buffer.
 #pragma once
 
-#include <algorithm>
-
 #include "base/record.h"
+#include "base/row_ring.h"
 
-namespace qvp {
+namespace qvp::filter {
 
 // What the coefficients are, and which images they were made for.
 enum class FilterKind : int32_t { kInt8u = 0, kInt16s = 1, k8u = 3, k16s = 4, k16u = 5, k32f = 6, k64f = 7 };
@@ -41,12 +40,11 @@ struct FilterRecord {
     return reinterpret_cast<const FilterRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
   }
 
+  QvpiSize size() const { return {width, height}; }
   ptrdiff_t taps() const { return static_cast<ptrdiff_t>(width) * height; }
   int mode() const { return roundMode & kModeMask; }
-  ptrdiff_t left() const { return (width - 1) / 2; }
-  ptrdiff_t above() const { return (height - 1) / 2; }
-  ptrdiff_t right() const { return width - 1 - left(); }
-  ptrdiff_t below() const { return height - 1 - above(); }
+  // An even side reaches one pixel further right, or below.
+  Reach reach() const { return {(width - 1) / 2, (height - 1) / 2, width / 2, height / 2}; }
 
   double* Doubles() { return reinterpret_cast<double*>(reinterpret_cast<uint8_t*>(this) + kHeadBytes); }
   const double* Doubles() const { return const_cast<FilterRecord*>(this)->Doubles(); }
@@ -65,44 +63,9 @@ struct FilterRecord {
 };
 static_assert(sizeof(FilterRecord) <= FilterRecord::kHeadBytes);
 
-// Where the parts of the work buffer lie. A region is filtered in blocks of columns; the rows of a block that a result
-// needs are prepared for the kernels here, border columns included, in up to 8 bytes a sample.
-class FilterWork {
- public:
-  // For regions up to `regionWidth`.
-  FilterWork(int32_t width, int32_t height, int channels, ptrdiff_t regionWidth)
-      : kernelWidth_(width),
-        rows_(int64_t{height} + 1),
-        channels_(channels),
-        columns_(std::min<int64_t>(regionWidth, BlockColumns(width, height, channels))) {}
+// Two rows of results are made at a time, so that one more row is prepared than the kernel has.
+inline WindowPlan PlanFor(QvpiSize kernel, int channels, int64_t regionWidth) {
+  return {kernel.width, int64_t{kernel.height} + 1, channels, regionWidth};
+}
 
-  // Columns of a block: so few that its rows stay in the nearest cache, but enough for the border of one side to be
-  // found in the same block even if the region is cut evenly and its last block is half of this.
-  static constexpr int64_t BlockColumns(int64_t width, int64_t height, int channels) {
-    constexpr int64_t kCacheSamples = 4096;
-    return std::max({kCacheSamples / ((height + 1) * channels), 4 * width, int64_t{64}});
-  }
-
-  // Bytes as long as the longest vector.
-  static constexpr int64_t kSpare = 256;
-
-  int64_t columns() const { return columns_; }
-  // A prepared row, and as many bytes as the longest vector beyond it, which may be read and written.
-  ByteCount RowBytes() const {
-    return (ByteCount(columns_ + kernelWidth_ - 1) * channels_ * int64_t{sizeof(double)} + kSpare)
-        .RoundedTo(kRecordBoundary);
-  }
-  ByteCount PointerBytes() const { return (ByteCount(rows_) * 8).RoundedTo(kRecordBoundary); }
-  ByteCount EdgeBytes() const {
-    return (ByteCount(kernelWidth_) * int64_t{sizeof(int32_t)}).RoundedTo(kRecordBoundary);
-  }
-  // The prepared rows, one row of the border's constant, pointers to the rows, and the sources of border columns.
-  ByteCount Total() const { return RowBytes() * (rows_ + 1) + PointerBytes() + EdgeBytes() + kRecordBoundary; }
-
- private:
-  int64_t kernelWidth_, rows_;
-  int channels_;
-  int64_t columns_;
-};
-
-}  // namespace qvp
+}  // namespace qvp::filter

@@ -4,8 +4,8 @@
 #include "filter/border_filter.h"
 #include "qvpi.h"
 
+namespace qvp::filter {
 namespace {
-using namespace qvp;
 
 constexpr int kAccuracyFlag = 16;
 
@@ -60,7 +60,7 @@ ByteCount BufferBytes(QvpiSize kernel, QvpiSize roi, QvpDataType type, int chann
   const ByteCount inputRow =
       (ByteCount(int64_t{roi.width} + kernel.width) * element * channels).RoundedTo(kRecordBoundary);
   const ByteCount sums = (ByteCount(roi.width) * 8 * channels).RoundedTo(kRecordBoundary);
-  const ByteCount rows = FilterWork(kernel.width, kernel.height, channels, roi.width).Total();
+  const ByteCount rows = PlanFor(kernel, channels, roi.width).Bytes();
   return strips.RoundedTo(32) + 32 + alignment + inputRow + sums + rows + beyond;
 }
 
@@ -159,6 +159,10 @@ QvpStatus WarningFor(QvpRoundMode mode, bool hasAccuracy) {
 }
 
 }  // namespace
+}  // namespace qvp::filter
+
+using namespace qvp;
+using namespace qvp::filter;
 
 QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpDataType dataType,
                                   QvpDataType kernelType, int numChannels, int* pSpecSize, int* pBufferSize) {

@@ -1,0 +1,79 @@
+// Integer kernels: rows are taken in pairs, whose products are added by the multiplication.
+#pragma once
+
+#include "base/pairs.h"
+#include "filter/border_filter_sums.h"
+
+namespace qvp::filter {
+
+// The rows of two pixels, as pairs of bytes or of 16-bit words, one pair to a sample.
+template <class T, class Lane>
+struct PairedRows {
+  using Element = std::conditional_t<sizeof(Lane) == 1, uint16_t, uint32_t>;
+  static constexpr int kRows = 2;
+  static constexpr bool kIsInPlace = false;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<Lane>());
+
+  static Element Of(const T* const (&rows)[2], ptrdiff_t i) {
+    T pair[2];
+    std::memcpy(pair, rows[0] + i, sizeof(T));
+    std::memcpy(pair + 1, rows[1] + i, sizeof(T));
+    constexpr uint32_t kBits = 8 * sizeof(Lane), kMask = (1u << kBits) - 1;
+    return static_cast<Element>((static_cast<uint32_t>(pair[0]) & kMask) | static_cast<uint32_t>(pair[1]) << kBits);
+  }
+  static void Convert(const T* const (&rows)[2], Element* out, ptrdiff_t i) {
+    const hn::ScalableTag<Lane> d;
+    hn::StoreInterleaved2(LoadWide(d, rows[0] + i), LoadWide(d, rows[1] + i), d, reinterpret_cast<Lane*>(out + i));
+  }
+};
+
+// Sums for two rows of results at a time. kWidth and kHeight are those of the kernel where they are known, or 0.
+template <class T, class Sums, int kWidth = 0, int kHeight = 0>
+class PairKernel {
+ public:
+  using Form = PairedRows<T, typename Sums::Lane>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<typename Sums::Sum>());
+  static constexpr int kVectors = 4;  // with their sums for two rows, coefficients and pixels they fill the registers
+
+  PairKernel(const FilterRecord& record, int channels, const Sums& sums)
+      : pairs_(record.PairsAt()),
+        lines_(record.PairsOfRows()),
+        width_(record.width),
+        channels_(channels),
+        sums_(sums) {}
+
+  template <int kCount>
+  HWY_INLINE void Run(const typename Form::Element* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+    const hn::ScalableTag<typename Sums::Sum> d;
+    const hn::ScalableTag<typename Sums::Lane> pixels;
+    const hn::ScalableTag<hwy::MakeSigned<typename Sums::Lane>> coefficients;
+    const hn::ScalableTag<int32_t> pairs;
+    hn::Vec<decltype(d)> above[kCount], below[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Set(d, sums_.start); });
+    const int32_t* pair = pairs_;
+    const ptrdiff_t width = kWidth ? kWidth : width_;
+    const ptrdiff_t lineCount = kHeight ? kHeight / 2 + 1 : lines_;
+    for (ptrdiff_t p = 0; p < lineCount; ++p) {
+      const auto* line = lines[p] + at;
+      for (ptrdiff_t i = 0; i < width; ++i, line += channels_, pair += 2) {
+        if constexpr (kWidth > 0) pair = Unknown(pair);
+        const auto a = hn::BitCast(coefficients, hn::Set(pairs, pair[0]));
+        const auto b = hn::BitCast(coefficients, hn::Set(pairs, pair[1]));
+        Unrolled<kCount>([&](auto v) QVP_INLINED {
+          const auto pixel = hn::LoadU(pixels, reinterpret_cast<const typename Sums::Lane*>(line + v * kLanes));
+          above[v] = hn::Add(above[v], MulAddPairs(pixel, a));
+          below[v] = hn::Add(below[v], MulAddPairs(pixel, b));
+        });
+      }
+    }
+    sums_.template Store<kCount>(below, lower);
+    sums_.template Store<kCount>(above, upper);
+  }
+
+ private:
+  const int32_t* pairs_;
+  ptrdiff_t lines_, width_, channels_;
+  Sums sums_;
+};
+
+}  // namespace qvp::filter
