@@ -8,8 +8,8 @@
 #include "qvpi.h"
 #include "signal/exp_log.h"
 
+namespace qvp::hog {
 namespace {
-using namespace qvp;
 
 constexpr int kLeastCell = 2, kLargestCell = 16, kLargestBlock = 64, kLeastBins = 2, kLargestBins = 16;
 
@@ -27,12 +27,12 @@ QvpStatus Validate(const QvpiHOGConfig& c) {
   return isTiled ? qvpStatusNoError : qvpStatusSize;
 }
 
-ByteCount DescriptorLength(const HogRecord& record) {
-  return ByteCount(record.blocksAcross) * record.blocksDown * (kHogCells * record.config.nbins);
+ByteCount DescriptorLength(const Record& record) {
+  return ByteCount(record.blocksAcross) * record.blocksDown * (kCells * record.config.nbins);
 }
 
-HogRecord RecordOf(const QvpiHOGConfig& config) {
-  HogRecord record{kHogIdentification, config, 0, 0, 0};
+Record RecordOf(const QvpiHOGConfig& config) {
+  Record record{0, config, 0, 0, 0};
   record.blocksAcross = (config.winSize.width - config.blockSize) / config.blockStride + 1;
   record.blocksDown = (config.winSize.height - config.blockSize) / config.blockStride + 1;
   record.descriptorLength = static_cast<int>(std::min<int64_t>(DescriptorLength(record).value(), INT32_MAX));
@@ -56,44 +56,51 @@ float Gaussian(int i, int j, const QvpiHOGConfig& config) {
 void WriteWeights(const QvpiHOGConfig& config, uint8_t* table) {
   const int side = config.blockSize;
   for (int j = 0; j < side; ++j) {
-    for (int i = 0; i < side; ++i, table += kHogCells * sizeof(float)) {
+    for (int i = 0; i < side; ++i, table += kCells * sizeof(float)) {
       const float g = Gaussian(i, j, config);
       const float left = NearShare(i, config.cellSize), right = NearShare(side - 1 - i, config.cellSize);
       const float upper = NearShare(j, config.cellSize), lower = NearShare(side - 1 - j, config.cellSize);
-      const float weights[kHogCells] = {g * left * upper, g * right * upper, g * left * lower, g * right * lower};
+      const float weights[kCells] = {g * left * upper, g * right * upper, g * left * lower, g * right * lower};
       std::memcpy(table, weights, sizeof(weights));
     }
   }
 }
 
+// All but the identification.
+QvpStatus FillRecord(const QvpiHOGConfig* config, uint8_t* out) {
+  if (out == nullptr || config == nullptr) return qvpStatusNullPointer;
+  if (const QvpStatus failed = Validate(*config)) return failed;
+  std::memset(out, 0, kTableOffset);
+  const Record record = RecordOf(*config);
+  std::memcpy(out, &record, sizeof(record));
+  WriteWeights(*config, out + kTableOffset);
+  return qvpStatusNoError;
+}
+
 constexpr int kPlaneBytes = 3 * sizeof(float);
 
 }  // namespace
+}  // namespace qvp::hog
+
+using namespace qvp;
+using namespace qvp::hog;
 
 QvpStatus qvpiHOGGetSize(const QvpiHOGConfig* pConfig, int* pSpecSize) {
   if (pSpecSize == nullptr || pConfig == nullptr) return qvpStatusNullPointer;
   if (const QvpStatus failed = Validate(*pConfig)) return failed;
-  *pSpecSize = kHogTableOffset + kHogCells * static_cast<int>(sizeof(float)) * pConfig->blockSize * pConfig->blockSize;
+  *pSpecSize = kTableOffset + kCells * static_cast<int>(sizeof(float)) * pConfig->blockSize * pConfig->blockSize;
   return qvpStatusNoError;
 }
 
 QvpStatus qvpiHOGInit(const QvpiHOGConfig* pConfig, QvpiHOGSpec* pHOGSpec) {
-  if (pHOGSpec == nullptr) return qvpStatusNullPointer;
-  uint8_t* const record = reinterpret_cast<uint8_t*>(pHOGSpec);
-  std::memset(record, 0, sizeof(HogRecord::identification));  // until all of it is there
-  if (pConfig == nullptr) return qvpStatusNullPointer;
-  if (const QvpStatus failed = Validate(*pConfig)) return failed;
-  std::memset(record, 0, kHogTableOffset);
-  WriteWeights(*pConfig, record + kHogTableOffset);
-  const HogRecord filled = RecordOf(*pConfig);
-  std::memcpy(record, &filled, sizeof(filled));
-  return qvpStatusNoError;
+  return InitRecord(pHOGSpec, kIdentification,
+                    [&] { return FillRecord(pConfig, reinterpret_cast<uint8_t*>(pHOGSpec)); });
 }
 
 QvpStatus qvpiHOGGetBufferSize(const QvpiHOGSpec* pHOGSpec, QvpiSize roiSize, int* pBufferSize) {
   if (pHOGSpec == nullptr || pBufferSize == nullptr) return qvpStatusNullPointer;
-  HogRecord record;
-  if (const QvpStatus failed = OpenHogRecord(pHOGSpec, record)) return failed;
+  Record record;
+  if (const QvpStatus failed = OpenRecord(pHOGSpec, record)) return failed;
   const QvpiSize window = record.config.winSize;
   if (roiSize.height < window.height || roiSize.width < window.width) return qvpStatusSize;
   return (ByteCount(kPlaneBytes) * roiSize.width * roiSize.height).StoreTo(pBufferSize);
@@ -101,7 +108,7 @@ QvpStatus qvpiHOGGetBufferSize(const QvpiHOGSpec* pHOGSpec, QvpiSize roiSize, in
 
 QvpStatus qvpiHOGGetDescriptorSize(const QvpiHOGSpec* pHOGSpec, int* pDescriptorSize) {
   if (pHOGSpec == nullptr || pDescriptorSize == nullptr) return qvpStatusNullPointer;
-  HogRecord record;
-  if (const QvpStatus failed = OpenHogRecord(pHOGSpec, record)) return failed;
+  Record record;
+  if (const QvpStatus failed = OpenRecord(pHOGSpec, record)) return failed;
   return (DescriptorLength(record) * static_cast<int>(sizeof(float))).StoreTo(pDescriptorSize);
 }

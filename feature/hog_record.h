@@ -6,26 +6,26 @@
 
 #include "qvptypes.h"
 
-namespace qvp {
+namespace qvp::hog {
 
 // As it lies in the caller's memory, at any address: it is copied out before use.
-struct HogRecord {
+struct Record {
   uint32_t identification;
   QvpiHOGConfig config;
   int blocksAcross, blocksDown;
   int descriptorLength;  // floats; what does not fit is given as the largest int
 };
-inline constexpr uint32_t kHogIdentification = 0x4B61738F;
-inline constexpr int kHogTableOffset = 72;
-static_assert(sizeof(HogRecord) <= kHogTableOffset);
+inline constexpr uint32_t kIdentification = 0x4B61738F;
+inline constexpr int kTableOffset = 72;
+static_assert(sizeof(Record) <= kTableOffset);
 
 // The cells of a block: 2 x 2.
-inline constexpr int kHogCells = 4;
+inline constexpr int kCells = 4;
 
 // Pointers are tested by the caller.
-inline QvpStatus OpenHogRecord(const QvpiHOGSpec* spec, HogRecord& record) {
+inline QvpStatus OpenRecord(const QvpiHOGSpec* spec, Record& record) {
   std::memcpy(&record, spec, sizeof(record));
-  return record.identification == kHogIdentification ? qvpStatusNoError : qvpStatusContextMatch;
+  return record.identification == kIdentification ? qvpStatusNoError : qvpStatusContextMatch;
 }
 
-}  // namespace qvp
+}  // namespace qvp::hog
