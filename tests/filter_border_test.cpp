@@ -375,6 +375,46 @@ TEST(FilterBorder, IntegerResultsOfFloatsSaturateAndNaNIsTheLowest) {
   }
 }
 
+// Sums begin with +0, and no coefficient makes a NaN or an infinity vanish.
+TEST(FilterBorder, ZerosArePositiveAndNaNSpreads) {
+  const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
+  const float src[3][5] = {{-0.0f, -0.0f, -0.0f, 2, 3}, {-0.0f, -0.0f, -0.0f, 2, nan}, {-0.0f, 1, 2, 3, inf}};
+  const Prepared<Qvp32f> identity({{3, 1}, {0, 1, 0}}, {5, 3}, qvp32f, 1);
+  float dst[3][5];
+  ASSERT_EQ(qvpiFilterBorder_32f_C1R(src[0], 20, dst[0], 20, {5, 3}, qvpBorderReplicate, nullptr, identity.get(),
+                                     identity.buffer()),
+            0);
+  EXPECT_FALSE(std::signbit(dst[0][1]));
+  EXPECT_EQ(dst[0][4], 3);
+  for (const int y : {1, 2}) {
+    EXPECT_EQ(dst[y][2], src[y][2]);
+    EXPECT_TRUE(std::isnan(dst[y][3]) && std::isnan(dst[y][4])) << y;
+  }
+}
+
+// Floats take the offset of a record for 8-bit or 16-bit images, as those images do.
+TEST(FilterBorder, FloatsTakeTheOffsetOfARecordForIntegers) {
+  for (const QvpDataType type : {qvp8u, qvp16u}) {
+    for (const int side : {1, 3, 5}) {
+      Filter<Qvp32f> f = RandomFilter<Qvp32f>({side, side}, 100);
+      f.offset = -37;
+      const Prepared<Qvp32f> prepared(f, {70, 4}, type, 1);
+      const Scene<Qvp32f> scene(f.size, {{70, 4}, 1, qvpBorderMirror}, Guard::kAfter);
+      const test::Image<Qvp32f> dst(70, 4, 0);
+      ASSERT_EQ(qvpiFilterBorder_32f_C1R(scene.first(), scene.image.step(), dst.data(), dst.step(), {70, 4},
+                                         qvpBorderMirror, nullptr, prepared.get(), prepared.buffer()),
+                0);
+      for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 70; ++x) {
+          const float expected =
+              Expected<Qvp32f>(f, 1, [&](int i, int j) { return scene.Pixel(x + i, y + j, 0, nullptr); });
+          ASSERT_EQ(dst(x, y), expected) << type << ' ' << side << " at " << x << ',' << y;
+        }
+      }
+    }
+  }
+}
+
 // A record for another type gives the same filter, with nothing beyond the images touched.
 TEST(FilterBorder, RecordsOfOtherTypesAreSafe) {
   const Filter<Qvp16s> f = RandomFilter<Qvp16s>({3, 3}, 5, 7);

@@ -229,22 +229,94 @@ TEST(Hog, SkipsWindowsBeyondTheTrimmedRegion) {
   for (int i = 48; i < 72; ++i) EXPECT_EQ(dst[i], -1);
 }
 
-TEST(Hog, SurvivesConstantAndExtremeImages) {
-  const QvpiHOGConfig config{0, 2, 4, 2, 9, 2.0f, 0.2f, {8, 8}};
-  const Record record(config);
-  const float inf = std::numeric_limits<float>::infinity(), outside = 0;
-  const Block buffer(12 * 8 * 8);
-  float dst[9 * 36], src[64];
-  const auto call = [&] {
-    return qvpiHOG_32f_C1R(src, 32, {8, 8}, nullptr, 1, dst, record.spec(), qvpBorderReplicate, &outside,
-                           buffer.data());
+// A square of 16 pixels with one float or three to a pixel, one window of 7 x 7 blocks of 4 x 4 pixels, and its
+// descriptor.
+class FloatWindow {
+ public:
+  explicit FloatWindow(int channels) : channels_(channels) { std::fill_n(pixels_, 16 * 16 * 3, 3.5f); }
+
+  float& At(int x, int y, int c = 0) { return pixels_[(y * 16 + x) * channels_ + c]; }
+
+  const std::vector<float>& Describe() {
+    const float outside[3] = {};
+    const auto hog = channels_ == 1 ? qvpiHOG_32f_C1R : qvpiHOG_32f_C3R;
+    EXPECT_EQ(hog(pixels_, 16 * channels_ * static_cast<int>(sizeof(float)), {16, 16}, nullptr, 1, descriptor_.data(),
+                  record_.spec(), qvpBorderReplicate, outside, buffer_.data()),
+              qvpStatusNoError);
+    return descriptor_;
+  }
+
+  // The values of the block that is `across` and `down` from the first.
+  static std::vector<float> BlockAt(const std::vector<float>& descriptor, int across, int down) {
+    const auto first = descriptor.begin() + (down * 7 + across) * 36;
+    return {first, first + 36};
+  }
+
+ private:
+  Record record_{QvpiHOGConfig{0, 2, 4, 2, 9, 2.0f, 0.2f, {16, 16}}};
+  Block buffer_{12 * 16 * 16};
+  int channels_;
+  float pixels_[16 * 16 * 3];
+  std::vector<float> descriptor_ = std::vector<float>(7 * 7 * 36);
+};
+
+TEST(Hog, DescribesConstantImagesByZeros) {
+  FloatWindow window(1);
+  for (const float v : window.Describe()) ASSERT_EQ(v, 0);
+}
+
+// A pixel that is not finite spoils the gradients of its four neighbours, and with them all blocks that have one.
+TEST(Hog, BlocksWithGradientsThatAreNotFiniteAreNaN) {
+  constexpr float kInf = std::numeric_limits<float>::infinity();
+  for (const int channels : {1, 3}) {
+    for (const float bad : {NAN, -NAN, kInf, -kInf, 1e20f}) {
+      for (int c = 0; c < channels; ++c) {
+        for (const int x : {0, 6, 15}) {
+          FloatWindow window(channels);
+          for (int y = 0; y < 16; ++y) window.At(y, y, (c + 1) % channels) = static_cast<float>(y);
+          const std::vector<float> clean = window.Describe();
+          window.At(x, 7, c) = bad;
+          const std::vector<float> spoilt = window.Describe();
+          for (int down = 0; down < 7; ++down) {
+            for (int across = 0; across < 7; ++across) {
+              const int left = 2 * across, top = 2 * down;
+              const auto has = [&](int px, int py) { return px >= left && px < left + 4 && py >= top && py < top + 4; };
+              const bool isBeside = has(x - 1, 7) || has(x + 1, 7) || has(x, 6) || has(x, 8);
+              const bool isEdge = (x == 0 || x == 15) && has(x, 7);  // the border repeats the pixel
+              const auto block = FloatWindow::BlockAt(spoilt, across, down);
+              if (isBeside || isEdge) {
+                for (const float v : block) ASSERT_TRUE(std::isnan(v)) << bad << " block " << across << ',' << down;
+              } else {
+                ASSERT_EQ(block, FloatWindow::BlockAt(clean, across, down)) << bad;
+              }
+            }
+          }
+        }
+      }
+    }
+  }
+}
+
+// Lengths do not overflow where gradients do not: descriptors do not hang on the magnitude.
+TEST(Hog, DescribesLargePixelsLikeSmallOnes) {
+  const auto describe = [](const QvpiHOGConfig& config, float factor) {
+    const Record record(config);
+    const QvpiSize size = config.winSize;
+    const Block buffer(size_t{12} * size.width * size.height);
+    std::vector<float> src(size_t{1} * size.width * size.height), dst(4 * config.nbins);
+    test::Random random(3);
+    for (float& v : src) v = (static_cast<float>(random.Next() % 2001) - 1000) / 1000 * factor;
+    const float outside = 0;
+    EXPECT_EQ(qvpiHOG_32f_C1R(src.data(), size.width * static_cast<int>(sizeof(float)), size, nullptr, 1, dst.data(),
+                              record.spec(), qvpBorderMirror, &outside, buffer.data()),
+              qvpStatusNoError);
+    return dst;
   };
-  std::fill_n(src, 64, 3.5f);
-  ASSERT_EQ(call(), qvpStatusNoError);
-  for (const float v : dst) ASSERT_EQ(v, 0);
-  const float extremes[] = {NAN, inf, -inf, 3.4e38f, -3.4e38f, 1e-45f, 0, -0.0f};
-  for (int i = 0; i < 64; ++i) src[i] = extremes[i * 5 % 7 + i / 63];
-  EXPECT_EQ(call(), qvpStatusNoError);
+  for (const QvpiHOGConfig& config :
+       {QvpiHOGConfig{0, 2, 4, 2, 9, 2.0f, 0.2f, {4, 4}}, QvpiHOGConfig{0, 16, 32, 16, 4, 100.0f, 9.0f, {32, 32}}}) {
+    const std::vector<float> small = describe(config, 1e6f), large = describe(config, 1e18f);
+    for (size_t i = 0; i < small.size(); ++i) ASSERT_NEAR(large[i], small[i], 1e-5);
+  }
 }
 
 TEST(Hog, TellsSizesAndRefusesConfigurations) {

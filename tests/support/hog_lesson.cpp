@@ -7,6 +7,16 @@ namespace {
 // A window that fits every region: 4 x 4 pixels, one block of four cells.
 constexpr QvpiHOGConfig kConfig{0, 2, 4, 2, 9, 3.0f, 0.2f, {4, 4}};
 
+// Random bits would make NaN of all descriptors.
+void PutFinite(Scene& scene, uint8_t* pixels, QvpiSize roi, size_t step) {
+  for (int y = 0; y < roi.height; ++y) {
+    for (int i = 0; i < 3 * roi.width; ++i) {
+      const float value = static_cast<float>(scene.random().Next() % 10000) / 100;
+      std::memcpy(pixels + y * step + i * sizeof(float), &value, sizeof(value));
+    }
+  }
+}
+
 }  // namespace
 
 bool HogLesson(Scene& scene, size_t place, Argument& argument) {
@@ -23,7 +33,10 @@ bool HogLesson(Scene& scene, size_t place, Argument& argument) {
     qvpiHOGInit(&kConfig, reinterpret_cast<QvpiHOGSpec*>(spec));
     argument.pointer = spec;
   } else if (name == "pSrc") {
-    argument.pointer = scene.Input(size_t{1} * roi.height * (roi.width * 12 + 5));
+    const size_t step = size_t{1} * roi.width * 12 + 5;
+    uint8_t* const pixels = scene.Input(roi.height * step);
+    if (function.starts_with("qvpiHOG_32f")) PutFinite(scene, pixels, roi, step);
+    argument.pointer = pixels;
   } else if (name == "srcStep") {
     argument.number = roi.width * 12 + 5;
   } else if (name == "roiSize") {
