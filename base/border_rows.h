@@ -138,7 +138,9 @@ class BorderRows {
       if (isInPlace_) return readable[0];
     }
     ConvertRows<Form>(readable, room + Samples(before_), ReadableSamples());
-    for (int i = 0; i < Form::kRows; ++i) FetchAhead(Readable(image_.Row(y + Form::kRows + i)));
+    if (ReadableSamples() >= kFetchedSamples) {
+      for (int i = 0; i < Form::kRows; ++i) FetchAhead(Readable(image_.Row(y + Form::kRows + i)));
+    }
     FillColumns(rows, columnOf_, before_, room);
     FillColumns(rows, columnOf_ + before_, after_, room + Samples(before_) + ReadableSamples());
     return room;
@@ -146,6 +148,7 @@ class BorderRows {
 
  private:
   static constexpr int32_t kConstantColumn = INT32_MIN;
+  static constexpr ptrdiff_t kFetchedSamples = 128;  // shorter lines are not worth it
 
   ptrdiff_t Samples(ptrdiff_t pixels) const { return pixels * channels_; }
   ptrdiff_t ReadableSamples() const { return Samples(readable_.end - readable_.begin); }
@@ -183,7 +186,8 @@ class BorderRows {
         const bool isConstant = row == nullptr || columnOf[i] == kConstantColumn;
         return isConstant ? image_.constant : row + Samples(columnOf[i]);
       };
-      const T* const pixels[2] = {pixel(rows[0]), pixel(rows[1])};
+      const T* const first = pixel(rows[0]);
+      const T* const pixels[2] = {first, Form::kRows == 1 ? first : pixel(rows[1])};
       for (ptrdiff_t c = 0; c < channels_; ++c) to[c] = Form::Of(pixels, c);
     }
   }

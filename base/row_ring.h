@@ -29,15 +29,17 @@ struct RowRing {
     return at + place * step;
   }
 
+  // The row of the position behind that of a row.
+  E* Next(const E* row) const {
+    const ptrdiff_t next = row - at + step;
+    return next == places * step ? at : at + next;
+  }
+
   // The rows of kCount successive positions.
   template <size_t kCount>
   std::array<const E*, kCount> Rows(ptrdiff_t position) const {
-    const E* const end = at + places * step;
     std::array<const E*, kCount> rows{Row(position)};
-    for (size_t k = 1; k < kCount; ++k) {
-      const E* next = rows[k - 1] + step;
-      rows[k] = next == end ? at : next;
-    }
+    for (size_t k = 1; k < kCount; ++k) rows[k] = Next(rows[k - 1]);
     return rows;
   }
 };
@@ -77,6 +79,7 @@ class RowWindow {
     uint8_t* const slots = rows_.Start(memory + PointerBytes());
     const ptrdiff_t step = rows_.LineBytes() / static_cast<ptrdiff_t>(sizeof(Element));
     ring_ = {reinterpret_cast<Element*>(slots), step, static_cast<int>(lines_)};
+    room_ = ring_.at;
     Prepare(0);
     return memory + Bytes();
   }
@@ -94,14 +97,16 @@ class RowWindow {
 
   // The lines from one of the window to its last.
   HWY_NOINLINE void Prepare(ptrdiff_t line) {
-    for (; line < lines_; ++line, next_ += Form::kRows) pointers_[line] = rows_.Line(next_, ring_.Row(count_++));
+    for (; line < lines_; ++line, next_ += Form::kRows, room_ = ring_.Next(room_)) {
+      pointers_[line] = rows_.Line(next_, room_);
+    }
   }
 
   BorderRows<Form, T> rows_;
   int64_t lines_;
-  ptrdiff_t next_;       // row of the next line
-  ptrdiff_t count_ = 0;  // lines so far
+  ptrdiff_t next_;  // row of the next line
   RowRing<Element> ring_{};
+  Element* room_ = nullptr;  // for the next line
   const Element** pointers_ = nullptr;
 };
 

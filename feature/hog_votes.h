@@ -85,7 +85,7 @@ struct Gradient<T, 3> {
       const auto isLonger = hn::Gt(square, longest);
       x = hn::IfThenElse(isLonger, gx, x);
       y = hn::IfThenElse(isLonger, gy, y);
-      longest = hn::IfThenElse(isLonger, square, longest);
+      longest = hn::Max(square, longest);  // of NaN, which one does not matter
       sum = hn::Add(sum, square);
     }
     if constexpr (std::is_floating_point_v<T>) x = hn::IfThenElse(IsFinite(sum), x, sum);

@@ -107,7 +107,7 @@ void FilterRegion(const FilterRecord& record, const Job<T>& job, const Kernel& k
 // Doubles hold all sums of an integer kernel that can be told from saturated ones, and the coefficients of all kinds.
 template <class T>
 void FilterInDouble(const FilterRecord& record, const Job<T>& job) {
-  FilterRegion(record, job, RealKernel<T, double>(record, record.Doubles(), job.src.channels()));
+  FilterRegion(record, job, RealKernel<T, double, true>(record, record.Doubles(), job.src.channels()));
 }
 
 // Calls filter with the sides of the kernel as constants: for bytes and floats those of two common squares, and the
@@ -124,11 +124,16 @@ void WithSides(const FilterRecord& record, const Filter& filter) {
   filter(std::integral_constant<int, 0>(), std::integral_constant<int, 0>());
 }
 
+// Records for float images have no offset, but one for integers may be used with them.
 template <class T>
 void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
-  using ImageOfFloats = std::conditional_t<std::is_same_v<T, float>, float, void>;
-  WithSides<ImageOfFloats>(record, [&](auto width, auto height) {
-    FilterRegion(record, job, RealKernel<T, float, width, height>(record, record.Floats(), job.src.channels()));
+  constexpr bool kIsFloat = std::is_same_v<T, float>;
+  if (kIsFloat && record.offset != 0) {
+    return FilterRegion(record, job, RealKernel<T, float, true>(record, record.Floats(), job.src.channels()));
+  }
+  WithSides<std::conditional_t<kIsFloat, float, void>>(record, [&](auto width, auto height) {
+    using Kernel = RealKernel<T, float, !kIsFloat, width(), height()>;
+    FilterRegion(record, job, Kernel(record, record.Floats(), job.src.channels()));
   });
 }
 
@@ -182,6 +187,7 @@ QvpStatus FilterBorder(const Image<const T>& src, const Image<T>& dst, Size roi,
   if (src.step < 1 || dst.step < static_cast<int64_t>(roi.width) * int64_t{sizeof(T)}) return qvpStatusStep;
   if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
   const FilterRecord& record = *FilterRecord::At(spec);
+  if (!record.IsReady()) return qvpStatusContextMatch;
   FilterByKind<T>(record, {WithBorder(src, roi, border, value, record.reach()), dst, roi, buffer});
   return qvpStatusNoError;
 }

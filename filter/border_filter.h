@@ -24,6 +24,7 @@ enum class PairForm : int32_t {
 //   float kinds: the coefficients as float
 //   integer kinds: pairs of coefficients, see PairsAt
 struct FilterRecord {
+  uint32_t identification;
   FilterKind kind;
   int32_t width, height, channels;
   int32_t divisor, offset;  // integer kinds divide by the divisor; the offset is added to the quotient
@@ -31,14 +32,16 @@ struct FilterRecord {
   QvpHintAlgorithm hint;
   int64_t positive, negative;  // sums of the coefficients of an integer kernel of either sign
   PairForm pairForm;
-  int32_t reserved;  // instead of padding
 
+  static constexpr uint32_t kIdentification = 0x46427264;
   static constexpr int kHeadBytes = 128, kModeMask = 3;
 
   static FilterRecord* At(QvpiFilterBorderSpec* p) { return reinterpret_cast<FilterRecord*>(AtBoundary(Bytes(p))); }
   static const FilterRecord* At(const QvpiFilterBorderSpec* p) {
     return reinterpret_cast<const FilterRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
   }
+
+  bool IsReady() const { return identification == kIdentification; }
 
   QvpiSize size() const { return {width, height}; }
   ptrdiff_t taps() const { return static_cast<ptrdiff_t>(width) * height; }

@@ -13,7 +13,7 @@ bool IsPositive(QvpiSize size) { return size.width >= 1 && size.height >= 1; }
 bool IsFilteredType(QvpDataType type) { return type == qvp8u || type == qvp16u || type == qvp16s || type == qvp32f; }
 bool IsChannelCount(int channels) { return channels >= 1 && channels <= 4; }
 // Modes 0 to 2, whether or not with the flag of accuracy.
-bool IsRoundMode(QvpRoundMode mode) { return (static_cast<uint32_t>(mode) & ~uint32_t{kAccuracyFlag}) <= 2; }
+bool IsModeOfFilter(QvpRoundMode mode) { return (static_cast<uint32_t>(mode) & ~uint32_t{kAccuracyFlag}) <= 2; }
 
 // Whether an integer kernel keeps its integers; else it becomes one of floats.
 bool StaysInteger(QvpDataType type, QvpiSize kernel, int channels) {
@@ -88,18 +88,26 @@ void StoreRotated(const K* kernel, ptrdiff_t taps, double* out) {
   }
 }
 
+// What an Init is asked for.
+struct FilterRequest {
+  const void* kernel;
+  QvpiSize size;
+  QvpDataType type;
+  int channels;
+  QvpRoundMode roundMode;
+};
+
+// All that kernels of any type have, but the identification.
 template <class K>
-FilterRecord* StartRecord(QvpiFilterBorderSpec* pSpec, const K* kernel, QvpiSize size, int channels, int roundMode) {
-  FilterRecord* record = FilterRecord::At(pSpec);
-  *record = {};
-  record->width = size.width;
-  record->height = size.height;
-  record->channels = channels;
-  record->divisor = 1;
-  record->roundMode = roundMode;
-  record->hint = qvpAlgHintFast;
-  StoreRotated(kernel, record->taps(), record->Doubles());
-  return record;
+void StoreKernel(const FilterRequest& request, FilterRecord& record) {
+  record = {};
+  record.width = request.size.width;
+  record.height = request.size.height;
+  record.channels = request.channels;
+  record.divisor = 1;
+  record.roundMode = request.roundMode;
+  record.hint = qvpAlgHintFast;
+  StoreRotated(static_cast<const K*>(request.kernel), record.taps(), record.Doubles());
 }
 
 // Coefficient in row j and column i of the rotated kernel, 0 beyond it.
@@ -145,6 +153,16 @@ void StorePairs(FilterRecord& r) {
   }
 }
 
+// Pairs of coefficients for the form that these fit.
+void StoreIntegers(FilterRecord& r, QvpDataType type, int divisor) {
+  r.kind = type == qvp8u ? FilterKind::kInt8u : FilterKind::kInt16s;
+  r.divisor = divisor;
+  r.pairForm = PairForm::kWords;
+  SumCoefficients(r);
+  if (type == qvp8u && FitsBytes(r)) r.pairForm = PairForm::kBytes;
+  StorePairs(r);
+}
+
 // The float kinds compute with single precision; doubles hold the same numbers.
 void StoreFloats(FilterRecord& r, QvpDataType type, int divisor) {
   r.kind = KindFor(type);
@@ -156,6 +174,54 @@ void StoreFloats(FilterRecord& r, QvpDataType type, int divisor) {
 
 QvpStatus WarningFor(QvpRoundMode mode, bool hasAccuracy) {
   return (mode & kAccuracyFlag) && !hasAccuracy ? qvpStatusAccurateModeNotSupported : qvpStatusNoError;
+}
+
+QvpStatus FillFromIntegers(const FilterRequest& request, int divisor, FilterRecord* record) {
+  const auto [kernel, size, type, channels, roundMode] = request;
+  if (!kernel || !record) return qvpStatusNullPointer;
+  if (!IsPositive(size)) return qvpStatusSize;
+  if (!IsFilteredType(type) || type == qvp32f) return qvpStatusDataType;
+  if (!IsChannelCount(channels)) return qvpStatusChannel;
+  if (!IsModeOfFilter(roundMode)) return qvpStatusRoundMode;
+  if (divisor == 0) return qvpStatusDivisor;
+  StoreKernel<Qvp16s>(request, *record);
+  if (StaysInteger(type, size, channels)) {
+    StoreIntegers(*record, type, divisor);
+  } else {
+    StoreFloats(*record, type, divisor);
+  }
+  return WarningFor(roundMode, type == qvp8u || (type == qvp16s && channels == 1));
+}
+
+QvpStatus FillFromFloats(const FilterRequest& request, FilterRecord* record) {
+  const auto [kernel, size, type, channels, roundMode] = request;
+  if (!kernel || !record) return qvpStatusNullPointer;
+  if (!IsPositive(size)) return qvpStatusSize;
+  if (!IsFilteredType(type)) return qvpStatusDataType;
+  if (!IsChannelCount(channels)) return qvpStatusChannel;
+  if (!IsModeOfFilter(roundMode)) return qvpStatusRoundMode;
+  StoreKernel<Qvp32f>(request, *record);
+  StoreFloats(*record, type, 1);
+  return WarningFor(roundMode, false);
+}
+
+QvpStatus FillFromDoubles(const FilterRequest& request, FilterRecord* record) {
+  const auto [kernel, size, type, channels, roundMode] = request;
+  if (!kernel || !record) return qvpStatusNullPointer;
+  if (!IsPositive(size)) return qvpStatusSize;
+  if (type != qvp64f) return qvpStatusDataType;
+  if (channels != 1) return qvpStatusChannel;
+  if ((roundMode & ~kAccuracyFlag) != qvpRoundNear) return qvpStatusRoundMode;
+  StoreKernel<Qvp64f>(request, *record);
+  record->kind = FilterKind::k64f;
+  return qvpStatusNoError;
+}
+
+// fill(record) checks and writes; a null pointer stays one.
+template <class Fill>
+QvpStatus Init(QvpiFilterBorderSpec* spec, const Fill& fill) {
+  FilterRecord* const record = spec ? FilterRecord::At(spec) : nullptr;
+  return InitRecord(record, FilterRecord::kIdentification, [&] { return fill(record); });
 }
 
 }  // namespace
@@ -180,51 +246,26 @@ QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpD
 
 QvpStatus qvpiFilterBorderInit_16s(const Qvp16s* pKernel, QvpiSize kernelSize, int divisor, QvpDataType dataType,
                                    int numChannels, QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec) {
-  if (!pKernel || !pSpec) return qvpStatusNullPointer;
-  if (!IsPositive(kernelSize)) return qvpStatusSize;
-  if (!IsFilteredType(dataType) || dataType == qvp32f) return qvpStatusDataType;
-  if (!IsChannelCount(numChannels)) return qvpStatusChannel;
-  if (!IsRoundMode(roundMode)) return qvpStatusRoundMode;
-  if (divisor == 0) return qvpStatusDivisor;
-  FilterRecord& record = *StartRecord(pSpec, pKernel, kernelSize, numChannels, roundMode);
-  if (StaysInteger(dataType, kernelSize, numChannels)) {
-    record.kind = dataType == qvp8u ? FilterKind::kInt8u : FilterKind::kInt16s;
-    record.divisor = divisor;
-    record.pairForm = PairForm::kWords;
-    SumCoefficients(record);
-    if (dataType == qvp8u && FitsBytes(record)) record.pairForm = PairForm::kBytes;
-    StorePairs(record);
-  } else {
-    StoreFloats(record, dataType, divisor);
-  }
-  return WarningFor(roundMode, dataType == qvp8u || (dataType == qvp16s && numChannels == 1));
+  const FilterRequest request{pKernel, kernelSize, dataType, numChannels, roundMode};
+  return Init(pSpec, [&](FilterRecord* record) { return FillFromIntegers(request, divisor, record); });
 }
 
 QvpStatus qvpiFilterBorderInit_32f(const Qvp32f* pKernel, QvpiSize kernelSize, QvpDataType dataType, int numChannels,
                                    QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec) {
-  if (!pKernel || !pSpec) return qvpStatusNullPointer;
-  if (!IsPositive(kernelSize)) return qvpStatusSize;
-  if (!IsFilteredType(dataType)) return qvpStatusDataType;
-  if (!IsChannelCount(numChannels)) return qvpStatusChannel;
-  if (!IsRoundMode(roundMode)) return qvpStatusRoundMode;
-  StoreFloats(*StartRecord(pSpec, pKernel, kernelSize, numChannels, roundMode), dataType, 1);
-  return WarningFor(roundMode, false);
+  const FilterRequest request{pKernel, kernelSize, dataType, numChannels, roundMode};
+  return Init(pSpec, [&](FilterRecord* record) { return FillFromFloats(request, record); });
 }
 
 QvpStatus qvpiFilterBorderInit_64f(const Qvp64f* pKernel, QvpiSize kernelSize, QvpDataType dataType, int numChannels,
                                    QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec) {
-  if (!pKernel || !pSpec) return qvpStatusNullPointer;
-  if (!IsPositive(kernelSize)) return qvpStatusSize;
-  if (dataType != qvp64f) return qvpStatusDataType;
-  if (numChannels != 1) return qvpStatusChannel;
-  if ((roundMode & ~kAccuracyFlag) != qvpRoundNear) return qvpStatusRoundMode;
-  StartRecord(pSpec, pKernel, kernelSize, numChannels, roundMode)->kind = FilterKind::k64f;
-  return qvpStatusNoError;
+  const FilterRequest request{pKernel, kernelSize, dataType, numChannels, roundMode};
+  return Init(pSpec, [&](FilterRecord* record) { return FillFromDoubles(request, record); });
 }
 
 QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterBorderSpec* pSpec) {
   if (!pSpec) return qvpStatusNullPointer;
   FilterRecord& record = *FilterRecord::At(pSpec);
+  if (!record.IsReady()) return qvpStatusContextMatch;
   const bool takesOffset =
       record.kind == FilterKind::kInt8u || record.kind == FilterKind::k8u || record.kind == FilterKind::k16u;
   if (offset != 0 && !takesOffset) return qvpStatusNotSupportedMode;

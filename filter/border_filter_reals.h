@@ -9,7 +9,8 @@ namespace qvp::filter {
 
 // Sums for two rows of results at a time: every result has one sum, to which the products are added in the order of
 // rows and columns.
-template <class T, class F, int kWidth = 0, int kHeight = 0>
+// kHasOffset: whether the record may have an offset.
+template <class T, class F, bool kHasOffset, int kWidth = 0, int kHeight = 0>
 class RealKernel {
  public:
   using Form = SingleRows<T, F>;
@@ -72,19 +73,17 @@ class RealKernel {
       });
     }
   }
+  // All NaN become one: which of two a sum keeps hangs on the order of an instruction's operands.
   template <int kCount, class V>
   HWY_INLINE void Store(const V (&sums)[kCount], T* to) const {
     const hn::ScalableTag<F> d;
     Unrolled<kCount>([&](auto v) QVP_INLINED {
       V result = sums[v];
-      if constexpr (sizeof(F) == sizeof(double)) {
-        result = hn::Div(hn::Add(result, hn::Set(d, offset_)), hn::Set(d, divisor_));
-      } else if (std::is_integral_v<T> || HWY_UNLIKELY(offset_ != 0)) {
-        result = hn::Add(result, hn::Set(d, offset_));
-      }
+      if constexpr (kHasOffset) result = hn::Add(result, hn::Set(d, offset_));
+      if constexpr (sizeof(F) == sizeof(double)) result = hn::Div(result, hn::Set(d, divisor_));
       if constexpr (std::is_integral_v<T>) {
         result = RoundedBy(mode_, d, result);
-      } else {  // one NaN for all: which of two a sum keeps hangs on the order of an instruction's operands
+      } else {
         result = hn::Or(result, hn::VecFromMask(d, hn::IsNaN(result)));
       }
       hn::StoreU(Narrow<T>(d, result), hn::Rebind<T, decltype(d)>(), to + v * kLanes);

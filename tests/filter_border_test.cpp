@@ -496,6 +496,40 @@ TEST(FilterBorder, ChecksOfInitAndModeInOrder) {
   EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, 1, spec), qvpStatusNotSupportedMode);
 }
 
+// What a refused Init leaves is no record, whichever check failed.
+TEST(FilterBorder, RefusedInitsLeaveNoRecord) {
+  const Filter<Qvp16s> f = RandomFilter<Qvp16s>({3, 3}, 5);
+  const Qvp32f kf[9] = {};
+  const Qvp64f kd[9] = {};
+  const std::function<QvpStatus(QvpiFilterBorderSpec*)> inits[] = {
+      [&](auto* s) {
+        return qvpiFilterBorderInit_16s(nullptr, {3, 3}, 1, qvp8u, 1, qvpRoundNear, s);
+      },
+      [&](auto* s) {
+        return qvpiFilterBorderInit_16s(f.kernel.data(), {0, 3}, 1, qvp8u, 1, qvpRoundNear, s);
+      },
+      [&](auto* s) {
+        return qvpiFilterBorderInit_16s(f.kernel.data(), {3, 3}, 0, qvp8u, 1, qvpRoundNear, s);
+      },
+      [&](auto* s) {
+        return qvpiFilterBorderInit_32f(kf, {3, 3}, qvp8u, 1, 3, s);
+      },
+      [&](auto* s) {
+        return qvpiFilterBorderInit_64f(kd, {3, 3}, qvp64f, 2, qvpRoundNear, s);
+      },
+  };
+  std::vector<Qvp8u> src(81), dst(81, 77);
+  for (const auto& init : inits) {
+    const Prepared<Qvp16s> prepared(f, {9, 9}, qvp8u, 1);
+    ASSERT_LT(init(prepared.get()), 0);
+    EXPECT_EQ(qvpiFilterBorder_8u_C1R(src.data(), 9, dst.data(), 9, {9, 9}, qvpBorderReplicate, nullptr, prepared.get(),
+                                      prepared.buffer()),
+              qvpStatusContextMatch);
+    EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, 1, prepared.get()), qvpStatusContextMatch);
+    for (const Qvp8u result : dst) ASSERT_EQ(result, 77);
+  }
+}
+
 TEST(FilterBorder, ChecksOfTheCallInOrder) {
   const Prepared<Qvp16s> prepared(RandomFilter<Qvp16s>({3, 3}, 5), {9, 9}, qvp8u, 1);
   const test::Image<Qvp8u> src(90, 9, 0), dst(90, 9, 0), before(dst);

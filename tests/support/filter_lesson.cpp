@@ -90,7 +90,8 @@ bool LearnInit(Scene& scene, std::string_view name, Argument& argument) {
                 : kernelType == qvp32f ? static_cast<const void*>(Kernel<Qvp32f>())
                                        : static_cast<const void*>(Kernel<Qvp64f>())};
   } else if (name == "pSpec") {
-    argument = {scene.Output(SizesFor(scene, type, kernelType).spec)};
+    // No output: a refused Init takes its identification away.
+    argument = {scene.Input(SizesFor(scene, type, kernelType).spec)};
   } else if (name == "dataType") {
     argument = {nullptr, type};
   } else if (name == "roundMode") {
