@@ -46,7 +46,7 @@ void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi) {
 
 QvpStatus Copy(const ConstBytes& src, const Bytes& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize>(roi, {src, dst})) return failed;
-  CopyPixels(src, dst, roi, StoreForMoved(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height));
+  CopyImage(src, dst, roi);
   return qvpStatusNoError;
 }
 
@@ -107,6 +107,11 @@ QvpStatus CopyManaged(const ConstBytes& src, const Bytes& dst, Size roi, int fla
 void qvp::CopyPixels(const ConstBytes& src, const Bytes& dst, Size roi, Store store) {
   store == Store::kStreaming ? CopyRows<Store::kStreaming>(src, dst, roi) : CopyRows<Store::kOrdinary>(src, dst, roi);
   Fence(store);
+}
+
+void qvp::CopyImage(const ConstBytes& src, const Bytes& dst, Size roi) {
+  if (KeepsAlpha(dst.layout)) return MoveChannels(src, dst, roi, {{0, 1, 2, kKeepChannel}});
+  CopyPixels(src, dst, roi, StoreForMoved(2 * static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height));
 }
 
 #define COPY(type, layout, impl)                                      \
