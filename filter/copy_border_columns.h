@@ -19,7 +19,7 @@ struct Piece {
 
 // The piece that begins with the first byte of pixel `x` and ends before pixel `end`, or sooner: where its sources do
 // not lie within 16 bytes.
-Piece MakePiece(const Border& border, ptrdiff_t x, ptrdiff_t end) {
+inline Piece MakePiece(const Border& border, ptrdiff_t x, ptrdiff_t end) {
   Piece piece{x * border.pixelBytes, PTRDIFF_MAX};
   ptrdiff_t source[kBlockBytes], last = 0;
   for (; x < end; ++x) {
@@ -71,7 +71,7 @@ HWY_INLINE void PutPiece(const Piece& piece, const Border& border, const uint8_t
   piece.bytes >= 2 ? PutEnds<2>(sources, piece, to) : PutEnds<1>(sources, piece, to);
 }
 
-void PutPieceBesideAlpha(const Piece& piece, const Border& border, const uint8_t* row, uint8_t* to) {
+inline void PutPieceBesideAlpha(const Piece& piece, const Border& border, const uint8_t* row, uint8_t* to) {
   for (int i = 0; i < piece.bytes; i += border.pixelBytes) {
     std::memcpy(to + piece.to + i, row + piece.from + piece.index[i], border.written);
   }

@@ -36,7 +36,7 @@ using Block = hn::FixedTag<uint8_t, kBlockBytes>;
 
 // Calls write(y, from, distance, count) for rows [y, y + count) that stand for rows `from`, `from` + distance, ...
 template <class Write>
-void ForEachBand(BorderKind kind, Extent rows, Extent source, const Write& write) {
+HWY_INLINE void ForEachBand(BorderKind kind, Extent rows, Extent source, const Write& write) {
   const auto rowFor = [&](ptrdiff_t y) { return BorderPosition(kind, y, source); };
   for (ptrdiff_t y = rows.begin, count = 1; y < rows.end; y += count, count = 1) {
     const ptrdiff_t from = rowFor(y), distance = y + 1 < rows.end ? rowFor(y + 1) - from : 0;

@@ -11,7 +11,7 @@ namespace qvp::filter {
 
 // Whether `bytes` of border columns, and what of the source follows in their block, are made from one block of it: the
 // one beside the edge, or the one a pixel further inside if no byte follows. A mirror folds once.
-bool IsNearItsSources(const Border& border, ptrdiff_t bytes) {
+inline bool IsNearItsSources(const Border& border, ptrdiff_t bytes) {
   if (border.kind != BorderKind::kMirror) return border.kind == BorderKind::kReplicate || bytes == 0;
   const ptrdiff_t reach = bytes + border.pixelBytes;
   return reach <= border.RowBytes() && (reach <= kBlockBytes || bytes == kBlockBytes);
@@ -143,7 +143,7 @@ class NarrowRows {
 // Copies rows with their borders. False, and nothing is written, if these are not narrow, or are short. `dst` begins
 // with the first pixel of the source.
 template <class D>
-bool WriteNarrowRows(const Border& border, const ConstBytes& src, const Bytes& dst, const Frame& frame,
+HWY_INLINE bool WriteNarrowRows(const Border& border, const ConstBytes& src, const Bytes& dst, const Frame& frame,
                      const Extent& rows) {
   if (!NarrowRows<D>::Serves(border, frame)) return false;
   NarrowRows<D>(border, frame).Write(border.kind, src, dst, {0, frame.src.height}, rows);
