@@ -42,7 +42,7 @@ QvpStatus qvpiHOGGetSize(const QvpiHOGConfig* pConfig, int* pSpecSize);
 
 /** @name Histogram of oriented gradients: initialisation
  *  @{ */
-/** Fills a record. It may lie at any address, may be moved, and is read only afterwards.
+/** Fills a record. It may lie at any address, may be moved or copied as bytes, and is read only afterwards.
  *
  *  A pixel (i, j) of a block has a weight for each of the four cells, a Gaussian times the linear share of the cell in
  *  either direction:
@@ -53,7 +53,7 @@ QvpStatus qvpiHOGGetSize(const QvpiHOGConfig* pConfig, int* pSpecSize);
  *  first and 1.5 for the second cell. Single precision.
  *
  *  @param pConfig the configuration; see qvpiHOGGetSize()
- *  @param pHOGSpec the record. After a failure every function refuses it
+ *  @param pHOGSpec the record. After a failure, whichever it was, every function refuses it
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
  *  - qvpStatusNotSupportedMode, qvpStatusSize: as qvpiHOGGetSize()
@@ -109,6 +109,10 @@ QvpStatus qvpiHOGGetDescriptorSize(const QvpiHOGSpec* pHOGSpec, int* pDescriptor
  *  3. For each block of a window the votes of its pixels, times their weights for the four cells, summed by cells and
  *  bins; then divided by sqrt(2^-23 + the sum of the squares), bounded by l2thresh, and divided by the same root
  *  again.
+ *
+ *  A gradient is not finite where one of the four neighbours is NaN or infinite (in 32f, any channel of C3), or where
+ *  gx^2 + gy^2 is beyond the range of floats, which it is not for pixels up to 10^18 in magnitude. All values of every
+ *  block with such a gradient are NaN; other blocks are not touched by it, and the status is qvpStatusNoError.
  *
  *  The descriptor of a window is nbins floats for each cell of each block:
  *

@@ -14,22 +14,31 @@ extern "C" {
 
 /** @name Copy with a constant border
  *  @{ */
-/** Copies an image into a larger one, with a constant around it.
+/** Copies an image into a larger one, with a constant around it; also in place.
  *
- *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. Border pixels take
- *  `value`, in the corners too. AC4 keeps alpha, in the border too. Otherwise the two images must not overlap.
+ *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. In place (I) it is there
+ *  already: the border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`, and nothing
+ *  but border pixels is written.
+ *
+ *  Border pixels take `value`, in the corners too. AC4 keeps alpha, in the border too.
+ *
+ *  The two images must not overlap.
  *
  *  @param pSrc,srcStep source image
+ *  @param pSrcDst,srcDstStep in place: the source, at its first pixel, inside of the image that gets the border
  *  @param srcRoiSize size of the source in pixels
  *  @param pDst,dstStep destination image, at the first pixel of its border
  *  @param dstRoiSize size of the destination, its border included
  *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
  *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
  *  @param value the constant: a number for C1, else a pointer to one number for each channel, three for AC4
- *  @return qvpStatusNullPointer: `pSrc`, `pDst` or `value` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a
- *          side of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusSize: a side of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is
+ *    negative, or the destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight`
+ *    plus the source
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiCopyConstBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvp8u value);
 QvpStatus qvpiCopyConstBorder_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp8u* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth, Qvp8u value);
@@ -71,26 +80,6 @@ QvpStatus qvpiCopyConstBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize 
 QvpStatus qvpiCopyConstBorder_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth, const Qvp32f value[4]);
 QvpStatus qvpiCopyConstBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvp32f value[3]);
 QvpStatus qvpiCopyConstBorder_32f_AC4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth, const Qvp32f value[3]);
-/** @} */
-
-/** @name A constant border in place
- *  @{ */
-/** Writes a constant around an image in place.
- *
- *  The border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`. Only border pixels
- *  are written. Border pixels take `value`, in the corners too. AC4 keeps alpha.
- *
- *  @param pSrcDst,srcDstStep the source, at its first pixel, inside of the image that gets the border
- *  @param srcRoiSize size of the source in pixels
- *  @param dstRoiSize size of the destination, its border included
- *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
- *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @param value the constant: a number for C1, else a pointer to one number for each channel, three for AC4
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side
- *          of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiCopyConstBorder_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvp8u value);
 QvpStatus qvpiCopyConstBorder_8u_C1IR_L(Qvp8u* pSrcDst, QvpSizeL srcDstStep, QvpiSizeL srcRoiSize, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth, Qvp8u value);
 QvpStatus qvpiCopyConstBorder_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvp8u value[3]);
@@ -135,26 +124,33 @@ QvpStatus qvpiCopyConstBorder_32f_AC4IR_L(Qvp32f* pSrcDst, QvpSizeL srcDstStep, 
 
 /** @name Copy with a replicated border
  *  @{ */
-/** Copies an image into a larger one, with the nearest edge pixel around it.
+/** Copies an image into a larger one, with the nearest edge pixel around it; also in place.
  *
- *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. A border pixel takes the
- *  nearest pixel of the source: column x takes column clamp(x, 0, W - 1), rows likewise, so that the corners take the
- *  corner pixels. W is the width of the source. AC4 keeps alpha, in the border too.
+ *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. In place (I) it is there
+ *  already: the border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`, and nothing
+ *  but border pixels is written.
+ *
+ *  A border pixel takes the nearest pixel of the source: column x takes column clamp(x, 0, W - 1), rows likewise, so
+ *  that the corners take the corner pixels. W is the width of the source. AC4 keeps alpha, in the border too.
  *
  *  If `pSrc` equals `pDst` the call is the in-place form before anything is checked: the source is then taken to lie at
  *  `pDst` with `dstStep`, and the border is written around it, also above and left of `pDst`. Otherwise the two images
  *  must not overlap.
  *
  *  @param pSrc,srcStep source image
+ *  @param pSrcDst,srcDstStep in place: the source, at its first pixel, inside of the image that gets the border
  *  @param srcRoiSize size of the source in pixels
  *  @param pDst,dstStep destination image, at the first pixel of its border
  *  @param dstRoiSize size of the destination, its border included
  *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
  *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrc` or `pDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusSize: a side of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is
+ *    negative, or the destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight`
+ *    plus the source
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiCopyReplicateBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyReplicateBorder_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp8u* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
@@ -196,26 +192,6 @@ QvpStatus qvpiCopyReplicateBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiS
 QvpStatus qvpiCopyReplicateBorder_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyReplicateBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyReplicateBorder_32f_AC4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
-/** @} */
-
-/** @name A replicated border in place
- *  @{ */
-/** Writes the nearest edge pixel around an image in place.
- *
- *  The border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`. Only border pixels
- *  are written. A border pixel takes the nearest pixel of the source: column x takes column clamp(x, 0, W - 1), rows
- *  likewise, so that the corners take the corner pixels. W is the width of the source. AC4 keeps alpha.
- *
- *  @param pSrcDst,srcDstStep the source, at its first pixel, inside of the image that gets the border
- *  @param srcRoiSize size of the source in pixels
- *  @param dstRoiSize size of the destination, its border included
- *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
- *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiCopyReplicateBorder_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyReplicateBorder_8u_C1IR_L(Qvp8u* pSrcDst, QvpSizeL srcDstStep, QvpiSizeL srcRoiSize, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyReplicateBorder_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
@@ -260,27 +236,35 @@ QvpStatus qvpiCopyReplicateBorder_32f_AC4IR_L(Qvp32f* pSrcDst, QvpSizeL srcDstSt
 
 /** @name Copy with a mirrored border
  *  @{ */
-/** Copies an image into a larger one, with a reflection around it.
+/** Copies an image into a larger one, with a reflection around it; also in place.
  *
- *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. Columns are reflected
- *  about the edge pixel, which is not repeated: column -k takes column k and column W - 1 + k takes column W - 1 - k,
- *  where W is the width of the source. Borders wider than W - 1 fold again, with period 2 W - 2; a source of one column
- *  gives all columns. Rows are reflected in the same way and on their own, in the corners too.
+ *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. In place (I) it is there
+ *  already: the border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`, and nothing
+ *  but border pixels is written.
+ *
+ *  Columns are reflected about the edge pixel, which is not repeated: column -k takes column k and column W - 1 + k
+ *  takes column W - 1 - k, where W is the width of the source. Borders wider than W - 1 fold again, with period
+ *  2 W - 2; a source of one column gives all columns. Rows are reflected in the same way and on their own, in the
+ *  corners too.
  *
  *  If `pSrc` equals `pDst` the call is the in-place form before anything is checked: the source is then taken to lie at
  *  `pDst` with `dstStep`, and the border is written around it, also above and left of `pDst`. Otherwise the two images
  *  must not overlap.
  *
  *  @param pSrc,srcStep source image
+ *  @param pSrcDst,srcDstStep in place: the source, at its first pixel, inside of the image that gets the border
  *  @param srcRoiSize size of the source in pixels
  *  @param pDst,dstStep destination image, at the first pixel of its border
  *  @param dstRoiSize size of the destination, its border included
  *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
  *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrc` or `pDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusSize: a side of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is
+ *    negative, or the destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight`
+ *    plus the source
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiCopyMirrorBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyMirrorBorder_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp8u* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
@@ -312,28 +296,6 @@ QvpStatus qvpiCopyMirrorBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize
 QvpStatus qvpiCopyMirrorBorder_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyMirrorBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyMirrorBorder_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
-/** @} */
-
-/** @name A mirrored border in place
- *  @{ */
-/** Writes a reflection around an image in place.
- *
- *  The border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`. Only border pixels
- *  are written. Columns are reflected about the edge pixel, which is not repeated: column -k takes column k and column
- *  W - 1 + k takes column W - 1 - k, where W is the width of the source. Borders wider than W - 1 fold again, with
- *  period 2 W - 2; a source of one column gives all columns. Rows are reflected in the same way and on their own, in
- *  the corners too.
- *
- *  @param pSrcDst,srcDstStep the source, at its first pixel, inside of the image that gets the border
- *  @param srcRoiSize size of the source in pixels
- *  @param dstRoiSize size of the destination, its border included
- *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
- *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiCopyMirrorBorder_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyMirrorBorder_8u_C1IR_L(Qvp8u* pSrcDst, QvpSizeL srcDstStep, QvpiSizeL srcRoiSize, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyMirrorBorder_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
@@ -368,51 +330,38 @@ QvpStatus qvpiCopyMirrorBorder_32f_C4IR_L(Qvp32f* pSrcDst, QvpSizeL srcDstStep, 
 
 /** @name Copy with a wrapped border
  *  @{ */
-/** Copies an image into a larger one, with a periodic continuation around it.
+/** Copies an image into a larger one, with a periodic continuation around it; also in place.
  *
- *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. Column x takes column x
- *  modulo W, where W is the width of the source and the remainder is not negative: the image is repeated, as often as
- *  it takes. Rows likewise.
+ *  The source goes to row `topBorderHeight` and column `leftBorderWidth` of the destination. In place (I) it is there
+ *  already: the border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`, and nothing
+ *  but border pixels is written.
+ *
+ *  Column x takes column x modulo W, where W is the width of the source and the remainder is not negative: the image is
+ *  repeated, as often as it takes. Rows likewise.
  *
  *  If `pSrc` equals `pDst`, and all checks are passed, the call is the in-place form: the source is then taken to lie
  *  at `pDst` with `dstStep`, and the border is written around it, also above and left of `pDst`. Otherwise the two
  *  images must not overlap.
  *
  *  @param pSrc,srcStep source image
+ *  @param pSrcDst,srcDstStep in place: the source, at its first pixel, inside of the image that gets the border
  *  @param srcRoiSize size of the source in pixels
  *  @param pDst,dstStep destination image, at the first pixel of its border
  *  @param dstRoiSize size of the destination, its border included
  *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
  *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrc` or `pDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusSize: a side of `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is
+ *    negative, or the destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight`
+ *    plus the source
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiCopyWrapBorder_32s_C1R(const Qvp32s* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp32s* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyWrapBorder_32s_C1R_L(const Qvp32s* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32s* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyWrapBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, Qvp32f* pDst, int dstStep, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyWrapBorder_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, QvpiSizeL srcRoiSize, Qvp32f* pDst, QvpSizeL dstStep, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
-/** @} */
-
-/** @name A wrapped border in place
- *  @{ */
-/** Writes a periodic continuation around an image in place.
- *
- *  The border begins `topBorderHeight` rows above and `leftBorderWidth` pixels left of `pSrcDst`. Only border pixels
- *  are written. Column x takes column x modulo W, where W is the width of the source and the remainder is not negative:
- *  the image is repeated, as often as it takes. Rows likewise.
- *
- *  @param pSrcDst,srcDstStep the source, at its first pixel, inside of the image that gets the border
- *  @param srcRoiSize size of the source in pixels
- *  @param dstRoiSize size of the destination, its border included
- *  @param topBorderHeight rows above the source; those below are what is left of the destination's height
- *  @param leftBorderWidth columns left of the source; those to the right are what is left of the destination's width
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusStep: a step is below 1. qvpStatusSize: a side of
- *          `srcRoiSize` or `dstRoiSize` is below 1, `topBorderHeight` or `leftBorderWidth` is negative, or the
- *          destination is narrower than `leftBorderWidth` plus the source or lower than `topBorderHeight` plus the
- *          source. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiCopyWrapBorder_32s_C1IR(Qvp32s* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 QvpStatus qvpiCopyWrapBorder_32s_C1IR_L(Qvp32s* pSrcDst, QvpSizeL srcDstStep, QvpiSizeL srcRoiSize, QvpiSizeL dstRoiSize, QvpSizeL topBorderHeight, QvpSizeL leftBorderWidth);
 QvpStatus qvpiCopyWrapBorder_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize srcRoiSize, QvpiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
@@ -438,11 +387,13 @@ QvpStatus qvpiCopyWrapBorder_32f_C1IR_L(Qvp32f* pSrcDst, QvpSizeL srcDstStep, Qv
  *  @param numChannels channels of a pixel, 1 to 4
  *  @param pSpecSize receives the size of the record in bytes
  *  @param pBufferSize receives the size of the work buffer in bytes
- *  @return qvpStatusSize: a side of `kernelSize` or `dstRoiSize` is below 1. qvpStatusDataType: the type of the image
- *          or of the kernel is none of those above, or just one of them is qvp64f. qvpStatusChannel: `numChannels` is
- *          outside 1 to 4, or not 1 for qvp64f. qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null.
- *          qvpStatusSizeOverflow: a size is beyond 2147483647; those that are not are written. qvpStatusNoError
- *          otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusSize: a side of `kernelSize` or `dstRoiSize` is below 1
+ *  - qvpStatusDataType: the type of the image or of the kernel is none of those above, or just one of them is qvp64f
+ *  - qvpStatusChannel: `numChannels` is outside 1 to 4, or not 1 for qvp64f
+ *  - qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null
+ *  - qvpStatusSizeOverflow: a size is beyond 2147483647; those that are not are written
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpDataType dataType, QvpDataType kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
 /** @} */
@@ -451,10 +402,20 @@ QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpD
  *  @{ */
 /** Makes the record of a general filter from a kernel of integers and a divisor.
  *
+ *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
+ *
+ *  @code
+ *    const Qvp16s kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *  @endcode
+ *
  *  For images of 8u, and of 16s with one channel and a kernel at least 3 wide and 2 high, or with two channels and a
  *  kernel at least 2 wide and high, results are exact whatever the coefficients: the sum of products is formed without
- *  loss, the quotient (sum + offset divisor) / divisor is rounded once, and saturated. For other images the kernel
- *  becomes one of 32f, with coefficients (float)(coefficient / divisor).
+ *  loss, the quotient (sum + offset divisor) / divisor is rounded once, and saturated.
+ *
+ *  For all other images, 16u among them, the kernel becomes one of 32f, with the coefficients
+ *  (float)(coefficient / divisor); see qvpiFilterBorderInit_32f(). These and their sums are rounded then, so that a
+ *  quotient halfway between two integers may go to either side. They are exact if the divisor is a power of two and
+ *  sums of products, before they are divided, stay below 2^24 in magnitude.
  *
  *  @param pKernel coefficients, row by row
  *  @param kernelSize size of the kernel
@@ -462,12 +423,17 @@ QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpD
  *  @param dataType type of the image: qvp8u, qvp16u or qvp16s
  *  @param numChannels channels of a pixel, 1 to 4
  *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero); 16 may be
- *         added to ask for accuracy, which changes nothing
- *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells
- *  @return qvpStatusNullPointer: `pKernel` or `pSpec` is null. qvpStatusSize: a side of `kernelSize` is below 1.
- *          qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode, qvpStatusDivisor: `dataType`, `numChannels`,
- *          `roundMode`, `divisor` is none of the above. qvpStatusAccurateModeNotSupported, a warning: accuracy was
- *          asked for, but the image is neither 8u nor 16s of one channel. qvpStatusNoError otherwise.
+ *         added to ask for accuracy, which changes no result
+ *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells; it must not be moved. After a failure,
+ *         whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pKernel` or `pSpec` is null
+ *  - qvpStatusSize: a side of `kernelSize` is below 1
+ *  - qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode, qvpStatusDivisor: `dataType`, `numChannels`, `roundMode`,
+ *    `divisor` is none of the above
+ *  - qvpStatusAccurateModeNotSupported, a warning: accuracy was asked for, but the image is neither 8u nor 16s of one
+ *    channel. The record is good
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorderInit_16s(const Qvp16s* pKernel, QvpiSize kernelSize, int divisor, QvpDataType dataType, int numChannels, QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec);
 /** @} */
@@ -476,19 +442,32 @@ QvpStatus qvpiFilterBorderInit_16s(const Qvp16s* pKernel, QvpiSize kernelSize, i
  *  @{ */
 /** Makes the record of a general filter from a kernel of single precision.
  *
- *  Products and sums are of single precision. They are added up in the order of rows and columns of the image, from the
- *  top left, into one sum for each result. Integer results are rounded and saturated; NaN gives the lowest value.
+ *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
+ *
+ *  @code
+ *    const Qvp32f kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *  @endcode
+ *
+ *  Products and sums are of single precision. Each result is the sum of +0 and the products in the order of rows and
+ *  columns of the image, from the top left. A result of zero is therefore +0, also where the kernel only copies a
+ *  pixel of -0, and a NaN or an infinity in reach of the kernel makes a NaN even if its coefficient is 0, as 0 times
+ *  either is NaN. Integer results are rounded and saturated; NaN gives the lowest value.
  *
  *  @param pKernel coefficients, row by row
  *  @param kernelSize size of the kernel
  *  @param dataType type of the image: qvp8u, qvp16u, qvp16s or qvp32f
  *  @param numChannels channels of a pixel, 1 to 4
  *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero), for integer
- *         results; 16 may be added to ask for accuracy, which changes nothing
- *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells
- *  @return qvpStatusNullPointer: `pKernel` or `pSpec` is null. qvpStatusSize: a side of `kernelSize` is below 1.
- *          qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode: `dataType`, `numChannels`, `roundMode` is none of
- *          the above. qvpStatusAccurateModeNotSupported, a warning: accuracy was asked for. qvpStatusNoError otherwise.
+ *         results; 16 may be added to ask for accuracy, which changes no result
+ *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells; it must not be moved. After a failure,
+ *         whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pKernel` or `pSpec` is null
+ *  - qvpStatusSize: a side of `kernelSize` is below 1
+ *  - qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode: `dataType`, `numChannels`, `roundMode` is none of the
+ *    above
+ *  - qvpStatusAccurateModeNotSupported, a warning: accuracy was asked for. The record is good
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorderInit_32f(const Qvp32f* pKernel, QvpiSize kernelSize, QvpDataType dataType, int numChannels, QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec);
 /** @} */
@@ -497,18 +476,27 @@ QvpStatus qvpiFilterBorderInit_32f(const Qvp32f* pKernel, QvpiSize kernelSize, Q
  *  @{ */
 /** Makes the record of a general filter from a kernel of double precision.
  *
- *  Products and sums are of double precision, added up in the order of rows and columns of the image, from the top
- *  left.
+ *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
+ *
+ *  @code
+ *    const Qvp64f kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *  @endcode
+ *
+ *  Products and sums are of double precision, added up as qvpiFilterBorderInit_32f() tells.
  *
  *  @param pKernel coefficients, row by row
  *  @param kernelSize size of the kernel
  *  @param dataType type of the image: qvp64f
  *  @param numChannels channels of a pixel: 1
  *  @param roundMode qvpRoundNear; 16 may be added
- *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells
- *  @return qvpStatusNullPointer: `pKernel` or `pSpec` is null. qvpStatusSize: a side of `kernelSize` is below 1.
- *          qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode: `dataType`, `numChannels`, `roundMode` is none of
- *          the above. qvpStatusNoError otherwise.
+ *  @param pSpec the record, of the size that qvpiFilterBorderGetSize() tells; it must not be moved. After a failure,
+ *         whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pKernel` or `pSpec` is null
+ *  - qvpStatusSize: a side of `kernelSize` is below 1
+ *  - qvpStatusDataType, qvpStatusChannel, qvpStatusRoundMode: `dataType`, `numChannels`, `roundMode` is none of the
+ *    above
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorderInit_64f(const Qvp64f* pKernel, QvpiSize kernelSize, QvpDataType dataType, int numChannels, QvpRoundMode roundMode, QvpiFilterBorderSpec* pSpec);
 /** @} */
@@ -517,14 +505,18 @@ QvpStatus qvpiFilterBorderInit_64f(const Qvp64f* pKernel, QvpiSize kernelSize, Q
  *  @{ */
 /** Sets a hint and an offset that is added to every result, before it is rounded and saturated.
  *
- *  An Init function sets the offset to 0. A hint changes no result: sums are as accurate as they can be.
+ *  An Init function sets the offset to 0. The hint is accepted and changes no result: qvpAlgHintAccurate and
+ *  qvpAlgHintFast are the same here, as integer kernels are exact and the others have one order of additions.
  *
  *  @param hint any number
  *  @param offset what is added: for integer kernels the result is round((sum + offset divisor) / divisor), for others
- *         round(sum + offset)
+ *         round(sum + offset); float images filtered with a record for integers take it too, sum + offset
  *  @param pSpec a record for 8u or 16u images; for others the offset must be 0
- *  @return qvpStatusNullPointer: `pSpec` is null. qvpStatusNotSupportedMode: `offset` is not 0 and the record is
- *          neither for 8u nor for 16u images. qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusContextMatch: the record was not made by an Init function of the general filter
+ *  - qvpStatusNotSupportedMode: `offset` is not 0 and the record is neither for 8u nor for 16u images
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterBorderSpec* pSpec);
 /** @} */
@@ -539,8 +531,12 @@ QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterB
  *  divided and rounded is told at the Init functions.
  *
  *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
- *  kernel reaches; the kind is applied outside of the region so enlarged. A tile is filtered like the whole image, to
- *  the bit, if the flags of its inner sides are set. The destination must not overlap with what is read.
+ *  kernel reaches; the kind is applied outside of the region so enlarged.
+ *
+ *  A tile is filtered like the whole image, to the bit, if the flags of its inner sides are set. With qvpBorderMirror
+ *  and an even side of the kernel, tiles at the right or the lower edge must be at least two pixels long that way, as
+ *  the reflection there needs one pixel more than what is in memory before the tile. The destination must not overlap
+ *  with what is read.
  *
  *  A record that was made for another pixel type, with no more channels than it says, computes the same filter, slower.
  *
@@ -552,10 +548,13 @@ QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterB
  *  @param borderValue one value for each channel; read for qvpBorderConst only
  *  @param pSpec the record
  *  @param pBuffer work buffer of the size that qvpiFilterBorderGetSize() tells
- *  @return qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst.
- *          qvpStatusSize: a side of `dstRoiSize` is below 1. qvpStatusStep: `srcStep` is below 1, or `dstStep` below
- *          the width of the region times the size of one channel. qvpStatusBorder: `borderType` is none of the above.
- *          qvpStatusNoError otherwise.
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `dstRoiSize` is below 1
+ *  - qvpStatusStep: `srcStep` is below 1, or `dstStep` below the width of the region times the size of one channel
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: the record was not made by an Init function of the general filter
+ *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiFilterBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFilterBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize dstRoiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer);
