@@ -35,10 +35,10 @@ void DescribeWindows(const Record& record, const uint8_t* weights, const Planes&
     const QvpiPoint only = LocationAt(locations, 0);
     return isInside(only) ? windows.Write(only.x, only.y, nullptr) : void();
   }
-  FinishedBlocks finished(planes);
+  BlockCache cache(planes);
   for (int i = 0; i < count; ++i) {
     const QvpiPoint location = LocationAt(locations, i);
-    if (isInside(location)) windows.Write(location.x, location.y, &finished);
+    if (isInside(location)) windows.Write(location.x, location.y, &cache);
   }
 }
 

@@ -15,7 +15,7 @@ using Cells = hn::FixedTag<float, kCells>;
 
 // Pixels take turns in several histograms, as an addition has to wait for the one before it to the same row. The sides
 // of blocks are even.
-constexpr int kTurns = 4, kMostBins = 16, kWeightBytes = kCells * sizeof(float);
+constexpr int kPartials = 4, kMostBins = 16, kWeightBytes = kCells * sizeof(float);
 
 // A row of a histogram: the lower and the upper shares of the four cells.
 constexpr int kRowFloats = 2 * kCells;
@@ -54,24 +54,24 @@ class Block {
 
   // The weighted votes of the pixels of the block whose first pixel is at `first`, by bins, a lane for each cell.
   void Gather(const Planes& planes, ptrdiff_t first, const uint8_t* weights, int side) {
-    HWY_ALIGN Turn turns[kTurns];
+    HWY_ALIGN PartialHistogram partials[kPartials];
     for (int i = 0; i < (bins_ + 1) * kRowFloats; i += hn::MaxLanes(RowTag())) {
-      for (auto& turn : turns) hn::Store(hn::Zero(RowTag()), RowTag(), turn + i);
+      for (auto& partial : partials) hn::Store(hn::Zero(RowTag()), RowTag(), partial + i);
     }
     const ptrdiff_t width = planes.width();
     const uint8_t *rows = planes.Rows() + first, *shares = planes.Shares() + first * Planes::kPairBytes;
     const ptrdiff_t rowBytes = ptrdiff_t{side} * kWeightBytes;
     for (int j = 0; j < side; j += 2) {
       for (ptrdiff_t i = 0; i < side; i += 2) {
-        AddPair(rows + i, shares + i * Planes::kPairBytes, weights + i * kWeightBytes, turns);
+        AddPair(rows + i, shares + i * Planes::kPairBytes, weights + i * kWeightBytes, partials);
         AddPair(rows + width + i, shares + (width + i) * Planes::kPairBytes, weights + rowBytes + i * kWeightBytes,
-                turns + 2);
+                partials + 2);
       }
       rows += 2 * width;
       shares += 2 * width * Planes::kPairBytes;
       weights += 2 * rowBytes;
     }
-    Sum(turns);
+    Sum(partials);
   }
 
   // Divided by the length, clipped, and divided by the length again. All are NaN if one is.
@@ -98,22 +98,23 @@ class Block {
   }
 
  private:
-  using Turn = float[(kMostBins + 1) * kRowFloats];
+  using PartialHistogram = float[(kMostBins + 1) * kRowFloats];
 
-  static HWY_INLINE void AddPair(const uint8_t* rows, const uint8_t* shares, const uint8_t* weights, Turn* turns) {
+  static HWY_INLINE void AddPair(const uint8_t* rows, const uint8_t* shares, const uint8_t* weights,
+                                 PartialHistogram* partials) {
     const TwoPixels pixels(shares);
-    pixels.Add<0>(RowTag(), weights, turns[0] + ptrdiff_t{rows[0]} * (kRowFloats / kRowStep));
-    pixels.Add<1>(RowTag(), weights + kWeightBytes, turns[1] + ptrdiff_t{rows[1]} * (kRowFloats / kRowStep));
+    pixels.Add<0>(RowTag(), weights, partials[0] + ptrdiff_t{rows[0]} * (kRowFloats / kRowStep));
+    pixels.Add<1>(RowTag(), weights + kWeightBytes, partials[1] + ptrdiff_t{rows[1]} * (kRowFloats / kRowStep));
   }
 
   float* Bin(int b) { return votes_ + b * kCells; }
 
   // Bin b has the lower shares of row b + 1 and the upper ones of row b. Beyond either end are the rows where the half
   // turn closes.
-  void Sum(const Turn (&turns)[kTurns]) {
+  void Sum(const PartialHistogram (&partials)[kPartials]) {
     const Cells d;
     const auto at = [&](int row, int half) HWY_ATTR {
-      const auto of = [&](int turn) { return hn::Load(d, turns[turn] + row * kRowFloats + half * kCells); };
+      const auto of = [&](int i) { return hn::Load(d, partials[i] + row * kRowFloats + half * kCells); };
       return hn::Add(hn::Add(of(0), of(1)), hn::Add(of(2), of(3)));
     };
     for (int b = 0; b < bins_; ++b) hn::Store(hn::Add(at(b + 1, 0), at(b, 1)), d, Bin(b));

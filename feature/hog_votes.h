@@ -12,23 +12,24 @@
 namespace qvp::hog {
 
 using Floats = hn::ScalableTag<float>;
-using V = hn::Vec<Floats>;
-constexpr ptrdiff_t kLanes = hn::MaxLanes(Floats());
+using FloatVector = hn::Vec<Floats>;
+inline constexpr ptrdiff_t kLanes = hn::MaxLanes(Floats());
 
 // Of a number that is not negative.
-HWY_INLINE hn::Mask<Floats> IsFinite(V v) {
+HWY_INLINE hn::Mask<Floats> IsFinite(FloatVector v) {
   return hn::Lt(v, hn::Set(Floats(), std::numeric_limits<float>::infinity()));
 }
 
 // The direction of a gradient in [0, pi], whatever its sense. The ends are the same direction: no gradient, and any
 // along the rows, may have either. Gradients that the quotient leaves out have no magnitude.
-HWY_INLINE V Direction(V gx, V gy) {
+HWY_INLINE FloatVector Direction(FloatVector gx, FloatVector gy) {
   const Floats d;
-  const V ax = hn::Abs(gx), ay = hn::Abs(gy), longer = hn::Max(hn::Max(ax, ay), hn::Set(d, 0x1p-126f));
-  const V acute = ArcTangent(hn::Div(hn::Min(ax, ay), longer));
-  const auto reflected = [&](V angle, V signs, float sum) HWY_ATTR {  // the sum less the angle where the sign is set
+  const FloatVector ax = hn::Abs(gx), ay = hn::Abs(gy), longer = hn::Max(hn::Max(ax, ay), hn::Set(d, 0x1p-126f));
+  const FloatVector acute = ArcTangent(hn::Div(hn::Min(ax, ay), longer));
+  const auto reflected = [&](FloatVector angle, FloatVector signs,
+                             float sum) HWY_ATTR {  // the sum less the angle where the sign is set
     const hn::Rebind<int32_t, Floats> ints;
-    const V all = hn::BitCast(d, hn::BroadcastSignBit(hn::BitCast(ints, signs)));
+    const FloatVector all = hn::BitCast(d, hn::BroadcastSignBit(hn::BitCast(ints, signs)));
     return hn::Add(hn::Xor(angle, hn::And(signs, hn::Set(d, -0.0f))), hn::And(all, hn::Set(d, sum)));
   };
   return reflected(reflected(acute, hn::Sub(ax, ay), 0x1.921fb6p+0f), hn::Xor(gx, gy), 0x1.921fb6p+1f);
@@ -37,15 +38,15 @@ HWY_INLINE V Direction(V gx, V gy) {
 // Bins are centred at (k + 1/2) pi / bins; the vote is shared linearly between the two nearest. Of a gradient that is
 // not finite, or whose square is not, both shares are NaN and go to row 0.
 template <class T>
-HWY_INLINE void Vote(V gx, V gy, int bins, const Votes& to, ptrdiff_t i) {
+HWY_INLINE void Vote(FloatVector gx, FloatVector gy, int bins, const Votes& to, ptrdiff_t i) {
   const Floats d;
   const hn::Rebind<uint8_t, Floats> bytes;
   const float count = static_cast<float>(bins);
-  const V magnitude = hn::Sqrt(hn::Add(hn::Mul(gx, gx), hn::Mul(gy, gy)));
-  V place = hn::Add(hn::Mul(Direction(gx, gy), hn::Set(d, count * 0x1.45f306p-2f)), hn::Set(d, 0.5f));
+  const FloatVector magnitude = hn::Sqrt(hn::Add(hn::Mul(gx, gx), hn::Mul(gy, gy)));
+  FloatVector place = hn::Add(hn::Mul(Direction(gx, gy), hn::Set(d, count * 0x1.45f306p-2f)), hn::Set(d, 0.5f));
   if constexpr (std::is_floating_point_v<T>) place = hn::IfThenElseZero(IsFinite(magnitude), place);
-  const V row = hn::Floor(place);
-  const V share = hn::Mul(magnitude, hn::Sub(place, row));
+  const FloatVector row = hn::Floor(place);
+  const FloatVector share = hn::Mul(magnitude, hn::Sub(place, row));
   hn::StoreInterleaved2(hn::Sub(magnitude, share), share, d, to.shares + 2 * i);
   hn::StoreU(hn::DemoteTo(bytes, RoundToInt(hn::Mul(row, hn::Set(d, float{kRowStep})))), bytes, to.row + i);
 }
@@ -64,24 +65,24 @@ struct Gradient<T, 1> {
     x = hn::Sub(hn::LoadU(d, lines.at + i + 2), hn::LoadU(d, lines.at + i));
     y = hn::Sub(hn::LoadU(d, lines.below + i + 1), hn::LoadU(d, lines.above + i + 1));
   }
-  V x, y;
+  FloatVector x, y;
 };
 // The channel with the longest gradient, the first of several. Not finite if that of any channel is not.
 template <class T>
 struct Gradient<T, 3> {
   HWY_INLINE Gradient(const Neighbours& lines, ptrdiff_t i) {
     const Floats d;
-    V left[3], right[3], above[3], below[3];
+    FloatVector left[3], right[3], above[3], below[3];
     hn::LoadInterleaved3(d, lines.at + 3 * i, left[0], left[1], left[2]);
     hn::LoadInterleaved3(d, lines.at + 3 * i + 6, right[0], right[1], right[2]);
     hn::LoadInterleaved3(d, lines.above + 3 * i + 3, above[0], above[1], above[2]);
     hn::LoadInterleaved3(d, lines.below + 3 * i + 3, below[0], below[1], below[2]);
     x = hn::Sub(right[0], left[0]);
     y = hn::Sub(below[0], above[0]);
-    V longest = hn::Add(hn::Mul(x, x), hn::Mul(y, y)), sum = longest;
+    FloatVector longest = hn::Add(hn::Mul(x, x), hn::Mul(y, y)), sum = longest;
     for (int c = 1; c < 3; ++c) {
-      const V gx = hn::Sub(right[c], left[c]), gy = hn::Sub(below[c], above[c]);
-      const V square = hn::Add(hn::Mul(gx, gx), hn::Mul(gy, gy));
+      const FloatVector gx = hn::Sub(right[c], left[c]), gy = hn::Sub(below[c], above[c]);
+      const FloatVector square = hn::Add(hn::Mul(gx, gx), hn::Mul(gy, gy));
       const auto isLonger = hn::Gt(square, longest);
       x = hn::IfThenElse(isLonger, gx, x);
       y = hn::IfThenElse(isLonger, gy, y);
@@ -90,11 +91,11 @@ struct Gradient<T, 3> {
     }
     if constexpr (std::is_floating_point_v<T>) x = hn::IfThenElse(IsFinite(sum), x, sum);
   }
-  V x, y;
+  FloatVector x, y;
 };
 
 // Pixels are taken by pieces of a row, so that lines of floats fit into the first-level cache.
-constexpr ptrdiff_t kPiece = 256;
+inline constexpr ptrdiff_t kPiece = 256;
 
 // The votes of the pixels of some columns, for all rows of a region.
 template <class T, int kChannels>

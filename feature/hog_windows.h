@@ -14,9 +14,9 @@ inline void CopyVectors(const uint8_t* from, uint8_t* to, int n) {
 // Where blocks that were written already lie, by the place of their first pixel: windows overlap, and a block that is
 // copied has the bits of one that is computed. A hash table in what the work buffer has left; a block that finds kWays
 // others where it belongs takes the entry of one.
-class FinishedBlocks {
+class BlockCache {
  public:
-  explicit FinishedBlocks(const Planes& planes) : table_(planes.Rest()) {
+  explicit BlockCache(const Planes& planes) : table_(planes.Rest()) {
     while (2 * (mask_ + 1) * kEntryBytes <= planes.RestBytes()) mask_ = 2 * mask_ + 1;
     std::memset(table_, 0, (mask_ + 1) * kEntryBytes);
   }
@@ -66,8 +66,8 @@ class Windows {
   Windows(const Record& record, const uint8_t* weights, const Planes& planes, uint8_t* dst)
       : record_(record), weights_(weights), planes_(planes), dst_(dst), block_(record.config.nbins) {}
 
-  // The blocks of the window at a pixel. `finished` may be null.
-  void Write(ptrdiff_t x, ptrdiff_t y, FinishedBlocks* finished) {
+  // The blocks of the window at a pixel. `cache` may be null.
+  void Write(ptrdiff_t x, ptrdiff_t y, BlockCache* cache) {
     const bool byColumns = record_.config.cvCompatible != 0;
     const int outer = byColumns ? record_.blocksAcross : record_.blocksDown;
     const int inner = byColumns ? record_.blocksDown : record_.blocksAcross;
@@ -76,16 +76,16 @@ class Windows {
         const int across = byColumns ? o : i, down = byColumns ? i : o;
         WriteBlock((y + ptrdiff_t{down} * record_.config.blockStride) * planes_.width() + x +
                        ptrdiff_t{across} * record_.config.blockStride,
-                   finished);
+                   cache);
       }
     }
   }
 
  private:
-  void WriteBlock(ptrdiff_t first, FinishedBlocks* finished) {
+  void WriteBlock(ptrdiff_t first, BlockCache* cache) {
     const int bytes = kCells * record_.config.nbins * static_cast<int>(sizeof(float));
-    uint8_t* const entry = finished ? finished->Entry(first) : nullptr;
-    const int64_t found = entry ? FinishedBlocks::Find(entry, first) : -1;
+    uint8_t* const entry = cache ? cache->Entry(first) : nullptr;
+    const int64_t found = entry ? BlockCache::Find(entry, first) : -1;
     if (found >= 0) {
       CopyVectors(dst_ + found, dst_ + offset_, record_.config.nbins);
     } else {
@@ -93,7 +93,7 @@ class Windows {
       block_.Normalise(record_.config.l2thresh);
       block_.Write(record_.config.cvCompatible != 0, dst_ + offset_);
     }
-    if (entry) FinishedBlocks::Put(entry, first, offset_);
+    if (entry) BlockCache::Put(entry, first, offset_);
     offset_ += bytes;
   }
 
