@@ -16,7 +16,7 @@ using FloatVector = hn::Vec<Floats>;
 inline constexpr ptrdiff_t kLanes = hn::MaxLanes(Floats());
 
 // Of a number that is not negative.
-HWY_INLINE hn::Mask<Floats> IsFinite(FloatVector v) {
+HWY_INLINE hn::Mask<Floats> IsBelowInfinity(FloatVector v) {
   return hn::Lt(v, hn::Set(Floats(), std::numeric_limits<float>::infinity()));
 }
 
@@ -44,7 +44,7 @@ HWY_INLINE void Vote(FloatVector gx, FloatVector gy, int bins, const Votes& to, 
   const float count = static_cast<float>(bins);
   const FloatVector magnitude = hn::Sqrt(hn::Add(hn::Mul(gx, gx), hn::Mul(gy, gy)));
   FloatVector place = hn::Add(hn::Mul(Direction(gx, gy), hn::Set(d, count * 0x1.45f306p-2f)), hn::Set(d, 0.5f));
-  if constexpr (std::is_floating_point_v<T>) place = hn::IfThenElseZero(IsFinite(magnitude), place);
+  if constexpr (std::is_floating_point_v<T>) place = hn::IfThenElseZero(IsBelowInfinity(magnitude), place);
   const FloatVector row = hn::Floor(place);
   const FloatVector share = hn::Mul(magnitude, hn::Sub(place, row));
   hn::StoreInterleaved2(hn::Sub(magnitude, share), share, d, to.shares + 2 * i);
@@ -89,7 +89,7 @@ struct Gradient<T, 3> {
       longest = hn::Max(square, longest);  // of NaN, which one does not matter
       sum = hn::Add(sum, square);
     }
-    if constexpr (std::is_floating_point_v<T>) x = hn::IfThenElse(IsFinite(sum), x, sum);
+    if constexpr (std::is_floating_point_v<T>) x = hn::IfThenElse(IsBelowInfinity(sum), x, sum);
   }
   FloatVector x, y;
 };
