@@ -78,7 +78,7 @@ class Block {
   void Normalise(float most) {
     const Cells d;
     const float inverse = InverseLength();
-    if (std::isnan(inverse)) return static_cast<void>(std::fill_n(votes_, bins_ * kCells, inverse));
+    if (std::isnan(inverse)) return static_cast<void>(std::fill_n(votes_, bins_ * kCells, NAN));
     const auto first = hn::Set(d, inverse), bound = hn::Set(d, most);
     for (int b = 0; b < bins_; ++b) {
       hn::Store(hn::Min(hn::Mul(hn::Load(d, Bin(b)), first), bound), d, Bin(b));

@@ -30,8 +30,8 @@ struct FilterRecord {
   int32_t divisor, offset;  // integer kinds divide by the divisor; the offset is added to the quotient
   QvpRoundMode roundMode;   // with the flag of accuracy
   QvpHintAlgorithm hint;
-  int64_t positive, negative;  // sums of the coefficients of an integer kernel of either sign
   PairForm pairForm;
+  int64_t positive, negative;  // sums of the coefficients of an integer kernel of either sign
 
   static constexpr uint32_t kIdentification = 0x46427264;
   static constexpr int kHeadBytes = 128, kModeMask = 3;
