@@ -144,7 +144,7 @@ class NarrowRows {
 // with the first pixel of the source.
 template <class D>
 HWY_INLINE bool WriteNarrowRows(const Border& border, const ConstBytes& src, const Bytes& dst, const Frame& frame,
-                     const Extent& rows) {
+                                const Extent& rows) {
   if (!NarrowRows<D>::Serves(border, frame)) return false;
   NarrowRows<D>(border, frame).Write(border.kind, src, dst, {0, frame.src.height}, rows);
   return true;
