@@ -24,13 +24,13 @@ enum class PairForm : int32_t {
 //   float kinds: the coefficients as float
 //   integer kinds: pairs of coefficients, see PairsAt
 struct FilterRecord {
-  uint32_t identification;
   FilterKind kind;
   int32_t width, height, channels;
   int32_t divisor, offset;  // integer kinds divide by the divisor; the offset is added to the quotient
   QvpRoundMode roundMode;   // with the flag of accuracy
   QvpHintAlgorithm hint;
   PairForm pairForm;
+  uint32_t identification;
   int64_t positive, negative;  // sums of the coefficients of an integer kernel of either sign
 
   static constexpr uint32_t kIdentification = 0x46427264;

@@ -221,7 +221,8 @@ QvpStatus FillFromDoubles(const FilterRequest& request, FilterRecord* record) {
 template <class Fill>
 QvpStatus Init(QvpiFilterBorderSpec* spec, const Fill& fill) {
   FilterRecord* const record = spec ? FilterRecord::At(spec) : nullptr;
-  return InitRecord(record, FilterRecord::kIdentification, [&] { return fill(record); });
+  return InitRecord(record ? &record->identification : nullptr, FilterRecord::kIdentification,
+                    [&] { return fill(record); });
 }
 
 }  // namespace
