@@ -8,18 +8,23 @@
 
 namespace qvp {
 
+// A block of four 32-bit words at addresses at(0) to at(3).
+template <class T, class At>
+HWY_INLINE hn::Vec<hn::Full128<T>> LoadWords(const At& at) {
+  const hn::Full128<T> d;
+  const hn::Half<decltype(d)> half;
+  const auto one = [&](int i) HWY_ATTR { return hn::LoadU(hn::CappedTag<T, 1>(), at(i)); };
+  return hn::Combine(d, hn::Combine(half, one(3), one(2)), hn::Combine(half, one(1), one(0)));
+}
+
 // The 32-bit words at byte offsets from any address. Beyond one block, gathering is quicker than single loads.
 template <class D>
 HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<D> offset) {
   if constexpr (hn::MaxLanes(D()) * sizeof(int32_t) > kBlockBytes) {
     return hn::GatherOffset(d, reinterpret_cast<const int32_t*>(base), offset);
   } else {
-    const hn::CappedTag<int32_t, 1> one;
-    const hn::Half<D> half;
-    const auto at = [&](int i) HWY_ATTR {
-      return hn::LoadU(one, reinterpret_cast<const int32_t*>(base + hn::ExtractLane(offset, i)));
-    };
-    return hn::Combine(d, hn::Combine(half, at(3), at(2)), hn::Combine(half, at(1), at(0)));
+    return LoadWords<int32_t>(
+        [&](int i) HWY_ATTR { return reinterpret_cast<const int32_t*>(base + hn::ExtractLane(offset, i)); });
   }
 }
 

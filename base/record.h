@@ -21,8 +21,8 @@ T* AtBoundary(T* p) {
 }
 
 // Makes a record: fill() checks all arguments, writes all but the identification, and tells the status. The word that
-// identifies the record is cleared first and written last, so that what a refused or unfinished Init leaves is no record
-// to anyone, whichever check failed. Without a record, a null pointer, fill() is to say so.
+// identifies the record is cleared first and written last, so that what a refused or unfinished Init leaves is no
+// record to anyone, whichever check failed. Without a record, a null pointer, fill() is to say so.
 template <class Fill>
 QvpStatus InitRecord(void* identification, uint32_t tag, const Fill& fill) {
   const auto put = [&](uint32_t word) { std::memcpy(identification, &word, sizeof(word)); };

@@ -1,6 +1,7 @@
 // What all warp calls share: their checks, and the walk over rows and blocks.
 #pragma once
 
+#include "base/types.h"
 #include "geometry/sampler.h"
 #include "geometry/warp_anchors.h"
 #include "geometry/warp_spans.h"
@@ -20,14 +21,6 @@ struct Call {
 };
 
 template <class T>
-constexpr QvpDataType TypeOf() {
-  if (std::is_same_v<T, uint8_t>) return qvp8u;
-  if (std::is_same_v<T, uint16_t>) return qvp16u;
-  if (std::is_same_v<T, int16_t>) return qvp16s;
-  return std::is_same_v<T, float> ? qvp32f : qvp64f;
-}
-
-template <class T>
 QvpStatus Check(const Call<T>& call, QvpiInterpolationType interpolation) {
   const Record* record = call.spec ? RecordOf(call.spec) : nullptr;
   if (record && !IsOf(call.form, record)) return qvpStatusContextMatch;
@@ -38,7 +31,7 @@ QvpStatus Check(const Call<T>& call, QvpiInterpolationType interpolation) {
   if (call.src.step % kElement != 0 || call.dst.step % kElement != 0) return qvpStatusStep;
   if (call.x < 0 || call.y < 0 || call.x >= record->width || call.y >= record->height) return qvpStatusOutOfRange;
   const bool isMeant = record->kind == call.kind && record->interpolation == interpolation &&
-                       record->type == TypeOf<T>() && record->channels == Channels(call.src.layout);
+                       record->type == DataTypeOf<T>() && record->channels == Channels(call.src.layout);
   return isMeant ? qvpStatusNoError : qvpStatusContextMatch;
 }
 

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <type_traits>
 
+#include "base/blocks.h"
+#include "base/gather.h"
 #include "signal/dft_passes.h"
 
 namespace qvp::dft {
@@ -39,9 +41,7 @@ HWY_INLINE void Transpose(V (&v)[kTile]) {
 
 HWY_INLINE hn::Vec<Quad> LoadQuad(const float* from, ptrdiff_t stride) {
   if (stride == sizeof(float)) return hn::LoadU(Quad(), from);
-  float four[kTile];
-  for (int i = 0; i < kTile; ++i) Copy(At(from, i * stride), four + i);
-  return hn::Vec<Quad>{_mm_setr_ps(four[0], four[1], four[2], four[3])};
+  return LoadWords<float>([&](int i) { return At(from, i * stride); });
 }
 
 HWY_INLINE void StoreQuad(hn::Vec<Quad> v, float* to, ptrdiff_t stride) {
@@ -98,17 +98,7 @@ HWY_INLINE void FillUp(const DftLines<T>& lines, T* (&all)[kDftLines]) {
 }
 
 // The first and the second floats of the pairs in two vectors, within each block those of `a` before those of `b`.
-template <size_t N>
-HWY_INLINE Complex<hn::Vec128<float, N>> Parted(hn::Vec128<float, N> a, hn::Vec128<float, N> b) {
-  return {hn::Vec128<float, N>{_mm_shuffle_ps(a.raw, b.raw, 0x88)},
-          hn::Vec128<float, N>{_mm_shuffle_ps(a.raw, b.raw, 0xDD)}};
-}
-#if HWY_TARGET <= HWY_AVX2
-HWY_INLINE Complex<hn::Vec256<float>> Parted(hn::Vec256<float> a, hn::Vec256<float> b) {
-  return {hn::Vec256<float>{_mm256_shuffle_ps(a.raw, b.raw, 0x88)},
-          hn::Vec256<float>{_mm256_shuffle_ps(a.raw, b.raw, 0xDD)}};
-}
-#endif
+HWY_INLINE Complex<V> Parted(V a, V b) { return {EvenLanesOfBlocks(a, b), OddLanesOfBlocks(a, b)}; }
 
 // Neighbouring complex numbers of a row, in vectors of kHalf numbers. Of less than eight, vectors overlap.
 inline constexpr int kHalf = kLanes / 2;

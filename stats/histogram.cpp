@@ -5,6 +5,7 @@
 #include "base/byte_counts.h"
 #include "base/check.h"
 #include "base/export.h"
+#include "base/types.h"
 #include "stats/guessed_bins.h"
 
 namespace {
@@ -109,12 +110,6 @@ void CountPixels(const HistogramTask<T>& task, uint32_t* buffer) {
 }
 
 template <class T>
-constexpr QvpDataType kDataType = sizeof(T) == 1        ? qvp8u
-                                  : sizeof(T) == 4      ? qvp32f
-                                  : std::is_signed_v<T> ? qvp16s
-                                                        : qvp16u;
-
-template <class T>
 QvpStatus Histogram(const Image<const T>& src, Size roi, uint32_t* const* counts, const QvpiHistogramSpec* spec,
                     const void* buffer) {
   if (const QvpStatus failed = Validate<kPointers>(roi, {src}, {counts, spec, buffer})) return failed;
@@ -125,7 +120,7 @@ QvpStatus Histogram(const Image<const T>& src, Size roi, uint32_t* const* counts
   if (src.step < static_cast<int64_t>(roi.width) * src.PixelBytes()) return qvpStatusStep;
   const HistogramRecord record(spec);
   const HistogramHeader& header = record.header();
-  if (!record.IsValid() || header.dataType != kDataType<T> || header.channels < Channels(src.layout)) {
+  if (!record.IsValid() || header.dataType != DataTypeOf<T>() || header.channels < Channels(src.layout)) {
     return qvpStatusBadArgument;
   }
   const HistogramTask<T> task{src, roi, counts, record};
