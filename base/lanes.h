@@ -52,34 +52,37 @@ HWY_INLINE auto NarrowToUnsigned32(D d, V v) {
   return hn::IfThenElse(hn::RebindMask(to, isAbove), hn::Set(to, 0xFFFFFFFF), hn::Add(whole, upper));
 }
 
+// The same to integers of up to 32 bits; NaN gives the lowest value of T.
+template <class T, class D, class V = hn::Vec<D>>
+HWY_INLINE auto NarrowReal(D d, V v) {
+  using F = hn::TFromD<D>;
+  using Limits = std::numeric_limits<T>;
+  const hn::Rebind<T, D> to;
+  const hn::Rebind<int32_t, D> ints;
+  const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<F>(Limits::lowest())));
+  if constexpr (std::is_same_v<F, double>) {
+    const auto whole = hn::DemoteTo(ints, hn::Round(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
+    if constexpr (sizeof(T) < sizeof(int32_t)) return hn::DemoteTo(to, whole);
+    if constexpr (sizeof(T) == sizeof(int32_t)) return whole;
+  } else if constexpr (sizeof(T) < sizeof(int32_t)) {
+    return hn::DemoteTo(to, RoundToInt(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
+  } else {
+    const auto isAbove = hn::RebindMask(ints, hn::Ge(v, hn::Set(d, 2147483648.0f)));
+    return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToInt(bounded));
+  }
+}
+
 // Converts lanes to elements of T: rounded to the nearest, ties to even; saturated; NaN gives the lowest value of T.
 template <class T, class D, class V = hn::Vec<D>>
 HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
   using L = hn::TFromD<D>;
   const hn::Rebind<T, D> to;
-  const hn::Rebind<int32_t, D> ints;
   if constexpr (std::is_same_v<T, L>) {
     return v;
   } else if constexpr (std::is_same_v<L, float> && std::is_same_v<T, uint32_t>) {
     return NarrowToUnsigned32(d, v);
-  } else if constexpr (std::is_same_v<L, float> && std::is_integral_v<T>) {
-    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
-    if constexpr (sizeof(T) < sizeof(int32_t)) {
-      const V top = hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()));
-      return hn::DemoteTo(to, RoundToInt(hn::Min(bounded, top)));
-    } else {
-      const auto isAbove = hn::RebindMask(ints, hn::Ge(v, hn::Set(d, 2147483648.0f)));
-      return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToInt(bounded));
-    }
-  } else if constexpr (std::is_same_v<L, double> && std::is_integral_v<T>) {
-    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<double>(std::numeric_limits<T>::lowest())));
-    const V top = hn::Set(d, static_cast<double>(std::numeric_limits<T>::max()));
-    const auto whole = hn::DemoteTo(ints, hn::Round(hn::Min(bounded, top)));
-    if constexpr (sizeof(T) < sizeof(int32_t)) {
-      return hn::DemoteTo(to, whole);
-    } else {
-      return whole;
-    }
+  } else if constexpr (std::is_floating_point_v<L> && std::is_integral_v<T>) {
+    return NarrowReal<T>(d, v);
   } else if constexpr (std::is_integral_v<L> && sizeof(L) == sizeof(T)) {  // the other signedness
     const auto bound = hn::Set(d, std::is_signed_v<L> ? L{0} : static_cast<L>(std::numeric_limits<T>::max()));
     return hn::BitCast(to, std::is_signed_v<L> ? hn::Max(v, bound) : hn::Min(v, bound));

@@ -154,6 +154,11 @@ HWY_INLINE void ApplyPrime(Complex<V>* x, int p, const float* pairs) {
 
 enum class Order { kDown, kUp };
 
+template <class D, class V = hn::Vec<D>>
+HWY_INLINE void MultiplyByTwiddles(D d, int p, const float* pairs, Complex<V>* x) {
+  for (int k = 1; k < p; ++k) x[k] = x[k] * Factor(d, pairs + 2 * (k - 1));
+}
+
 // A pass over all of the block. kFactor is 0 for a prime that is only known at run time.
 template <int kFactor, Order kOrder, bool kHasTwiddles, int kLines>
 void Pass(float* block, Planes planes, int64_t length, int64_t m, int factor, const float* twiddles,
@@ -170,17 +175,13 @@ void Pass(float* block, Planes planes, int64_t length, int64_t m, int factor, co
         float *const re = at + toRe + lane, *const im = at + toIm + lane;
         Complex<V> x[kMost];
         for (int k = 0; k < p; ++k) x[k] = {hn::LoadU(d, re + k * distance), hn::LoadU(d, im + k * distance)};
-        if constexpr (kHasTwiddles && kOrder == Order::kUp) {
-          for (int k = 1; k < p; ++k) x[k] = x[k] * Factor(d, pairs + 2 * (k - 1));
-        }
+        if constexpr (kHasTwiddles && kOrder == Order::kUp) MultiplyByTwiddles(d, p, pairs, x);
         if constexpr (kFactor) {
           Butterfly<kFactor>::Apply(x);
         } else {
           ApplyPrime(x, p, primes);
         }
-        if constexpr (kHasTwiddles && kOrder == Order::kDown) {
-          for (int k = 1; k < p; ++k) x[k] = x[k] * Factor(d, pairs + 2 * (k - 1));
-        }
+        if constexpr (kHasTwiddles && kOrder == Order::kDown) MultiplyByTwiddles(d, p, pairs, x);
         for (int k = 0; k < p; ++k) {
           hn::StoreU(x[k].re, d, re + k * distance);
           hn::StoreU(x[k].im, d, im + k * distance);

@@ -33,6 +33,14 @@ HWY_INLINE void ForEachLane(const Visit& visit) {
   }
 }
 
+// w O forward and i O back, from the difference i O: the w of the inverse is the conjugate.
+template <Direction kDirection, class C>
+HWY_INLINE C TurnedOdd(const C& difference, const C& w) {
+  if constexpr (kDirection == Direction::kForward) return C{difference.im, hn::Neg(difference.re)} * w;
+  const C odd = difference * C{w.re, hn::Neg(w.im)};
+  return C{hn::Neg(odd.im), odd.re};
+}
+
 // Z, the spectrum of x[2 j] + i x[2 j + 1], to X, that of the real x of n = 2 m numbers, and X to 2 Z:
 //   X[k] = E + w^k O, X[m - k] = conj(E - w^k O), w = e^(-2 pi i / n),
 //   2 E = Z[k] + conj(Z[m - k]), 2 i O = Z[k] - conj(Z[m - k]).
@@ -56,14 +64,7 @@ void ConvertHalved(const DftPlan& plan, float* block) {
       const auto a = LoadNumber<kLines>(block, near, lane), b = LoadNumber<kLines>(block, far, lane);
       using C = std::remove_const_t<decltype(a)>;
       const C conjugate{b.re, hn::Neg(b.im)};
-      const C even = half * (a + conjugate), difference = half * (a - conjugate);
-      C turned;  // w O forward, i O back
-      if constexpr (kForward) {
-        turned = C{difference.im, hn::Neg(difference.re)} * w;
-      } else {
-        const C odd = difference * C{w.re, hn::Neg(w.im)};
-        turned = C{hn::Neg(odd.im), odd.re};
-      }
+      const C even = half * (a + conjugate), turned = TurnedOdd<kDirection>(half * (a - conjugate), w);
       const C other = even - turned;
       StoreNumber<kLines>(C{other.re, hn::Neg(other.im)}, block, far, lane);
       StoreNumber<kLines>(even + turned, block, near, lane);

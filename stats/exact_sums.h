@@ -46,7 +46,7 @@ class ExactSums {
  private:
   using Lane = typename Accumulators<Kernel>::Lane;
   static constexpr int kSums = Kernel::kSums, kLanes = Accumulators<Kernel>::kSumLanes;
-  static constexpr int kFields = sizeof(uint64_t) / sizeof(Lane), kBits = 8 * sizeof(Lane);
+  static constexpr int kBits = 8 * sizeof(Lane), kFields = 64 / kBits;
 
   // Rounds that the lanes have room for.
   ptrdiff_t Free() {
