@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include "base/export.h"
-#include "geometry/resize_kernels.h"
+#include "geometry/interpolation_kernels.h"
 #include "geometry/resize_record.h"
 
 namespace qvp {
@@ -18,7 +18,7 @@ struct Method {
   uint32_t lobes = 0;
   double shift[2] = {};
 
-  ResizeKernel Kernel() const { return {interpolation, b, c, lobes}; }
+  InterpolationKernel Kernel() const { return {interpolation, b, c, lobes}; }
   bool HasPlainTaps() const {
     return isAntialiasing || interpolation == qvpInterpolationCubic || interpolation == qvpInterpolationLanczos;
   }
@@ -149,7 +149,7 @@ class TapWeights {
     return kernel_.At((distance < 0 ? -distance : distance) / scale_);
   }
 
-  ResizeKernel kernel_;
+  InterpolationKernel kernel_;
   double scale_, centre_;
   ptrdiff_t first_;
   int count_ = 0;

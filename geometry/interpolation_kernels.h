@@ -1,7 +1,8 @@
-// The continuous kernels that weights are taken from.
+// The continuous kernels that the weights of interpolation are taken from.
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include "qvptypes.h"
 
@@ -46,12 +47,36 @@ inline double Interpolated(const double* table, int end, double place) {
   return table[i] + (table[i + 1] - table[i]) * (place - i);
 }
 
-// A kernel by its interpolation and parameters. `reach` is the distance from which on it is 0.
-struct ResizeKernel {
-  QvpiInterpolationType interpolation;
+// Mitchell, Netravali: Reconstruction filters in computer graphics (1988). B = 0, C = 0.5 is the Catmull-Rom spline.
+struct CubicKernel {
   double b, c;
-  uint32_t lobes;
 
+  // At distance t >= 0.
+  double At(double t) const {
+    if (t < 1) return ((2 - 1.5 * b - c) * t + (-3 + 2 * b + c)) * t * t + (1 - b / 3);
+    if (t < 2) return (((-b / 6 - c) * t + (b + 5 * c)) * t + (-2 * b - 8 * c)) * t + (4 * b / 3 + 4 * c);
+    return 0;
+  }
+};
+
+// sinc(t) sinc(t / lobes), interpolated linearly between the entries of a table.
+struct LanczosKernel {
+  uint32_t lobes;  // 2 or 3
+
+  // At distance t >= 0.
+  double At(double t) const {
+    return lobes == 2 ? Interpolated(kLanczos2.data(), 2 * kPerUnitOf2, t * kPerUnitOf2)
+                      : Interpolated(kLanczos3.data(), 3 * kPerUnitOf3, t * kPerUnitOf3);
+  }
+};
+
+// A kernel by its interpolation and parameters.
+struct InterpolationKernel {
+  QvpiInterpolationType interpolation;
+  double b = 0, c = 0;
+  uint32_t lobes = 0;
+
+  // The distance from which on the kernel is 0.
   int Reach() const {
     if (interpolation == qvpInterpolationLinear) return 1;
     return interpolation == qvpInterpolationCubic ? 2 : static_cast<int>(lobes);
@@ -60,17 +85,7 @@ struct ResizeKernel {
   // At distance t >= 0.
   double At(double t) const {
     if (interpolation == qvpInterpolationLinear) return t < 1 ? 1 - t : 0;
-    if (interpolation == qvpInterpolationCubic) return Cubic(t);
-    return lobes == 2 ? Interpolated(kLanczos2.data(), 2 * kPerUnitOf2, t * kPerUnitOf2)
-                      : Interpolated(kLanczos3.data(), 3 * kPerUnitOf3, t * kPerUnitOf3);
-  }
-
- private:
-  // Mitchell, Netravali: Reconstruction filters in computer graphics (1988).
-  double Cubic(double t) const {
-    if (t < 1) return ((2 - 1.5 * b - c) * t + (-3 + 2 * b + c)) * t * t + (1 - b / 3);
-    if (t < 2) return (((-b / 6 - c) * t + (b + 5 * c)) * t + (-2 * b - 8 * c)) * t + (4 * b / 3 + 4 * c);
-    return 0;
+    return interpolation == qvpInterpolationCubic ? CubicKernel{b, c}.At(t) : LanczosKernel{lobes}.At(t);
   }
 };
 
