@@ -7,7 +7,7 @@
 #include "base/pack.h"
 #include "geometry/resize_gather.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 // Bounds of the tables, and of the sums down: 255 * 64 fits int16.
 inline constexpr int kMostAreaParts = 64, kMostAreaPairs = 8;
@@ -238,4 +238,4 @@ class AreaColumns {
   uint8_t masks_[kMostAreaParts * kGatherBytes];
 };
 
-}  // namespace qvp
+}  // namespace qvp::resize

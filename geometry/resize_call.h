@@ -7,7 +7,7 @@
 #include "base/image.h"
 #include "geometry/resize_record.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 template <class T>
 struct ResizeCall {
@@ -118,7 +118,7 @@ struct Taps {
   }
 };
 
-}  // namespace qvp
+}  // namespace qvp::resize
 
 // The parameter lists of resize calls: impl(call) for methods without a border, impl(border, call) for those with one.
 #define QVP_RESIZE_CALL(type, layout, form)                                                                          \

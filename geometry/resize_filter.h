@@ -7,7 +7,7 @@
 #include "base/map.h"
 #include "geometry/resize_weights.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 // Whether two taps of four successive columns at a time can be picked out of eight samples: 16-bit ones by a shuffle of
 // bytes, single floats where there are lookups across 32 bytes.
@@ -673,4 +673,4 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::resize

@@ -7,7 +7,7 @@
 #include "geometry/resize_filter.h"
 #include "geometry/resize_gather.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 // The columns of a tile: a Gather serves those whose taps are all in the image, the others are filtered one by one.
 struct FixedColumns {
@@ -38,4 +38,4 @@ void FilterFixed(const Columns& columns, const Rows& rows, const Out& out) {
   columns.FilterOneByOne(rows, hasVectors ? taps.to : taps.from, taps.length, out);
 }
 
-}  // namespace qvp
+}  // namespace qvp::resize

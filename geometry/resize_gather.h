@@ -5,7 +5,7 @@
 #include "base/pairs.h"
 #include "geometry/resize_call.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 using GatherTag = hn::CappedTag<uint8_t, 32>;
 inline constexpr ptrdiff_t kGatherBytes = hn::MaxLanes(GatherTag()), kGatherBlocks = kGatherBytes / kBlockBytes;
@@ -155,4 +155,4 @@ HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* of
   }
 }
 
-}  // namespace qvp
+}  // namespace qvp::resize

@@ -7,7 +7,7 @@
 #include "geometry/interpolation_kernels.h"
 #include "geometry/resize_record.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 struct Method {
@@ -215,7 +215,7 @@ void FillSuper(ResizeAxis& axis, Tables& tables) {
   for (int64_t j = 0; j < q; ++j) {
     index[j] = static_cast<int32_t>(j * p / q);
     for (int64_t k = 0; k < axis.taps; ++k) {
-      weights[k * q + j] = static_cast<float>(static_cast<double>(Overlap(axis, j, k)) / static_cast<double>(q));
+      weights[k * q + j] = static_cast<float>(Overlap(axis, j, k));
     }
   }
 }
@@ -401,9 +401,10 @@ InitCall Wide(QvpiSizeL src, QvpiSizeL dst, QvpiResizeSpec* spec, QvpDataType ty
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 QvpStatus qvpiResizeSetMode(QvpHintAlgorithm hint, QvpiResizeSpec* pSpec) { return SetMode(hint, pSpec); }
 

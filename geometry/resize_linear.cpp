@@ -6,7 +6,7 @@
 #include "base/map.h"
 #include "geometry/resize_fixed.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 // h = (l (16384 - w) + r w + 128) >> 8, with 6 bits of fraction: 0 to 64 * 255. It is 64 l + ((r - l) w + 128 >> 8),
@@ -214,9 +214,10 @@ QvpStatus Linear(QvpiBorderType border, ResizeCall<T> call) {
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 8u, Linear)
 QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 16u, Linear)

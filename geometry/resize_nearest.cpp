@@ -2,7 +2,7 @@
 #include "base/export.h"
 #include "geometry/resize_gather.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 template <int kBytes>
@@ -88,9 +88,10 @@ QvpStatus Nearest(const ResizeCall<T>& call) {
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 8u, Nearest)
 QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 16u, Nearest)

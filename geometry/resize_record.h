@@ -7,7 +7,7 @@
 #include "base/image.h"
 #include "base/record.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 struct Point {
   ptrdiff_t x, y;
@@ -158,4 +158,4 @@ constexpr int64_t ReservedTaps(QvpiInterpolationType interpolation, bool isAntia
   return 2 * ((taps * source + destination - 1) / destination);
 }
 
-}  // namespace qvp
+}  // namespace qvp::resize

@@ -6,7 +6,7 @@
 #include "base/export.h"
 #include "geometry/resize_record.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 constexpr int64_t kSpare = 64, kLimit = 0x7FFFFFFF, kWideLengthLimit = 0x2000000;
@@ -58,7 +58,7 @@ ByteCount TapTables(QvpiInterpolationType interpolation, bool isAntialiasing, in
 
 ByteCount SuperTables(ptrdiff_t source, ptrdiff_t destination) {
   const ptrdiff_t g = std::gcd(source, destination);
-  const TableBytes bytes = qvp::SuperTables(source / g, destination / g);
+  const TableBytes bytes = resize::SuperTables(source / g, destination / g);
   return bytes.index + bytes.weights;
 }
 
@@ -175,9 +175,10 @@ QvpStatus GetSrcRoi(const QvpiResizeSpec* spec, Point offset, Size size, OutPoin
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 // 16-bit and 32-bit types reserve what 8-bit ones do.
 #define SIZES(type, asType)                                                                                           \

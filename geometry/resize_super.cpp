@@ -3,78 +3,26 @@
 
 #include "base/export.h"
 #include "base/map.h"
+#include "geometry/resize_area_near.h"
+#include "geometry/resize_area_sums.h"
 #include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 // Memory for one strip of columns, on the stack: the weights of its columns, and one row of sums down.
 constexpr ptrdiff_t kStripFloats = 2048, kMostStripColumns = 512;
 
-// The pixels that one destination position covers along an axis, with the covered part of each.
-struct Coverage {
-  ptrdiff_t first;
-  int count;
-  Interval interval;
-
-  double At(int k) const {
-    const double begin = std::max(interval.begin, static_cast<double>(first + k));
-    const double end = std::min(interval.end, static_cast<double>(first + k + 1));
-    return end - begin > 0.0000001 ? end - begin : 0.0;
-  }
-  double Length() const { return interval.end - interval.begin; }
-};
-
-Coverage CoverageOf(const ResizeAxis& axis, ptrdiff_t d, double shift) {
-  const Interval interval = CoveredBy(axis, static_cast<double>(d), 1, shift);
-  const ptrdiff_t first = std::min<ptrdiff_t>(FirstOf(interval), axis.source - 1);
-  const ptrdiff_t end = std::min<ptrdiff_t>(std::max(EndOf(interval), first + 1), axis.source);
-  return {first, static_cast<int>(end - first), interval};
-}
-
-// One sample from the source, for shifted grids and for ratios beyond what a strip has memory for.
-template <class T>
-float AverageOf(const ResizeCall<T>& call, const Tile& tile, const Coverage& across, const Coverage& down,
-                int channel) {
-  const int channels = Channels(call.src.layout);
-  float sum = 0;
-  for (int k = 0; k < across.count; ++k) {
-    float column = 0;
-    for (int j = 0; j < down.count; ++j) {
-      const T* row = SourceRow(call, tile, down.first + j);
-      column += static_cast<float>(row[(across.first + k) * channels + channel]) * static_cast<float>(down.At(j));
-    }
-    sum += column * static_cast<float>(across.At(k));
-  }
-  return sum * static_cast<float>(1 / (across.Length() * down.Length()));
-}
-
-template <class T>
-void ResizeOneByOne(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  const hn::Full128<float> d;
-  const int channels = Channels(call.src.layout);
-  for (ptrdiff_t y = 0; y < tile.height; ++y) {
-    const Coverage down = CoverageOf(record.rows, tile.y + y, record.Shift(1));
-    for (ptrdiff_t x = 0; x < tile.width; ++x) {
-      const Coverage across = CoverageOf(record.columns, tile.x + x, record.Shift(0));
-      float pixel[4] = {};
-      for (int c = 0; c < channels; ++c) pixel[c] = AverageOf(call, tile, across, down, c);
-      MapRow<false>(
-          d, call.dst.Row(y) + x * channels, channels, [](auto v) { return v; }, pixel);
-    }
-  }
-}
-
-// The taps of one axis, from the tables of its period.
+// The taps of one axis, from the tables of its period, with weights in units of 1 / q pixels.
 struct Period {
   const int32_t* index;
   const float* weights;
   ptrdiff_t p, q;
   int taps;
 
-  Period(const ResizeRecord& record, const ResizeAxis& axis)
-      : index(record.Index(axis)), weights(record.Weights<float>(axis)), p(axis.p), q(axis.q), taps(axis.taps) {}
+  Period(const ResizeRecord& record, const ResizeAxis& a)
+      : index(record.Index(a)), weights(record.Weights<float>(a)), p(a.p), q(a.q), taps(a.taps) {}
 
   ptrdiff_t First(ptrdiff_t d) const { return d / q * p + index[d % q]; }
   float At(int k, ptrdiff_t d) const { return weights[k * q + d % q]; }
@@ -139,6 +87,23 @@ void SumDown(D d, const Image<const T>& rows, int count, const Weight& weight, p
   }
 }
 
+// Stores exact sums divided by the area, rounded to the nearest integers. Ties are only met where the area is even.
+// Where it is a power of two, or the sums are further from a tie than a product with the inverse may be off, that is
+// the same.
+template <class T>
+void StoreQuotients(const float* sums, int area, T* dst, ptrdiff_t n) {
+  const hn::ScalableTag<float> d;
+  const bool isPowerOfTwo = (area & (area - 1)) == 0, isOdd = area % 2 != 0;
+  if (isPowerOfTwo || (isOdd && area < 1 << (22 - 8 * sizeof(T)))) {
+    const auto inverse = hn::Set(d, static_cast<float>(1.0 / area));
+    return MapRow<false>(
+        d, dst, n, [=](auto v) HWY_ATTR { return hn::Mul(v, inverse); }, sums);
+  }
+  const auto divisor = hn::Set(d, static_cast<float>(area));
+  MapRow<false>(
+      d, dst, n, [=](auto v) HWY_ATTR { return hn::Div(v, divisor); }, sums);
+}
+
 template <class T>
 void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Strip& strip,
                  const Period& across, const Period& down) {
@@ -151,20 +116,17 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   taps.from = 0;
   taps.to = strip.columns;
   taps.count = across.taps;
-  taps.certain = std::is_integral_v<T> ? across.taps : 1;  // the zeros behind the sums need no other care
+  taps.certain = across.taps;  // the zeros behind the sums need no other care
   const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels);
   const TapPlanes weights{strip.weights, strip.columns};
-  const double area = static_cast<double>(across.p) / across.q * down.p / down.q;
-  const auto scale = hn::Set(d, static_cast<float>(1 / area));
+  const auto area = static_cast<int>(across.p * down.p);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
     const T* row = SourceRow(call, tile, down.First(tile.y + y)) + strip.source * channels;
     const auto weight = [&](int k) { return down.At(k, tile.y + y); };
     const Image<const T> rows{row, call.src.step, call.src.layout};
     SumDown(d, rows, down.Count(tile.y + y), weight, strip.pixels * channels, sums);
     FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{averages});
-    MapRow<false>(
-        d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
-        [=](auto v) HWY_ATTR { return hn::Mul(v, scale); }, static_cast<const float*>(averages));
+    StoreQuotients(averages, area, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels);
   }
 }
 
@@ -232,14 +194,70 @@ bool ResizeWhole(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   return true;
 }
 
+// Whether the sum of an area, in whole parts of pixels, fits the 24 bits of a float: then it is exact, and so is the
+// nearest integer to its quotient by the area.
 template <class T>
-void ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+bool AreSumsExact(const ResizeRecord& record) {
+  return !record.IsShifted() && int64_t{record.columns.p} * record.rows.p <= (1 << 24) >> (8 * sizeof(T));
+}
+
+template <class T>
+bool ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   const Period across(record, record.columns), down(record, record.rows);
   const ptrdiff_t most = ColumnsPerStrip(across, Channels(call.src.layout));
-  if (record.IsShifted() || most < 1) return ResizeOneByOne(call, record, tile);
+  if (most < 1) return false;
   for (ptrdiff_t x = 0; x < tile.width; x += most) {
     const Strip strip(across, tile.x + x, std::min(most, tile.width - x));
     ResizeStrip(call, record, tile, strip, across, down);
+  }
+  return true;
+}
+
+bool IsNear(const ResizeRecord& record) {
+  return !record.IsShifted() && std::max(record.columns.taps, record.rows.taps) <= kMostNear;
+}
+
+// Averages again, in double, what is infinite or NaN: a difference or its multiple may have left the range of float.
+void AverageAgain(const ResizeCall<float>& call, const ResizeRecord& record, const Tile& tile, ptrdiff_t x, ptrdiff_t y,
+                  ptrdiff_t n) {
+  const int channels = Channels(call.dst.layout);
+  float* row = call.dst.Row(y) + x * channels;
+  for (ptrdiff_t i = 0; i < n * channels; ++i) {
+    if (row[i] - row[i] == 0) continue;
+    float pixel[4];
+    const Coverage across = PeriodicCoverage(record.columns, tile.x + x + i / channels);
+    AverageRowFor<double, float>(call.src.layout)(call, tile, PeriodicCoverage(record.rows, tile.y + y), &across, 1,
+                                                  pixel);
+    row[i] = pixel[i % channels];
+  }
+}
+
+template <class T>
+void AverageNear(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  const ResizeAxis& axis = record.columns;
+  const auto pixels = static_cast<int64_t>(kStripFloats / channels - 2 * kMostNear);
+  const auto most = std::min(static_cast<ptrdiff_t>(pixels * axis.q / axis.p), NearColumns::kMost);
+  float sums[kStripFloats];
+  for (ptrdiff_t x = 0; x < tile.width; x += most) {
+    const NearColumns columns(axis, tile.x + x, std::min(most, tile.width - x));
+    const ptrdiff_t n = columns.pixels() * channels;
+    std::fill_n(sums + n, 2 * kMostNear * channels, 0.0f);
+    for (ptrdiff_t y = 0; y < tile.height; ++y) {
+      const Coverage coverage = PeriodicCoverage(record.rows, tile.y + y);
+      const T* row = SourceRow(call, tile, coverage.first) + columns.origin() * channels;
+      BlendDown(Image<const T>{row, call.src.step, call.src.layout}, NearAreas(coverage, coverage.first), n, sums);
+      T* dst = call.dst.Row(y) + x * channels;
+      if constexpr (std::is_same_v<T, float>) {
+        if (!columns.Average(sums, channels, dst)) AverageAgain(call, record, tile, x, y, columns.columns());
+      } else {
+        float averages[4 * NearColumns::kMost];
+        columns.Average(sums, channels, averages);
+        MapRow<false>(
+            hn::ScalableTag<float>(), dst, columns.columns() * channels, [](auto v) { return v; },
+            static_cast<const float*>(averages));
+      }
+    }
   }
 }
 
@@ -249,7 +267,11 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
     if (IsHalf(record) && call.src.layout == Layout::kC1) return Halve(call, tile);
     if (AreAreasWhole(record) && ResizeWhole(call, record, tile)) return;
   }
-  ResizeStrips(call, record, tile);
+  if constexpr (std::is_integral_v<T>) {
+    if (AreSumsExact<T>(record) && ResizeStrips(call, record, tile)) return;
+  }
+  if (IsNear(record)) return AverageNear(call, record, tile);
+  AverageAreas(call, record, tile);
 }
 
 template <class T>
@@ -258,9 +280,10 @@ QvpStatus Super(const ResizeCall<T>& call) {
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 8u, Super)
 QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 16u, Super)

@@ -4,7 +4,7 @@
 #include "base/map.h"
 #include "geometry/resize_fixed.h"
 
-namespace qvp {
+namespace qvp::resize {
 namespace {
 
 // Filtered rows have 6 bits of fraction. They fit 16 bits: the absolute weights of a position sum to at most 2.8, the
@@ -253,9 +253,10 @@ QvpStatus Antialiasing(QvpiBorderType border, const ResizeCall<T>& call) {
 }
 
 }  // namespace
-}  // namespace qvp
+}  // namespace qvp::resize
 
 using namespace qvp;
+using namespace qvp::resize;
 
 #define TAPS(type)                                                        \
   QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeCubic, type, Cubic)     \

@@ -5,7 +5,7 @@
 #include "base/lanes.h"
 #include "geometry/resize_call.h"
 
-namespace qvp {
+namespace qvp::resize {
 
 // One floating-point number for each tap.
 struct TapPlanes {
@@ -79,4 +79,4 @@ LinearPlane<F> PlaneOf(const LinearWeights& weights, ptrdiff_t n, F* room) {
   return {room};
 }
 
-}  // namespace qvp
+}  // namespace qvp::resize

@@ -1,0 +1,190 @@
+// Averages over areas of any size, shifted or not: sums down into a row of sums, a piece of it at a time, and sums of
+// these across in double. Sums of integers are exact, so that their averages are the nearest integers.
+#pragma once
+
+#include "base/lanes.h"
+#include "base/map.h"
+#include "geometry/resize_call.h"
+#include "geometry/resize_coverage.h"
+
+namespace qvp::resize {
+
+// Columns whose areas are averaged at a time.
+inline constexpr ptrdiff_t kAreasAtOnce = 256;
+
+template <class V>
+HWY_INLINE V Sum(V v) {
+  return v;
+}
+template <class V, class... W>
+HWY_INLINE V Sum(V a, V b, W... more) {
+  return Sum(hn::Add(a, b), more...);
+}
+
+// sums[i] += each times the samples at place i of some rows.
+template <class D, class T, class... Row>
+HWY_INLINE void AddRows(D d, hn::Vec<D> each, ptrdiff_t n, hn::TFromD<D>* sums, const T* first, const Row*... rows) {
+  MapRow<false>(
+      d, sums, n, [=](auto sum, auto v, auto... w) HWY_ATTR { return hn::Add(sum, hn::Mul(Sum(v, w...), each)); },
+      static_cast<const hn::TFromD<D>*>(sums), first, rows...);
+}
+
+// sums[i] = the samples at place i of the rows that are covered, by their parts. The first one is row 0.
+template <class D, class T>
+void SumCovered(D d, const Image<const T>& rows, const Coverage& down, ptrdiff_t n, hn::TFromD<D>* sums) {
+  using S = hn::TFromD<D>;
+  const auto begin = hn::Set(d, static_cast<S>(down.begin)), each = hn::Set(d, static_cast<S>(down.each));
+  if (down.end > 0) {
+    const auto end = hn::Set(d, static_cast<S>(down.end));
+    MapRow<false>(
+        d, sums, n, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, begin), hn::Mul(b, end)); }, rows.Row(0),
+        rows.Row(1 + down.whole));
+  } else {
+    MapRow<false>(
+        d, sums, n, [=](auto a) HWY_ATTR { return hn::Mul(a, begin); }, rows.Row(0));
+  }
+  const auto row = [&](ptrdiff_t y) { return rows.Row(y); };
+  ptrdiff_t y = 1;
+  for (; y + 7 <= down.whole; y += 8) {
+    AddRows(d, each, n, sums, row(y), row(y + 1), row(y + 2), row(y + 3), row(y + 4), row(y + 5), row(y + 6),
+            row(y + 7));
+  }
+  for (; y + 2 <= down.whole; y += 3) AddRows(d, each, n, sums, row(y), row(y + 1), row(y + 2));
+  for (; y <= down.whole; ++y) AddRows(d, each, n, sums, row(y));
+}
+
+// The sums down of a row of areas, of one piece of source pixels after the other.
+template <class S, class T>
+class SumPieces {
+ public:
+  // `rows` begin with the first one that is covered, at source column 0.
+  SumPieces(const Image<const T>& rows, const Coverage& down, ptrdiff_t end)
+      : rows_(rows), down_(down), end_(end), channels_(Channels(rows.layout)) {}
+
+  // The sums of the pixels from `first` on, of which there are until(): at least one.
+  const S* From(ptrdiff_t first) {
+    if (first >= until_) Fill(first);
+    return sums_ + (first - begin_) * channels_;
+  }
+  ptrdiff_t until() const { return until_; }
+
+ private:
+  static constexpr ptrdiff_t kSamples = 1024;
+
+  void Fill(ptrdiff_t first) {
+    begin_ = first;
+    until_ = std::min(end_, first + kSamples / channels_);
+    const Image<const T> rows{rows_.data + first * channels_, rows_.step, rows_.layout};
+    SumCovered(hn::ScalableTag<S>(), rows, down_, (until_ - first) * channels_, sums_);
+  }
+
+  Image<const T> rows_;
+  Coverage down_;
+  ptrdiff_t end_, channels_, begin_ = 0, until_ = 0;
+  S sums_[kSamples];
+};
+
+// The sum of one area. Whole pixels go to four sums in turn, from the first one on.
+template <int kChannels, class S>
+struct AreaTotal {
+  static constexpr int kSums = 4;
+  double ends[kChannels], middle[kSums][kChannels] = {};
+  int next = 0;
+
+  HWY_INLINE void Begin(const S* sums, double part) {
+    for (int c = 0; c < kChannels; ++c) ends[c] = sums[c] * part;
+  }
+  HWY_INLINE void AddOne(const S* sums) {
+    for (int c = 0; c < kChannels; ++c) middle[next][c] += sums[c];
+    next = (next + 1) % kSums;
+  }
+  HWY_INLINE void AddWhole(const S* sums, ptrdiff_t pixels) {
+    for (; pixels > 0 && next != 0; --pixels, sums += kChannels) AddOne(sums);
+    for (; pixels >= kSums; pixels -= kSums, sums += kSums * kChannels) {
+      for (int i = 0; i < kSums * kChannels; ++i) middle[i / kChannels][i % kChannels] += sums[i];
+    }
+    for (; pixels > 0; --pixels, sums += kChannels) AddOne(sums);
+  }
+  HWY_INLINE void End(const S* sums, double part) {
+    for (int c = 0; c < kChannels; ++c) ends[c] += sums[c] * part;
+  }
+  HWY_INLINE void Store(double each, double area, double* out) const {
+    for (int c = 0; c < kChannels; ++c) {
+      const double whole = (middle[0][c] + middle[1][c]) + (middle[2][c] + middle[3][c]);
+      out[c] = (ends[c] + whole * each) / area;
+    }
+  }
+};
+
+template <int kChannels, class S, class T>
+HWY_INLINE void AverageAcross(SumPieces<S, T>& pieces, const Coverage& across, double down, double* out) {
+  AreaTotal<kChannels, S> total;
+  const S* sums = pieces.From(across.first);
+  total.Begin(sums, across.begin);
+  const ptrdiff_t last = across.first + 1 + across.whole;
+  if (last < pieces.until()) {  // one piece has them all, and one more
+    total.AddWhole(sums + kChannels, across.whole);
+    if (across.end > 0) total.End(sums + (1 + across.whole) * kChannels, across.end);
+  } else {
+    for (ptrdiff_t at = across.first + 1; at < last;) {
+      sums = pieces.From(at);
+      const ptrdiff_t end = std::min(last, pieces.until());
+      total.AddWhole(sums, end - at);
+      at = end;
+    }
+    if (across.end > 0) total.End(pieces.From(last), across.end);
+  }
+  total.Store(across.each, across.Total() * down, out);
+}
+
+// Averages of n destination pixels in row y, whose columns cover `across`, to dst.
+template <class S, int kChannels, class T>
+void AverageRow(const ResizeCall<T>& call, const Tile& tile, const Coverage& down, const Coverage* across, ptrdiff_t n,
+                T* dst) {
+  double averages[kAreasAtOnce * kChannels];
+  const Coverage& last = across[n - 1];
+  SumPieces<S, T> pieces({SourceRow(call, tile, down.first), call.src.step, call.src.layout}, down,
+                         last.first + last.Pixels());
+  const double total = down.Total();
+  for (ptrdiff_t x = 0; x < n; ++x) AverageAcross<kChannels>(pieces, across[x], total, averages + x * kChannels);
+  MapRow<false>(
+      hn::ScalableTag<double>(), dst, n * kChannels, [](auto v) { return v; }, static_cast<const double*>(averages));
+}
+
+template <class S, class T>
+auto AverageRowFor(Layout layout) {
+  if (layout == Layout::kC1) return AverageRow<S, 1, T>;
+  return layout == Layout::kC3 ? AverageRow<S, 3, T> : AverageRow<S, 4, T>;
+}
+
+// The pixels of a tile, for sums down of type S.
+template <class S, class T>
+void AverageAreasBy(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  const Layout layout = call.src.layout;
+  const auto average = AverageRowFor<S, T>(layout);
+  Coverage across[kAreasAtOnce];
+  for (ptrdiff_t x = 0; x < tile.width; x += kAreasAtOnce) {
+    const ptrdiff_t n = std::min(tile.width - x, kAreasAtOnce);
+    for (ptrdiff_t i = 0; i < n; ++i) across[i] = CoverageOf(record, record.columns, tile.x + x + i);
+    for (ptrdiff_t y = 0; y < tile.height; ++y) {
+      const Coverage down = CoverageOf(record, record.rows, tile.y + y);
+      average(call, tile, down, across, n, call.dst.Row(y) + x * Channels(layout));
+    }
+  }
+}
+
+// Whether sums down fit the 24 bits of a float: those of integers, in whole parts.
+template <class T>
+bool AreSumsShort(const ResizeRecord& record) {
+  return std::is_integral_v<T> && !record.IsShifted() && record.rows.p <= (1 << 24) >> (8 * sizeof(T));
+}
+
+template <class T>
+void AverageAreas(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if constexpr (std::is_integral_v<T>) {
+    if (AreSumsShort<T>(record)) return AverageAreasBy<float>(call, record, tile);
+  }
+  AverageAreasBy<double>(call, record, tile);
+}
+
+}  // namespace qvp::resize
