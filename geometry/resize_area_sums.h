@@ -9,6 +9,9 @@
 
 namespace qvp::resize {
 
+// Whole pixels of one channel from which on an area is added up in several sums at once.
+inline constexpr ptrdiff_t kLongRun = 8;
+
 // Columns whose areas are averaged at a time.
 inline constexpr ptrdiff_t kAreasAtOnce = 256;
 
@@ -61,9 +64,9 @@ class SumPieces {
   SumPieces(const Image<const T>& rows, const Coverage& down, ptrdiff_t end)
       : rows_(rows), down_(down), end_(end), channels_(Channels(rows.layout)) {}
 
-  // The sums of the pixels from `first` on, of which there are until(): at least one.
-  const S* From(ptrdiff_t first) {
-    if (first >= until_) Fill(first);
+  // The sums of the pixels from `first` on up to until(), which are at least `count`.
+  const S* From(ptrdiff_t first, ptrdiff_t count = 1) {
+    if (first + count > until_) Fill(first);
     return sums_ + (first - begin_) * channels_;
   }
   ptrdiff_t until() const { return until_; }
@@ -84,57 +87,50 @@ class SumPieces {
   S sums_[kSamples];
 };
 
-// The sum of one area. Whole pixels go to four sums in turn, from the first one on.
-template <int kChannels, class S>
-struct AreaTotal {
-  static constexpr int kSums = 4;
-  double ends[kChannels], middle[kSums][kChannels] = {};
-  int next = 0;
-
-  HWY_INLINE void Begin(const S* sums, double part) {
-    for (int c = 0; c < kChannels; ++c) ends[c] = sums[c] * part;
+// The sum of one area, of which whole pixels go to kSums sums in turn.
+template <int kChannels, int kSums, class S>
+class AreaTotal {
+ public:
+  HWY_INLINE AreaTotal(const S* sums, double part) {
+    for (int c = 0; c < kChannels; ++c) ends_[c] = sums[c] * part;
   }
-  HWY_INLINE void AddOne(const S* sums) {
-    for (int c = 0; c < kChannels; ++c) middle[next][c] += sums[c];
-    next = (next + 1) % kSums;
-  }
+  // A multiple of kSums pixels, unless they are the last ones.
   HWY_INLINE void AddWhole(const S* sums, ptrdiff_t pixels) {
-    for (; pixels > 0 && next != 0; --pixels, sums += kChannels) AddOne(sums);
     for (; pixels >= kSums; pixels -= kSums, sums += kSums * kChannels) {
-      for (int i = 0; i < kSums * kChannels; ++i) middle[i / kChannels][i % kChannels] += sums[i];
+      for (int i = 0; i < kSums * kChannels; ++i) whole_[i] += sums[i];
     }
-    for (; pixels > 0; --pixels, sums += kChannels) AddOne(sums);
+    for (int i = 0; i < (kSums - 1) * kChannels; ++i) {
+      if (i < pixels) whole_[i] += sums[i];
+    }
   }
-  HWY_INLINE void End(const S* sums, double part) {
-    for (int c = 0; c < kChannels; ++c) ends[c] += sums[c] * part;
+  HWY_INLINE void AddLast(const S* sums, double part) {
+    for (int c = 0; c < kChannels; ++c) ends_[c] += sums[c] * part;
   }
-  HWY_INLINE void Store(double each, double area, double* out) const {
+  HWY_INLINE void Average(double each, double area, double* out) const {
     for (int c = 0; c < kChannels; ++c) {
-      const double whole = (middle[0][c] + middle[1][c]) + (middle[2][c] + middle[3][c]);
-      out[c] = (ends[c] + whole * each) / area;
+      double whole = whole_[c];
+      if constexpr (kSums == 4) whole = (whole_[0] + whole_[1]) + (whole_[2] + whole_[3]);
+      out[c] = (ends_[c] + whole * each) / area;
     }
   }
+
+ private:
+  double ends_[kChannels], whole_[kSums * kChannels] = {};
 };
 
-template <int kChannels, class S, class T>
+template <int kChannels, int kSums, class S, class T>
 HWY_INLINE void AverageAcross(SumPieces<S, T>& pieces, const Coverage& across, double down, double* out) {
-  AreaTotal<kChannels, S> total;
-  const S* sums = pieces.From(across.first);
-  total.Begin(sums, across.begin);
+  AreaTotal<kChannels, kSums, S> total(pieces.From(across.first), across.begin);
   const ptrdiff_t last = across.first + 1 + across.whole;
-  if (last < pieces.until()) {  // one piece has them all, and one more
-    total.AddWhole(sums + kChannels, across.whole);
-    if (across.end > 0) total.End(sums + (1 + across.whole) * kChannels, across.end);
-  } else {
-    for (ptrdiff_t at = across.first + 1; at < last;) {
-      sums = pieces.From(at);
-      const ptrdiff_t end = std::min(last, pieces.until());
-      total.AddWhole(sums, end - at);
-      at = end;
-    }
-    if (across.end > 0) total.End(pieces.From(last), across.end);
+  for (ptrdiff_t at = across.first + 1; at < last;) {
+    const S* sums = pieces.From(at, std::min<ptrdiff_t>(last - at, kSums));
+    ptrdiff_t n = std::min(last, pieces.until()) - at;
+    if (at + n < last) n -= n % kSums;
+    total.AddWhole(sums, n);
+    at += n;
   }
-  total.Store(across.each, across.Total() * down, out);
+  if (across.end > 0) total.AddLast(pieces.From(last), across.end);
+  total.Average(across.each, across.Total() * down, out);
 }
 
 // Averages of n destination pixels in row y, whose columns cover `across`, to dst.
@@ -146,7 +142,14 @@ void AverageRow(const ResizeCall<T>& call, const Tile& tile, const Coverage& dow
   SumPieces<S, T> pieces({SourceRow(call, tile, down.first), call.src.step, call.src.layout}, down,
                          last.first + last.Pixels());
   const double total = down.Total();
-  for (ptrdiff_t x = 0; x < n; ++x) AverageAcross<kChannels>(pieces, across[x], total, averages + x * kChannels);
+  for (ptrdiff_t x = 0; x < n; ++x) {
+    double* out = averages + x * kChannels;
+    if (kChannels == 1 && across[x].whole >= kLongRun) {
+      AverageAcross<kChannels, 4>(pieces, across[x], total, out);
+    } else {
+      AverageAcross<kChannels, 1>(pieces, across[x], total, out);
+    }
+  }
   MapRow<false>(
       hn::ScalableTag<double>(), dst, n * kChannels, [](auto v) { return v; }, static_cast<const double*>(averages));
 }
@@ -173,16 +176,16 @@ void AverageAreasBy(const ResizeCall<T>& call, const ResizeRecord& record, const
   }
 }
 
-// Whether sums down fit the 24 bits of a float: those of integers, in whole parts.
+// Whether sums down of integers, in whole parts, fit 32 bits.
 template <class T>
 bool AreSumsShort(const ResizeRecord& record) {
-  return std::is_integral_v<T> && !record.IsShifted() && record.rows.p <= (1 << 24) >> (8 * sizeof(T));
+  return !record.IsShifted() && int64_t{record.rows.p} << (8 * sizeof(T)) <= int64_t{1} << 31;
 }
 
 template <class T>
 void AverageAreas(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if constexpr (std::is_integral_v<T>) {
-    if (AreSumsShort<T>(record)) return AverageAreasBy<float>(call, record, tile);
+    if (AreSumsShort<T>(record)) return AverageAreasBy<int32_t>(call, record, tile);
   }
   AverageAreasBy<double>(call, record, tile);
 }
