@@ -32,6 +32,14 @@ inline constexpr int64_t kTablesAt = 256, kTableAlignment = 32;
 // of taps), then all for the second, so that vectors of positions are contiguous.
 constexpr int64_t PlaneOf(int64_t length) { return (length + kTableAlignment - 1) & -kTableAlignment; }
 
+constexpr ptrdiff_t FloorOf(double x) {
+  const auto whole = static_cast<ptrdiff_t>(x);
+  return static_cast<double>(whole) > x ? whole - 1 : whole;
+}
+
+// The greatest integer that is not above a / b, for b > 0.
+constexpr int64_t FloorOfQuotient(int64_t a, int64_t b) { return a / b - (a % b < 0 ? 1 : 0); }
+
 struct ResizeAxis {
   int32_t source, destination;  // lengths
   int32_t p, q;                 // source : destination in lowest terms
@@ -43,6 +51,11 @@ struct ResizeAxis {
 
   // Centres of pixels fall on each other: where destination position d lies in the source.
   double Coordinate(ptrdiff_t d) const { return (static_cast<double>(d) + 0.5) * p / q - 0.5; }
+  // How far destination position d lies behind source position i: rounded once, wherever on the axis that is.
+  double Distance(ptrdiff_t d, ptrdiff_t i) const {
+    const int64_t of2q = (2 * static_cast<int64_t>(d) + 1) * p - (2 * static_cast<int64_t>(i) + 1) * q;
+    return static_cast<double>(of2q) / static_cast<double>(2 * static_cast<int64_t>(q));
+  }
   // The source position at the same fraction of the axis.
   ptrdiff_t Offset(ptrdiff_t d) const { return static_cast<ptrdiff_t>(static_cast<int64_t>(d) * p / q); }
   // The nearest source position; of two equally near ones the lower.
@@ -51,11 +64,6 @@ struct ResizeAxis {
     return static_cast<ptrdiff_t>((twice - 1) / (2 * static_cast<int64_t>(q)));
   }
 };
-
-constexpr ptrdiff_t FloorOf(double x) {
-  const auto whole = static_cast<ptrdiff_t>(x);
-  return static_cast<double>(whole) > x ? whole - 1 : whole;
-}
 
 struct ResizeRecord {
   uint32_t tag;
@@ -85,6 +93,10 @@ struct ResizeRecord {
   template <class W>
   const W* Weights(const ResizeAxis& axis) const {
     return At<W>(axis.weightsAt, axis.weightsAtHigh);
+  }
+  // The weights of antialiasing in double, which lie behind those in float.
+  const double* PreciseWeights(const ResizeAxis& axis) const {
+    return reinterpret_cast<const double*>(Weights<float>(axis) + PlaneOf(axis.destination) * axis.taps);
   }
 
   template <class Table>
@@ -150,12 +162,19 @@ inline TableBytes SuperTables(int64_t p, int64_t q) {
   return {(ByteCount(4) * q).RoundedTo(kTableAlignment), (ByteCount(4) * q * (p / q + 2)).RoundedTo(kTableAlignment)};
 }
 
-// Taps that are reserved for a position: `reach` pixels on each side, widened by the ratio when antialiasing.
-constexpr int64_t ReservedTaps(QvpiInterpolationType interpolation, bool isAntialiasing, int64_t source,
-                               int64_t destination) {
+// The most taps of a position: `reach` pixels on each side, widened by the ratio when antialiasing.
+constexpr int64_t MostTaps(QvpiInterpolationType interpolation, bool isAntialiasing, int64_t source,
+                           int64_t destination) {
   const int64_t taps = interpolation == qvpInterpolationLinear ? 2 : interpolation == qvpInterpolationCubic ? 4 : 6;
   if (!isAntialiasing || source <= destination) return taps;
-  return 2 * ((taps * source + destination - 1) / destination);
+  return (taps * source + destination - 1) / destination;
+}
+
+// Taps that a record and its work buffer reserve for a position: for reductions twice as many.
+constexpr int64_t ReservedTaps(QvpiInterpolationType interpolation, bool isAntialiasing, int64_t source,
+                               int64_t destination) {
+  const int64_t most = MostTaps(interpolation, isAntialiasing, source, destination);
+  return isAntialiasing && source > destination ? 2 * most : most;
 }
 
 }  // namespace qvp::resize

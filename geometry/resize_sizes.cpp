@@ -51,9 +51,10 @@ QvpStatus CheckType(QvpDataType type, QvpiInterpolationType interpolation, bool 
   return isAntialiasing ? qvpStatusNotSupportedMode : qvpStatusNoError;
 }
 
+// An index and a float for each tap, with antialiasing a double, too.
 ByteCount TapTables(QvpiInterpolationType interpolation, bool isAntialiasing, int64_t source, int64_t destination) {
-  const int64_t taps = ReservedTaps(interpolation, isAntialiasing, source, destination);
-  return ByteCount(4) * (1 + taps) * PlaneOf(destination);
+  const int64_t taps = MostTaps(interpolation, isAntialiasing, source, destination);
+  return ByteCount(4) * (1 + (isAntialiasing ? 3 : 1) * taps) * PlaneOf(destination);
 }
 
 ByteCount SuperTables(ptrdiff_t source, ptrdiff_t destination) {

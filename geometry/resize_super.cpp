@@ -118,7 +118,7 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   taps.count = across.taps;
   taps.certain = across.taps;  // the zeros behind the sums need no other care
   const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels);
-  const TapPlanes weights{strip.weights, strip.columns};
+  const TapPlanes<float> weights{strip.weights, strip.columns};
   const auto area = static_cast<int>(across.p * down.p);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
     const T* row = SourceRow(call, tile, down.First(tile.y + y)) + strip.source * channels;

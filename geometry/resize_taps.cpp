@@ -202,17 +202,19 @@ void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   }
 }
 
-template <class Weights>
-Weights WeightsOf(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
-  using W = std::remove_cvref_t<decltype(*Weights::at)>;
-  constexpr ptrdiff_t kPair = sizeof(W) == sizeof(int16_t) ? 2 : 1;
-  return {record.Weights<W>(axis) + kPair * begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
+TapPlanes<float> FloatWeights(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
+  return {record.Weights<float>(axis) + begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
+}
+TapPlanes<double> DoubleWeights(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
+  return {record.PreciseWeights(axis) + begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
+}
+FixedTapPlanes FixedWeights(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t begin) {
+  return {record.Weights<int16_t>(axis) + 2 * begin, static_cast<ptrdiff_t>(PlaneOf(axis.destination))};
 }
 
-template <class Weights, class T>
-void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  const auto across = WeightsOf<Weights>(record, record.columns, tile.x);
-  const auto down = WeightsOf<Weights>(record, record.rows, tile.y);
+template <class T, class WeightsOf>
+void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const WeightsOf& weightsOf) {
+  const auto across = weightsOf(record, record.columns, tile.x), down = weightsOf(record, record.rows, tile.y);
   if constexpr (sizeof(T) == sizeof(double)) {
     FilterTileDirectly(call, record, tile, across, down);
   } else {
@@ -220,13 +222,17 @@ void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   }
 }
 
+// Only linear and antialiasing functions take doubles, and of these only the latter come here.
 template <class T>
 void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  if (record.weights != WeightKind::kFixed) return ResizeFloat<TapPlanes>(call, record, tile);
-  if constexpr (sizeof(T) == 1) {
+  if constexpr (sizeof(T) == sizeof(double)) {
+    ResizeFloat(call, record, tile, DoubleWeights);
+  } else if (record.weights != WeightKind::kFixed) {
+    ResizeFloat(call, record, tile, FloatWeights);
+  } else if constexpr (sizeof(T) == 1) {
     ResizeFixed(call, record, tile);
   } else {
-    ResizeFloat<FixedTapPlanes>(call, record, tile);
+    ResizeFloat(call, record, tile, FixedWeights);
   }
 }
 

@@ -8,11 +8,12 @@
 namespace qvp::resize {
 
 // One floating-point number for each tap.
+template <class W>
 struct TapPlanes {
-  const float* at;
+  const W* at;
   ptrdiff_t plane;
 
-  float At(int k, ptrdiff_t d) const { return at[k * plane + d]; }
+  W At(int k, ptrdiff_t d) const { return at[k * plane + d]; }
   template <class D>
   HWY_INLINE hn::Vec<D> Load(D lanes, int k, ptrdiff_t d) const {
     return LoadWide(lanes, at + k * plane + d);
