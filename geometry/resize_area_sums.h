@@ -26,7 +26,7 @@ HWY_INLINE V Sum(V a, V b, W... more) {
 
 // sums[i] += each times the samples at place i of some rows.
 template <class D, class T, class... Row>
-HWY_INLINE void AddRows(D d, hn::Vec<D> each, ptrdiff_t n, hn::TFromD<D>* sums, const T* first, const Row*... rows) {
+HWY_INLINE void AddToSums(D d, hn::Vec<D> each, ptrdiff_t n, hn::TFromD<D>* sums, const T* first, const Row*... rows) {
   MapRow<false>(
       d, sums, n, [=](auto sum, auto v, auto... w) HWY_ATTR { return hn::Add(sum, hn::Mul(Sum(v, w...), each)); },
       static_cast<const hn::TFromD<D>*>(sums), first, rows...);
@@ -49,11 +49,11 @@ void SumCovered(D d, const Image<const T>& rows, const Coverage& down, ptrdiff_t
   const auto row = [&](ptrdiff_t y) { return rows.Row(y); };
   ptrdiff_t y = 1;
   for (; y + 7 <= down.whole; y += 8) {
-    AddRows(d, each, n, sums, row(y), row(y + 1), row(y + 2), row(y + 3), row(y + 4), row(y + 5), row(y + 6),
-            row(y + 7));
+    AddToSums(d, each, n, sums, row(y), row(y + 1), row(y + 2), row(y + 3), row(y + 4), row(y + 5), row(y + 6),
+              row(y + 7));
   }
-  for (; y + 2 <= down.whole; y += 3) AddRows(d, each, n, sums, row(y), row(y + 1), row(y + 2));
-  for (; y <= down.whole; ++y) AddRows(d, each, n, sums, row(y));
+  for (; y + 2 <= down.whole; y += 3) AddToSums(d, each, n, sums, row(y), row(y + 1), row(y + 2));
+  for (; y <= down.whole; ++y) AddToSums(d, each, n, sums, row(y));
 }
 
 // The sums down of a row of areas, of one piece of source pixels after the other.

@@ -170,17 +170,13 @@ class AreaColumns {
   // A pixel in each block of 16 bytes: that of the place and, in the second block, the one two behind it.
   template <int kPairs, int kChannels>
   static HWY_INLINE hn::Vec<Wide> BlockPixels(const Tables& tables, const uint8_t* row, ptrdiff_t phase) {
-    const hn::Full128<int32_t> block;
     const auto shuffle = hn::LoadDup128(GatherTag(), tables.masks);
     auto sum = hn::Zero(Wide());
     for (ptrdiff_t k = 0; k < (kPairs ? kPairs : tables.pairs); ++k) {
       const int32_t* weights = tables.weights + k * kPlaces + phase;
       const auto samples = LoadBlocks(row + k * 2 * kChannels * sizeof(uint16_t), tables.offsets + phase, 2);
-#if HWY_TARGET <= HWY_AVX2
-      const auto w = hn::Combine(Wide(), hn::Set(block, weights[2]), hn::Set(block, weights[0]));
-#else
-      const auto w = hn::Set(block, weights[0]);
-#endif
+      const auto w =
+          FromBlocks(Wide(), [&](int i) HWY_ATTR { return hn::Set(hn::Full128<int32_t>(), weights[2 * i]); });
       const auto pairs = hn::BitCast(Words(), hn::TableLookupBytes(samples, shuffle));
       sum = hn::Add(sum, MulAddPairs(pairs, hn::BitCast(Words(), w)));
     }
@@ -224,7 +220,7 @@ class AreaColumns {
   static HWY_INLINE void StoreThreeOfFour(hn::Vec128<uint8_t> pixels, uint8_t* dst) {
     const hn::Full128<uint8_t> d;
     HWY_ALIGN static constexpr uint8_t kPlaces3[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
-    const auto packed = hn::TableLookupBytes(pixels, hn::Load(d, kPlaces3));
+    const auto packed = hn::TableLookupBytesOr0(pixels, hn::Load(d, kPlaces3));
     hn::StoreU(hn::LowerHalf(packed), hn::Full64<uint8_t>(), dst);
     const auto rest = hn::ExtractLane(hn::BitCast(hn::Full128<int32_t>(), packed), 2);
     std::memcpy(dst + 8, &rest, sizeof(rest));

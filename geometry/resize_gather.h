@@ -2,6 +2,7 @@
 // outputs, because their samples are close to each other. The shuffles are made once for a tile.
 #pragma once
 
+#include "base/from_blocks.h"
 #include "base/pairs.h"
 #include "geometry/resize_call.h"
 
@@ -124,14 +125,8 @@ class Gather {
 
 // One load for each block of a vector; `stride` loads lie between those of the first and of the second block.
 HWY_INLINE hn::Vec<GatherTag> LoadBlocks(const uint8_t* row, const int32_t* offsets, int stride) {
-  const hn::Full128<uint8_t> block;
-  const auto low = hn::LoadU(block, row + offsets[0]);
-#if HWY_TARGET <= HWY_AVX2
-  return hn::Combine(GatherTag(), hn::LoadU(block, row + offsets[stride]), low);
-#else
-  (void)stride;
-  return low;
-#endif
+  return FromBlocks(GatherTag(),
+                    [&](int i) HWY_ATTR { return hn::LoadU(hn::Full128<uint8_t>(), row + offsets[i * stride]); });
 }
 
 // The vector of gathered bytes. With several loads each is shuffled by the whole mask, of which it has its part.
@@ -141,9 +136,10 @@ HWY_INLINE hn::Vec<GatherTag> GatherVector(const uint8_t* row, const int32_t* of
   const GatherTag d;
   const hn::Repartition<uint64_t, GatherTag> d64;
   const hn::Repartition<uint32_t, GatherTag> d32;
-  const auto part = [&](int i) HWY_ATTR { return hn::TableLookupBytes(LoadBlocks(row, offsets + i, kLoads), shuffle); };
+  const auto part = [&](int i)
+                        HWY_ATTR { return hn::TableLookupBytesOr0(LoadBlocks(row, offsets + i, kLoads), shuffle); };
   if constexpr (kLoads == kSharedLoad) {
-    return hn::TableLookupBytes(hn::LoadDup128(d, row + offsets[0]), shuffle);
+    return hn::TableLookupBytesOr0(hn::LoadDup128(d, row + offsets[0]), shuffle);
   } else if constexpr (kLoads == 1) {
     return part(0);
   } else if constexpr (kLoads == 2) {

@@ -1,0 +1,112 @@
+// The columns of a tile, and their filtering one by one.
+#pragma once
+
+#include <array>
+
+#include "base/map.h"
+#include "geometry/block_sum.h"
+#include "geometry/resize_weights.h"
+
+namespace qvp::resize {
+
+// Whether two taps of four successive columns at a time can be picked out of eight samples: 16-bit ones by a shuffle of
+// bytes, single floats where there are lookups across 32 bytes.
+template <class T>
+inline constexpr bool kCanPick = sizeof(T) == 2 || (sizeof(T) == 4 && hn::MaxLanes(hn::CappedTag<float, 8>()) == 8);
+inline constexpr ptrdiff_t kPickedFrom = 8;
+
+// Columns of a tile: which of them the vector kernels may compute, and the others one by one.
+template <class T>
+struct ColumnPlan {
+  Taps taps;
+  Edge edge;
+  int channels;
+  bool arePicked;  // of one channel, by pairs of taps that are near
+  ptrdiff_t to;    // of the columns [taps.from, to) the kernels may read and write as much as they do
+
+  ColumnPlan(const Taps& t, const Edge& e, int nc, bool areNear = false)
+      : taps(t), edge(e), channels(nc), arePicked(kCanPick<T> && areNear && nc == 1), to(t.to) {
+    if (t.from == t.to) return;
+    const ptrdiff_t end = t.first[t.to - 1] + t.certain;
+    if (arePicked) {
+      while (to - t.from >= 4 && t.first[to - 4] + kPickedFrom > end) --to;
+      return;
+    }
+    const ptrdiff_t read = nc == 1 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
+    if (nc == 3) to = std::min(to, t.length - 1);  // four samples are written for three
+    while (to > t.from && t.first[to - 1] + read > end) --to;
+  }
+};
+
+constexpr int kMostChannels = 4;
+
+// Adds up the taps [begin, end) one by one: the products of samples(k), as many as there are channels, with weight(k).
+// A tap that may be left out contributes 0 where its weight is 0, whatever lies there. `channels` is a number, or a
+// type that stands for one.
+template <class F, class Count, class Samples, class Weight>
+HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, const Samples& samples,
+                          const Weight& weight, F* sums) {
+  for (int k = begin; k < end; ++k) {
+    const F w = static_cast<F>(weight(k));
+    const bool isRead = k < taps.certain || w != 0;
+    const auto sample = samples(k, isRead);
+    for (int c = 0; c < channels; ++c) {
+      const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
+      sums[c] = k == begin ? product : sums[c] + product;
+    }
+  }
+}
+
+// All taps: those in float by blocks.
+template <class F, class Count, class Samples, class Weight>
+HWY_INLINE void AddTaps(const Taps& taps, Count channels, const Samples& samples, const Weight& weight, F* sums) {
+  const bool isOneBlock = sizeof(F) > sizeof(float) || taps.count <= kBlockTaps;
+  AddTapsOf(taps, 0, isOneBlock ? taps.count : kBlockTaps, channels, samples, weight, sums);
+  if (isOneBlock) return;
+  BlockSum<F> totals[kMostChannels];
+  for (int c = 0; c < channels; ++c) totals[c] = BlockSum<F>(sums[c]);
+  for (int k = kBlockTaps; k < taps.count; k += kBlockTaps) {
+    AddTapsOf(taps, k, std::min(k + kBlockTaps, taps.count), channels, samples, weight, sums);
+    for (int c = 0; c < channels; ++c) totals[c].Add(sums[c]);
+  }
+  for (int c = 0; c < channels; ++c) sums[c] = totals[c].Rounded();
+}
+
+// One pixel of a row, across.
+template <class F, class Count, class T, class Weights>
+HWY_INLINE void FilterPixel(const ColumnPlan<T>& plan, Count channels, const Weights& weights, const T* row,
+                            ptrdiff_t x, F* sums) {
+  const auto pixel = [&](int k, bool isRead)
+                         HWY_ATTR { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
+  AddTaps(
+      plan.taps, channels, pixel, [&](int k) HWY_ATTR { return weights.At(k, x); }, sums);
+}
+
+template <int kChannels, class T, class Weights>
+void FilterEach(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
+                float* out) {
+  constexpr std::integral_constant<int, kChannels> kCount;
+  for (ptrdiff_t x = begin; x < end; ++x) {
+    float sums[kChannels];
+    FilterPixel(plan, kCount, weights, row, x, sums);
+    std::copy_n(sums, kChannels, out + x * kChannels);
+  }
+}
+
+template <class T, class Weights>
+void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
+                    float* out) {
+  if (begin >= end) return;
+  if (plan.channels == 1) return FilterEach<1>(plan, weights, row, begin, end, out);
+  if (plan.channels == 3) return FilterEach<3>(plan, weights, row, begin, end, out);
+  FilterEach<4>(plan, weights, row, begin, end, out);
+}
+
+// The columns on both sides of those that vector kernels computed, [taps.from, done).
+template <class T, class Weights>
+void FilterEnds(const ColumnPlan<T>& plan, const Weights& weights, ptrdiff_t done, const T* row, float* out) {
+  FilterOneByOne(plan, weights, row, done, plan.taps.length, out);
+  FilterOneByOne(plan, weights, row, 0, plan.taps.from, out);
+}
+
+}  // namespace qvp::resize

@@ -1,0 +1,158 @@
+// Filtering of one channel across, as many columns at once as a vector has lanes.
+#pragma once
+
+#include "base/from_blocks.h"
+#include "geometry/resize_columns.h"
+
+namespace qvp::resize {
+
+// Four samples of one place and of another one, in the low and the high block of a vector, and so on.
+template <class D, class T>
+HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdiff_t k) {
+  const auto four = [&](int i) HWY_ATTR { return LoadWide(hn::Full128<float>(), row + places[4 * i] + k); };
+  return FromBlocks(d, four);
+}
+
+// The total of the blocks before tap k, of which the last one is `block`.
+template <class V>
+HWY_INLINE BlockSum<V> NextTotal(BlockSum<V> total, V block, int k) {
+  if (k == kBlockTaps) return BlockSum<V>(block);
+  total.Add(block);
+  return total;
+}
+template <class V>
+HWY_INLINE V WithLast(BlockSum<V> total, V block) {
+  total.Add(block);
+  return total.Rounded();
+}
+
+// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap. An even
+// number of taps that is known has no tap that may be left out.
+template <int kCount, class D, class T, class Weights>
+HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
+  const hn::Repartition<double, D> pairs;
+  const int32_t* first = taps.first + x;
+  const int count = kCount ? kCount : taps.count, certain = kCount % 2 == 0 && kCount ? kCount : taps.certain;
+  auto sum = hn::Zero(d);
+  BlockSum<hn::Vec<D>> total;
+  const auto add = [&](int k, auto samples) HWY_ATTR {
+    const auto w = weights.Load(d, k, x);
+    if (k >= certain) samples = hn::IfThenElseZero(hn::Ne(w, hn::Zero(d)), samples);
+    const auto product = hn::Mul(samples, w);
+    sum = k % kBlockTaps == 0 ? product : hn::Add(sum, product);
+  };
+  for (int k = 0; k < count; k += 4) {
+    if (kCount == 0 && k > 0 && k % kBlockTaps == 0) total = NextTotal(total, sum, k);
+    const auto a = LoadFours(d, row, first, k), b = LoadFours(d, row, first + 1, k);
+    const auto c = LoadFours(d, row, first + 2, k), e = LoadFours(d, row, first + 3, k);
+    const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
+    const auto ce = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
+    add(k, hn::BitCast(d, hn::InterleaveLower(pairs, ab, ce)));
+    if (k + 1 < count) add(k + 1, hn::BitCast(d, hn::InterleaveUpper(pairs, ab, ce)));
+    if (k + 2 >= count) break;
+    const auto upperAb = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
+    const auto upperCe = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
+    add(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
+    if (k + 3 < count) add(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
+  }
+  return kCount == 0 && count > kBlockTaps ? WithLast(total, sum) : sum;
+}
+
+// Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found
+// once for several rows.
+template <class D, class T>
+class PickedPairs {
+ public:
+  HWY_INLINE PickedPairs(D, const int32_t* first) : low_(first[0]), high_(first[hn::MaxLanes(D()) - 4]) {
+    const auto places = hn::LoadU(Ints(), first);
+    const auto apart = hn::Sub(places, hn::Broadcast<0>(places));
+    if constexpr (sizeof(T) == 4) {
+      places_ = apart;
+    } else {  // the bytes of a lane are those of two successive samples
+      HWY_ALIGN static constexpr uint8_t kSpread[16] = {0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12};
+      const auto spread =
+          hn::TableLookupBytes(hn::BitCast(Bytes(), hn::Add(apart, apart)), hn::LoadDup128(Bytes(), kSpread));
+      places_ = hn::BitCast(Ints(), hn::Add(spread, hn::BitCast(Bytes(), hn::Set(Ints(), 0x03020100))));
+    }
+  }
+
+  // The first times `left`, and the second times `right`, added.
+  HWY_INLINE hn::Vec<D> WeightedSum(const T* row, hn::Vec<D> left, hn::Vec<D> right) const {
+    const D d;
+    if constexpr (sizeof(T) == 4) {
+      const auto low = hn::LoadU(d, row + low_), high = hn::LoadU(d, row + high_);
+      const auto pick = [&](auto at) HWY_ATTR {
+        const auto lanes = hn::IndicesFromVec(d, at);
+        return hn::ConcatUpperLower(d, hn::TableLookupLanes(high, lanes), hn::TableLookupLanes(low, lanes));
+      };
+      const auto second = pick(hn::Add(places_, hn::Set(Ints(), 1)));
+      return hn::Add(hn::Mul(pick(places_), left), hn::Mul(second, right));
+    } else {
+      const auto pairs = hn::BitCast(Lanes(), hn::TableLookupBytes(Blocks(row), hn::BitCast(Bytes(), places_)));
+      const auto first = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs)), second = hn::ShiftRight<16>(pairs);
+      const auto product = [&](auto v, auto w)
+                               HWY_ATTR { return hn::Mul(hn::ConvertTo(d, hn::BitCast(Ints(), v)), w); };
+      return hn::Add(product(first, left), product(second, right));
+    }
+  }
+
+ private:
+  using Ints = hn::Rebind<int32_t, D>;
+  using Bytes = hn::Repartition<uint8_t, D>;
+  using Lanes = hn::Rebind<std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>, D>;
+
+  HWY_INLINE hn::Vec<Bytes> Blocks(const T* row) const {
+    return FromBlocks(Bytes(), [&](int i) HWY_ATTR {
+      return hn::LoadU(hn::Full128<uint8_t>(), reinterpret_cast<const uint8_t*>(row + (i == 0 ? low_ : high_)));
+    });
+  }
+
+  ptrdiff_t low_, high_;
+  hn::Vec<Ints> places_;
+};
+
+template <int kCount, size_t kRows, class T, class Weights>
+void FilterSinglesBy(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                     const std::array<float*, kRows> out) {
+  using D = hn::CappedTag<float, 8>;
+  const Taps taps = plan.taps;
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    hn::Vec<D> sums[kRows];
+    for (size_t i = 0; i < kRows; ++i) sums[i] = FilterSingles<kCount>(D(), taps, weights, rows[i], x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(sums[i], D(), out[i] + x);
+  };
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
+}
+
+template <size_t kRows, class T, class Weights>
+void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
+                const std::array<float*, kRows> out) {
+  using D = hn::CappedTag<float, 8>;
+  const int32_t* first = plan.taps.first;
+  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
+    const PickedPairs<D, T> pairs(D(), first + x);
+    const auto left = weights.Load(D(), 0, x), right = weights.Load(D(), 1, x);
+    for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), D(), out[i] + x);
+  };
+  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
+  for (ptrdiff_t x = plan.taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
+  filter(last);
+}
+
+// One channel. The usual numbers of taps have loops of their own.
+template <size_t kRows, class T, class Weights>
+void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
+                         const std::array<float*, kRows>& out) {
+  const Taps& taps = plan.taps;
+  const int count = taps.certain == taps.count || taps.count == 3 ? taps.count : 0;
+  const auto filter = count == 2   ? FilterSinglesBy<2, kRows, T, Weights>
+                      : count == 3 ? FilterSinglesBy<3, kRows, T, Weights>
+                      : count == 4 ? FilterSinglesBy<4, kRows, T, Weights>
+                      : count == 6 ? FilterSinglesBy<6, kRows, T, Weights>
+                                   : FilterSinglesBy<0, kRows, T, Weights>;
+  filter(plan, weights, rows, out);
+}
+
+}  // namespace qvp::resize
