@@ -63,21 +63,6 @@ QvpStatus qvpiResizeGetSize_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpol
 QvpStatus qvpiResizeGetSize_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
-/** @} */
-
-/** @name Resize: size of the record, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param interpolation method: nearest, linear, cubic, super or Lanczos
- *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
- *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
- *  @return as qvpiResizeGetSize_8u(), but after qvpStatusInterpolation: qvpStatusDataType: a type other than 8u, 16u,
- *          16s and 32f, or 64f with another method than linear; qvpStatusNotSupportedMode: 64f with antialiasing;
- *          qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiInterpolationType interpolation, Qvp32u antialiasing, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
 /** @} */
 
@@ -190,18 +175,6 @@ QvpStatus qvpiResizeNearestInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResiz
 QvpStatus qvpiResizeNearestInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
-/** @} */
-
-/** @name Resize: nearest, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param pSpec record
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1. qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -263,19 +236,6 @@ QvpStatus qvpiResizeLinearInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResiz
 QvpStatus qvpiResizeLinearInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpiResizeSpec* pSpec);
-/** @} */
-
-/** @name Resize: linear, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param pSpec record
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
- *          a length above 33554431.
- */
 QvpStatus qvpiResizeLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -359,21 +319,6 @@ QvpStatus qvpiResizeCubicInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f val
 QvpStatus qvpiResizeCubicInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
-/** @} */
-
-/** @name Resize: cubic, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param valueB,valueC parameters of the kernel
- *  @param pSpec record
- *  @param pInitBuf Init buffer; not needed after the call
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
- *          16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -471,21 +416,6 @@ QvpStatus qvpiResizeLanczosInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u n
 QvpStatus qvpiResizeLanczosInit_16s(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_8u_L(QvpiSizeL srcSize, QvpiSizeL dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
-/** @} */
-
-/** @name Resize: Lanczos, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param numLobes 2 or 3
- *  @param pSpec record
- *  @param pInitBuf Init buffer; not needed after the call
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
- *          qvpStatusDataType: not 8u, 16u, 16s or 32f. qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -502,19 +432,6 @@ QvpStatus qvpiResizeSuperInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeS
 QvpStatus qvpiResizeSuperInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_16s(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_32f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
-/** @} */
-
-/** @name Resize: super-sampling, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param pSpec record
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or the source smaller than the destination. qvpStatusDataType: not 8u, 16u, 16s or 32f.
- *          qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeSuperInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec);
 /** @} */
 
@@ -593,20 +510,6 @@ QvpStatus qvpiResizeSuper_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f
  */
 QvpStatus qvpiResizeAntialiasingLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
-/** @} */
-
-/** @name Resize: antialiased linear, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param pSpec record
- *  @param pInitBuf Init buffer; not needed after the call
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow:
- *          a length above 33554431.
- */
 QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -623,21 +526,6 @@ QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSiz
  */
 QvpStatus qvpiResizeAntialiasingCubicInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingCubicInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
-/** @} */
-
-/** @name Resize: antialiased cubic, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param valueB,valueC parameters of the kernel, as for qvpiResizeCubicInit_8u()
- *  @param pSpec record
- *  @param pInitBuf Init buffer; not needed after the call
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. qvpStatusDataType: not 8u,
- *          16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 
@@ -654,21 +542,6 @@ QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize
  */
 QvpStatus qvpiResizeAntialiasingLanczosInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLanczosInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
-/** @} */
-
-/** @name Resize: antialiased Lanczos, Init, any type
- *  @{ */
-/** The same for functions with `_L`.
- *
- *  @param srcSize,dstSize sizes of source and destination
- *  @param dataType type of the samples
- *  @param numLobes 2 or 3
- *  @param pSpec record
- *  @param pInitBuf Init buffer; not needed after the call
- *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
- *          qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f. qvpStatusSizeOverflow: a length above 33554431.
- */
 QvpStatus qvpiResizeAntialiasingLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 /** @} */
 

@@ -238,6 +238,34 @@ long Fold(long i, bool isMirror, long begin, long end) {
   return i;
 }
 
+// A sample of memory.
+double Get(Kind kind, const uint8_t* p) {
+  const auto as = [p](auto value) {
+    std::memcpy(&value, p, sizeof(value));
+    return static_cast<double>(value);
+  };
+  switch (kind) {
+    case Kind::k8u: return *p;
+    case Kind::k16u: return as(uint16_t{});
+    case Kind::k16s: return as(int16_t{});
+    case Kind::k32f: return as(float{});
+    default: return as(double{});
+  }
+}
+void Put(Kind kind, uint8_t* p, double value) {
+  const auto as = [=](auto stored) {
+    stored = static_cast<decltype(stored)>(value);
+    std::memcpy(p, &stored, sizeof(stored));
+  };
+  switch (kind) {
+    case Kind::k8u: return as(uint8_t{});
+    case Kind::k16u: return as(uint16_t{});
+    case Kind::k16s: return as(int16_t{});
+    case Kind::k32f: return as(float{});
+    default: return as(double{});
+  }
+}
+
 // A random source image with `margin` pixels around the part that is resized.
 class Source {
  public:
@@ -249,7 +277,7 @@ class Source {
     test::Random random(11);
     for (int y = 0; y < size.height + 2 * margin; ++y) {
       for (int x = 0; x < (size.width + 2 * margin) * m.channels; ++x)
-        Put(image_.bytes() + y * image_.step() + x * m.bytes, random.Next() % 20001 / 100.0 - 100);
+        Put(m.kind, image_.bytes() + y * image_.step() + x * m.bytes, random.Next() % 20001 / 100.0 - 100);
     }
   }
 
@@ -259,26 +287,7 @@ class Source {
   }
   double Sample(long x, long y, int c) const { return Get(m_.kind, At(x, y) + c * m_.bytes); }
 
-  static double Get(Kind kind, const uint8_t* p) {
-    const auto as = [p](auto value) {
-      std::memcpy(&value, p, sizeof(value));
-      return static_cast<double>(value);
-    };
-    switch (kind) {
-      case Kind::k8u: return *p;
-      case Kind::k16u: return as(uint16_t{});
-      case Kind::k16s: return as(int16_t{});
-      case Kind::k32f: return as(float{});
-      default: return as(double{});
-    }
-  }
-
  private:
-  void Put(uint8_t* p, double value) {
-    const auto single = static_cast<float>(value);
-    m_.kind == Kind::k32f ? std::memcpy(p, &single, sizeof(single)) : std::memcpy(p, &value, sizeof(value));
-  }
-
   const Member& m_;
   int margin_;
   test::Image<uint8_t> image_;
@@ -348,7 +357,7 @@ void Check(const Method& m, const Member& member, QvpiSize from, QvpiSize to, in
     for (int i = 0; i < to.width * member.channels; ++i) {
       const double exact =
           Clamped(member.kind, Reference(m, src, from, to, border, reach, i / member.channels, y, i % member.channels));
-      const double got = Source::Get(member.kind, dst.bytes() + y * dst.step() + i * member.bytes);
+      const double got = Get(member.kind, dst.bytes() + y * dst.step() + i * member.bytes);
       ASSERT_NEAR(got, exact, Tolerance(m, member))
           << member.name << ' ' << m.interpolation << ' ' << from.width << 'x' << from.height << " to " << to.width
           << 'x' << to.height << " at " << i << ',' << y << " border " << border;
@@ -577,6 +586,176 @@ TEST(Resize, AveragesAndIdentities) {
   }
 }
 
+// Calls a member with a whole image of equal pixels, and checks every result.
+void CheckConstant(const Method& m, const Member& member, QvpiSize from, QvpiSize to, double value, double tolerance) {
+  const Record record(m, member.kind, from, to);
+  ASSERT_EQ(record.status(), 0);
+  const size_t samples = size_t{1} * from.width * from.height * member.channels;
+  std::vector<uint8_t> src(samples * member.bytes), work(record.BufferSize(to, member.channels));
+  for (size_t i = 0; i < samples; ++i) Put(member.kind, src.data() + i * member.bytes, value);
+  std::vector<uint8_t> dst(size_t{1} * to.width * to.height * member.channels * member.bytes);
+  const QvpiPoint at = record.SourceOf({0, 0});
+  const int pixel = member.channels * member.bytes;
+  ASSERT_EQ(member.call(src.data() + (size_t{1} * at.y * from.width + at.x) * pixel, from.width * pixel, dst.data(),
+                        to.width * pixel, {0, 0}, to, 1, record.get(), work.data()),
+            0);
+  const double stored = Get(member.kind, src.data());
+  for (size_t i = 0; i < dst.size(); i += member.bytes) {
+    ASSERT_NEAR(Get(member.kind, dst.data() + i), stored, tolerance)
+        << member.name << ' ' << from.width << 'x' << from.height << " to " << to.width << 'x' << to.height;
+  }
+}
+
+// Averages of equal pixels are these pixels, however many: exactly in integers, and within 2 units of the last place in
+// 32f. The same for kernels that are widened a thousand times, but for the floats.
+TEST(Resize, ConstantsStay) {
+  const QvpiSize sizes[][2] = {{{1000, 1}, {1, 1}},    {{1000, 900}, {1, 1}},
+                               {{48, 270}, {25, 1}}, {{190, 34}, {170, 17}}, {{110, 7}, {90, 5}},
+                               {{36, 90}, {17, 31}},   {{5000, 3}, {7, 3}},    {{97, 61}, {13, 9}}};
+  for (const auto& [from, to] : sizes) {
+    for (const Method& m : {kSuper, kShifted, kSmoothLinear, kSmoothCubic, kSmoothLanczos}) {
+      if (!Fits(m, std::min(from.width, from.height), 1)) continue;
+      for (const char* layout : {"_C1", "_C3", "_C4"}) {
+        if (from.width * from.height > 100000 && layout[2] != '1') continue;
+        CheckConstant(m, Find(m.name + "_8u" + layout), from, to, 255, 0);
+        CheckConstant(m, Find(m.name + "_16u" + layout), from, to, 40001, 0);
+        CheckConstant(m, Find(m.name + "_16u" + layout), from, to, 65535, 0);
+        CheckConstant(m, Find(m.name + "_16s" + layout), from, to, -32767, 0);
+        const double ulps = m.interpolation == qvpInterpolationSuper ? 2 : 8;
+        for (const float value : {0.1f, 0.99999994f, 3.4e38f}) {
+          const double ulp = std::nextafter(value, INFINITY) - value;
+          if (value < 1 || m.interpolation == qvpInterpolationSuper)
+            CheckConstant(m, Find(m.name + "_32f" + layout), from, to, value, ulps * ulp);
+        }
+      }
+    }
+  }
+}
+
+// Averages of integers are the exact ones, rounded to the nearest, with ties to even.
+TEST(Resize, AveragesOfWordsAreExact) {
+  const QvpiSize ratios[] = {{2, 1}, {3, 2}, {4, 3}, {6, 5}, {5, 1}, {16, 1}, {40, 3}, {9, 2}, {270, 1}};
+  for (const QvpiSize across : ratios) {
+    for (const QvpiSize down : ratios) {
+      const QvpiSize from{3 * across.width, down.width}, to{3 * across.height, down.height};
+      for (const char* layout : {"Super_16u_C1", "Super_16s_C3", "Super_8u_C4"}) {
+        const Member& member = Find(layout);
+        const Record record(kSuper, member.kind, from, to);
+        const Source src(member, from, 0, 1);
+        const test::Image<uint8_t> dst = Resized(member, record, src, to, 0);
+        for (int i = 0; i < to.width * member.channels; ++i) {
+          double sum = 0;
+          for (const Tap& v : TapsOf(kSuper, from.height, to.height, 0, 0)) {
+            for (const Tap& h : TapsOf(kSuper, from.width, to.width, i / member.channels, 0)) {
+              sum += std::round(v.weight * down.width) * std::round(h.weight * across.width) *
+                     src.Sample(h.position, v.position, i % member.channels);
+            }
+          }
+          ASSERT_EQ(Get(member.kind, dst.bytes() + i * member.bytes), std::nearbyint(sum / (across.width * down.width)))
+              << layout << ' ' << across.width << ':' << across.height << ' ' << down.width << ':' << down.height
+              << " at " << i;
+        }
+      }
+    }
+  }
+}
+
+// Means are finite where a sum or a difference is not, and infinities and NaN stay in the areas that cover them.
+TEST(Resize, AveragesOfExtremeFloats) {
+  const float big = 3.4e38f, inf = INFINITY;
+  for (const QvpiSize to : {QvpiSize{3, 2}, {2, 1}, {4, 1}, {6, 2}}) {
+    for (const float other : {-big, big, inf, -inf, NAN}) {
+      float src[4][12], dst[2][6];
+      std::fill_n(src[0], 48, 1.0f);
+      src[0][0] = big;
+      src[1][1] = other;
+      const Record record(kSuper, Kind::k32f, {12, 4}, to);
+      std::vector<uint8_t> work(record.BufferSize(to, 1));
+      ASSERT_EQ(qvpiResizeSuper_32f_C1R(src[0], 48, dst[0], 24, {0, 0}, to, record.get(), work.data()), 0);
+      const double w = 12.0 / to.width, h = 4.0 / to.height;
+      const double exact = (double{big} + other + w * h - 2) / (w * h);
+      for (int y = 0; y < to.height; ++y) {
+        for (int x = 0; x < to.width; ++x) {
+          const float got = dst[y][x];
+          const std::string at = std::to_string(other) + ' ' + std::to_string(x) + ',' + std::to_string(y);
+          if (x > 0 || y > 0) {
+            ASSERT_EQ(got, 1) << at;
+          } else if (std::isfinite(exact)) {
+            ASSERT_NEAR(got, exact, 1e-6 * big) << at;
+          } else {
+            ASSERT_EQ(std::isnan(got), std::isnan(exact)) << at;
+            ASSERT_TRUE(std::isnan(got) || got == exact) << at;
+          }
+        }
+      }
+    }
+  }
+}
+
+// Weights of doubles keep their bits far from the image's beginning, where positions themselves have few left.
+TEST(Resize, DoublesAreInterpolatedToTheLastBits) {
+  const int n = 3000001, m = 2000003;
+  const Record linear(kLinear, Kind::k64f, {n, 2}, {m, 1}), smooth(kSmoothLinear, Kind::k64f, {n, 2}, {m, 1});
+  std::vector<double> src(2 * size_t{n}), dst(m);
+  for (int i = 0; i < n; ++i) src[i] = src[n + i] = i % 2;
+  for (const Record* record : {&linear, &smooth}) {
+    std::vector<uint8_t> work(record->BufferSize({m, 1}, 1));
+    const auto resize = record == &linear ? qvpiResizeLinear_64f_C1R : qvpiResizeAntialiasing_64f_C1R;
+    ASSERT_EQ(resize(src.data(), n * 8, dst.data(), m * 8, {0, 0}, {m, 1}, 1, nullptr, record->get(), work.data()), 0);
+    for (int d = 10; d < m - 10; d += 997) {
+      const long of2m = (2L * d + 1) * n - m, first = of2m / (2L * m);  // the position, in units of 1 / (2 m)
+      long double expected = 0, sum = 0;
+      for (long i = first - 2; i < first + 4; ++i) {
+        const long double distance = std::fabs(static_cast<long double>(of2m - 2L * m * i) / (2L * m));
+        const long double scale = record == &linear ? 1 : static_cast<long double>(n) / m;
+        const long double w = std::max(0.0L, 1 - distance / scale);
+        expected += w * src[i];
+        sum += w;
+      }
+      ASSERT_NEAR(dst[d], static_cast<double>(expected / sum), 1e-15) << d;
+    }
+  }
+}
+
+// Any failure of an Init makes the record that was there unusable, and changes nothing else; an empty size leaves it.
+TEST(Resize, FailedInitsClearRecords) {
+  std::vector<Qvp8u> memory(1 << 14), buffer(64);
+  auto* spec = reinterpret_cast<QvpiResizeSpec*>(memory.data());
+  Qvp8u* const b = buffer.data();
+  const QvpiSize n{8, 8}, small{1, 1}, none{0, 8};
+  const QvpiSizeL nL{8, 8}, longL{0x2000000, 8};
+  const std::function<QvpStatus()> failing[] = {
+      [&] {
+        return qvpiResizeNearestInit_8u({-1, 1}, n, spec);
+      },
+      [&] { return qvpiResizeLinearInit_32f(small, n, spec); },
+      [&] { return qvpiResizeLinearInit_L(nL, nL, 2, spec); },
+      [&] { return qvpiResizeNearestInit_L(longL, nL, qvp8u, spec); },
+      [&] { return qvpiResizeCubicInit_8u(n, n, 0, 0.5f, spec, nullptr); },
+      [&] { return qvpiResizeCubicInit_16u(n, n, NAN, 0.5f, spec, b); },
+      [&] { return qvpiResizeAntialiasingCubicInit_L(nL, nL, qvp32f, 0, NAN, spec, b); },
+      [&] { return qvpiResizeAntialiasingCubicInit_64f(n, n, INFINITY, 0, spec, b); },
+      [&] { return qvpiResizeLanczosInit_8u(n, n, 4, spec, b); },
+      [&] {
+        return qvpiResizeSuperInit_8u(n, {9, 8}, spec);
+      },
+      [&] { return qvpiResizeSuperShiftInit_8u(n, n, NAN, 0, spec); },
+      [&] { return qvpiResizeAntialiasingLinearInit(none, n, spec, nullptr); },
+  };
+  int size = 0;
+  for (const auto& init : failing) {
+    ASSERT_EQ(qvpiResizeLinearInit_8u(n, n, spec), 0);
+    const std::vector<Qvp8u> before = memory;
+    ASSERT_LT(init(), 0);
+    ASSERT_EQ(qvpiResizeGetBufferSize_8u(spec, n, 1, &size), qvpStatusContextMatch) << &init - failing;
+    const auto changed = std::mismatch(before.begin(), before.end(), memory.begin()).first - before.begin();
+    ASSERT_TRUE(std::equal(before.begin() + changed + 4, before.end(), memory.begin() + changed + 4));
+  }
+  ASSERT_EQ(qvpiResizeLinearInit_8u(n, n, spec), 0);
+  EXPECT_EQ(qvpiResizeLanczosInit_8u(none, n, 4, spec, b), qvpStatusNoOperation);
+  EXPECT_EQ(qvpiResizeGetBufferSize_8u(spec, n, 1, &size), 0);
+}
+
 // Memory of `size` bytes whose first one is `start` bytes behind a multiple of 64, between marked bytes.
 class Placed {
  public:
@@ -678,7 +857,7 @@ TEST(Resize, RecordsOfOtherTypesWork) {
         const test::Image<uint8_t> dst = Resized(member, other, src, to, 1);
         for (int i = 0; i < to.width * member.channels; ++i) {
           const auto at = [&](const auto& image) {
-            return Source::Get(member.kind, image.bytes() + 3 * image.step() + i * member.bytes);
+            return Get(member.kind, image.bytes() + 3 * image.step() + i * member.bytes);
           };
           ASSERT_NEAR(at(dst), at(expected),
                       member.kind == Kind::k8u ? 1
