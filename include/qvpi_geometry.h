@@ -22,41 +22,61 @@ extern "C" {
  *  any number of threads may share it, each with a buffer of its own; it must not be moved or copied. Functions
  *  without `_L` take records of Inits without `_L`, and the others those with it.
  *
- *  **Coordinates.** Centres of pixels fall on each other: destination column d lies at x = (d + 0.5) srcWidth /
- *  dstWidth - 0.5 in the source, and rows likewise. Five pixels 10 20 30 40 50 become, with replication at the edges:
+ *  **Coordinates.** Centres of pixels fall on each other: destination column d lies at x = (d + 0.5) * srcWidth
+ *  / dstWidth - 0.5 in the source, and rows likewise. Five pixels 10 20 30 40 50 become, with replication at the edges:
  *
  *  | method | taps an axis | 5 to 3: x = 0.33, 2, 3.67 | 5 to 10: x = -0.25, 0.25, 0.75, 1.25 ... |
  *  |---|---|---|---|
  *  | nearest | 1 | 10 30 50 | 10 10 20 20 30 30 40 40 50 50 |
  *  | linear | 2 | 13.3 30 46.7 | 10 12.5 17.5 22.5 ... 47.5 50 |
  *  | cubic, B = 0, C = 0.5 | 4 | 12.6 30 47.4 | 9.3 11.8 17.3 22.5 ... 48.2 50.7 |
- *  | Lanczos, 3 lobes | 6 | 12.3 30 47.7 | 9.3 11.6 17.2 22.6 ... 48.4 50.7 |
+ *  | Lanczos, 2 lobes | 4 | 12.8 30 47.3 | 9.2 12.0 17.0 22.8 ... 48.0 50.8 |
  *  | super-sampling | as many as are covered | 14 30 46 | only reductions |
- *  | antialiased linear | 2 srcWidth / dstWidth | 13.8 30 46.3 | as linear |
+ *  | antialiased linear | 2 * srcWidth / dstWidth | 13.8 30 46.3 | as linear |
  *
  *  Nearest is the fastest and has jagged edges. Linear suits enlargements and mild reductions. Cubic and Lanczos are
  *  sharper and may overshoot. Below half of the size these methods skip pixels; super-sampling and the antialiased
  *  methods then take every pixel into account.
  *
- *  **Tiles.** A destination tile with its first pixel at `dstOffset` is computed from a source pointer at the pixel
- *  that GetSrcOffset returns. Every tiling gives the bits of the whole. GetSrcRoi returns the *core* of what a tile
- *  reads, at least 1x1; linear, cubic, Lanczos and antialiased resizing also read up to GetBorderSize pixels around
- *  it as far as these lie in the image, for example the one before the pointer when enlarging.
+ *  **Small sources.** Width and height of the source must each be at least 2 for linear, 4 for cubic and Lanczos with 2
+ *  lobes, 6 for Lanczos with 3; for super-sampling at least those of the destination. GetSize and the Inits return
+ *  qvpStatusSize else (GetSize knows no lobes, and asks for 4). But for super-sampling any destination of at least 1x1
+ *  will do. Take the best method that the shorter side allows:
  *
- *  Without antialiasing a record has 4 (W + H) + 324 bytes for nearest and 8 (W + H) + 324 for linear, in 64f
- *  12 (W + H) + 320, with W and H the destination lengths rounded up to multiples of 32. The 16u, 16s and 32f forms
- *  are that of 8u. Antialiased records for 64f have the size of those for 8u. The Init buffer has 64 bytes.
+ *      int shortest = src.width < src.height ? src.width : src.height;
+ *      int method = shortest >= 4 ? qvpInterpolationCubic : shortest >= 2 ? qvpInterpolationLinear
+ *                                                         : qvpInterpolationNearest;
+ *
+ *  or repeat the last row or column, which is what replication at the edges would take anyway. A single row of n bytes,
+ *  enlarged smoothly to w x 1:
+ *
+ *      qvpiCopyReplicateBorder_8u_C1R(row, n, (QvpiSize){n, 1}, two, n, (QvpiSize){n, 2}, 0, 0);
+ *      qvpiResizeLinearInit_8u((QvpiSize){n, 2}, (QvpiSize){w, 1}, spec);
+ *
+ *  **Tiles.** A destination tile with its first pixel at `dstOffset` is computed from a source pointer at the pixel
+ *  that GetSrcOffset returns. Every tiling gives the bits of the whole, with every border. GetSrcRoi returns the *core*
+ *  of what a tile reads, at least 1x1; linear, cubic, Lanczos and antialiased resizing also read up to GetBorderSize
+ *  pixels around it as far as these lie in the image, for example the one before the pointer when enlarging. Borders
+ *  apply outside of the whole source image, never at the sides of a tile inside it.
+ *
+ *  Without antialiasing a record has 4 * (W + H) + 324 bytes for nearest and 8 * (W + H) + 324 for linear, in 64f 12 *
+ *  (W + H) + 320, with W and H the destination lengths rounded up to multiples of 32. The 16u, 16s and 32f forms are
+ *  that of 8u. Antialiased records for 64f have the size of those for 8u. The Init buffer has 64 bytes.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param interpolation method: nearest, linear, cubic, super or Lanczos
  *  @param antialiasing not 0 for the antialiased form of linear, cubic and Lanczos
  *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length is
  *          below 1. qvpStatusInterpolation: an unknown interpolation other than 0. 64f: qvpStatusDataType: another
  *          method than linear; qvpStatusNotSupportedMode: antialiasing. qvpStatusNotSupportedMode: interpolation 0.
- *          qvpStatusSize: the source is below 2 pixels for linear, 4 for cubic and Lanczos, or smaller than the
- *          destination for super-sampling. qvpStatusSizeOverflow: a size of 2147483647 or more. Warning
- *          qvpStatusAntialiasIgnored: antialiasing with nearest or super-sampling.
+ *          qvpStatusSize: the source's width or height is below 2 for linear, 4 for cubic and Lanczos, or below that
+ *          of the destination for super-sampling. qvpStatusSizeOverflow: a size of 2147483647 or more. Warning
+ *          qvpStatusAntialiasIgnored: antialiasing with nearest or super-sampling. `_L`, after
+ *          qvpStatusInterpolation: qvpStatusDataType: a type other than 8u, 16u, 16s and 32f, or 64f with another
+ *          method than linear; qvpStatusNotSupportedMode: 64f with antialiasing; qvpStatusSizeOverflow: a length
+ *          above 33554431.
  */
 QvpStatus qvpiResizeGetSize_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
 QvpStatus qvpiResizeGetSize_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
@@ -107,7 +127,7 @@ QvpStatus qvpiResizeGetBorderSize_L(const QvpiResizeSpec* pSpec, QvpiBorderSize*
 
 /** @name Resize: source pointer of a tile
  *  @{ */
-/** The source pixel that a call takes as its pointer: floor(dstOffset.x srcWidth / dstWidth), and likewise down; of a
+/** The source pixel that a call takes as its pointer: floor(dstOffset.x * srcWidth / dstWidth), and likewise down; of a
  *  shifted record the first pixel that is covered.
  *
  *  @param pSpec record
@@ -152,7 +172,8 @@ QvpStatus qvpiResizeGetSrcRoi_L(const QvpiResizeSpec* pSpec, QvpiRectL dstRoi, Q
 /** Switches a linear, cubic or Lanczos record between fast and accurate arithmetic.
  *
  *  Fast: 16-bit weights, for records of 8u Inits, which are fast at first. Accurate: 32-bit float. The tables are
- *  computed again; the Init buffer is not needed for it.
+ *  computed again; the Init buffer is not needed for it. A cubic record whose weights do not fit (see
+ *  qvpiResizeCubicInit_8u()) stays accurate when it is asked to be fast, with status 0.
  *
  *  @param hint qvpAlgHintFast or qvpAlgHintAccurate
  *  @param pSpec record
@@ -167,9 +188,10 @@ QvpStatus qvpiResizeSetMode(QvpHintAlgorithm hint, QvpiResizeSpec* pSpec);
 /** Makes a record for resizing by the nearest pixel.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1.
+ *          below 1. `_L`: qvpStatusDataType: not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeNearestInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeNearestInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
@@ -180,8 +202,8 @@ QvpStatus qvpiResizeNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataT
 
 /** @name Resize: nearest
  *  @{ */
-/** Resizes by the nearest pixel: column d takes source column floor((d + 0.5) srcWidth / dstWidth), or the lower of
- *  two that are equally near: ((2 d + 1) srcWidth - 1) div (2 dstWidth). Rows likewise. Not in place.
+/** Resizes by the nearest pixel: column d takes source column floor((d + 0.5) * srcWidth / dstWidth), or the lower of
+ *  two that are equally near: ((2 * d + 1) * srcWidth - 1) div (2 * dstWidth). Rows likewise. Not in place.
  *
  *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
  *  @param pDst,dstStep destination tile
@@ -226,9 +248,11 @@ QvpStatus qvpiResizeNearest_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp3
 /** Makes a record for linear interpolation. Records of 8u are fast, those of 64f have 64-bit weights.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2. `_L`: qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or the source's width or height below 2. `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
+ *          qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeLinearInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeLinearInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
@@ -242,12 +266,15 @@ QvpStatus qvpiResizeLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataTy
 /** @name Resize: linear
  *  @{ */
 /** Resizes by linear interpolation between 2x2 pixels: with i = floor(x) and w = x - i, first each source row,
- *  h = p[i] (1 - w) + p[i + 1] w, then down likewise. Not in place.
+ *  h = p[i] * (1 - w) + p[i + 1] * w, then down likewise. Not in place.
  *
- *  8u with a fast record: w in units of 1/16384, h = (p[i] (16384 - w) + p[i + 1] w + 128) >> 8 and the result (h0
- *  (16384 - w) + h1 w + 2^19) >> 20: within 1 of the exact value. Else each operation is rounded, in 32-bit float, or
- *  64-bit for 64f; integers are rounded to the nearest, ties to even, and saturated. Equal sizes of source and
- *  destination copy.
+ *  8u with a fast record: w in units of 1/16384, h = (p[i] * (16384 - w) + p[i + 1] * w + 128) >> 8 and the result
+ *  (h0 * (16384 - w) + h1 * w + 2^19) >> 20: within 1 of the exact value. Else w is the fraction rounded once, at any
+ *  position, and each operation is rounded, in 32-bit float, or 64-bit for 64f; integers are rounded to the nearest,
+ *  ties to even, and saturated. Equal sizes of source and destination copy.
+ *
+ *  A pixel that is infinite or NaN counts with the weight 0, too: 0 * inf and 0 * NaN are NaN. It reaches every
+ *  destination pixel between whose 2x2 pixels it is, even where w is 0.
  *
  *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
  *  @param pDst,dstStep destination tile
@@ -301,18 +328,19 @@ QvpStatus qvpiResizeLinear_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64
 /** Makes a record for cubic interpolation with the kernel of Mitchell and Netravali ("Reconstruction filters in
  *  computer graphics", 1988).
  *
- *  At the distance t: ((12 - 9B - 6C) t^3 + (-18 + 12B + 6C) t^2 + 6 - 2B) / 6 below 1, ((-B - 6C) t^3 + (6B + 30C)
- *  t^2 + (-12B - 48C) t + 8B + 24C) / 6 below 2. B = 0, C = 0.5 is the Catmull-Rom spline, B = C = 1/3 a soft
- *  compromise. Records of 8u are fast, unless a weight reaches 2 or the absolute weights of a position sum to more
- *  than 2.8.
+ *  At the distance t: ((12 - 9*B - 6*C) * t^3 + (-18 + 12*B + 6*C) * t^2 + 6 - 2*B) / 6 below 1, ((-B - 6*C) * t^3 +
+ *  (6*B + 30*C) * t^2 + (-12*B - 48*C) * t + 8*B + 24*C) / 6 below 2. B = 0, C = 0.5 is the Catmull-Rom spline, B = C =
+ *  1/3 a soft compromise. Records of 8u are fast, unless a weight reaches 2 or the absolute weights of a position sum
+ *  to more than 2.8.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param valueB,valueC parameters of the kernel
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite. `_L`:
- *          qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or the source's width or height below 4. qvpStatusBadArgument: B or C is infinite or NaN. `_L`:
+ *          qvpStatusDataType: not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeCubicInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeCubicInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
@@ -330,7 +358,8 @@ QvpStatus qvpiResizeCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataTyp
  *  floor(x) + 3. 8u with a fast record: weights in units of 1/16384 that sum to 16384; rows are rounded half up to 6
  *  bits of fraction and saturated to 16 bits, results rounded half up and saturated. Else each product and sum is
  *  rounded in 32-bit float, in the order of the pixels; integers are rounded to the nearest, ties to even, and
- *  saturated.
+ *  saturated. A float pixel that is infinite or NaN makes every result NaN that it is a tap of with weight 0, as it is
+ *  for all but one tap where centres of pixels meet.
  *
  *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
  *  @param pDst,dstStep destination tile
@@ -398,18 +427,20 @@ QvpStatus qvpiResizeLanczos_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp3
 
 /** @name Resize: Lanczos, Init
  *  @{ */
-/** Makes a record for resizing with a windowed sinc: L(t) = sinc(t) sinc(t / lobes), sinc(t) = sin(pi t) / (pi t).
+/** Makes a record for resizing with a windowed sinc: L(t) = sinc(t) * sinc(t / lobes), sinc(t) = sin(pi * t) /
+ *  (pi * t).
  *
  *  L is interpolated linearly between samples, 200 a unit for 2 lobes and 100 for 3 (within 5e-5), and the weights of
  *  each position are divided by their sum. Records of 8u are fast.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param numLobes 2 or 3
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
- *          `_L`: qvpStatusSizeOverflow: a length above 33554431.
+ *          below 1, or the source's width or height below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or
+ *          3 lobes. `_L`: qvpStatusDataType: not 8u, 16u, 16s or 32f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeLanczosInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeLanczosInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
@@ -424,9 +455,11 @@ QvpStatus qvpiResizeLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataT
 /** Makes a record for averages over areas.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or the source smaller than the destination.
+ *          below 1, or the source narrower or lower than the destination. `_L`: qvpStatusDataType: not 8u, 16u, 16s or
+ *          32f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeSuperInit_8u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperInit_16u(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec);
@@ -439,11 +472,15 @@ QvpStatus qvpiResizeSuperInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataTyp
  *  @{ */
 /** Makes a record for averages over areas of a grid that is shifted by a part of a destination pixel.
  *
+ *  The calls take their source pointer at GetSrcOffset, as ever; with a negative shift that is not the first pixel of
+ *  the image even for the tile at (0, 0): with a shift of -1.5 and a ratio of 2 it is column 3.
+ *
  *  @param srcSize,dstSize sizes of source and destination
  *  @param shiftX,shiftY shift of the destination grid in destination pixels: pixel d covers what d - shift would
  *  @param pSpec record
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or the source smaller than the destination. qvpStatusBadArgument: a shift that is not finite.
+ *          below 1, or the source narrower or lower than the destination. qvpStatusBadArgument: a shift that is
+ *          infinite or NaN.
  */
 QvpStatus qvpiResizeSuperShiftInit_8u(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
 QvpStatus qvpiResizeSuperShiftInit_16u(QvpiSize srcSize, QvpiSize dstSize, Qvp64f shiftX, Qvp64f shiftY, QvpiResizeSpec* pSpec);
@@ -456,9 +493,14 @@ QvpStatus qvpiResizeSuperShiftInit_32f(QvpiSize srcSize, QvpiSize dstSize, Qvp64
 /** Reduces: each destination pixel is the mean of the source over the area that it covers, partly covered pixels
  *  weighted by their covered part.
  *
- *  Column d covers [d r, (d + 1) r) with r = srcWidth / dstWidth, with a shift [(d - shift) r, (d + 1 - shift) r) as
- *  far as it lies in the image, and the nearest edge pixel where nothing of it does; rows likewise. Sums are of
- *  32-bit floats; integers are rounded to the nearest, ties to even. Not in place.
+ *  Column d covers [d * r, (d + 1) * r) with r = srcWidth / dstWidth, with a shift [(d - shift) * r, (d + 1 - shift) *
+ *  r) as far as it lies in the image, and the nearest edge pixel where nothing of it does; rows likewise. Not in place.
+ *
+ *  Integers: the mean, rounded to the nearest, ties to even. It is exact but where a pixel of 16 bits averages up to
+ *  3x3 pixels that p1 * p2 > 256 parts of pixels make up, p1 and p2 the source lengths by their greatest common
+ *  divisors with those of the destination (8 bits: 65536): there within 0.57. 32f: within 16 * 2^-24 of the mean of the
+ *  magnitudes; a mean that is finite stays finite. Equal pixels have themselves as mean: exactly in integers, within 2
+ *  units of the last place in 32f. Infinite and NaN pixels count only in areas that cover a part of them.
  *
  *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
  *  @param pDst,dstStep destination tile
@@ -503,10 +545,12 @@ QvpStatus qvpiResizeSuper_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f
 /** Makes a record for linear resizing with a kernel that is widened when reducing. One record serves all types.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 2.
+ *          below 1, or the source's width or height below 2. `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
+ *          qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeAntialiasingLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLinearInit_64f(QvpiSize srcSize, QvpiSize dstSize, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
@@ -518,11 +562,13 @@ QvpStatus qvpiResizeAntialiasingLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSiz
 /** Makes a record for cubic resizing with a kernel that is widened when reducing. One record serves all types.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param valueB,valueC parameters of the kernel, as for qvpiResizeCubicInit_8u()
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4. qvpStatusBadArgument: B or C is not finite.
+ *          below 1, or the source's width or height below 4. qvpStatusBadArgument: B or C is infinite or NaN. `_L`:
+ *          qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f; qvpStatusSizeOverflow: a length above 33554431.
  */
 QvpStatus qvpiResizeAntialiasingCubicInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingCubicInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32f valueB, Qvp32f valueC, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
@@ -534,11 +580,14 @@ QvpStatus qvpiResizeAntialiasingCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize
 /** Makes a record for Lanczos resizing with a kernel that is widened when reducing. One record serves all types.
  *
  *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType `_L`: type of the samples
  *  @param numLobes 2 or 3
  *  @param pSpec record
  *  @param pInitBuf Init buffer; not needed after the call
  *  @return qvpStatusNullPointer. qvpStatusNoOperation: a length is 0; nothing is written. qvpStatusSize: a length
- *          below 1, or of the source below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or 3 lobes.
+ *          below 1, or the source's width or height below 4, with 3 lobes below 6. qvpStatusNotSupportedMode: not 2 or
+ *          3 lobes. `_L`: qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f; qvpStatusSizeOverflow: a length above
+ *          33554431.
  */
 QvpStatus qvpiResizeAntialiasingLanczosInit(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
 QvpStatus qvpiResizeAntialiasingLanczosInit_64f(QvpiSize srcSize, QvpiSize dstSize, Qvp32u numLobes, QvpiResizeSpec* pSpec, Qvp8u* pInitBuf);
@@ -550,10 +599,12 @@ QvpStatus qvpiResizeAntialiasingLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSi
 /** Resizes with a linear, cubic or Lanczos kernel K that is widened by s = max(1, source length / destination length)
  *  on each axis, so that every source pixel counts.
  *
- *  A position at x takes the pixels i with |i - x| < a s, a = 1 for linear, 2 for cubic, the lobes for Lanczos, with
- *  weights K(|i - x| / s) divided by their sum. Each product and sum is rounded in 32-bit float, for 64f in double
- *  with 32-bit weights; first each source row, then down; integers are rounded to the nearest, ties to even, and
- *  saturated. Not in place.
+ *  A position at x takes the pixels i with |i - x| < a * s, a = 1 for linear, 2 for cubic, the lobes for Lanczos, with
+ *  weights K(|i - x| / s) divided by their sum. First each source row, then down. Weights, products and sums are
+ *  rounded to 32-bit float, and sums of more than 16 products are added up in blocks of 16, without a further error;
+ *  for 64f all is in double. Integers are rounded to the nearest, ties to even, and saturated: equal pixels stay what
+ *  they are at every ratio. Pixels beyond a * s are not read; an infinite or NaN one within makes the result so. Not in
+ *  place.
  *
  *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile
  *  @param pDst,dstStep destination tile
