@@ -9,7 +9,7 @@
 
 namespace qvp::resize {
 
-inline constexpr int kBlockTaps = 16;
+inline constexpr int kBlockTaps = 32;
 
 // Of numbers or vectors.
 template <class V>

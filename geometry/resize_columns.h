@@ -52,7 +52,7 @@ HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, 
     const auto sample = samples(k, isRead);
     for (int c = 0; c < channels; ++c) {
       const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
-      sums[c] = k == begin ? product : sums[c] + product;
+      sums[c] = k > begin ? sums[c] + product : begin < taps.certain ? product : F{0} + product;
     }
   }
 }

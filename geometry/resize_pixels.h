@@ -29,31 +29,43 @@ template <int kColumns, int kVectors, class D, class Weights, class Pixel>
 HWY_INLINE void FilterBlock(D d, const Taps& taps, int begin, int end, const Weights& weights, ptrdiff_t x,
                             const Pixel& pixel, hn::Vec<D>* sums) {
   const int certain = std::min(taps.certain, end);
-  const auto add = [&](int i, int k) HWY_ATTR {
-    const float weight = weights.At(k, x + i);
-    const bool isRead = k < certain || weight != 0;
-    const auto w = hn::Set(d, weight);
-    hn::Vec<D>* sum = sums + i * kVectors;
-    for (int v = 0; v < kVectors; ++v) {
-      const auto product = isRead ? hn::Mul(pixel(i, k, v), w) : hn::Zero(d);
-      sum[v] = k == begin ? product : hn::Add(sum[v], product);
-    }
+  const auto begins = [&](int i, int k) HWY_ATTR {
+    const auto w = hn::Set(d, weights.At(k, x + i));
+    for (int v = 0; v < kVectors; ++v) sums[i * kVectors + v] = hn::Mul(pixel(i, k, v), w);
   };
-  for (int i = 0; i < kColumns; ++i) add(i, begin);
-  int k = begin + 1;
-  for (; k < certain; ++k) {
-    for (int i = 0; i < kColumns; ++i) add(i, k);
+  const auto add = [&](int i, int k) HWY_ATTR {
+    const auto w = hn::Set(d, weights.At(k, x + i));
+    hn::Vec<D>* sum = sums + i * kVectors;
+    for (int v = 0; v < kVectors; ++v) sum[v] = hn::Add(sum[v], hn::Mul(pixel(i, k, v), w));
+  };
+  int k = begin;
+  if (k < certain) {
+    for (int i = 0; i < kColumns; ++i) begins(i, k);
+    for (++k; k < certain; ++k) {
+      for (int i = 0; i < kColumns; ++i) add(i, k);
+    }
+  } else {
+    for (int i = 0; i < kColumns * kVectors; ++i) sums[i] = hn::Zero(d);
   }
   for (; k < end; ++k) {
-    for (int i = 0; i < kColumns; ++i) add(i, k);
+    for (int i = 0; i < kColumns; ++i) {
+      if (weights.At(k, x + i) != 0) {
+        add(i, k);
+      } else {
+        for (int v = 0; v < kVectors; ++v) sums[i * kVectors + v] = hn::Add(sums[i * kVectors + v], hn::Zero(d));
+      }
+    }
   }
 }
 
-template <int kColumns, int kVectors, class D, class Weights, class Pixel>
+// All taps, of which there are more than a block if kAreMany.
+template <bool kAreMany, int kColumns, int kVectors, class D, class Weights, class Pixel>
 HWY_INLINE void FilterPixels(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const Pixel& pixel,
                              hn::Vec<D>* sums) {
   const int count = taps.count;
-  if (count <= kBlockTaps) return FilterBlock<kColumns, kVectors>(d, taps, 0, count, weights, x, pixel, sums);
+  if constexpr (!kAreMany) {
+    return FilterBlock<kColumns, kVectors>(d, taps, 0, count, weights, x, pixel, sums);
+  }
   BlockSum<hn::Vec<D>> totals[kColumns * kVectors];
   for (int k = 0; k < count; k += kBlockTaps) {
     FilterBlock<kColumns, kVectors>(d, taps, k, std::min(k + kBlockTaps, count), weights, x, pixel, sums);
@@ -135,12 +147,12 @@ class PixelRows {
   ptrdiff_t channels_;
 };
 
-// From four taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
-inline constexpr ptrdiff_t kLeastStagedTaps = 4, kStagedPixels = 192;
+// From three taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
+inline constexpr ptrdiff_t kLeastStagedTaps = 3, kStagedPixels = 192;
 inline bool AreStaged(const Taps& taps) { return taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels; }
 
 // kColumns columns from x on. The pixel at position `base` is the first that is staged.
-template <int kColumns, class D, class T, class Weights, int kVectors>
+template <bool kAreMany, int kColumns, class D, class T, class Weights, int kVectors>
 HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrdiff_t x, const float* staged,
                              ptrdiff_t base, const PixelRows<D, T, kVectors>& rows) {
   using Rows = PixelRows<D, T, kVectors>;
@@ -149,13 +161,12 @@ HWY_INLINE void FilterStaged(D d, const Taps& taps, const Weights& weights, ptrd
   for (int i = 0; i < kColumns; ++i) first[i] = staged + (taps.first[x + i] - base) * kPixel;
   const auto pixel = [&](int i, int k, int v) HWY_ATTR { return hn::Load(d, first[i] + k * kPixel + v * kLanes); };
   hn::Vec<D> sums[kColumns * kVectors];
-  FilterPixels<kColumns, kVectors>(d, taps, weights, x, pixel, sums);
+  FilterPixels<kAreMany, kColumns, kVectors>(d, taps, weights, x, pixel, sums);
   rows.template Store<kColumns>(sums, x);
 }
 
-template <class D, class T, class Weights, int kVectors>
-void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weights,
-                        const PixelRows<D, T, kVectors>& from) {
+template <bool kAreMany, class D, class T, class Weights, int kVectors>
+void FilterStagedBy(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T, kVectors>& from) {
   using Rows = PixelRows<D, T, kVectors>;
   const Rows rows = from;  // a copy, which stores cannot change
   constexpr ptrdiff_t kAtOnce = 4;
@@ -167,9 +178,16 @@ void FilterStagedAcross(D d, const Taps taps, ptrdiff_t to, const Weights weight
     while (end < to && isStaged(end)) ++end;
     const ptrdiff_t pixels = taps.first[end - 1] + taps.count - base;
     rows.Stage(base, pixels, staged);
-    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAtOnce>(d, taps, weights, x, staged, base, rows);
-    for (; x < end; ++x) FilterStaged<1>(d, taps, weights, x, staged, base, rows);
+    for (; x + kAtOnce <= end; x += kAtOnce) FilterStaged<kAreMany, kAtOnce>(d, taps, weights, x, staged, base, rows);
+    for (; x < end; ++x) FilterStaged<kAreMany, 1>(d, taps, weights, x, staged, base, rows);
   }
+}
+
+template <class D, class T, class Weights, int kVectors>
+void FilterStagedAcross(D d, const Taps& taps, ptrdiff_t to, const Weights& weights,
+                        const PixelRows<D, T, kVectors>& rows) {
+  if (taps.count > kBlockTaps) return FilterStagedBy<true>(d, taps, to, weights, rows);
+  FilterStagedBy<false>(d, taps, to, weights, rows);
 }
 
 template <class D, class T, class Weights>
@@ -181,7 +199,11 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, c
   for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
     hn::Vec<D> sum;
     const auto pixel = [&](int, int k, int) HWY_ATTR { return rows.Load(taps.first[x] + k, 0); };
-    FilterPixels<1, 1>(d, taps, weights, x, pixel, &sum);
+    if (taps.count > kBlockTaps) {
+      FilterPixels<true, 1, 1>(d, taps, weights, x, pixel, &sum);
+    } else {
+      FilterPixels<false, 1, 1>(d, taps, weights, x, pixel, &sum);
+    }
     rows.template Store<1>(&sum, x);
   }
 }

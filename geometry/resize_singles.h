@@ -26,23 +26,29 @@ HWY_INLINE V WithLast(BlockSum<V> total, V block) {
   return total.Rounded();
 }
 
+// In place of a number of taps: any up to a block, and any above that.
+inline constexpr int kFew = 0, kMany = -1;
+
 // One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap. An even
 // number of taps that is known has no tap that may be left out.
 template <int kCount, class D, class T, class Weights>
 HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
   const hn::Repartition<double, D> pairs;
   const int32_t* first = taps.first + x;
-  const int count = kCount ? kCount : taps.count, certain = kCount % 2 == 0 && kCount ? kCount : taps.certain;
+  const int count = kCount > 0 ? kCount : taps.count;
+  const int certain = kCount % 2 == 0 && kCount > 0 ? kCount : taps.certain;
   auto sum = hn::Zero(d);
   BlockSum<hn::Vec<D>> total;
   const auto add = [&](int k, auto samples) HWY_ATTR {
     const auto w = weights.Load(d, k, x);
     if (k >= certain) samples = hn::IfThenElseZero(hn::Ne(w, hn::Zero(d)), samples);
     const auto product = hn::Mul(samples, w);
-    sum = k % kBlockTaps == 0 ? product : hn::Add(sum, product);
+    sum = (kCount == kMany ? k % kBlockTaps : k) != 0 ? hn::Add(sum, product)
+          : k < certain                               ? product
+                                                      : hn::Add(hn::Zero(d), product);
   };
   for (int k = 0; k < count; k += 4) {
-    if (kCount == 0 && k > 0 && k % kBlockTaps == 0) total = NextTotal(total, sum, k);
+    if (kCount == kMany && k > 0 && k % kBlockTaps == 0) total = NextTotal(total, sum, k);
     const auto a = LoadFours(d, row, first, k), b = LoadFours(d, row, first + 1, k);
     const auto c = LoadFours(d, row, first + 2, k), e = LoadFours(d, row, first + 3, k);
     const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
@@ -55,7 +61,8 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
     add(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
     if (k + 3 < count) add(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
   }
-  return kCount == 0 && count > kBlockTaps ? WithLast(total, sum) : sum;
+  if constexpr (kCount == kMany) return WithLast(total, sum);
+  return sum;
 }
 
 // Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found
@@ -147,11 +154,12 @@ void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, cons
                          const std::array<float*, kRows>& out) {
   const Taps& taps = plan.taps;
   const int count = taps.certain == taps.count || taps.count == 3 ? taps.count : 0;
-  const auto filter = count == 2   ? FilterSinglesBy<2, kRows, T, Weights>
-                      : count == 3 ? FilterSinglesBy<3, kRows, T, Weights>
-                      : count == 4 ? FilterSinglesBy<4, kRows, T, Weights>
-                      : count == 6 ? FilterSinglesBy<6, kRows, T, Weights>
-                                   : FilterSinglesBy<0, kRows, T, Weights>;
+  const auto filter = count == 2                ? FilterSinglesBy<2, kRows, T, Weights>
+                      : count == 3              ? FilterSinglesBy<3, kRows, T, Weights>
+                      : count == 4              ? FilterSinglesBy<4, kRows, T, Weights>
+                      : count == 6              ? FilterSinglesBy<6, kRows, T, Weights>
+                      : taps.count > kBlockTaps ? FilterSinglesBy<kMany, kRows, T, Weights>
+                                                : FilterSinglesBy<kFew, kRows, T, Weights>;
   filter(plan, weights, rows, out);
 }
 

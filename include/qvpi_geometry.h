@@ -601,7 +601,7 @@ QvpStatus qvpiResizeAntialiasingLanczosInit_L(QvpiSizeL srcSize, QvpiSizeL dstSi
  *
  *  A position at x takes the pixels i with |i - x| < a * s, a = 1 for linear, 2 for cubic, the lobes for Lanczos, with
  *  weights K(|i - x| / s) divided by their sum. First each source row, then down. Weights, products and sums are
- *  rounded to 32-bit float, and sums of more than 16 products are added up in blocks of 16, without a further error;
+ *  rounded to 32-bit float, and sums of more than 32 products are added up in blocks of 32, without a further error;
  *  for 64f all is in double. Integers are rounded to the nearest, ties to even, and saturated: equal pixels stay what
  *  they are at every ratio. Pixels beyond a * s are not read; an infinite or NaN one within makes the result so. Not in
  *  place.
