@@ -52,7 +52,7 @@ HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, 
     const auto sample = samples(k, isRead);
     for (int c = 0; c < channels; ++c) {
       const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
-      sums[c] = k > begin ? sums[c] + product : begin < taps.certain ? product : F{0} + product;
+      sums[c] = k > begin ? sums[c] + product : begin == 0 || k < taps.certain ? product : F{0} + product;
     }
   }
 }
@@ -60,9 +60,10 @@ HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, 
 // All taps: those in float by blocks.
 template <class F, class Count, class Samples, class Weight>
 HWY_INLINE void AddTaps(const Taps& taps, Count channels, const Samples& samples, const Weight& weight, F* sums) {
-  const bool isOneBlock = sizeof(F) > sizeof(float) || taps.count <= kBlockTaps;
-  AddTapsOf(taps, 0, isOneBlock ? taps.count : kBlockTaps, channels, samples, weight, sums);
-  if (isOneBlock) return;
+  if (sizeof(F) > sizeof(float) || taps.count <= kBlockTaps) {
+    return AddTapsOf(taps, 0, taps.count, channels, samples, weight, sums);
+  }
+  AddTapsOf(taps, 0, kBlockTaps, channels, samples, weight, sums);
   BlockSum<F> totals[kMostChannels];
   for (int c = 0; c < channels; ++c) totals[c] = BlockSum<F>(sums[c]);
   for (int k = kBlockTaps; k < taps.count; k += kBlockTaps) {

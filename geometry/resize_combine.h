@@ -97,6 +97,7 @@ void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps&
                  ptrdiff_t n) {
   const int count = taps.certain < taps.count ? 0 : taps.count;
   const auto add = count == 2                ? AddRows<2, T, Weights>
+                   : count == 3              ? AddRows<3, T, Weights>
                    : count == 4              ? AddRows<4, T, Weights>
                    : count == 6              ? AddRows<6, T, Weights>
                    : taps.count > kBlockTaps ? AddBlocks<T, Weights>

@@ -62,7 +62,7 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const auto place = [&](ptrdiff_t p) { return ring.Row(p); };
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
     if constexpr (hn::MaxLanes(hn::CappedTag<float, 8>()) == 8) {
-      const bool byFours = channels > 1 && AreStaged(plan.taps);
+      const bool byFours = channels > 1 && AreStaged<T>(plan.taps);
       for (; byFours && position + 4 <= end; position += 4) {
         const ptrdiff_t p = position;
         FilterFourAcross(plan, across, std::array{source(p), source(p + 1), source(p + 2), source(p + 3)},

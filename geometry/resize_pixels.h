@@ -39,7 +39,7 @@ HWY_INLINE void FilterBlock(D d, const Taps& taps, int begin, int end, const Wei
     for (int v = 0; v < kVectors; ++v) sum[v] = hn::Add(sum[v], hn::Mul(pixel(i, k, v), w));
   };
   int k = begin;
-  if (k < certain) {
+  if (begin == 0 || k < certain) {  // the first tap is always read
     for (int i = 0; i < kColumns; ++i) begins(i, k);
     for (++k; k < certain; ++k) {
       for (int i = 0; i < kColumns; ++i) add(i, k);
@@ -147,9 +147,13 @@ class PixelRows {
   ptrdiff_t channels_;
 };
 
-// From three taps on pixels are used often enough to be converted beforehand, for a piece of the columns.
-inline constexpr ptrdiff_t kLeastStagedTaps = 3, kStagedPixels = 192;
-inline bool AreStaged(const Taps& taps) { return taps.count >= kLeastStagedTaps && taps.count <= kStagedPixels; }
+// From three taps on pixels are used often enough to be converted beforehand, for a piece of the columns; floats, which
+// are only copied, from four on.
+inline constexpr ptrdiff_t kStagedPixels = 192;
+template <class T>
+bool AreStaged(const Taps& taps) {
+  return taps.count >= (std::is_same_v<T, float> ? 4 : 3) && taps.count <= kStagedPixels;
+}
 
 // kColumns columns from x on. The pixel at position `base` is the first that is staged.
 template <bool kAreMany, int kColumns, class D, class T, class Weights, int kVectors>
@@ -190,22 +194,25 @@ void FilterStagedAcross(D d, const Taps& taps, ptrdiff_t to, const Weights& weig
   FilterStagedBy<false>(d, taps, to, weights, rows);
 }
 
-template <class D, class T, class Weights>
-void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights weights, const T* const* from,
-                        float* const* out) {
-  const PixelRows<D, T, 1> rows(from, out, plan.channels);
-  const Taps taps = plan.taps;
-  if (AreStaged(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
-  for (ptrdiff_t x = taps.from; x < plan.to; ++x) {
+template <bool kAreMany, class D, class T, class Weights>
+void FilterDirectly(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T, 1>& from) {
+  const PixelRows<D, T, 1> rows = from;  // a copy, which stores cannot change
+  for (ptrdiff_t x = taps.from; x < to; ++x) {
     hn::Vec<D> sum;
     const auto pixel = [&](int, int k, int) HWY_ATTR { return rows.Load(taps.first[x] + k, 0); };
-    if (taps.count > kBlockTaps) {
-      FilterPixels<true, 1, 1>(d, taps, weights, x, pixel, &sum);
-    } else {
-      FilterPixels<false, 1, 1>(d, taps, weights, x, pixel, &sum);
-    }
+    FilterPixels<kAreMany, 1, 1>(d, taps, weights, x, pixel, &sum);
     rows.template Store<1>(&sum, x);
   }
+}
+
+template <class D, class T, class Weights>
+void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights& weights, const T* const* from,
+                        float* const* out) {
+  const PixelRows<D, T, 1> rows(from, out, plan.channels);
+  const Taps& taps = plan.taps;
+  if (AreStaged<T>(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
+  if (taps.count > kBlockTaps) return FilterDirectly<true>(d, taps, plan.to, weights, rows);
+  FilterDirectly<false>(d, taps, plan.to, weights, rows);
 }
 
 }  // namespace qvp::resize
