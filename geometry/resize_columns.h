@@ -57,39 +57,38 @@ HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, 
   }
 }
 
-// All taps: those in float by blocks.
-template <class F, class Count, class Samples, class Weight>
+// All taps: by blocks if there are more than one.
+template <bool kAreMany, class F, class Count, class Samples, class Weight>
 HWY_INLINE void AddTaps(const Taps& taps, Count channels, const Samples& samples, const Weight& weight, F* sums) {
-  if (sizeof(F) > sizeof(float) || taps.count <= kBlockTaps) {
-    return AddTapsOf(taps, 0, taps.count, channels, samples, weight, sums);
-  }
-  AddTapsOf(taps, 0, kBlockTaps, channels, samples, weight, sums);
+  if constexpr (!kAreMany) return AddTapsOf(taps, 0, taps.count, channels, samples, weight, sums);
   BlockSum<F> totals[kMostChannels];
-  for (int c = 0; c < channels; ++c) totals[c] = BlockSum<F>(sums[c]);
-  for (int k = kBlockTaps; k < taps.count; k += kBlockTaps) {
+  for (int k = 0; k < taps.count; k += kBlockTaps) {
     AddTapsOf(taps, k, std::min(k + kBlockTaps, taps.count), channels, samples, weight, sums);
-    for (int c = 0; c < channels; ++c) totals[c].Add(sums[c]);
+    for (int c = 0; c < channels; ++c) {
+      if (k == 0) totals[c] = BlockSum<F>(sums[c]);
+      if (k > 0) totals[c].Add(sums[c]);
+    }
   }
   for (int c = 0; c < channels; ++c) sums[c] = totals[c].Rounded();
 }
 
 // One pixel of a row, across.
-template <class F, class Count, class T, class Weights>
+template <bool kAreMany, class F, class Count, class T, class Weights>
 HWY_INLINE void FilterPixel(const ColumnPlan<T>& plan, Count channels, const Weights& weights, const T* row,
                             ptrdiff_t x, F* sums) {
   const auto pixel = [&](int k, bool isRead)
                          HWY_ATTR { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
-  AddTaps(
+  AddTaps<kAreMany>(
       plan.taps, channels, pixel, [&](int k) HWY_ATTR { return weights.At(k, x); }, sums);
 }
 
-template <int kChannels, class T, class Weights>
+template <int kChannels, bool kAreMany, class T, class Weights>
 void FilterEach(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                 float* out) {
   constexpr std::integral_constant<int, kChannels> kCount;
   for (ptrdiff_t x = begin; x < end; ++x) {
     float sums[kChannels];
-    FilterPixel(plan, kCount, weights, row, x, sums);
+    FilterPixel<kAreMany>(plan, kCount, weights, row, x, sums);
     std::copy_n(sums, kChannels, out + x * kChannels);
   }
 }
@@ -98,9 +97,13 @@ template <class T, class Weights>
 void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                     float* out) {
   if (begin >= end) return;
-  if (plan.channels == 1) return FilterEach<1>(plan, weights, row, begin, end, out);
-  if (plan.channels == 3) return FilterEach<3>(plan, weights, row, begin, end, out);
-  FilterEach<4>(plan, weights, row, begin, end, out);
+  const bool areMany = plan.taps.count > kBlockTaps;
+  const auto filter = plan.channels == 1 ? areMany ? FilterEach<1, true, T, Weights> : FilterEach<1, false, T, Weights>
+                      : plan.channels == 3
+                          ? areMany ? FilterEach<3, true, T, Weights> : FilterEach<3, false, T, Weights>
+                      : areMany ? FilterEach<4, true, T, Weights>
+                                : FilterEach<4, false, T, Weights>;
+  filter(plan, weights, row, begin, end, out);
 }
 
 // The columns on both sides of those that vector kernels computed, [taps.from, done).

@@ -90,10 +90,10 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
       double pixel[kMostChannels] = {};
       const auto filtered = [&](int k, bool isRead) {
         const double* row = SourceRow(call, tile, rowEdge(rowTaps.first[y] + k));
-        if (isRead) FilterPixel(plan, channels, across, row, x, pixel);
+        if (isRead) FilterPixel<false>(plan, channels, across, row, x, pixel);
         return pixel;
       };
-      AddTaps(
+      AddTaps<false>(
           rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
     }
   }
