@@ -59,6 +59,22 @@ struct CubicKernel {
   }
 };
 
+// The same as the weights of the four pixels around a position, which are polynomials of its fraction f: expanded for
+// the distances f + 1, f, 1 - f and 2 - f.
+template <class W>
+struct CubicPolynomials {
+  W of[4][4] = {};  // coefficients of 1, f, f^2, f^3
+
+  CubicPolynomials() = default;
+  CubicPolynomials(double b, double c) {
+    const double exact[4][4] = {{b / 6, -b / 2 - c, b / 2 + 2 * c, -b / 6 - c},
+                                {1 - b / 3, 0, -3 + 2 * b + c, 2 - 1.5 * b - c},
+                                {b / 6, b / 2 + c, 3 - 2.5 * b - 2 * c, -2 + 1.5 * b + c},
+                                {0, 0, -c, b / 6 + c}};
+    for (int k = 0; k < 16; ++k) of[k / 4][k % 4] = static_cast<W>(exact[k / 4][k % 4]);
+  }
+};
+
 // sinc(t) sinc(t / lobes), interpolated linearly between the entries of a table.
 struct LanczosKernel {
   uint32_t lobes;  // 2 or 3

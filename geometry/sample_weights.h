@@ -3,24 +3,9 @@
 #pragma once
 
 #include "base/simd.h"
+#include "geometry/interpolation_kernels.h"
 
 namespace qvp::sampling {
-
-// A cubic's weights are polynomials of the fraction f: its kernel, expanded at the distances f + 1, f, 1 - f and 2 - f.
-// Mitchell, Netravali: Reconstruction filters in computer graphics (1988).
-template <class W>
-struct CubicPolynomials {
-  W of[4][4] = {};  // coefficients of 1, f, f^2, f^3
-
-  CubicPolynomials() = default;
-  CubicPolynomials(double b, double c) {
-    const double exact[4][4] = {{b / 6, -b / 2 - c, b / 2 + 2 * c, -b / 6 - c},
-                                {1 - b / 3, 0, -3 + 2 * b + c, 2 - 1.5 * b - c},
-                                {b / 6, b / 2 + c, 3 - 2.5 * b - 2 * c, -2 + 1.5 * b + c},
-                                {0, 0, -c, b / 6 + c}};
-    for (int k = 0; k < 16; ++k) of[k / 4][k % 4] = static_cast<W>(exact[k / 4][k % 4]);
-  }
-};
 
 // c[0] + c[1] x + c[2] x^2 ...
 template <class D, class W, int kTerms>
