@@ -14,7 +14,7 @@ extern "C" {
 
 /** @name Addition
  *  @{ */
-/** Adds two images: dst = src1 + src2.
+/** Adds two images: dst = src1 + src2; in place, srcDst = src + srcDst.
  *
  *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
  *  that any scale factor is valid.
@@ -24,6 +24,8 @@ extern "C" {
  *  @param pSrc1,src1Step first operand
  *  @param pSrc2,src2Step second operand
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -41,24 +43,6 @@ QvpStatus qvpiAdd_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pS
 QvpStatus qvpiAdd_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAdd_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAdd_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Addition in place
- *  @{ */
-/** Adds two images, in place: srcDst = src + srcDst.
- *
- *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
- *  that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiAdd_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAdd_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAdd_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -75,7 +59,7 @@ QvpStatus qvpiAdd_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
 
 /** @name Addition of floats
  *  @{ */
-/** Adds two images: dst = src1 + src2.
+/** Adds two images: dst = src1 + src2; in place, srcDst = src + srcDst.
  *
  *  The result in single precision, rounded once.
  *
@@ -84,6 +68,8 @@ QvpStatus qvpiAdd_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
  *  @param pSrc1,src1Step first operand
  *  @param pSrc2,src2Step second operand
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -92,22 +78,6 @@ QvpStatus qvpiAdd_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2
 QvpStatus qvpiAdd_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAdd_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAdd_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Addition of floats in place
- *  @{ */
-/** Adds two images, in place: srcDst = src + srcDst.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiAdd_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAdd_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAdd_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -116,7 +86,7 @@ QvpStatus qvpiAdd_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
 
 /** @name Addition of a constant
  *  @{ */
-/** Adds a constant to an image: dst = src + value.
+/** Adds a constant to an image: dst = src + value; in place, srcDst = srcDst + value.
  *
  *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
  *  that any scale factor is valid.
@@ -126,6 +96,7 @@ QvpStatus qvpiAdd_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
@@ -143,24 +114,6 @@ QvpStatus qvpiAddC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp
 QvpStatus qvpiAddC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAddC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAddC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Addition of a constant in place
- *  @{ */
-/** Adds a constant to an image, in place: srcDst = srcDst + value.
- *
- *  The exact sum, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
- *  that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiAddC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAddC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAddC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -177,7 +130,7 @@ QvpStatus qvpiAddC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
 
 /** @name Addition of a constant of floats
  *  @{ */
-/** Adds a constant to an image: dst = src + value.
+/** Adds a constant to an image: dst = src + value; in place, srcDst = srcDst + value.
  *
  *  The result in single precision, rounded once.
  *
@@ -186,6 +139,7 @@ QvpStatus qvpiAddC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
  *          qvpStatusNoError otherwise.
@@ -194,22 +148,6 @@ QvpStatus qvpiAddC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f
 QvpStatus qvpiAddC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAddC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAddC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Addition of a constant of floats in place
- *  @{ */
-/** Adds a constant to an image, in place: srcDst = srcDst + value.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiAddC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAddC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAddC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -218,16 +156,18 @@ QvpStatus qvpiAddC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
 
 /** @name Subtraction
  *  @{ */
-/** Subtracts the first image from the second: dst = src2 - src1.
+/** Subtracts the first image from the second: **dst = src2 - src1**; in place, srcDst = srcDst - src.
  *
  *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
  *  type, so that any scale factor is valid. Unsigned results saturate at 0.
  *
  *  AC4 keeps the alpha of the destination. Steps are not checked.
  *
- *  @param pSrc1,src1Step first operand
- *  @param pSrc2,src2Step second operand
+ *  @param pSrc1,src1Step subtrahend
+ *  @param pSrc2,src2Step minuend
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: subtrahend
+ *  @param pSrcDst,srcDstStep in place: minuend and destination
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -245,24 +185,6 @@ QvpStatus qvpiSub_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pS
 QvpStatus qvpiSub_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSub_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSub_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Subtraction in place
- *  @{ */
-/** Subtracts the first image from the second, in place: srcDst = srcDst - src.
- *
- *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
- *  type, so that any scale factor is valid. Unsigned results saturate at 0.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSub_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSub_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSub_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -279,15 +201,17 @@ QvpStatus qvpiSub_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
 
 /** @name Subtraction of floats
  *  @{ */
-/** Subtracts the first image from the second: dst = src2 - src1.
+/** Subtracts the first image from the second: **dst = src2 - src1**; in place, srcDst = srcDst - src.
  *
  *  The result in single precision, rounded once.
  *
  *  AC4 keeps the alpha of the destination. Steps are not checked.
  *
- *  @param pSrc1,src1Step first operand
- *  @param pSrc2,src2Step second operand
+ *  @param pSrc1,src1Step subtrahend
+ *  @param pSrc2,src2Step minuend
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: subtrahend
+ *  @param pSrcDst,srcDstStep in place: minuend and destination
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -296,22 +220,6 @@ QvpStatus qvpiSub_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2
 QvpStatus qvpiSub_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSub_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSub_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Subtraction of floats in place
- *  @{ */
-/** Subtracts the first image from the second, in place: srcDst = srcDst - src.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSub_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSub_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSub_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -320,7 +228,7 @@ QvpStatus qvpiSub_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
 
 /** @name Subtraction of a constant
  *  @{ */
-/** Subtracts a constant from an image: dst = src - value.
+/** Subtracts a constant from an image: dst = src - value; in place, srcDst = srcDst - value.
  *
  *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
  *  type, so that any scale factor is valid. Unsigned results saturate at 0.
@@ -330,6 +238,7 @@ QvpStatus qvpiSub_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
@@ -347,24 +256,6 @@ QvpStatus qvpiSubC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp
 QvpStatus qvpiSubC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSubC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSubC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Subtraction of a constant in place
- *  @{ */
-/** Subtracts a constant from an image, in place: srcDst = srcDst - value.
- *
- *  The exact difference, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
- *  type, so that any scale factor is valid. Unsigned results saturate at 0.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiSubC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSubC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSubC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -381,7 +272,7 @@ QvpStatus qvpiSubC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
 
 /** @name Subtraction of a constant of floats
  *  @{ */
-/** Subtracts a constant from an image: dst = src - value.
+/** Subtracts a constant from an image: dst = src - value; in place, srcDst = srcDst - value.
  *
  *  The result in single precision, rounded once.
  *
@@ -390,6 +281,7 @@ QvpStatus qvpiSubC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
  *          qvpStatusNoError otherwise.
@@ -398,22 +290,6 @@ QvpStatus qvpiSubC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f
 QvpStatus qvpiSubC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSubC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSubC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Subtraction of a constant of floats in place
- *  @{ */
-/** Subtracts a constant from an image, in place: srcDst = srcDst - value.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiSubC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSubC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSubC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -422,7 +298,7 @@ QvpStatus qvpiSubC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
 
 /** @name Multiplication
  *  @{ */
-/** Multiplies two images: dst = src1 src2.
+/** Multiplies two images: dst = src1 * src2; in place, srcDst = src * srcDst.
  *
  *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
  *  so that any scale factor is valid.
@@ -432,6 +308,8 @@ QvpStatus qvpiSubC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
  *  @param pSrc1,src1Step first operand
  *  @param pSrc2,src2Step second operand
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -449,24 +327,6 @@ QvpStatus qvpiMul_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pS
 QvpStatus qvpiMul_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMul_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMul_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Multiplication in place
- *  @{ */
-/** Multiplies two images, in place: srcDst = src srcDst.
- *
- *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiMul_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMul_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMul_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -483,7 +343,7 @@ QvpStatus qvpiMul_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
 
 /** @name Multiplication of floats
  *  @{ */
-/** Multiplies two images: dst = src1 src2.
+/** Multiplies two images: dst = src1 * src2; in place, srcDst = src * srcDst.
  *
  *  The result in single precision, rounded once.
  *
@@ -492,6 +352,8 @@ QvpStatus qvpiMul_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
  *  @param pSrc1,src1Step first operand
  *  @param pSrc2,src2Step second operand
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -500,22 +362,6 @@ QvpStatus qvpiMul_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2
 QvpStatus qvpiMul_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMul_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMul_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Multiplication of floats in place
- *  @{ */
-/** Multiplies two images, in place: srcDst = src srcDst.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiMul_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMul_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMul_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -524,7 +370,7 @@ QvpStatus qvpiMul_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
 
 /** @name Multiplication by a constant
  *  @{ */
-/** Multiplies an image by a constant: dst = src value.
+/** Multiplies an image by a constant: dst = src * value; in place, srcDst = srcDst * value.
  *
  *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
  *  so that any scale factor is valid.
@@ -534,6 +380,7 @@ QvpStatus qvpiMul_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
@@ -551,24 +398,6 @@ QvpStatus qvpiMulC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp
 QvpStatus qvpiMulC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMulC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMulC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Multiplication by a constant in place
- *  @{ */
-/** Multiplies an image by a constant, in place: srcDst = srcDst value.
- *
- *  The exact product, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiMulC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMulC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiMulC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -585,7 +414,7 @@ QvpStatus qvpiMulC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
 
 /** @name Multiplication by a constant of floats
  *  @{ */
-/** Multiplies an image by a constant: dst = src value.
+/** Multiplies an image by a constant: dst = src * value; in place, srcDst = srcDst * value.
  *
  *  The result in single precision, rounded once.
  *
@@ -594,6 +423,7 @@ QvpStatus qvpiMulC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
  *          qvpStatusNoError otherwise.
@@ -602,22 +432,6 @@ QvpStatus qvpiMulC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f
 QvpStatus qvpiMulC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Multiplication by a constant of floats in place
- *  @{ */
-/** Multiplies an image by a constant, in place: srcDst = srcDst value.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiMulC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -626,10 +440,10 @@ QvpStatus qvpiMulC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
 
 /** @name Division
  *  @{ */
-/** Divides the second image by the first: dst = src2 / src1, of integers.
+/** Divides the second image by the first: **dst = src2 / src1**; in place, srcDst = srcDst / src, of integers.
  *
- *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid.
  *
  *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
  *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
@@ -637,9 +451,11 @@ QvpStatus qvpiMulC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
  *
  *  AC4 keeps the alpha of the destination, and alpha divides nothing.
  *
- *  @param pSrc1,src1Step first operand
- *  @param pSrc2,src2Step second operand
+ *  @param pSrc1,src1Step divisor
+ *  @param pSrc2,src2Step dividend
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: divisor
+ *  @param pSrcDst,srcDstStep in place: dividend and destination
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
@@ -657,28 +473,6 @@ QvpStatus qvpiDiv_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pS
 QvpStatus qvpiDiv_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDiv_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDiv_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Division in place
- *  @{ */
-/** Divides the second image by the first, in place: srcDst = srcDst / src, of integers.
- *
- *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
- *
- *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
- *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
- *  qvpStatusDivideByZero.
- *
- *  AC4 keeps the alpha of the destination, and alpha divides nothing.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
- *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiDiv_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDiv_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDiv_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -695,21 +489,21 @@ QvpStatus qvpiDiv_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pSrcDst,
 
 /** @name Division of floats
  *  @{ */
-/** Divides the second image by the first: dst = src2 / src1, in single precision.
+/** Divides the second image by the first: **dst = src2 / src1**; in place, srcDst = srcDst / src, in single precision.
  *
- *  The dividend is multiplied by the reciprocal of the divisor, which comes from an estimate by integer arithmetic and
- *  three Newton steps. Normal results are within 2 units in the last place of the exact quotient. Divisors that are
- *  subnormal, not finite or of magnitude above 2^125 divide exactly.
+ *  The quotient is the correctly rounded one of IEEE 754, and its sign, that of a zero or an infinity too, the
+ *  exclusive or of the signs.
  *
- *  Every pixel is written. Divisors of 0 and -0 give an infinity, whose sign is that of the IEEE quotient; with a
- *  dividend of 0 or NaN they give the NaN with the bits 0x7FBFFFFF. The call then returns the warning
- *  qvpStatusDivideByZero.
+ *  Every pixel is written. With a divisor of 0 or -0 the quotient is infinite, or NaN of a dividend that is 0 or NaN,
+ *  and the call returns the warning qvpStatusDivideByZero.
  *
  *  AC4 keeps the alpha of the destination, and alpha divides nothing.
  *
- *  @param pSrc1,src1Step first operand
- *  @param pSrc2,src2Step second operand
+ *  @param pSrc1,src1Step divisor
+ *  @param pSrc2,src2Step dividend
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: divisor
+ *  @param pSrcDst,srcDstStep in place: dividend and destination
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
  *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
@@ -718,28 +512,6 @@ QvpStatus qvpiDiv_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2
 QvpStatus qvpiDiv_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiDiv_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiDiv_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Division of floats in place
- *  @{ */
-/** Divides the second image by the first, in place: srcDst = srcDst / src, in single precision.
- *
- *  The dividend is multiplied by the reciprocal of the divisor, which comes from an estimate by integer arithmetic and
- *  three Newton steps. Normal results are within 2 units in the last place of the exact quotient. Divisors that are
- *  subnormal, not finite or of magnitude above 2^125 divide exactly.
- *
- *  Every pixel is written. Divisors of 0 and -0 give an infinity, whose sign is that of the IEEE quotient; with a
- *  dividend of 0 or NaN they give the NaN with the bits 0x7FBFFFFF. The call then returns the warning
- *  qvpStatusDivideByZero.
- *
- *  AC4 keeps the alpha of the destination, and alpha divides nothing.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
- *          is below 1. qvpStatusDivideByZero, a warning: there is a divisor of zero. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiDiv_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiDiv_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiDiv_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -748,16 +520,17 @@ QvpStatus qvpiDiv_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, in
 
 /** @name Division by a constant
  *  @{ */
-/** Divides an image by a constant: dst = src / value.
+/** Divides an image by a constant: dst = src / value; in place, srcDst = srcDst / value.
  *
- *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
+ *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the
+ *  type, so that any scale factor is valid.
  *
  *  AC4 keeps the alpha of the destination.
  *
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
@@ -776,25 +549,6 @@ QvpStatus qvpiDivC_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s value, Qvp
 QvpStatus qvpiDivC_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDivC_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDivC_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, const Qvp16s value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Division by a constant in place
- *  @{ */
-/** Divides an image by a constant, in place: srcDst = srcDst / value.
- *
- *  The exact quotient, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiDivC_8u_C1IRSfs(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDivC_8u_C3IRSfs(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiDivC_8u_C4IRSfs(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -811,15 +565,16 @@ QvpStatus qvpiDivC_16s_AC4IRSfs(const Qvp16s value[3], Qvp16s* pSrcDst, int srcD
 
 /** @name Division by a constant of floats
  *  @{ */
-/** Divides an image by a constant: dst = src / value.
+/** Divides an image by a constant: dst = src / value; in place, srcDst = srcDst / value.
  *
- *  The IEEE quotient.
+ *  The quotient is the correctly rounded one of IEEE 754.
  *
  *  AC4 keeps the alpha of the destination.
  *
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
  *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
@@ -829,23 +584,6 @@ QvpStatus qvpiDivC_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f value, Qvp32f
 QvpStatus qvpiDivC_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiDivC_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiDivC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f value[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Division by a constant of floats in place
- *  @{ */
-/** Divides an image by a constant, in place: srcDst = srcDst / value.
- *
- *  The IEEE quotient.
- *
- *  AC4 keeps the alpha of the destination.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusStep: a step is below 1. qvpStatusDivideByZeroError: the constant of a channel is 0 or -0.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiDivC_32f_C1IR(Qvp32f value, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiDivC_32f_C3IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiDivC_32f_C4IR(const Qvp32f value[4], Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -854,7 +592,7 @@ QvpStatus qvpiDivC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
 
 /** @name Division with a rounding mode
  *  @{ */
-/** Divides the second image by the first: dst = src2 / src1, rounded as asked.
+/** Divides the second image by the first: **dst = src2 / src1**; in place, srcDst = srcDst / src, rounded as asked.
  *
  *  The exact quotient, times 2^-scaleFactor, becomes an integer by the rounding mode and is saturated to the type, so
  *  that any scale factor is valid.
@@ -865,9 +603,11 @@ QvpStatus qvpiDivC_32f_AC4IR(const Qvp32f value[3], Qvp32f* pSrcDst, int srcDstS
  *
  *  AC4 keeps the alpha of the destination, and alpha divides nothing.
  *
- *  @param pSrc1,src1Step first operand
- *  @param pSrc2,src2Step second operand
+ *  @param pSrc1,src1Step divisor
+ *  @param pSrc2,src2Step dividend
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: divisor
+ *  @param pSrcDst,srcDstStep in place: dividend and destination
  *  @param roiSize size of the region in pixels
  *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero)
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
@@ -887,30 +627,6 @@ QvpStatus qvpiDiv_Round_16s_C1RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp1
 QvpStatus qvpiDiv_Round_16s_C3RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiDiv_Round_16s_C4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiDiv_Round_16s_AC4RSfs(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
-/** @} */
-
-/** @name Division with a rounding mode in place
- *  @{ */
-/** Divides the second image by the first, in place: srcDst = srcDst / src, rounded as asked.
- *
- *  The exact quotient, times 2^-scaleFactor, becomes an integer by the rounding mode and is saturated to the type, so
- *  that any scale factor is valid.
- *
- *  Every pixel is written. A divisor of zero gives the largest value of the type for a positive dividend, the smallest
- *  one for a negative dividend and 0 for 0, whatever the scale factor, and the call returns the warning
- *  qvpStatusDivideByZero.
- *
- *  AC4 keeps the alpha of the destination, and alpha divides nothing.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero)
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusStep: a step
- *          is below 1. qvpStatusRoundMode: `roundMode` is none of the three. qvpStatusDivideByZero, a warning: there is
- *          a divisor of zero. qvpStatusNoError otherwise.
- */
 QvpStatus qvpiDiv_Round_8u_C1IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiDiv_Round_8u_C3IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiDiv_Round_8u_C4IRSfs(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
@@ -927,7 +643,7 @@ QvpStatus qvpiDiv_Round_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pS
 
 /** @name Multiplication of fractions
  *  @{ */
-/** Multiplies two images of fractions: dst = src1 src2 / max.
+/** Multiplies two images of fractions: dst = src1 * src2 / max; in place, srcDst = src * srcDst / max.
  *
  *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
  *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
@@ -937,6 +653,8 @@ QvpStatus qvpiDiv_Round_16s_AC4IRSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pS
  *  @param pSrc1,src1Step first operand
  *  @param pSrc2,src2Step second operand
  *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -949,23 +667,6 @@ QvpStatus qvpiMulScale_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* 
 QvpStatus qvpiMulScale_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulScale_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulScale_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Multiplication of fractions in place
- *  @{ */
-/** Multiplies two images of fractions, in place: srcDst = src srcDst / max.
- *
- *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
- *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrc,srcStep first operand
- *  @param pSrcDst,srcDstStep second operand, and destination
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiMulScale_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulScale_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulScale_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -978,7 +679,7 @@ QvpStatus qvpiMulScale_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDs
 
 /** @name Multiplication of fractions by a constant
  *  @{ */
-/** Multiplies an image of fractions by a constant: dst = src value / max.
+/** Multiplies an image of fractions by a constant: dst = src * value / max; in place, srcDst = srcDst * value / max.
  *
  *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
  *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
@@ -988,6 +689,7 @@ QvpStatus qvpiMulScale_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDs
  *  @param pSrc,srcStep source image
  *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
  *          qvpStatusNoError otherwise.
@@ -1000,23 +702,6 @@ QvpStatus qvpiMulCScale_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Q
 QvpStatus qvpiMulCScale_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulCScale_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulCScale_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Multiplication of fractions by a constant in place
- *  @{ */
-/** Multiplies an image of fractions by a constant, in place: srcDst = srcDst value / max.
- *
- *  The product is divided by the largest value of the type, max, 255 for 8u and 65535 for 16u, and rounded to the
- *  nearest integer; there are no ties. Values thus stand for fractions from 0 to 1, and full times full is full.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` or `value` is null. qvpStatusSize: a side of `roiSize` is below 1.
- *          qvpStatusNoError otherwise.
- */
 QvpStatus qvpiMulCScale_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulCScale_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulCScale_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -1029,15 +714,16 @@ QvpStatus qvpiMulCScale_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int sr
 
 /** @name Absolute value
  *  @{ */
-/** Absolute value: dst = |src|.
+/** Absolute value: dst = |src|; in place, srcDst = |srcDst|.
  *
- *  The exact value, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated, so that -32768
- *  becomes 32767 without a scale factor, or with 0.
+ *  The exact value, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated, so that
+ *  -32768 becomes 32767 without a scale factor, or with 0.
  *
  *  AC4 keeps the alpha of the destination. Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -1047,23 +733,6 @@ QvpStatus qvpiAbs_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int 
 QvpStatus qvpiAbs_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAbs_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAbs_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Absolute value in place
- *  @{ */
-/** Absolute value, in place: srcDst = |srcDst|.
- *
- *  The exact value, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated, so that -32768
- *  becomes 32767 without a scale factor, or with 0.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiAbs_16s_C1IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAbs_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiAbs_16s_C4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -1072,14 +741,15 @@ QvpStatus qvpiAbs_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize
 
 /** @name Absolute value of floats
  *  @{ */
-/** Absolute value: dst = |src|.
+/** Absolute value: dst = |src|; in place, srcDst = |srcDst|.
  *
- *  The sign bit is cleared, of NaN too.
+ *  The sign bit is cleared.
  *
  *  AC4 keeps the alpha of the destination. Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -1088,21 +758,6 @@ QvpStatus qvpiAbs_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dst
 QvpStatus qvpiAbs_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Absolute value of floats in place
- *  @{ */
-/** Absolute value, in place: srcDst = |srcDst|.
- *
- *  The sign bit is cleared, of NaN too.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiAbs_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -1111,7 +766,7 @@ QvpStatus qvpiAbs_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 
 /** @name Absolute value without a scale factor
  *  @{ */
-/** Absolute value: dst = |src|.
+/** Absolute value: dst = |src|; in place, srcDst = |srcDst|.
  *
  *  The exact value is saturated: -32768 becomes 32767.
  *
@@ -1119,6 +774,7 @@ QvpStatus qvpiAbs_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -1127,21 +783,6 @@ QvpStatus qvpiAbs_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dst
 QvpStatus qvpiAbs_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Absolute value without a scale factor in place
- *  @{ */
-/** Absolute value, in place: srcDst = |srcDst|.
- *
- *  The exact value is saturated: -32768 becomes 32767.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiAbs_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_16s_C3IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiAbs_16s_C4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -1150,7 +791,7 @@ QvpStatus qvpiAbs_16s_AC4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 
 /** @name Square
  *  @{ */
-/** Square: dst = src src.
+/** Square: dst = src * src; in place, srcDst = srcDst * srcDst.
  *
  *  The exact square, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
  *  so that any scale factor is valid.
@@ -1159,6 +800,7 @@ QvpStatus qvpiAbs_16s_AC4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -1176,23 +818,6 @@ QvpStatus qvpiSqr_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int 
 QvpStatus qvpiSqr_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqr_16s_C4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqr_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Square in place
- *  @{ */
-/** Square, in place: srcDst = srcDst srcDst.
- *
- *  The exact square, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type,
- *  so that any scale factor is valid.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSqr_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqr_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqr_8u_C4IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -1209,7 +834,7 @@ QvpStatus qvpiSqr_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize
 
 /** @name Square of floats
  *  @{ */
-/** Square: dst = src src.
+/** Square: dst = src * src; in place, srcDst = srcDst * srcDst.
  *
  *  The result in single precision, rounded once.
  *
@@ -1217,6 +842,7 @@ QvpStatus qvpiSqr_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -1225,21 +851,6 @@ QvpStatus qvpiSqr_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dst
 QvpStatus qvpiSqr_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSqr_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSqr_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Square of floats in place
- *  @{ */
-/** Square, in place: srcDst = srcDst srcDst.
- *
- *  The result in single precision, rounded once.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSqr_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSqr_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSqr_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -1248,7 +859,7 @@ QvpStatus qvpiSqr_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 
 /** @name Square root
  *  @{ */
-/** Square root: dst = sqrt(src).
+/** Square root: dst = sqrt(src); in place, srcDst = sqrt(srcDst).
  *
  *  The exact root, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
  *  that any scale factor is valid; negative values give 0.
@@ -1257,6 +868,7 @@ QvpStatus qvpiSqr_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -1271,23 +883,6 @@ QvpStatus qvpiSqrt_16u_AC4RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, in
 QvpStatus qvpiSqrt_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqrt_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqrt_16s_AC4RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Square root in place
- *  @{ */
-/** Square root, in place: srcDst = sqrt(srcDst).
- *
- *  The exact root, times 2^-scaleFactor, is rounded to the nearest integer, ties to even, and saturated to the type, so
- *  that any scale factor is valid; negative values give 0.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSqrt_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqrt_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiSqrt_8u_AC4IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -1301,7 +896,7 @@ QvpStatus qvpiSqrt_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSiz
 
 /** @name Square root of floats
  *  @{ */
-/** Square root: dst = sqrt(src).
+/** Square root: dst = sqrt(src); in place, srcDst = sqrt(srcDst).
  *
  *  The IEEE square root, NaN for negative values.
  *
@@ -1309,6 +904,7 @@ QvpStatus qvpiSqrt_16s_AC4IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSiz
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
@@ -1317,21 +913,6 @@ QvpStatus qvpiSqrt_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int ds
 QvpStatus qvpiSqrt_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSqrt_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiSqrt_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Square root of floats in place
- *  @{ */
-/** Square root, in place: srcDst = sqrt(srcDst).
- *
- *  The IEEE square root, NaN for negative values.
- *
- *  AC4 keeps the alpha of the destination. Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiSqrt_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSqrt_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiSqrt_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
@@ -1340,7 +921,7 @@ QvpStatus qvpiSqrt_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 
 /** @name Natural logarithm
  *  @{ */
-/** Natural logarithm: dst = ln(src).
+/** Natural logarithm: dst = ln(src); in place, srcDst = ln(srcDst).
  *
  *  The logarithm, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type, so that any scale
  *  factor is valid; 0 and negative values give the smallest value of the type. No build takes it from the mathematics
@@ -1350,6 +931,7 @@ QvpStatus qvpiSqrt_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -1361,24 +943,6 @@ QvpStatus qvpiLn_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int d
 QvpStatus qvpiLn_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiLn_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiLn_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Natural logarithm in place
- *  @{ */
-/** Natural logarithm, in place: srcDst = ln(srcDst).
- *
- *  The logarithm, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type, so that any scale
- *  factor is valid; 0 and negative values give the smallest value of the type. No build takes it from the mathematics
- *  library, so that all give the same bits.
- *
- *  Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiLn_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiLn_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiLn_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -1389,7 +953,7 @@ QvpStatus qvpiLn_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, 
 
 /** @name Natural logarithm of floats
  *  @{ */
-/** Natural logarithm: dst = ln(src).
+/** Natural logarithm: dst = ln(src); in place, srcDst = ln(srcDst).
  *
  *  Within 1 unit in the last place; 0 gives minus infinity, negative values NaN. No build takes it from the mathematics
  *  library, so that all give the same bits.
@@ -1398,35 +962,20 @@ QvpStatus qvpiLn_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, 
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
  */
 QvpStatus qvpiLn_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiLn_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Natural logarithm of floats in place
- *  @{ */
-/** Natural logarithm, in place: srcDst = ln(srcDst).
- *
- *  Within 1 unit in the last place; 0 gives minus infinity, negative values NaN. No build takes it from the mathematics
- *  library, so that all give the same bits.
- *
- *  Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiLn_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiLn_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** @} */
 
 /** @name Exponent
  *  @{ */
-/** Exponent: dst = e^src.
+/** Exponent: dst = e^src; in place, srcDst = e^srcDst.
  *
  *  The power, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type. Any scale factor is
  *  valid, and large powers may be scaled back into the range. No build takes it from the mathematics library, so that
@@ -1436,6 +985,7 @@ QvpStatus qvpiLn_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
@@ -1447,24 +997,6 @@ QvpStatus qvpiExp_16u_C1RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int 
 QvpStatus qvpiExp_16u_C3RSfs(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiExp_16s_C1RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiExp_16s_C3RSfs(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int scaleFactor);
-/** @} */
-
-/** @name Exponent in place
- *  @{ */
-/** Exponent, in place: srcDst = e^srcDst.
- *
- *  The power, times 2^-scaleFactor, is rounded to the nearest integer and saturated to the type. Any scale factor is
- *  valid, and large powers may be scaled back into the range. No build takes it from the mathematics library, so that
- *  all give the same bits.
- *
- *  Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @param scaleFactor the result is multiplied by 2^-scaleFactor; any value
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiExp_8u_C1IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiExp_8u_C3IRSfs(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
 QvpStatus qvpiExp_16u_C1IRSfs(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, int scaleFactor);
@@ -1475,37 +1007,22 @@ QvpStatus qvpiExp_16s_C3IRSfs(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize,
 
 /** @name Exponent of floats
  *  @{ */
-/** Exponent: dst = e^src.
+/** Exponent: dst = e^src; in place, srcDst = e^srcDst.
  *
- *  Within 1 unit in the last place, infinite above the range and 0 below it. No build takes it from the mathematics
- *  library, so that all give the same bits.
+ *  The error is below 1.03 units in the last place, as tried for every float; the result is infinite above the range of
+ *  floats and 0 below it. No build takes it from the mathematics library, so that all give the same bits.
  *
  *  Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @return qvpStatusNullPointer: an image is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
  *          otherwise.
  */
 QvpStatus qvpiExp_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiExp_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name Exponent of floats in place
- *  @{ */
-/** Exponent, in place: srcDst = e^srcDst.
- *
- *  Within 1 unit in the last place, infinite above the range and 0 below it. No build takes it from the mathematics
- *  library, so that all give the same bits.
- *
- *  Steps are not checked.
- *
- *  @param pSrcDst,srcDstStep image that is changed
- *  @param roiSize size of the region in pixels
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusSize: a side of `roiSize` is below 1. qvpStatusNoError
- *          otherwise.
- */
 QvpStatus qvpiExp_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiExp_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** @} */
@@ -1662,7 +1179,7 @@ QvpStatus qvpiConvert_32f16s_AC4R(const Qvp32f* pSrc, int srcStep, Qvp16s* pDst,
 
 /** @name Conversion of integers by a scale factor
  *  @{ */
-/** Divides by a power of two and converts: dst = round(src 2^-scaleFactor), saturated.
+/** Divides by a power of two and converts: dst = round(src * 2^-scaleFactor), saturated.
  *
  *  Exact in every mode: qvpRoundZero rounds toward zero, qvpRoundNear to the nearest with ties to even,
  *  qvpRoundFinancial to the nearest with ties away from zero. Any scale factor is valid. Steps are not checked.
@@ -1693,7 +1210,8 @@ QvpStatus qvpiConvert_32u32s_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp32s* pDs
 
 /** @name Conversion of floats by a scale factor
  *  @{ */
-/** Divides by a power of two and converts: dst = round(src 2^-scaleFactor), saturated.
+/** Divides by a power of two and converts: dst = round(src * 2^-scaleFactor), saturated. In place, the image holds
+ *  floats before and unsigned integers afterwards.
  *
  *  The modes round exactly: qvpRoundZero toward zero, qvpRoundNear to the nearest with ties to even, and
  *  qvpRoundFinancial, which any other value means too, to the nearest with ties away from zero. Infinities give the
@@ -1701,6 +1219,7 @@ QvpStatus qvpiConvert_32u32s_C1RSfs(const Qvp32u* pSrc, int srcStep, Qvp32s* pDs
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param roundMode how to round
  *  @param scaleFactor the power of two
@@ -1719,25 +1238,6 @@ QvpStatus qvpiConvert_64f8u_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp8u* pDst,
 QvpStatus qvpiConvert_64f8s_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp8s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiConvert_64f16u_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 QvpStatus qvpiConvert_64f16s_C1RSfs(const Qvp64f* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
-/** @} */
-
-/** @name Conversion of floats by a scale factor, in place
- *  @{ */
-/** Divides by a power of two and converts in place: the image holds floats before, and unsigned integers afterwards.
- *
- *  The modes round exactly: qvpRoundZero toward zero, qvpRoundNear to the nearest with ties to even, and
- *  qvpRoundFinancial, which any other value means too, to the nearest with ties away from zero. Infinities give the
- *  limits of the type, NaN its least value. Any scale factor is valid. The step is not checked.
- *
- *  @param pSrcDst,srcDstStep the image
- *  @param roiSize region in pixels
- *  @param roundMode how to round
- *  @param scaleFactor the power of two
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiConvert_32f32u_C1IRSfs(Qvp32u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpRoundMode roundMode, int scaleFactor);
 /** @} */
 
@@ -1792,9 +1292,9 @@ QvpStatus qvpiGrayToBin_32f1u_C1R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, 
  *  @{ */
 /** Maps the full range of one integer type linearly to that of another, rounded to the nearest.
  *
- *  From 8 bits: 257 v for 16u, 257 v - 32768 for 16s, 16843009 v - 2^31 for 32s; to 8 bits the inverse, v / 257, (v +
- *  32768) / 257 or (v + 2^31) / 16843009, in which no ties occur. To a wider type and back changes nothing. AC4 keeps
- *  the alpha of the destination. Steps are not checked.
+ *  From 8 bits: 257 * v for 16u, 257 * v - 32768 for 16s, 16843009 * v - 2^31 for 32s; to 8 bits the inverse, v / 257,
+ *  (v + 32768) / 257 or (v + 2^31) / 16843009, in which no ties occur. To a wider type and back changes nothing. AC4
+ *  keeps the alpha of the destination. Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -1834,8 +1334,9 @@ QvpStatus qvpiScale_32s8u_AC4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int
  *  @{ */
 /** Maps 0 to 255 linearly to a range of floats, or the range to 0 to 255.
  *
- *  8u32f: vMin + v (vMax - vMin) / 255; 32f8u: (v - vMin) 255 / (vMax - vMin), rounded to the nearest, ties to even,
- *  saturated, NaN to 0. Both in double precision. AC4 keeps the alpha of the destination. Steps are not checked.
+ *  8u32f: vMin + v * ((vMax - vMin) / 255), in double precision and then rounded to the nearest float; 255 gives vMax
+ *  exactly. 32f8u: (v - vMin) * 255 / (vMax - vMin), each operation in double precision, then rounded to the nearest
+ *  integer, ties to even, and saturated; NaN gives 0. AC4 keeps the alpha of the destination. Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -1844,7 +1345,7 @@ QvpStatus qvpiScale_32s8u_AC4R(const Qvp32s* pSrc, int srcStep, Qvp8u* pDst, int
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: an image is null
  *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusScaleRange: vMax - vMin is not above 0
+ *  - qvpStatusScaleRange: not vMin < vMax, or one of them is infinite or NaN
  *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiScale_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp32f vMin, Qvp32f vMax);
@@ -1859,20 +1360,22 @@ QvpStatus qvpiScale_32f8u_AC4R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int
 
 /** @name Scale by a constant
  *  @{ */
-/** Multiplies by a number and adds one: dst = src mVal + aVal.
+/** Multiplies by a number and adds one: dst = src * mVal + aVal; in place, srcDst = srcDst * mVal + aVal.
  *
- *  Integer results are rounded to the nearest, ties to even, and saturated; NaN gives the least value of the type.
- *  With the hint qvpAlgHintAccurate, and wherever 32s or 64f take part, the product and the sum are those of double
- *  precision, else of single precision. Source and destination of one type may be the same image.
+ *  Integer results are rounded to the nearest, ties to even, and saturated; NaN gives the least value of the type. With
+ *  the hint qvpAlgHintAccurate, and wherever 32s or 64f take part, the product and the sum are each rounded to double
+ *  precision. Otherwise `mVal` and `aVal` are rounded to single precision first, and the product and the sum
+ *  afterwards: a factor like 0.1 is then off by up to 2^-24 of itself, and pixels near the middle between two integers
+ *  may become the other one. Source and destination of one type may be the same image.
  *
  *  @param pSrc,srcStep source image
  *  @param mVal,aVal factor and addend
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param hint speed or accuracy
  *  @return, in the order of the checks; where both types are the same, and |mVal - 1| and |aVal| are below 2^-52, the
- *          image
- *  is copied and steps are not checked:
+ *          image is copied, in place left as it is, and steps are not checked:
  *  - qvpStatusNullPointer: an image is null
  *  - qvpStatusSize: a side of the region is below 1
  *  - qvpStatusStep: a step is below 1
@@ -1927,28 +1430,6 @@ QvpStatus qvpiScaleC_64f16s_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qv
 QvpStatus qvpiScaleC_64f32s_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32s* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_64f32f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f mVal, Qvp64f aVal, Qvp64f* pDst, int dstStep, QvpiSize roiSize, QvpHintAlgorithm hint);
-/** @} */
-
-/** @name Scale by a constant, in place
- *  @{ */
-/** Multiplies by a number and adds one, in place: v = v mVal + aVal.
- *
- *  Integer results are rounded to the nearest, ties to even, and saturated; NaN gives the least value of the type.
- *  With the hint qvpAlgHintAccurate, and wherever 32s or 64f take part, the product and the sum are those of double
- *  precision, else of single precision.
- *
- *  @param pSrcDst,srcDstStep the image
- *  @param mVal,aVal factor and addend
- *  @param roiSize region in pixels
- *  @param hint speed or accuracy
- *  @return, in the order of the checks; where |mVal - 1| and |aVal| are below 2^-52 nothing changes and the step is
- *          not
- *  checked:
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: the step is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiScaleC_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_8s_C1IR(Qvp8s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
@@ -1960,7 +1441,7 @@ QvpStatus qvpiScaleC_64f_C1IR(Qvp64f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp6
 
 /** @name Threshold
  *  @{ */
-/** Bounds values from above or below.
+/** Bounds values from above or below: it clamps them, and makes no image of two values.
  *
  *  With qvpCmpGreater, dst = min(src, threshold); with qvpCmpLess, dst = max(src, threshold). A pixel that is not a
  *  number stays as it is, and so does a zero of either sign against a threshold of zero. Source and destination may be
@@ -1968,6 +1449,7 @@ QvpStatus qvpiScaleC_64f_C1IR(Qvp64f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp6
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
  *  @param cmpOp qvpCmpGreater or qvpCmpLess
@@ -1994,28 +1476,6 @@ QvpStatus qvpiThreshold_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, i
 QvpStatus qvpiThreshold_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], QvpCmpOp cmpOp);
-/** @} */
-
-/** @name Threshold, in place
- *  @{ */
-/** Bounds values from above or below, in place.
- *
- *
- *  With qvpCmpGreater, dst = min(src, threshold); with qvpCmpLess, dst = max(src, threshold). A pixel that is not a
- *  number stays as it is, and so does a zero of either sign against a threshold of zero.
- *
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @param cmpOp qvpCmpGreater or qvpCmpLess
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusNotSupportedMode: `cmpOp` is neither of the two
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], QvpCmpOp cmpOp);
 QvpStatus qvpiThreshold_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], QvpCmpOp cmpOp);
@@ -2043,6 +1503,7 @@ QvpStatus qvpiThreshold_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiS
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
  *  @return, in the order of the checks:
@@ -2067,24 +1528,6 @@ QvpStatus qvpiThreshold_GT_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiThreshold_GT_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
 QvpStatus qvpiThreshold_GT_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4]);
 QvpStatus qvpiThreshold_GT_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
-/** @} */
-
-/** @name Threshold: values above become the threshold, in place
- *  @{ */
-/** Bounds values from above: dst = min(src, threshold), in place.
- *
- *
- *  The same as qvpiThreshold with qvpCmpGreater: a pixel that is not a number stays as it is.
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_GT_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold);
 QvpStatus qvpiThreshold_GT_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3]);
 QvpStatus qvpiThreshold_GT_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4]);
@@ -2112,6 +1555,7 @@ QvpStatus qvpiThreshold_GT_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize r
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
  *  @return, in the order of the checks:
@@ -2136,24 +1580,6 @@ QvpStatus qvpiThreshold_LT_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiThreshold_LT_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
 QvpStatus qvpiThreshold_LT_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4]);
 QvpStatus qvpiThreshold_LT_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3]);
-/** @} */
-
-/** @name Threshold: values below become the threshold, in place
- *  @{ */
-/** Bounds values from below: dst = max(src, threshold), in place.
- *
- *
- *  The same as qvpiThreshold with qvpCmpLess: a pixel that is not a number stays as it is.
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_LT_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold);
 QvpStatus qvpiThreshold_LT_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3]);
 QvpStatus qvpiThreshold_LT_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4]);
@@ -2181,6 +1607,7 @@ QvpStatus qvpiThreshold_LT_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize r
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
  *  @param value what stands for values above it, given in the same way
@@ -2206,25 +1633,6 @@ QvpStatus qvpiThreshold_GTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 QvpStatus qvpiThreshold_GTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
 QvpStatus qvpiThreshold_GTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], const Qvp32f value[4]);
 QvpStatus qvpiThreshold_GTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
-/** @} */
-
-/** @name Threshold: values above are replaced, in place
- *  @{ */
-/** Replaces values above a threshold: dst = src > threshold ? value : src, in place.
- *
- *
- *  A value equal to the threshold stays, and so does a pixel that is not a number.
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @param value what stands for values above it, given in the same way
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_GTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, Qvp8u value);
 QvpStatus qvpiThreshold_GTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], const Qvp8u value[3]);
 QvpStatus qvpiThreshold_GTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], const Qvp8u value[4]);
@@ -2252,6 +1660,7 @@ QvpStatus qvpiThreshold_GTVal_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSiz
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
  *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
  *  @param value what stands for values below it, given in the same way
@@ -2277,25 +1686,6 @@ QvpStatus qvpiThreshold_LTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* p
 QvpStatus qvpiThreshold_LTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
 QvpStatus qvpiThreshold_LTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[4], const Qvp32f value[4]);
 QvpStatus qvpiThreshold_LTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f threshold[3], const Qvp32f value[3]);
-/** @} */
-
-/** @name Threshold: values below are replaced, in place
- *  @{ */
-/** Replaces values below a threshold: dst = src < threshold ? value : src, in place.
- *
- *
- *  A value equal to the threshold stays, and so does a pixel that is not a number.
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param threshold the bound: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @param value what stands for values below it, given in the same way
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_LTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u threshold, Qvp8u value);
 QvpStatus qvpiThreshold_LTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[3], const Qvp8u value[3]);
 QvpStatus qvpiThreshold_LTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u threshold[4], const Qvp8u value[4]);
@@ -2323,9 +1713,10 @@ QvpStatus qvpiThreshold_LTVal_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSiz
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize region in pixels
- *  @param thresholdLT,thresholdGT lower and upper threshold:
- *          one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
+ *  @param thresholdLT,thresholdGT lower and upper threshold: one value for one channel, an array of 3 (C3, AC4) or 4
+ *         (C4) otherwise
  *  @param valueLT,valueGT what stands for values below and above, given in the same way
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: an image or array of values is null
@@ -2350,28 +1741,6 @@ QvpStatus qvpiThreshold_LTValGTVal_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
 QvpStatus qvpiThreshold_LTValGTVal_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[3], const Qvp32f valueLT[3], const Qvp32f thresholdGT[3], const Qvp32f valueGT[3]);
 QvpStatus qvpiThreshold_LTValGTVal_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[4], const Qvp32f valueLT[4], const Qvp32f thresholdGT[4], const Qvp32f valueGT[4]);
 QvpStatus qvpiThreshold_LTValGTVal_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f thresholdLT[3], const Qvp32f valueLT[3], const Qvp32f thresholdGT[3], const Qvp32f valueGT[3]);
-/** @} */
-
-/** @name Threshold: values on both sides are replaced, in place
- *  @{ */
-/** Replaces values below a lower and above an upper threshold, in place.
- *
- *
- *  dst = src < thresholdLT ? valueLT : src > thresholdGT ? valueGT : src. A pixel that is not a number stays as it is.
- *  The values need not lie between the thresholds.
- *
- *  @param pSrcDst,srcDstStep the image, source and destination
- *  @param roiSize region in pixels
- *  @param thresholdLT,thresholdGT lower and upper threshold:
- *          one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise
- *  @param valueLT,valueGT what stands for values below and above, given in the same way
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: an image or array of values is null
- *  - qvpStatusSize: a side of the region is below 1
- *  - qvpStatusStep: a step is below 1
- *  - qvpStatusThreshold: not thresholdLT <= thresholdGT in a processed channel
- *  - qvpStatusNoError: otherwise
- */
 QvpStatus qvpiThreshold_LTValGTVal_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u thresholdLT, Qvp8u valueLT, Qvp8u thresholdGT, Qvp8u valueGT);
 QvpStatus qvpiThreshold_LTValGTVal_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u thresholdLT[3], const Qvp8u valueLT[3], const Qvp8u thresholdGT[3], const Qvp8u valueGT[3]);
 QvpStatus qvpiThreshold_LTValGTVal_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u thresholdLT[4], const Qvp8u valueLT[4], const Qvp8u thresholdGT[4], const Qvp8u valueGT[4]);
@@ -2394,11 +1763,22 @@ QvpStatus qvpiThreshold_LTValGTVal_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, Qv
  *  @{ */
 /** The threshold that separates the grey values of an image best.
  *
- *  Of all levels k, the one for which the classes [0, k] and [k + 1, 255] have the greatest variance between them, (w1
- *  m - w0 (mean - m))^2 / (w0 w1), where w0 and w1 are the shares of the classes and m is the first moment of the
- *  lower one; levels count as k + 0.5. Computed in double precision, levels in ascending order; the lowest of equal
- *  ones. An image of one value gives 0. For use with qvpiThreshold or qvpiCompareC: values above the threshold are the
- *  upper class. Source: N. Otsu, A threshold selection method from gray-level histograms, 1979.
+ *  Of all levels k, the one for which the classes [0, k] and [k + 1, 255] have the greatest variance between them,
+ *
+ *  @code
+ *    (w1 * m - w0 * (mean - m))^2 / (w0 * w1)
+ *  @endcode
+ *
+ *  where w0 and w1 are the shares of the classes and m is the first moment of the lower one; levels count as k + 0.5.
+ *  Computed in double precision, levels in ascending order; the lowest of equal ones. Levels at which either class has
+ *  less than 2^-23 of the pixels are passed over, and what lies at such levels at the lower end is no part of m. An
+ *  image of one value gives 0.
+ *
+ *  Values above the threshold are the upper class: qvpiCompareC with qvpCmpGreater makes it an image of 0 and 255. With
+ *  both its thresholds at the level, qvpiThreshold_LTValGTVal replaces the classes by two values, but leaves pixels
+ *  that equal the level; qvpiThreshold only clamps.
+ *
+ *  Source: N. Otsu, A threshold selection method from gray-level histograms, 1979.
  *
  *  @param pSrc,srcStep source image
  *  @param roiSize region in pixels
@@ -2487,8 +1867,9 @@ QvpStatus qvpiCompareC_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f va
 /** Tests whether two images are equal but for a tolerance: dst = |src1 - src2| <= eps ? 255 : 0.
  *
  *  A pixel of the destination, a one-channel 8-bit image, is 255 where this holds for all channels of the pixel (the
- *  first three of AC4), else 0. Differences are rounded to single precision. NaN equals nothing, and neither do two
- *  infinities.
+ *  first three of AC4), else 0. Differences are rounded to single precision. NaN equals nothing. Infinities of one sign
+ *  are not equal either, as their difference is NaN; any other difference with an infinity is infinite, and within an
+ *  infinite tolerance only.
  *
  *  @param pSrc1,src1Step first image
  *  @param pSrc2,src2Step second image
@@ -2512,8 +1893,9 @@ QvpStatus qvpiCompareEqualEps_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const 
 /** Tests whether an image equals a constant but for a tolerance: dst = |src - value| <= eps ? 255 : 0.
  *
  *  A pixel of the destination, a one-channel 8-bit image, is 255 where this holds for all channels of the pixel (the
- *  first three of AC4), else 0. Differences are rounded to single precision. NaN equals nothing, and neither do two
- *  infinities.
+ *  first three of AC4), else 0. Differences are rounded to single precision. NaN equals nothing. Infinities of one sign
+ *  are not equal either, as their difference is NaN; any other difference with an infinity is infinite, and within an
+ *  infinite tolerance only.
  *
  *  @param pSrc,srcStep source image
  *  @param value the constant: one value for one channel, an array of 3 (C3, AC4) or 4 (C4) otherwise

@@ -5,7 +5,7 @@
  *
  *  The transform of a W x H image x is, with v the frequency down and u the one across,
  *
- *      X(u, v) = sum over r < H, c < W of x(r, c) e^(-2 pi i (u c / W + v r / H))
+ *      X(u, v) = sum over r < H, c < W of x(r, c) * e^(-2 * pi * i * (u * c / W + v * r / H))
  *
  *  and the inverse one is the same sum with the opposite sign in the exponent. A normalisation flag tells by which
  *  factor the results are multiplied, once for each of the two passes; N is the length of the pass, W or H:
@@ -27,9 +27,9 @@
  *  | 2   | I(0, 1) | R(1, 2) | I(1, 2) | R(2, 2) | I(2, 2) | R(3, 2) | I(3, 2) | I(4, 1) |
  *  | 3   | R(0, 2) | R(1, 3) | I(1, 3) | R(2, 3) | I(2, 3) | R(3, 3) | I(3, 3) | R(4, 2) |
  *
- *  Columns 2 u - 1 and 2 u hold frequency u of every row. The first column, and of even widths the last one, hold u = 0
- *  and u = W / 2, down the rows as a single row would across: real v = 0, pairs, and of even heights real v = H / 2. An
- *  odd width has no last real column, an odd height no last real row of these columns.
+ *  Columns 2 * u - 1 and 2 * u hold frequency u of every row. The first column, and of even widths the last one, hold
+ *  u = 0 and u = W / 2, down the rows as a single row would across: real v = 0, pairs, and of even heights v = H / 2,
+ *  real too. An odd width has no last real column, an odd height no last real row of these columns.
  */
 #ifndef QVPI_TRANSFORM_H
 #define QVPI_TRANSFORM_H
@@ -40,10 +40,9 @@
 extern "C" {
 #endif
 
-/** @name FFT: sizes */
-/** @{ */
-/**
- *  Tells the sizes of what a transform of images whose sides are powers of two needs: a record, memory for its
+/** @name FFT: sizes
+ *  @{ */
+/** Tells the sizes of what a transform of images whose sides are powers of two needs: a record, memory for its
  *  initialisation, and a work buffer.
  *
  *  Every size has 64 bytes to spare, so memory of any alignment will do.
@@ -66,10 +65,9 @@ QvpStatus qvpiFFTGetSize_R_32f(int orderX, int orderY, int flag, QvpHintAlgorith
 QvpStatus qvpiFFTGetSize_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 /** @} */
 
-/** @name FFT: records */
-/** @{ */
-/**
- *  Writes a record for transforms of images whose sides are powers of two.
+/** @name FFT: records
+ *  @{ */
+/** Writes a record for transforms of images whose sides are powers of two.
  *
  *  The record is read-only afterwards: any number of calls may use it at a time, each with a work buffer of its own.
  *
@@ -77,7 +75,7 @@ QvpStatus qvpiFFTGetSize_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorit
  *  @param orderY the height is 2^orderY, 0 to 29
  *  @param flag normalisation: 1, 2, 4 or 8
  *  @param hint ignored
- *  @param pSpec the record; after a failure every transform refuses it
+ *  @param pSpec receives the record
  *  @param pMemInit not needed, may be null
  *  @return, in the order of the checks:
  *  - qvpStatusFftOrder: an order is not within 0 to 30
@@ -91,21 +89,19 @@ QvpStatus qvpiFFTInit_R_32f(int orderX, int orderY, int flag, QvpHintAlgorithm h
 QvpStatus qvpiFFTInit_C_32fc(int orderX, int orderY, int flag, QvpHintAlgorithm hint, QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
 /** @} */
 
-/** @name FFT: forward, real */
-/** @{ */
-/**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+/** @name FFT: forward, real
+ *  @{ */
+/** Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
  *  channel of the destination stays.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
  *  factors that were computed in double precision.
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -120,47 +116,25 @@ QvpStatus qvpiFFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
 QvpStatus qvpiFFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name FFT: forward, real, in place */
-/** @{ */
-/**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
- *  channel of the destination stays. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiFFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name FFT: inverse, real */
-/** @{ */
-/**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+/** @name FFT: inverse, real
+ *  @{ */
+/** Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
  *  of the destination stays.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of columns and then of rows, in single precision with
  *  factors that were computed in double precision.
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -175,46 +149,24 @@ QvpStatus qvpiFFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
 QvpStatus qvpiFFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name FFT: inverse, real, in place */
-/** @{ */
-/**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
- *  of the destination stays. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiFFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiFFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiFFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name FFT: forward, complex */
-/** @{ */
-/**
- *  Transforms a complex image to its spectrum, X(u, v) in row v and column u.
+/** @name FFT: forward, complex
+ *  @{ */
+/** Transforms a complex image to its spectrum, X(u, v) in row v and column u.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
  *  factors that were computed in double precision.
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -226,42 +178,21 @@ QvpStatus qvpiFFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name FFT: forward, complex, in place */
-/** @{ */
-/**
- *  Transforms a complex image to its spectrum, X(u, v) in row v and column u. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name FFT: inverse, complex */
-/** @{ */
-/**
- *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
+/** @name FFT: inverse, complex
+ *  @{ */
+/** Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of columns and then of rows, in single precision with
  *  factors that were computed in double precision.
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -273,32 +204,12 @@ QvpStatus qvpiFFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiFFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name FFT: inverse, complex, in place */
-/** @{ */
-/**
- *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiFFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiFFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name DFT: sizes */
-/** @{ */
-/**
- *  Tells the sizes of what a transform of images of any size needs: a record, memory for its initialisation, and a
+/** @name DFT: sizes
+ *  @{ */
+/** Tells the sizes of what a transform of images of any size needs: a record, memory for its initialisation, and a
  *  work buffer.
  *
  *  Every size has 64 bytes to spare, so memory of any alignment will do.
@@ -320,17 +231,16 @@ QvpStatus qvpiDFTGetSize_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint
 QvpStatus qvpiDFTGetSize_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 /** @} */
 
-/** @name DFT: records */
-/** @{ */
-/**
- *  Writes a record for transforms of images of any size.
+/** @name DFT: records
+ *  @{ */
+/** Writes a record for transforms of images of any size.
  *
  *  The record is read-only afterwards: any number of calls may use it at a time, each with a work buffer of its own.
  *
  *  @param roiSize size of the images in pixels
  *  @param flag normalisation: 1, 2, 4 or 8
  *  @param hint ignored
- *  @param pSpec the record; after a failure every transform refuses it
+ *  @param pSpec receives the record
  *  @param pMemInit not needed, may be null
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: the record is null
@@ -343,21 +253,20 @@ QvpStatus qvpiDFTInit_R_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, Q
 QvpStatus qvpiDFTInit_C_32fc(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pMemInit);
 /** @} */
 
-/** @name DFT: forward, real */
-/** @{ */
-/**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
+/** @name DFT: forward, real
+ *  @{ */
+/** Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
  *  channel of the destination stays.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; prime factors up to 61 have passes of their own, lengths with a
+ *  greater one go by a chirp (Bluestein, 1970).
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -372,47 +281,26 @@ QvpStatus qvpiDFTFwd_RToPack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
 QvpStatus qvpiDFTFwd_RToPack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name DFT: forward, real, in place */
-/** @{ */
-/**
- *  Transforms a real image to its packed spectrum. Each channel is an image of its own; of AC4 images the fourth
- *  channel of the destination stays. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiDFTFwd_RToPack_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTFwd_RToPack_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name DFT: inverse, real */
-/** @{ */
-/**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
+/** @name DFT: inverse, real
+ *  @{ */
+/** Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
  *  of the destination stays.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of columns and then of rows, in single precision with
+ *  factors that were computed in double precision; prime factors up to 61 have passes of their own, lengths with a
+ *  greater one go by a chirp (Bluestein, 1970).
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -427,46 +315,25 @@ QvpStatus qvpiDFTInv_PackToR_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pD
 QvpStatus qvpiDFTInv_PackToR_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name DFT: inverse, real, in place */
-/** @{ */
-/**
- *  Transforms a packed spectrum to a real image. Each channel is an image of its own; of AC4 images the fourth channel
- *  of the destination stays. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiDFTInv_PackToR_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDFTSpec_R_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name DFT: forward, complex */
-/** @{ */
-/**
- *  Transforms a complex image to its spectrum, X(u, v) in row v and column u.
+/** @name DFT: forward, complex
+ *  @{ */
+/** Transforms a complex image to its spectrum, X(u, v) in row v and column u.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
  *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
+ *  factors that were computed in double precision; prime factors up to 61 have passes of their own, lengths with a
+ *  greater one go by a chirp (Bluestein, 1970).
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -478,42 +345,22 @@ QvpStatus qvpiDFTInv_PackToR_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const Qv
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTFwd_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name DFT: forward, complex, in place */
-/** @{ */
-/**
- *  Transforms a complex image to its spectrum, X(u, v) in row v and column u. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name DFT: inverse, complex */
-/** @{ */
-/**
- *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
+/** @name DFT: inverse, complex
+ *  @{ */
+/** Transforms a spectrum, X(u, v) in row v and column u, to a complex image.
  *
- *  The destination may be the source, with equal steps. NaN and infinities spread as the sums tell.
+ *  The destination may be the source, with equal steps. NaN and infinite values spread as the sums tell.
  *
- *  Method: mixed radix in place (Gentleman and Sande, 1966), of rows and then of columns, in single precision with
- *  factors that were computed in double precision; lengths with a prime factor above 61 by a chirp (Bluestein, 1970).
+ *  Method: mixed radix in place (Gentleman and Sande, 1966), of columns and then of rows, in single precision with
+ *  factors that were computed in double precision; prime factors up to 61 have passes of their own, lengths with a
+ *  greater one go by a chirp (Bluestein, 1970).
  *
- *  @param pSrc source
- *  @param srcStep bytes between rows of the source
- *  @param pDst destination
- *  @param dstStep bytes between rows of the destination
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param pSpec record of the same kind of transform and image
  *  @param pBuffer work buffer of the size that the size query told, of any alignment
  *  @return, in the order of the checks:
@@ -525,43 +372,23 @@ QvpStatus qvpiDFTFwd_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const Qvpi
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiDFTInv_CToC_32fc_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
-/** @} */
-
-/** @name DFT: inverse, complex, in place */
-/** @{ */
-/**
- *  Transforms a spectrum, X(u, v) in row v and column u, to a complex image. In place.
- *
- *  @param pSrcDst source and destination
- *  @param srcDstStep bytes between rows
- *  @param pSpec record of the same kind of transform and image
- *  @param pBuffer work buffer of the size that the size query told, of any alignment
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: the record is null
- *  - qvpStatusContextMatch: the record is not one of this family, or its initialisation failed
- *  - qvpStatusNullPointer: an image is null
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNullPointer: the buffer is null
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiDFTInv_CToC_32fc_C1IR(Qvp32fc* pSrcDst, int srcDstStep, const QvpiDFTSpec_C_32fc* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name MulPack */
-/** @{ */
-/**
- *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real
- *  numbers.
+/** @name MulPack
+ *  @{ */
+/** Multiplies packed spectra of real images: dst = src1 * src2; in place, srcDst = src * srcDst.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too. The destination may be either source.
+ *  Each frequency is a product of complex numbers in single precision, the real ones one of real numbers.
  *
- *  @param pSrc1 first spectrum, a
- *  @param src1Step bytes between its rows
- *  @param pSrc2 second spectrum, b
- *  @param src2Step bytes between its rows
- *  @param pDst destination
- *  @param dstStep bytes between its rows
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones
+ *  too. The destination may be either source.
+ *
+ *  @param pSrc1,src1Step first spectrum
+ *  @param pSrc2,src2Step second spectrum
+ *  @param pDst,dstStep destination
+ *  @param pSrc,srcStep in place: first spectrum
+ *  @param pSrcDst,srcDstStep in place: second spectrum and destination
  *  @param roiSize size in pixels of the images that the spectra are of
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
@@ -573,49 +400,27 @@ QvpStatus qvpiMulPack_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* p
 QvpStatus qvpiMulPack_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name MulPack, in place */
-/** @{ */
-/**
- *  Multiplies packed spectra of real images: a b for each frequency, in single precision, the real ones as real
- *  numbers.
- *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too.
- *
- *  @param pSrc first spectrum, a
- *  @param srcStep bytes between its rows
- *  @param pSrcDst second spectrum, b, and destination
- *  @param srcDstStep bytes between its rows
- *  @param roiSize size in pixels of the images that the spectra are of
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: a pointer is null
- *  - qvpStatusSize: a side is less than 1
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiMulPack_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPack_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** @} */
 
-/** @name MulPackConj */
-/** @{ */
-/**
- *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real
- *  numbers.
+/** @name MulPackConj
+ *  @{ */
+/** Multiplies a packed spectrum of a real image by the conjugate of another: dst = src1 * conj(src2); in place,
+ *  srcDst = src * conj(srcDst): it is the image that receives the product whose conjugate is taken.
  *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too. The destination may be either source.
+ *  Each frequency is a product of complex numbers in single precision, the real ones one of real numbers.
  *
- *  @param pSrc1 first spectrum, a
- *  @param src1Step bytes between its rows
- *  @param pSrc2 second spectrum, b
- *  @param src2Step bytes between its rows
- *  @param pDst destination
- *  @param dstStep bytes between its rows
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones
+ *  too. The destination may be either source.
+ *
+ *  @param pSrc1,src1Step first spectrum
+ *  @param pSrc2,src2Step second spectrum
+ *  @param pDst,dstStep destination
+ *  @param pSrc,srcStep in place: first spectrum
+ *  @param pSrcDst,srcDstStep in place: second spectrum and destination
  *  @param roiSize size in pixels of the images that the spectra are of
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
@@ -627,38 +432,15 @@ QvpStatus qvpiMulPackConj_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32
 QvpStatus qvpiMulPackConj_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
-/** @} */
-
-/** @name MulPackConj, in place */
-/** @{ */
-/**
- *  Multiplies packed spectra of real images: a conj(b) for each frequency, in single precision, the real ones as real
- *  numbers.
- *
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too.
- *
- *  @param pSrc first spectrum, a
- *  @param srcStep bytes between its rows
- *  @param pSrcDst second spectrum, b, and destination
- *  @param srcDstStep bytes between its rows
- *  @param roiSize size in pixels of the images that the spectra are of
- *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: a pointer is null
- *  - qvpStatusSize: a side is less than 1
- *  - qvpStatusStep: a step is less than 1
- *  - qvpStatusNoError: the result is written
- */
 QvpStatus qvpiMulPackConj_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_C4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiMulPackConj_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** @} */
 
-/** @name MagnitudePack: size of the buffer */
-/** @{ */
-/**
- *  Tells the size of the buffer that MagnitudePack takes: a row of floats.
+/** @name MagnitudePack: size of the buffer
+ *  @{ */
+/** Tells the size of the buffer that MagnitudePack takes: a row of floats.
  *
  *  @param numChannels 1, 3 or 4
  *  @param roiSize size in pixels
@@ -673,19 +455,16 @@ QvpStatus qvpiMulPackConj_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSr
 QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, int* pBufferSize);
 /** @} */
 
-/** @name MagnitudePack */
-/** @{ */
-/**
- *  Magnitudes |X| of a packed spectrum, computed in double precision and rounded to the nearest float.
+/** @name MagnitudePack
+ *  @{ */
+/** Magnitudes |X| of a packed spectrum, computed in double precision and rounded to the nearest float.
  *
  *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones
+ *  too.
  *
- *  @param pSrc packed spectrum
- *  @param srcStep bytes between its rows
- *  @param pDst destination, of the same size
- *  @param dstStep bytes between its rows
+ *  @param pSrc,srcStep packed spectrum
+ *  @param pDst,dstStep destination, of the same size
  *  @param roiSize size in pixels
  *  @param pBuffer buffer of the size that the size query told
  *  @return, in the order of the checks:
@@ -700,20 +479,18 @@ QvpStatus qvpiMagnitudePack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDs
 QvpStatus qvpiMagnitudePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, Qvp8u* pBuffer);
 /** @} */
 
-/** @name PhasePack */
-/** @{ */
-/**
- *  Phases of a packed spectrum in (-pi, pi]: the angle of X(u, v), computed in double precision and rounded to float.
- *  That of 0 is 0, that of negative real numbers pi.
+/** @name PhasePack
+ *  @{ */
+/** Phases of a packed spectrum in (-pi, pi]: the angle of X(u, v), computed in double precision and rounded to float.
+ *  That of 0 is 0, that of negative real numbers pi. An infinite part outweighs every finite one, and two of them are
+ *  equally long: the phase of inf + i * y is 0 for every finite y, that of -inf + i * inf is 3 * pi / 4.
  *
  *  The whole spectrum is written: row v, column u has the value of X(u, v). The images must not overlap.
- *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd
- *  ones too.
+ *  Each channel is a spectrum of its own; of AC4 images the fourth channel of the destination stays. Any size, odd ones
+ *  too.
  *
- *  @param pSrc packed spectrum
- *  @param srcStep bytes between its rows
- *  @param pDst destination, of the same size
- *  @param dstStep bytes between its rows
+ *  @param pSrc,srcStep packed spectrum
+ *  @param pDst,dstStep destination, of the same size
  *  @param roiSize size in pixels
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
@@ -727,15 +504,12 @@ QvpStatus qvpiPhasePack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, i
 QvpStatus qvpiPhasePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
 /** @} */
 
-/** @name PackToCplxExtend */
-/** @{ */
-/**
- *  Writes a packed spectrum as a whole complex one: row v, column u gets X(u, v).
+/** @name PackToCplxExtend
+ *  @{ */
+/** Writes a packed spectrum as a whole complex one: row v, column u gets X(u, v).
  *
- *  @param pSrc packed spectrum
- *  @param srcStep bytes between its rows
- *  @param pDst complex spectrum; must not overlap the source
- *  @param dstStep bytes between its rows
+ *  @param pSrc,srcStep packed spectrum
+ *  @param pDst,dstStep complex spectrum; must not overlap the source
  *  @param roiSize size in pixels of both
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
@@ -746,16 +520,13 @@ QvpStatus qvpiPhasePack_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, 
 QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, QvpiSize roiSize);
 /** @} */
 
-/** @name CplxExtendToPack */
-/** @{ */
-/**
- *  Packs the spectrum of a real image: what the packed spectrum stores is taken from the complex one, the mirrored
+/** @name CplxExtendToPack
+ *  @{ */
+/** Packs the spectrum of a real image: what the packed spectrum stores is taken from the complex one, the mirrored
  *  half of that is not looked at.
  *
- *  @param pSrc complex spectrum, X(u, v) in row v and column u
- *  @param srcStep bytes between its rows
- *  @param pDst packed spectrum; must not overlap the source
- *  @param dstStep bytes between its rows
+ *  @param pSrc,srcStep complex spectrum, X(u, v) in row v and column u
+ *  @param pDst,dstStep packed spectrum; must not overlap the source
  *  @param roiSize size in pixels of both
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: a pointer is null
