@@ -3,7 +3,8 @@
 
 namespace {
 constexpr QvpLibraryVersion kVersion = {
-    2021, 11, 0, static_cast<int>(0xCD107B02), QVP_CPU_CODE, QVP_BUILD_NAME, "2021.11.0 (r0xcd107b02)", "Jan 30 2024"};
+    QVP_RELEASE_MAJOR, QVP_RELEASE_MINOR, QVP_RELEASE_UPDATE,           static_cast<int>(0xCD107B02),
+    QVP_CPU_CODE,      QVP_BUILD_NAME,    QVP_RELEASE " (r0xcd107b02)", "Jan 30 2024"};
 }  // namespace
 
 const QvpLibraryVersion* qvpiGetLibVersion() { return &kVersion; }

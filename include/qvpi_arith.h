@@ -1269,7 +1269,8 @@ QvpStatus qvpiBinToGray_1u32f_C1R(const Qvp8u* pSrc, int srcStep, int srcBitOffs
 /** Gives each pixel a bit: src > threshold ? 1 : 0.
  *
  *  Eight pixels lie in a byte, the leftmost in the highest bit; bits of the first and the last byte of a row that
- *  belong to no pixel stay. What is not a number gives 0. Steps are not checked.
+ *  belong to no pixel stay, and are rewritten: threads must not write bits of one byte at once. What is not a number
+ *  gives 0. Steps are not checked.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep image of bits; the byte that holds the first pixel of a row

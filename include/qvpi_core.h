@@ -10,10 +10,36 @@
  *  - C1, C3 and C4 pixels have 1, 3 and 4 interleaved channels. AC4 pixels have 4, of which three are processed: the
  *    fourth, alpha, of the destination keeps its value, and may be rewritten with that same value.
  *  - `_L` forms take pointer-wide sizes and steps, for images beyond 2 GiB; they are otherwise the same.
+ *  - In-place forms, with an I before the R, have one image as source and destination. They do what the plain form does
+ *    that is given this image as both, and are documented with it. Of two sources, the second is the destination too.
  *  - Checks are made in the order in which a function lists its statuses. The first failure is returned and nothing is
- *    written.
+ *    written, except that an Init function which is given a record and returns a negative status clears the
+ *    identification of that record, whichever check failed. Every function that is handed such a record refuses it.
  *  - No function allocates (but qvpiMalloc), starts a thread, takes a lock or keeps state between calls. Any number of
- *    threads may call at once as long as their destinations are disjoint.
+ *    threads may call at once, on tiles of one image too, as long as the pixels that they write are disjoint, and none
+ *    of them reads what another writes. What a function says that it may rewrite with the value that it has counts as
+ *    written.
+ *  - A float result that is NaN has no promised sign and no promised payload: they differ from one kind of CPU to
+ *    another. Functions that only move pixels (copy, set, mirror, transpose, channel order, borders) keep every bit, of
+ *    NaN too. An integer result made from NaN is the least value of its type, which is 0 if that is unsigned.
+ *
+ *  What row steps a function takes; for others it returns qvpStatusStep. Steps that are not checked are used as they
+ *  are, row 0 first, then the next one a step further on: with a step of 0 that is the first row again and again, with
+ *  a negative one the rows upwards.
+ *
+ *  @code
+ *    steps                                 functions
+ *    any, not checked                      Copy, Set, Dup; Add, Sub, Mul, MulScale, Abs, Sqr, Sqrt, Ln, Exp, with
+ *                                          constants too; Convert, Scale, BinToGray, GrayToBin; Compare; Sum, Mean,
+ *                                          Min, Max, MinMax, MinIndx, MaxIndx; Transpose, Mirror
+ *    any but 0                             SwapChannels; DotProd, where 0 gives qvpStatusSize
+ *    1 or more                             Div, DivC, Div_Round, ScaleC, Threshold, CountInRange; Norm; FFT, DFT,
+ *                                          packed spectra; copies with a border; Remap; HOG; FilterBorder's source;
+ *                                          Mirror about the axes 45 and 135, unless in place
+ *    at least a row                        Histogram, ComputeThreshold_Otsu; FilterBorder's destination; Moments,
+ *                                          which return qvpStatusStride for steps from 1 on
+ *    multiples of an element, of any sign  Resize, Warp
+ *  @endcode
  */
 #ifndef QVPI_CORE_H
 #define QVPI_CORE_H
@@ -129,10 +155,9 @@ void qvpiFree(void* ptr);
  *  @{ */
 /** Copies a region: dst(x, y) = src(x, y).
  *
- *  AC4 copies three channels and keeps the fourth of the destination. Source and destination may be the same image;
- *  any other overlap gives undefined pixels. Steps are not checked: any value is used as it is, also zero and negative
- *  ones, row 0 first. When source and destination together have more than 524288 bytes, and at least as many as the
- *  largest cache, the stores bypass the caches.
+ *  AC4 copies three channels and keeps the fourth of the destination. Source and destination may be the same image; any
+ *  other overlap gives undefined pixels. Steps are not checked. When source and destination together have more than
+ *  524288 bytes, and at least as many as the largest cache or 33554432, the stores bypass the caches.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
@@ -227,7 +252,8 @@ QvpStatus qvpiCopy_32f_AC4MR(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int 
  *  its own, C1C3R and C1C4R insert one. The other channels of the destination keep their values; those between the
  *  first and the last value of a row may be rewritten with the same values, so threads must not write different
  *  channels of one row at once. Nothing before the first or after the last value of a row is touched. Source and
- *  destination may be the same image. Steps are not checked.
+ *  destination may be the same image: one channel of it is then copied over another, or over itself; both pointers are
+ *  in its first pixel, and the steps are the same. Steps are not checked.
  *
  *  @param pSrc,srcStep source, its pointer at the channel to copy
  *  @param pDst,dstStep destination, its pointer at the channel to write
@@ -297,8 +323,8 @@ QvpStatus qvpiCopy_32f_AC4C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int
  *
  *  A planar image is an array of pointers to the first value of each plane; all planes share one step. No two of the
  *  images may overlap. Steps are not checked. When source and destination together have more than 524288 bytes, and at
- *  least as many as the largest cache, the stores bypass the caches, provided that the rows of the destination are
- *  aligned to 64 bytes, as those of qvpiMalloc are.
+ *  least as many as the largest cache or 33554432, the stores bypass the caches, provided that the rows of the
+ *  destination are aligned to 64 bytes, as those of qvpiMalloc are.
  *
  *  @param pSrc,srcStep source image, or array of planes
  *  @param pDst,dstStep destination image, or array of planes
@@ -441,8 +467,9 @@ QvpStatus qvpiSet_32f_AC4MR(const Qvp32f value[3], Qvp32f* pDst, int dstStep, Qv
 /** Fills one channel of an image of three or four.
  *
  *  The pointer selects the channel: it points at that channel's value in the first pixel. The other channels keep their
- *  values; those between the first and the last value of a row may be rewritten with the same values. Nothing before
- *  the first or after the last value of a row is touched. Steps are not checked.
+ *  values; those between the first and the last value of a row may be rewritten with the same values, so threads must
+ *  not write different channels of one row at once. Nothing before the first or after the last value of a row is
+ *  touched. Steps are not checked.
  *
  *  @param value the value
  *  @param pDst,dstStep destination, its pointer at the channel to fill
@@ -466,17 +493,19 @@ QvpStatus qvpiSet_32f_C4CR(Qvp32f value, Qvp32f* pDst, int dstStep, QvpiSize roi
  *  @{ */
 /** Reorders channels: channel i of a destination pixel becomes channel `dstOrder[i]` of the source pixel.
  *
- *  Channels may be repeated. C4C3 chooses three of four source channels. AC4 reads three entries, of which each may name
- *  any of the four source channels, and keeps the fourth channel of the destination. Order {2, 1, 0} turns BGR into RGB.
- *  Except for C4C3, source and destination may be the same image with the same step.
+ *  Channels may be repeated. C4C3 chooses three of four source channels. AC4 reads three entries, of which each may
+ *  name any of the four source channels, and keeps the fourth channel of the destination. Order {2, 1, 0} turns BGR
+ *  into RGB. Except for C4C3, source and destination may be the same image with the same step; the in-place forms are
+ *  these calls.
  *
  *  @param pSrc,srcStep source image
  *  @param pDst,dstStep destination image
+ *  @param pSrcDst,srcDstStep in place: the image
  *  @param roiSize size of the region in pixels
  *  @param dstOrder source channel of each destination channel: 0 to 2 for C3, otherwise 0 to 3
- *  @return qvpStatusNullPointer: `pSrc` or `pDst` is null. qvpStatusStep: a step is zero. qvpStatusSize: a side of
- *          `roiSize` is below 1. qvpStatusNullPointer: `dstOrder` is null. qvpStatusChannelOrder: an entry is out of
- *          range. qvpStatusNoError otherwise.
+ *  @return qvpStatusNullPointer: an image is null. qvpStatusStep: a step is zero. qvpStatusSize: a side of `roiSize` is
+ *          below 1. qvpStatusNullPointer: `dstOrder` is null. qvpStatusChannelOrder: an entry is out of range.
+ *          qvpStatusNoError otherwise.
  */
 QvpStatus qvpiSwapChannels_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[3]);
 QvpStatus qvpiSwapChannels_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4]);
@@ -498,6 +527,8 @@ QvpStatus qvpiSwapChannels_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiSwapChannels_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4]);
 QvpStatus qvpiSwapChannels_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[3]);
 QvpStatus qvpiSwapChannels_32f_C4C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[3]);
+QvpStatus qvpiSwapChannels_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const int dstOrder[3]);
+QvpStatus qvpiSwapChannels_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const int dstOrder[4]);
 /** @} */
 
 /** @name Swap channels, three to four
@@ -521,21 +552,6 @@ QvpStatus qvpiSwapChannels_16u_C3C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pD
 QvpStatus qvpiSwapChannels_16s_C3C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp16s val);
 QvpStatus qvpiSwapChannels_32s_C3C4R(const Qvp32s* pSrc, int srcStep, Qvp32s* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp32s val);
 QvpStatus qvpiSwapChannels_32f_C3C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const int dstOrder[4], Qvp32f val);
-/** @} */
-
-/** @name Swap channels in place
- *  @{ */
-/** Reorders channels in place: channel i of a pixel becomes what channel `dstOrder[i]` was.
- *
- *  @param pSrcDst,srcDstStep image
- *  @param roiSize size of the region in pixels
- *  @param dstOrder former channel of each channel: 0 to 2 for C3, 0 to 3 for C4
- *  @return qvpStatusNullPointer: `pSrcDst` is null. qvpStatusStep: the step is zero. qvpStatusSize: a side of `roiSize`
- *          is below 1. qvpStatusNullPointer: `dstOrder` is null. qvpStatusChannelOrder: an entry is out of range.
- *          qvpStatusNoError otherwise.
- */
-QvpStatus qvpiSwapChannels_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const int dstOrder[3]);
-QvpStatus qvpiSwapChannels_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const int dstOrder[4]);
 /** @} */
 
 /** @name Duplicate a channel

@@ -11,6 +11,20 @@
 extern "C" {
 #endif
 
+/** @name Version of these headers
+ *  The version of the interface is that of the shared library's name and of the packages: a program runs with any
+ *  library of the same major version whose minor version is not lower. The release says when the functions were last
+ *  revised; qvpiGetLibVersion() tells it of the library that was loaded.
+ *  @{ */
+#define QVP_VERSION_MAJOR 10    /**< interface: changes when programs have to be compiled anew */
+#define QVP_VERSION_MINOR 0     /**< interface: rises when functions are added */
+#define QVP_VERSION "10.0"      /**< interface, as text */
+#define QVP_RELEASE_MAJOR 2021  /**< release: its year */
+#define QVP_RELEASE_MINOR 11    /**< release: its number in the year */
+#define QVP_RELEASE_UPDATE 0    /**< release: the number of the update */
+#define QVP_RELEASE "2021.11.0" /**< release, as text */
+/** @} */
+
 /** @name Pixel and value types
  *  @{ */
 typedef uint8_t Qvp8u;   /**< unsigned 8-bit integer */
@@ -194,7 +208,8 @@ typedef struct {
 
 /** @name Records
  *  Opaque: in memory of the caller, of the size that a query tells, filled by an Init function, read by any number of
- *  threads. A record must not be moved or copied after its Init.
+ *  threads. Unless its family says that it may be moved, a record is valid where its Init made it, and not as a copy.
+ *  An Init that returns a negative status leaves no record: every function refuses it.
  *  @{ */
 typedef struct QvpiFilterBorderSpec QvpiFilterBorderSpec; /**< general filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
@@ -213,7 +228,8 @@ typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of orie
 
 /** Result of every function: 0 for success, negative for an error, positive for a warning.
  *
- *  A call that fails its argument checks writes nothing. After a warning the work was done. qvpGetStatusString() in
+ *  A call that fails its argument checks writes nothing, but an Init function makes a record invalid. After a warning
+ *  the work was done, unless the warning says that nothing was written. qvpGetStatusString() in
  *  qvpcore.h turns a value into its name and a sentence. */
 typedef int QvpStatus;
 enum {
@@ -273,9 +289,9 @@ enum {
 
 /** Version record of a build. */
 typedef struct {
-    int major;             /**< year of the release */
-    int minor;             /**< number of the release in its year */
-    int majorBuild;        /**< number of the update */
+    int major;             /**< year of the release, QVP_RELEASE_MAJOR */
+    int minor;             /**< number of the release in its year, QVP_RELEASE_MINOR */
+    int majorBuild;        /**< number of the update, QVP_RELEASE_UPDATE */
     int build;             /**< revision */
     char targetCpu[4];     /**< CPU code, "g9", "v2", "v3" or "v4", filled up with zero bytes */
     const char *Name;      /**< name of the library and its instruction set */
