@@ -8,6 +8,15 @@ qvpi_install_libraries(32 lib/i386-linux-gnu libqvpig9-10 libqvpi-dev EXCLUDE_FR
 get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
 list(FILTER CPACK_COMPONENTS_ALL INCLUDE REGEX ^libqvp)
 
+# Every package, named like its component, says what changed and who may do what.
+set(changelog ${PROJECT_BINARY_DIR}/install/changelog.gz)
+file(ARCHIVE_CREATE OUTPUT ${changelog} PATHS ${PROJECT_SOURCE_DIR}/CHANGELOG.md FORMAT raw COMPRESSION GZip)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  install(FILES ${PROJECT_SOURCE_DIR}/docs/copyright ${changelog} DESTINATION share/doc/${component}
+    COMPONENT ${component} EXCLUDE_FROM_ALL)
+endforeach()
+
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_NAME libqvpi10)
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_ARCHITECTURE amd64)
