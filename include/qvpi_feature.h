@@ -14,14 +14,14 @@ extern "C" {
 
 /** @name Histogram of oriented gradients: record
  *  @{ */
-/** Size of the record that qvpiHOGInit() fills: 72 + 16 blockSize^2 bytes.
+/** Size of the record that qvpiHOGInit() fills: 72 + 16 * blockSize^2 bytes.
  *
  *  The configuration, with what it has to be:
  *
  *  @code
  *    cvCompatible  0: blocks and cells row by row; else both column by column
  *    cellSize      side of a cell in pixels, 2 to 16
- *    blockSize     side of a block in pixels: 2 cellSize
+ *    blockSize     side of a block in pixels: 2 * cellSize
  *    blockStride   pixels from block to block, a positive multiple of cellSize
  *    nbins         orientations over half a turn, 2 to 16
  *    sigma         standard deviation of the weights around the middle of a block, in pixels, above 0
@@ -47,7 +47,7 @@ QvpStatus qvpiHOGGetSize(const QvpiHOGConfig* pConfig, int* pSpecSize);
  *  A pixel (i, j) of a block has a weight for each of the four cells, a Gaussian times the linear share of the cell in
  *  either direction:
  *
- *    weight = exp(-(dx^2 + dy^2) / (2 sigma^2)) a(i) a(j)
+ *    weight = exp(-(dx^2 + dy^2) / (2 * sigma^2)) * a(i) * a(j)
  *
  *  with dx = i - blockSize / 2 + 0.5, dy alike, and a(i) = max(0, 1 - |(i + 0.5) / cellSize - m|), m = 0.5 for the
  *  first and 1.5 for the second cell. Single precision.
@@ -64,7 +64,7 @@ QvpStatus qvpiHOGInit(const QvpiHOGConfig* pConfig, QvpiHOGSpec* pHOGSpec);
 
 /** @name Histogram of oriented gradients: work buffer
  *  @{ */
-/** Size of the work buffer for a region: 12 width height bytes, at any address.
+/** Size of the work buffer for a region: 12 * width * height bytes, at any address.
  *
  *  @param pHOGSpec the record
  *  @param roiSize the region in pixels
@@ -103,7 +103,7 @@ QvpStatus qvpiHOGGetDescriptorSize(const QvpiHOGSpec* pHOGSpec, int* pDescriptor
  *  found: qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, and one pixel on each side that is in memory.
  *
  *  2. Its vote of sqrt(gx^2 + gy^2) for the direction t = atan2(gy, gx) modulo pi, shared linearly between the two
- *  nearest of nbins bins, the centres of which are at (k + 1/2) pi / nbins; the last bin and the first are neighbours.
+ *  nearest of nbins bins, the centres of which are at (k + 1/2) * pi / nbins; the last bin and the first are neighbours.
  *  Directions are exact to 1e-5.
  *
  *  3. For each block of a window the votes of its pixels, times their weights for the four cells, summed by cells and

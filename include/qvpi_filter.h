@@ -405,12 +405,12 @@ QvpStatus qvpiFilterBorderGetSize(QvpiSize kernelSize, QvpiSize dstRoiSize, QvpD
  *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
  *
  *  @code
- *    const Qvp16s kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *    const Qvp16s kernel[3] = {1, 2, 5};  // dst(x) = 5 * src(x - 1) + 2 * src(x) + 1 * src(x + 1)
  *  @endcode
  *
  *  For images of 8u, and of 16s with one channel and a kernel at least 3 wide and 2 high, or with two channels and a
  *  kernel at least 2 wide and high, results are exact whatever the coefficients: the sum of products is formed without
- *  loss, the quotient (sum + offset divisor) / divisor is rounded once, and saturated.
+ *  loss, the quotient (sum + offset * divisor) / divisor is rounded once, and saturated.
  *
  *  For all other images, 16u among them, the kernel becomes one of 32f, with the coefficients
  *  (float)(coefficient / divisor); see qvpiFilterBorderInit_32f(). These and their sums are rounded then, so that a
@@ -445,7 +445,7 @@ QvpStatus qvpiFilterBorderInit_16s(const Qvp16s* pKernel, QvpiSize kernelSize, i
  *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
  *
  *  @code
- *    const Qvp32f kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *    const Qvp32f kernel[3] = {1, 2, 5};  // dst(x) = 5 * src(x - 1) + 2 * src(x) + 1 * src(x + 1)
  *  @endcode
  *
  *  Products and sums are of single precision. Each result is the sum of +0 and the products in the order of rows and
@@ -479,7 +479,7 @@ QvpStatus qvpiFilterBorderInit_32f(const Qvp32f* pKernel, QvpiSize kernelSize, Q
  *  The filter is a convolution, which turns the kernel by 180 degrees; to correlate, hand it over turned. Of one row:
  *
  *  @code
- *    const Qvp64f kernel[3] = {1, 2, 5};  // dst(x) = 5 src(x - 1) + 2 src(x) + 1 src(x + 1)
+ *    const Qvp64f kernel[3] = {1, 2, 5};  // dst(x) = 5 * src(x - 1) + 2 * src(x) + 1 * src(x + 1)
  *  @endcode
  *
  *  Products and sums are of double precision, added up as qvpiFilterBorderInit_32f() tells.
@@ -509,7 +509,7 @@ QvpStatus qvpiFilterBorderInit_64f(const Qvp64f* pKernel, QvpiSize kernelSize, Q
  *  qvpAlgHintFast are the same here, as integer kernels are exact and the others have one order of additions.
  *
  *  @param hint any number
- *  @param offset what is added: for integer kernels the result is round((sum + offset divisor) / divisor), for others
+ *  @param offset what is added: for integer kernels the result is round((sum + offset * divisor) / divisor), for others
  *         round(sum + offset); float images filtered with a record for integers take it too, sum + offset
  *  @param pSpec a record for 8u or 16u images; for others the offset must be 0
  *  @return, in the order of the checks:
@@ -525,8 +525,8 @@ QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterB
  *  @{ */
 /** Convolves an image with the kernel of a record.
  *
- *  For each channel, dst(x, y) = sum over the rows j and the columns i of K[kh - 1 - j][kw - 1 - i] src(x - ax + i, y -
- *  ay + j), where K is the kernel, kw wide and kh high, and ax = (kw - 1) / 2, ay = (kh - 1) / 2, rounded down: a
+ *  For each channel, dst(x, y) = sum over the rows j and the columns i of K[kh - 1 - j][kw - 1 - i] * src(x - ax + i, y
+ *  - ay + j), where K is the kernel, kw wide and kh high, and ax = (kw - 1) / 2, ay = (kh - 1) / 2, rounded down: a
  *  kernel of even width reaches one column further to the right than to the left, rows likewise. How sums are formed,
  *  divided and rounded is told at the Init functions.
  *

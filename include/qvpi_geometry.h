@@ -1310,8 +1310,11 @@ QvpStatus qvpiWarpPerspectiveCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcSte
 
 /** @name Warp: quadrangle of a rectangle, affine
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 * x + c01 * y + c02, c10 * x + c11 * y +
- *  c12).
+/** Where the centres of a rectangle's corner pixels go:
+ *
+ *  @code
+ *    (x, y) to (c00 * x + c01 * y + c02,  c10 * x + c11 * y + c12)
+ *  @endcode
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
@@ -1351,8 +1354,11 @@ QvpStatus qvpiGetAffineTransform(QvpiRect srcRoi, const double quad[4][2], doubl
 
 /** @name Warp: quadrangle of a rectangle, perspective
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to ((c00 * x + c01 * y + c02) / w, (c10 * x + c11
- *  * y + c12) / w), w = c20 * x + c21 * y + c22.
+/** Where the centres of a rectangle's corner pixels go:
+ *
+ *  @code
+ *    (x, y) to ((c00 * x + c01 * y + c02) / w,  (c10 * x + c11 * y + c12) / w),  w = c20 * x + c21 * y + c22
+ *  @endcode
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
@@ -1392,8 +1398,11 @@ QvpStatus qvpiGetPerspectiveTransform(QvpiRect srcRoi, const double quad[4][2], 
 
 /** @name Warp: quadrangle of a rectangle, bilinear
  *  @{ */
-/** Where the centres of a rectangle's corner pixels go: (x, y) to (c00 * x * y + c01 * x + c02 * y + c03, c10 * x
- *  * y + c11 * x + c12 * y + c13).
+/** Where the centres of a rectangle's corner pixels go:
+ *
+ *  @code
+ *    (x, y) to (c00 * x * y + c01 * x + c02 * y + c03,  c10 * x * y + c11 * x + c12 * y + c13)
+ *  @endcode
  *
  *  @param srcRoi rectangle of pixels
  *  @param quad receives the corners, clockwise from the top left one
