@@ -103,8 +103,8 @@ QvpStatus qvpiHOGGetDescriptorSize(const QvpiHOGSpec* pHOGSpec, int* pDescriptor
  *  found: qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, and one pixel on each side that is in memory.
  *
  *  2. Its vote of sqrt(gx^2 + gy^2) for the direction t = atan2(gy, gx) modulo pi, shared linearly between the two
- *  nearest of nbins bins, the centres of which are at (k + 1/2) * pi / nbins; the last bin and the first are neighbours.
- *  Directions are exact to 1e-5.
+ *  nearest of nbins bins, the centres of which are at (k + 1/2) * pi / nbins; the last bin and the first are
+ *  neighbours. Directions are exact to 1e-5.
  *
  *  3. For each block of a window the votes of its pixels, times their weights for the four cells, summed by cells and
  *  bins; then divided by sqrt(2^-23 + the sum of the squares), bounded by l2thresh, and divided by the same root

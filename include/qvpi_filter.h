@@ -525,10 +525,14 @@ QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterB
  *  @{ */
 /** Convolves an image with the kernel of a record.
  *
- *  For each channel, dst(x, y) = sum over the rows j and the columns i of K[kh - 1 - j][kw - 1 - i] * src(x - ax + i, y
- *  - ay + j), where K is the kernel, kw wide and kh high, and ax = (kw - 1) / 2, ay = (kh - 1) / 2, rounded down: a
- *  kernel of even width reaches one column further to the right than to the left, rows likewise. How sums are formed,
- *  divided and rounded is told at the Init functions.
+ *  For each channel, over the rows j and the columns i of the kernel K, kw wide and kh high:
+ *
+ *  @code
+ *    dst(x, y) = sum of K[kh - 1 - j][kw - 1 - i] * src(x - ax + i, y - ay + j),  ax = (kw - 1) / 2, ay = (kh - 1) / 2
+ *  @endcode
+ *
+ *  with ax and ay rounded down: a kernel of even width reaches one column further to the right than to the left, rows
+ *  likewise. How sums are formed, divided and rounded is told at the Init functions.
  *
  *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
  *  kernel reaches; the kind is applied outside of the region so enlarged.
