@@ -91,7 +91,7 @@ struct Constants {
 
 // One mask byte for each of n samples. The first one belongs to the first channel.
 template <class T, class Relation, class Other>
-HWY_NOINLINE void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
+HWY_INLINE void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
   const auto at = [&](const T* from, const Other& to, ptrdiff_t i, ptrdiff_t phase) HWY_ATTR {
@@ -145,13 +145,12 @@ void MergeFour(const uint8_t* mask, uint8_t* dst, ptrdiff_t pixels, uint32_t ign
 constexpr ptrdiff_t kChunkPixels = 768;
 
 template <class T, class Relation, class Other>
-void MaskPixels(const Relation& relation, Layout layout, const T* src, Other other, uint8_t* dst, ptrdiff_t pixels) {
+HWY_NOINLINE void MaskChunks(const Relation& relation, Layout layout, const T* src, Other other, uint8_t* dst,
+                             ptrdiff_t pixels) {
   const int channels = Channels(layout);
-  if (channels == 1) return MaskSamples(relation, src, other, dst, pixels);
   HWY_ALIGN uint8_t samples[4 * kChunkPixels + 4 * kMaskLanes], merged[kChunkPixels + kMaskLanes];
-  const ptrdiff_t n = std::min(pixels, kChunkPixels);
   for (ptrdiff_t i = 0; i < pixels; i += kChunkPixels) {
-    const ptrdiff_t count = std::min(n, pixels - i);
+    const ptrdiff_t count = std::min(kChunkPixels, pixels - i);
     MaskSamples(relation, src + i * channels, other.From(i * channels), samples, count * channels);
     if (channels == 3) {
       MergeThree(samples, merged, count);
@@ -160,6 +159,13 @@ void MaskPixels(const Relation& relation, Layout layout, const T* src, Other oth
     }
     std::memcpy(dst + i, merged, count);
   }
+}
+
+template <class T, class Relation, class Other>
+HWY_INLINE void MaskPixels(const Relation& relation, Layout layout, const T* src, const Other& other, uint8_t* dst,
+                           ptrdiff_t pixels) {
+  if (Channels(layout) == 1) return MaskSamples(relation, src, other, dst, pixels);
+  MaskChunks(relation, layout, src, other, dst, pixels);
 }
 
 template <class T, class Relation>

@@ -95,10 +95,26 @@ class Counter {
   }
 
   void Drain() {
+    if constexpr (sizeof(Lane) == 1) {
+      if (channels_ == 1) return DrainBytes();
+    }
     for (ptrdiff_t i = 0, channel = 0; i < kStride; ++i) {
       totals_[channel] += counts_[i];
       channel = channel + 1 == channels_ ? 0 : channel + 1;
     }
+    Clear();
+  }
+
+  // Of one channel.
+  void DrainBytes() {
+    const hn::ScalableTag<uint64_t> d;
+    const auto sums = [&](int k) HWY_ATTR { return hn::SumsOf8(hn::Load(Lanes(), counts_ + k * kLanes)); };
+    const auto all = hn::Add(hn::Add(sums(0), sums(1)), sums(2));
+    totals_[0] += static_cast<int64_t>(hn::GetLane(hn::SumOfLanes(d, all)));
+    Clear();
+  }
+
+  void Clear() {
     std::memset(counts_, 0, sizeof(counts_));
     rounds_ = 0;
   }

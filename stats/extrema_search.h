@@ -61,11 +61,11 @@ inline constexpr ptrdiff_t kPieceSamples = 12 * 1024;
 template <class T>
 class Finder {
  public:
-  Finder(T value, int channel, Layout layout)
+  HWY_INLINE Finder(T value, int channel, Layout layout)
       : values_(D(), Four(value).v, layout), mask_(D(), Of(channel).v, layout) {}
 
   // The first such sample among n, or -1.
-  ptrdiff_t In(const T* samples, ptrdiff_t n) const {
+  HWY_INLINE ptrdiff_t In(const T* samples, ptrdiff_t n) const {
     const D d;
     for (ptrdiff_t i = 0; i < n; i += kLanes) {
       const auto v = i + kLanes <= n ? hn::LoadU(d, samples + i) : hn::LoadU(d, Partial<T>(samples + i, n - i).lanes);
@@ -100,7 +100,8 @@ class Extreme {
   using V = hn::Vec<D>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
 
-  explicit Extreme(const Image<const T>& src, Size roi) : src_(src), roi_(roi), pattern_(D(), best_, src.layout) {
+  HWY_INLINE explicit Extreme(const Image<const T>& src, Size roi)
+      : src_(src), roi_(roi), pattern_(D(), best_, src.layout) {
     std::fill_n(best_, 4, Goal::template kWorst<T>);
     if (KeepsAlpha(src.layout)) best_[3] = Goal::template kBest<T>;
     std::fill_n(pieces_, 4, Piece<T>{src.data, 1, 0, 0});
@@ -153,7 +154,7 @@ class Extreme {
     const T* pixel;
     ptrdiff_t x, y;
   };
-  Place Position(int channel) const {
+  HWY_INLINE Place Position(int channel) const {
     const Piece<T>& piece = pieces_[channel];
     const Finder<T> finder(best_[channel], channel, src_.layout);
     const ptrdiff_t i = finder.In(piece.samples, piece.n);
@@ -213,7 +214,7 @@ struct Running {
 };
 
 template <class T, class... E>
-void SearchPiece(const Piece<T>& piece, Running<E>... running) {
+HWY_INLINE void SearchPiece(const Piece<T>& piece, Running<E>... running) {
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d), kRound = 3 * kLanes;
   const ptrdiff_t last = piece.n - kLanes;
@@ -234,7 +235,7 @@ void SearchPiece(const Piece<T>& piece, Running<E>... running) {
 }
 
 template <class T, class... E>
-void Search(const Image<const T>& src, Size roi, E&... extremes) {
+HWY_INLINE void Search(const Image<const T>& src, Size roi, E&... extremes) {
   const ptrdiff_t channels = Channels(src.layout);
   ptrdiff_t y = 0;
   bool isFinal = false;

@@ -50,7 +50,7 @@ class GroupSums {
 
   // `groups` groups; at(place) gives the vector of values of 0 to 255 at a place of the stretch.
   template <class At>
-  PowerSums<int64_t> Of(ptrdiff_t groups, const At& at) {
+  HWY_INLINE PowerSums<int64_t> Of(ptrdiff_t groups, const At& at) {
     V a0 = hn::Zero(Sums()), a1 = a0, a2 = a0, a3 = a0, b0 = a0, b1 = a0, b2 = a0, c0 = a0, c1 = a0, d0 = a0;
     for (ptrdiff_t g = 0; g < groups; ++g) {
       V t0 = hn::Zero(Sums()), t1 = t0, t2 = t0, t3 = t0;
