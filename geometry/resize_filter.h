@@ -73,7 +73,11 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
            [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });
   };
   const auto combine = [&](ptrdiff_t y) { CombineRows(ring, down, rowTaps, y, call.dst.Row(y), samples); };
-  WalkDown(rowTaps, filter, combine, [&](int k, ptrdiff_t y) { return down.At(k, y) != 0; });
+  const auto needs = [&](ptrdiff_t y) {
+    const ptrdiff_t first = rowTaps.first[y];
+    return Extent{first, first + CountRead(rowTaps, down, y)};
+  };
+  WalkDown(tile.height, needs, filter, combine);
 }
 
 // The same for doubles, which have no room for filtered rows: each output is computed from the source.

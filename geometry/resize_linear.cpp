@@ -140,7 +140,8 @@ void ResizeStrip(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
     const auto [upper, lower] = ring.Rows<2>(rowTaps.first[y]);
     BlendRows(upper, lower, weights[y], call.dst.Row(y) + begin * channels, samples);
   };
-  WalkDown(rowTaps, filter, blend, [](int, ptrdiff_t) { return true; });
+  const auto needs = [&](ptrdiff_t y) { return Extent{rowTaps.first[y], rowTaps.first[y] + ptrdiff_t{2}}; };
+  WalkDown(tile.height, needs, filter, blend);
 }
 
 // A sample of the destination takes about 12 bytes of filtered rows, shuffles, weights and source. Wide tiles go in

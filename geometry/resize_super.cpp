@@ -236,7 +236,8 @@ template <class T>
 void AverageNear(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
   const ResizeAxis& axis = record.columns;
-  const auto pixels = static_cast<int64_t>(kStripFloats / channels - 2 * kMostNear);
+  // A strip covers up to two pixels more than its ratio tells, and 2 * kMostNear behind them can be read.
+  const auto pixels = static_cast<int64_t>(kStripFloats / channels - 2 * kMostNear - 2);
   const auto most = std::min(static_cast<ptrdiff_t>(pixels * axis.q / axis.p), NearColumns::kMost);
   float sums[kStripFloats];
   for (ptrdiff_t x = 0; x < tile.width; x += most) {

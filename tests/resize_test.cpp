@@ -609,9 +609,8 @@ void CheckConstant(const Method& m, const Member& member, QvpiSize from, QvpiSiz
 // Averages of equal pixels are these pixels, however many: exactly in integers, and within 2 units of the last place in
 // 32f. The same for kernels that are widened a thousand times, but for the floats.
 TEST(Resize, ConstantsStay) {
-  const QvpiSize sizes[][2] = {{{1000, 1}, {1, 1}},    {{1000, 900}, {1, 1}},
-                               {{48, 270}, {25, 1}}, {{190, 34}, {170, 17}}, {{110, 7}, {90, 5}},
-                               {{36, 90}, {17, 31}},   {{5000, 3}, {7, 3}},    {{97, 61}, {13, 9}}};
+  const QvpiSize sizes[][2] = {{{1000, 1}, {1, 1}}, {{1000, 900}, {1, 1}}, {{48, 270}, {25, 1}}, {{190, 34}, {170, 17}},
+                               {{110, 7}, {90, 5}}, {{36, 90}, {17, 31}},  {{5000, 3}, {7, 3}},  {{97, 61}, {13, 9}}};
   for (const auto& [from, to] : sizes) {
     for (const Method& m : {kSuper, kShifted, kSmoothLinear, kSmoothCubic, kSmoothLanczos}) {
       if (!Fits(m, std::min(from.width, from.height), 1)) continue;
@@ -703,10 +702,11 @@ TEST(Resize, DoublesAreInterpolatedToTheLastBits) {
     const auto resize = record == &linear ? qvpiResizeLinear_64f_C1R : qvpiResizeAntialiasing_64f_C1R;
     ASSERT_EQ(resize(src.data(), n * 8, dst.data(), m * 8, {0, 0}, {m, 1}, 1, nullptr, record->get(), work.data()), 0);
     for (int d = 10; d < m - 10; d += 997) {
-      const long of2m = (2L * d + 1) * n - m, first = of2m / (2L * m);  // the position, in units of 1 / (2 m)
+      const int64_t of2m = (2 * int64_t{d} + 1) * n - m,
+                    first = of2m / (2 * int64_t{m});  // the position, in units of 1 / (2 m)
       long double expected = 0, sum = 0;
-      for (long i = first - 2; i < first + 4; ++i) {
-        const long double distance = std::fabs(static_cast<long double>(of2m - 2L * m * i) / (2L * m));
+      for (int64_t i = first - 2; i < first + 4; ++i) {
+        const long double distance = std::fabs(static_cast<long double>(of2m - 2 * m * i) / (2.0L * m));
         const long double scale = record == &linear ? 1 : static_cast<long double>(n) / m;
         const long double w = std::max(0.0L, 1 - distance / scale);
         expected += w * src[i];
