@@ -1,12 +1,9 @@
 // Arithmetic on pixels: each function against one formula in numbers that hold the exact value, over its whole grid.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
-#include <set>
-#include <vector>
 
-#include "tests/support/exports.h"
+#include "tests/support/name.h"
+#include "tests/support/reference.h"
 
 namespace {
 using test::Guard;
@@ -88,34 +85,24 @@ T Expected(const std::string& operation, T a, T b, int scale, int mode) {
   return {};
 }
 
-// A function of the grid, by the parts of its name.
+// A function of the grid, by its name without a C for a constant, and what it takes.
 struct Function {
   const test::Export* exported;
-  std::string operation, type;
-  int channels, written, operands;
-  bool inPlace, hasConstant;
+  test::Name name{exported->name};
+  std::string operation = name.operation;
+  int channels = name.channels, written = name.written;
+  bool inPlace = name.inPlace, hasConstant = exported->Has("value");
+  int operands = hasConstant || exported->Has(inPlace ? "pSrc" : "pSrc2") ? 2 : 1;
 };
-
-Function Parse(const test::Export& exported) {
-  const std::string& name = exported.name;
-  const size_t layout = name.rfind('_'), type = name.rfind('_', layout - 1);
-  Function f{&exported, name.substr(4, type - 4), name.substr(type + 1, layout - type - 1), 4, 4, 2, false, false};
-  if (name[layout + 1] == 'C') f.channels = f.written = name[layout + 2] - '0';
-  if (name[layout + 1] == 'A') f.written = 3;
-  f.inPlace = exported.Find("pSrcDst") >= 0;
-  f.hasConstant = exported.Find("value") >= 0;
-  if (f.hasConstant) f.operation.erase(3, 1);  // the C
-  if (!f.hasConstant && exported.Find(f.inPlace ? "pSrc" : "pSrc2") < 0) f.operands = 1;
-  return f;
-}
 
 std::vector<Function> Functions(const std::string& type) {
   std::vector<Function> functions;
-  for (const test::Export& exported : test::Exports()) {
-    const Function f = Parse(exported);
-    static const std::set<std::string> kOperations = {"Add", "Sub", "Mul",  "MulScale", "Div", "Div_Round",
-                                                      "Abs", "Sqr", "Sqrt", "Ln",       "Exp"};
-    if (f.type == type && kOperations.contains(f.operation)) functions.push_back(f);
+  for (const test::Export* exported : test::FamilyOf({"Add", "AddC", "Sub", "SubC", "Mul", "MulC", "MulScale",
+                                                      "MulCScale", "Div", "DivC", "Abs", "Sqr", "Sqrt", "Ln", "Exp"})) {
+    Function f{exported};
+    if (f.name.type != type) continue;
+    if (f.hasConstant) f.operation.erase(3, 1);  // the C
+    functions.push_back(f);
   }
   EXPECT_FALSE(functions.empty()) << type;
   return functions;
@@ -127,59 +114,30 @@ template <class T>
 QvpStatus Call(const Function& f, const Image<T>& a, const Image<T>& b, const Image<T>& dst, QvpiSize roi, int scale,
                int mode) {
   const auto first = f.operands == 1 || f.hasConstant ? &b : &a;
-  std::vector<test::Argument> arguments;
-  for (const auto& [type, name] : f.exported->parameters) {
-    test::Argument argument;
-    if (name == "pSrc1" || name == "pSrc") argument.pointer = first->data();
-    if (name == "src1Step" || name == "srcStep") argument.number = first->step();
-    if (name == "pSrc2") argument.pointer = b.data();
-    if (name == "src2Step") argument.number = b.step();
-    if (name == "pDst" || name == "pSrcDst") argument.pointer = dst.data();
-    if (name == "dstStep" || name == "srcDstStep") argument.number = dst.step();
-    if (name == "value") argument = {a.data(), static_cast<ptrdiff_t>(a(0, 0))};
-    if (name == "roiSize") argument = {nullptr, roi.width, roi.height};
-    if (name == "scaleFactor") argument.number = scale;
-    if (name == "roundMode") argument.number = mode;
-    arguments.push_back(argument);
-  }
-  return f.exported->call(arguments.data());
-}
-
-// Bits alike, except that a NaN may have any.
-bool Same(float x, float y) { return (std::isnan(x) && std::isnan(y)) || std::memcmp(&x, &y, sizeof(x)) == 0; }
-template <class T>
-bool Same(T x, T y) {
-  return x == y;
-}
-
-// Values at which something changes: bounds, signs, ties, powers of two; the rest are random.
-template <class T>
-T EdgeValue(test::Random& random) {
-  if constexpr (std::is_integral_v<T>) {
-    constexpr int kEdges[] = {0, 1, 2, 3, 127, 128, 255, 256, 32767, 32768, 65535, -1, -2, -32767};
-    return static_cast<T>(random.Next() % 2 ? random.Next() : kEdges[random.Next() % 14]);
-  } else {
-    constexpr float kEdges[] = {0.0f,    -0.0f,  1.0f,        -2.5f, 3e38f, 1e-38f,
-                                -1e-40f, 1e-45f, 16777216.0f, -0.1f, NAN,   INFINITY};
-    if (random.Next() % 3 == 0) return kEdges[random.Next() % 12];
-    return std::ldexp(static_cast<float>(random.Next()) - 2e9f, -20);
-  }
+  return (*f.exported)({{"pSrc", *first},
+                        {"pSrc1", *first},
+                        {"pSrc2", b},
+                        {"pDst", dst},
+                        {"pSrcDst", dst},
+                        {"value", {a.data(), a(0, 0)}},
+                        {"roiSize", roi},
+                        {"scaleFactor", scale},
+                        {"roundMode", mode}});
 }
 
 template <class T>
-void FillWithEdges(Image<T>& image, int samples, int height, unsigned seed) {
+void FillWithEdges(Image<T>& image, const test::Element& element, int samples, int height, unsigned seed) {
   test::Random random(seed);
   for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) image.Put(x, y, EdgeValue<T>(random));
+    for (int x = 0; x < samples; ++x) image.Put(x, y, static_cast<T>(test::EdgeValue(element, random)));
   }
 }
 
-// Constants that no function refuses, and that a number can tell.
+// Constants that no function refuses.
 template <class T>
 void MakeConstants(Image<T>& values, int count) {
   for (int c = 0; c < count; ++c) {
-    if (!(std::abs(static_cast<double>(values(c, 0))) >= 1) || !std::isfinite(values(c, 0))) values.Put(c, 0, T{3});
-    values.Put(c, 0, static_cast<T>(std::trunc(std::fmod(static_cast<double>(values(c, 0)), 1e9))));
+    if (values(c, 0) == 0) values.Put(c, 0, T{3});
   }
 }
 
@@ -198,11 +156,11 @@ template <class T>
 void Check(const Function& f, int width, int gap, int scale, int mode, unsigned seed) {
   const int height = 2, samples = width * f.channels;
   Image<T> a(f.hasConstant ? f.written : samples, f.hasConstant ? 1 : height, gap + 2), b(samples, height, gap + 1);
-  FillWithEdges(a, f.hasConstant ? f.written : samples, f.hasConstant ? 1 : height, seed);
-  FillWithEdges(b, samples, height, seed + 1);
+  FillWithEdges(a, f.name.From(), f.hasConstant ? f.written : samples, f.hasConstant ? 1 : height, seed);
+  FillWithEdges(b, f.name.From(), samples, height, seed + 1);
   if (f.hasConstant) MakeConstants(a, f.written);
   Image<T> before(samples, height, gap, seed % 2 ? Guard::kBefore : Guard::kAfter);
-  if (f.inPlace) FillWithEdges(before, samples, height, seed + 1);
+  if (f.inPlace) FillWithEdges(before, f.name.From(), samples, height, seed + 1);
   const Image<T> dst(before);
   const QvpStatus status = Call(f, a, b, dst, {width, height}, scale, mode);
   bool dividesByZero = false;
@@ -213,7 +171,7 @@ void Check(const Function& f, int width, int gap, int scale, int mode, unsigned 
       dividesByZero |= first == 0;
       const T result = dst(x, y);
       const T expected = kept ? before(x, y) : Expected<T>(f.operation, first, b(x, y), scale, mode);
-      ASSERT_TRUE(Same(result, expected) || IsClose(f.operation, result, expected))
+      ASSERT_TRUE(test::AreSame(result, expected) || IsClose(f.operation, result, expected))
           << f.exported->name << ": " << +first << ", " << +b(x, y) << " scale " << scale << " mode " << mode
           << " width " << width << " at " << x << ": " << +result << ", not " << +expected;
     }
@@ -226,7 +184,7 @@ template <class T>
 void CheckEach(const char* type, const std::vector<int>& scales) {
   unsigned seed = 1;
   for (const Function& f : Functions(type)) {
-    const int last = f.exported->Find("scaleFactor") < 0 ? 1 : static_cast<int>(scales.size());
+    const int last = !f.exported->Has("scaleFactor") ? 1 : static_cast<int>(scales.size());
     constexpr int kWidths[] = {1, 2, 5, 8, 11, 16, 17, 31, 32, 33, 48, 63, 64, 65, 100};
     for (const int width : kWidths) {
       for (int i = last == 1 ? 0 : static_cast<int>(seed % 4); i < last; i += 4) {  // others for the next width
@@ -264,7 +222,7 @@ TEST(Arithmetic, OfEveryPairOf8u) {
   const Pairs pairs;
   for (const Function& f : Functions("8u")) {
     if (f.channels != 1 || f.inPlace || f.hasConstant || f.operands == 1) continue;
-    const bool hasScale = f.exported->Find("scaleFactor") >= 0;
+    const bool hasScale = f.exported->Has("scaleFactor");
     for (int scale = hasScale ? -10 : 0; scale <= (hasScale ? 18 : 0); ++scale) {
       for (const int mode : {0, 1, 2}) {
         if (mode != 1 && f.operation != "Div_Round") continue;
@@ -288,7 +246,7 @@ void CheckEveryValue(const char* type) {
     if (f.channels != 1 || f.inPlace || f.hasConstant || f.operands == 2) continue;
     for (const int scale : {0, 1, 5, 12, -1, -6, -11, -16, 33, 94000}) {
       Call(f, all, all, dst, {65536, 1}, scale, 0);
-      const int applied = f.exported->Find("scaleFactor") < 0 ? 0 : scale;
+      const int applied = !f.exported->Has("scaleFactor") ? 0 : scale;
       for (int i = 0; i < 65536; ++i) {
         ASSERT_EQ(dst(i, 0), Expected<T>(f.operation, T{1}, all(i, 0), applied, 1))
             << f.exported->name << ' ' << +all(i, 0) << " scale " << scale;
@@ -362,7 +320,7 @@ TEST(Arithmetic, DividesFloatsCorrectly) {
       b.back() = dividend;
       ASSERT_EQ(qvpiDiv_32f_C1IR(a.data(), 4 * width, b.data(), 4 * width, {width, 1}),
                 divisor == 0 ? qvpStatusDivideByZero : qvpStatusNoError);
-      ASSERT_TRUE(Same(b.back(), dividend / divisor)) << dividend << " / " << divisor << " is " << b.back();
+      ASSERT_TRUE(test::AreSame(b.back(), dividend / divisor)) << dividend << " / " << divisor << " is " << b.back();
     }
   }
 }

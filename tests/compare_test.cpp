@@ -60,7 +60,7 @@ void Check(const Export& function, int pixels, int relation) {
 TEST(Compare, HoldsForAllChannelsInEveryMember) {
   for (const Export* function : test::FunctionsOf({"Compare", "CompareC", "CompareEqualEps", "CompareEqualEpsC"})) {
     const bool isEps = function->Find("eps") >= 0;
-    test::WithType(Name(function->name).type, [&]<class T>() {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (int relation = 0; relation < (isEps ? 2 : 5); ++relation) {
         for (const int pixels : {1, 3, 16, 21, 31, 32, 65, 200, 1700}) Check<T>(*function, pixels, relation);
       }
@@ -114,7 +114,7 @@ void CheckCount(const Export& function, int pixels, int height) {
 
 TEST(CountInRange, CountsEachChannelAtEveryWidth) {
   for (const Export* function : test::FunctionsOf({"CountInRange"})) {
-    test::WithType(Name(function->name).type, [&]<class T>() {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (int pixels = 1; pixels < 200; pixels += 1 + pixels / 16) CheckCount<T>(*function, pixels, 3);
       CheckCount<T>(*function, 40000, 2);
     });

@@ -45,10 +45,6 @@ class Record {
   std::vector<std::vector<float>> stored;
 };
 
-QvpDataType TypeOf(const std::string& type) {
-  return type == "8u" ? qvp8u : type == "16u" ? qvp16u : type == "16s" ? qvp16s : qvp32f;
-}
-
 template <class T>
 void Check(const Export& function, const Record& record, const test::Image<T>& image, int pixels, int height) {
   const int channels = Name(function.name).channels;
@@ -100,10 +96,10 @@ void CheckAll(const std::vector<std::vector<float>>& levels, bool isUniform,
               const std::vector<QvpiSize>& sizes = kAll) {
   for (const Export* function : test::FunctionsOf({"Histogram"})) {
     const Name name(function->name);
-    const Record record(TypeOf(name.type), levels, isUniform);
+    const Record record(name.From().code, levels, isUniform);
     ASSERT_GE(record.status, 0) << function->name;
     static uint64_t seed = 0;
-    test::WithType(name.type, [&]<class T>() {
+    test::WithType(name.From(), [&]<class T>() {
       for (const QvpiSize size : sizes) {
         const int samples = size.width * name.channels;
         test::Image<T> image(samples, size.height, 5);

@@ -17,12 +17,11 @@ std::pair<int, int> SourceOf(int axis, int x, int y, int w, int h) {
   }
 }
 
-int ElementBytes(const std::string& type) { return type == "32fc" ? 8 : (type[0] == '8' ? 8 : std::stoi(type)) / 8; }
-
 // `axis` is qvpAxis45 for transpositions.
 void Check(const Export& function, int w, int h, int axis, int gap) {
   const Name name(function.name);
-  const int element = ElementBytes(name.type), pixel = element * name.channels, written = element * name.written;
+  const int element = name.type == "32fc" ? 8 : name.From().bytes, pixel = element * name.channels,
+            written = element * name.written;
   const bool turned = axis >= qvpAxis45;
   const int dstWidth = turned ? h : w, dstHeight = turned ? w : h;
   test::Image<uint8_t> src(w * pixel, h, gap), dst(dstWidth * pixel, dstHeight, gap + 3, test::Guard::kBefore);

@@ -54,7 +54,7 @@ void Check(const Export& function, int pixels, int height) {
 
 TEST(Moments, AreSumsOfPowersTimesValues) {
   for (const Export* function : test::FunctionsOf({"Moments64f"})) {
-    test::WithType(Name(function->name).type, [&]<class T>() {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (const int pixels : {1, 7, 8, 9, 63, 64, 65, 200, 1023, 1025}) Check<T>(*function, pixels, 3);
       for (const int pixels : {2047, 2048, 2049, 6000}) Check<T>(*function, pixels, 2);
       Check<T>(*function, 2, 100);

@@ -1,34 +1,47 @@
-// Everything that moves whole pixels or channels from one interleaved image to another, against one sentence: channel c
-// of a destination pixel is a source channel, the fill value, or what it was.
-#include <gtest/gtest.h>
-
+// Everything that moves whole pixels or channels from one image to another, against one sentence: channel c of a
+// destination pixel is a source channel, the fill value, or what it was.
 #include <array>
-#include <functional>
-#include <vector>
 
-#include "qvpi.h"
-#include "tests/support/guarded.h"
+#include "tests/support/name.h"
 
 namespace {
+using test::Argument;
+using test::Export;
 using test::Guard;
+using test::Name;
 using Bytes = test::Image<uint8_t>;
 
 constexpr int kKeep = -1, kFill = -2;
-constexpr uint8_t kFillBytes[] = {0x11, 0x22, 0x33, 0x44};
+constexpr uint8_t kFillBytes[8] = {0x11, 0x22, 0x33, 0x44};
 
-// A function bound to everything but its images and size.
-using Move = std::function<QvpStatus(const void*, int, void*, int, QvpiSize)>;
+// What a call moves, by the layout in the function's name.
+struct Move {
+  const Export* function;
+  int elementBytes, from, to;          // channels of a pixel
+  std::vector<int> map;                // for each destination channel
+  bool oneOfSource, oneOfDestination;  // the pointer selects one channel; the row ends with it
+  std::vector<test::Named> more = {};  // arguments besides images and size
 
-struct Member {
-  std::string name;
-  int elementBytes, from, to;  // channels of a pixel
-  std::vector<int> map;        // for each destination channel
-  Move move;
-  bool oneOfSource = false, oneOfDestination = false;  // the pointer selects one channel; the row ends with it
+  explicit Move(const Export& exported) : function(&exported) {
+    const Name name(exported.name);
+    elementBytes = name.From().bytes;
+    from = name.channels;
+    const bool isOneToOne = name.layout.ends_with('C');  // C3C
+    to = isOneToOne ? from : name.layout.back() - '0';
+    oneOfSource = isOneToOne || (from > 1 && to == 1);
+    oneOfDestination = isOneToOne || (from == 1 && to > 1 && name.operation != "Dup");
+    for (int c = 0; c < to; ++c) map.push_back(name.operation == "Dup" || c == 0 ? 0 : oneOfDestination ? kKeep : c);
+    if (name.layout.ends_with("AC4")) map[3] = kKeep;
+  }
 
   int SourceRow(int width) const { return RowBytes(width, from, oneOfSource); }
   int DestinationRow(int width) const { return RowBytes(width, to, oneOfDestination); }
   bool CanBeInPlace() const { return from == to && oneOfSource == oneOfDestination; }
+  QvpStatus operator()(const Bytes& src, const Bytes& dst, QvpiSize size) const {
+    std::vector<test::Named> arguments{{"pSrc", src}, {"pDst", dst}, {"pSrcDst", dst}, {"roiSize", size}};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return (*function)(arguments);
+  }
 
  private:
   int RowBytes(int width, int channels, bool one) const {
@@ -37,42 +50,43 @@ struct Member {
 };
 
 // What byte i of destination row y must be.
-uint8_t Expected(const Member& m, const Bytes& src, const Bytes& before, int i, int y) {
+uint8_t Expected(const Move& m, const Bytes& src, const Bytes& before, int i, int y) {
   const int pixel = i / (m.to * m.elementBytes), within = i % (m.to * m.elementBytes);
   const int from = m.map[within / m.elementBytes], byte = within % m.elementBytes;
   if (from == kKeep) return before(i, y);
   return from == kFill ? kFillBytes[byte] : src((pixel * m.from + from) * m.elementBytes + byte, y);
 }
 
-void Check(const Member& m, int width, int srcGap, int dstGap, Guard guard) {
-  const int height = 3;
-  const Bytes src(m.SourceRow(width), height, srcGap, guard);
-  Bytes dst(m.DestinationRow(width), height, dstGap, guard);
-  const Bytes before(dst);
-  ASSERT_EQ(m.move(src.data(), src.step(), dst.data(), dst.step(), {width, height}), qvpStatusNoError) << m.name;
-  for (int y = 0; y < height; ++y) {
+void Compare(const Move& m, int width, const Bytes& dst, const Bytes& src, const Bytes& before) {
+  for (int y = 0; y < 3; ++y) {
     for (int i = 0; i < m.DestinationRow(width); ++i) {
-      ASSERT_EQ(dst(i, y), Expected(m, src, before, i, y)) << m.name << " width " << width << " byte " << i << ',' << y;
-    }
-  }
-  if (!m.CanBeInPlace()) return;
-  const Bytes both(src), expected(src);
-  ASSERT_EQ(m.move(both.data(), both.step(), both.data(), both.step(), {width, height}), qvpStatusNoError) << m.name;
-  for (int y = 0; y < height; ++y) {
-    for (int i = 0; i < m.DestinationRow(width); ++i) {
-      ASSERT_EQ(both(i, y), Expected(m, expected, expected, i, y)) << m.name << " in place, width " << width;
+      ASSERT_EQ(dst(i, y), Expected(m, src, before, i, y))
+          << m.function->name << " width " << width << " byte " << i << ',' << y;
     }
   }
 }
 
+void Check(const Move& m, int width, int srcGap, int dstGap, Guard guard) {
+  const QvpiSize size{width, 3};
+  const Bytes src(m.SourceRow(width), size.height, srcGap, guard);
+  if (m.function->Has("pSrc")) {
+    const Bytes dst(m.DestinationRow(width), size.height, dstGap, guard), before(dst);
+    ASSERT_EQ(m(src, dst, size), qvpStatusNoError) << m.function->name;
+    Compare(m, width, dst, src, before);
+  }
+  if (!m.CanBeInPlace()) return;
+  const Bytes both(src);
+  ASSERT_EQ(m(both, both, size), qvpStatusNoError) << m.function->name;
+  Compare(m, width, both, src, src);
+}
+
 // Packed rows, rows with gaps that differ, and gaps that leave rows unaligned; images at both kinds of edge.
-void CheckGrid(const std::vector<Member>& members, const std::vector<int>& widths) {
-  for (const Member& m : members) {
-    for (const int width : widths) {
-      Check(m, width, 0, 0, Guard::kAfter);
-      Check(m, width, 3, 8, Guard::kAfter);
-      Check(m, width, 8, 0, Guard::kBefore);
-    }
+void CheckGrid(const Move& m, const std::vector<int>& widths) {
+  for (const int width : widths) {
+    Check(m, width, 0, 0, Guard::kAfter);
+    Check(m, width, 3, 8, Guard::kAfter);
+    Check(m, width, 8, 0, Guard::kBefore);
+    if (testing::Test::HasFatalFailure()) return;
   }
 }
 
@@ -81,46 +95,18 @@ std::vector<int> WidthsAroundVectors() {
           33, 43, 47, 48, 63, 64, 65, 95, 97, 127, 128, 129, 200, 511};
 }
 
-#define BOUND(type, function, ...)                                                        \
-  [=](const void* s, int ss, void* d, int ds, QvpiSize size) {                            \
-    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, \
-                    size __VA_OPT__(, ) __VA_ARGS__);                                     \
-  }
-#define BOUND_L(type, function)                                                                                       \
-  [](const void* s, int ss, void* d, int ds, QvpiSize size) {                                                         \
-    return function(static_cast<const Qvp##type*>(s), ss, static_cast<Qvp##type*>(d), ds, {size.width, size.height}); \
-  }
-#define FOR_EACH_TYPE(MEMBERS) MEMBERS(8u) MEMBERS(16u) MEMBERS(16s) MEMBERS(32s) MEMBERS(32f)
+bool IsPlanar(const Name& name) { return name.layout.find('P') != std::string::npos; }
 
 TEST(Copy, EveryMember) {
-  std::vector<Member> members;
-  const std::vector<int> keepAlpha{0, 1, 2, kKeep}, one3{0, kKeep, kKeep}, one4{0, kKeep, kKeep, kKeep};
-#define COPY(type, layout, from, to, ...) \
-  members.push_back({#type "_" #layout, sizeof(Qvp##type), from, to, __VA_ARGS__});
-#define COPIES(type)                                                               \
-  COPY(type, C1R, 1, 1, {0}, BOUND(type, qvpiCopy_##type##_C1R))                   \
-  COPY(type, C3R, 3, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_C3R))             \
-  COPY(type, C4R, 4, 4, {0, 1, 2, 3}, BOUND(type, qvpiCopy_##type##_C4R))          \
-  COPY(type, AC4R, 4, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_AC4R))           \
-  COPY(type, C1R_L, 1, 1, {0}, BOUND_L(type, qvpiCopy_##type##_C1R_L))             \
-  COPY(type, C3R_L, 3, 3, {0, 1, 2}, BOUND_L(type, qvpiCopy_##type##_C3R_L))       \
-  COPY(type, C4R_L, 4, 4, {0, 1, 2, 3}, BOUND_L(type, qvpiCopy_##type##_C4R_L))    \
-  COPY(type, AC4R_L, 4, 4, keepAlpha, BOUND_L(type, qvpiCopy_##type##_AC4R_L))     \
-  COPY(type, C3AC4R, 3, 4, keepAlpha, BOUND(type, qvpiCopy_##type##_C3AC4R))       \
-  COPY(type, AC4C3R, 4, 3, {0, 1, 2}, BOUND(type, qvpiCopy_##type##_AC4C3R))       \
-  COPY(type, C3CR, 3, 3, one3, BOUND(type, qvpiCopy_##type##_C3CR), true, true)    \
-  COPY(type, C4CR, 4, 4, one4, BOUND(type, qvpiCopy_##type##_C4CR), true, true)    \
-  COPY(type, C3C1R, 3, 1, {0}, BOUND(type, qvpiCopy_##type##_C3C1R), true, false)  \
-  COPY(type, C4C1R, 4, 1, {0}, BOUND(type, qvpiCopy_##type##_C4C1R), true, false)  \
-  COPY(type, C1C3R, 1, 3, one3, BOUND(type, qvpiCopy_##type##_C1C3R), false, true) \
-  COPY(type, C1C4R, 1, 4, one4, BOUND(type, qvpiCopy_##type##_C1C4R), false, true)
-  FOR_EACH_TYPE(COPIES)
-  COPY(8u, Dup_C1C3R, 1, 3, {0, 0, 0}, BOUND(8u, qvpiDup_8u_C1C3R))
-  COPY(8u, Dup_C1C4R, 1, 4, {0, 0, 0, 0}, BOUND(8u, qvpiDup_8u_C1C4R))
-  for (int flags = -1; flags < 8; ++flags) {
-    COPY(8u, Managed, 1, 1, {0}, BOUND(8u, qvpiCopyManaged_8u_C1R, flags))
+  for (const Export* function : test::FunctionsOf({"Copy", "CopyManaged", "Dup"})) {
+    const Name name(function->name);
+    if (name.isMasked || IsPlanar(name)) continue;
+    Move move(*function);
+    for (int flags = -1; flags < (function->Has("flags") ? 8 : 0); ++flags) {
+      move.more = {{"flags", flags}};
+      CheckGrid(move, WidthsAroundVectors());
+    }
   }
-  CheckGrid(members, WidthsAroundVectors());
 }
 
 // A channel copied onto another of the same image: the pointers differ, the pixels are the same.
@@ -160,40 +146,48 @@ std::vector<std::array<int, 4>> Orders(int entries, int values) {
 
 // The orders with their widths are many, so each order gets a few widths.
 TEST(SwapChannels, EveryOrder) {
-  std::vector<Member> members;
-#define SWAP(type, layout, from, to, map, ...) \
-  members.push_back({#type "_Swap" #layout, sizeof(Qvp##type), from, to, map, BOUND(type, __VA_ARGS__)});
-#define SWAPS(type)                                                                                          \
-  for (const auto& o : Orders(3, 3)) {                                                                       \
-    SWAP(type, C3R, 3, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C3R, o.data())          \
-  }                                                                                                          \
-  for (const auto& o : Orders(3, 4)) {                                                                       \
-    SWAP(type, C4C3R, 4, 3, (std::vector{o[0], o[1], o[2]}), qvpiSwapChannels_##type##_C4C3R, o.data())      \
-    SWAP(type, AC4R, 4, 4, (std::vector{o[0], o[1], o[2], kKeep}), qvpiSwapChannels_##type##_AC4R, o.data()) \
-  }                                                                                                          \
-  for (const auto& o : Orders(4, 4)) {                                                                       \
-    SWAP(type, C4R, 4, 4, (std::vector{o[0], o[1], o[2], o[3]}), qvpiSwapChannels_##type##_C4R, o.data())    \
-  }                                                                                                          \
-  for (const auto& o : Orders(4, 5)) {                                                                       \
-    std::vector<int> map;                                                                                    \
-    for (const int entry : o) map.push_back(entry == 3 ? kFill : entry > 3 ? kKeep : entry);                 \
-    Qvp##type value;                                                                                         \
-    std::memcpy(&value, kFillBytes, sizeof(value));                                                          \
-    SWAP(type, C3C4R, 3, 4, map, qvpiSwapChannels_##type##_C3C4R, o.data(), value)                           \
+  for (const Export* function : test::FunctionsOf({"SwapChannels"})) {
+    Move move(*function);
+    // An entry beyond the source's channels means the constant, or larger that the channel stays, if there is one.
+    const bool hasConstant = function->Has("val");
+    const int entries = Name(function->name).layout == "AC4" ? 3 : move.to;
+    const test::Real constant = Name(function->name).From().read(kFillBytes);
+    for (const auto& order : Orders(entries, hasConstant ? 5 : move.from)) {
+      for (int c = 0; c < entries; ++c) {
+        move.map[c] = order[c] < move.from ? order[c] : order[c] == move.from ? kFill : kKeep;
+      }
+      move.more = {{"dstOrder", {order.data()}}, {"val", constant}};
+      CheckGrid(move, {1, 5, 33, 64});
+    }
   }
-  FOR_EACH_TYPE(SWAPS)
-  CheckGrid(members, {1, 5, 33, 64});
 }
 
-TEST(SwapChannels, InPlaceForms) {
-  for (const int width : WidthsAroundVectors()) {
-    const Bytes three(3 * width, 2, 1), four(4 * width, 2, 6), before3(three), before4(four);
-    const int order[] = {1, 2, 0, 0};
-    ASSERT_EQ(qvpiSwapChannels_8u_C3IR(three.data(), three.step(), {width, 2}, order), 0);
-    ASSERT_EQ(qvpiSwapChannels_8u_C4IR(four.data(), four.step(), {width, 2}, order), 0);
-    for (int x = 0; x < width; ++x) {
-      for (int c = 0; c < 3; ++c) ASSERT_EQ(three(3 * x + c, 1), before3(3 * x + order[c], 1));
-      for (int c = 0; c < 4; ++c) ASSERT_EQ(four(4 * x + c, 1), before4(4 * x + order[c], 1));
+// Pixels split into planes, and merged again.
+TEST(Planar, EveryMember) {
+  for (const Export* function : test::FunctionsOf({"Copy"})) {
+    const Name name(function->name);
+    if (!IsPlanar(name)) continue;
+    const int n = name.channels, element = name.From().bytes, height = 3;
+    for (const int width : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 32, 33, 63, 64, 65, 130, 300}) {
+      for (const auto& [gap, planeGap] : {std::pair{0, 0}, {5, 2}, {4, 0}}) {
+        const Guard guard = gap == 4 ? Guard::kBefore : Guard::kAfter;
+        const Bytes pixels(n * width * element, height, gap, guard);
+        std::vector<Bytes> planes;
+        planes.reserve(4);
+        const void* pointers[4];
+        for (int c = 0; c < 4; ++c) pointers[c] = planes.emplace_back(width * element, height, planeGap, guard).data();
+        const Argument many(pointers, planes[0].step());
+        const bool splits = name.layout[0] == 'C';
+        ASSERT_EQ((*function)({{"pSrc", splits ? Argument(pixels) : many},
+                               {"pDst", splits ? many : Argument(pixels)},
+                               {"roiSize", QvpiSize{width, height}}}),
+                  0);
+        for (int i = 0; i < n * width * element * height; ++i) {
+          const int x = i / height / element, byte = i / height % element, y = i % height;
+          ASSERT_EQ(pixels(x * element + byte, y), planes[x % n](x / n * element + byte, y))
+              << function->name << " width " << width << " at " << x << ',' << y;
+        }
+      }
     }
   }
 }

@@ -9,37 +9,9 @@ using test::Argument;
 using test::Export;
 using test::Name;
 
-bool IsHinted(const Export& function) { return function.Find("hint") >= 0; }
-
-// The name without the type of the result, or a norm, that follows the operation: Norm_L1, DotProd_32f64f.
-struct Member {
-  std::string operation, norm, type;
-  int channels, written;
-
-  explicit Member(const Export& function) {
-    Name name(function.name);
-    operation = name.operation.substr(0, name.operation.find('_'));
-    if (operation.starts_with("Norm")) norm = name.operation.substr(operation.size() + 1);
-    type = name.type.substr(0, name.type.find("64f"));
-    channels = name.channels;
-    written = name.written;
-  }
-};
-
-template <class Use>
-void WithMemberType(const std::string& type, const Use& use) {
-  if (type == "32u") use.template operator()<uint32_t>();
-  test::WithType(type, use);
-}
-
-std::vector<const Export*> MembersOf(const std::vector<std::string>& operations) {
-  std::vector<const Export*> found;
-  for (const Export& function : test::Exports()) {
-    if (!function.name.ends_with("R") || function.Find("roiSize") < 0) continue;
-    const std::string operation = function.name.substr(4, function.name.find('_') - 4);
-    if (std::find(operations.begin(), operations.end(), operation) != operations.end()) found.push_back(&function);
-  }
-  return found;
+// The norm of Norm_L1, or none.
+std::string NormOf(const Name& name) {
+  return name.operation == name.family ? "" : name.operation.substr(name.family.size() + 1);
 }
 
 // Mostly the ends of an integer type; small floats, whose sums are exact in single precision.
@@ -70,19 +42,20 @@ struct Sums {
   }
 };
 
-double Expected(const Member& member, const Sums& a, const Sums& b, const Sums& difference, const Sums& product,
+double Expected(const Name& name, const Sums& a, const Sums& b, const Sums& difference, const Sums& product,
                 int pixels) {
-  if (member.operation == "Sum") return static_cast<double>(a.plain);
-  if (member.operation == "Mean") return static_cast<double>(a.plain) / pixels;
-  if (member.operation == "DotProd") return static_cast<double>(product.plain);
-  const auto raw = static_cast<double>((member.operation == "Norm" ? a : difference).Of(member.norm));
-  const double value = member.operation == "NormRel" ? raw / static_cast<double>(b.Of(member.norm)) : raw;
-  return member.norm == "L2" ? std::sqrt(value) : value;
+  const std::string norm = NormOf(name);
+  if (name.family == "Sum") return static_cast<double>(a.plain);
+  if (name.family == "Mean") return static_cast<double>(a.plain) / pixels;
+  if (name.family == "DotProd") return static_cast<double>(product.plain);
+  const auto raw = static_cast<double>((name.family == "Norm" ? a : difference).Of(norm));
+  const double value = name.family == "NormRel" ? raw / static_cast<double>(b.Of(norm)) : raw;
+  return norm == "L2" ? std::sqrt(value) : value;
 }
 
 template <class T>
 void Check(const Export& function, int pixels, int height, int hint) {
-  const Member member(function);
+  const Name member(function.name);
   const int samples = pixels * member.channels;
   test::Random random(pixels * 7 + hint);
   test::Image<T> a(samples, height, 3), b(samples, height, 8, test::Guard::kBefore);
@@ -101,16 +74,17 @@ void Check(const Export& function, int pixels, int height, int hint) {
     }
     const double expected =
         c < member.written ? Expected(member, sums[0], sums[1], sums[2], sums[3], pixels * height) : -7;
-    const bool isRounded = member.type == "32s" || member.type == "32u";  // sums beyond 53 bits, in double precision
+    const bool isRounded =
+        member.From().bytes == 4 && member.From().isInteger;  // sums beyond 53 bits, in double precision
     ASSERT_NEAR(values[c], expected, isRounded ? std::fabs(expected) * 1e-11 + 1e7 : 0)
         << function.name << ' ' << pixels << 'x' << height << " channel " << c;
   }
 }
 
 TEST(Reductions, AreExactForExtremeValuesInEveryLane) {
-  for (const Export* function : MembersOf({"Norm", "NormDiff", "NormRel", "Sum", "Mean", "DotProd"})) {
-    WithMemberType(Member(*function).type, [&]<class T>() {
-      for (int hint = 1; hint <= (IsHinted(*function) ? 2 : 1); ++hint) {
+  for (const Export* function : test::FamilyOf({"Norm", "NormDiff", "NormRel", "Sum", "Mean", "DotProd"})) {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
+      for (int hint = 1; hint <= (function->Has("hint") ? 2 : 1); ++hint) {
         for (const int pixels : {1, 2, 5, 16, 23, 31, 33, 64, 100, 131, 400, 1031})
           Check<T>(*function, pixels, 3, hint);
         for (const int pixels : {8255, 8257, 16448}) Check<T>(*function, pixels, 1, hint);
@@ -241,11 +215,6 @@ TEST(Mean, CountsPixelsBeyond32Bits) {
   EXPECT_EQ(mean, 8.0 / 65536);
 }
 
-template <class T>
-bool SameBits(T a, T b) {
-  return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
 // What one call finds in one channel, by a scalar search.
 template <class T>
 struct Extreme {
@@ -267,7 +236,7 @@ struct Extreme {
 
 template <class T>
 void CheckExtremes(const Export& function, const test::Image<T>& image, int pixels, int height) {
-  const Member member(function);
+  const Name member(function.name);
   T first[4] = {}, second[4] = {};
   int x[4] = {}, y[4] = {};
   const bool isBoth = member.operation == "MinMax", isIndexed = member.operation.ends_with("Indx");
@@ -280,18 +249,19 @@ void CheckExtremes(const Export& function, const test::Image<T>& image, int pixe
   ASSERT_EQ(function.call(arguments), qvpStatusNoError) << function.name;
   for (int c = 0; c < member.written; ++c) {
     const Extreme<T> expected(image, pixels, height, member.channels, c, member.operation.starts_with("Min"));
-    ASSERT_TRUE(SameBits(first[c], expected.value)) << function.name << ' ' << pixels << 'x' << height << " channel "
-                                                    << c << ' ' << +first[c] << ' ' << +expected.value;
+    ASSERT_TRUE(test::SameBits(first[c], expected.value))
+        << function.name << ' ' << pixels << 'x' << height << " channel " << c << ' ' << +first[c] << ' '
+        << +expected.value;
     if (isIndexed) {
       ASSERT_EQ(x[c], expected.x) << function.name << ' ' << pixels << 'x' << height << " channel " << c;
       ASSERT_EQ(y[c], expected.y) << function.name << ' ' << pixels << 'x' << height << " channel " << c;
     }
     if (isBoth) {
       const Extreme<T> greatest(image, pixels, height, member.channels, c, false);
-      ASSERT_TRUE(SameBits(second[c], greatest.value)) << function.name << " channel " << c;
+      ASSERT_TRUE(test::SameBits(second[c], greatest.value)) << function.name << " channel " << c;
     }
   }
-  EXPECT_EQ(first[3] == T{}, member.written < 4 || first[3] == T{});
+  for (int c = member.written; c < 4; ++c) EXPECT_TRUE(test::SameBits(first[c], T{})) << function.name;
 }
 
 // Few different values, so that there are many ties.
@@ -308,9 +278,9 @@ T TiedValue(test::Random& random, int kind) {
 }
 
 TEST(Extrema, AreThoseOfTheFirstPixelThatHasThem) {
-  for (const Export* function : MembersOf({"Min", "Max", "MinMax", "MinIndx", "MaxIndx"})) {
-    const Member member(*function);
-    WithMemberType(member.type, [&]<class T>() {
+  for (const Export* function : test::FamilyOf({"Min", "Max", "MinMax", "MinIndx", "MaxIndx"})) {
+    const Name member(function->name);
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (const QvpiSize size : {QvpiSize{1, 1}, {1, 9}, {7, 3}, {16, 2}, {37, 4}, {100, 3}, {4100, 2}, {13000, 1}}) {
         for (int kind = 0; kind < 4; ++kind) {
           for (const int gap : {0, 5}) {
@@ -328,9 +298,9 @@ TEST(Extrema, AreThoseOfTheFirstPixelThatHasThem) {
 }
 
 TEST(Extrema, AreFoundInEveryPlace) {
-  for (const Export* function : MembersOf({"MinIndx", "MaxIndx", "MinMax"})) {
-    const Member member(*function);
-    WithMemberType(member.type, [&]<class T>() {
+  for (const Export* function : test::FamilyOf({"MinIndx", "MaxIndx", "MinMax"})) {
+    const Name member(function->name);
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (const int pixels : {33, 150}) {
         const int samples = pixels * member.channels;
         for (int place = 0; place < samples; place += 1 + place / 40) {

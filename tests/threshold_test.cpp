@@ -5,7 +5,6 @@
 #include "tests/support/name.h"
 
 namespace {
-using test::Argument;
 using test::Export;
 using test::Name;
 
@@ -35,11 +34,6 @@ std::vector<T> Specials() {
 }
 
 template <class T>
-bool SameBits(T a, T b) {
-  return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
-
-template <class T>
 void Check(const Export& function, int pixels, const Constants<T>& k, QvpCmpOp relation) {
   const Name name(function.name);
   const int samples = pixels * name.channels, height = 3;
@@ -51,41 +45,32 @@ void Check(const Export& function, int pixels, const Constants<T>& k, QvpCmpOp r
   const test::Image<T> before(dst);
   auto& out = name.inPlace ? both : dst;
   const bool isGreater = name.operation == "Threshold" ? relation == qvpCmpGreater : IsAboveForm(name.operation);
-  std::vector<Argument> arguments;
-  for (const auto& [type, parameter] : function.parameters) {
-    const T* values = parameter.starts_with("value") ? (parameter == "valueGT" ? k.above : k.below)
-                                                     : (parameter == "thresholdGT" ? k.upper : k.lower);
-    if (parameter == "pSrc")
-      arguments.push_back({src.data()});
-    else if (parameter == "srcStep")
-      arguments.push_back({nullptr, src.step()});
-    else if (parameter == "pDst" || parameter == "pSrcDst")
-      arguments.push_back({out.data()});
-    else if (parameter.ends_with("Step"))
-      arguments.push_back({nullptr, out.step()});
-    else if (parameter == "roiSize")
-      arguments.push_back({nullptr, pixels, height});
-    else if (parameter == "cmpOp")
-      arguments.push_back({nullptr, relation});
-    else
-      arguments.push_back({values, static_cast<ptrdiff_t>(values[0])});
-  }
-  ASSERT_EQ(function.call(arguments.data()), qvpStatusNoError) << function.name;
+  const auto constants = [](const T* values) { return test::Argument(values, values[0]); };
+  ASSERT_EQ(function({{"pSrc", src},
+                      {"pDst", out},
+                      {"pSrcDst", out},
+                      {"roiSize", QvpiSize{pixels, height}},
+                      {"cmpOp", relation},
+                      {"threshold", constants(k.lower)},
+                      {"value", constants(k.below)},
+                      {"thresholdLT", constants(k.lower)},
+                      {"valueLT", constants(k.below)},
+                      {"thresholdGT", constants(k.upper)},
+                      {"valueGT", constants(k.above)}}),
+            qvpStatusNoError)
+      << function.name;
   for (int i = 0; i < samples * height; ++i) {
     const int x = i % samples, y = i / samples, c = x % name.channels;
     const T kept = name.inPlace ? src(x, y) : before(x, y);
     const T expected = c < name.written ? Expected(name.operation, isGreater, src(x, y), k, c) : kept;
-    ASSERT_TRUE(SameBits(out(x, y), expected)) << function.name << " at " << x << ',' << y << " src " << +src(x, y)
-                                               << " is " << +out(x, y) << " not " << +expected;
+    ASSERT_TRUE(test::SameBits(out(x, y), expected)) << function.name << " at " << x << ',' << y << " src "
+                                                     << +src(x, y) << " is " << +out(x, y) << " not " << +expected;
   }
 }
 
-const std::vector<std::string> kOperations = {"Threshold",       "Threshold_GT",    "Threshold_LT",
-                                              "Threshold_GTVal", "Threshold_LTVal", "Threshold_LTValGTVal"};
-
 TEST(Threshold, TreatsSpecialValuesInEveryLaneOfEveryMember) {
-  for (const Export* function : test::FunctionsOf(kOperations)) {
-    test::WithType(Name(function->name).type, [&]<class T>() {
+  for (const Export* function : test::FamilyOf({"Threshold"})) {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
       for (const int pixels : {1, 2, 15, 16, 17, 31, 33, 64, 67, 150}) {
         Check<T>(*function, pixels, {{100, 2, 128, 0}, {5, 6, 7, 8}, {128, 2, 200, 0}, {1, 250 % 120, 3, 4}},
                  qvpCmpGreater);

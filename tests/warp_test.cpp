@@ -1,16 +1,18 @@
 // Warps and remap against the formulas in double precision.
-#include <gtest/gtest.h>
 #include <sys/mman.h>
 
 #include <cmath>
-#include <vector>
 
-#include "qvpi.h"
-#include "tests/support/guarded.h"
+#include "tests/support/name.h"
+#include "tests/support/reference.h"
 
 namespace {
+using test::Element;
+using test::ElementOf;
+using test::Samples;
 
 constexpr QvpiSize kSource{23, 17}, kTarget{83, 21};
+const Element& k8u = ElementOf("8u");
 
 struct Point {
   double u, v;
@@ -25,26 +27,19 @@ struct Rule {
 };
 
 double Weight(const Rule& rule, double t) {
-  t = std::fabs(t);
-  if (rule.taps == 2) return std::max(0.0, 1 - t);
-  if (rule.taps == 6) {
-    const auto sinc = [](double x) { return x == 0 ? 1 : std::sin(M_PI * x) / (M_PI * x); };
-    return t < 3 ? sinc(t) * sinc(t / 3) : 0;
-  }
-  const double b = rule.b, c = rule.c;
-  if (t < 1) return (2 - 1.5 * b - c) * t * t * t + (-3 + 2 * b + c) * t * t + 1 - b / 3;
-  return t < 2 ? (-b / 6 - c) * t * t * t + (b + 5 * c) * t * t - (2 * b + 8 * c) * t + 4 * b / 3 + 4 * c : 0;
+  if (rule.taps == 2) return std::max(0.0, 1 - std::fabs(t));
+  return rule.taps == 6 ? test::LanczosWeight(t, 3) : test::CubicWeight(t, rule.b, rule.c);
 }
 
-template <class T>
-double PixelAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int channels, long x, long y, int c) {
-  const bool isInside = x >= 0 && y >= 0 && x < size.width && y < size.height;
-  if (!isInside && rule.isConstant) return rule.constant[c];
-  return src(std::clamp<long>(x, 0, size.width - 1) * channels + c, std::clamp<long>(y, 0, size.height - 1));
+double PixelAt(const Samples& src, QvpiSize size, const Rule& rule, int channels, long x, long y, int c) {
+  const int kind = rule.isConstant ? qvpBorderConst : qvpBorderReplicate;
+  const int column = test::BorderPosition(kind, static_cast<int>(x), 0, size.width - 1);
+  const int row = test::BorderPosition(kind, static_cast<int>(y), 0, size.height - 1);
+  if (column == test::kConstant || row == test::kConstant) return rule.constant[c];
+  return static_cast<double>(src(column * channels + c, row));
 }
 
-template <class T>
-double ValueAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
+double ValueAt(const Samples& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
   p = {std::clamp(p.u, -999.0, 999.0), std::clamp(p.v, -999.0, 999.0)};
   if (rule.taps == 1) {
     return PixelAt(src, size, rule, channels, std::lround(std::floor(p.u + 0.5)), std::lround(std::floor(p.v + 0.5)),
@@ -63,35 +58,32 @@ double ValueAt(const test::Image<T>& src, QvpiSize size, const Rule& rule, int c
   return rule.taps == 6 ? sum / weights : sum;
 }
 
-template <class T>
-double Clamped(double x) {
-  return std::clamp<double>(x, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
+// An image of random numbers.
+Samples Numbers(const Element& element, int samples, int height, int gap) {
+  Samples image(element, samples, height, gap * element.bytes);
+  test::Random random(5);
+  if (!element.isInteger) image.Fill([&](int, int) { return random.Next() % 10000 / 16.0L; });
+  return image;
 }
 
-template <class T>
-double Saturated(double x) {
-  return Clamped<T>(std::is_floating_point_v<T> ? x : std::nearbyint(x));
-}
-
-// Random bits are no image for floating-point types.
-template <class T>
-void MakeNumbers(test::Image<T>& image, int samples, int height) {
-  if constexpr (std::is_floating_point_v<T>) {
-    test::Random random(5);
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < samples; ++x) {
-        const T value = static_cast<T>(random.Next() % 10000) / 16;
-        std::memcpy(reinterpret_cast<uint8_t*>(image.data()) + y * image.step() + x * sizeof(T), &value, sizeof(T));
-      }
-    }
+const test::Export* FunctionOf(int channels, const Element& element, int taps, bool isPerspective) {
+  const std::string operation = std::string("Warp") + (isPerspective ? "Perspective" : "Affine") +
+                                (taps == 1   ? "Nearest"
+                                 : taps == 2 ? "Linear"
+                                             : "Cubic");
+  for (const test::Export* function : test::FunctionsOf({operation})) {
+    const test::Name name(function->name);
+    if (name.type == element.name && name.channels == channels && !name.isWide) return function;
   }
+  throw std::invalid_argument(operation);
 }
 
 class Warp {
  public:
-  Warp(int channels, QvpDataType type, int taps, const double (*matrix)[3], bool isPerspective, int border,
+  Warp(int channels, const Element& element, int taps, const double (*matrix)[3], bool isPerspective, int border,
        QvpiSize src = kSource, QvpiSize dst = kTarget, const Rule& rule = {}, int smooth = 0)
-      : taps_(taps), isPerspective_(isPerspective) {
+      : function_(FunctionOf(channels, element, taps, isPerspective)) {
+    const QvpDataType type = element.code;
     int size = 0, init = 0, buffer = 0;
     const int method = taps == 4 ? 6 : taps;
     EXPECT_EQ(qvpiWarpAffineGetSize(src, dst, type, kUnit, method, 1, border, &size, &init), 0);
@@ -111,30 +103,25 @@ class Warp {
 
   QvpiWarpSpec* spec() const { return reinterpret_cast<QvpiWarpSpec*>(record_->data()); }
 
-#define CALL_TYPE(type, layout)                                                                                       \
-  QvpStatus operator()(const test::Image<Qvp##type>& s, const Qvp##type* src, Qvp##type* dst, int step, QvpiPoint at, \
-                       QvpiSize size, std::integral_constant<int, layout>) const {                                    \
-    const auto f = isPerspective_ ? taps_ == 1   ? qvpiWarpPerspectiveNearest_##type##_C##layout##R                   \
-                                    : taps_ == 2 ? qvpiWarpPerspectiveLinear_##type##_C##layout##R                    \
-                                                 : qvpiWarpPerspectiveCubic_##type##_C##layout##R                     \
-                   : taps_ == 1   ? qvpiWarpAffineNearest_##type##_C##layout##R                                       \
-                   : taps_ == 2   ? qvpiWarpAffineLinear_##type##_C##layout##R                                        \
-                                  : qvpiWarpAffineCubic_##type##_C##layout##R;                                          \
-    return f(src, s.step(), dst, step, at, size, spec(), buffer_->data());                                            \
+  // Makes the tile of `size` at `at`, from and to images that begin at the pointers.
+  QvpStatus operator()(const Samples& src, const uint8_t* first, uint8_t* dst, int step, QvpiPoint at,
+                       QvpiSize size) const {
+    return (*function_)({{"pSrc", {first, src.step()}},
+                         {"pDst", {dst, step}},
+                         {"dstRoiOffset", at},
+                         {"dstRoiSize", size},
+                         {"pSpec", {spec()}},
+                         {"pBuffer", {buffer_->data()}}});
   }
-#define CALL_TYPES(type) CALL_TYPE(type, 1) CALL_TYPE(type, 3) CALL_TYPE(type, 4)
-  CALL_TYPES(8u)
-  CALL_TYPES(16u)
-  CALL_TYPES(16s)
-  CALL_TYPES(32f)
-  CALL_TYPES(64f)
+  QvpStatus operator()(const Samples& src, const Samples& dst, QvpiPoint at, QvpiSize size) const {
+    return (*this)(src, src.bytes(), dst.bytes(), dst.step(), at, size);
+  }
 
   static constexpr double kUnit[2][3] = {{1, 0, 0.5}, {0, 1, 0}};
   QvpStatus status = 0;
 
  private:
-  int taps_;
-  bool isPerspective_;
+  const test::Export* function_;
   std::unique_ptr<test::Block> record_, buffer_;
 };
 
@@ -153,42 +140,40 @@ constexpr double kMatrices[][3][3] = {
     {{0.2, 0.1, -11}, {0.02, 0.5, -2}, {0.025, 0, -1}},      // the horizon at column 40
 };
 
+// What a value becomes in an image, as a double.
+double Stored(const Element& element, double value) { return static_cast<double>(test::Converted(element, value)); }
+
 bool IsIn(Point p, QvpiSize s) { return p.u >= 0 && p.v >= 0 && p.u <= s.width - 1 && p.v <= s.height - 1; }
 
-template <class T, int kChannels>
-void CheckWarp(QvpDataType type, double tolerance) {
-  const std::integral_constant<int, kChannels> layout;
+void CheckWarp(const Element& element, int channels, double tolerance) {
   for (const int border : {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent}) {
     for (const int taps : {1, 2, 4}) {
       for (size_t m = 0; m < std::size(kMatrices); ++m) {
         const bool isPerspective = m >= 5;
         Rule rule{.taps = taps, .isConstant = border == qvpBorderConst};
-        const Warp warp(kChannels, type, taps, kMatrices[m], isPerspective, border, kSource, kTarget, rule);
+        const Warp warp(channels, element, taps, kMatrices[m], isPerspective, border, kSource, kTarget, rule);
         ASSERT_EQ(warp.status, 0) << m;
-        test::Image<T> src(kSource.width * kChannels, kSource.height, 5 * sizeof(T));
-        test::Image<T> dst(kTarget.width * kChannels, kTarget.height, 3 * sizeof(T));
-        MakeNumbers(src, kSource.width * kChannels, kSource.height);
-        MakeNumbers(dst, kTarget.width * kChannels, kTarget.height);
-        const test::Image<T> before(dst);
-        test::Image<T> tiles(dst);
-        ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, kTarget, layout), 0);
+        const Samples src = Numbers(element, kSource.width * channels, kSource.height, 5);
+        const Samples dst = Numbers(element, kTarget.width * channels, kTarget.height, 3);
+        const Samples before(dst), tiles(dst);
+        ASSERT_EQ(warp(src, dst, {0, 0}, kTarget), 0);
         for (int y = 0; y < kTarget.height; y += 8) {
           for (int x = 0; x < kTarget.width; x += 37) {
-            T* tile = reinterpret_cast<T*>(reinterpret_cast<uint8_t*>(tiles.data()) + y * tiles.step()) + x * kChannels;
-            ASSERT_GE(warp(src, src.data(), tile, tiles.step(), {x, y}, {37, 8}, layout), 0);
+            uint8_t* const tile = tiles.At(x * channels, y);
+            ASSERT_GE(warp(src, src.bytes(), tile, tiles.step(), {x, y}, {37, 8}), 0);
           }
         }
         for (int y = 0; y < kTarget.height; ++y) {
-          for (int x = 0; x < kTarget.width * kChannels; ++x) {
-            const Point p = Map(kMatrices[m], isPerspective, x / kChannels, y);
+          for (int x = 0; x < kTarget.width * channels; ++x) {
+            const Point p = Map(kMatrices[m], isPerspective, x / channels, y);
             ASSERT_EQ(dst(x, y), tiles(x, y)) << m << ' ' << x << ',' << y;
             if (border == qvpBorderTransparent && !IsIn(p, kSource)) {
               ASSERT_EQ(dst(x, y), before(x, y)) << m << " taps " << taps << ' ' << x << ',' << y;
               continue;
             }
             if (!(p.u - p.u == 0 && p.v - p.v == 0)) continue;  // at the horizon
-            const double expected = Saturated<T>(ValueAt(src, kSource, rule, kChannels, p, x % kChannels));
-            ASSERT_NEAR(dst(x, y), expected, taps == 1 ? 0 : tolerance)
+            const double expected = Stored(element, ValueAt(src, kSource, rule, channels, p, x % channels));
+            ASSERT_NEAR(static_cast<double>(dst(x, y)), expected, taps == 1 ? 0 : tolerance)
                 << "matrix " << m << " taps " << taps << " border " << border << ' ' << x << ',' << y;
           }
         }
@@ -197,20 +182,15 @@ void CheckWarp(QvpDataType type, double tolerance) {
   }
 }
 
-TEST(Warp, FollowsTheFormula8u) {
-  CheckWarp<uint8_t, 1>(qvp8u, 1), CheckWarp<uint8_t, 3>(qvp8u, 1), CheckWarp<uint8_t, 4>(qvp8u, 1);
-}
-TEST(Warp, FollowsTheFormula16u) {
-  CheckWarp<uint16_t, 1>(qvp16u, 1), CheckWarp<uint16_t, 3>(qvp16u, 1), CheckWarp<uint16_t, 4>(qvp16u, 1);
-}
-TEST(Warp, FollowsTheFormula16s) {
-  CheckWarp<int16_t, 1>(qvp16s, 1), CheckWarp<int16_t, 3>(qvp16s, 1), CheckWarp<int16_t, 4>(qvp16s, 1);
-}
-TEST(Warp, FollowsTheFormula32f) {
-  CheckWarp<float, 1>(qvp32f, 2e-3), CheckWarp<float, 3>(qvp32f, 2e-3), CheckWarp<float, 4>(qvp32f, 2e-3);
-}
-TEST(Warp, FollowsTheFormula64f) {
-  CheckWarp<double, 1>(qvp64f, 1e-9), CheckWarp<double, 3>(qvp64f, 1e-9), CheckWarp<double, 4>(qvp64f, 1e-9);
+const struct {
+  std::string_view type;
+  double tolerance;
+} kTypes[] = {{"8u", 1}, {"16u", 1}, {"16s", 1}, {"32f", 2e-3}, {"64f", 1e-9}};
+
+TEST(Warp, FollowsTheFormula) {
+  for (const auto& [type, tolerance] : kTypes) {
+    for (const int channels : {1, 3, 4}) CheckWarp(ElementOf(type), channels, tolerance);
+  }
 }
 
 // A region inside a larger image. Sides in memory enlarge it by what the method reaches, and the kind applies outside
@@ -228,15 +208,15 @@ TEST(Warp, ReadsSidesInMemory) {
                            top + inner.height + reach(qvpBorderInMemBottom)};
       const double shifted[2][3] = {{0.4, 0.01, -4.0 + left}, {0.005, 0.9, -3.9 + top}};
       for (const int smooth : {0, 1}) {
-        test::Image<uint8_t> src(outer.width, outer.height, 0), all(to.width, to.height, 3), dst(all);
-        const uint8_t* at = src.data() + top * src.step() + left;
-        const std::integral_constant<int, 1> c1;
-        const Warp some(1, qvp8u, taps, matrix, false, border, inner, to, {.taps = taps}, smooth);
-        const Warp whole(1, qvp8u, taps, shifted, false, kTransparent, outer, to, {.taps = taps}, smooth);
-        ASSERT_EQ(some(src, at, dst.data(), dst.step(), {0, 0}, to, c1), 0);
-        ASSERT_EQ(whole(src, src.data(), all.data(), all.step(), {0, 0}, to, c1), 0);
+        const Samples src(k8u, outer.width, outer.height, 0), all(k8u, to.width, to.height, 3), dst(all);
+        const Warp some(1, k8u, taps, matrix, false, border, inner, to, {.taps = taps}, smooth);
+        const Warp whole(1, k8u, taps, shifted, false, kTransparent, outer, to, {.taps = taps}, smooth);
+        ASSERT_EQ(some(src, src.At(left, top), dst.bytes(), dst.step(), {0, 0}, to), 0);
+        ASSERT_EQ(whole(src, all, {0, 0}, to), 0);
         for (int y = 0; y < to.height; ++y) {
-          for (int x = 0; x < to.width; ++x) ASSERT_NEAR(dst(x, y), all(x, y), 1) << border << ' ' << x << ',' << y;
+          for (int x = 0; x < to.width; ++x)
+            ASSERT_NEAR(static_cast<double>(dst(x, y)), static_cast<double>(all(x, y)), 1)
+                << border << ' ' << x << ',' << y;
         }
       }
     }
@@ -246,27 +226,26 @@ TEST(Warp, ReadsSidesInMemory) {
 // Rows begin and end up to two pixels outside, so that all shares occur, on the left, the right and at the corners.
 // Only the mixture of the value, which may be beyond the type, and the old pixel is rounded. Where nothing is mixed,
 // bytes are within 0.02 of it.
-template <class T, int kChannels>
-void CheckSmoothEdges(QvpDataType type, double tolerance, double unmixed = 0) {
+void CheckSmoothEdges(const Element& element, int channels, double tolerance, double unmixed = 0) {
   const QvpiSize size{5, 6}, to{24, 9};
   for (const int taps : {1, 2, 4}) {
     for (const double turn : {0.0, 0.03}) {
       const double matrix[2][3] = {{0.3, turn, -1.5}, {-turn, 0.875, -0.75}};
-      const Warp warp(kChannels, type, taps, matrix, false, qvpBorderTransparent, size, to, {.taps = taps}, 1);
-      test::Image<T> src(size.width * kChannels, size.height, 0), dst(to.width * kChannels, to.height, 2 * sizeof(T));
-      MakeNumbers(src, size.width * kChannels, size.height);
-      MakeNumbers(dst, to.width * kChannels, to.height);
-      const test::Image<T> before(dst);
-      const std::integral_constant<int, kChannels> layout;
-      ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, layout), 0);
+      const Warp warp(channels, element, taps, matrix, false, qvpBorderTransparent, size, to, {.taps = taps}, 1);
+      const Samples src = Numbers(element, size.width * channels, size.height, 0);
+      const Samples dst = Numbers(element, to.width * channels, to.height, 2), before(dst);
+      ASSERT_EQ(warp(src, dst, {0, 0}, to), 0);
       for (int y = 0; y < to.height; ++y) {
-        for (int x = 0; x < to.width * kChannels; ++x) {
-          const Point p = Map(matrix, false, x / kChannels, y);
+        for (int x = 0; x < to.width * channels; ++x) {
+          const Point p = Map(matrix, false, x / channels, y);
           const Point edge{std::clamp(p.u, 0.0, 4.0), std::clamp(p.v, 0.0, 5.0)};
           const double share = std::max(0.0, 1 - std::fabs(p.u - edge.u)) * std::max(0.0, 1 - std::fabs(p.v - edge.v));
-          const double value = ValueAt(src, size, {.taps = taps}, kChannels, edge, x % kChannels);
-          const double mixed = Clamped<T>(share * value + (1 - share) * before(x, y));
-          ASSERT_NEAR(dst(x, y), mixed, tolerance + (share == 1) * unmixed) << taps << ' ' << x << ',' << y;
+          const double value = ValueAt(src, size, {.taps = taps}, channels, edge, x % channels);
+          const double old = static_cast<double>(before(x, y));
+          const double mixed = std::clamp(share * value + (1 - share) * old, static_cast<double>(element.lowest),
+                                          static_cast<double>(element.highest));
+          ASSERT_NEAR(static_cast<double>(dst(x, y)), mixed, tolerance + (share == 1) * unmixed)
+              << taps << ' ' << x << ',' << y;
         }
       }
     }
@@ -274,11 +253,11 @@ void CheckSmoothEdges(QvpDataType type, double tolerance, double unmixed = 0) {
 }
 
 TEST(Warp, BlendsSmoothEdges) {
-  CheckSmoothEdges<uint8_t, 3>(qvp8u, 0.5001, 0.02);
-  CheckSmoothEdges<uint16_t, 1>(qvp16u, 0.52);
-  CheckSmoothEdges<int16_t, 4>(qvp16s, 0.52);
-  CheckSmoothEdges<float, 3>(qvp32f, 2e-3);
-  CheckSmoothEdges<double, 1>(qvp64f, 1e-9);
+  CheckSmoothEdges(ElementOf("8u"), 3, 0.5001, 0.02);
+  CheckSmoothEdges(ElementOf("16u"), 1, 0.52);
+  CheckSmoothEdges(ElementOf("16s"), 4, 0.52);
+  CheckSmoothEdges(ElementOf("32f"), 3, 2e-3);
+  CheckSmoothEdges(ElementOf("64f"), 1, 1e-9);
 }
 
 // The `_L` forms make the same pixels, from records of their own.
@@ -286,12 +265,11 @@ TEST(Warp, WideFormsEqualPlainOnes) {
   const QvpiSizeL from{kSource.width, kSource.height}, to{kTarget.width, kTarget.height};
   test::Block record(576), buffer(1024), init(64);
   auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
-  const auto check = [&](auto element, const Warp& warp, auto wide) {
-    using T = decltype(element);
-    test::Image<T> src(kSource.width * 3, kSource.height, 6), dst(kTarget.width * 3, kTarget.height, 2), other(dst);
-    MakeNumbers(src, kSource.width * 3, kSource.height);
-    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {5, 1}, {70, 20}, std::integral_constant<int, 3>()), 0);
-    ASSERT_EQ(wide(src.data(), src.step(), other.data(), other.step(), {5, 1}, {70, 20}, spec, buffer.data()), 0);
+  const auto check = [&]<class T>(T, std::string_view type, const Warp& warp, auto wide) {
+    const Samples src = Numbers(ElementOf(type), kSource.width * 3, kSource.height, 6);
+    const Samples dst(src.element(), kTarget.width * 3, kTarget.height, 2), other(dst);
+    ASSERT_EQ(warp(src, dst, {5, 1}, {70, 20}), 0);
+    ASSERT_EQ(wide(src.As<T>(), src.step(), other.As<T>(), other.step(), {5, 1}, {70, 20}, spec, buffer.data()), 0);
     for (int y = 0; y < kTarget.height; ++y) {
       for (int x = 0; x < kTarget.width * 3; ++x) ASSERT_EQ(dst(x, y), other(x, y)) << x << ',' << y;
     }
@@ -299,11 +277,11 @@ TEST(Warp, WideFormsEqualPlainOnes) {
   const auto* turn = kMatrices[0];
   const auto* tilt = kMatrices[5];
   ASSERT_EQ(qvpiWarpAffineNearestInit_L(from, to, qvp8u, turn, 1, 3, 1, nullptr, 0, spec), 0);
-  check(uint8_t(), Warp(3, qvp8u, 1, turn, false, 1), qvpiWarpAffineNearest_8u_C3R_L);
+  check(uint8_t(), "8u", Warp(3, k8u, 1, turn, false, 1), qvpiWarpAffineNearest_8u_C3R_L);
   ASSERT_EQ(qvpiWarpPerspectiveLinearInit_L(from, to, qvp16u, tilt, 1, 3, 1, nullptr, 0, spec), 0);
-  check(uint16_t(), Warp(3, qvp16u, 2, tilt, true, 1), qvpiWarpPerspectiveLinear_16u_C3R_L);
+  check(uint16_t(), "16u", Warp(3, ElementOf("16u"), 2, tilt, true, 1), qvpiWarpPerspectiveLinear_16u_C3R_L);
   ASSERT_EQ(qvpiWarpAffineCubicInit_L(from, to, qvp16s, turn, 1, 3, 0, 0.5, 1, nullptr, 0, spec, init.data()), 0);
-  check(int16_t(), Warp(3, qvp16s, 4, turn, false, 1), qvpiWarpAffineCubic_16s_C3R_L);
+  check(int16_t(), "16s", Warp(3, ElementOf("16s"), 4, turn, false, 1), qvpiWarpAffineCubic_16s_C3R_L);
 }
 
 // Longer rows than a block, and positions in the middle between two pixels at every place of it.
@@ -311,11 +289,11 @@ TEST(Warp, PlacesNearestPixelsExactly) {
   const QvpiSize size{400, 300}, to{777, 3};
   const double half[2][3] = {{0.5, 0, 0.25}, {0, 0.5, 10.5}}, tie[2][3] = {{0.5, 0, 0}, {-0.25, 1, 250.25}};
   const double turn[2][3] = {{0.48, 0.2, 7.123}, {-0.3, 0.48, 270.3}}, far[2][3] = {{-0.5, 1e9, 399}, {0, 1, 3}};
-  test::Image<uint8_t> src(size.width, size.height, 1), dst(to.width, to.height, 0);
+  const Samples src(k8u, size.width, size.height, 1), dst(k8u, to.width, to.height, 0);
   for (const auto* matrix : {half, tie, turn, far}) {
-    const Warp warp(1, qvp8u, 1, matrix, false, qvpBorderReplicate, size, to);
+    const Warp warp(1, k8u, 1, matrix, false, qvpBorderReplicate, size, to);
     ASSERT_EQ(warp.status, 0);
-    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, std::integral_constant<int, 1>()), 0);
+    ASSERT_EQ(warp(src, dst, {0, 0}, to), 0);
     for (int y = 0; y < to.height; ++y) {
       for (int x = 0; x < to.width; ++x) {
         const Point p = Map(matrix, false, x, y);
@@ -329,33 +307,31 @@ TEST(Warp, PlacesNearestPixelsExactly) {
 
 // Rows of several blocks, whose tiles begin anywhere: slopes up to and beyond what is placed in fixed point, both ways,
 // and a tilt whose horizon is outside.
-template <class T, int kChannels>
-void CheckLongRows(QvpDataType type, double tolerance) {
+void CheckLongRows(const Element& element, int channels, double tolerance) {
   const QvpiSize size{400, 300}, to{777, 3};
   const double matrices[][3][3] = {{{0.48, 0.2, 7.123}, {-0.3, 0.48, 270.3}, {0, 0, 1}},
                                    {{-3.99, 1, 401.5}, {0.1, 3.99, -2.25}, {0, 0, 1}},
                                    {{4.01, 0, -0.4}, {-0.25, -4.01, 290}, {0, 0, 1}},
                                    {{0.5, 0.1, 1}, {0.3, 0.5, 2}, {0.0005, 0.01, 1}},
                                    {{-0.6, 0.1, -400}, {-0.4, -0.5, -10}, {-0.0005, 0.01, -1.1}}};
-  const std::integral_constant<int, kChannels> layout;
   for (const int taps : {2, 4}) {
     for (size_t m = 0; m < std::size(matrices); ++m) {
       const Rule rule{.taps = taps};
-      const Warp warp(kChannels, type, taps, matrices[m], m >= 3, qvpBorderReplicate, size, to, rule);
+      const Warp warp(channels, element, taps, matrices[m], m >= 3, qvpBorderReplicate, size, to, rule);
       ASSERT_EQ(warp.status, 0);
-      test::Image<T> src(size.width * kChannels, size.height, sizeof(T)), dst(to.width * kChannels, to.height, 0);
-      MakeNumbers(src, size.width * kChannels, size.height);
-      test::Image<T> tiles(dst);
-      ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, to, layout), 0);
+      const Samples src = Numbers(element, size.width * channels, size.height, 1);
+      const Samples dst(element, to.width * channels, to.height, 0), tiles(dst);
+      ASSERT_EQ(warp(src, dst, {0, 0}, to), 0);
       for (int x = 0, width = 1; x < to.width; x += width, width = width * 5 % 143) {
-        ASSERT_GE(warp(src, src.data(), tiles.data() + x * kChannels, tiles.step(), {x, 0}, {width, 3}, layout), 0);
+        ASSERT_GE(warp(src, src.bytes(), tiles.At(x * channels, 0), tiles.step(), {x, 0}, {width, 3}), 0);
       }
       for (int y = 0; y < to.height; ++y) {
-        for (int x = 0; x < to.width * kChannels; ++x) {
+        for (int x = 0; x < to.width * channels; ++x) {
           ASSERT_EQ(dst(x, y), tiles(x, y)) << m << " taps " << taps << ' ' << x << ',' << y;
-          const Point p = Map(matrices[m], m >= 3, x / kChannels, y);
-          const double expected = Saturated<T>(ValueAt(src, size, rule, kChannels, p, x % kChannels));
-          ASSERT_NEAR(dst(x, y), expected, tolerance) << m << " taps " << taps << ' ' << x << ',' << y;
+          const Point p = Map(matrices[m], m >= 3, x / channels, y);
+          const double expected = Stored(element, ValueAt(src, size, rule, channels, p, x % channels));
+          ASSERT_NEAR(static_cast<double>(dst(x, y)), expected, tolerance)
+              << m << " taps " << taps << ' ' << x << ',' << y;
         }
       }
     }
@@ -363,10 +339,10 @@ void CheckLongRows(QvpDataType type, double tolerance) {
 }
 
 TEST(Warp, InterpolatesLongRows) {
-  CheckLongRows<uint8_t, 1>(qvp8u, 1), CheckLongRows<uint8_t, 3>(qvp8u, 1), CheckLongRows<uint8_t, 4>(qvp8u, 1);
-  CheckLongRows<uint16_t, 1>(qvp16u, 1), CheckLongRows<int16_t, 3>(qvp16s, 1);
-  CheckLongRows<float, 1>(qvp32f, 2e-3), CheckLongRows<float, 3>(qvp32f, 2e-3);
-  CheckLongRows<double, 1>(qvp64f, 1e-8);
+  CheckLongRows(ElementOf("8u"), 1, 1), CheckLongRows(ElementOf("8u"), 3, 1), CheckLongRows(ElementOf("8u"), 4, 1);
+  CheckLongRows(ElementOf("16u"), 1, 1), CheckLongRows(ElementOf("16s"), 3, 1);
+  CheckLongRows(ElementOf("32f"), 1, 2e-3), CheckLongRows(ElementOf("32f"), 3, 2e-3);
+  CheckLongRows(ElementOf("64f"), 1, 1e-8);
 }
 
 // Where fractions are eighths nothing is rounded but the result, ties to even: between any two values, at every place
@@ -375,9 +351,9 @@ TEST(Warp, BytesAreExactBetweenEighths) {
   const QvpiSize size{900, 3};
   for (int eighth = 0; eighth < 8; ++eighth) {
     const double matrix[2][3] = {{1, 0, eighth / 8.0}, {0, 1, 0.5}};
-    const Warp warp(1, qvp8u, 2, matrix, false, qvpBorderReplicate, size, size, {.taps = 2});
-    test::Image<uint8_t> src(size.width, size.height, 1), dst(size.width, size.height, 0);
-    ASSERT_EQ(warp(src, src.data(), dst.data(), dst.step(), {0, 0}, size, std::integral_constant<int, 1>()), 0);
+    const Warp warp(1, k8u, 2, matrix, false, qvpBorderReplicate, size, size, {.taps = 2});
+    const Samples src(k8u, size.width, size.height, 1), dst(k8u, size.width, size.height, 0);
+    ASSERT_EQ(warp(src, dst, {0, 0}, size), 0);
     for (int y = 0; y < size.height; ++y) {
       for (int x = 0; x < size.width; ++x) {
         const double value = ValueAt(src, size, {.taps = 2}, 1, {x + eighth / 8.0, y + 0.5}, 0);
@@ -517,7 +493,7 @@ TEST(Warp, PerspectivesMayHaveAnyFactor) {
 }
 
 TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
-  const Warp warp(1, qvp16u, 2, Warp::kUnit, false, 1);
+  const Warp warp(1, ElementOf("16u"), 2, Warp::kUnit, false, 1);
   uint16_t pixel[2] = {};
   test::Block buffer(1024);
   const auto call = [&](auto f, QvpiPoint at, QvpiSize size, int step) {
@@ -534,64 +510,62 @@ TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
             qvpStatusContextMatch);
 }
 
-template <class T, int kChannels, class M>
-void CheckRemap(QvpStatus (*remap)(const T*, QvpiSize, int, QvpiRect, const M*, int, const M*, int, T*, int, QvpiSize,
-                                   int),
-                double tolerance) {
+void CheckRemap(const test::Export& remap, double tolerance) {
+  const test::Name name(remap.name);
+  const Element& element = name.From();
+  const Element& places = *test::PointedAt(remap.parameters[remap.Find("pxMap")].type);
+  const int channels = name.channels;
   const QvpiSize to{71, 9};
-  const QvpiRect region{2, 1, 40, 12};
-  constexpr M kInf = std::numeric_limits<M>::infinity(), kNan = std::numeric_limits<M>::quiet_NaN();
-  const M special[] = {2, 22, 1.9999, kNan, kInf, -kInf, 3e38f, -3e38f, 2147483648.0f, 21.5f, 0.49999997f, 2.5f};
+  const test::Argument region(nullptr, 2, 1, 40, 12);
+  const test::Real special[] = {2,     22,     1.9999L,       NAN,   INFINITY,    -INFINITY,
+                                3e38L, -3e38L, 2147483648.0L, 21.5L, 0.49999997L, 2.5L};
   for (const int method : {1, 2, 4, 6, 16}) {
-    test::Image<T> src(kSource.width * kChannels, kSource.height, 5 * sizeof(T)),
-        dst(to.width * kChannels, to.height, 0);
-    test::Image<M> x(to.width, to.height, 8), y(to.width, to.height, 16);
-    MakeNumbers(src, kSource.width * kChannels, kSource.height);
-    MakeNumbers(dst, to.width * kChannels, to.height);
+    const Samples src = Numbers(element, kSource.width * channels, kSource.height, 5);
+    const Samples dst = Numbers(element, to.width * channels, to.height, 0), before(dst);
+    Samples x(places, to.width, to.height, 8), y(places, to.width, to.height, 16);
     test::Random random(9);
     for (int j = 0; j < to.height; ++j) {
       for (int i = 0; i < to.width; ++i) {
-        M* at[] = {reinterpret_cast<M*>(reinterpret_cast<uint8_t*>(x.data()) + j * x.step()) + i,
-                   reinterpret_cast<M*>(reinterpret_cast<uint8_t*>(y.data()) + j * y.step()) + i};
-        const bool isWithin = j >= 6;
-        for (M* m : at)
-          *m = static_cast<M>(isWithin ? 5 + (random.Next() % 600) / 100.0 : (random.Next() % 2600) / 100.0 - 1);
-        if (j < 2) *at[j] = special[i % std::size(special)];
+        Samples* const maps[] = {&x, &y};
+        for (Samples* m : maps)
+          m->Put(i, j, j >= 6 ? 5 + random.Next() % 600 / 100.0 : random.Next() % 2600 / 100.0 - 1);
+        if (j < 2) maps[j]->Put(i, j, special[i % std::size(special)]);
       }
     }
-    const test::Image<T> before(dst);
-    ASSERT_EQ(remap(src.data(), kSource, src.step(), region, x.data(), x.step(), y.data(), y.step(), dst.data(),
-                    dst.step(), to, method),
-              0);
+    ASSERT_EQ(remap({{"pSrc", src},
+                     {"srcSize", kSource},
+                     {"srcStep", src.step()},
+                     {"srcRoi", region},
+                     {"pxMap", x},
+                     {"pyMap", y},
+                     {"pDst", dst},
+                     {"dstRoiSize", to},
+                     {"interpolation", method}}),
+              0)
+        << remap.name;
     const Rule rule{.taps = method == 16 ? 6 : method >= 4 ? 4 : method, .c = method == 4 ? 0.75 : 0.5};
     for (int j = 0; j < to.height; ++j) {
-      for (int i = 0; i < to.width * kChannels; ++i) {
-        const Point p{x(i / kChannels, j), y(i / kChannels, j)};
+      for (int i = 0; i < to.width * channels; ++i) {
+        const Point p{static_cast<double>(x(i / channels, j)), static_cast<double>(y(i / channels, j))};
         const bool isIn = p.u >= 2 && p.u <= 22 && p.v >= 1 && p.v <= 12;
-        if (!isIn) {
-          ASSERT_EQ(dst(i, j), before(i, j)) << method << ' ' << i << ',' << j;
+        if (!isIn || i % channels >= name.written) {
+          ASSERT_EQ(dst(i, j), before(i, j)) << remap.name << ' ' << method << ' ' << i << ',' << j;
+          continue;
         }
-        if (!isIn) continue;
-        const double expected = Saturated<T>(ValueAt(src, kSource, rule, kChannels, p, i % kChannels));
-        const double allowed = method == 1 ? 0 : tolerance;
-        ASSERT_NEAR(dst(i, j), expected, allowed) << method << ' ' << p.u << ',' << p.v;
+        const double expected = Stored(element, ValueAt(src, kSource, rule, channels, p, i % channels));
+        ASSERT_NEAR(static_cast<double>(dst(i, j)), expected, method == 1 ? 0 : tolerance)
+            << remap.name << ' ' << method << ' ' << p.u << ',' << p.v;
       }
     }
   }
 }
 
 TEST(Remap, FollowsTheFormula) {
-  CheckRemap<uint8_t, 1, float>(qvpiRemap_8u_C1R, 1);
-  CheckRemap<uint8_t, 3, float>(qvpiRemap_8u_C3R, 1);
-  CheckRemap<uint16_t, 1, float>(qvpiRemap_16u_C1R, 1);
-  CheckRemap<uint16_t, 3, float>(qvpiRemap_16u_C3R, 1);
-  CheckRemap<uint16_t, 4, float>(qvpiRemap_16u_C4R, 1);
-  CheckRemap<int16_t, 1, float>(qvpiRemap_16s_C1R, 1);
-  CheckRemap<float, 1, float>(qvpiRemap_32f_C1R, 2e-3);
-  CheckRemap<float, 3, float>(qvpiRemap_32f_C3R, 2e-3);
-  CheckRemap<float, 4, float>(qvpiRemap_32f_C4R, 2e-3);
-  CheckRemap<double, 1, double>(qvpiRemap_64f_C1R, 1e-9);
-  CheckRemap<double, 4, double>(qvpiRemap_64f_C4R, 1e-9);
+  for (const test::Export* remap : test::FunctionsOf({"Remap"})) {
+    for (const auto& [type, tolerance] : kTypes) {
+      if (test::Name(remap->name).type == type) CheckRemap(*remap, tolerance);
+    }
+  }
 }
 
 TEST(Remap, KeepsAlphaAndDowngradesForSmallSources) {

@@ -1,25 +1,42 @@
-// What the parameters of the arithmetic functions mean.
+// Parameters of arithmetic, conversions and scaling.
 #include "tests/support/lessons.h"
 
 namespace test {
+namespace {
 
-bool ArithLesson(Scene& scene, size_t place, Argument& argument) {
+Real NotZero(const Element& element, Random& random) {
+  for (;;) {
+    const Real value = EdgeValue(element, random);
+    if (value != 0) return value;
+  }
+}
+
+// A range, of which neither end is infinite.
+Argument EndOfRange(Scene& scene, bool isFirst) {
+  return isFirst ? scene.Any({-1000, -3, 0}) + scene.random().Next() * 0x1p-32 : scene.Any({7, 254, 255, 70000});
+}
+
+}  // namespace
+
+bool DivisionLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  if (name != "value") return false;
+  argument = scene.Constants(type, NotZero);
+  return true;
+}
+
+bool ScaleLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
-  if (name == "scaleFactor") {
-    constexpr int kFactors[] = {0, 1, 3, -2, 8};
-    argument.number = kFactors[scene.random().Next() % 5];
-  } else if (name == "roundMode") {
-    argument.number = scene.random().Next() % 3;
-  } else if (name == "mVal" || name == "vMin") {
-    argument.number = 2;
-  } else if (name == "aVal" || name == "vMax") {
-    argument.number = 60;
-  } else if (name == "hint") {
-    argument.number = 1 + scene.random().Next() % 2;
-  } else if (name == "loVal" || name == "hiVal") {
-    argument.number = name == "loVal" ? 3 : 200;
+  if (name == "mVal") {
+    argument = scene.Any({1, 2, -3, 0}) * (scene.Any({0, 1}) ? 1 : 0.3);
+  } else if (name == "aVal") {
+    argument = scene.Any({0, 1, 60, -40000}) + scene.Any({0, 1}) * 0.25;
+  } else if (name == "vMin" || name == "vMax") {
+    argument = EndOfRange(scene, name == "vMin");
+  } else if (name == "loVal" || name == "hiVal" || name == "threshold") {
+    argument = scene.Any({3, 100, 127, 255});
   } else if (name.ends_with("BitOffset")) {
-    argument.number = scene.random().Next() % 8;
+    argument = scene.random().Next() % 8;
   } else {
     return false;
   }

@@ -11,10 +11,70 @@ namespace {
 
 constexpr ptrdiff_t kLargestPixel = 16;
 
-// One lesson a family, each in a file of its own: tests/support/<family>_lesson.cpp. Those that go by the function's
-// name stand before those that go by the parameter's alone.
-constexpr Lesson kLessons[] = {FilterLesson, FourierLesson, HogLesson,   ResizeLesson,
-                               StatsLesson,  WarpLesson,    ArithLesson, ThresholdLesson};
+// The lesson of a function is that with the longest prefix of its name; the others follow the common rules alone.
+constexpr struct {
+  std::string_view prefix;
+  Lesson lesson;
+} kLessons[] = {
+    {"qvpiBinToGray", ScaleLesson},
+    {"qvpiCompare", ThresholdLesson},
+    {"qvpiComputeThreshold", ThresholdLesson},
+    {"qvpiCopyConstBorder", CopyBorderLesson},
+    {"qvpiCopyMirrorBorder", CopyBorderLesson},
+    {"qvpiCopyReplicateBorder", CopyBorderLesson},
+    {"qvpiCopyWrapBorder", CopyBorderLesson},
+    {"qvpiCountInRange", ThresholdLesson},
+    {"qvpiCplxExtendToPack", FourierLesson},
+    {"qvpiDFT", FourierLesson},
+    {"qvpiDiv", DivisionLesson},
+    {"qvpiDotProd", ReductionLesson},
+    {"qvpiDotProdCol", WeightedRowsLesson},
+    {"qvpiFFT", FourierLesson},
+    {"qvpiFilterBorder", FilterLesson},
+    {"qvpiFilterBorderInit", FilterInitLesson},
+    {"qvpiGetAffine", TransformLesson},
+    {"qvpiGetBilinear", TransformLesson},
+    {"qvpiGetCentralMoment", MomentLesson},
+    {"qvpiGetHuMoments", MomentLesson},
+    {"qvpiGetNormalized", MomentLesson},
+    {"qvpiGetPerspective", TransformLesson},
+    {"qvpiGetRotate", TransformLesson},
+    {"qvpiGetSpatialMoment", MomentLesson},
+    {"qvpiGrayToBin", ScaleLesson},
+    {"qvpiHOG", HogLesson},
+    {"qvpiHistogram", HistogramLesson},
+    {"qvpiMagnitudePack", FourierLesson},
+    {"qvpiMax", ReductionLesson},
+    {"qvpiMean", ReductionLesson},
+    {"qvpiMin", ReductionLesson},
+    {"qvpiMirror", TurnLesson},
+    {"qvpiMoment", MomentLesson},
+    {"qvpiMulPack", FourierLesson},
+    {"qvpiNorm", ReductionLesson},
+    {"qvpiPackToCplxExtend", FourierLesson},
+    {"qvpiPhasePack", FourierLesson},
+    {"qvpiRemap", RemapLesson},
+    {"qvpiResize", ResizeLesson},
+    {"qvpiScale", ScaleLesson},
+    {"qvpiSum", ReductionLesson},
+    {"qvpiSwapChannels", OrderLesson},
+    {"qvpiThreshold", ThresholdLesson},
+    {"qvpiTranspose", TurnLesson},
+    {"qvpiWarp", WarpLesson},
+};
+
+bool CommonRulesOnly(Scene&, size_t, Argument&) { return false; }
+
+Lesson LessonFor(std::string_view function) {
+  size_t longest = 0;
+  Lesson lesson = CommonRulesOnly;
+  for (const auto& row : kLessons) {
+    if (!function.starts_with(row.prefix) || row.prefix.size() < longest) continue;
+    longest = row.prefix.size();
+    lesson = row.lesson;
+  }
+  return lesson;
+}
 
 // A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
@@ -50,32 +110,47 @@ int Export::Find(std::string_view parameter) const {
   return found == parameters.end() ? -1 : static_cast<int>(found - parameters.begin());
 }
 
-Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed) : function_(function), roi_(roi), random_(seed) {
+QvpStatus Export::operator()(const std::vector<Named>& given) const {
+  std::vector<Argument> arguments;
+  for (const Parameter& parameter : parameters) {
+    const auto found =
+        std::find_if(given.begin(), given.end(), [&](const Named& n) { return n.name == parameter.name; });
+    if (found != given.end()) {
+      arguments.push_back(found->value);
+    } else if (parameter.name.ends_with("Step")) {
+      arguments.emplace_back(arguments.back().number);
+    } else {
+      throw std::invalid_argument(name + " takes a " + std::string(parameter.name));
+    }
+  }
+  return call(arguments.data());
+}
+
+Scene::Scene(const Export& function, QvpiSize roi, uint64_t seed)
+    : function_(function), lesson_(LessonFor(function.name)), roi_(roi), seed_(seed), random_(seed) {
   for (size_t i = 0; i < function.parameters.size(); ++i) arguments.push_back(ArgumentFor(i));
 }
 
 Argument Scene::ArgumentFor(size_t place) {
   const auto& parameters = function_.parameters;
-  const std::string_view name = parameters[place].name;
+  const auto& [type, name] = parameters[place];
   place_ = place;
   Argument argument;
-  for (const Lesson lesson : kLessons) {
-    if (lesson(*this, place, argument)) return argument;
-  }
+  if (lesson_(*this, place, argument)) return argument;
   if (place + 1 < parameters.size() && parameters[place + 1].name.ends_with("Step")) {
-    return {ImageFor(parameters[place], StepOf(roi_.width, place) * size_t{1} * roi_.height)};
+    return {ImageFor(place)};
   }
-  if (name.ends_with("Step")) return {nullptr, StepOf(roi_.width, place - 1)};
-  if (name == "roiSize") return {nullptr, roi_.width, roi_.height};
-  if (name == "dstOrder") {
-    static constexpr int kOrder[] = {2, 0, 1, 3};
-    return {kOrder};
+  if (name.ends_with("Step")) return StepOf(roi_.width, place - 1);
+  if (name == "roiSize") return roi_;
+  if (name == "value" || name == "val") return Constants(type);
+  if (name == "scaleFactor") {
+    constexpr int kFactors[] = {0, 1, 3, -2, 8, -9, 15, 16, 17, 31, 33, -17, -33, 100, -100, INT32_MAX, INT32_MIN};
+    return Any(kFactors);
   }
-  if (name == "value" || name == "val") {
-    static constexpr uint8_t kValues[kLargestPixel] = {17, 34, 51, 68, 85, 102, 119, 136, 9, 8, 7, 6, 5, 4, 3, 2};
-    return {kValues, 23};
-  }
-  if (name == "flags") return {nullptr, static_cast<int>(random_.Next() % 4)};
+  if (name == "roundMode") return Any({qvpRoundZero, qvpRoundNear, qvpRoundFinancial});
+  if (name == "hint") return Any({qvpAlgHintFast, qvpAlgHintAccurate});
+  if (name == "flags") return Any({0, 1, 2, 3});
+  if (name.ends_with("Size") && type.ends_with("*")) return {Output(2 * sizeof(int))};
   throw std::invalid_argument(function_.name + " has a parameter " + std::string(name));
 }
 
@@ -85,20 +160,40 @@ uint8_t* Scene::Add(std::vector<Memory>& list, size_t bytes) {
   return list.back().block->data();
 }
 
-const void* Scene::ImageFor(const Parameter& parameter, size_t bytes) {
-  const bool isOutput = parameter.name == "pDst" || parameter.name == "pSrcDst";
+void Scene::FillRows(const Element& element, uint8_t* image, ptrdiff_t step, int height, Value value) {
+  constexpr int kValues = 256, kMostBytes = 8;
+  uint8_t values[kValues * kMostBytes];  // to choose from: making each costs more than most calls
+  for (int k = 0; k < kValues; ++k) element.write(values + k * element.bytes, value(element, random_));
+  for (int y = 0; y < height; ++y) {
+    for (ptrdiff_t i = 0; i + element.bytes <= step; i += element.bytes) {
+      std::memcpy(image + y * step + i, values + (random_.Next() >> 24) * element.bytes, element.bytes);
+    }
+  }
+}
+
+const void* Scene::ImageFor(size_t place, Value value) {
+  const Parameter& parameter = function_.parameters[place];
+  const int step = StepOf(roi_.width, place);
+  const bool isOutput = parameter.name == "pDst" || parameter.name == "pSrcDst", isMask = parameter.name == "pMask";
   const int planes = parameter.type.ends_with("* const*") ? 4 : 1;
   auto pointers = std::make_unique<const void*[]>(planes);
   for (int i = 0; i < planes; ++i) {
+    const size_t bytes = size_t{1} * step * roi_.height;
     uint8_t* const image = isOutput ? Output(bytes) : Input(bytes);
-    if (parameter.name == "pMask") {  // half of the pixels
-      for (size_t b = 0; b < bytes; ++b) image[b] &= static_cast<uint8_t>(-(image[b] >> 7));
-    }
+    FillRows(*PointedAt(parameter.type), image, step, roi_.height, value);
+    for (size_t b = 0; isMask && b < bytes; ++b) image[b] &= random_.Next() % 2 ? 255 : 0;
     pointers[i] = image;
   }
   if (planes == 1) return pointers[0];
   planes_.push_back(std::move(pointers));
   return planes_.back().get();
+}
+
+Argument Scene::Constants(std::string_view type, Value value) {
+  const Element& element = *PointedAt(type);
+  uint8_t* const constants = Input(kLargestPixel);
+  for (int i = 0; i < kLargestPixel; i += element.bytes) element.write(constants + i, value(element, random_));
+  return {constants, element.read(constants)};
 }
 
 // Elements lie along rows, which begin at any address.
@@ -109,7 +204,7 @@ void Scene::UnifyNans(const Memory& output, uint8_t* bytes) const {
   const bool isDouble = type.find("64f") != std::string_view::npos;
   if (!isDouble && type.find("32f") == std::string_view::npos) return;
   const bool hasStep = next < parameters.size() && parameters[next].name.ends_with("Step");
-  const size_t step = hasStep ? arguments[next].number : all, element = isDouble ? 8 : 4;
+  const size_t step = hasStep ? size_t{arguments[next].number} : all, element = isDouble ? 8 : 4;
   for (size_t row = 0; row < all; row += step) {
     for (size_t i = row; i + element <= std::min(row + step, all); i += element) {
       float single;

@@ -1,142 +1,158 @@
-// What the parameters of copies into a border and of the general filter mean.
-#include <array>
+// Parameters of the general filter.
 #include <stdexcept>
 
 #include "tests/support/lessons.h"
+#include "tests/support/name.h"
 
 namespace test {
 namespace {
 
-bool Has(const Scene& scene, const char* part) { return scene.function().name.find(part) != std::string::npos; }
+// What may lie around an image on sides in memory: more than kernels reach.
+constexpr int kMargin = 8;
+int StepOf(QvpiSize roi) { return (roi.width + 2 * kMargin) * 32 + 5; }
 
-QvpDataType TypeOf(const Scene& scene) {
-  return Has(scene, "_8u")    ? qvp8u
-         : Has(scene, "_16u") ? qvp16u
-         : Has(scene, "_16s") ? qvp16s
-         : Has(scene, "_64f") ? qvp64f
-                              : qvp32f;
+// Each scene has a kernel, a way to round and a border of its own.
+struct Manner {
+  QvpiSize kernel;
+  QvpDataType kernelType;  // integers or floats where the pixels leave the choice
+  int divisor, offset, limit;
+  QvpRoundMode rounding;
+  QvpiBorderType border;
+};
+
+Manner MannerOf(const Scene& scene, QvpDataType pixels) {
+  constexpr QvpiSize kKernels[] = {{3, 4}, {1, 1}, {3, 3},  {5, 5}, {1, 7}, {7, 1},
+                                   {2, 2}, {9, 9}, {15, 3}, {4, 3}, {3, 2}};
+  constexpr int kDivisors[] = {1, 50, 1024, -7, 4096, 9}, kOffsets[] = {0, 3, -77}, kLimits[] = {2, 12, 1000, 32767};
+  constexpr int kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
+  Random random = scene.choices();
+  const auto any = [&](const auto& list) { return list[random.Next() % std::size(list)]; };
+  const bool isFloat = pixels == qvp32f || pixels == qvp64f, takesFloats = random.Next() % 3 == 0;
+  Manner m{any(kKernels),
+           isFloat       ? pixels
+           : takesFloats ? qvp32f
+                         : qvp16s,
+           any(kDivisors),
+           any(kOffsets),
+           any(kLimits),
+           static_cast<int>(random.Next() % 3),
+           any(kKinds) | static_cast<int>(random.Next() & qvpBorderInMem)};
+  if (pixels != qvp8u && pixels != qvp16u) m.offset = 0;  // the others have none
+  if (pixels == qvp64f) m.rounding = qvpRoundNear;
+  return m;
 }
-int ChannelsOf(const Scene& scene) { return Has(scene, "C4") ? 4 : Has(scene, "C3") ? 3 : 1; }
-int PixelBytes(const Scene& scene) {
-  const int element = Has(scene, "_8u") ? 1 : Has(scene, "_16") ? 2 : 4;
-  return element * ChannelsOf(scene);
-}
-
-// The region of a scene is the destination; the source lies in its middle.
-QvpiSize SourceSize(QvpiSize dst) { return {std::max(1, dst.width - 7), std::max(1, dst.height - 3)}; }
-int Before(int dst, int src) { return (dst - src) / 2; }
-
-bool LearnCopyBorder(Scene& scene, std::string_view name, Argument& argument) {
-  const QvpiSize dst = scene.roi(), src = SourceSize(dst);
-  const int top = Before(dst.height, src.height), left = Before(dst.width, src.width);
-  if (name == "srcRoiSize") {
-    argument = {nullptr, src.width, src.height};
-  } else if (name == "dstRoiSize") {
-    argument = {nullptr, dst.width, dst.height};
-  } else if (name == "topBorderHeight") {
-    argument = {nullptr, top};
-  } else if (name == "leftBorderWidth") {
-    argument = {nullptr, left};
-  } else if (name == "srcDstStep") {
-    argument = {nullptr, dst.width * 16 + 5};
-  } else if (name == "pSrcDst") {
-    const int step = dst.width * 16 + 5;
-    argument = {scene.Output(size_t{1} * step * dst.height) + top * step + left * PixelBytes(scene)};
-  } else {
-    return false;
-  }
-  return true;
-}
-
-constexpr QvpiSize kKernel{3, 4};
-
-// The type of the kernel that a record is made from; integers where the type of the image leaves the choice.
-QvpDataType KernelTypeOf(QvpDataType type) { return type == qvp64f || type == qvp32f ? type : qvp16s; }
 
 struct Sizes {
   int spec, buffer;
 };
-Sizes SizesFor(const Scene& scene, QvpDataType type, QvpDataType kernelType) {
+Sizes SizesFor(const Scene& scene, const Manner& m, QvpDataType pixels, int channels) {
   Sizes sizes;
-  if (qvpiFilterBorderGetSize(kKernel, scene.roi(), type, kernelType, ChannelsOf(scene), &sizes.spec, &sizes.buffer)) {
+  if (qvpiFilterBorderGetSize(m.kernel, scene.roi(), pixels, m.kernelType, channels, &sizes.spec, &sizes.buffer)) {
     throw std::runtime_error("qvpiFilterBorderGetSize");
   }
   return sizes;
 }
 
-template <class T>
-const T* Kernel() {
-  static const std::array<T, 12> kernel = {1, 2, 3, -4, 5, 6, 7, 8, -9, 10, 11, 12};
-  return kernel.data();
+const void* Kernel(Scene& scene, const Manner& m) {
+  const Element& element = ElementOf(m.kernelType == qvp16s ? "16s" : m.kernelType == qvp32f ? "32f" : "64f");
+  const int n = m.kernel.width * m.kernel.height;
+  uint8_t* const kernel = scene.Input(n * element.bytes);
+  for (int i = 0; i < n; ++i) {
+    const int k = static_cast<int>(scene.random().Next() % (2 * m.limit + 1)) - m.limit;
+    element.write(kernel + i * element.bytes, element.isInteger ? k : k / 128.0L);
+  }
+  return kernel;
 }
 
-const void* RecordFor(Scene& scene, QvpDataType type) {
-  const QvpDataType kernelType = KernelTypeOf(type);
-  auto* spec = reinterpret_cast<QvpiFilterBorderSpec*>(scene.Input(SizesFor(scene, type, kernelType).spec));
-  const int channels = ChannelsOf(scene);
-  const QvpStatus status =
-      kernelType == qvp16s ? qvpiFilterBorderInit_16s(Kernel<Qvp16s>(), kKernel, 50, type, channels, qvpRoundNear, spec)
-      : kernelType == qvp32f ? qvpiFilterBorderInit_32f(Kernel<Qvp32f>(), kKernel, type, channels, qvpRoundNear, spec)
-                             : qvpiFilterBorderInit_64f(Kernel<Qvp64f>(), kKernel, type, channels, qvpRoundNear, spec);
-  if (status) throw std::runtime_error("qvpiFilterBorderInit");
+QvpStatus Init(Scene& scene, const Manner& m, QvpDataType pixels, int channels, QvpiFilterBorderSpec* spec) {
+  const void* const kernel = Kernel(scene, m);
+  if (m.kernelType == qvp16s) {
+    return qvpiFilterBorderInit_16s(static_cast<const Qvp16s*>(kernel), m.kernel, m.divisor, pixels, channels,
+                                    m.rounding, spec);
+  }
+  if (m.kernelType == qvp32f) {
+    return qvpiFilterBorderInit_32f(static_cast<const Qvp32f*>(kernel), m.kernel, pixels, channels, m.rounding, spec);
+  }
+  return qvpiFilterBorderInit_64f(static_cast<const Qvp64f*>(kernel), m.kernel, pixels, channels, m.rounding, spec);
+}
+
+const void* RecordFor(Scene& scene, QvpDataType pixels, int channels) {
+  const Manner m = MannerOf(scene, pixels);
+  auto* spec = reinterpret_cast<QvpiFilterBorderSpec*>(scene.Input(SizesFor(scene, m, pixels, channels).spec));
+  const bool isReady =
+      Init(scene, m, pixels, channels, spec) == 0 && qvpiFilterBorderSetMode(qvpAlgHintFast, m.offset, spec) == 0;
+  if (!isReady) throw std::runtime_error("qvpiFilterBorderInit");
   return spec;
 }
 
-bool LearnInit(Scene& scene, std::string_view name, Argument& argument) {
-  const QvpDataType kernelType = Has(scene, "Init_16s") ? qvp16s : Has(scene, "Init_64f") ? qvp64f : qvp32f;
-  const QvpDataType type = kernelType == qvp16s ? qvp8u : kernelType;
-  if (name == "pKernel") {
-    argument = {kernelType == qvp16s   ? static_cast<const void*>(Kernel<Qvp16s>())
-                : kernelType == qvp32f ? static_cast<const void*>(Kernel<Qvp32f>())
-                                       : static_cast<const void*>(Kernel<Qvp64f>())};
-  } else if (name == "pSpec") {
-    // No output: a refused Init takes its identification away.
-    argument = {scene.Input(SizesFor(scene, type, kernelType).spec)};
-  } else if (name == "dataType") {
-    argument = {nullptr, type};
-  } else if (name == "roundMode") {
-    argument = {nullptr, qvpRoundNear};
-  } else {
-    return false;
-  }
-  return true;
-}
-
-bool LearnFilter(Scene& scene, std::string_view name, Argument& argument) {
-  const int width = scene.roi().width;
-  if (name == "kernelSize") {
-    argument = {nullptr, kKernel.width, kKernel.height};
-  } else if (name == "dstRoiSize") {
-    argument = {nullptr, width, scene.roi().height};
-  } else if (name == "numChannels" || name == "divisor" || name == "hint") {
-    argument = {nullptr, 1};
-  } else if (name == "offset") {
-    argument = {nullptr, 3};
-  } else if (name == "dataType" || name == "kernelType") {
-    argument = {nullptr, qvp32f};
-  } else if (name == "pSpecSize" || name == "pBufferSize") {
-    argument = {scene.Output(sizeof(int))};
-  } else if (name == "pSpec") {
-    argument = {RecordFor(scene, Has(scene, "SetMode") ? qvp8u : TypeOf(scene))};
-  } else if (name == "borderType") {
-    argument = {nullptr, width == 64 ? qvpBorderMirror : width == 201 ? qvpBorderReplicate : qvpBorderConst};
-  } else if (name == "borderValue") {
-    argument = {scene.Input(4 * sizeof(double))};
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(SizesFor(scene, TypeOf(scene), KernelTypeOf(TypeOf(scene))).buffer)};
-  } else {
-    return false;
-  }
-  return true;
+const void* Source(Scene& scene, std::string_view type) {
+  const int step = StepOf(scene.roi()), height = scene.roi().height + 2 * kMargin;
+  uint8_t* const image = scene.Input(size_t{1} * step * height);
+  scene.FillRows(*PointedAt(type), image, step, height, scene.Mostly());
+  return image + kMargin * step + kMargin * 32;
 }
 
 }  // namespace
 
-bool FilterLesson(Scene& scene, size_t place, Argument& argument) {
+bool FilterInitLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
-  if (Has(scene, "qvpiFilterBorderInit") && LearnInit(scene, name, argument)) return true;
-  if (Has(scene, "qvpiFilterBorder")) return LearnFilter(scene, name, argument);
-  return Has(scene, "Border_") && Has(scene, "qvpiCopy") && LearnCopyBorder(scene, name, argument);
+  const QvpDataType kernelType = scene.Has("Init_16s") ? qvp16s : scene.Has("Init_64f") ? qvp64f : qvp32f;
+  const QvpDataType pixels = kernelType == qvp16s ? qvp8u : kernelType;
+  Manner m = MannerOf(scene, pixels);
+  m.kernelType = kernelType;
+  if (name == "pKernel") {
+    argument = {Kernel(scene, m)};
+  } else if (name == "pSpec") {
+    // No output: a refused Init takes its identification away.
+    argument = {scene.Input(SizesFor(scene, m, pixels, 1).spec)};
+  } else if (name == "dataType") {
+    argument = pixels;
+  } else if (name == "roundMode") {
+    argument = m.rounding;
+  } else {
+    return FilterLesson(scene, place, argument);
+  }
+  return true;
+}
+
+bool FilterLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  const Name parts(scene.function().name);
+  const QvpDataType pixels = parts.layout.empty() ? qvp8u : parts.From().code;
+  const int channels = std::max(parts.channels, 1);
+  const Manner m = MannerOf(scene, pixels);
+  if (name == "kernelSize") {
+    argument = m.kernel;
+  } else if (name == "dstRoiSize") {
+    argument = scene.roi();
+  } else if (name == "pSrc") {
+    argument = {Source(scene, type)};
+  } else if (name == "srcStep") {
+    argument = StepOf(scene.roi());
+  } else if (name == "roiSize") {
+    argument = scene.roi();
+  } else if (name == "numChannels") {
+    argument = channels;
+  } else if (name == "hint") {
+    argument = qvpAlgHintFast;
+  } else if (name == "divisor") {
+    argument = m.divisor;
+  } else if (name == "offset") {
+    argument = m.offset;
+  } else if (name == "dataType" || name == "kernelType") {
+    argument = qvp32f;
+  } else if (name == "pSpec") {
+    argument = {RecordFor(scene, pixels, channels)};
+  } else if (name == "borderType") {
+    argument = m.border;
+  } else if (name == "borderValue") {
+    argument = scene.Constants(type, PlainValue);
+  } else if (name == "pBuffer") {
+    argument = {scene.Input(SizesFor(scene, m, pixels, channels).buffer)};
+  } else {
+    return false;
+  }
+  return true;
 }
 
 }  // namespace test

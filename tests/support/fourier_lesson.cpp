@@ -1,80 +1,85 @@
-// Parameters of the Fourier transforms.
+// Parameters of the Fourier transforms and of packed spectra.
 #include "tests/support/lessons.h"
 
 namespace test {
 namespace {
 
-constexpr int kFlag = 4, kOrder = 4;
+// Each scene has a flag and orders of its own; those are of transforms of powers of two, whatever the region is.
+struct Manner {
+  int flag, orderX, orderY;
+};
+Manner MannerOf(const Scene& scene) {
+  Random random = scene.choices();
+  return {1 << random.Next() % 4, static_cast<int>(random.Next() % 8), static_cast<int>(random.Next() % 5)};
+}
 
-// Whatever the region is, powers of two transform 16 x 16 pixels.
+QvpiSize SizeOf(const Scene& scene) {
+  const Manner m = MannerOf(scene);
+  return scene.Has("FFT") ? QvpiSize{1 << m.orderX, 1 << m.orderY} : scene.roi();
+}
+int StepOf(const Scene& scene, size_t place) { return SizeOf(scene).width * 16 + 17 * static_cast<int>(place + 1); }
+
 struct Sizes {
   int spec = 0, init = 0, buffer = 0;
 };
 
-bool Is(const Scene& scene, std::string_view text) { return scene.function().name.find(text) != std::string::npos; }
-
-Sizes SizesFor(const Scene& scene, QvpiSize roi) {
+Sizes SizesFor(const Scene& scene) {
+  const auto [flag, x, y] = MannerOf(scene);
   Sizes s;
-  if (Is(scene, "FFT")) {
-    (Is(scene, "32fc") ? qvpiFFTGetSize_C_32fc : qvpiFFTGetSize_R_32f)(kOrder, kOrder, kFlag, 0, &s.spec, &s.init,
-                                                                       &s.buffer);
+  if (scene.Has("FFT")) {
+    (scene.Has("32fc") ? qvpiFFTGetSize_C_32fc : qvpiFFTGetSize_R_32f)(x, y, flag, 0, &s.spec, &s.init, &s.buffer);
   } else {
-    (Is(scene, "32fc") ? qvpiDFTGetSize_C_32fc : qvpiDFTGetSize_R_32f)(roi, kFlag, 0, &s.spec, &s.init, &s.buffer);
+    (scene.Has("32fc") ? qvpiDFTGetSize_C_32fc : qvpiDFTGetSize_R_32f)(scene.roi(), flag, 0, &s.spec, &s.init,
+                                                                       &s.buffer);
   }
   return s;
 }
 
-const void* SpecFor(Scene& scene, QvpiSize roi) {
-  uint8_t* const spec = scene.Input(SizesFor(scene, roi).spec);  // no output: a refused Init changes it
-  if (Is(scene, "FFT") && Is(scene, "32fc")) {
-    qvpiFFTInit_C_32fc(kOrder, kOrder, kFlag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
-  } else if (Is(scene, "FFT")) {
-    qvpiFFTInit_R_32f(kOrder, kOrder, kFlag, 0, reinterpret_cast<QvpiFFTSpec_R_32f*>(spec), nullptr);
-  } else if (Is(scene, "32fc")) {
-    qvpiDFTInit_C_32fc(roi, kFlag, 0, reinterpret_cast<QvpiDFTSpec_C_32fc*>(spec), nullptr);
+const void* SpecFor(Scene& scene) {
+  const auto [flag, x, y] = MannerOf(scene);
+  uint8_t* const spec = scene.Input(SizesFor(scene).spec);  // no output: a refused Init changes it
+  if (scene.Has("FFT") && scene.Has("32fc")) {
+    qvpiFFTInit_C_32fc(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
+  } else if (scene.Has("FFT")) {
+    qvpiFFTInit_R_32f(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_R_32f*>(spec), nullptr);
+  } else if (scene.Has("32fc")) {
+    qvpiDFTInit_C_32fc(scene.roi(), flag, 0, reinterpret_cast<QvpiDFTSpec_C_32fc*>(spec), nullptr);
   } else {
-    qvpiDFTInit_R_32f(roi, kFlag, 0, reinterpret_cast<QvpiDFTSpec_R_32f*>(spec), nullptr);
+    qvpiDFTInit_R_32f(scene.roi(), flag, 0, reinterpret_cast<QvpiDFTSpec_R_32f*>(spec), nullptr);
   }
   return spec;
 }
 
-// Floats without infinities and NaN, of which two may meet with either payload; room for the largest pixel.
 const void* Floats(Scene& scene, size_t place, bool isOutput) {
-  const size_t width = std::max(scene.roi().width, 16), height = std::max(scene.roi().height, 16);
-  const size_t bytes = (width * 16 + 17 * (place + 1)) * height;
+  const int step = StepOf(scene, place), height = SizeOf(scene).height;
+  const size_t bytes = size_t{1} * step * height;
   uint8_t* const data = isOutput ? scene.Output(bytes) : scene.Input(bytes);
-  for (size_t i = 3; i < bytes; i += 1) data[i] &= 0xBF;
+  scene.FillRows(ElementOf("32f"), data, step, height, scene.Mostly());
   return data;
 }
 
 }  // namespace
 
 bool FourierLesson(Scene& scene, size_t place, Argument& argument) {
-  const auto& [type, name] = scene.function().parameters[place];
-  if (!Is(scene, "FFT") && !Is(scene, "DFT") && !Is(scene, "Pack")) return false;
-  if (name == "pSrc" || name == "pSrc1" || name == "pSrc2") {
-    argument.pointer = Floats(scene, place, false);
-  } else if (name == "pDst" || name == "pSrcDst") {
-    argument.pointer = Floats(scene, place, true);
+  const std::string_view name = scene.function().parameters[place].name;
+  const Manner m = MannerOf(scene);
+  if (name.starts_with("pSrc") || name == "pDst") {
+    argument = {Floats(scene, place, name == "pDst" || name == "pSrcDst")};
   } else if (name.ends_with("Step")) {
-    argument.number = std::max(scene.roi().width, 16) * 16 + 17 * static_cast<int>(place);
+    argument = StepOf(scene, place - 1);
   } else if (name == "orderX" || name == "orderY") {
-    argument.number = kOrder;
+    argument = name == "orderX" ? m.orderX : m.orderY;
   } else if (name == "flag") {
-    argument.number = kFlag;
-  } else if (name == "hint") {
-    argument.number = 0;
+    argument = m.flag;
   } else if (name == "numChannels") {
-    argument.number = 3;
+    argument = 3;
   } else if (name == "pSpec") {
-    argument.pointer = SpecFor(scene, scene.roi());
+    argument = {SpecFor(scene)};
   } else if (name == "pMemInit") {
-    argument.pointer = scene.Input(64);
+    argument = {scene.Input(64)};
   } else if (name == "pBuffer") {
-    const bool isTransform = scene.function().Find("pSpec") >= 0;
-    argument.pointer = scene.Input(isTransform ? SizesFor(scene, scene.roi()).buffer : scene.roi().width * 4 + 64);
-  } else if (name.ends_with("Size") && type.ends_with("*")) {
-    argument.pointer = scene.Output(sizeof(int));
+    const bool isTransform = scene.function().Has("pSpec");
+    argument = {scene.Input(isTransform ? SizesFor(scene).buffer : scene.roi().width * 4 + 64)};
   } else {
     return false;
   }

@@ -4,60 +4,67 @@
 namespace test {
 namespace {
 
-// A window that fits every region: 4 x 4 pixels, one block of four cells.
-constexpr QvpiHOGConfig kConfig{0, 2, 4, 2, 9, 3.0f, 0.2f, {4, 4}};
+// Small windows, which fit most regions, and what each scene takes of them.
+constexpr QvpiHOGConfig kConfigs[] = {{0, 2, 4, 2, 9, 3.0f, 0.2f, {4, 4}},
+                                      {1, 2, 4, 4, 2, 1.0f, 0.5f, {8, 4}},
+                                      {0, 4, 8, 4, 16, 4.0f, 9.0f, {8, 12}},
+                                      {1, 3, 6, 3, 12, 100.0f, 0.1f, {9, 6}}};
+constexpr int kLocations = 2;
 
-// Random bits would make NaN of all descriptors.
-void PutFinite(Scene& scene, uint8_t* pixels, QvpiSize roi, size_t step) {
-  for (int y = 0; y < roi.height; ++y) {
-    for (int i = 0; i < 3 * roi.width; ++i) {
-      const float value = static_cast<float>(scene.random().Next() % 10000) / 100;
-      std::memcpy(pixels + y * step + i * sizeof(float), &value, sizeof(value));
-    }
-  }
+const QvpiHOGConfig& ConfigOf(const Scene& scene) { return kConfigs[scene.choices().Next() % std::size(kConfigs)]; }
+QvpiSize RegionOf(const Scene& scene) {
+  const QvpiSize least = ConfigOf(scene).winSize;
+  return {std::max(scene.roi().width, least.width), std::max(scene.roi().height, least.height)};
+}
+int StepOf(const Scene& scene) { return (RegionOf(scene).width + 2) * 12 + 5; }
+
+const void* Record(Scene& scene) {
+  int bytes = 0;
+  qvpiHOGGetSize(&ConfigOf(scene), &bytes);
+  uint8_t* const spec = scene.Input(bytes);  // no output: a refused Init takes its identification away
+  qvpiHOGInit(&ConfigOf(scene), reinterpret_cast<QvpiHOGSpec*>(spec));
+  return spec;
+}
+
+// With a rim of one pixel, for sides in memory.
+const void* Source(Scene& scene, std::string_view type) {
+  const int step = StepOf(scene), height = RegionOf(scene).height + 2;
+  uint8_t* const image = scene.Input(size_t{1} * step * height);
+  scene.FillRows(*PointedAt(type), image, step, height, scene.Mostly());
+  return image + step + 12;
 }
 
 }  // namespace
 
 bool HogLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
-  const std::string& function = scene.function().name;
-  if (!function.starts_with("qvpiHOG")) return false;
-  const QvpiSize roi{std::max(scene.roi().width, 4), std::max(scene.roi().height, 4)};
+  const QvpiSize roi = RegionOf(scene), window = ConfigOf(scene).winSize;
   if (name == "pConfig") {
-    argument.pointer = &kConfig;
+    argument = {&ConfigOf(scene)};
   } else if (name == "pHOGSpec") {
-    int bytes = 0;
-    qvpiHOGGetSize(&kConfig, &bytes);
-    uint8_t* const spec = scene.Input(bytes);  // no output: a refused Init takes its identification away
-    qvpiHOGInit(&kConfig, reinterpret_cast<QvpiHOGSpec*>(spec));
-    argument.pointer = spec;
+    argument = {Record(scene)};
   } else if (name == "pSrc") {
-    const size_t step = size_t{1} * roi.width * 12 + 5;
-    uint8_t* const pixels = scene.Input(roi.height * step);
-    if (function.starts_with("qvpiHOG_32f")) PutFinite(scene, pixels, roi, step);
-    argument.pointer = pixels;
+    argument = {Source(scene, type)};
   } else if (name == "srcStep") {
-    argument.number = roi.width * 12 + 5;
+    argument = StepOf(scene);
   } else if (name == "roiSize") {
-    argument = {nullptr, roi.width, roi.height};
+    argument = roi;
   } else if (name == "pLocation") {
-    static constexpr QvpiPoint kLocations[] = {{0, 0}, {0, 0}};
-    argument.pointer = kLocations;
+    auto* const locations = reinterpret_cast<QvpiPoint*>(scene.Input(kLocations * sizeof(QvpiPoint)));
+    locations[0] = {0, 0};
+    locations[1] = {(roi.width - window.width) / 2, roi.height - window.height};
+    argument = {locations};
   } else if (name == "nLocations") {
-    argument.number = 2;
+    argument = kLocations;
   } else if (name == "pDst") {
-    argument.pointer = scene.Output(2 * 4 * 9 * sizeof(float));
+    argument = {scene.Output(kLocations * 200 * sizeof(float))};
   } else if (name == "borderID") {
-    static constexpr int kBorders[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
-    argument.number = kBorders[scene.random().Next() % 3];
+    const int kind = scene.Any({qvpBorderReplicate, qvpBorderMirror, qvpBorderConst});
+    argument = kind | static_cast<int>(scene.random().Next() & qvpBorderInMem);
   } else if (name == "borderValue") {
-    static constexpr float kValue[3] = {0.5f, 1, 2};
-    argument.pointer = kValue;
+    argument = scene.Constants(type, PlainValue);
   } else if (name == "pBuffer") {
-    argument.pointer = scene.Input(size_t{12} * roi.width * roi.height);
-  } else if (name.ends_with("Size")) {
-    argument.pointer = scene.Output(sizeof(int));
+    argument = {scene.Input(size_t{12} * roi.width * roi.height)};
   } else {
     return false;
   }

@@ -5,13 +5,23 @@
 
 namespace test {
 
-bool ArithLesson(Scene& scene, size_t place, Argument& argument);
+bool CopyBorderLesson(Scene& scene, size_t place, Argument& argument);
+bool DivisionLesson(Scene& scene, size_t place, Argument& argument);
+bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool FourierLesson(Scene& scene, size_t place, Argument& argument);
+bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
+bool MomentLesson(Scene& scene, size_t place, Argument& argument);
+bool OrderLesson(Scene& scene, size_t place, Argument& argument);
+bool ReductionLesson(Scene& scene, size_t place, Argument& argument);
+bool RemapLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
-bool StatsLesson(Scene& scene, size_t place, Argument& argument);
+bool ScaleLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
+bool TransformLesson(Scene& scene, size_t place, Argument& argument);
+bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
+bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test

@@ -5,49 +5,62 @@
 namespace test {
 namespace {
 
-// The same value for every channel, as a number and as an array.
-Argument Same(Scene& scene, std::string_view type, int value) {
-  Argument argument{nullptr, value};
-  if (!type.ends_with("*")) return argument;
-  const std::string element(type.substr(9, type.size() - 10));  // of "const Qvp8u*"
-  WithType(element, [&]<class T>() {
-    T* values = reinterpret_cast<T*>(scene.Input(4 * sizeof(T)));
-    std::fill_n(values, 4, static_cast<T>(value));
-    argument.pointer = values;
-  });
-  return argument;
+// Lower bounds are below zero or small, upper ones large: no range is empty.
+Real LowerBound(const Element& element, Random& random) {
+  const Real bounds[] = {element.lowest, 0, 1, 40, 40.5L};
+  return element.Stored(bounds[random.Next() % (element.isInteger ? 4 : 5)]);
+}
+Real UpperBound(const Element& element, Random& random) {
+  const Real bounds[] = {element.highest, 41, 90, 127, 255.5L};
+  return std::min(element.Stored(bounds[random.Next() % (element.isInteger ? 4 : 5)]), element.highest);
 }
 
-// The destination of a mirror or transposition has room for the source and for the turned source.
-int TurnedStep(QvpiSize roi) { return std::max(roi.width, roi.height) * 16 + 5; }
+// The axis of a mirror or transposition, and the size that it makes of the region's.
+int AxisOf(const Scene& scene) {
+  if (scene.Has("Transpose")) return qvpAxis45;
+  return static_cast<int>(scene.choices().Next() % (scene.function().Has("pDst") ? 5 : 3));  // squares in place
+}
+QvpiSize TurnedSize(const Scene& scene) {
+  const QvpiSize roi = scene.roi();
+  return AxisOf(scene) < qvpAxis45 ? roi : QvpiSize{roi.height, roi.width};
+}
+int TurnedStep(const Scene& scene) { return TurnedSize(scene).width * 16 + 5; }
 
 }  // namespace
 
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
-  const std::string& function = scene.function().name;
-  const QvpiSize roi = scene.roi();
-  const bool turns = function.starts_with("qvpiTranspose_") || function.starts_with("qvpiMirror_");
-  if (name == "threshold" || name == "thresholdLT" || name == "lowerBound") {
-    argument = Same(scene, type, 40);
+  if (name == "thresholdLT" || name == "lowerBound") {
+    argument = scene.Constants(type, LowerBound);
   } else if (name == "thresholdGT" || name == "upperBound") {
-    argument = Same(scene, type, 90);
-  } else if (name == "valueLT" || name == "valueGT") {
-    argument = Same(scene, type, name == "valueLT" ? 7 : 100);
+    argument = scene.Constants(type, UpperBound);
+  } else if (name == "threshold" || name == "valueLT" || name == "valueGT") {
+    argument = scene.Constants(type);
   } else if (name == "cmpOp") {
-    argument.number = function.starts_with("qvpiThreshold") ? scene.random().Next() % 2 * 4 : scene.random().Next() % 5;
+    const bool isThreshold = scene.function().name.starts_with("qvpiThreshold");
+    argument = isThreshold ? scene.Any({qvpCmpLess, qvpCmpGreater}) : scene.Any({0, 1, 2, 3, 4});
   } else if (name == "eps") {
-    argument.number = 1000;
+    argument = scene.Any({0, 1, 1000}) * 0.5;
   } else if (name == "pThreshold" || name == "pCounts") {
-    argument.pointer = scene.Output(4 * sizeof(int));
-  } else if (name == "flip") {
-    argument.number = scene.random().Next() % (scene.function().Find("pDst") < 0 ? 3 : 5);
-  } else if (turns && name == "pDst") {
-    argument.pointer = scene.Output(size_t{1} * TurnedStep(roi) * std::max(roi.width, roi.height));
-  } else if (turns && name == "dstStep") {
-    argument.number = TurnedStep(roi);
-  } else if (function.starts_with("qvpiTranspose_") && function.ends_with("IR") && name == "roiSize") {
-    argument.number = argument.second = std::min(roi.width, roi.height);
+    argument = scene.Output(4 * sizeof(int));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool TurnLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const int side = std::min(scene.roi().width, scene.roi().height);
+  const bool inPlace = !scene.function().Has("pDst");
+  if (name == "flip") {
+    argument = AxisOf(scene);
+  } else if (name == "pDst") {
+    argument = {scene.Output(size_t{1} * TurnedStep(scene) * TurnedSize(scene).height)};
+  } else if (name == "dstStep") {
+    argument = TurnedStep(scene);
+  } else if (name == "roiSize" && inPlace && scene.Has("Transpose")) {
+    argument = QvpiSize{side, side};
   } else {
     return false;
   }

@@ -1,54 +1,60 @@
 #include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
+#include "tests/support/name.h"
 
 namespace test {
 namespace {
 
 constexpr ptrdiff_t kRoom = 4096;
-constexpr double kMatrix[3][3] = {{0.9, 0.3, -1.5}, {-0.25, 1.1, 1.25}, {0.001, -0.002, 1}};
+constexpr double kMatrices[][3][3] = {{{0.9, 0.3, -1.5}, {-0.25, 1.1, 1.25}, {0.001, -0.002, 1}},
+                                      {{1, 0, 3}, {0, 1, -2}, {0, 0, 1}},
+                                      {{-0.5, 0, 30.25}, {0, 0.5, 0.5}, {0, 0.004, 1}},
+                                      {{3.98, 0.01, -7}, {0.02, 2, 0}, {-0.02, 0.001, 1}},
+                                      {{0.1, 4.5, 1}, {0.3, -0.2, 3}, {0.01, 0.03, 0.5}}};
 constexpr double kBilinear[2][4] = {{0.01, 0.9, 0.3, -1.5}, {0.02, -0.25, 1.1, 1.25}};
 constexpr double kFrom[4][2] = {{0, 0}, {5, 1}, {6, 6}, {-1, 4}}, kTo[4][2] = {{1, 0}, {30, 1}, {36, 4}, {2, 5}};
+constexpr double kValue[4] = {7.5, 80, 200, 33};
 
-QvpDataType TypeOf(const Scene& scene) {
-  return Has(scene, "_8u")    ? qvp8u
-         : Has(scene, "_16u") ? qvp16u
-         : Has(scene, "_16s") ? qvp16s
-         : Has(scene, "_64f") ? qvp64f
-                              : qvp32f;
-}
-int ChannelsOf(const Scene& scene) { return Has(scene, "_C4R") ? 4 : Has(scene, "_C3R") ? 3 : 1; }
-
-// Scenes differ in size: each size has a border and a method of its own.
+// Each scene has a transform, a border and a method of its own.
 struct Manner {
-  QvpiBorderType border;
-  int isSmooth, interpolation;
+  const double (*matrix)[3];
+  int direction, border, isSmooth;
+  double b, c;
+  int interpolation;
 };
 Manner MannerOf(const Scene& scene) {
-  const int width = scene.roi().width;
-  if (width < 32) return {qvpBorderTransparent, 1, qvpInterpolationNearest | qvpSmoothEdge};
-  if (width < 64) return {qvpBorderTransparent, 1, qvpInterpolationLinear | qvpSmoothEdge};
-  if (width < 128) return {qvpBorderConst, 0, qvpInterpolationCubicClassic | qvpSmoothEdge};
-  if (width < 512) return {qvpBorderTransparent, 0, qvpInterpolationLanczos};
-  return {qvpBorderReplicate, 0, qvpInterpolationCubic};
+  constexpr int kKinds[] = {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent, qvpBorderTransparent};
+  constexpr double kCubic[][2] = {{0, 0.5}, {1 / 3.0, 1 / 3.0}, {0.25, 0.75}};
+  constexpr int kMethods[] = {qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubic,
+                              qvpInterpolationCubicClassic, qvpInterpolationLanczos};
+  Random random = scene.choices();
+  const auto any = [&](const auto& list) -> const auto& { return list[random.Next() % std::size(list)]; };
+  const auto matrix = any(kMatrices);
+  const int kind = any(kKinds), sides = random.Next() % 2 ? static_cast<int>(random.Next() & qvpBorderInMem) : 0;
+  const bool isSmooth = kind == qvpBorderTransparent && random.Next() % 2;
+  const auto& cubic = any(kCubic);
+  return {matrix,   random.Next() % 3 == 0 ? qvpWarpForward : qvpWarpBackward, kind | sides, isSmooth, cubic[0],
+          cubic[1], any(kMethods) | (random.Next() % 2 ? qvpSmoothEdge : 0)};
 }
-constexpr double kValue[4] = {7.5, 80, 200, 33};
 
 // A record for the call, made by the Init that belongs to the function's name.
 QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   const QvpiSize s = SourceSize(scene), d = scene.roi();
   const QvpiSizeL sl{s.width, s.height}, dl{d.width, d.height};
-  const QvpDataType type = TypeOf(scene);
-  const int channels = ChannelsOf(scene);
-  const Manner manner = MannerOf(scene);
+  const Name name(scene.function().name);
+  const bool isCall = !name.layout.empty();  // or else asks for a size
+  const QvpDataType type = isCall ? name.From().code : +qvp32f;
+  const int channels = isCall ? name.channels : 1;
+  const Manner m = MannerOf(scene);
   Qvp8u buffer[64];
-#define INIT(Kind, Method, ...)                                                                                      \
-  (IsWide(scene)                                                                                                     \
-       ? qvpiWarp##Kind##Method##Init_L(sl, dl, type, kMatrix, qvpWarpBackward, channels, __VA_ARGS__ spec OPTIONAL) \
-       : qvpiWarp##Kind##Method##Init(s, d, type, kMatrix, qvpWarpBackward, channels, __VA_ARGS__ spec OPTIONAL))
-#define BORDER manner.border, kValue, manner.isSmooth,
+#define INIT(Kind, Method, ...)                                                                                   \
+  (IsWide(scene)                                                                                                  \
+       ? qvpiWarp##Kind##Method##Init_L(sl, dl, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL) \
+       : qvpiWarp##Kind##Method##Init(s, d, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL))
+#define BORDER m.border, kValue, m.isSmooth,
 #define OPTIONAL , buffer
-  if (Has(scene, "AffineCubic")) return INIT(Affine, Cubic, 0, 0.5, BORDER);
-  if (Has(scene, "PerspectiveCubic")) return INIT(Perspective, Cubic, 0.25, 0.5, BORDER);
+  if (Has(scene, "AffineCubic")) return INIT(Affine, Cubic, m.b, m.c, BORDER);
+  if (Has(scene, "PerspectiveCubic")) return INIT(Perspective, Cubic, m.b, m.c, BORDER);
 #undef OPTIONAL
 #define OPTIONAL
   if (Has(scene, "AffineNearest")) return INIT(Affine, Nearest, BORDER);
@@ -57,85 +63,116 @@ QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   return INIT(Affine, Linear, BORDER);
 }
 
-// Points in the image and around it.
-const void* Map(Scene& scene) {
-  const ptrdiff_t bytes = StepOf(scene.roi(), 40) * scene.roi().height;
-  uint8_t* data = scene.Input(bytes);
-  if (IsDouble(scene)) PutNumbers<double>(scene, data, bytes, 6 / 2147483648.0);
-  if (!IsDouble(scene)) PutNumbers<float>(scene, data, bytes, 6 / 2147483648.0);
-  return data;
-}
-
-bool IsMine(const std::string& name) {
-  for (const char* start :
-       {"qvpiWarp", "qvpiRemap", "qvpiGetAffine", "qvpiGetPerspective", "qvpiGetBilinear", "qvpiGetRotate"}) {
-    if (name.starts_with(start)) return true;
-  }
-  return false;
-}
-
 const void* Record(Scene& scene) {
   if (Has(scene, "Init")) return scene.Output(kRoom);
   auto* spec = reinterpret_cast<QvpiWarpSpec*>(scene.Input(kRoom));
   return Init(scene, spec) < 0 ? nullptr : spec;
 }
 
+// Whole and half positions, places in the image and around it, and what is no place.
+Real Coordinate(const Element& element, Random& random) {
+  const uint32_t r = random.Next();
+  if (r % 32 == 0) return EdgeValue(element, random);
+  const Real place = static_cast<Real>(random.Next()) * 0x1p-32L;
+  return r % 4 == 0 ? static_cast<int>(place * 24) / 2.0L - 1 : element.Stored(place * (r & 64 ? 12 : 80) - 2);
+}
+
+// Images, sizes and tiles.
+bool LearnImages(Scene& scene, std::string_view name, Argument& argument) {
+  const QvpiSize from = SourceSize(scene), to = scene.roi();
+  if (name == "pSrc") {
+    argument = {Source(scene)};
+  } else if (name == "srcStep") {
+    argument = StepOf(from, 8);
+  } else if (name == "pDst") {
+    argument = {scene.Output(StepOf(to, 24) * to.height)};
+  } else if (name == "dstStep") {
+    argument = StepOf(to, 24);
+  } else if (name == "srcSize") {
+    argument = from;
+  } else if (name == "dstSize" || name == "dstRoiSize") {
+    argument = to;
+  } else if (name == "pBuffer" || name == "pInitBuf") {
+    argument = {scene.Input(kRoom)};
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
-bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
-  if (!IsMine(scene.function().name)) return false;
+bool RemapLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   const QvpiSize from = SourceSize(scene), to = scene.roi();
-  if (name == "pSrc")
-    argument.pointer = Source(scene);
-  else if (name == "pDst")
-    argument.pointer = scene.Output(StepOf(to, 24) * to.height);
-  else if (name == "pxMap" || name == "pyMap")
-    argument.pointer = Map(scene);
-  else if (name == "srcStep")
-    argument.number = StepOf(from, 8);
-  else if (name == "dstStep")
-    argument.number = StepOf(to, 24);
-  else if (name == "xMapStep" || name == "yMapStep")
-    argument.number = StepOf(to, 40);
-  else if (name == "srcSize")
-    argument = {nullptr, from.width, from.height};
-  else if (name == "dstSize" || name == "dstRoiSize")
-    argument = {nullptr, to.width, to.height};
-  else if (name == "dstRoiOffset")
-    argument = {nullptr, 0, 0};
-  else if (name == "srcRoi")
-    argument = {nullptr, 1, 1, 5, 5};
-  else if (name == "pSpec")
-    argument.pointer = Record(scene);
-  else if (name == "pInitBuf" || name == "pBuffer")
-    argument.pointer = scene.Input(kRoom);
-  else if (name == "borderType")
-    argument.number = qvpBorderReplicate;
-  else if (name == "pBorderValue")
-    argument.pointer = nullptr;
-  else if (name == "interpolation")
-    argument.number = Has(scene, "Remap") ? MannerOf(scene).interpolation : qvpInterpolationCubic;
-  else if (name == "direction")
-    argument.number = qvpWarpBackward;
-  else if (name == "dataType")
-    argument.number = qvp32f;
-  else if (name == "numChannels")
-    argument.number = 3;
-  else if (name == "smoothEdge" || name == "valueB" || name == "valueC")
-    argument.number = 0;
-  else if (name == "xCenter" || name == "yCenter" || name == "angle" || name == "shiftX" || name == "shiftY")
-    argument.number = 10;
-  else if (name == "srcQuad" || (name == "quad" && type.starts_with("const")))
-    argument.pointer = kFrom;
-  else if (name == "dstQuad")
-    argument.pointer = kTo;
-  else if (name == "coeffs" && type.starts_with("const"))
-    argument.pointer = Has(scene, "Bilinear") ? &kBilinear[0][0] : &kMatrix[0][0];
-  else if (type.ends_with("*") || type.ends_with("]") || name == "coeffs" || name == "quad" || name == "bound")
-    argument.pointer = IsWide(scene) ? scene.Input(128) : scene.Output(128);
-  else
-    return false;
+  if (name == "pxMap" || name == "pyMap") {
+    uint8_t* const map = scene.Input(StepOf(to, 40) * to.height);
+    scene.FillRows(*PointedAt(type), map, StepOf(to, 40), to.height, Coordinate);
+    argument = {map};
+  } else if (name.ends_with("MapStep")) {
+    argument = StepOf(to, 40);
+  } else if (name == "srcRoi") {
+    const bool isWhole = scene.random().Next() % 2;
+    argument = isWhole ? Argument(nullptr, 0, 0, from.width, from.height) : Argument(nullptr, 1, 1, 5, 5);
+  } else if (name == "interpolation") {
+    argument = MannerOf(scene).interpolation;
+  } else {
+    return LearnImages(scene, name, argument);
+  }
+  return true;
+}
+
+bool TransformLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto [type, name] = scene.function().parameters[place];
+  if (name == "srcRoi") {
+    argument = {nullptr, 1, 1, 5, scene.roi().height + 3};
+  } else if (name == "angle") {
+    argument = scene.random().Next() % 100000 * 0.01 - 300;
+  } else if (!type.ends_with("*") && !type.ends_with("]")) {
+    argument = 10;
+  } else if (!type.starts_with("const")) {
+    argument = {scene.Output(128)};
+  } else if (name == "quad") {
+    argument = {kFrom};
+  } else {
+    argument = {Has(scene, "Bilinear") ? &kBilinear[0][0] : &MannerOf(scene).matrix[0][0]};
+  }
+  return true;
+}
+
+bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto [type, name] = scene.function().parameters[place];
+  const Manner m = MannerOf(scene);
+  const bool isQuery = Has(scene, "GetSize");
+  if (name == "dstRoiOffset") {
+    argument = QvpiPoint{0, 0};
+  } else if (name == "pSpec") {
+    argument = {Record(scene)};
+  } else if (name == "borderType") {
+    argument = isQuery ? +qvpBorderReplicate : m.border;
+  } else if (name == "pBorderValue") {
+    argument = {kValue};
+  } else if (name == "interpolation") {
+    argument = qvpInterpolationCubic;
+  } else if (name == "direction") {
+    argument = m.direction;
+  } else if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f, qvp64f});
+  } else if (name == "numChannels") {
+    argument = 3;
+  } else if (name == "smoothEdge") {
+    argument = m.isSmooth;
+  } else if (name == "valueB" || name == "valueC") {
+    argument = name == "valueB" ? m.b : m.c;
+  } else if (name == "srcQuad" || name == "dstQuad") {
+    argument = {name == "srcQuad" ? kFrom : kTo};
+  } else if (name == "coeffs") {
+    argument = {m.matrix};
+  } else if (name.ends_with("Size") && type.ends_with("*")) {
+    argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};
+  } else {
+    return LearnImages(scene, name, argument);
+  }
   return true;
 }
 
