@@ -2,7 +2,7 @@
 // outputs, because their samples are close to each other. The shuffles are made once for a tile.
 #pragma once
 
-#include "base/from_blocks.h"
+#include "base/blocks.h"
 #include "base/pairs.h"
 #include "geometry/resize_call.h"
 

@@ -1,7 +1,7 @@
 // Filtering of three or four channels across: a pixel is a block of a vector.
 #pragma once
 
-#include "base/from_blocks.h"
+#include "base/blocks.h"
 #include "geometry/resize_columns.h"
 
 namespace qvp::resize {

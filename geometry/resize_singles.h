@@ -1,7 +1,7 @@
 // Filtering of one channel across, as many columns at once as a vector has lanes.
 #pragma once
 
-#include "base/from_blocks.h"
+#include "base/blocks.h"
 #include "geometry/resize_columns.h"
 
 namespace qvp::resize {
