@@ -208,11 +208,13 @@ QvpStatus qvpiMagnitudePackGetBufferSize_32f(int numChannels, QvpiSize roiSize, 
   QVP_CONVERT(qvpiMagnitudePack_32f_##layout##R, 32f, 32f, layout, ShowMagnitude, (Qvp8u * pBuffer), (pBuffer)) \
   QVP_CONVERT(qvpiPhasePack_32f_##layout##R, 32f, 32f, layout, Show<Phase>, (), ())
 SHOW(C1)
-SHOW(C3) SHOW(C4) SHOW(AC4)
+SHOW(C3)
+SHOW(C4)
+SHOW(AC4)
 
-    // Complex images are taken as pairs of floats.
-    QvpStatus
-    qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp32fc* pDst, int dstStep, QvpiSize roiSize) {
+// Complex images are taken as pairs of floats.
+QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp32fc* pDst, int dstStep,
+                                           QvpiSize roiSize) {
   return Extend(View(pSrc, srcStep, Layout::kC1), View(reinterpret_cast<float*>(pDst), dstStep, Layout::kC2), roiSize);
 }
 
