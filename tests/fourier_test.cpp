@@ -1,6 +1,4 @@
 // Fourier transforms against their definition in long double, and operations on packed spectra.
-#include <gtest/gtest.h>
-
 #include <array>
 #include <bit>
 #include <cmath>
@@ -9,8 +7,7 @@
 #include <thread>
 #include <vector>
 
-#include "qvpi.h"
-#include "tests/support/guarded.h"
+#include "tests/support/name.h"
 
 namespace {
 using test::Block;
@@ -232,58 +229,51 @@ TEST(Fourier, TransformsLongLines) {
   }
 }
 
+const test::Export& Function(const std::string& name) {
+  for (const test::Export& function : test::Exports()) {
+    if (function.name == name) return function;
+  }
+  throw std::invalid_argument(name);
+}
+
 TEST(Fourier, OfPowersOfTwoIsTheGeneralOneInEveryLayoutFlagAndInPlace) {
-  using Transform = decltype(&qvpiFFTFwd_RToPack_32f_C1R);
-  using InPlace = decltype(&qvpiFFTFwd_RToPack_32f_C1IR);
-  using General = decltype(&qvpiDFTFwd_RToPack_32f_C1R);
-  struct Member {
-    int channels, processed;
-    Transform power;
-    InPlace inPlace;
-    General general, single;
-  };
-  const Member members[] = {
-#define MEMBERS(layout, channels, processed) \
-  {channels,                                 \
-   processed,                                \
-   qvpiFFTFwd_RToPack_32f_##layout##R,       \
-   qvpiFFTFwd_RToPack_32f_##layout##IR,      \
-   qvpiDFTFwd_RToPack_32f_##layout##R,       \
-   qvpiDFTFwd_RToPack_32f_C1R},              \
-      {channels,                             \
-       processed,                            \
-       qvpiFFTInv_PackToR_32f_##layout##R,   \
-       qvpiFFTInv_PackToR_32f_##layout##IR,  \
-       qvpiDFTInv_PackToR_32f_##layout##R,   \
-       qvpiDFTInv_PackToR_32f_C1R},
-      MEMBERS(C1, 1, 1) MEMBERS(C3, 3, 3) MEMBERS(C4, 4, 4) MEMBERS(AC4, 4, 3)
-#undef MEMBERS
-  };
   const QvpiSize s{32, 16};
-  for (const int flag : {1, 2, 4, 8}) {
-    const RealPowerPlan power(qvpiFFTGetSize_R_32f, qvpiFFTInit_R_32f, flag, 5, 4);
-    const RealPlan general = RealOf(s, flag);
-    for (const Member& m : members) {
-      test::Image<float> in(s.width * m.channels, s.height, 5), out(s.width * m.channels, s.height, 7), other(out),
-          one(s.width, s.height, 1), oneOut(s.width, s.height, 2);
-      Fill(in, s.width * m.channels, s.height);
-      const test::Image<float> before(out);
-      EXPECT_EQ(m.power(in.data(), in.step(), out.data(), out.step(), power.spec(), power.work()), 0);
-      EXPECT_EQ(m.general(in.data(), in.step(), other.data(), other.step(), general.spec(), general.work()), 0);
-      test::Image<float> self(in);
-      EXPECT_EQ(m.inPlace(self.data(), self.step(), power.spec(), power.work()), 0);
-      for (int c = 0; c < m.channels; ++c) {
+  for (const test::Export* power : test::FunctionsOf({"FFTFwd_RToPack", "FFTInv_PackToR"})) {
+    const test::Name name(power->name);
+    if (name.inPlace) continue;
+    std::string text = power->name;
+    const test::Export& inPlace = Function(std::string(text).insert(text.size() - 1, "I"));
+    const test::Export& general = Function(text.replace(4, 3, "DFT"));
+    const test::Export& single = Function(text.replace(text.rfind('_'), std::string::npos, "_C1R"));
+    for (const int flag : {1, 2, 4, 8}) {
+      const RealPowerPlan plan(qvpiFFTGetSize_R_32f, qvpiFFTInit_R_32f, flag, 5, 4);
+      const RealPlan generalPlan = RealOf(s, flag);
+      const auto call = [&](const test::Export& function, const test::Image<float>& in, const test::Image<float>& out,
+                            const auto& by) {
+        ASSERT_EQ(
+            function({{"pSrc", in}, {"pDst", out}, {"pSrcDst", out}, {"pSpec", {by.spec()}}, {"pBuffer", {by.work()}}}),
+            0)
+            << function.name;
+      };
+      test::Image<float> in(s.width * name.channels, s.height, 5), out(s.width * name.channels, s.height, 7),
+          other(out), one(s.width, s.height, 1), oneOut(s.width, s.height, 2);
+      Fill(in, s.width * name.channels, s.height);
+      const test::Image<float> before(out), self(in);
+      call(*power, in, out, plan);
+      call(general, in, other, generalPlan);
+      call(inPlace, in, self, plan);
+      for (int c = 0; c < name.channels; ++c) {
         for (int i = 0; i < s.width * s.height; ++i) {
-          one.Put(i % s.width, i / s.width, in(i % s.width * m.channels + c, i / s.width));
+          one.Put(i % s.width, i / s.width, in(i % s.width * name.channels + c, i / s.width));
         }
-        EXPECT_EQ(m.single(one.data(), one.step(), oneOut.data(), oneOut.step(), general.spec(), general.work()), 0);
+        call(single, one, oneOut, generalPlan);
         for (int i = 0; i < s.width * s.height; ++i) {
-          const int x = i % s.width * m.channels + c, y = i / s.width;
-          const bool isAlpha = c >= m.processed;
-          const auto bits = [](float f) { return std::bit_cast<uint32_t>(f); };
-          ASSERT_EQ(bits(out(x, y)), bits(isAlpha ? before(x, y) : oneOut(i % s.width, y))) << flag;
-          ASSERT_EQ(bits(other(x, y)), bits(out(x, y)));
-          ASSERT_EQ(bits(self(x, y)), bits(isAlpha ? in(x, y) : out(x, y)));
+          const int x = i % s.width * name.channels + c, y = i / s.width;
+          const bool isAlpha = c >= name.written;
+          ASSERT_TRUE(test::SameBits(out(x, y), isAlpha ? before(x, y) : oneOut(i % s.width, y)))
+              << power->name << ' ' << flag;
+          ASSERT_TRUE(test::SameBits(other(x, y), out(x, y))) << general.name;
+          ASSERT_TRUE(test::SameBits(self(x, y), isAlpha ? in(x, y) : out(x, y))) << inPlace.name;
         }
       }
     }

@@ -1,12 +1,9 @@
 // Histograms of oriented gradients against their definition in double precision.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <vector>
 
-#include "qvpi.h"
-#include "tests/support/guarded.h"
+#include "tests/support/reference.h"
 
 namespace {
 using test::Block;
@@ -28,14 +25,6 @@ struct Record {
   uint8_t* data;
 };
 
-// The position in [begin, end) that stands for i, or -1000 for the constant.
-int Fold(int i, int begin, int end, int kind) {
-  if (i >= begin && i < end) return i;
-  if (kind == qvpBorderConst) return -1000;
-  if (kind == qvpBorderReplicate) return std::clamp(i, begin, end - 1);
-  return end - begin == 1 ? begin : i < begin ? 2 * begin - i : 2 * (end - 1) - i;
-}
-
 // An image with a rim of one pixel in memory around its region.
 template <class T>
 struct Picture {
@@ -52,9 +41,10 @@ struct Picture {
 
   double At(int x, int y, int c, int border, const T* outside) const {
     const int kind = border & 15;
-    x = Fold(x, border & qvpBorderInMemLeft ? -1 : 0, size.width + (border & qvpBorderInMemRight ? 1 : 0), kind);
-    y = Fold(y, border & qvpBorderInMemTop ? -1 : 0, size.height + (border & qvpBorderInMemBottom ? 1 : 0), kind);
-    return x == -1000 || y == -1000 ? outside[c] : pixels((x + 1) * channels + c, y + 1);
+    const auto beyond = [&](int side) { return border & side ? 1 : 0; };
+    x = test::BorderPosition(kind, x, -beyond(qvpBorderInMemLeft), size.width - 1 + beyond(qvpBorderInMemRight));
+    y = test::BorderPosition(kind, y, -beyond(qvpBorderInMemTop), size.height - 1 + beyond(qvpBorderInMemBottom));
+    return x == test::kConstant || y == test::kConstant ? outside[c] : pixels((x + 1) * channels + c, y + 1);
   }
 
   QvpiSize size;

@@ -1,19 +1,24 @@
 // Resize: every member against a scalar reference in double, and what holds for tiles, records and threads.
-#include <gtest/gtest.h>
 #include <sys/mman.h>
 
 #include <cmath>
 #include <functional>
 #include <numeric>
 #include <thread>
-#include <vector>
 
-#include "qvpi.h"
-#include "tests/support/guarded.h"
+#include "tests/support/name.h"
+#include "tests/support/reference.h"
 
 namespace {
 
 enum class Kind { k8u, k16u, k16s, k32f, k64f };
+
+const test::Element& ElementOf(Kind kind) {
+  static const test::Element* const kAll[] = {&test::ElementOf("8u"), &test::ElementOf("16u"), &test::ElementOf("16s"),
+                                              &test::ElementOf("32f"), &test::ElementOf("64f")};
+  return *kAll[static_cast<int>(kind)];
+}
+QvpDataType TypeOf(Kind kind) { return ElementOf(kind).code; }
 
 // A method with its parameters.
 struct Method {
@@ -41,44 +46,49 @@ const Method kNearest{"Nearest", qvpInterpolationNearest}, kLinear{"Linear", qvp
 const Method kAll[] = {kNearest,  kLinear, kCubic,   kSharp,        kWild,        kLanczos2,
                        kLanczos3, kSuper,  kShifted, kSmoothLinear, kSmoothCubic, kSmoothLanczos};
 
-// One exported function.
+// One exported function, in both widths of lengths.
+struct Call {
+  const test::Export* function;
+  QvpStatus operator()(const void* src, int srcStep, void* dst, int dstStep, QvpiPoint at, QvpiSize size, int border,
+                       const QvpiResizeSpec* spec, Qvp8u* buffer) const {
+    return (*function)({{"pSrc", {src, srcStep}},
+                        {"pDst", {dst, dstStep}},
+                        {"dstOffset", at},
+                        {"dstSize", size},
+                        {"border", border},
+                        {"pBorderValue", {nullptr, 0}},
+                        {"pSpec", {spec}},
+                        {"pBuffer", {buffer}}});
+  }
+};
 struct Member {
-  std::string name;
+  std::string name;  // ResizeCubic_16u_C3
   Kind kind;
   int channels, bytes;
-  std::function<QvpStatus(const void*, int, void*, int, QvpiPoint, QvpiSize, int, const QvpiResizeSpec*, Qvp8u*)> call,
-      wide;
+  Call call, wide;
 };
-
-#define ARGUMENTS(T) static_cast<const T*>(s), ss, static_cast<T*>(d), ds
-#define CALL(name, T, suffix, P, S, ...)                                                            \
-  [](const void* s, int ss, void* d, int ds, QvpiPoint o, QvpiSize z, [[maybe_unused]] int border,  \
-     const QvpiResizeSpec* spec, Qvp8u* buffer) {                                                   \
-    return name##suffix(ARGUMENTS(T), P{o.x, o.y}, S{z.width, z.height}, __VA_ARGS__ spec, buffer); \
-  }
-#define MEMBER(method, type, layout, channels, ...)                                                    \
-  members.push_back(                                                                                   \
-      {"Resize" #method "_" #type "_" #layout, Kind::k##type, channels, sizeof(Qvp##type),             \
-       CALL(qvpiResize##method##_##type##_##layout##R, Qvp##type, , QvpiPoint, QvpiSize, __VA_ARGS__), \
-       CALL(qvpiResize##method##_##type##_##layout##R, Qvp##type, _L, QvpiPointL, QvpiSizeL, __VA_ARGS__)});
-#define LAYOUTS(method, type, ...)         \
-  MEMBER(method, type, C1, 1, __VA_ARGS__) \
-  MEMBER(method, type, C3, 3, __VA_ARGS__) \
-  MEMBER(method, type, C4, 4, __VA_ARGS__)
-#define TYPES(method, ...)         \
-  LAYOUTS(method, 8u, __VA_ARGS__) \
-  LAYOUTS(method, 16u, __VA_ARGS__) LAYOUTS(method, 16s, __VA_ARGS__) LAYOUTS(method, 32f, __VA_ARGS__)
 
 const std::vector<Member>& Members() {
   static const std::vector<Member> all = [] {
     std::vector<Member> members;
-#define BORDER border, nullptr,
-    TYPES(Nearest, )
-    TYPES(Super, )
-    TYPES(Linear, BORDER)
-    TYPES(Cubic, BORDER)
-    TYPES(Lanczos, BORDER)
-    TYPES(Antialiasing, BORDER) LAYOUTS(Linear, 64f, BORDER) LAYOUTS(Antialiasing, 64f, BORDER) return members;
+    for (const test::Export* function : test::FamilyOf(
+             {"ResizeNearest", "ResizeSuper", "ResizeLinear", "ResizeCubic", "ResizeLanczos", "ResizeAntialiasing"})) {
+      const test::Name name(function->name);
+      if (name.isWide) continue;
+      Kind kind = Kind::k8u;
+      while (ElementOf(kind).name != name.type) kind = static_cast<Kind>(static_cast<int>(kind) + 1);
+      const auto& exports = test::Exports();
+      const auto wide = std::find_if(exports.begin(), exports.end(),
+                                     [&](const test::Export& other) { return other.name == function->name + "_L"; });
+      EXPECT_NE(wide, exports.end()) << function->name;
+      members.push_back({function->name.substr(4, function->name.size() - 5),
+                         kind,
+                         name.channels,
+                         name.From().bytes,
+                         {function},
+                         {&*wide}});
+    }
+    return members;
   }();
   return all;
 }
@@ -96,14 +106,6 @@ const Member& Find(std::string_view name) {
     if (m.name == std::string("Resize").append(name)) return m;
   }
   throw std::invalid_argument(std::string(name));
-}
-
-QvpDataType TypeOf(Kind kind) {
-  return kind == Kind::k8u    ? qvp8u
-         : kind == Kind::k16u ? qvp16u
-         : kind == Kind::k16s ? qvp16s
-         : kind == Kind::k32f ? qvp32f
-                              : qvp64f;
 }
 
 // A record in exactly the reported memory, which ends at an unreadable page, or at a given place.
@@ -192,15 +194,9 @@ struct Tap {
   double weight;
 };
 
-double Sinc(double t) { return t == 0 ? 1 : std::sin(M_PI * t) / (M_PI * t); }
-
 double KernelAt(const Method& m, double t) {
-  t = std::fabs(t);
-  if (m.interpolation == qvpInterpolationLinear) return std::max(0.0, 1 - t);
-  if (m.interpolation == qvpInterpolationLanczos) return t < m.lobes ? Sinc(t) * Sinc(t / m.lobes) : 0;
-  const double b = m.b, c = m.c;
-  if (t < 1) return (2 - 1.5 * b - c) * t * t * t + (-3 + 2 * b + c) * t * t + 1 - b / 3;
-  return t < 2 ? (-b / 6 - c) * t * t * t + (b + 5 * c) * t * t - (2 * b + 8 * c) * t + 4 * b / 3 + 4 * c : 0;
+  if (m.interpolation == qvpInterpolationLinear) return std::max(0.0, 1 - std::fabs(t));
+  return m.interpolation == qvpInterpolationLanczos ? test::LanczosWeight(t, m.lobes) : test::CubicWeight(t, m.b, m.c);
 }
 
 std::vector<Tap> TapsOf(const Method& m, long source, long destination, long d, double shift) {
@@ -229,42 +225,9 @@ std::vector<Tap> TapsOf(const Method& m, long source, long destination, long d, 
   return taps;
 }
 
-// The position that stands for one outside [begin, end).
-long Fold(long i, bool isMirror, long begin, long end) {
-  while (i < begin || i >= end) {
-    if (!isMirror || end - begin == 1) return i < begin ? begin : end - 1;
-    i = i < begin ? 2 * begin - i : 2 * (end - 1) - i;
-  }
-  return i;
-}
-
 // A sample of memory.
-double Get(Kind kind, const uint8_t* p) {
-  const auto as = [p](auto value) {
-    std::memcpy(&value, p, sizeof(value));
-    return static_cast<double>(value);
-  };
-  switch (kind) {
-    case Kind::k8u: return *p;
-    case Kind::k16u: return as(uint16_t{});
-    case Kind::k16s: return as(int16_t{});
-    case Kind::k32f: return as(float{});
-    default: return as(double{});
-  }
-}
-void Put(Kind kind, uint8_t* p, double value) {
-  const auto as = [=](auto stored) {
-    stored = static_cast<decltype(stored)>(value);
-    std::memcpy(p, &stored, sizeof(stored));
-  };
-  switch (kind) {
-    case Kind::k8u: return as(uint8_t{});
-    case Kind::k16u: return as(uint16_t{});
-    case Kind::k16s: return as(int16_t{});
-    case Kind::k32f: return as(float{});
-    default: return as(double{});
-  }
-}
+double Get(Kind kind, const uint8_t* p) { return static_cast<double>(ElementOf(kind).read(p)); }
+void Put(Kind kind, uint8_t* p, double value) { ElementOf(kind).write(p, value); }
 
 // A random source image with `margin` pixels around the part that is resized.
 class Source {
@@ -295,15 +258,16 @@ class Source {
 
 double Reference(const Method& m, const Source& src, QvpiSize from, QvpiSize to, int border,
                  const QvpiBorderSize& reach, long x, long y, int c) {
-  const bool isMirror = (border & 15) == qvpBorderMirror;
-  const auto flag = [border](int f, long n) { return border & f ? n : 0; };
+  const int kind = border & 15;
+  const auto flag = [border](int f, unsigned n) { return border & f ? static_cast<int>(n) : 0; };
   double sum = 0;
   for (const Tap& down : TapsOf(m, from.height, to.height, y, m.shift[1])) {
-    const long row = Fold(down.position, isMirror, -flag(qvpBorderInMemTop, reach.top),
-                          from.height + flag(qvpBorderInMemBottom, reach.bottom));
+    const int row = test::BorderPosition(kind, static_cast<int>(down.position), -flag(qvpBorderInMemTop, reach.top),
+                                         from.height - 1 + flag(qvpBorderInMemBottom, reach.bottom));
     for (const Tap& across : TapsOf(m, from.width, to.width, x, m.shift[0])) {
-      const long column = Fold(across.position, isMirror, -flag(qvpBorderInMemLeft, reach.left),
-                               from.width + flag(qvpBorderInMemRight, reach.right));
+      const int column =
+          test::BorderPosition(kind, static_cast<int>(across.position), -flag(qvpBorderInMemLeft, reach.left),
+                               from.width - 1 + flag(qvpBorderInMemRight, reach.right));
       sum += down.weight * across.weight * src.Sample(column, row, c);
     }
   }

@@ -29,4 +29,25 @@ inline const void* Source(Scene& scene) {
   return data + kMargin * (step + kLargestPixel);
 }
 
+// Images and sizes; `to` is the size of the destination.
+inline bool LearnImages(Scene& scene, std::string_view name, QvpiSize to, Argument& argument) {
+  const QvpiSize from = SourceSize(scene);
+  if (name == "pSrc") {
+    argument = {Source(scene)};
+  } else if (name == "srcStep") {
+    argument = StepOf(from, 8);
+  } else if (name == "pDst") {
+    argument = {scene.Output(StepOf(to, 24) * to.height)};
+  } else if (name == "dstStep") {
+    argument = StepOf(to, 24);
+  } else if (name == "srcSize") {
+    argument = from;
+  } else if (name == "dstSize" || name == "dstRoiSize") {
+    argument = to;
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace test

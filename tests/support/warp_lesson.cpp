@@ -77,29 +77,6 @@ Real Coordinate(const Element& element, Random& random) {
   return r % 4 == 0 ? static_cast<int>(place * 24) / 2.0L - 1 : element.Stored(place * (r & 64 ? 12 : 80) - 2);
 }
 
-// Images, sizes and tiles.
-bool LearnImages(Scene& scene, std::string_view name, Argument& argument) {
-  const QvpiSize from = SourceSize(scene), to = scene.roi();
-  if (name == "pSrc") {
-    argument = {Source(scene)};
-  } else if (name == "srcStep") {
-    argument = StepOf(from, 8);
-  } else if (name == "pDst") {
-    argument = {scene.Output(StepOf(to, 24) * to.height)};
-  } else if (name == "dstStep") {
-    argument = StepOf(to, 24);
-  } else if (name == "srcSize") {
-    argument = from;
-  } else if (name == "dstSize" || name == "dstRoiSize") {
-    argument = to;
-  } else if (name == "pBuffer" || name == "pInitBuf") {
-    argument = {scene.Input(kRoom)};
-  } else {
-    return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 bool RemapLesson(Scene& scene, size_t place, Argument& argument) {
@@ -117,7 +94,7 @@ bool RemapLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "interpolation") {
     argument = MannerOf(scene).interpolation;
   } else {
-    return LearnImages(scene, name, argument);
+    return LearnImages(scene, name, to, argument);
   }
   return true;
 }
@@ -170,8 +147,10 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {m.matrix};
   } else if (name.ends_with("Size") && type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};
+  } else if (name == "pBuffer" || name == "pInitBuf") {
+    argument = {scene.Input(kRoom)};
   } else {
-    return LearnImages(scene, name, argument);
+    return LearnImages(scene, name, scene.roi(), argument);
   }
   return true;
 }
