@@ -61,8 +61,7 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
     add(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
     if (k + 3 < count) add(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
   }
-  if constexpr (kCount == kMany) return WithLast(total, sum);
-  return sum;
+  return kCount == kMany ? WithLast(total, sum) : sum;
 }
 
 // Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found

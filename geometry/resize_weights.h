@@ -25,7 +25,10 @@ struct FixedTapPlanes {
   const int16_t* at;
   ptrdiff_t plane;
 
-  float At(int k, ptrdiff_t d) const { return at[k / 2 * 2 * plane + 2 * d + k % 2] * (1.0f / kFixedOne); }
+  float At(int k, ptrdiff_t d) const {
+    const int pair = k / 2;
+    return at[2 * (pair * plane + d) + k % 2] * (1.0f / kFixedOne);
+  }
   template <class D>
   HWY_INLINE hn::Vec<D> Load(D lanes, int k, ptrdiff_t d) const {
     const hn::Rebind<int32_t, D> ints;
