@@ -124,6 +124,12 @@ void WithSides(const FilterRecord& record, const Filter& filter) {
   filter(std::integral_constant<int, 0>(), std::integral_constant<int, 0>());
 }
 
+template <class T, int kWidth, int kHeight>
+void FilterByFloats(const FilterRecord& record, const Job<T>& job) {
+  using Kernel = RealKernel<T, float, !std::is_same_v<T, float>, kWidth, kHeight>;
+  FilterRegion(record, job, Kernel(record, record.Floats(), job.src.channels()));
+}
+
 // Records for float images have no offset, but one for integers may be used with them.
 template <class T>
 void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
@@ -131,10 +137,8 @@ void FilterInFloat(const FilterRecord& record, const Job<T>& job) {
   if (kIsFloat && record.offset != 0) {
     return FilterRegion(record, job, RealKernel<T, float, true>(record, record.Floats(), job.src.channels()));
   }
-  WithSides<std::conditional_t<kIsFloat, float, void>>(record, [&](auto width, auto height) {
-    using Kernel = RealKernel<T, float, !kIsFloat, width(), height()>;
-    FilterRegion(record, job, Kernel(record, record.Floats(), job.src.channels()));
-  });
+  WithSides<std::conditional_t<kIsFloat, float, void>>(
+      record, [&](auto width, auto height) { FilterByFloats<T, width, height>(record, job); });
 }
 
 template <class Sums, class T>
