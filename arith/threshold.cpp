@@ -64,15 +64,14 @@ struct ValuesOutside {
 template <class Op, class T, class... Constant>
 void Apply(const Image<const T>& src, const Image<T>& dst, Size roi, const Constant*... values) {
   const hn::ScalableTag<T> d;
-  const auto rows = [&](auto keepAlpha, const auto&... constant) {
-    const auto row = [&](ptrdiff_t n, T* to, const T* from) HWY_ATTR {
-      MapRowWith<keepAlpha()>(
-          d, to, n, [&](auto at, auto v) { return Op()(v, at(constant)...); }, from);
+  const auto map = [&](auto keepAlpha) {
+    const auto row = [d, ... constant = PerChannel(d, values, dst.layout)](ptrdiff_t n, T* to, const T* from) HWY_ATTR {
+      const auto op = [&](const auto& at, auto v) HWY_ATTR { return Op()(v, at(constant)...); };
+      MapRowWith<decltype(keepAlpha)::value>(d, to, n, op, from);
     };
     ForEachPiece(roi, row, dst, src);
   };
-  if (KeepsAlpha(dst.layout)) return rows(std::true_type(), PerChannel(d, values, dst.layout)...);
-  rows(std::false_type(), PerChannel(d, values, dst.layout)...);
+  KeepsAlpha(dst.layout) ? map(std::true_type()) : map(std::false_type());
 }
 
 // One bound: Op is either of the two operations with a bound alone, or with a bound and a value.

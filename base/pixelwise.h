@@ -8,11 +8,12 @@
 namespace qvp {
 
 // Calls kernel(n, elements of dst, elements of src...) for rows, or pieces of them, of whole pixels. The kernel exists
-// once, as the function that the walk calls. What it needs it copies first: bytes that are stored could otherwise be
-// part of it, and it would be read again after each store.
+// once, as the function that the walk calls. It captures by value what it needs: the context is restrict, so that it
+// need not be read again after each store, as bytes that are stored could otherwise be part of it.
 template <class Kernel, class T, class S>
 void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Image<const S>& src) {
-  const auto call = [](const void* context, ptrdiff_t n, uint8_t* to, const uint8_t* a, const uint8_t*) HWY_ATTR {
+  const auto call = [](const void* HWY_RESTRICT context, ptrdiff_t n, uint8_t* to, const uint8_t* a,
+                       const uint8_t*) HWY_ATTR {
     (*static_cast<const Kernel*>(context))(n, reinterpret_cast<T*>(to), reinterpret_cast<const S*>(a));
   };
   Walk(roi, AsBytes(dst), AsBytes(src), nullptr, call, &kernel);
@@ -20,7 +21,7 @@ void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Ima
 template <class Kernel, class T, class S>
 void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Image<const S>& a,
                   const Image<const S>& b) {
-  const auto call = [](const void* context, ptrdiff_t n, uint8_t* to, const uint8_t* first,
+  const auto call = [](const void* HWY_RESTRICT context, ptrdiff_t n, uint8_t* to, const uint8_t* first,
                        const uint8_t* second) HWY_ATTR {
     (*static_cast<const Kernel*>(context))(n, reinterpret_cast<T*>(to), reinterpret_cast<const S*>(first),
                                            reinterpret_cast<const S*>(second));
@@ -32,10 +33,8 @@ void ForEachPiece(Size roi, const Kernel& kernel, const Image<T>& dst, const Ima
 // dst = op(src...) in lanes of D, but for the alpha of images that keep theirs.
 template <bool kKeepAlpha, class D, class Op, class T, class... S>
 void MapChannels(D d, const Op& op, Size roi, const Image<T>& dst, const Image<const S>&... src) {
-  const auto row = [&op, d](ptrdiff_t n, T* to, const S*... from) HWY_ATTR {
-    const Op own = op;
-    MapRow<kKeepAlpha>(d, to, n, own, from...);
-  };
+  const auto row = [op, d](ptrdiff_t n, T* to, const S*... from)
+                       HWY_ATTR { MapRow<kKeepAlpha>(d, to, n, op, from...); };
   ForEachPiece(roi, row, dst, src...);
 }
 template <class D, class Op, class T, class... S>
@@ -52,12 +51,11 @@ void MapOneChannel(D d, const Op& op, Size roi, const Image<T>& dst, const Image
 // dst = op(value of the channel, src) in lanes of D.
 template <class D, class Op, class T, class S>
 void MapImagesWith(D d, const Op& op, Size roi, const S* values, const Image<T>& dst, const Image<const S>& src) {
-  const PerChannel<D> constant(d, values, dst.layout);
   const auto map = [&](auto keepAlpha) {
-    const auto row = [&, d](ptrdiff_t n, T* to, const S* from) HWY_ATTR {
-      const Op own = op;
-      const auto withConstant = [&](const auto& at, auto v) HWY_ATTR { return own(at(constant), v); };
-      MapRowWith<keepAlpha()>(d, to, n, withConstant, from);
+    const auto row = [op, d, constant = PerChannel<D>(d, values, dst.layout)](ptrdiff_t n, T* to,
+                                                                              const S* from) HWY_ATTR {
+      const auto withConstant = [&](const auto& at, auto v) HWY_ATTR { return op(at(constant), v); };
+      MapRowWith<decltype(keepAlpha)::value>(d, to, n, withConstant, from);
     };
     ForEachPiece(roi, row, dst, src);
   };
