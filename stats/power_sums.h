@@ -92,11 +92,12 @@ class GroupSums {
   }
 };
 
-// Whole groups of samples. Those of 16 bits are 256 times their upper bytes plus their lower ones.
-inline PowerSums<int64_t> SumsOfGroups(const uint8_t* row, ptrdiff_t groups) {
+// Whole groups of samples. Those of 16 bits are 256 times their upper bytes plus their lower ones. The sums take all
+// vector registers: inlined into a larger function, they would not stay there.
+HWY_NOINLINE inline PowerSums<int64_t> SumsOfGroups(const uint8_t* row, ptrdiff_t groups) {
   return GroupSums().Of(groups, [&](ptrdiff_t i) HWY_ATTR { return LoadWide(GroupSums::D(), row + i); });
 }
-inline PowerSums<int64_t> SumsOfGroups(const uint16_t* row, ptrdiff_t groups) {
+HWY_NOINLINE inline PowerSums<int64_t> SumsOfGroups(const uint16_t* row, ptrdiff_t groups) {
   const hn::ScalableTag<uint16_t> d;
   const GroupSums::D signedD;
   PowerSums<int64_t> sums = GroupSums().Of(groups, [&](ptrdiff_t i) HWY_ATTR {
