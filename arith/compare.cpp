@@ -106,15 +106,8 @@ HWY_INLINE void MaskSamples(const Relation& relation, const T* src, const Other&
     hn::StoreU(at(left.lanes, other.Staged(right, n), 0, 0), Mask(), out.lanes);
     return out.CopyTo(mask, n);
   }
-  const ptrdiff_t end = n - kMaskLanes;
-  const auto last = at(src, other, end, end);
-  ptrdiff_t i = 0;
-  for (; i + 3 * kMaskLanes <= end; i += 3 * kMaskLanes) {
-    for (ptrdiff_t v = 0; v < 3 * kMaskLanes; v += kMaskLanes)
-      hn::StoreU(at(src, other, i + v, v), Mask(), mask + i + v);
-  }
-  for (; i < end; i += kMaskLanes) hn::StoreU(at(src, other, i, i), Mask(), mask + i);
-  hn::StoreU(last, Mask(), mask + end);
+  const auto inRow = [&](ptrdiff_t i, ptrdiff_t phase) HWY_ATTR { return at(src, other, i, phase); };
+  ForEachVectorInPlace<3, kMaskLanes>(n, inRow, [&](ptrdiff_t i, auto v) HWY_ATTR { hn::StoreU(v, Mask(), mask + i); });
 }
 
 // A pixel's mask byte from those of its three channels.

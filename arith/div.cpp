@@ -54,8 +54,8 @@ bool ContainsZero(const T* elements, ptrdiff_t n) {
     std::memcpy(staged, elements, n * sizeof(T));
     return ContainsZero<kKeepAlpha>(staged, kLanes);
   }
-  auto zeros = zerosAt(elements + n - kLanes);
-  for (ptrdiff_t i = 0; i + kLanes <= n; i += kLanes) zeros = hn::Or(zeros, zerosAt(elements + i));
+  auto zeros = hn::Zero(d);
+  ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { zeros = hn::Or(zeros, zerosAt(elements + i)); });
   auto found = hn::MaskFromVec(zeros);
   if constexpr (kKeepAlpha) found = hn::AndNot(FourthLanes(d, 0), found);
   return !hn::AllFalse(d, found);

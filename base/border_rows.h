@@ -10,6 +10,7 @@
 #include "base/border.h"
 #include "base/lanes.h"
 #include "base/record.h"
+#include "base/row_vectors.h"
 
 namespace qvp {
 
@@ -81,8 +82,7 @@ void ConvertRows(const T* const (&rows)[2], typename Form::Element* out, ptrdiff
     const Partial<T> upper(rows[0], n), lower(rows[1], n);
     return Form::Convert({upper.lanes, lower.lanes}, out, 0);
   }
-  for (ptrdiff_t i = 0; i < n - kLanes; i += kLanes) Form::Convert(rows, out, i);
-  Form::Convert(rows, out, n - kLanes);
+  ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { Form::Convert(rows, out, i); });
 }
 
 // ---- Lines

@@ -6,6 +6,7 @@
 #include "base/image.h"
 #include "base/lanes.h"
 #include "base/pack.h"
+#include "base/row_vectors.h"
 
 namespace qvp {
 
@@ -92,8 +93,7 @@ HWY_INLINE auto NarrowParts(D d, const Part& part) {
 // dst[i] = op(at, src[i]...) for i in [0, n), in lanes of D, rounded and saturated to T. `at(constant)` is the vector
 // of a PerChannel that belongs to the place in the row. With kKeepAlpha every fourth element of dst stays. Operands may
 // be the same row: the last vector is computed before the first one is stored, so elements that both cover are not
-// operated on twice.
-// The loop goes by kSteps full vectors of dst; with constants they make a multiple of 12 lanes.
+// operated on twice. With constants kSteps vectors of dst make a multiple of 12 lanes.
 template <int kSteps, bool kKeepAlpha, class D, class Op, class T, class... S>
 HWY_INLINE void MapRowBy(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kStride = kLanes * kVectorsAtOnce<T, hn::TFromD<D>>;
@@ -111,16 +111,8 @@ HWY_INLINE void MapRowBy(D d, T* dst, ptrdiff_t n, const Op& op, const S*... src
     hn::StoreU(apply(0, out.lanes, Partial<S>(src, n).lanes...), narrow, out.lanes);
     return out.CopyTo(dst, n);
   }
-  const ptrdiff_t end = n - kStride;
-  const auto last = apply(end, dst + end, (src + end)...);
-  ptrdiff_t i = 0;
-  for (; i + kSteps * kStride <= end; i += kSteps * kStride) {
-    for (ptrdiff_t v = 0; v < kSteps * kStride; v += kStride) {
-      hn::StoreU(apply(v, dst + i + v, (src + i + v)...), narrow, dst + i + v);
-    }
-  }
-  for (; i < end; i += kStride) hn::StoreU(apply(i, dst + i, (src + i)...), narrow, dst + i);
-  hn::StoreU(last, narrow, dst + end);
+  const auto at = [&](ptrdiff_t i, ptrdiff_t phase) HWY_ATTR { return apply(phase, dst + i, (src + i)...); };
+  ForEachVectorInPlace<kSteps, kStride>(n, at, [&](ptrdiff_t i, auto v) HWY_ATTR { hn::StoreU(v, narrow, dst + i); });
 }
 
 template <bool kKeepAlpha, class D, class Op, class T, class... S>
