@@ -3,6 +3,7 @@
 import os
 import subprocess
 import sys
+from concurrent.futures import ThreadPoolExecutor
 
 
 def hashes(argument):
@@ -12,7 +13,9 @@ def hashes(argument):
     return dict(line.split() for line in output.splitlines())
 
 
-builds = {os.path.basename(argument.split("=")[0]): hashes(argument) for argument in sys.argv[1:]}
+with ThreadPoolExecutor(os.cpu_count()) as pool:
+    builds = dict(zip((os.path.basename(argument.split("=")[0]) for argument in sys.argv[1:]),
+                      pool.map(hashes, sys.argv[1:])))
 reference, expected = next(iter(builds.items()))
 differing = sorted({name for found in builds.values() for name in expected.keys() | found.keys()
                     if found.get(name) != expected.get(name)})

@@ -1,6 +1,7 @@
 #include "tests/support/exports.h"
 
 #include <algorithm>
+#include <bit>
 #include <stdexcept>
 
 #include "tests/support/calls.h"
@@ -76,9 +77,12 @@ Lesson LessonFor(std::string_view function) {
   return lesson;
 }
 
-// A row step with room for the largest pixel, another for each place that an image has in the argument list. Rows then
+// A row step with room for four channels, another for each place that an image has in the argument list. Rows then
 // begin at every alignment.
-int StepOf(int width, size_t place) { return static_cast<int>(width * kLargestPixel + 17 * (place + 1)); }
+int StepOf(const Export& function, int width, size_t place) {
+  const Element* const element = PointedAt(function.parameters[place].type);
+  return static_cast<int>(width * (element ? 4 * element->bytes : kLargestPixel) + 17 * (place + 1));
+}
 
 // The parameters that a row of the table describes.
 std::vector<Parameter> ParametersOf(std::string_view described) {
@@ -90,6 +94,14 @@ std::vector<Parameter> ParametersOf(std::string_view described) {
     described.remove_prefix(std::min(described.size(), one.size() + 1));
   }
   return parameters;
+}
+
+// Elements of kBytes each, chosen from 256 that lie one after the other.
+template <int kBytes>
+void ChooseEach(uint8_t* row, ptrdiff_t bytes, const uint8_t* values, Random& random) {
+  for (ptrdiff_t i = 0; i + kBytes <= bytes; i += kBytes) {
+    std::memcpy(row + i, values + (random.Next() >> 24) * kBytes, kBytes);
+  }
 }
 
 }  // namespace
@@ -140,7 +152,7 @@ Argument Scene::ArgumentFor(size_t place) {
   if (place + 1 < parameters.size() && parameters[place + 1].name.ends_with("Step")) {
     return {ImageFor(place)};
   }
-  if (name.ends_with("Step")) return StepOf(roi_.width, place - 1);
+  if (name.ends_with("Step")) return StepOf(function_, roi_.width, place - 1);
   if (name == "roiSize") return roi_;
   if (name == "value" || name == "val") return Constants(type);
   if (name == "scaleFactor") {
@@ -164,16 +176,14 @@ void Scene::FillRows(const Element& element, uint8_t* image, ptrdiff_t step, int
   constexpr int kValues = 256, kMostBytes = 8;
   uint8_t values[kValues * kMostBytes];  // to choose from: making each costs more than most calls
   for (int k = 0; k < kValues; ++k) element.write(values + k * element.bytes, value(element, random_));
-  for (int y = 0; y < height; ++y) {
-    for (ptrdiff_t i = 0; i + element.bytes <= step; i += element.bytes) {
-      std::memcpy(image + y * step + i, values + (random_.Next() >> 24) * element.bytes, element.bytes);
-    }
-  }
+  constexpr decltype(&ChooseEach<1>) kChoose[] = {ChooseEach<1>, ChooseEach<2>, ChooseEach<4>, ChooseEach<8>};
+  const auto choose = kChoose[std::countr_zero(static_cast<unsigned>(element.bytes))];
+  for (int y = 0; y < height; ++y) choose(image + y * step, step, values, random_);
 }
 
 const void* Scene::ImageFor(size_t place, Value value) {
   const Parameter& parameter = function_.parameters[place];
-  const int step = StepOf(roi_.width, place);
+  const int step = StepOf(function_, roi_.width, place);
   const bool isOutput = parameter.name == "pDst" || parameter.name == "pSrcDst", isMask = parameter.name == "pMask";
   const int planes = parameter.type.ends_with("* const*") ? 4 : 1;
   auto pointers = std::make_unique<const void*[]>(planes);

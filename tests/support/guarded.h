@@ -8,30 +8,62 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <map>
 #include <memory>
+#include <vector>
 
 namespace test {
 
 enum class Guard { kAfter, kBefore };
 
+// Pages between two that cannot be read. Small pieces are kept for the next one of their size: mapping them costs more
+// than most calls of the library.
+class Pages {
+ public:
+  static uint8_t* Take(size_t room) {
+    auto& free = Kept(room);
+    if (free.empty()) return Map(room);
+    uint8_t* const pages = free.back();
+    free.pop_back();
+    return pages;
+  }
+  static void Return(uint8_t* pages, size_t room) {
+    if (room <= kMostKept) return Kept(room).push_back(pages);
+    munmap(pages - Page(), room + 2 * Page());
+  }
+  static size_t Page() { return static_cast<size_t>(sysconf(_SC_PAGESIZE)); }
+
+ private:
+  static constexpr size_t kMostKept = 1 << 16;
+
+  static std::vector<uint8_t*>& Kept(size_t room) {
+    static std::map<size_t, std::vector<uint8_t*>> kept;
+    return kept[room];
+  }
+  static uint8_t* Map(size_t room) {
+    void* const base = mmap(nullptr, room + 2 * Page(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    uint8_t* const pages = static_cast<uint8_t*>(base) + Page();
+    if (base == MAP_FAILED || mprotect(pages, room, PROT_READ | PROT_WRITE) != 0) abort();
+    return pages;
+  }
+};
+
 class Block {
  public:
-  explicit Block(size_t bytes, Guard guard = Guard::kAfter) : bytes_(bytes) {
-    const size_t page = sysconf(_SC_PAGESIZE), room = (bytes + page - 1) / page * page;
-    mapped_ = room + 2 * page;
-    base_ = static_cast<uint8_t*>(mmap(nullptr, mapped_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-    if (base_ == MAP_FAILED || mprotect(base_ + page, room, PROT_READ | PROT_WRITE) != 0) abort();
-    data_ = base_ + page + (guard == Guard::kAfter ? room - bytes : 0);
-  }
+  explicit Block(size_t bytes, Guard guard = Guard::kAfter)
+      : bytes_(bytes),
+        room_((bytes + Pages::Page() - 1) / Pages::Page() * Pages::Page()),
+        pages_(Pages::Take(room_)),
+        data_(pages_ + (guard == Guard::kAfter ? room_ - bytes : 0)) {}
   Block(const Block&) = delete;
-  ~Block() { munmap(base_, mapped_); }
+  ~Block() { Pages::Return(pages_, room_); }
 
   uint8_t* data() const { return data_; }
   size_t size() const { return bytes_; }
 
  private:
-  size_t bytes_, mapped_;
-  uint8_t *base_, *data_;
+  size_t bytes_, room_;
+  uint8_t *pages_, *data_;
 };
 
 // The same numbers on every machine.
