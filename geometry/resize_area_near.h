@@ -51,12 +51,24 @@ void BlendDown(const Image<const T>& rows, const NearAreas& down, ptrdiff_t n, f
   }
 }
 
+// 0 as long as all numbers that were taken are finite, then NaN.
+template <class D>
+struct Finite {
+  hn::Vec<D> check = hn::Zero(D());
+  HWY_INLINE void Take(hn::Vec<D> v) { check = hn::Add(check, hn::Sub(v, v)); }
+  HWY_INLINE bool AreAll() const { return hn::AllTrue(D(), hn::Eq(check, hn::Zero(D()))); }
+};
+
 // A strip of columns.
 class NearColumns {
  public:
-  static constexpr ptrdiff_t kMost = 512;
+  using Sum = float;
+  using Mean = float;
+  // Columns, and pixels that can be read behind those of a strip.
+  static constexpr ptrdiff_t kMost = 512, kBehind = 2 * kMostNear;
 
-  NearColumns(const ResizeAxis& axis, ptrdiff_t begin, ptrdiff_t n) : columns_(n) {
+  NearColumns(const ResizeRecord& record, ptrdiff_t begin, ptrdiff_t n) : columns_(n) {
+    const ResizeAxis& axis = record.columns;
     Coverage coverage = PeriodicCoverage(axis, begin);
     origin_ = coverage.first;
     for (ptrdiff_t x = 0; x < n; ++x, coverage = Next(axis, coverage)) {
@@ -74,7 +86,13 @@ class NearColumns {
   ptrdiff_t pixels() const { return pixels_; }
   ptrdiff_t columns() const { return columns_; }
 
-  // Averages of `sums`, behind which 2 * kMostNear pixels more can be read. False where not all are finite.
+  // sums[i] = the average at place i of the rows that are covered, of which `rows` begins with the first one.
+  template <class T>
+  void SumDown(const Image<const T>& rows, const Coverage& down, ptrdiff_t n, float* sums) const {
+    BlendDown(rows, NearAreas(down, down.first), n, sums);
+  }
+
+  // Averages of `sums`, behind which kBehind pixels more can be read. False where not all are finite.
   bool Average(const float* sums, int channels, float* out) const {
     if (channels == 1) return AverageSingles(sums, out);
     return channels == 3 ? AveragePixels<3>(sums, out) : AveragePixels<4>(sums, out);
@@ -83,14 +101,6 @@ class NearColumns {
  private:
   using D = hn::CappedTag<float, 8>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
-
-  // 0 as long as all numbers that were taken are finite, then NaN.
-  template <class Lanes>
-  struct Finite {
-    hn::Vec<Lanes> check = hn::Zero(Lanes());
-    HWY_INLINE void Take(hn::Vec<Lanes> v) { check = hn::Add(check, hn::Sub(v, v)); }
-    HWY_INLINE bool AreAll() const { return hn::AllTrue(Lanes(), hn::Eq(check, hn::Zero(Lanes()))); }
-  };
 
   bool AverageSingles(const float* sums, float* out) const {
     const D d;
@@ -115,22 +125,13 @@ class NearColumns {
   // As many columns as there are lanes, each from its first pixels in four successive sums.
   HWY_INLINE hn::Vec<D> BlendAt(const float* sums, ptrdiff_t x) const {
     const D d;
-    const hn::Repartition<double, D> pairs;
-    const int32_t* first = first_ + x;
-    const auto a = LoadFours(d, sums, first, 0), b = LoadFours(d, sums, first + 1, 0);
-    const auto c = LoadFours(d, sums, first + 2, 0), e = LoadFours(d, sums, first + 3, 0);
-    const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
-    const auto ce = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
-    const auto v0 = hn::BitCast(d, hn::InterleaveLower(pairs, ab, ce));
-    const auto v1 = hn::BitCast(d, hn::InterleaveUpper(pairs, ab, ce));
-    const auto upperAb = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
-    const auto v2 =
-        hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, hn::BitCast(pairs, hn::InterleaveUpper(d, c, e))));
+    hn::Vec<D> v[kMostNear];
+    TakeFours(d, sums, first_ + x, 0, kMostNear, [&](int k, auto samples) HWY_ATTR { v[k] = samples; });
     const auto isSwapped = hn::MaskFromVec(hn::BitCast(d, hn::LoadU(hn::Rebind<int32_t, D>(), isSecondAnchor_ + x)));
     const auto second = hn::LoadU(d, second_ + x), third = hn::LoadU(d, third_ + x);
-    const auto anchor = hn::IfThenElse(isSwapped, v1, v0);
-    const auto other = hn::IfThenElse(hn::Eq(second, hn::Zero(d)), anchor, hn::IfThenElse(isSwapped, v0, v1));
-    return Blended(anchor, other, hn::IfThenElse(hn::Eq(third, hn::Zero(d)), anchor, v2), second, third);
+    const auto anchor = hn::IfThenElse(isSwapped, v[1], v[0]);
+    const auto other = hn::IfThenElse(hn::Eq(second, hn::Zero(d)), anchor, hn::IfThenElse(isSwapped, v[0], v[1]));
+    return Blended(anchor, other, hn::IfThenElse(hn::Eq(third, hn::Zero(d)), anchor, v[2]), second, third);
   }
 
   template <int kChannels>

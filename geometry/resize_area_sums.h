@@ -3,9 +3,8 @@
 #pragma once
 
 #include "base/lanes.h"
-#include "base/map.h"
+#include "geometry/resize_area_down.h"
 #include "geometry/resize_call.h"
-#include "geometry/resize_coverage.h"
 
 namespace qvp::resize {
 
@@ -15,54 +14,13 @@ inline constexpr ptrdiff_t kLongRun = 8;
 // Columns whose areas are averaged at a time.
 inline constexpr ptrdiff_t kAreasAtOnce = 256;
 
-template <class V>
-HWY_INLINE V Sum(V v) {
-  return v;
-}
-template <class V, class... W>
-HWY_INLINE V Sum(V a, V b, W... more) {
-  return Sum(hn::Add(a, b), more...);
-}
-
-// sums[i] += each times the samples at place i of some rows.
-template <class D, class T, class... Row>
-HWY_INLINE void AddToSums(D d, hn::Vec<D> each, ptrdiff_t n, hn::TFromD<D>* sums, const T* first, const Row*... rows) {
-  MapRow<false>(
-      d, sums, n, [=](auto sum, auto v, auto... w) HWY_ATTR { return hn::Add(sum, hn::Mul(Sum(v, w...), each)); },
-      static_cast<const hn::TFromD<D>*>(sums), first, rows...);
-}
-
-// sums[i] = the samples at place i of the rows that are covered, by their parts. The first one is row 0.
-template <class D, class T>
-void SumCovered(D d, const Image<const T>& rows, const Coverage& down, ptrdiff_t n, hn::TFromD<D>* sums) {
-  using S = hn::TFromD<D>;
-  const auto begin = hn::Set(d, static_cast<S>(down.begin)), each = hn::Set(d, static_cast<S>(down.each));
-  if (down.end > 0) {
-    const auto end = hn::Set(d, static_cast<S>(down.end));
-    MapRow<false>(
-        d, sums, n, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, begin), hn::Mul(b, end)); }, rows.Row(0),
-        rows.Row(1 + down.whole));
-  } else {
-    MapRow<false>(
-        d, sums, n, [=](auto a) HWY_ATTR { return hn::Mul(a, begin); }, rows.Row(0));
-  }
-  const auto row = [&](ptrdiff_t y) { return rows.Row(y); };
-  ptrdiff_t y = 1;
-  for (; y + 7 <= down.whole; y += 8) {
-    AddToSums(d, each, n, sums, row(y), row(y + 1), row(y + 2), row(y + 3), row(y + 4), row(y + 5), row(y + 6),
-              row(y + 7));
-  }
-  for (; y + 2 <= down.whole; y += 3) AddToSums(d, each, n, sums, row(y), row(y + 1), row(y + 2));
-  for (; y <= down.whole; ++y) AddToSums(d, each, n, sums, row(y));
-}
-
 // The sums down of a row of areas, of one piece of source pixels after the other.
 template <class S, class T>
 class SumPieces {
  public:
   // `rows` begin with the first one that is covered, at source column 0.
-  SumPieces(const Image<const T>& rows, const Coverage& down, ptrdiff_t end)
-      : rows_(rows), down_(down), end_(end), channels_(Channels(rows.layout)) {}
+  SumPieces(const Image<const T>& rows, const ResizeAxis& axis, const Coverage& down, ptrdiff_t end)
+      : rows_(rows), axis_(axis), down_(down), end_(end), channels_(Channels(rows.layout)) {}
 
   // The sums of the pixels from `first` on up to until(), which are at least `count`.
   const S* From(ptrdiff_t first, ptrdiff_t count = 1) {
@@ -78,10 +36,16 @@ class SumPieces {
     begin_ = first;
     until_ = std::min(end_, first + kSamples / channels_);
     const Image<const T> rows{rows_.data + first * channels_, rows_.step, rows_.layout};
-    SumCovered(hn::ScalableTag<S>(), rows, down_, (until_ - first) * channels_, sums_);
+    const ptrdiff_t n = (until_ - first) * channels_;
+    if constexpr (std::is_same_v<S, float>) {
+      MeanDown(rows, axis_, down_, n, sums_);
+    } else {
+      SumCovered(hn::ScalableTag<S>(), rows, down_, n, sums_);
+    }
   }
 
   Image<const T> rows_;
+  const ResizeAxis& axis_;
   Coverage down_;
   ptrdiff_t end_, channels_, begin_ = 0, until_ = 0;
   S sums_[kSamples];
@@ -133,15 +97,15 @@ HWY_INLINE void AverageAcross(SumPieces<S, T>& pieces, const Coverage& across, d
   total.Average(across.each, across.Total() * down, out);
 }
 
-// Averages of n destination pixels in row y, whose columns cover `across`, to dst.
+// Averages of n destination pixels, whose rows cover `down` and whose columns cover `across`, to dst.
 template <class S, int kChannels, class T>
-void AverageRow(const ResizeCall<T>& call, const Tile& tile, const Coverage& down, const Coverage* across, ptrdiff_t n,
-                T* dst) {
+void AverageRow(const ResizeCall<T>& call, const ResizeAxis& rows, const Tile& tile, const Coverage& down,
+                const Coverage* across, ptrdiff_t n, T* dst) {
   double averages[kAreasAtOnce * kChannels];
   const Coverage& last = across[n - 1];
-  SumPieces<S, T> pieces({SourceRow(call, tile, down.first), call.src.step, call.src.layout}, down,
+  SumPieces<S, T> pieces({SourceRow(call, tile, down.first), call.src.step, call.src.layout}, rows, down,
                          last.first + last.Pixels());
-  const double total = down.Total();
+  const double total = std::is_same_v<S, float> ? DivisorOf(rows) : down.Total();
   for (ptrdiff_t x = 0; x < n; ++x) {
     double* out = averages + x * kChannels;
     if (kChannels == 1 && across[x].whole >= kLongRun) {
@@ -160,6 +124,22 @@ auto AverageRowFor(Layout layout) {
   return layout == Layout::kC3 ? AverageRow<S, 3, T> : AverageRow<S, 4, T>;
 }
 
+// Averages again, in double, what is infinite or NaN: a difference, its multiple or a sum may have left the range of
+// float.
+inline void AverageAgain(const ResizeCall<float>& call, const ResizeRecord& record, const Tile& tile, ptrdiff_t x,
+                         ptrdiff_t y, ptrdiff_t n) {
+  const int channels = Channels(call.dst.layout);
+  float* row = call.dst.Row(y) + x * channels;
+  for (ptrdiff_t i = 0; i < n * channels; ++i) {
+    if (row[i] - row[i] == 0) continue;
+    float pixel[4];
+    const Coverage across = PeriodicCoverage(record.columns, tile.x + x + i / channels);
+    AverageRowFor<double, float>(call.src.layout)(call, record.rows, tile, PeriodicCoverage(record.rows, tile.y + y),
+                                                  &across, 1, pixel);
+    row[i] = pixel[i % channels];
+  }
+}
+
 // The pixels of a tile, for sums down of type S.
 template <class S, class T>
 void AverageAreasBy(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
@@ -171,7 +151,8 @@ void AverageAreasBy(const ResizeCall<T>& call, const ResizeRecord& record, const
     for (ptrdiff_t i = 0; i < n; ++i) across[i] = CoverageOf(record, record.columns, tile.x + x + i);
     for (ptrdiff_t y = 0; y < tile.height; ++y) {
       const Coverage down = CoverageOf(record, record.rows, tile.y + y);
-      average(call, tile, down, across, n, call.dst.Row(y) + x * Channels(layout));
+      average(call, record.rows, tile, down, across, n, call.dst.Row(y) + x * Channels(layout));
+      if constexpr (std::is_same_v<S, float>) AverageAgain(call, record, tile, x, y, n);
     }
   }
 }
@@ -186,6 +167,8 @@ template <class T>
 void AverageAreas(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if constexpr (std::is_integral_v<T>) {
     if (AreSumsShort<T>(record)) return AverageAreasBy<int32_t>(call, record, tile);
+  } else {
+    if (AreMeansFloat(record)) return AverageAreasBy<float>(call, record, tile);
   }
   AverageAreasBy<double>(call, record, tile);
 }

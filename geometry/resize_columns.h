@@ -38,6 +38,9 @@ struct ColumnPlan {
   }
 };
 
+// In place of a number of taps: any up to a block, and any above that.
+inline constexpr int kFew = 0, kMany = -1;
+
 constexpr int kMostChannels = 4;
 
 // Adds up the taps [begin, end) one by one: the products of samples(k), as many as there are channels, with weight(k).

@@ -194,13 +194,16 @@ void FilterStagedAcross(D d, const Taps& taps, ptrdiff_t to, const Weights& weig
   FilterStagedBy<false>(d, taps, to, weights, rows);
 }
 
-template <bool kAreMany, class D, class T, class Weights>
-void FilterDirectly(D d, const Taps taps, ptrdiff_t to, const Weights weights, const PixelRows<D, T, 1>& from) {
+// With 2 or 3 taps that are known all are read; kCount is kFew or kMany else.
+template <int kCount, class D, class T, class Weights>
+void FilterDirectly(D d, const Taps all, ptrdiff_t to, const Weights weights, const PixelRows<D, T, 1>& from) {
   const PixelRows<D, T, 1> rows = from;  // a copy, which stores cannot change
+  Taps taps = all;
+  if (kCount > 0) taps.count = taps.certain = kCount;
   for (ptrdiff_t x = taps.from; x < to; ++x) {
     hn::Vec<D> sum;
     const auto pixel = [&](int, int k, int) HWY_ATTR { return rows.Load(taps.first[x] + k, 0); };
-    FilterPixels<kAreMany, 1, 1>(d, taps, weights, x, pixel, &sum);
+    FilterPixels<kCount == kMany, 1, 1>(d, taps, weights, x, pixel, &sum);
     rows.template Store<1>(&sum, x);
   }
 }
@@ -211,8 +214,12 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights& weights, 
   const PixelRows<D, T, 1> rows(from, out, plan.channels);
   const Taps& taps = plan.taps;
   if (AreStaged<T>(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
-  if (taps.count > kBlockTaps) return FilterDirectly<true>(d, taps, plan.to, weights, rows);
-  FilterDirectly<false>(d, taps, plan.to, weights, rows);
+  const bool areKnown = taps.certain == taps.count;
+  const auto filter = taps.count > kBlockTaps          ? FilterDirectly<kMany, D, T, Weights>
+                      : areKnown && taps.count == 2 ? FilterDirectly<2, D, T, Weights>
+                      : areKnown && taps.count == 3 ? FilterDirectly<3, D, T, Weights>
+                                                    : FilterDirectly<kFew, D, T, Weights>;
+  filter(d, taps, plan.to, weights, rows);
 }
 
 }  // namespace qvp::resize

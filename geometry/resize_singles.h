@@ -13,6 +13,24 @@ HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdif
   return FromBlocks(d, four);
 }
 
+// take(k, samples) for the taps [k, k + 4) of as many columns as lanes, up to `count`: four samples of each are transposed
+// into a vector for each tap.
+template <class D, class T, class Take>
+HWY_INLINE void TakeFours(D d, const T* row, const int32_t* places, int k, int count, const Take& take) {
+  const hn::Repartition<double, D> pairs;
+  const auto a = LoadFours(d, row, places, k), b = LoadFours(d, row, places + 1, k);
+  const auto c = LoadFours(d, row, places + 2, k), e = LoadFours(d, row, places + 3, k);
+  const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
+  const auto ce = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
+  take(k, hn::BitCast(d, hn::InterleaveLower(pairs, ab, ce)));
+  if (k + 1 < count) take(k + 1, hn::BitCast(d, hn::InterleaveUpper(pairs, ab, ce)));
+  if (k + 2 >= count) return;
+  const auto upperAb = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
+  const auto upperCe = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
+  take(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
+  if (k + 3 < count) take(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
+}
+
 // The total of the blocks before tap k, of which the last one is `block`.
 template <class V>
 HWY_INLINE BlockSum<V> NextTotal(BlockSum<V> total, V block, int k) {
@@ -26,14 +44,9 @@ HWY_INLINE V WithLast(BlockSum<V> total, V block) {
   return total.Rounded();
 }
 
-// In place of a number of taps: any up to a block, and any above that.
-inline constexpr int kFew = 0, kMany = -1;
-
-// One channel: as many columns as lanes, four taps at a time, which are transposed into a vector for each tap. An even
-// number of taps that is known has no tap that may be left out.
+// One channel: as many columns as lanes. An even number of taps that is known has no tap that may be left out.
 template <int kCount, class D, class T, class Weights>
 HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weights, const T* row, ptrdiff_t x) {
-  const hn::Repartition<double, D> pairs;
   const int32_t* first = taps.first + x;
   const int count = kCount > 0 ? kCount : taps.count;
   const int certain = kCount % 2 == 0 && kCount > 0 ? kCount : taps.certain;
@@ -49,17 +62,7 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
   };
   for (int k = 0; k < count; k += 4) {
     if (kCount == kMany && k > 0 && k % kBlockTaps == 0) total = NextTotal(total, sum, k);
-    const auto a = LoadFours(d, row, first, k), b = LoadFours(d, row, first + 1, k);
-    const auto c = LoadFours(d, row, first + 2, k), e = LoadFours(d, row, first + 3, k);
-    const auto ab = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
-    const auto ce = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
-    add(k, hn::BitCast(d, hn::InterleaveLower(pairs, ab, ce)));
-    if (k + 1 < count) add(k + 1, hn::BitCast(d, hn::InterleaveUpper(pairs, ab, ce)));
-    if (k + 2 >= count) break;
-    const auto upperAb = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
-    const auto upperCe = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
-    add(k + 2, hn::BitCast(d, hn::InterleaveLower(pairs, upperAb, upperCe)));
-    if (k + 3 < count) add(k + 3, hn::BitCast(d, hn::InterleaveUpper(pairs, upperAb, upperCe)));
+    TakeFours(d, row, first, k, count, add);
   }
   return kCount == kMany ? WithLast(total, sum) : sum;
 }

@@ -4,7 +4,7 @@
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_area_near.h"
-#include "geometry/resize_area_sums.h"
+#include "geometry/resize_area_parts.h"
 #include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
 
@@ -213,53 +213,59 @@ bool ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const T
   return true;
 }
 
+// Whether no area has more than three pixels an axis.
 bool IsNear(const ResizeRecord& record) {
   return !record.IsShifted() && std::max(record.columns.taps, record.rows.taps) <= kMostNear;
 }
 
-// Averages again, in double, what is infinite or NaN: a difference or its multiple may have left the range of float.
-void AverageAgain(const ResizeCall<float>& call, const ResizeRecord& record, const Tile& tile, ptrdiff_t x, ptrdiff_t y,
-                  ptrdiff_t n) {
-  const int channels = Channels(call.dst.layout);
-  float* row = call.dst.Row(y) + x * channels;
-  for (ptrdiff_t i = 0; i < n * channels; ++i) {
-    if (row[i] - row[i] == 0) continue;
-    float pixel[4];
-    const Coverage across = PeriodicCoverage(record.columns, tile.x + x + i / channels);
-    AverageRowFor<double, float>(call.src.layout)(call, tile, PeriodicCoverage(record.rows, tile.y + y), &across, 1,
-                                                  pixel);
-    row[i] = pixel[i % channels];
-  }
-}
-
-template <class T>
-void AverageNear(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+// Strip by strip, each with its sums of rows, by a class of columns.
+template <class Columns, class T>
+void AverageStrips(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  using Mean = typename Columns::Mean;
   const int channels = Channels(call.src.layout);
   const ResizeAxis& axis = record.columns;
-  // A strip covers up to two pixels more than its ratio tells, and 2 * kMostNear behind them can be read.
-  const auto pixels = static_cast<int64_t>(kStripFloats / channels - 2 * kMostNear - 2);
-  const auto most = std::min(static_cast<ptrdiff_t>(pixels * axis.q / axis.p), NearColumns::kMost);
-  float sums[kStripFloats];
+  // A strip covers up to two pixels more than its ratio tells.
+  const auto pixels = static_cast<int64_t>(kStripFloats / channels - Columns::kBehind - 2);
+  const auto most = std::min(static_cast<ptrdiff_t>(pixels * axis.q / axis.p), Columns::kMost);
+  typename Columns::Sum sums[kStripFloats];
   for (ptrdiff_t x = 0; x < tile.width; x += most) {
-    const NearColumns columns(axis, tile.x + x, std::min(most, tile.width - x));
+    const Columns columns(record, tile.x + x, std::min(most, tile.width - x));
     const ptrdiff_t n = columns.pixels() * channels;
-    std::fill_n(sums + n, 2 * kMostNear * channels, 0.0f);
+    std::fill_n(sums + n, Columns::kBehind * channels, typename Columns::Sum());
     for (ptrdiff_t y = 0; y < tile.height; ++y) {
-      const Coverage coverage = PeriodicCoverage(record.rows, tile.y + y);
-      const T* row = SourceRow(call, tile, coverage.first) + columns.origin() * channels;
-      BlendDown(Image<const T>{row, call.src.step, call.src.layout}, NearAreas(coverage, coverage.first), n, sums);
+      const Coverage down = PeriodicCoverage(record.rows, tile.y + y);
+      const T* row = SourceRow(call, tile, down.first) + columns.origin() * channels;
+      columns.SumDown(Image<const T>{row, call.src.step, call.src.layout}, down, n, sums);
       T* dst = call.dst.Row(y) + x * channels;
-      if constexpr (std::is_same_v<T, float>) {
-        if (!columns.Average(sums, channels, dst)) AverageAgain(call, record, tile, x, y, columns.columns());
+      bool areFinite;
+      if constexpr (std::is_same_v<T, Mean>) {
+        areFinite = columns.Average(sums, channels, dst);
       } else {
-        float averages[4 * NearColumns::kMost];
-        columns.Average(sums, channels, averages);
+        Mean means[4 * Columns::kMost];
+        areFinite = columns.Average(sums, channels, means);
         MapRow<false>(
-            hn::ScalableTag<float>(), dst, columns.columns() * channels, [](auto v) { return v; },
-            static_cast<const float*>(averages));
+            hn::ScalableTag<Mean>(), dst, columns.columns() * channels, [](auto v) { return v; },
+            static_cast<const Mean*>(means));
+      }
+      if constexpr (std::is_same_v<T, float>) {
+        if (!areFinite) AverageAgain(call, record, tile, x, y, columns.columns());
       }
     }
   }
+}
+
+// By parts of pixels, if there is room for the sums of rows and not too many pixels across. False if not.
+template <class T>
+bool AverageParts(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  if (record.IsShifted() || record.columns.taps > kMostParts) return false;
+  if constexpr (std::is_integral_v<T>) {
+    if (!AreSumsShort<T>(record)) return false;
+    AverageStrips<PartColumns<int32_t>>(call, record, tile);
+  } else {
+    if (!AreMeansFloat(record)) return false;
+    AverageStrips<PartColumns<float>>(call, record, tile);
+  }
+  return true;
 }
 
 template <class T>
@@ -271,7 +277,8 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   if constexpr (std::is_integral_v<T>) {
     if (AreSumsExact<T>(record) && ResizeStrips(call, record, tile)) return;
   }
-  if (IsNear(record)) return AverageNear(call, record, tile);
+  if (IsNear(record)) return AverageStrips<NearColumns>(call, record, tile);
+  if (AverageParts(call, record, tile)) return;
   AverageAreas(call, record, tile);
 }
 
