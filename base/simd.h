@@ -5,6 +5,9 @@
 
 static_assert(HWY_TARGET == QVP_VECTOR_TARGET, "the compiler's flags do not select this build's vector target");
 
+// For lambdas: one that is called makes memory of what it refers to.
+#define QVP_INLINED __attribute__((always_inline))
+
 namespace qvp {
 namespace hn = hwy::HWY_NAMESPACE;
 

@@ -5,9 +5,6 @@
 
 #include "base/simd.h"
 
-// For lambdas: one that is called makes memory of what it refers to.
-#define QVP_INLINED __attribute__((always_inline))
-
 namespace qvp::filter {
 
 // Calls body(0), body(1) ... with constants, so that arrays of vectors stay in registers.

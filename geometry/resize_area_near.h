@@ -126,7 +126,7 @@ class NearColumns {
   HWY_INLINE hn::Vec<D> BlendAt(const float* sums, ptrdiff_t x) const {
     const D d;
     hn::Vec<D> v[kMostNear];
-    TakeFours(d, sums, first_ + x, 0, kMostNear, [&](int k, auto samples) HWY_ATTR { v[k] = samples; });
+    TakeFours(d, sums, first_ + x, 0, kMostNear, [&](int k, auto samples) HWY_ATTR QVP_INLINED { v[k] = samples; });
     const auto isSwapped = hn::MaskFromVec(hn::BitCast(d, hn::LoadU(hn::Rebind<int32_t, D>(), isSecondAnchor_ + x)));
     const auto second = hn::LoadU(d, second_ + x), third = hn::LoadU(d, third_ + x);
     const auto anchor = hn::IfThenElse(isSwapped, v[1], v[0]);

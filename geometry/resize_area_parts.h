@@ -113,7 +113,7 @@ class PartColumns {
       for (int i = 0; i < 2; ++i) v[i] = hn::LoadU(wide, parts + x + i * kWide);
     };
     Total<Wide, 2> total;
-    const auto take = [&](int k, hn::Vec<D> samples) HWY_ATTR {
+    const auto take = [&](int k, hn::Vec<D> samples) HWY_ATTR QVP_INLINED {
       const auto of = hn::BitCast(d, samples);
       const V v[2] = {hn::PromoteTo(wide, hn::LowerHalf(half, of)), hn::PromoteTo(wide, hn::UpperHalf(half, of))};
       if (k > 0 && k < tables.whole) return total.AddWhole(v);

@@ -49,14 +49,19 @@ constexpr int kMostChannels = 4;
 template <class F, class Count, class Samples, class Weight>
 HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, const Samples& samples,
                           const Weight& weight, F* sums) {
-  for (int k = begin; k < end; ++k) {
+  const int certain = std::min(taps.certain, end);
+  int k = begin;
+  // To -0 anything can be added without a change.
+  for (int c = 0; c < channels; ++c) sums[c] = k < certain ? -F{0} : F{0};
+  for (; k < certain; ++k) {
     const F w = static_cast<F>(weight(k));
-    const bool isRead = k < taps.certain || w != 0;
-    const auto sample = samples(k, isRead);
-    for (int c = 0; c < channels; ++c) {
-      const F product = isRead ? static_cast<F>(sample[c]) * w : F{0};
-      sums[c] = k > begin ? sums[c] + product : begin == 0 || k < taps.certain ? product : F{0} + product;
-    }
+    const auto pixel = samples(k, true);
+    for (int c = 0; c < channels; ++c) sums[c] += static_cast<F>(pixel[c]) * w;
+  }
+  for (; k < end; ++k) {
+    const F w = static_cast<F>(weight(k));
+    const auto pixel = samples(k, w != 0);
+    for (int c = 0; c < channels; ++c) sums[c] += w != 0 ? static_cast<F>(pixel[c]) * w : F{0};
   }
 }
 
@@ -80,7 +85,7 @@ template <bool kAreMany, class F, class Count, class T, class Weights>
 HWY_INLINE void FilterPixel(const ColumnPlan<T>& plan, Count channels, const Weights& weights, const T* row,
                             ptrdiff_t x, F* sums) {
   const auto pixel = [&](int k, bool isRead)
-                         HWY_ATTR { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
+                         HWY_ATTR QVP_INLINED { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
   AddTaps<kAreMany>(
       plan.taps, channels, pixel, [&](int k) HWY_ATTR { return weights.At(k, x); }, sums);
 }

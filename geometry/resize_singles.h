@@ -52,7 +52,7 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
   const int certain = kCount % 2 == 0 && kCount > 0 ? kCount : taps.certain;
   auto sum = hn::Zero(d);
   BlockSum<hn::Vec<D>> total;
-  const auto add = [&](int k, auto samples) HWY_ATTR {
+  const auto add = [&](int k, auto samples) HWY_ATTR QVP_INLINED {
     const auto w = weights.Load(d, k, x);
     if (k >= certain) samples = hn::IfThenElseZero(hn::Ne(w, hn::Zero(d)), samples);
     const auto product = hn::Mul(samples, w);
