@@ -80,7 +80,8 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   WalkDown(tile.height, needs, filter, combine);
 }
 
-// The same for doubles, which have no room for filtered rows: each output is computed from the source.
+// The same for doubles and any number of taps, which have no room for filtered rows: each output is computed from the
+// source.
 template <class Across, class Down>
 void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile,
                         const Across& across, const Down& down) {

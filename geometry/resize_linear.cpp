@@ -166,14 +166,77 @@ void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   FilterTile(call, record, tile, columns, PlaneOf(down, tile.height, room + RowFloats(tile.width)), rows);
 }
 
-void ResizeDouble(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile) {
-  double* const room = reinterpret_cast<double*>(AtBoundary(call.buffer));
-  const LinearWeights across(record, record.columns, tile.x), down(record, record.rows, tile.y);
-  struct Down {
-    const LinearWeights& weights;
-    double At(int k, ptrdiff_t d) const { return k == 0 ? 1 - weights.Second(d) : weights.Second(d); }
+// A strip of columns of doubles: the places of both taps of each, from the beginning of a source row.
+class DoubleColumns {
+ public:
+  static constexpr ptrdiff_t kMost = 256;
+
+  // `second` are the weights of the second taps.
+  DoubleColumns(const Taps& taps, const Edge& edge, int channels, const double* second)
+      : columns_(taps.length), channels_(channels), second_(second) {
+    for (ptrdiff_t x = 0; x < columns_; ++x) {
+      left_[x] = edge(taps.first[x]) * channels;
+      right_[x] = edge(taps.first[x] + ptrdiff_t{1}) * channels;
+    }
+  }
+
+  void Filter(const double* row, double* out) const {
+    if (channels_ == 1) return FilterEach<1>(row, out);
+    channels_ == 3 ? FilterEach<3>(row, out) : FilterEach<4>(row, out);
+  }
+
+ private:
+  template <int kChannels>
+  void FilterEach(const double* row, double* out) const {
+    const double* second = second_;
+    const ptrdiff_t n = columns_;
+    for (ptrdiff_t x = 0; x < n; ++x) {
+      const double *l = row + left_[x], *r = row + right_[x], w = second[x];
+      for (int c = 0; c < kChannels; ++c) out[x * kChannels + c] = l[c] * (1 - w) + r[c] * w;
+    }
+  }
+
+  ptrdiff_t columns_;
+  int channels_;
+  const double* second_;
+  ptrdiff_t left_[kMost], right_[kMost];
+};
+
+// The work buffer has no room for two rows of doubles: the columns from `begin` on have them on the stack.
+void ResizeDoubleStrip(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile, ptrdiff_t begin,
+                       const DoubleColumns& columns, ptrdiff_t samples) {
+  const Taps rowTaps(record, record.rows, tile.y, tile.height);
+  const LinearWeights weights(record, record.rows, tile.y);
+  const Edge edge = RowEdge(call.border, record);
+  double rows[2 * kMostChannels * DoubleColumns::kMost];
+  const RowRing<double> ring{rows, kMostChannels * DoubleColumns::kMost, 2};
+  const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
+    for (; position < end; ++position) columns.Filter(SourceRow(call, tile, edge(position)), ring.Row(position));
   };
-  FilterTileDirectly(call, record, tile, PlaneOf(across, tile.width, room), Down{down});
+  const auto blend = [&](ptrdiff_t y) {
+    const hn::ScalableTag<double> d;
+    const auto [upper, lower] = ring.Rows<2>(rowTaps.first[y]);
+    const double second = weights.Second(y);
+    const auto w0 = hn::Set(d, 1 - second), w1 = hn::Set(d, second);
+    double* dst = call.dst.Row(y) + begin * Channels(call.dst.layout);
+    MapRow<false>(
+        d, dst, samples, [=](auto a, auto b) HWY_ATTR { return hn::Add(hn::Mul(a, w0), hn::Mul(b, w1)); }, upper,
+        lower);
+  };
+  const auto needs = [&](ptrdiff_t y) { return Extent{rowTaps.first[y], rowTaps.first[y] + ptrdiff_t{2}}; };
+  WalkDown(tile.height, needs, filter, blend);
+}
+
+void ResizeDouble(const ResizeCall<double>& call, const ResizeRecord& record, const Tile& tile) {
+  const int channels = Channels(call.src.layout);
+  const LinearWeights weights(record, record.columns, tile.x);
+  const auto across = PlaneOf(weights, tile.width, reinterpret_cast<double*>(AtBoundary(call.buffer)));
+  for (ptrdiff_t x = 0; x < tile.width; x += DoubleColumns::kMost) {
+    const ptrdiff_t n = std::min(tile.width - x, DoubleColumns::kMost);
+    const Taps taps(record, record.columns, tile.x + x, n);
+    const DoubleColumns columns(taps, ColumnEdge(call.border, record), channels, across.second + x);
+    ResizeDoubleStrip(call, record, tile, x, columns, n * channels);
+  }
 }
 
 template <class T>
