@@ -129,8 +129,8 @@ inline void MeanDown(const Image<const float>& rows, const ResizeAxis& axis, con
     return Blended(anchor, a, b, begin, end);
   };
   // What is not covered has weight 0, and a row that is.
-  MapRow<false>(
-      d, sums, n, mean, static_cast<const float*>(sums), rows.Row(0), rows.Row(down.end > 0 ? 1 + down.whole : 0));
+  MapRow<false>(d, sums, n, mean, static_cast<const float*>(sums), rows.Row(0),
+                rows.Row(down.end > 0 ? 1 + down.whole : 0));
 }
 
 }  // namespace qvp::resize

@@ -84,8 +84,9 @@ HWY_INLINE void AddTaps(const Taps& taps, Count channels, const Samples& samples
 template <bool kAreMany, class F, class Count, class T, class Weights>
 HWY_INLINE void FilterPixel(const ColumnPlan<T>& plan, Count channels, const Weights& weights, const T* row,
                             ptrdiff_t x, F* sums) {
-  const auto pixel = [&](int k, bool isRead)
-                         HWY_ATTR QVP_INLINED { return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row; };
+  const auto pixel = [&](int k, bool isRead) HWY_ATTR QVP_INLINED {
+    return isRead ? row + plan.edge(plan.taps.first[x] + k) * channels : row;
+  };
   AddTaps<kAreMany>(
       plan.taps, channels, pixel, [&](int k) HWY_ATTR { return weights.At(k, x); }, sums);
 }

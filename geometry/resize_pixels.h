@@ -215,7 +215,7 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights& weights, 
   const Taps& taps = plan.taps;
   if (AreStaged<T>(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
   const bool areKnown = taps.certain == taps.count;
-  const auto filter = taps.count > kBlockTaps          ? FilterDirectly<kMany, D, T, Weights>
+  const auto filter = taps.count > kBlockTaps       ? FilterDirectly<kMany, D, T, Weights>
                       : areKnown && taps.count == 2 ? FilterDirectly<2, D, T, Weights>
                       : areKnown && taps.count == 3 ? FilterDirectly<3, D, T, Weights>
                                                     : FilterDirectly<kFew, D, T, Weights>;

@@ -13,8 +13,8 @@ HWY_INLINE hn::Vec<D> LoadFours(D d, const T* row, const int32_t* places, ptrdif
   return FromBlocks(d, four);
 }
 
-// take(k, samples) for the taps [k, k + 4) of as many columns as lanes, up to `count`: four samples of each are transposed
-// into a vector for each tap.
+// take(k, samples) for the taps [k, k + 4) of as many columns as lanes, up to `count`: four samples of each are
+// transposed into a vector for each tap.
 template <class D, class T, class Take>
 HWY_INLINE void TakeFours(D d, const T* row, const int32_t* places, int k, int count, const Take& take) {
   const hn::Repartition<double, D> pairs;

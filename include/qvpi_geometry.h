@@ -90,13 +90,17 @@ QvpStatus qvpiResizeGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType 
  *  @{ */
 /** Bytes of the buffer for a call.
  *
+ *  The query goes by the record's Init: `_L` for those with `_L`, and any without it for those without, whatever its
+ *  type. A record of the other kind is refused and no size is written.
+ *
  *  @param pSpec record
  *  @param dstSize size of the largest tile; what is beyond the destination does not count
  *  @param numChannels channels of a pixel
  *  @param pBufSize receives bytes; 0 when these cannot be represented
- *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions. qvpStatusSize: a length
- *          below 1. qvpStatusChannel: not 1 to 4 channels. qvpStatusSizeOverflow: 2147483647 bytes or more, `_L` on
- *          64 bits: beyond the type. Warning qvpStatusSizeWarning: `dstSize` is larger than the destination.
+ *  @return qvpStatusNullPointer. qvpStatusContextMatch: not a record of these functions, `_L`: not one of an Init with
+ *          `_L`, and else one of such an Init. qvpStatusSize: a length below 1. qvpStatusChannel: not 1 to 4 channels.
+ *          qvpStatusSizeOverflow: 2147483647 bytes or more, `_L` on 64 bits: beyond the type. Warning
+ *          qvpStatusSizeWarning: `dstSize` is larger than the destination.
  */
 QvpStatus qvpiResizeGetBufferSize_8u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);
 QvpStatus qvpiResizeGetBufferSize_16u(const QvpiResizeSpec* pSpec, QvpiSize dstSize, int numChannels, int* pBufSize);

@@ -595,6 +595,22 @@ TEST(Resize, ConstantsStay) {
   }
 }
 
+// Sums of any number of whole rows and columns, with partly covered ones beside them and without.
+TEST(Resize, ConstantsStayAtEveryRatio) {
+  for (int n = 1; n <= 40; ++n) {
+    const QvpiSize sizes[][2] = {{{3 * n + 2, 3 * n + 1}, {3, 3}}, {{n + 9, 2 * n}, {2, 2}}, {{11, 7 * n + 3}, {9, 7}}};
+    for (const auto& [from, to] : sizes) {
+      if (from.width < to.width || from.height < to.height) continue;
+      for (const float value : {0.1f, 1.9999999f, 1.3333333f, 1.6000001f, 3.4e38f}) {
+        const double ulp = std::nextafter(value, INFINITY) - value;
+        for (const char* layout : {"_C1", "_C3"})
+          CheckConstant(kSuper, Find(std::string("Super_32f") + layout), from, to, value, 2 * ulp);
+      }
+      CheckConstant(kSuper, Find("Super_16u_C1"), from, to, 65535, 0);
+    }
+  }
+}
+
 // Averages of integers are the exact ones, rounded to the nearest, with ties to even.
 TEST(Resize, AveragesOfWordsAreExact) {
   const QvpiSize ratios[] = {{2, 1}, {3, 2}, {4, 3}, {6, 5}, {5, 1}, {16, 1}, {40, 3}, {9, 2}, {270, 1}};
@@ -626,16 +642,16 @@ TEST(Resize, AveragesOfWordsAreExact) {
 // Means are finite where a sum or a difference is not, and infinities and NaN stay in the areas that cover them.
 TEST(Resize, AveragesOfExtremeFloats) {
   const float big = 3.4e38f, inf = INFINITY;
-  for (const QvpiSize to : {QvpiSize{3, 2}, {2, 1}, {4, 1}, {6, 2}}) {
+  for (const QvpiSize to : {QvpiSize{3, 5}, {2, 2}, {4, 2}, {6, 5}, {5, 3}, {1, 1}}) {
     for (const float other : {-big, big, inf, -inf, NAN}) {
-      float src[4][12], dst[2][6];
-      std::fill_n(src[0], 48, 1.0f);
+      float src[10][12], dst[5][6];
+      std::fill_n(src[0], 120, 1.0f);
       src[0][0] = big;
       src[1][1] = other;
-      const Record record(kSuper, Kind::k32f, {12, 4}, to);
+      const Record record(kSuper, Kind::k32f, {12, 10}, to);
       std::vector<uint8_t> work(record.BufferSize(to, 1));
       ASSERT_EQ(qvpiResizeSuper_32f_C1R(src[0], 48, dst[0], 24, {0, 0}, to, record.get(), work.data()), 0);
-      const double w = 12.0 / to.width, h = 4.0 / to.height;
+      const double w = 12.0 / to.width, h = 10.0 / to.height;
       const double exact = (double{big} + other + w * h - 2) / (w * h);
       for (int y = 0; y < to.height; ++y) {
         for (int x = 0; x < to.width; ++x) {
