@@ -243,11 +243,8 @@ using namespace qvp;
 using namespace qvp::mirror;
 
 #define MIRROR(type, layout)                                                                                        \
-  QvpStatus qvpiMirror_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,       \
-                                            QvpiSize roiSize, QvpiAxis flip) {                                      \
-    return Mirror(AsBytes(pSrc, srcStep, Layout::k##layout), AsBytes(pDst, dstStep, Layout::k##layout), roiSize,    \
-                  flip);                                                                                            \
-  }                                                                                                                 \
+  QVP_MAP(AsBytes, qvpiMirror_##type##_##layout##R, type, layout, type, layout, int, QvpiSize, Mirror,              \
+          (QvpiAxis flip), (flip))                                                                                  \
   QvpStatus qvpiMirror_##type##_##layout##IR(Qvp##type* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiAxis flip) { \
     return MirrorInPlace(AsBytes(pSrcDst, srcDstStep, Layout::k##layout), roiSize, flip);                           \
   }

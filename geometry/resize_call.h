@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/border.h"
+#include "base/export.h"
 #include "base/image.h"
 #include "geometry/resize_record.h"
 
@@ -120,32 +121,24 @@ struct Taps {
 
 }  // namespace qvp::resize
 
-// The parameter lists of resize calls: impl(call) for methods without a border, impl(border, call) for those with one.
-#define QVP_RESIZE_CALL(type, layout, form)                                                                          \
-  ResizeCall<Qvp##type> {                                                                                            \
-    {pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, dstOffset, dstSize, pSpec, pBuffer, form \
+// The parameter lists of resize calls: impl(call) for methods without a border, impl(call, border) for those with one;
+// each function plain and in its `_L` form, whose types have that letter, too.
+#define QVP_RESIZE_FORM(name, end, type, layout, Int, L, form, impl, parameters, arguments)                    \
+  QvpStatus name##_##type##_##layout##R##end(const Qvp##type* pSrc, Int srcStep, Qvp##type* pDst, Int dstStep, \
+                                             QvpiPoint##L dstOffset, QvpiSize##L dstSize QVP_AND parameters,   \
+                                             const QvpiResizeSpec* pSpec, Qvp8u* pBuffer) {                    \
+    const ResizeCall<Qvp##type> call{View(pSrc, srcStep, Layout::k##layout),                                   \
+                                     View(pDst, dstStep, Layout::k##layout),                                   \
+                                     dstOffset,                                                                \
+                                     dstSize,                                                                  \
+                                     pSpec,                                                                    \
+                                     pBuffer,                                                                  \
+                                     ResizeForm::form};                                                        \
+    return impl(call QVP_AND arguments);                                                                       \
   }
-#define QVP_RESIZE(name, type, layout, impl)                                                                          \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,             \
-                                        QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeSpec* pSpec,           \
-                                        Qvp8u* pBuffer) {                                                             \
-    return impl(QVP_RESIZE_CALL(type, layout, ResizeForm::kPlain));                                                   \
-  }                                                                                                                   \
-  QvpStatus name##_##type##_##layout##R_L(const Qvp##type* pSrc, QvpSizeL srcStep, Qvp##type* pDst, QvpSizeL dstStep, \
-                                          QvpiPointL dstOffset, QvpiSizeL dstSize, const QvpiResizeSpec* pSpec,       \
-                                          Qvp8u* pBuffer) {                                                           \
-    return impl(QVP_RESIZE_CALL(type, layout, ResizeForm::kWide));                                                    \
-  }
-#define QVP_RESIZE_BORDER(name, type, layout, impl)                                                                   \
-  QvpStatus name##_##type##_##layout##R(const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep,             \
-                                        QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border,                 \
-                                        const Qvp##type*, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer) {              \
-    return impl(border, QVP_RESIZE_CALL(type, layout, ResizeForm::kPlain));                                           \
-  }                                                                                                                   \
-  QvpStatus name##_##type##_##layout##R_L(const Qvp##type* pSrc, QvpSizeL srcStep, Qvp##type* pDst, QvpSizeL dstStep, \
-                                          QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border,             \
-                                          const Qvp##type*, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer) {            \
-    return impl(border, QVP_RESIZE_CALL(type, layout, ResizeForm::kWide));                                            \
-  }
-#define QVP_RESIZE_LAYOUTS(SHAPE, name, type, impl) \
-  SHAPE(name, type, C1, impl) SHAPE(name, type, C3, impl) SHAPE(name, type, C4, impl)
+#define QVP_RESIZE_FORMS(name, type, layout, impl, parameters, arguments)           \
+  QVP_RESIZE_FORM(name, , type, layout, int, , kPlain, impl, parameters, arguments) \
+  QVP_RESIZE_FORM(name, _L, type, layout, QvpSizeL, L, kWide, impl, parameters, arguments)
+#define QVP_RESIZE(name, type, impl, layout) QVP_RESIZE_FORMS(name, type, layout, impl, (), ())
+#define QVP_RESIZE_BORDER(name, type, impl, layout) \
+  QVP_RESIZE_FORMS(name, type, layout, impl, (QvpiBorderType border, const Qvp##type*), (border))

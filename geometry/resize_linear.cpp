@@ -270,7 +270,7 @@ bool IsBorder(QvpiBorderType border, ResizeForm form) {
 }
 
 template <class T>
-QvpStatus Linear(QvpiBorderType border, ResizeCall<T> call) {
+QvpStatus Linear(ResizeCall<T> call, QvpiBorderType border) {
   if (KindOf(border) == BorderKind::kReplicateAlt) border = (border & ~0xF) | qvpBorderReplicate;
   if (!IsBorder(border, call.form)) return qvpStatusBorder;
   call.border = border;
@@ -283,8 +283,8 @@ QvpStatus Linear(QvpiBorderType border, ResizeCall<T> call) {
 using namespace qvp;
 using namespace qvp::resize;
 
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 8u, Linear)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 16u, Linear)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 16s, Linear)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 32f, Linear)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLinear, 64f, Linear)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLinear, 8u, Linear)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLinear, 16u, Linear)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLinear, 16s, Linear)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLinear, 32f, Linear)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLinear, 64f, Linear)

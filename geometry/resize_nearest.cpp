@@ -93,7 +93,7 @@ QvpStatus Nearest(const ResizeCall<T>& call) {
 using namespace qvp;
 using namespace qvp::resize;
 
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 8u, Nearest)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 16u, Nearest)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 16s, Nearest)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeNearest, 32f, Nearest)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeNearest, 8u, Nearest)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeNearest, 16u, Nearest)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeNearest, 16s, Nearest)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeNearest, 32f, Nearest)

@@ -293,7 +293,7 @@ QvpStatus Super(const ResizeCall<T>& call) {
 using namespace qvp;
 using namespace qvp::resize;
 
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 8u, Super)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 16u, Super)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 16s, Super)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE, qvpiResizeSuper, 32f, Super)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeSuper, 8u, Super)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeSuper, 16u, Super)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeSuper, 16s, Super)
+QVP_C1_C3_C4(QVP_RESIZE, qvpiResizeSuper, 32f, Super)

@@ -237,7 +237,7 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
 }
 
 template <class T>
-QvpStatus Resize(QvpiBorderType border, ResizeCall<T> call, const ResizeDemand& demand) {
+QvpStatus Resize(ResizeCall<T> call, QvpiBorderType border, const ResizeDemand& demand) {
   if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kReplicateAlt}, border)) {
     return qvpStatusBorder;
   }
@@ -246,16 +246,16 @@ QvpStatus Resize(QvpiBorderType border, ResizeCall<T> call, const ResizeDemand& 
 }
 
 template <class T>
-QvpStatus Cubic(QvpiBorderType border, const ResizeCall<T>& call) {
-  return Resize(border, call, {qvpInterpolationCubic});
+QvpStatus Cubic(const ResizeCall<T>& call, QvpiBorderType border) {
+  return Resize(call, border, {qvpInterpolationCubic});
 }
 template <class T>
-QvpStatus Lanczos(QvpiBorderType border, const ResizeCall<T>& call) {
-  return Resize(border, call, {qvpInterpolationLanczos});
+QvpStatus Lanczos(const ResizeCall<T>& call, QvpiBorderType border) {
+  return Resize(call, border, {qvpInterpolationLanczos});
 }
 template <class T>
-QvpStatus Antialiasing(QvpiBorderType border, const ResizeCall<T>& call) {
-  return Resize(border, call, {0, true});
+QvpStatus Antialiasing(const ResizeCall<T>& call, QvpiBorderType border) {
+  return Resize(call, border, {0, true});
 }
 
 }  // namespace
@@ -264,12 +264,12 @@ QvpStatus Antialiasing(QvpiBorderType border, const ResizeCall<T>& call) {
 using namespace qvp;
 using namespace qvp::resize;
 
-#define TAPS(type)                                                        \
-  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeCubic, type, Cubic)     \
-  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeLanczos, type, Lanczos) \
-  QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, type, Antialiasing)
+#define TAPS(type)                                                  \
+  QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeCubic, type, Cubic)     \
+  QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeLanczos, type, Lanczos) \
+  QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, type, Antialiasing)
 TAPS(8u)
 TAPS(16u)
 TAPS(16s)
 TAPS(32f)
-QVP_RESIZE_LAYOUTS(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, 64f, Antialiasing)
+QVP_C1_C3_C4(QVP_RESIZE_BORDER, qvpiResizeAntialiasing, 64f, Antialiasing)
