@@ -159,12 +159,11 @@ class PartColumns {
         for (int i = 0; i < kVectors; ++i) pixel[i] = LoadWide(W(), from + k * kChannels + i * kEach);
       };
       const auto by = [&](double value) HWY_ATTR {
-        for (int i = 0; i < kVectors; ++i) part[i] = hn::Set(W(), value);
+        std::fill_n(part, kVectors, hn::Set(W(), value));
         return part;
       };
       Total<W, kVectors> total;
-      load(0);
-      total.Begin(pixel, by(tables.begin[x]));
+      load(0), total.Begin(pixel, by(tables.begin[x]));
       for (int k = 1; k < whole; ++k) load(k), total.AddWhole(pixel);
       if (whole < taps) load(whole), total.AddPart(pixel, by(tables.next[x]));
       if (whole + 1 < taps) load(whole + 1), total.AddPart(pixel, by(tables.last[x]));

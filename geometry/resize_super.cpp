@@ -4,15 +4,14 @@
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_area_near.h"
-#include "geometry/resize_area_parts.h"
+#include "geometry/resize_area_strips.h"
 #include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
 
 namespace qvp::resize {
 namespace {
 
-// Memory for one strip of columns, on the stack: the weights of its columns, and one row of sums down.
-constexpr ptrdiff_t kStripFloats = 2048, kMostStripColumns = 512;
+constexpr ptrdiff_t kMostStripColumns = 512;
 
 // The taps of one axis, from the tables of its period, with weights in units of 1 / q pixels.
 struct Period {
@@ -209,61 +208,6 @@ bool ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const T
   for (ptrdiff_t x = 0; x < tile.width; x += most) {
     const Strip strip(across, tile.x + x, std::min(most, tile.width - x));
     ResizeStrip(call, record, tile, strip, across, down);
-  }
-  return true;
-}
-
-// Whether no area has more than three pixels an axis.
-bool IsNear(const ResizeRecord& record) {
-  return !record.IsShifted() && std::max(record.columns.taps, record.rows.taps) <= kMostNear;
-}
-
-// Strip by strip, each with its sums of rows, by a class of columns.
-template <class Columns, class T>
-void AverageStrips(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  using Mean = typename Columns::Mean;
-  const int channels = Channels(call.src.layout);
-  const ResizeAxis& axis = record.columns;
-  // A strip covers up to two pixels more than its ratio tells.
-  const auto pixels = static_cast<int64_t>(kStripFloats / channels - Columns::kBehind - 2);
-  const auto most = std::min(static_cast<ptrdiff_t>(pixels * axis.q / axis.p), Columns::kMost);
-  typename Columns::Sum sums[kStripFloats];
-  for (ptrdiff_t x = 0; x < tile.width; x += most) {
-    const Columns columns(record, tile.x + x, std::min(most, tile.width - x));
-    const ptrdiff_t n = columns.pixels() * channels;
-    std::fill_n(sums + n, Columns::kBehind * channels, typename Columns::Sum());
-    for (ptrdiff_t y = 0; y < tile.height; ++y) {
-      const Coverage down = PeriodicCoverage(record.rows, tile.y + y);
-      const T* row = SourceRow(call, tile, down.first) + columns.origin() * channels;
-      columns.SumDown(Image<const T>{row, call.src.step, call.src.layout}, down, n, sums);
-      T* dst = call.dst.Row(y) + x * channels;
-      bool areFinite;
-      if constexpr (std::is_same_v<T, Mean>) {
-        areFinite = columns.Average(sums, channels, dst);
-      } else {
-        Mean means[4 * Columns::kMost];
-        areFinite = columns.Average(sums, channels, means);
-        MapRow<false>(
-            hn::ScalableTag<Mean>(), dst, columns.columns() * channels, [](auto v) { return v; },
-            static_cast<const Mean*>(means));
-      }
-      if constexpr (std::is_same_v<T, float>) {
-        if (!areFinite) AverageAgain(call, record, tile, x, y, columns.columns());
-      }
-    }
-  }
-}
-
-// By parts of pixels, if there is room for the sums of rows and not too many pixels across. False if not.
-template <class T>
-bool AverageParts(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
-  if (record.IsShifted() || record.columns.taps > kMostParts) return false;
-  if constexpr (std::is_integral_v<T>) {
-    if (!AreSumsShort<T>(record)) return false;
-    AverageStrips<PartColumns<int32_t>>(call, record, tile);
-  } else {
-    if (!AreMeansFloat(record)) return false;
-    AverageStrips<PartColumns<float>>(call, record, tile);
   }
   return true;
 }
