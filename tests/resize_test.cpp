@@ -858,7 +858,8 @@ TEST(Resize, ThreadsShareAReadOnlyRecord) {
     const Source src(member, from, 0);
     const test::Image<uint8_t> expected = Resized(member, record, src, to, 1);
     const auto page = reinterpret_cast<uintptr_t>(record.get()) & ~uintptr_t{4095};
-    ASSERT_EQ(mprotect(reinterpret_cast<void*>(page), (record.block().size() + 4095) & ~size_t{4095}, PROT_READ), 0);
+    const size_t bytes = (record.block().size() + 4095) & ~size_t{4095};
+    ASSERT_EQ(mprotect(reinterpret_cast<void*>(page), bytes, PROT_READ), 0);
     test::Image<uint8_t> dst(to.width * 3, to.height, 0);
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i) {
@@ -873,6 +874,8 @@ TEST(Resize, ThreadsShareAReadOnlyRecord) {
       });
     }
     for (std::thread& thread : threads) thread.join();
+    // Pages are used again.
+    ASSERT_EQ(mprotect(reinterpret_cast<void*>(page), bytes, PROT_READ | PROT_WRITE), 0);
     for (int y = 0; y < to.height; ++y) {
       ASSERT_EQ(std::memcmp(dst.bytes() + y * dst.step(), expected.bytes() + y * expected.step(), dst.step()), 0)
           << member.name;
