@@ -21,6 +21,14 @@ HWY_INLINE hn::Vec<D> FromBlocks(D d, const Block& block) {
   }
 }
 
+// Indices for TableLookupBytesOr0 from places: those of the block, 0 to 15, stay, and all others yield zero. Between 16
+// and 127, CPUs differ: some take an index modulo 16.
+template <class V>
+HWY_INLINE V IndicesOr0(V places) {
+  const hn::DFromV<V> d;
+  return hn::And(hn::SaturatedAdd(places, hn::Set(d, uint8_t{0x70})), hn::Set(d, uint8_t{0x8F}));
+}
+
 // The even, or the odd, floats of two vectors: within each block those of `a` before those of `b`.
 template <size_t N>
 HWY_INLINE hn::Vec128<float, N> EvenLanesOfBlocks(hn::Vec128<float, N> a, hn::Vec128<float, N> b) {

@@ -10,6 +10,7 @@ namespace qvp {
 
 // Two vectors as one of elements half as wide, saturated, block by block: each block of the result has a block of the
 // lower vector and one of the upper. The first argument only tells the type.
+#if HWY_ARCH_X86
 #define QVP_PACKS(Vec, prefix)                                                                    \
   HWY_INLINE hn::Vec<uint8_t> Packed(uint8_t, hn::Vec<int16_t> lower, hn::Vec<int16_t> upper) {   \
     return hn::Vec<uint8_t>{prefix##_packus_epi16(lower.raw, upper.raw)};                         \
@@ -31,6 +32,15 @@ QVP_PACKS(Vec256, _mm256)
 QVP_PACKS(Vec512, _mm512)
 #endif
 #undef QVP_PACKS
+#else
+template <class T, class V>
+HWY_INLINE auto Packed(T, V lower, V upper) {
+  static_assert(hn::MaxLanes(hn::DFromV<V>()) * sizeof(hn::TFromV<V>) == kBlockBytes);
+  const hn::Full128<T> d;
+  const hn::Half<decltype(d)> half;
+  return hn::Combine(d, hn::DemoteTo(half, upper), hn::DemoteTo(half, lower));
+}
+#endif
 
 // Undoes the order that packing block by block leaves: every block holds a piece of each of the kSources vectors, and
 // the pieces of one vector belong together.

@@ -14,9 +14,14 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Bytes of one 128-bit block, within which byte shuffles work on every CPU.
 inline constexpr int kBlockBytes = 16;
 
-// A load that keeps out of the caches where memory is write-combining. The address must be a multiple of 16.
+// A load that keeps out of the caches where memory is write-combining, if the CPU has such a load. The address must be
+// a multiple of 16.
 HWY_INLINE hn::Vec128<uint8_t> LoadStreaming(const uint8_t* from) {
+#if HWY_ARCH_X86
   return hn::Vec128<uint8_t>{_mm_stream_load_si128(reinterpret_cast<__m128i*>(const_cast<uint8_t*>(from)))};
+#else
+  return hn::Load(hn::Full128<uint8_t>(), from);
+#endif
 }
 
 }  // namespace qvp

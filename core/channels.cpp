@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/blocks.h"
 #include "base/rows.h"
-#include "base/simd.h"
 
 namespace qvp {
 namespace {
@@ -101,9 +101,7 @@ HWY_INLINE void ToMemoryOrder(V (&v)[kVectors]) {
 
 // Turns places in the source block into shuffle indices for its vector `in`: those outside it yield zeros.
 HWY_INLINE V IndicesInto(int in, V source) {
-  const D d;
-  const V relative = hn::Sub(source, hn::Set(d, static_cast<uint8_t>(kBlockBytes * in)));
-  return hn::SaturatedAdd(relative, hn::Set(d, uint8_t{0x70}));  // 0 to 15 keep their low bits; others reach bit 7
+  return IndicesOr0(hn::Sub(source, hn::Set(D(), static_cast<uint8_t>(kBlockBytes * in))));
 }
 
 template <int kIn, int kOut, Rest kRest>
