@@ -7,7 +7,7 @@ set(QVPI_SOVERSION 10)
 
 # No exceptions, no run-time type information and no C++ run-time library; float results must not depend on the CPU.
 set(QVPI_FLAGS ${QVPI_WARNINGS} -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffp-contract=off
-               -fvisibility=hidden -fno-math-errno -fcf-protection -ffunction-sections -fdata-sections)
+               -fvisibility=hidden -fno-math-errno -ffunction-sections -fdata-sections)
 
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   list(APPEND QVPI_FLAGS -fno-addrsig)  # tables of symbols that would not survive the archive's renames
@@ -16,7 +16,21 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)  # GCC 12 warns of its own intrinsics; cl
   list(APPEND QVPI_FLAGS -Wno-uninitialized -Wno-maybe-uninitialized)
 endif()
 
+# Highway is headers only and the same for every machine, so those of the machine that builds serve all, in a folder
+# without that machine's other headers.
 find_path(HWY_INCLUDE_DIR hwy/highway.h REQUIRED)
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/highway)
+file(CREATE_LINK ${HWY_INCLUDE_DIR}/hwy ${PROJECT_BINARY_DIR}/highway/hwy SYMBOLIC)
+
+# A row of the table of machines: of the machine that this folder builds for, it sets what the rest needs to know.
+macro(qvpi_machine name processor debian target protection emulator)
+  if(CMAKE_SYSTEM_PROCESSOR STREQUAL "${processor}")
+    set(QVPI_MACHINE ${name})
+    set(QVPI_DEBIAN_ARCHITECTURE ${debian})
+    set(QVPI_COMPILER_TARGET ${target})
+    set(QVPI_PROTECTION ${protection})
+  endif()
+endmacro()
 
 # Writes what is derived from the headers to <folder>: FILES are outputs of tools/derive.py called with ARGS.
 function(qvpi_derive folder)
@@ -60,38 +74,40 @@ function(qvpi_shared_and_static name objects output code bits map)
   endif()
 endfunction()
 
-# The companion runs on any x86: it gets no flags for a CPU level, and in 32 bits no vector registers either.
+# The companion runs on any CPU of the machine: it gets no flags for a level, and on i386 no vector registers either.
 function(qvpi_companion code bits)
   set(derived ${PROJECT_BINARY_DIR}/derived/${code}/core)
   set(header ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
   qvpi_derive(${derived} FILES exports.map HEADERS ${header})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.cpp
+    ${PROJECT_SOURCE_DIR}/platform/${QVPI_MACHINE}/*.cpp)
   add_library(qvpcore_${code}_objects OBJECT ${sources} ${derived}/exports.map)
   qvpi_settings(qvpcore_${code}_objects ${bits})
-  target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} -fvisibility=default -fvisibility-inlines-hidden
+  target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION} -fvisibility=default -fvisibility-inlines-hidden
     $<$<EQUAL:${bits},32>:-march=i686>)
   qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
 endfunction()
 
-# Whether the machine that builds can run what needs a CPU feature.
+# Whether the machine that builds can run what needs a CPU feature. Emulators have them all.
 file(READ /proc/cpuinfo QVPI_CPUINFO)
 function(qvpi_runs_here feature result)
-  if(QVPI_CPUINFO MATCHES " ${feature} ")
+  if(CMAKE_CROSSCOMPILING OR QVPI_CPUINFO MATCHES " ${feature} ")
     set(${result} TRUE PARENT_SCOPE)
   else()
     set(${result} FALSE PARENT_SCOPE)
   endif()
 endfunction()
 
-function(qvpi_cpu code bits feature tests vectors output folder name)
-  if(NOT code IN_LIST QVPI_CPUS)
+function(qvpi_cpu code machine bits feature tests vectors output folder name)
+  if(NOT machine STREQUAL QVPI_MACHINE OR (QVPI_CPUS AND NOT code IN_LIST QVPI_CPUS))
     return()
   endif()
   qvpi_companion(${code} ${bits})
 
   set(derived ${PROJECT_BINARY_DIR}/derived/${code})
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
-  qvpi_derive(${derived} FILES rename.h entries.S exports.map static.syms ARGS --cpu ${code} --bits ${bits} HEADERS ${headers})
+  qvpi_derive(${derived} FILES rename.h entries.S exports.map static.syms ARGS --cpu ${code} --machine ${machine} --bits ${bits}
+    HEADERS ${headers})
 
   list(TRANSFORM QVPI_SOURCE_FOLDERS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.cpp" OUTPUT_VARIABLE patterns)
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
@@ -102,12 +118,12 @@ function(qvpi_cpu code bits feature tests vectors output folder name)
   qvpi_settings(${objects} ${bits})
   qvpi_settings(${entries} ${bits})
   target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_include_directories(${objects} SYSTEM PRIVATE ${HWY_INCLUDE_DIR})
+  target_include_directories(${objects} SYSTEM PRIVATE ${PROJECT_BINARY_DIR}/highway)
   target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
     HWY_IS_DEBUG_BUILD=0  # its checks would need its library
     QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
-  target_compile_options(${objects} PRIVATE ${ARGN} ${QVPI_FLAGS})
-  target_compile_options(${entries} PRIVATE -fcf-protection)
+  target_compile_options(${objects} PRIVATE ${ARGN} ${QVPI_FLAGS} ${QVPI_PROTECTION})
+  target_compile_options(${entries} PRIVATE ${QVPI_PROTECTION})
   # Every source begins with the precompiled header, and so with the renames.
   target_precompile_headers(${objects} PRIVATE <hwy/highway.h> ${derived}/rename.h)
 

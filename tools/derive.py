@@ -36,21 +36,30 @@ def rename(names, cpu):
     return "\n".join(lines + hidden) + "\n"
 
 
+# The stub of one slot. Jumps are protected: a function that is reached through a register begins with a landing mark.
 STUB = {
-    64: "\tjmp *(table + 8 * {slot})(%rip)\n",
+    ("x86", 64): "\t_CET_ENDBR\n\tjmp *(table + 8 * {slot})(%rip)\n",
     # The address of the next instruction comes from the return address of a call; only eax and ecx may be changed.
-    32: "\tcall pc_to_ecx\n0:\tjmp *(table + 4 * {slot} - 0b)(%ecx)\n",
+    ("x86", 32): "\t_CET_ENDBR\n\tcall pc_to_ecx\n0:\tjmp *(table + 4 * {slot} - 0b)(%ecx)\n",
+    # Only x16 and x17 may be changed.
+    ("aarch64", 64): "\tbti c\n\tadrp x16, table + 8 * {slot}\n\tldr x16, [x16, :lo12:table + 8 * {slot}]\n\tbr x16\n",
+}
+PROLOGUE = {
+    ("x86", 64): "#include <cet.h>\n",
+    ("x86", 32): "#include <cet.h>\n\t.text\npc_to_ecx:\n\tmovl (%esp), %ecx\n\tret\n",
+    # The note tells the linker that the code is protected: property 0xC0000000, of branch targets (1) and returns (2).
+    ("aarch64", 64): "\t.arch armv8.5-a\n"
+                     '\t.section .note.gnu.property, "a"\n\t.p2align 3\n\t.word 4, 16, 5\n\t.asciz "GNU"\n'
+                     "\t.word 0xC0000000, 4, 3, 0\n",
 }
 
 
-def entries(names, cpu, bits):
+def entries(names, cpu, machine, bits):
     """Assembly: stubs in header order, then the table, filled by the loader and read-only from then on."""
-    text = ["#include <cet.h>\n\t.text\n"]
-    if bits == 32:
-        text.append("pc_to_ecx:\n\tmovl (%esp), %ecx\n\tret\n")
+    text = [PROLOGUE[machine, bits], "\t.text\n"]
     for slot, name in enumerate(names):
-        text.append(f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n\t_CET_ENDBR\n"
-                    f"{STUB[bits].format(slot=slot)}\t.size {name}, . - {name}\n")
+        text.append(f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n"
+                    f"{STUB[machine, bits].format(slot=slot)}\t.size {name}, . - {name}\n")
     text.append('\t.section .data.rel.ro, "aw", @progbits\n\t.p2align 6\n\t.type table, @object\ntable:\n')
     word = ".quad" if bits == 64 else ".long"
     for name in names:
@@ -98,6 +107,7 @@ def calls(functions):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
+    parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB}), help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
     parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
     parser.add_argument("--out", type=Path, required=True, help="folder to write to")
@@ -114,7 +124,7 @@ def main():
     (options.out / "exports.map").write_text(exports(names))
     if options.cpu:
         (options.out / "rename.h").write_text(rename(names, options.cpu))
-        (options.out / "entries.S").write_text(entries(names, options.cpu, options.bits))
+        (options.out / "entries.S").write_text(entries(names, options.cpu, options.machine, options.bits))
         (options.out / "static.syms").write_text("".join(f"{options.cpu}_{name} {name}\n" for name in names))
 
 
