@@ -117,12 +117,19 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
   add_library(${entries} OBJECT ${derived}/entries.S)
   qvpi_settings(${objects} ${bits})
   qvpi_settings(${entries} ${bits})
-  target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_include_directories(${objects} SYSTEM PRIVATE ${PROJECT_BINARY_DIR}/highway)
-  target_compile_definitions(${objects} PRIVATE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
+  # What a source of this build, or a test of headers with vectors, is compiled with.
+  set(vector_settings qvpi_${code}_vectors)
+  add_library(${vector_settings} INTERFACE)
+  target_include_directories(${vector_settings} INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(${vector_settings} SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/highway)
+  target_compile_definitions(${vector_settings} INTERFACE HWY_COMPILE_ONLY_STATIC HWY_DISABLE_PCLMUL_AES
     HWY_IS_DEBUG_BUILD=0  # its checks would need its library
-    QVP_VECTOR_TARGET=${vectors} QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
-  target_compile_options(${objects} PRIVATE ${ARGN} ${QVPI_FLAGS} ${QVPI_PROTECTION})
+    QVP_VECTOR_TARGET=${vectors})
+  target_compile_options(${vector_settings} INTERFACE ${ARGN})
+
+  target_link_libraries(${objects} PRIVATE ${vector_settings})
+  target_compile_definitions(${objects} PRIVATE QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
+  target_compile_options(${objects} PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION})
   target_compile_options(${entries} PRIVATE ${QVPI_PROTECTION})
   # Every source begins with the precompiled header, and so with the renames.
   target_precompile_headers(${objects} PRIVATE <hwy/highway.h> ${derived}/rename.h)

@@ -123,10 +123,10 @@ TEST(Companion, AllocatesAlignedBlocks) {
   qvpFree(nullptr);
 }
 
+#if defined(__x86_64__) || defined(__i386__)
 // The kernel's own account of the caches and features.
 TEST(Companion, KnowsTheProcessor) {
   int size = 0;
-  EXPECT_EQ(qvpGetMaxCacheSizeB(nullptr), qvpStatusNullPointer);
   ASSERT_EQ(qvpGetMaxCacheSizeB(&size), qvpStatusNoError);
   long largest = 0;
   for (int i = 0; i < 8; ++i) {
@@ -151,6 +151,19 @@ TEST(Companion, KnowsTheProcessor) {
   EXPECT_EQ((features & qvpFeatureBMI) != 0, has("bmi2"));
   EXPECT_EQ((features & qvpFeatureAVX512) != 0, has("avx512vl"));
 }
+#else
+// Programs are not shown the caches, and need no more than the baseline.
+TEST(Companion, KnowsTheProcessor) {
+  int size = -1;
+  EXPECT_EQ(qvpGetMaxCacheSizeB(&size), qvpStatusNotSupportedMode);
+  EXPECT_EQ(size, -1);
+  const int line = qvp_get_cache_line_size();
+  EXPECT_TRUE(line >= 16 && line <= 256 && (line & (line - 1)) == 0) << line;
+  EXPECT_EQ(ownGetFeature(), 0u);
+}
+#endif
+
+TEST(Companion, RefusesANullPointer) { EXPECT_EQ(qvpGetMaxCacheSizeB(nullptr), qvpStatusNullPointer); }
 
 TEST(Companion, HasATextForEveryStatus) {
   int known = 0;

@@ -3,8 +3,8 @@
 makers of CPUs, imports nothing that could allocate, print, wait or depend on the environment, exports its own functions
 only, and is read-only once loaded.
 
-usage: audit.py CPU FOLDER
 """
+import argparse
 import re
 import subprocess
 import sys
@@ -16,6 +16,10 @@ BEYOND_V4 = (r"vpdp\w+|vperm[it]2?b|vpermi2b|vpmultishiftqb|vpopcnt\w+|vpmadd52\
              r"|vp(?:compress|expand)[bw]|vpsh[lr]d\w+|vpshufbitqmb")
 EVERYWHERE = r"vfn?m(?:add|sub)\w+|v?r(?:cp|sqrt)(?:ps|ss|14\w+|28\w+)|v?aes\w+|v?pclmul\w+|sha(?:1|256)\w+|f(?:sin|cos|sincos|ptan|yl2x|2xm1)"
 EVEX = r"%zmm|%k[0-7]\b|%[xy]mm(?:1[6-9]|2\d|3[01])"
+# AArch64: what came after the first version, and what is not exact or fused.
+BEYOND_N8 = (r"(?:cas|ldadd|ldclr|ldset|ldeor|swp|stadd)\w*|[su]dot|usdot|sq?rdml[as]h|fjcvtzs|(?:ret|bra|blra|aut|pac)[a-z]*[ab]"
+             r"|\w*mmla|bf\w+dot|fcmla|fcadd|ldapr\w*|frint(?:32|64)\w")
+FUSED_N8 = r"fn?m(?:add|sub)|fml[as]l?2?|fr(?:ecp|sqrt)[esx]|aes\w+|sha\w+|pmull2?"
 LEGACY_SSE = r"(?!v|prefetch|ldmxcsr|stmxcsr|movnti).*"  # a mnemonic without VEX
 
 # Per build: mnemonics that must not occur, and forms (mnemonic and operands) that must not.
@@ -24,6 +28,7 @@ FORBIDDEN = {
     "v2": (rf"{BMI}|v(?!err|erw)\w+", r"%ymm|" + EVEX),
     "v3": (r"(?!)", EVEX),
     "v4": (BEYOND_V4, r"(?!)"),
+    "n8": (f"{BEYOND_N8}|{FUSED_N8}", r"\bz\d+\.|\bp\d+/|^f\w+ +v\d+\.[48]h"),
     "core": (rf"{BMI}|v(?!err|erw)\w+|p(?:shufb|mulld)", r"%ymm|" + EVEX),
 }
 IMPORTS = {
@@ -38,11 +43,11 @@ def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-def offences(library, kind):
+def offences(objdump, library, kind):
     mnemonics, forms = FORBIDDEN[kind]
     mnemonic_pattern, form_pattern = re.compile(f"(?:{mnemonics}|{EVERYWHERE})"), re.compile(forms)
     found, count = {}, 0
-    for line in run("objdump", "-d", "--no-show-raw-insn", str(library)).splitlines():
+    for line in run(objdump, "-d", "--no-show-raw-insn", str(library)).splitlines():
         match = INSTRUCTION.match(line)
         if not match:
             continue
@@ -72,11 +77,15 @@ def is_read_only(library):
 
 
 def main():
-    cpu, folder = sys.argv[1], Path(sys.argv[2])
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--objdump", default="objdump", help="the disassembler for that CPU")
+    parser.add_argument("cpu", help="code of the CPU build")
+    parser.add_argument("folder", type=Path, help="where its libraries are")
+    options = parser.parse_args()
     failed = False
-    for library in sorted(folder.glob("libqvp*.so.10")):
-        kind = "core" if "core" in library.name else cpu
-        count, found = offences(library, kind)
+    for library in sorted(options.folder.glob("libqvp*.so.10")):
+        kind = "core" if "core" in library.name else options.cpu
+        count, found = offences(options.objdump, library, kind)
         imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
         print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
               f"exports not allowed: {exports}; read-only: {fixed}")

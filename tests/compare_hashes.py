@@ -1,21 +1,38 @@
 #!/usr/bin/env python3
-"""Run the hash program of every CPU build and compare the lines. Each argument is <library folder>=<program>."""
+"""Compare what the hash program prints for every CPU build.
+
+Each argument is <library folder>=<program>, with the emulator before the program if it needs one, or a file of lines
+that --save has written, <folder>/<code>.txt for each build.
+"""
+import argparse
 import os
 import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
 
 
-def hashes(argument):
-    folder, program = argument.split("=")
-    output = subprocess.run([program], check=True, capture_output=True, text=True,
+def lines_of(argument):
+    """(name of the build, what the program prints)"""
+    if "=" not in argument:
+        return Path(argument).stem, Path(argument).read_text()
+    folder, command = argument.split("=", 1)
+    output = subprocess.run(command.split(), check=True, capture_output=True, text=True,
                             env={**os.environ, "LD_LIBRARY_PATH": folder}).stdout
-    return dict(line.split() for line in output.splitlines())
+    return Path(folder).name, output
 
 
+parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+parser.add_argument("--save", type=Path, help="folder for the lines")
+parser.add_argument("builds", nargs="+")
+options = parser.parse_args()
 with ThreadPoolExecutor(os.cpu_count()) as pool:
-    builds = dict(zip((os.path.basename(argument.split("=")[0]) for argument in sys.argv[1:]),
-                      pool.map(hashes, sys.argv[1:])))
+    printed = dict(pool.map(lines_of, options.builds))
+if options.save:
+    options.save.mkdir(parents=True, exist_ok=True)
+    for name, lines in printed.items():
+        (options.save / f"{name}.txt").write_text(lines)
+builds = {name: dict(line.split() for line in lines.splitlines()) for name, lines in printed.items()}
 reference, expected = next(iter(builds.items()))
 differing = sorted({name for found in builds.values() for name in expected.keys() | found.keys()
                     if found.get(name) != expected.get(name)})

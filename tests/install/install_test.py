@@ -10,6 +10,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 COMPILERS = {"C": ["cc", "-std=c11"], "CXX": ["c++", "-std=c++17", "-xc++"]}
+EMULATOR = []  # what programs start with
 
 
 def run(*command, **environment):
@@ -26,7 +27,7 @@ def require(condition, *explanation):
 
 def require_output(program, cpu, **environment):
     """The program works, and the library that it has loaded is the build for this CPU."""
-    lines = run(program, **environment).splitlines()
+    lines = run(*EMULATOR, program, **environment).splitlines()
     require(lines[0] == cpu and lines[1].startswith("qvpStatusNullPointer: "), program, lines, "but not from", cpu)
 
 
@@ -37,6 +38,8 @@ def require_needs(file, allowed):
 
 def supported(cpus):
     """Those of the 64-bit builds that the dynamic linker would load on this machine, lowest first."""
+    if "n8" in cpus:
+        return ["n8"]
     levels = re.findall(r"x86-64-(v\d) \(supported", run("/lib64/ld-linux-x86-64.so.2", "--help"))
     return [cpu for cpu in sorted(cpus) if cpu in levels]
 
@@ -47,6 +50,8 @@ def check_files(prefix, build):
             require(str(folder) not in file.read_text(), file, "names", folder)
     for library in prefix.rglob("lib*.so.10"):
         require_needs(library, ["libc.so.6", "libm.so.6", "libqvpcore.so.10"])
+        if EMULATOR:
+            continue
         for companion in re.findall(r"libqvpcore.so.10 => ([^(\n]*)", run("ldd", library)):
             require(prefix in Path(companion.strip()).resolve().parents, library, "finds", companion)
 
@@ -79,6 +84,7 @@ class Package:
     def try_cmake(self, cmake, language):
         build = self.prefix.parent / f"{self.prefix.name}_{self.name}_{language}_cmake"
         flags = [f"-DCMAKE_{name}_FLAGS={' '.join(self.flags)}" for name in COMPILERS]
+        flags += [f"-DCMAKE_{name}_COMPILER={command[0]}" for name, command in COMPILERS.items() if EMULATOR]
         run(cmake, "-S", HERE, "-B", build, f"-DPACKAGE={self.name}", f"-DLANGUAGE={language}", self.cmake_hint(),
             *flags)
         run(cmake, "--build", build)
@@ -113,6 +119,8 @@ class Package:
 
     def try_lower_levels(self, program):
         """A build below the best can be had from its own folder, or by hiding features of the CPU."""
+        if len(self.cpus) == 1:
+            return
         for cpu in self.cpus[1:]:
             path = f"{self.libdir}/glibc-hwcaps/x86-64-{cpu}:{self.libdir}"
             require_output(program, cpu, LD_LIBRARY_PATH=path)
@@ -141,7 +149,13 @@ def main():
     parser.add_argument("--libdir", default="lib", help="library folder below the prefix")
     parser.add_argument("--libdir32", default="lib32", help="that of the 32-bit build")
     parser.add_argument("--cpus", nargs="+", required=True, help="codes of the CPU builds made")
+    parser.add_argument("--cross", help="prefix of compilers for another machine, as in aarch64-linux-gnu-")
+    parser.add_argument("--emulator", default="", help="what starts its programs")
     options = parser.parse_args()
+    EMULATOR.extend(options.emulator.split())
+    if options.cross:
+        for command, compiler in zip(COMPILERS.values(), ("gcc", "g++")):
+            command[0] = options.cross + compiler
 
     scratch = options.build.resolve() / "install_test"
     shutil.rmtree(scratch, ignore_errors=True)
