@@ -1,8 +1,8 @@
 # What `cmake --install` puts where, of the CPU builds that were made.
 #
-#   <libdir>/            the baseline: the lowest x86-64 build, which is what programs link; and the companion
+#   <libdir>/            the baseline: the lowest 64-bit build, which is what programs link; and the companion
 #   <libdir>/glibc-hwcaps/<level>/    the builds above it, which the dynamic linker takes instead on CPUs that have them
-#   <libdir32>/          the 32-bit build, with a companion of its own
+#   <libdir32>/          the 32-bit build of x86, with a companion of its own
 #
 # The library folders also get the static archives, a CMake package and pkg-config files: <package> for the shared
 # library, <package>-static-<code> for the archive of one build.

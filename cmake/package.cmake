@@ -1,7 +1,7 @@
 # Debian packages, made by `cpack -G DEB` in the build folder. They use Debian's library folders, whatever those of the
 # install prefix are; so each package is a component of its own that a plain install leaves out.
 qvpi_install_headers(libqvpi-dev EXCLUDE_FROM_ALL)
-qvpi_install_libraries(64 lib/x86_64-linux-gnu libqvpi10 libqvpi-dev EXCLUDE_FROM_ALL)
+qvpi_install_libraries(64 lib/${QVPI_COMPILER_TARGET} libqvpi10 libqvpi-dev EXCLUDE_FROM_ALL)
 qvpi_install_libraries(32 lib/i386-linux-gnu libqvpig9-10 libqvpi-dev EXCLUDE_FROM_ALL)
 
 # Without a CPU build for it, a package has no files and is not made.
@@ -19,31 +19,44 @@ endforeach()
 
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_NAME libqvpi10)
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_ARCHITECTURE amd64)
-set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_LIBQVPI10_DESCRIPTION
+set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_ARCHITECTURE ${QVPI_DEBIAN_ARCHITECTURE})
+if(QVPI_MACHINE STREQUAL x86)
+  set(CPACK_DEBIAN_LIBQVPI10_DESCRIPTION
 "The shared library, in builds for several levels of the x86-64 instruction set.
 The dynamic linker loads the best one that the CPU has.")
+else()
+  set(CPACK_DEBIAN_LIBQVPI10_DESCRIPTION "The shared library.")
+endif()
 
-# Scanning for dependencies finds amd64's package of the 32-bit C library, which i386 lacks; so the dependency is named,
-# on the C library of Debian 12.
+# Scanning for dependencies finds the package of a cross compiler's C library, and for i386 amd64's package of the 32-bit
+# one, which other machines lack; so the dependency is named there, on the C library of Debian 12.
+set(c_library "libc6 (>= 2.36)")
+if(CMAKE_CROSSCOMPILING)
+  set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_DEPENDS ${c_library})
+else()
+  set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SHLIBDEPS ON)
+endif()
 set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_NAME libqvpig9-10)
 set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_ARCHITECTURE i386)
-set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_DEPENDS "libc6 (>= 2.36)")
+set(CPACK_DEBIAN_LIBQVPIG9-10_PACKAGE_DEPENDS ${c_library})
 set(CPACK_DEBIAN_LIBQVPIG9-10_DESCRIPTION "The shared library for 32-bit programs, on CPUs that have AVX.")
 
 set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_NAME libqvpi-dev)
 set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_ARCHITECTURE amd64)
+set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_ARCHITECTURE ${QVPI_DEBIAN_ARCHITECTURE})
 if(libqvpi10 IN_LIST CPACK_COMPONENTS_ALL)
   set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_DEPENDS "libqvpi10 (= ${PROJECT_VERSION})")
 endif()
-set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SUGGESTS "libqvpig9-10:i386 (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION
+if(QVPI_MACHINE STREQUAL x86)
+  set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SUGGESTS "libqvpig9-10:i386 (= ${PROJECT_VERSION})")
+  set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION
 "Headers, static archives, and files for CMake and pkg-config.
 They serve 64-bit and 32-bit programs. To link the 32-bit shared library,
 install its package too.")
+else()
+  set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION "Headers, static archives, and files for CMake and pkg-config.")
+endif()
 
 set(CPACK_PACKAGE_NAME qvpi)
 set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
