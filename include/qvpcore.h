@@ -37,14 +37,14 @@ void qvpFree(void* ptr);
  *
  *  @param pSizeByte receives the size
  *  @return qvpStatusNullPointer: the pointer is null. qvpStatusNotSupportedMode: the processor does not tell its cache
- *          sizes; nothing is written. qvpStatusNoError otherwise.
+ *          sizes, as on AArch64; nothing is written. qvpStatusNoError otherwise.
  */
 QvpStatus qvpGetMaxCacheSizeB(int* pSizeByte);
 
 /** Size in bytes of a cache line. */
 int qvp_get_cache_line_size(void);
 
-/** Bits of the instruction-set extensions that both the processor and the operating system support. */
+/** Bits of the instruction-set extensions of x86 that both the processor and the operating system support. */
 enum {
     qvpFeatureSSE2 = 0x1,      /**< SSE and SSE2 */
     qvpFeatureSSE3 = 0x2,      /**< SSE3 */
