@@ -36,7 +36,7 @@ auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
 template <class V>
 HWY_INLINE V ByteQuotient(V a, V b) {
   const hn::ScalableTag<uint8_t> bytes;
-  const auto divide = [](auto x, auto y) HWY_ATTR { return RoundToInt(hn::Div(y, x)); };
+  const auto divide = [](auto x, auto y) HWY_ATTR { return RoundToIntInRange(hn::Div(y, x)); };
   const auto isZero = hn::Eq(a, hn::Zero(bytes));
   const V quotient = ViaFloats(divide, hn::Sub(a, hn::VecFromMask(bytes, isZero)), b);
   return hn::IfThenElse(isZero, hn::VecFromMask(bytes, hn::Ne(b, hn::Zero(bytes))), quotient);

@@ -37,7 +37,7 @@ void ScaleBytes(const Image<const uint8_t>& src, double factor, double addend, c
   const hn::ScalableTag<uint8_t> bytes;
   if (std::abs(m) * 255 + std::abs(a) < 0x1p30f) {
     const auto kernel = [=](auto v) HWY_ATTR {
-      return ViaFloats([=](auto lanes) HWY_ATTR { return RoundToInt(scaled(lanes)); }, v);
+      return ViaFloats([=](auto lanes) HWY_ATTR { return RoundToIntInRange(scaled(lanes)); }, v);
     };
     MapOneChannel(bytes, kernel, roi, dst, src);
   } else {

@@ -52,4 +52,15 @@ HWY_INLINE auto RoundToInt(V v) {
 }
 #endif
 
+// The same of lanes that are in the range, or whose result is not used: that saves the comparisons with it where the
+// CPU has another rule for the rest.
+template <class V>
+HWY_INLINE auto RoundToIntInRange(V v) {
+#if HWY_ARCH_X86
+  return RoundToInt(v);
+#else
+  return hn::NearestInt(v);
+#endif
+}
+
 }  // namespace qvp

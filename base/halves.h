@@ -89,7 +89,7 @@ auto InFloatLanes(const Op& op) {
   const auto rounded = [op](auto... v) HWY_ATTR {
     const hn::ScalableTag<float> d;
     const auto result = MaxOrSecond(op(v...), hn::Zero(d));
-    return RoundToInt(hn::Min(result, hn::Set(d, 255.0f)));
+    return RoundToIntInRange(hn::Min(result, hn::Set(d, 255.0f)));
   };
   return [rounded](auto... v) HWY_ATTR { return ViaFloats(rounded, v...); };
 }

@@ -47,7 +47,7 @@ HWY_INLINE auto NarrowToUnsigned32(D d, V v) {
   const V half = hn::Set(d, 2147483648.0f), positive = MaxOrSecond(v, hn::Zero(d));
   const auto isUpper = hn::Ge(positive, half), isAbove = hn::Ge(positive, hn::Set(d, 4294967296.0f));
   const V reduced = hn::Sub(positive, hn::IfThenElseZero(isUpper, half));
-  const auto whole = hn::BitCast(to, RoundToInt(reduced));
+  const auto whole = hn::BitCast(to, RoundToIntInRange(reduced));
   const auto upper = hn::IfThenElseZero(hn::RebindMask(to, isUpper), hn::Set(to, 0x80000000));
   return hn::IfThenElse(hn::RebindMask(to, isAbove), hn::Set(to, 0xFFFFFFFF), hn::Add(whole, upper));
 }
@@ -65,10 +65,10 @@ HWY_INLINE auto NarrowReal(D d, V v) {
     if constexpr (sizeof(T) < sizeof(int32_t)) return hn::DemoteTo(to, whole);
     if constexpr (sizeof(T) == sizeof(int32_t)) return whole;
   } else if constexpr (sizeof(T) < sizeof(int32_t)) {
-    return hn::DemoteTo(to, RoundToInt(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
+    return hn::DemoteTo(to, RoundToIntInRange(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
   } else {
     const auto isAbove = hn::RebindMask(ints, hn::Ge(v, hn::Set(d, 2147483648.0f)));
-    return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToInt(bounded));
+    return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToIntInRange(bounded));
   }
 }
 

@@ -69,7 +69,7 @@ template <class T, class D, class V = hn::Vec<D>>
 HWY_INLINE auto Whole(D d, V v) {
   if constexpr (std::is_same_v<hn::TFromD<D>, float>) {
     const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
-    return RoundToInt(hn::Min(bounded, hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()))));
+    return RoundToIntInRange(hn::Min(bounded, hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()))));
   } else {
     return v;
   }

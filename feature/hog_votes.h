@@ -48,7 +48,7 @@ HWY_INLINE void Vote(FloatVector gx, FloatVector gy, int bins, const Votes& to, 
   const FloatVector row = hn::Floor(place);
   const FloatVector share = hn::Mul(magnitude, hn::Sub(place, row));
   hn::StoreInterleaved2(hn::Sub(magnitude, share), share, d, to.shares + 2 * i);
-  hn::StoreU(hn::DemoteTo(bytes, RoundToInt(hn::Mul(row, hn::Set(d, float{kRowStep})))), bytes, to.row + i);
+  hn::StoreU(hn::DemoteTo(bytes, RoundToIntInRange(hn::Mul(row, hn::Set(d, float{kRowStep})))), bytes, to.row + i);
 }
 
 // The lines around a row, from one pixel before those of interest on.

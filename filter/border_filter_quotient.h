@@ -87,7 +87,8 @@ class IntegerQuotient {
     if (method_ == Method::kShift) return shift_(d, v);
     if (method_ == Method::kFloat) {
       const hn::Rebind<float, D> f;
-      return RoundToInt(RoundedBy(mode_, f, hn::Div(hn::ConvertTo(f, v), hn::Set(f, static_cast<float>(divisor_)))));
+      return RoundToIntInRange(
+          RoundedBy(mode_, f, hn::Div(hn::ConvertTo(f, v), hn::Set(f, static_cast<float>(divisor_)))));
     }
     return hn::Combine(d, InDouble(mode_, divisor_, hn::UpperHalf(hn::Half<D>(), v)),
                        InDouble(mode_, divisor_, hn::LowerHalf(v)));
