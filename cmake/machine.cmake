@@ -1,5 +1,5 @@
 # Toolchain file for another machine than the one that builds: QVPI_MACHINE is one of cmake/cpus.cmake. clang compiles for
-# all of them; Debian's cross compilers bring the libraries.
+# all of them; the libraries are those of Debian's cross compilers.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QVPI_MACHINE)
 
 function(qvpi_cpu)

@@ -8,7 +8,7 @@ import subprocess
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
+FLAGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 COMPILERS = {"C": ["cc", "-std=c11"], "CXX": ["c++", "-std=c++17", "-xc++"]}
 EMULATOR = []  # what programs start with
 
@@ -60,7 +60,7 @@ class Package:
     """The libraries of one pointer width: `name` in `libdir`, of which `cpus` can run here, lowest first."""
 
     def __init__(self, name, prefix, libdir, cpus, flags):
-        self.name, self.prefix, self.libdir, self.flags = name, prefix, prefix / libdir, [*flags, *WARNINGS]
+        self.name, self.prefix, self.libdir, self.flags = name, prefix, prefix / libdir, [*flags, *FLAGS]
         self.cpus, self.baseline, self.best = cpus, cpus[0], cpus[-1]
 
     def compile(self, output, language, compile_flags, link_flags):
@@ -149,13 +149,14 @@ def main():
     parser.add_argument("--libdir", default="lib", help="library folder below the prefix")
     parser.add_argument("--libdir32", default="lib32", help="that of the 32-bit build")
     parser.add_argument("--cpus", nargs="+", required=True, help="codes of the CPU builds made")
-    parser.add_argument("--cross", help="prefix of compilers for another machine, as in aarch64-linux-gnu-")
+    parser.add_argument("--target", help="clang's name of another machine, as in aarch64-linux-gnu")
     parser.add_argument("--emulator", default="", help="what starts its programs")
     options = parser.parse_args()
     EMULATOR.extend(options.emulator.split())
-    if options.cross:
-        for command, compiler in zip(COMPILERS.values(), ("gcc", "g++")):
-            command[0] = options.cross + compiler
+    if options.target:
+        for command, compiler in zip(COMPILERS.values(), ("clang", "clang++")):
+            command[0] = compiler
+        FLAGS.append(f"--target={options.target}")
 
     scratch = options.build.resolve() / "install_test"
     shutil.rmtree(scratch, ignore_errors=True)
