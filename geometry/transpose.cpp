@@ -38,15 +38,19 @@ HWY_INLINE hn::Vec<D> LoadBlocks(D d, const uint8_t* from, ptrdiff_t stride) {
   }
 }
 
-// In each block, lane j of vector i becomes lane i of vector j. Every round interleaves the two halves of the vectors.
+// In each block, lane j of vector i becomes lane i of vector j. Every round interleaves the two halves of the vectors,
+// which only stay in registers when the loops are unrolled: AArch64's compilers have to be asked.
 template <class D, int kSide>
 HWY_INLINE void TransposeLanes(D d, hn::Vec<D> (&v)[kSide]) {
+#pragma GCC unroll 4
   for (int round = 1; round < kSide; round *= 2) {
     hn::Vec<D> next[kSide];
+#pragma GCC unroll 8
     for (int i = 0; i < kSide / 2; ++i) {
       next[2 * i] = hn::InterleaveLower(d, v[i], v[i + kSide / 2]);
       next[2 * i + 1] = hn::InterleaveUpper(d, v[i], v[i + kSide / 2]);
     }
+#pragma GCC unroll 16
     for (int i = 0; i < kSide; ++i) v[i] = next[i];
   }
 }
