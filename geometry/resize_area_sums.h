@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/lanes.h"
+#include "base/scalar.h"
 #include "geometry/resize_area_down.h"
 #include "geometry/resize_call.h"
 
@@ -129,14 +130,15 @@ auto AverageRowFor(Layout layout) {
 inline void AverageAgain(const ResizeCall<float>& call, const ResizeRecord& record, const Tile& tile, ptrdiff_t x,
                          ptrdiff_t y, ptrdiff_t n) {
   const int channels = Channels(call.dst.layout);
-  float* row = call.dst.Row(y) + x * channels;
+  float* const row = call.dst.Row(y) + x * channels;
   for (ptrdiff_t i = 0; i < n * channels; ++i) {
-    if (row[i] - row[i] == 0) continue;
+    const float average = LoadScalar(row + i);
+    if (average - average == 0) continue;
     float pixel[4];
     const Coverage across = PeriodicCoverage(record.columns, tile.x + x + i / channels);
     AverageRowFor<double, float>(call.src.layout)(call, record.rows, tile, PeriodicCoverage(record.rows, tile.y + y),
                                                   &across, 1, pixel);
-    row[i] = pixel[i % channels];
+    StoreScalar(row + i, pixel[i % channels]);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/map.h"
+#include "base/scalar.h"
 #include "geometry/block_sum.h"
 #include "geometry/resize_weights.h"
 
@@ -56,12 +57,12 @@ HWY_INLINE void AddTapsOf(const Taps& taps, int begin, int end, Count channels, 
   for (; k < certain; ++k) {
     const F w = static_cast<F>(weight(k));
     const auto pixel = samples(k, true);
-    for (int c = 0; c < channels; ++c) sums[c] += static_cast<F>(pixel[c]) * w;
+    for (int c = 0; c < channels; ++c) sums[c] += static_cast<F>(LoadScalar(pixel + c)) * w;
   }
   for (; k < end; ++k) {
     const F w = static_cast<F>(weight(k));
     const auto pixel = samples(k, w != 0);
-    for (int c = 0; c < channels; ++c) sums[c] += w != 0 ? static_cast<F>(pixel[c]) * w : F{0};
+    for (int c = 0; c < channels; ++c) sums[c] += w != 0 ? static_cast<F>(LoadScalar(pixel + c)) * w : F{0};
   }
 }
 

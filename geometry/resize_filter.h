@@ -98,8 +98,10 @@ void FilterTileDirectly(const ResizeCall<double>& call, const ResizeRecord& reco
         if (isRead) FilterPixel<false>(plan, channels, across, row, x, pixel);
         return pixel;
       };
+      double sums[kMostChannels];
       AddTaps<false>(
-          rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, call.dst.Row(y) + x * channels);
+          rowTaps, channels, filtered, [&](int k) { return down.At(k, y); }, sums);
+      std::memcpy(call.dst.Row(y) + x * channels, sums, channels * sizeof(double));
     }
   }
 }

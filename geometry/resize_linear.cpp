@@ -192,7 +192,9 @@ class DoubleColumns {
     const ptrdiff_t n = columns_;
     for (ptrdiff_t x = 0; x < n; ++x) {
       const double *l = row + left_[x], *r = row + right_[x], w = second[x];
-      for (int c = 0; c < kChannels; ++c) out[x * kChannels + c] = l[c] * (1 - w) + r[c] * w;
+      for (int c = 0; c < kChannels; ++c) {
+        out[x * kChannels + c] = LoadScalar(l + c) * (1 - w) + LoadScalar(r + c) * w;
+      }
     }
   }
 

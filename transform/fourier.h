@@ -22,9 +22,9 @@ constexpr bool IsPower(FourierFamily family) {
 // The beginning of a record, at its first 64-byte boundary. Plans follow, at offsets from it.
 struct FourierRecord {
   FourierFamily identification;
-  int32_t across, down;  // the sides, or of powers of two their exponents
-  int32_t hint, bufferBytes;
-  int64_t plans[3];  // of the rows, of complex columns, of real columns
+  int32_t across, down;               // the sides, or of powers of two their exponents
+  int32_t hint, bufferBytes, unused;  // without a gap, whose bytes nobody would set
+  int64_t plans[3];                   // of the rows, of complex columns, of real columns
 
   int64_t width() const { return IsPower(identification) ? int64_t{1} << across : across; }
   int64_t height() const { return IsPower(identification) ? int64_t{1} << down : down; }

@@ -78,7 +78,7 @@ QvpStatus FourierFill(FourierFamily family, const FourierDemand& demand, void* s
   const auto side = [&](int length) {
     return IsPower(family) ? std::countr_zero(static_cast<unsigned>(length)) : length;
   };
-  FourierRecord record{{}, side(demand.size.width), side(demand.size.height), demand.hint, bufferBytes, {}};
+  FourierRecord record{{}, side(demand.size.width), side(demand.size.height), demand.hint, bufferBytes, 0, {}};
   int64_t end = kRecordBoundary;
   for (int i = 0; i < plans.count; ++i) {
     record.plans[i] = IsShared(plans, i) ? record.plans[kRows] : end;
