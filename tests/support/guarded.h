@@ -6,10 +6,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstring>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace test {
@@ -17,28 +19,33 @@ namespace test {
 enum class Guard { kAfter, kBefore };
 
 // Pages between two that cannot be read. Small pieces are kept for the next one of their size: mapping them costs more
-// than most calls of the library.
+// than most calls of the library. Any thread may take and return them.
 class Pages {
  public:
   static uint8_t* Take(size_t room) {
-    auto& free = Kept(room);
-    if (free.empty()) return Map(room);
-    uint8_t* const pages = free.back();
-    free.pop_back();
-    return pages;
+    uint8_t* const kept = TakeKept(room);
+    return kept != nullptr ? kept : Map(room);
   }
   static void Return(uint8_t* pages, size_t room) {
-    if (room <= kMostKept) return Kept(room).push_back(pages);
-    munmap(pages - Page(), room + 2 * Page());
+    if (room > kMostKept) {
+      munmap(pages - Page(), room + 2 * Page());
+      return;
+    }
+    const std::lock_guard lock(mutex_);
+    kept_[room].push_back(pages);
   }
   static size_t Page() { return static_cast<size_t>(sysconf(_SC_PAGESIZE)); }
 
  private:
   static constexpr size_t kMostKept = 1 << 16;
 
-  static std::vector<uint8_t*>& Kept(size_t room) {
-    static std::map<size_t, std::vector<uint8_t*>> kept;
-    return kept[room];
+  static uint8_t* TakeKept(size_t room) {
+    const std::lock_guard lock(mutex_);
+    auto& kept = kept_[room];
+    if (kept.empty()) return nullptr;
+    uint8_t* const pages = kept.back();
+    kept.pop_back();
+    return pages;
   }
   static uint8_t* Map(size_t room) {
     void* const base = mmap(nullptr, room + 2 * Page(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -46,6 +53,9 @@ class Pages {
     if (base == MAP_FAILED || mprotect(pages, room, PROT_READ | PROT_WRITE) != 0) abort();
     return pages;
   }
+
+  static inline std::mutex mutex_;
+  static inline std::map<size_t, std::vector<uint8_t*>> kept_;
 };
 
 class Block {
@@ -93,7 +103,7 @@ class Image {
  public:
   Image(ptrdiff_t samples, int height, int gap, Guard guard = Guard::kAfter)
       : row_(samples * sizeof(T)), height_(height), gap_(gap), block_(row_ * height + gap * (height - 1), guard) {
-    static uint64_t seed = 0;
+    static std::atomic<uint64_t> seed = 0;
     Random(++seed).Fill(bytes(), block_.size());
     for (int y = 0; y + 1 < height; ++y) std::memset(bytes() + y * step() + row_, kMark, gap);
   }
