@@ -3,10 +3,17 @@
 
 The headers are the single list of exported names. For one CPU build this writes
 
-  rename.h     one define per function: inside the library `name` means `<cpu>_name`
+  rename.h     one define per function: inside the library `name` means `<cpu>_name`; and one for the namespace of all
+               that is internal, so that no symbol of one build is taken for one of another in a program with both
   entries.S    the entry table and the stub of each exported name, which jumps through its slot
   exports.map  the linker's version script
   static.syms  for the archive: the renames undone, so that a name stands for the function itself and not for a stub
+
+For a build that holds the code of several others, its levels, and chooses between them at load:
+
+  entries.S    the table of entries and the stub of each exported name, for the shared library
+  entry.S      one stub with its entry, for the archive: tools/entry_objects.py makes an object of it for each name
+  exports.map  the linker's version script
 
 and for the tests
 
@@ -29,20 +36,26 @@ def prototypes(headers):
     return found
 
 
+def write(file, text):
+    """Leaves a file alone that says the same already, so that nothing is compiled again."""
+    if not file.exists() or file.read_text() != text:
+        file.write_text(text)
+
+
 def rename(names, cpu):
-    lines = [f"#define {name} {cpu}_{name}" for name in names]
+    lines = [f"#define {name} {cpu}_{name}" for name in ["qvp", *names]]
     # Declared hidden, so that calls from one function to another are direct ones.
     hidden = ["#pragma GCC visibility push(hidden)", '#include "qvpi.h"', "#pragma GCC visibility pop"]
     return "\n".join(lines + hidden) + "\n"
 
 
-# The stub of one slot. Jumps are protected: a function that is reached through a register begins with a landing mark.
+# The stub that jumps through the slot at an address. Jumps are protected: a function that is reached through a register begins with a landing mark.
 STUB = {
-    ("x86", 64): "\t_CET_ENDBR\n\tjmp *(table + 8 * {slot})(%rip)\n",
+    ("x86", 64): "\t_CET_ENDBR\n\tjmp *({slot})(%rip)\n",
     # The address of the next instruction comes from the return address of a call; only eax and ecx may be changed.
-    ("x86", 32): "\t_CET_ENDBR\n\tcall pc_to_ecx\n0:\tjmp *(table + 4 * {slot} - 0b)(%ecx)\n",
+    ("x86", 32): "\t_CET_ENDBR\n\tcall pc_to_ecx\n0:\tjmp *({slot} - 0b)(%ecx)\n",
     # Only x16 and x17 may be changed.
-    ("aarch64", 64): "\tbti c\n\tadrp x16, table + 8 * {slot}\n\tldr x16, [x16, :lo12:table + 8 * {slot}]\n\tbr x16\n",
+    ("aarch64", 64): "\tbti c\n\tadrp x16, {slot}\n\tldr x16, [x16, :lo12:{slot}]\n\tbr x16\n",
 }
 PROLOGUE = {
     ("x86", 64): "#include <cet.h>\n",
@@ -54,18 +67,56 @@ PROLOGUE = {
 }
 
 
+# Says that no code is put on the stack.
+EPILOGUE = '\t.section .note.GNU-stack, "", @progbits\n'
+
+
+def stub(name, slot, machine, bits):
+    return (f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n"
+            f"{STUB[machine, bits].format(slot=slot)}\t.size {name}, . - {name}\n")
+
+
 def entries(names, cpu, machine, bits):
     """Assembly: stubs in header order, then the table, filled by the loader and read-only from then on."""
+    size, word = bits // 8, ".quad" if bits == 64 else ".long"
     text = [PROLOGUE[machine, bits], "\t.text\n"]
-    for slot, name in enumerate(names):
-        text.append(f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n"
-                    f"{STUB[machine, bits].format(slot=slot)}\t.size {name}, . - {name}\n")
+    text += [stub(name, f"table + {size} * {i}", machine, bits) for i, name in enumerate(names)]
     text.append('\t.section .data.rel.ro, "aw", @progbits\n\t.p2align 6\n\t.type table, @object\ntable:\n')
-    word = ".quad" if bits == 64 else ".long"
-    for name in names:
-        text.append(f"\t.hidden {cpu}_{name}\n\t{word} {cpu}_{name}\n")
-    text.append('\t.size table, . - table\n\t.section .note.GNU-stack, "", @progbits\n')
-    return "".join(text)
+    text += [f"\t.hidden {cpu}_{name}\n\t{word} {cpu}_{name}\n" for name in names]
+    return "".join([*text, "\t.size table, . - table\n", EPILOGUE])
+
+
+# A build of several levels has these in a section whose bounds the linker tells: the slot, which begins as the code of
+# the lowest level, and the way from each word to the code of a higher one.
+ENTRIES = '\t.section qvpi_entries, "aw", @progbits\n'
+ENTRY_SIZE = 16
+
+
+def entry(name, levels):
+    lowest, *higher = [f"{level}_{name}" for level in levels]
+    text = "".join(f"\t.hidden {code}\n" for code in [lowest, *higher]) + f"\t.quad {lowest}\n"
+    return text + "".join(f"\t.long {code} - .\n" for code in higher)
+
+
+def union_entries(names, levels, machine, bits):
+    """Assembly: stubs in header order, then the entries, on pages of their own, which can be made read-only."""
+    text = [PROLOGUE[machine, bits], "\t.text\n"]
+    text += [stub(name, f"table + {ENTRY_SIZE} * {i}", machine, bits) for i, name in enumerate(names)]
+    text += [ENTRIES, "\t.p2align 12\ntable:\n", *(entry(name, levels) for name in names), "\t.p2align 12\n"]
+    return "".join([*text, EPILOGUE])
+
+
+def placeholder(names):
+    """What stands for the name of a function in the template of its object, and is as long as the longest."""
+    return "qvpi".ljust(max(map(len, names)), "_")
+
+
+def entry_template(names, levels, machine, bits):
+    """Assembly: one stub with its entry. The excluded section makes a program that has it have what fills it, too."""
+    name = placeholder(names)
+    return "".join([PROLOGUE[machine, bits], "\t.text\n", f"\t.hidden {name}\n", stub(name, "entry", machine, bits),
+                    ENTRIES, "\t.p2align 3\nentry:\n", entry(name, levels),
+                    '\t.section .qvpi_needs, "e", @progbits\n\t.quad qvpi_fill_entries\n', EPILOGUE])
 
 
 def exports(names):
@@ -107,6 +158,7 @@ def calls(functions):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
+    parser.add_argument("--levels", nargs="+", help="the codes of those whose code a build for several levels holds, lowest first")
     parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB}), help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
     parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
@@ -119,13 +171,16 @@ def main():
         raise SystemExit("a name is declared twice: " + ", ".join(sorted({n for n in names if names.count(n) > 1})))
     options.out.mkdir(parents=True, exist_ok=True)
     if options.calls:
-        (options.out / "calls.cpp").write_text(calls(functions))
+        write(options.out / "calls.cpp", calls(functions))
         return
-    (options.out / "exports.map").write_text(exports(names))
+    write(options.out / "exports.map", exports(names))
     if options.cpu:
-        (options.out / "rename.h").write_text(rename(names, options.cpu))
-        (options.out / "entries.S").write_text(entries(names, options.cpu, options.machine, options.bits))
-        (options.out / "static.syms").write_text("".join(f"{options.cpu}_{name} {name}\n" for name in names))
+        write(options.out / "rename.h", rename(names, options.cpu))
+        write(options.out / "entries.S", entries(names, options.cpu, options.machine, options.bits))
+        write(options.out / "static.syms", "".join(f"{options.cpu}_{name} {name}\n" for name in names))
+    if options.levels:
+        write(options.out / "entries.S", union_entries(names, options.levels, options.machine, options.bits))
+        write(options.out / "entry.S", entry_template(names, options.levels, options.machine, options.bits))
 
 
 if __name__ == "__main__":
