@@ -26,3 +26,8 @@ qvpi_cpu(v2    x86      64    sse4_2     calls     HWY_SSE4       qvpi     .    
 qvpi_cpu(v3    x86      64    avx2       formulas  HWY_AVX2       qvpi     glibc-hwcaps/x86-64-v3       "qvpIP AVX2 (v3)"            -march=x86-64-v3)
 qvpi_cpu(v4    x86      64    avx512vl   calls     HWY_AVX3       qvpi     glibc-hwcaps/x86-64-v4       "qvpIP AVX-512 (v4)"         -march=x86-64-v4)
 qvpi_cpu(n8    aarch64  64    asimd      formulas  HWY_NEON       qvpi     .                            "qvpIP NEON (n8)"            -march=armv8-a)
+
+# One row per build that holds the code of several, whose levels follow, the lowest first, and chooses at load.
+#
+#          code machine  bits  runs with  tests     file     below the library folder in  levels
+qvpi_union(any  x86      64    sse4_2     calls     qvpi     qvpi-any                     v2 v3 v4)

@@ -2,6 +2,9 @@
 #
 #   <libdir>/            the baseline: the lowest 64-bit build, which is what programs link; and the companion
 #   <libdir>/glibc-hwcaps/<level>/    the builds above it, which the dynamic linker takes instead on CPUs that have them
+#   <libdir>/qvpi-any/   the archive of the build for every x86-64; and, of the component `any` alone, which is not
+#                        installed unless it is asked for, its shared library with a companion of its own, for others
+#                        to take along
 #   <libdir32>/          the 32-bit build of x86, with a companion of its own
 #
 # The library folders also get the static archives, a CMake package and pkg-config files: <package> for the shared
@@ -74,23 +77,40 @@ endfunction()
 # The companion of the baseline, in the library folder, two folders up, serves every level.
 function(qvpi_install_level code libdir runtime development)
   get_target_property(folder qvpi_${code} QVPI_FOLDER)
-  get_target_property(package qvpi_${code} OUTPUT_NAME)
   set_target_properties(qvpi_${code} PROPERTIES INSTALL_RPATH $ORIGIN/../..)
-  set_target_properties(qvpi_${code}_static PROPERTIES EXPORT_NAME ${package}_static_${code}
-    INTERFACE_LINK_LIBRARIES qvpcore_${baseline}_static)
   install(TARGETS qvpi_${code}
     LIBRARY DESTINATION ${libdir}/${folder} COMPONENT ${runtime} NAMELINK_SKIP ${ARGN})
+  qvpi_install_archive(${code} ${libdir} ${runtime} ${development} ${ARGN})
+endfunction()
+
+# The archive of another build than the baseline, with whose companion it is linked.
+function(qvpi_install_archive code libdir runtime development)
+  get_target_property(folder qvpi_${code} QVPI_FOLDER)
+  get_target_property(package qvpi_${code} OUTPUT_NAME)
+  set_target_properties(qvpi_${code}_static PROPERTIES EXPORT_NAME ${package}_static_${code}
+    INTERFACE_LINK_LIBRARIES qvpcore_${baseline}_static)
   install(TARGETS qvpi_${code}_static EXPORT ${package}-${runtime}
     ARCHIVE DESTINATION ${libdir}/${folder} COMPONENT ${development} ${ARGN}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   qvpi_install_archive_pkgconfig(${package} ${code} ${folder} ${libdir} ${development} ${ARGN})
 endfunction()
 
+# What somebody takes along who gives a program or a package to others.
+function(qvpi_install_shared_union code libdir)
+  get_target_property(folder qvpi_${code} QVPI_FOLDER)
+  set_target_properties(qvpi_${code} PROPERTIES INSTALL_RPATH $ORIGIN)
+  install(TARGETS qvpi_${code} qvpcore_${code} LIBRARY DESTINATION ${libdir}/${folder} COMPONENT ${code} EXCLUDE_FROM_ALL)
+endfunction()
+
 # All builds of one pointer width; the table of CPU builds lists the lowest level first.
 function(qvpi_install_libraries bits)
   get_property(codes GLOBAL PROPERTY QVPI_CPU_BUILDS)
+  get_property(unions GLOBAL PROPERTY QVPI_UNION_BUILDS)
   set(rule qvpi_install_baseline)
-  foreach(code IN LISTS codes)
+  foreach(code IN LISTS codes unions)
+    if(code IN_LIST unions)
+      set(rule qvpi_install_archive)
+    endif()
     get_target_property(code_bits qvpi_${code} QVPI_BITS)
     if(code_bits EQUAL bits)
       cmake_language(CALL ${rule} ${code} ${ARGN})
@@ -105,6 +125,10 @@ endfunction()
 qvpi_install_headers(development)
 qvpi_install_libraries(64 ${CMAKE_INSTALL_LIBDIR} runtime development)
 qvpi_install_libraries(32 ${QVPI_LIBDIR32} runtime32 development32)
+get_property(unions GLOBAL PROPERTY QVPI_UNION_BUILDS)
+foreach(code IN LISTS unions)
+  qvpi_install_shared_union(${code} ${CMAKE_INSTALL_LIBDIR})
+endforeach()
 
 if(PROJECT_IS_TOP_LEVEL)
   include(cmake/package.cmake)

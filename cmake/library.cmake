@@ -58,9 +58,10 @@ endfunction()
 
 # A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/. Further
 # arguments are objects that only the shared one has.
-function(qvpi_shared_and_static name objects output code bits map)
-  add_library(${name} SHARED $<TARGET_OBJECTS:${objects}> ${ARGN})
-  add_library(${name}_static STATIC $<TARGET_OBJECTS:${objects}>)
+function(qvpi_shared_and_static name object_libraries output code bits map)
+  list(TRANSFORM object_libraries REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>" OUTPUT_VARIABLE objects)
+  add_library(${name} SHARED ${objects} ${ARGN})
+  add_library(${name}_static STATIC ${objects})
   foreach(target ${name} ${name}_static)
     qvpi_settings(${target} ${bits})
     set_target_properties(${target} PROPERTIES OUTPUT_NAME ${output} BUILD_RPATH_USE_ORIGIN ON
@@ -83,6 +84,7 @@ function(qvpi_companion code bits)
     ${PROJECT_SOURCE_DIR}/platform/${QVPI_MACHINE}/*.cpp)
   add_library(qvpcore_${code}_objects OBJECT ${sources} ${derived}/exports.map)
   qvpi_settings(qvpcore_${code}_objects ${bits})
+  target_include_directories(qvpcore_${code}_objects PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION} -fvisibility=default -fvisibility-inlines-hidden
     $<$<EQUAL:${bits},32>:-march=i686>)
   qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
@@ -147,5 +149,52 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
   if(runs AND bits EQUAL 64)  # rows go upwards: the best one stays
     set_property(GLOBAL PROPERTY QVPI_HOST_BUILD ${code})
   endif()
+  add_custom_target(${code} DEPENDS ${library} ${library}_static)
+endfunction()
+
+# A build that holds the code of others, its levels, and chooses between them at load. Their objects are taken as they
+# are; only what chooses is compiled, for any CPU of the machine.
+function(qvpi_union code machine bits feature tests output folder)
+  if(QVPI_SANITIZE OR NOT machine STREQUAL QVPI_MACHINE OR (QVPI_CPUS AND NOT code IN_LIST QVPI_CPUS))
+    return()
+  endif()
+  foreach(level IN LISTS ARGN)
+    if(NOT TARGET qvpi_${level})
+      message(FATAL_ERROR "The build ${code} holds ${level}, which QVPI_CPUS does not name")
+    endif()
+  endforeach()
+  qvpi_companion(${code} ${bits})
+
+  set(derived ${PROJECT_BINARY_DIR}/derived/${code})
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
+  qvpi_derive(${derived} FILES entries.S entry.S exports.map ARGS --machine ${machine} --bits ${bits} --levels ${ARGN}
+    HEADERS ${headers})
+  set(library qvpi_${code})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/${machine}/${code}/*.cpp)
+  set_source_files_properties(${sources} PROPERTIES OBJECT_DEPENDS ${derived}/entry.S)  # a new archive for new entries
+  add_library(${library}_objects OBJECT ${sources})
+  add_library(${library}_entries OBJECT ${derived}/entries.S)
+  add_library(${library}_entry OBJECT ${derived}/entry.S)
+  foreach(objects ${library}_objects ${library}_entries ${library}_entry)
+    qvpi_settings(${objects} ${bits})
+    target_compile_options(${objects} PRIVATE ${QVPI_PROTECTION})
+  endforeach()
+  target_include_directories(${library}_objects PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_options(${library}_objects PRIVATE ${QVPI_FLAGS}
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-prio-ctor-dtor>)  # it comes before what programs may ask for
+
+  list(TRANSFORM ARGN REPLACE "(.+)" "qvpi_\\1_objects" OUTPUT_VARIABLE levels)
+  qvpi_shared_and_static(${library} "${library}_objects;${levels}" ${output} ${code} ${bits} ${derived}/exports.map
+    $<TARGET_OBJECTS:${library}_entries>)
+  set(tool ${PROJECT_SOURCE_DIR}/tools/entry_objects.py)
+  add_dependencies(${library}_static ${library}_entry)
+  add_custom_command(TARGET ${library}_static POST_BUILD VERBATIM
+    COMMAND Python3::Interpreter ${tool} --template $<TARGET_OBJECTS:${library}_entry> --ar ${CMAKE_AR}
+      --archive $<TARGET_FILE:${library}_static> --out ${derived}/objects ${headers})
+  target_link_libraries(${library} PUBLIC qvpcore_${code})
+  target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
+  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests}
+    QVPI_FOLDER ${folder} QVPI_LEVELS "${ARGN}")
+  set_property(GLOBAL APPEND PROPERTY QVPI_UNION_BUILDS ${code})
   add_custom_target(${code} DEPENDS ${library} ${library}_static)
 endfunction()

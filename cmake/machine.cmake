@@ -4,6 +4,8 @@ list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QVPI_MACHINE)
 
 function(qvpi_cpu)
 endfunction()
+function(qvpi_union)
+endfunction()
 
 macro(qvpi_machine name processor debian target protection emulator)
   if("${name}" STREQUAL "${QVPI_MACHINE}")

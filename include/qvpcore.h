@@ -1,8 +1,8 @@
 /** @file qvpcore.h
  *  The companion library qvpcore: aligned memory, facts about the processor, and texts for status codes.
  *
- *  qvpIP itself calls only qvpMalloc(), qvpMalloc_L(), qvpFree() and qvpGetMaxCacheSizeB(). All functions may be
- *  called from any number of threads at once.
+ *  qvpIP itself calls only qvpMalloc(), qvpMalloc_L(), qvpFree() and qvpGetMaxCacheSizeB(), and the build for every
+ *  x86-64 ownGetFeature() when it is loaded. All functions may be called from any number of threads at once.
  */
 #ifndef QVPCORE_H
 #define QVPCORE_H

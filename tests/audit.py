@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Audit a built library by disassembly: it uses no instruction beyond its CPU level, none whose result differs between
 makers of CPUs, imports nothing that could allocate, print, wait or depend on the environment, exports its own functions
-only, and is read-only once loaded.
-
+only, and is read-only once loaded. Archives give no symbol a name that something else could have, too: the linker takes
+one definition of each, and that of a higher level would crash on a CPU of a lower one.
 """
 import argparse
 import re
@@ -29,10 +29,12 @@ FORBIDDEN = {
     "v3": (r"(?!)", EVEX),
     "v4": (BEYOND_V4, r"(?!)"),
     "n8": (f"{BEYOND_N8}|{FUSED_N8}", r"\bz\d+\.|\bp\d+/|^f\w+ +v\d+\.[48]h"),
+    "any": (BEYOND_V4, r"(?!)"),
     "core": (rf"{BMI}|v(?!err|erw)\w+|p(?:shufb|mulld)", r"%ymm|" + EVEX),
 }
 IMPORTS = {
     "core": r"aligned_alloc|free",
+    "any": r"secure_getenv|mprotect|ownGetFeature",  # beside those of a library
     "library": r"mem(?:cpy|set|move|cmp)|qvpFree|qvpMalloc|qvpMalloc_L|qvpGetMaxCacheSizeB|qvp_get_cache_line_size",
 }
 FROM_START_FILES = r"_ITM_\w+|__cxa_finalize|__gmon_start__|__stack_chk_fail"
@@ -43,11 +45,11 @@ def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-def offences(objdump, library, kind):
+def offences(listing, kind):
     mnemonics, forms = FORBIDDEN[kind]
     mnemonic_pattern, form_pattern = re.compile(f"(?:{mnemonics}|{EVERYWHERE})"), re.compile(forms)
     found, count = {}, 0
-    for line in run(objdump, "-d", "--no-show-raw-insn", str(library)).splitlines():
+    for line in listing.splitlines():
         match = INSTRUCTION.match(line)
         if not match:
             continue
@@ -59,7 +61,8 @@ def offences(objdump, library, kind):
 
 
 def strange_imports(library, kind):
-    allowed = re.compile(f"(?:{IMPORTS['core' if kind == 'core' else 'library']}|{FROM_START_FILES})")
+    own = IMPORTS["core"] if kind == "core" else IMPORTS["library"] + "|" + IMPORTS.get(kind, "(?!)")
+    allowed = re.compile(f"(?:{own}|{FROM_START_FILES})")
     names = {line.split()[-1].split("@")[0] for line in run("nm", "-D", "--undefined-only", str(library)).splitlines()}
     return sorted(name for name in names if not allowed.fullmatch(name))
 
@@ -69,30 +72,57 @@ def strange_exports(library):
     return [name for name in names if not re.fullmatch(r"qvp\w+|ownGetFeature", name)]
 
 
+def strange_stubs(listing, library):
+    """Those exports of a library of several levels that are more than a jump."""
+    names = {line.split()[-1] for line in run("nm", "-D", "--defined-only", str(library)).splitlines()}
+    stub = re.compile(r"^[0-9a-f]+ <(\w+)[@\w]*>:\n.*\tendbr64\s*\n.*\tjmp +\*0x\w+\(%rip\) .*\n(?!.*\t(?!nop|cs nop|data16|xchg|int3))", re.M)
+    return sorted(names - set(stub.findall(listing)))
+
+
+def strange_symbols(archive, levels):
+    """Those that neither are exported names nor name one level; code that is for any CPU may have its own."""
+    names = re.findall(r"^[0-9a-f]+ [A-Zuvw] (\w+)", run("nm", "--defined-only", str(archive)), re.M)
+    own = re.compile(rf"(?:qvp|ownGet)\w+|(?:{'|'.join(levels)})_qvp\w+|_Z\w*?\d({'|'.join(levels)})_qvp\w*")
+    of_two = [name for name in names if len(set(re.findall(r"\d?([a-z]\d)_qvp", name))) > 1]
+    return sorted({name for name in names if not own.fullmatch(name)} | set(of_two))
+
+
 def is_read_only(library):
-    """No relocation of code, and the entry table is made read-only before the program starts."""
+    """No relocation of code, and the entry table is made read-only before the program starts: by the loader, or by the
+    library itself, for which it must be on pages of its own."""
     dynamic, segments = run("readelf", "-dW", str(library)), run("readelf", "-lW", str(library))
     relocated = re.search(r"GNU_RELRO", segments) and re.search(r"\.data\.rel\.ro", segments.split("GNU_RELRO")[-1])
-    return "TEXTREL" not in dynamic and "BIND_NOW" in dynamic and ("core" in library.name or bool(relocated))
+    entries = re.search(r" qvpi_entries +PROGBITS +([0-9a-f]+) [0-9a-f]+ ([0-9a-f]+)", run("readelf", "-SW", str(library)))
+    paged = entries and all(int(word, 16) % 4096 == 0 for word in entries.groups())
+    return "TEXTREL" not in dynamic and "BIND_NOW" in dynamic and ("core" in library.name or bool(relocated) or bool(paged))
+
+
+def audit_library(options, library):
+    kind = "core" if "core" in library.name else options.cpu
+    listing = run(options.objdump, "-d", "--no-show-raw-insn", str(library))
+    count, found = offences(listing, kind)
+    imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
+    stubs = strange_stubs(listing, library) if options.levels and kind != "core" else []
+    print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
+          f"exports not allowed: {exports}; more than a jump: {stubs}; read-only: {fixed}")
+    for line in found.values():
+        print("   ", line)
+    return not (found or imports or exports or stubs) and fixed and count >= 100
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--objdump", default="objdump", help="the disassembler for that CPU")
+    parser.add_argument("--levels", nargs="+", default=[], help="codes of the CPU builds whose code it has")
     parser.add_argument("cpu", help="code of the CPU build")
     parser.add_argument("folder", type=Path, help="where its libraries are")
     options = parser.parse_args()
-    failed = False
-    for library in sorted(options.folder.glob("libqvp*.so.10")):
-        kind = "core" if "core" in library.name else options.cpu
-        count, found = offences(options.objdump, library, kind)
-        imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
-        print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
-              f"exports not allowed: {exports}; read-only: {fixed}")
-        for line in found.values():
-            print("   ", line)
-        failed = failed or bool(found or imports or exports) or not fixed or count < 100
-    sys.exit(failed)
+    passed = [audit_library(options, library) for library in sorted(options.folder.glob("libqvp*.so.10"))]
+    for archive in options.folder.glob("libqvp*.a"):
+        symbols = strange_symbols(archive, options.levels or [options.cpu])
+        print(f"{archive.name}: symbols not allowed: {symbols}")
+        passed.append(not symbols)
+    sys.exit(not all(passed) or len(passed) < 4)
 
 
 if __name__ == "__main__":

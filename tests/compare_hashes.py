@@ -2,7 +2,8 @@
 """Compare what the hash program prints for every CPU build.
 
 Each argument is <library folder>=<program>, with the emulator before the program if it needs one, or a file of lines
-that --save has written, <folder>/<code>.txt for each build.
+that --save has written, <folder>/<code>.txt for each build. A library that chooses between levels is told to take one
+by <library folder>@<level>.
 """
 import argparse
 import os
@@ -16,10 +17,11 @@ def lines_of(argument):
     """(name of the build, what the program prints)"""
     if "=" not in argument:
         return Path(argument).stem, Path(argument).read_text()
-    folder, command = argument.split("=", 1)
+    library, command = argument.split("=", 1)
+    folder, _, level = library.partition("@")
     output = subprocess.run(command.split(), check=True, capture_output=True, text=True,
-                            env={**os.environ, "LD_LIBRARY_PATH": folder}).stdout
-    return Path(folder).name, output
+                            env={**os.environ, "LD_LIBRARY_PATH": folder, "QVPI_CPU": level}).stdout
+    return Path(library).name, output
 
 
 parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)

@@ -8,6 +8,7 @@ import argparse
 import hashlib
 import json
 import os
+import re
 import shlex
 import subprocess
 import sys
@@ -19,9 +20,10 @@ CACHE = Path(os.environ.get("XDG_CACHE_HOME", Path.home() / ".cache")) / "qvpip-
 
 
 def commands(folder):
-    """The compile commands of the library's own sources in that build."""
+    """The compile commands of the library's own sources in that build, and of those that only `any` has."""
     entries = json.loads((folder / "compile_commands.json").read_text())
-    return [e for e in entries if f"_{BUILD}_objects.dir" in e["command"] and e["file"].endswith(".cpp")]
+    own = re.compile(rf"_{BUILD}_objects\.dir|qvpi_any_objects\.dir")
+    return [e for e in entries if own.search(e["command"]) and e["file"].endswith(".cpp")]
 
 
 def state_of(entry, tool):

@@ -7,9 +7,11 @@
 #include <climits>
 #include <cstdint>
 
-#include "qvpcore.h"
+#include "platform/x86/cpu_levels.h"
 
 namespace {
+
+using qvp::Bit;
 
 struct Registers {
   unsigned eax = 0, ebx = 0, ecx = 0, edx = 0;
@@ -21,8 +23,6 @@ Registers Identify(unsigned leaf, unsigned subleaf = 0) {
   __get_cpuid_count(leaf, subleaf, &r.eax, &r.ebx, &r.ecx, &r.edx);
   return r;
 }
-
-constexpr bool Bit(uint64_t value, int bit) { return (value >> bit & 1) != 0; }
 
 // Largest data or unified cache of a leaf that lists caches by subleaf: 4, or 0x8000001D where AMD's extension is.
 int64_t LargestListedCache(unsigned leaf) {
@@ -56,10 +56,9 @@ int64_t LargestCache() {
   return LargestLegacyCache();
 }
 
-// Registers that the operating system saves: 2 is SSE, 4 AVX, 0xE0 the three parts of AVX-512.
-uint64_t EnabledState(const Registers& features) {
+uint64_t SavedState(const Registers& basic) {
   constexpr int kOsXsave = 27;
-  if (!Bit(features.ecx, kOsXsave)) return 0;
+  if (!Bit(basic.ecx, kOsXsave)) return 0;
   unsigned low, high;
   __asm__("xgetbv" : "=a"(low), "=d"(high) : "c"(0));
   return static_cast<uint64_t>(high) << 32 | low;
@@ -90,17 +89,5 @@ int qvp_get_cache_line_size() {
 
 uint64_t ownGetFeature() {
   const Registers basic = Identify(1), extended = Identify(7), amd = Identify(0x80000001);
-  const uint64_t state = EnabledState(basic);
-  const bool avx = (state & 0x6) == 0x6, avx512 = (state & 0xE6) == 0xE6;
-  constexpr uint64_t kAvx512Levels = 1u << 16 | 1u << 17 | 1u << 28 | 1u << 30 | 1u << 31;  // F, DQ, CD, BW, VL
-  const auto feature = [](bool present, uint64_t bit) { return present ? bit : 0; };
-  return feature(Bit(basic.edx, 25) && Bit(basic.edx, 26), qvpFeatureSSE2) |
-         feature(Bit(basic.ecx, 0), qvpFeatureSSE3) | feature(Bit(basic.ecx, 9), qvpFeatureSSSE3) |
-         feature(Bit(basic.ecx, 19), qvpFeatureSSE41) | feature(Bit(basic.ecx, 20), qvpFeatureSSE42) |
-         feature(Bit(basic.ecx, 23), qvpFeaturePOPCNT) | feature(avx && Bit(basic.ecx, 28), qvpFeatureAVX) |
-         feature(avx && Bit(extended.ebx, 5), qvpFeatureAVX2) | feature(avx && Bit(basic.ecx, 12), qvpFeatureFMA) |
-         feature(avx && Bit(basic.ecx, 29), qvpFeatureF16C) |
-         feature(Bit(extended.ebx, 3) && Bit(extended.ebx, 8) && Bit(amd.ecx, 5), qvpFeatureBMI) |
-         feature(Bit(basic.ecx, 22), qvpFeatureMOVBE) |
-         feature(avx512 && (extended.ebx & kAvx512Levels) == kAvx512Levels, qvpFeatureAVX512);
+  return qvp::FeaturesOf({basic.ecx, basic.edx, extended.ebx, amd.ecx, SavedState(basic)});
 }

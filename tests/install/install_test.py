@@ -59,9 +59,11 @@ def check_files(prefix, build):
 class Package:
     """The libraries of one pointer width: `name` in `libdir`, of which `cpus` can run here, lowest first."""
 
-    def __init__(self, name, prefix, libdir, cpus, flags):
+    def __init__(self, name, prefix, libdir, cpus, flags, has_any=False):
         self.name, self.prefix, self.libdir, self.flags = name, prefix, prefix / libdir, [*flags, *FLAGS]
         self.cpus, self.baseline, self.best = cpus, cpus[0], cpus[-1]
+        # (the archive of a build, the level as which it runs)
+        self.archives = [(cpu, cpu) for cpu in cpus] + ([("any", self.best)] if has_any else [])
 
     def compile(self, output, language, compile_flags, link_flags):
         program = self.prefix.parent / f"{self.name}_{language}_{output}"
@@ -90,8 +92,8 @@ class Package:
         run(cmake, "--build", build)
         require_output(build / "consumer", self.best)
         self.require_static(build / "consumer_static", language)
-        for cpu in self.cpus[1:]:
-            require_output(build / f"consumer_static_{cpu}", cpu)
+        for archive, cpu in self.archives[1:]:
+            require_output(build / f"consumer_static_{archive}", cpu)
 
     def pkgconfig(self, *options, module=None):
         return run("pkg-config", *options, module or self.name, PKG_CONFIG_PATH=f"{self.libdir}/pkgconfig").split()
@@ -100,9 +102,9 @@ class Package:
         include = self.pkgconfig("--cflags")
         shared = self.compile("pc", language, include, self.pkgconfig("--libs"))
         require_output(shared, self.best, LD_LIBRARY_PATH=str(self.libdir))
-        for cpu in self.cpus:
-            archive = self.pkgconfig("--libs", module=f"{self.name}-static-{cpu}")
-            static = self.compile(f"pc_static_{cpu}", language, include, archive)
+        for archive, cpu in self.archives:
+            libraries = self.pkgconfig("--libs", module=f"{self.name}-static-{archive}")
+            static = self.compile(f"pc_static_{archive}", language, include, libraries)
             require_output(static, cpu)
         whole = self.compile("pc_static", language, include, ["-static", *self.pkgconfig("--static", "--libs")])
         require_output(whole, self.baseline)
@@ -127,17 +129,25 @@ class Package:
         hidden = "glibc.cpu.hwcaps=-AVX2"
         require_output(program, self.baseline, LD_LIBRARY_PATH=str(self.libdir), GLIBC_TUNABLES=hidden)
 
+    def try_any(self, program):
+        """The shared library of the build for every x86-64, with its companion, from the folder that it is put into."""
+        folder = self.libdir / "qvpi-any"
+        require_output(program, self.best, LD_LIBRARY_PATH=str(folder))
+        require_output(program, self.baseline, LD_LIBRARY_PATH=str(folder), QVPI_CPU=self.baseline)
+
     def try_all(self, cmake):
         for language in COMPILERS:
             self.try_cmake(cmake, language)
             self.try_pkgconfig(language)
             program = self.try_compiler(language)
         self.try_lower_levels(program)
+        if self.archives[-1][0] == "any":
+            self.try_any(program)
 
 
 def packages(options, prefix):
     if cpus := supported(options.cpus):
-        yield Package("qvpi", prefix, options.libdir, cpus, [])
+        yield Package("qvpi", prefix, options.libdir, cpus, [], "any" in options.cpus)
     if "g9" in options.cpus:
         yield Package("qvpig9", prefix, options.libdir32, ["g9"], ["-m32"])
 
@@ -162,6 +172,8 @@ def main():
     shutil.rmtree(scratch, ignore_errors=True)
     prefix = scratch / "prefix"
     run(options.cmake, "--install", options.build, "--prefix", prefix)
+    require(not list(prefix.rglob("qvpi-any/*.so*")), "the build any was installed without being asked for")
+    run(options.cmake, "--install", options.build, "--prefix", prefix, "--component", "any")
     check_files(prefix, options.build.resolve())
     for package in packages(options, prefix):
         package.try_all(options.cmake)
