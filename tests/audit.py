@@ -37,6 +37,7 @@ IMPORTS = {
     "any": r"secure_getenv|mprotect|ownGetFeature",  # beside those of a library
     "library": r"mem(?:cpy|set|move|cmp)|qvpFree|qvpMalloc|qvpMalloc_L|qvpGetMaxCacheSizeB|qvp_get_cache_line_size",
 }
+VERSION = "@@QVPI_10"  # every export has it
 FROM_START_FILES = r"_ITM_\w+|__cxa_finalize|__gmon_start__|__stack_chk_fail"
 INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(?:(?:notrack|rep\w*|lock|bnd|data16|[cdefgs]s)\s+)*(\w+)\s*([^<#]*)")
 
@@ -67,16 +68,20 @@ def strange_imports(library, kind):
     return sorted(name for name in names if not allowed.fullmatch(name))
 
 
+def exports(library):
+    """Names with their version, whose own name, an absolute symbol, is left out."""
+    lines = run("nm", "-D", "--defined-only", str(library)).splitlines()
+    return {line.split()[-1] for line in lines if " A " not in line}
+
+
 def strange_exports(library):
-    names = [line.split()[-1] for line in run("nm", "-D", "--defined-only", str(library)).splitlines()]
-    return [name for name in names if not re.fullmatch(r"qvp\w+|ownGetFeature", name)]
+    return [name for name in exports(library) if not re.fullmatch(rf"(?:qvp\w+|ownGetFeature){VERSION}", name)]
 
 
 def strange_stubs(listing, library):
     """Those exports of a library of several levels that are more than a jump."""
-    names = {line.split()[-1] for line in run("nm", "-D", "--defined-only", str(library)).splitlines()}
     stub = re.compile(r"^[0-9a-f]+ <(\w+)[@\w]*>:\n.*\tendbr64\s*\n.*\tjmp +\*0x\w+\(%rip\) .*\n(?!.*\t(?!nop|cs nop|data16|xchg|int3))", re.M)
-    return sorted(names - set(stub.findall(listing)))
+    return sorted(exports(library) - {name + VERSION for name in stub.findall(listing)})
 
 
 def strange_symbols(archive, levels):

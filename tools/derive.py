@@ -119,8 +119,12 @@ def entry_template(names, levels, machine, bits):
                     '\t.section .qvpi_needs, "e", @progbits\n\t.quad qvpi_fill_entries\n', EPILOGUE])
 
 
+# Of all symbols: programs name it, so that the next interface could live beside this one in a process.
+VERSION = "QVPI_10"
+
+
 def exports(names):
-    return "{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n"
+    return VERSION + " {\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n"
 
 
 def parameter(declaration):
