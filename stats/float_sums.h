@@ -1,7 +1,7 @@
 // Sums of floats in partial sums, whose number and order are the same on every CPU.
 #pragma once
 
-#include <bit>
+#include <limits>
 #include <tuple>
 
 #include "stats/accumulators.h"
@@ -84,7 +84,7 @@ class RunningSums {
 };
 
 // What relative norms give for 0 / 0 and x / 0.
-inline constexpr double kNaN = std::bit_cast<double>(0xFFF8000000000000);
-inline constexpr double kInfinity = std::bit_cast<double>(0x7FF0000000000000);
+inline constexpr double kNaN = -std::numeric_limits<double>::quiet_NaN();
+inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 }  // namespace qvp::stats
