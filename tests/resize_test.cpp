@@ -1,13 +1,12 @@
 // Resize: every member against a scalar reference in double, and what holds for tiles, records and threads.
-#include <sys/mman.h>
 
 #include <cmath>
 #include <functional>
 #include <numeric>
-#include <thread>
 
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
+#include "tests/support/threads.h"
 
 namespace {
 
@@ -857,25 +856,18 @@ TEST(Resize, ThreadsShareAReadOnlyRecord) {
     const Record record(m, Kind::k8u, from, to);
     const Source src(member, from, 0);
     const test::Image<uint8_t> expected = Resized(member, record, src, to, 1);
-    const auto page = reinterpret_cast<uintptr_t>(record.get()) & ~uintptr_t{4095};
-    const size_t bytes = (record.block().size() + 4095) & ~size_t{4095};
-    ASSERT_EQ(mprotect(reinterpret_cast<void*>(page), bytes, PROT_READ), 0);
+    test::Pages::SetReadOnly(record.get(), record.block().size(), true);
     test::Image<uint8_t> dst(to.width * 3, to.height, 0);
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i) {
-      threads.emplace_back([&, i] {
-        const QvpiPoint at{0, i * 6};
-        QvpiPoint place;
-        qvpiResizeGetSrcOffset_8u(record.get(), at, &place);
-        std::vector<uint8_t> buffer(record.BufferSize({to.width, 6}, 3));
-        EXPECT_EQ(member.call(src.At(place.x, place.y), src.step(), dst.bytes() + at.y * dst.step(), dst.step(), at,
-                              {to.width, 6}, 1, record.get(), buffer.data()),
-                  0);
-      });
-    }
-    for (std::thread& thread : threads) thread.join();
-    // Pages are used again.
-    ASSERT_EQ(mprotect(reinterpret_cast<void*>(page), bytes, PROT_READ | PROT_WRITE), 0);
+    test::InThreads(8, [&](int i) {
+      const QvpiPoint at{0, i * 6};
+      QvpiPoint place;
+      qvpiResizeGetSrcOffset_8u(record.get(), at, &place);
+      std::vector<uint8_t> buffer(record.BufferSize({to.width, 6}, 3));
+      EXPECT_EQ(member.call(src.At(place.x, place.y), src.step(), dst.bytes() + at.y * dst.step(), dst.step(), at,
+                            {to.width, 6}, 1, record.get(), buffer.data()),
+                0);
+    });
+    test::Pages::SetReadOnly(record.get(), record.block().size(), false);  // pages are used again
     for (int y = 0; y < to.height; ++y) {
       ASSERT_EQ(std::memcmp(dst.bytes() + y * dst.step(), expected.bytes() + y * expected.step(), dst.step()), 0)
           << member.name;

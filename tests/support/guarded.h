@@ -1,79 +1,31 @@
-// Memory and images that end at, or begin after, a page that cannot be read: one byte too far ends the test.
+// Memory and images that end at, or begin after, what must not be touched.
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <cstring>
-#include <map>
 #include <memory>
-#include <mutex>
 #include <vector>
+
+#include "tests/support/pages.h"
 
 namespace test {
 
-enum class Guard { kAfter, kBefore };
-
-// Pages between two that cannot be read. Small pieces are kept for the next one of their size: mapping them costs more
-// than most calls of the library. Any thread may take and return them.
-class Pages {
- public:
-  static uint8_t* Take(size_t room) {
-    uint8_t* const kept = TakeKept(room);
-    return kept != nullptr ? kept : Map(room);
-  }
-  static void Return(uint8_t* pages, size_t room) {
-    if (room > kMostKept) {
-      munmap(pages - Page(), room + 2 * Page());
-      return;
-    }
-    const std::lock_guard lock(mutex_);
-    kept_[room].push_back(pages);
-  }
-  static size_t Page() { return static_cast<size_t>(sysconf(_SC_PAGESIZE)); }
-
- private:
-  static constexpr size_t kMostKept = 1 << 16;
-
-  static uint8_t* TakeKept(size_t room) {
-    const std::lock_guard lock(mutex_);
-    auto& kept = kept_[room];
-    if (kept.empty()) return nullptr;
-    uint8_t* const pages = kept.back();
-    kept.pop_back();
-    return pages;
-  }
-  static uint8_t* Map(size_t room) {
-    void* const base = mmap(nullptr, room + 2 * Page(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    uint8_t* const pages = static_cast<uint8_t*>(base) + Page();
-    if (base == MAP_FAILED || mprotect(pages, room, PROT_READ | PROT_WRITE) != 0) abort();
-    return pages;
-  }
-
-  static inline std::mutex mutex_;
-  static inline std::map<size_t, std::vector<uint8_t*>> kept_;
-};
-
 class Block {
  public:
-  explicit Block(size_t bytes, Guard guard = Guard::kAfter)
-      : bytes_(bytes),
-        room_((bytes + Pages::Page() - 1) / Pages::Page() * Pages::Page()),
-        pages_(Pages::Take(room_)),
-        data_(pages_ + (guard == Guard::kAfter ? room_ - bytes : 0)) {}
+  explicit Block(size_t bytes, Guard guard = Guard::kAfter) : bytes_(bytes), data_(Pages::Take(bytes, guard)) {}
   Block(const Block&) = delete;
-  ~Block() { Pages::Return(pages_, room_); }
+  ~Block() { Pages::Return(data_, bytes_); }
 
   uint8_t* data() const { return data_; }
   size_t size() const { return bytes_; }
 
  private:
-  size_t bytes_, room_;
-  uint8_t *pages_, *data_;
+  size_t bytes_;
+  uint8_t* data_;
 };
 
 // The same numbers on every machine.
