@@ -3,6 +3,10 @@
 
 #include <hwy/highway.h>
 
+#if HWY_TARGET == HWY_WASM
+#include "base/simd_wasm.h"
+#endif
+
 static_assert(HWY_TARGET == QVP_VECTOR_TARGET, "the compiler's flags do not select this build's vector target");
 
 // For lambdas: one that is called makes memory of what it refers to.

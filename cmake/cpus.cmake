@@ -6,6 +6,7 @@
 #            machine  processor  Debian's  compiler target    protection                   programs start with
 qvpi_machine(x86      x86_64     amd64     x86_64-linux-gnu   -fcf-protection              "")
 qvpi_machine(aarch64  aarch64    arm64     aarch64-linux-gnu  -mbranch-protection=standard "qemu-aarch64 -L /usr/aarch64-linux-gnu")
+qvpi_machine(wasm     wasm32     ""        wasm32-emscripten  ""                           node)
 
 # i386 callers may keep the stack aligned to 4 bytes only, so g9 realigns it where a function needs more. clang has to be
 # told that arguments on the stack are no better aligned either: it copies several of them by one vector.
@@ -26,6 +27,7 @@ qvpi_cpu(v2    x86      64    sse4_2     calls     HWY_SSE4       qvpi     .    
 qvpi_cpu(v3    x86      64    avx2       formulas  HWY_AVX2       qvpi     glibc-hwcaps/x86-64-v3       "qvpIP AVX2 (v3)"            -march=x86-64-v3)
 qvpi_cpu(v4    x86      64    avx512vl   calls     HWY_AVX3       qvpi     glibc-hwcaps/x86-64-v4       "qvpIP AVX-512 (v4)"         -march=x86-64-v4)
 qvpi_cpu(n8    aarch64  64    asimd      formulas  HWY_NEON       qvpi     .                            "qvpIP NEON (n8)"            -march=armv8-a)
+qvpi_cpu(w1    wasm     32    simd128    formulas  HWY_WASM       qvpi     .                            "qvpIP WebAssembly SIMD (w1)" -msimd128)
 
 # One row per build that holds the code of several, whose levels follow, the lowest first, and chooses at load.
 #

@@ -122,6 +122,11 @@ function(qvpi_install_libraries bits)
   endforeach()
 endfunction()
 
+if(NOT QVPI_HAS_SHARED)
+  include(cmake/module.cmake)
+  return()
+endif()
+
 qvpi_install_headers(development)
 qvpi_install_libraries(64 ${CMAKE_INSTALL_LIBDIR} runtime development)
 qvpi_install_libraries(32 ${QVPI_LIBDIR32} runtime32 development32)

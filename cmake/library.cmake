@@ -18,9 +18,12 @@ endif()
 
 # Highway is headers only and the same for every machine, so those of the machine that builds serve all, in a folder
 # without that machine's other headers.
-find_path(HWY_INCLUDE_DIR hwy/highway.h REQUIRED)
+find_path(HWY_INCLUDE_DIR hwy/highway.h PATHS /usr/include REQUIRED NO_CMAKE_FIND_ROOT_PATH)
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/highway)
 file(CREATE_LINK ${HWY_INCLUDE_DIR}/hwy ${PROJECT_BINARY_DIR}/highway/hwy SYMBOLIC)
+
+# WebAssembly has none: there a library is its archive, whose functions have their exported names.
+get_property(QVPI_HAS_SHARED GLOBAL PROPERTY TARGET_SUPPORTS_SHARED_LIBS)
 
 # A row of the table of machines: of the machine that this folder builds for, it sets what the rest needs to know.
 macro(qvpi_machine name processor debian target protection emulator)
@@ -45,15 +48,25 @@ endfunction()
 # The settings that every library of ours shares.
 function(qvpi_settings target bits)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
-  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON LINKER_LANGUAGE C)
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ${QVPI_HAS_SHARED} LINKER_LANGUAGE C)
   if(QVPI_SANITIZE)
     target_compile_options(${target} PRIVATE ${QVPI_SANITIZERS})
     target_link_options(${target} PRIVATE ${QVPI_SANITIZERS})
   endif()
-  if(bits EQUAL 32)
+  if(bits EQUAL 32 AND QVPI_MACHINE STREQUAL x86)
     target_compile_options(${target} PRIVATE -m32)
     target_link_options(${target} PRIVATE -m32)
   endif()
+endfunction()
+
+# A static library from a set of objects, <output>.a in <build>/<code>/.
+function(qvpi_static_alone name objects output code bits)
+  add_library(${name}_static STATIC $<TARGET_OBJECTS:${objects}>)
+  qvpi_settings(${name}_static ${bits})
+  set_target_properties(${name}_static PROPERTIES OUTPUT_NAME ${output}
+    ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${code})
+  add_library(${name} INTERFACE)
+  target_link_libraries(${name} INTERFACE ${name}_static)
 endfunction()
 
 # A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/. Further
@@ -86,8 +99,12 @@ function(qvpi_companion code bits)
   qvpi_settings(qvpcore_${code}_objects ${bits})
   target_include_directories(qvpcore_${code}_objects PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION} -fvisibility=default -fvisibility-inlines-hidden
-    $<$<EQUAL:${bits},32>:-march=i686>)
-  qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
+    $<$<AND:$<EQUAL:${bits},32>,$<STREQUAL:${QVPI_MACHINE},x86>>:-march=i686>)
+  if(QVPI_HAS_SHARED)
+    qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
+  else()
+    qvpi_static_alone(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits})
+  endif()
 endfunction()
 
 # Whether the machine that builds can run what needs a CPU feature. Emulators have them all.
@@ -108,17 +125,18 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
 
   set(derived ${PROJECT_BINARY_DIR}/derived/${code})
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
-  qvpi_derive(${derived} FILES rename.h entries.S exports.map static.syms ARGS --cpu ${code} --machine ${machine} --bits ${bits}
+  set(derivatives rename.h)
+  if(QVPI_HAS_SHARED)
+    list(APPEND derivatives entries.S exports.map static.syms)
+  endif()
+  qvpi_derive(${derived} FILES ${derivatives} ARGS --cpu ${code} --machine ${machine} --bits ${bits}
     HEADERS ${headers})
 
   list(TRANSFORM QVPI_SOURCE_FOLDERS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.cpp" OUTPUT_VARIABLE patterns)
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   set(objects qvpi_${code}_objects)
-  set(entries qvpi_${code}_entries)
   add_library(${objects} OBJECT ${sources} ${derived}/rename.h)
-  add_library(${entries} OBJECT ${derived}/entries.S)
   qvpi_settings(${objects} ${bits})
-  qvpi_settings(${entries} ${bits})
   # What a source of this build, or a test of headers with vectors, is compiled with.
   set(vector_settings qvpi_${code}_vectors)
   add_library(${vector_settings} INTERFACE)
@@ -132,16 +150,23 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
   target_link_libraries(${objects} PRIVATE ${vector_settings})
   target_compile_definitions(${objects} PRIVATE QVP_CPU_CODE="${code}" "QVP_BUILD_NAME=\"${name}\"")
   target_compile_options(${objects} PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION})
-  target_compile_options(${entries} PRIVATE ${QVPI_PROTECTION})
   # Every source begins with the precompiled header, and so with the renames.
   target_precompile_headers(${objects} PRIVATE <hwy/highway.h> ${derived}/rename.h)
 
   set(library qvpi_${code})
-  qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map
-    $<TARGET_OBJECTS:${entries}>)
-  add_custom_command(TARGET ${library}_static POST_BUILD VERBATIM
-    COMMAND ${CMAKE_OBJCOPY} --redefine-syms=${derived}/static.syms $<TARGET_FILE:${library}_static>)
-  target_link_libraries(${library} PUBLIC qvpcore_${code})
+  if(QVPI_HAS_SHARED)
+    set(entries qvpi_${code}_entries)
+    add_library(${entries} OBJECT ${derived}/entries.S)
+    qvpi_settings(${entries} ${bits})
+    target_compile_options(${entries} PRIVATE ${QVPI_PROTECTION})
+    qvpi_shared_and_static(${library} ${objects} ${output} ${code} ${bits} ${derived}/exports.map
+      $<TARGET_OBJECTS:${entries}>)
+    add_custom_command(TARGET ${library}_static POST_BUILD VERBATIM
+      COMMAND ${CMAKE_OBJCOPY} --redefine-syms=${derived}/static.syms $<TARGET_FILE:${library}_static>)
+    target_link_libraries(${library} PUBLIC qvpcore_${code})
+  else()
+    qvpi_static_alone(${library} ${objects} ${output} ${code} ${bits})
+  endif()
   target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
   set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests} QVPI_FOLDER ${folder})
   set_property(GLOBAL APPEND PROPERTY QVPI_CPU_BUILDS ${code})

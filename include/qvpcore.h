@@ -37,7 +37,7 @@ void qvpFree(void* ptr);
  *
  *  @param pSizeByte receives the size
  *  @return qvpStatusNullPointer: the pointer is null. qvpStatusNotSupportedMode: the processor does not tell its cache
- *          sizes, as on AArch64; nothing is written. qvpStatusNoError otherwise.
+ *          sizes, as on AArch64 and WebAssembly; nothing is written. qvpStatusNoError otherwise.
  */
 QvpStatus qvpGetMaxCacheSizeB(int* pSizeByte);
 

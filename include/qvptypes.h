@@ -293,7 +293,7 @@ typedef struct {
     int minor;             /**< number of the release in its year, QVP_RELEASE_MINOR */
     int majorBuild;        /**< number of the update, QVP_RELEASE_UPDATE */
     int build;             /**< revision */
-    char targetCpu[4];     /**< CPU code, "g9", "v2", "v3", "v4" or "n8", filled up with zero bytes */
+    char targetCpu[4];     /**< CPU code, "g9", "v2", "v3", "v4", "n8" or "w1", filled up with zeros */
     const char *Name;      /**< name of the library and its instruction set */
     const char *Version;   /**< all of the numbers as text */
     const char *BuildDate; /**< date of the release */

@@ -18,6 +18,10 @@ For a build that holds the code of several others, its levels, and chooses betwe
 and for the tests
 
   calls.cpp    one row per function: its name, its parameters, and a way to call it with arguments made at run time
+
+and for the module for JavaScript
+
+  exports.txt  the names as emscripten takes them, a line each
 """
 import argparse
 import re
@@ -42,8 +46,8 @@ def write(file, text):
         file.write_text(text)
 
 
-def rename(names, cpu):
-    lines = [f"#define {name} {cpu}_{name}" for name in ["qvp", *names]]
+def rename(names, cpu, machine):
+    lines = [f"#define {name} {cpu}_{name}" for name in ["qvp", *names]] if has_stubs(machine) else []
     # Declared hidden, so that calls from one function to another are direct ones.
     hidden = ["#pragma GCC visibility push(hidden)", '#include "qvpi.h"', "#pragma GCC visibility pop"]
     return "\n".join(lines + hidden) + "\n"
@@ -65,6 +69,11 @@ PROLOGUE = {
                      '\t.section .note.gnu.property, "a"\n\t.p2align 3\n\t.word 4, 16, 5\n\t.asciz "GNU"\n'
                      "\t.word 0xC0000000, 4, 3, 0\n",
 }
+
+
+def has_stubs(machine):
+    """WebAssembly has no shared libraries: there the implementations have the exported names."""
+    return machine != "wasm"
 
 
 # Says that no code is put on the stack.
@@ -163,8 +172,10 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
     parser.add_argument("--levels", nargs="+", help="the codes of those whose code a build for several levels holds, lowest first")
-    parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB}), help="what that build runs on")
+    parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB} | {"wasm"}),
+                        help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
+    parser.add_argument("--module", action="store_true", help="write the module's exports.txt instead")
     parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
     parser.add_argument("--out", type=Path, required=True, help="folder to write to")
     parser.add_argument("headers", nargs="+", type=Path)
@@ -177,9 +188,13 @@ def main():
     if options.calls:
         write(options.out / "calls.cpp", calls(functions))
         return
+    if options.module:
+        write(options.out / "exports.txt", "".join(f"_{name}\n" for name in ["malloc", "free", *names]))
+        return
     write(options.out / "exports.map", exports(names))
     if options.cpu:
-        write(options.out / "rename.h", rename(names, options.cpu))
+        write(options.out / "rename.h", rename(names, options.cpu, options.machine))
+    if options.cpu and has_stubs(options.machine):
         write(options.out / "entries.S", entries(names, options.cpu, options.machine, options.bits))
         write(options.out / "static.syms", "".join(f"{options.cpu}_{name} {name}\n" for name in names))
     if options.levels:
