@@ -172,6 +172,14 @@ uint8_t* Scene::Add(std::vector<Memory>& list, size_t bytes) {
   return list.back().block->data();
 }
 
+std::vector<Scene::Piece> Scene::Pieces() const {
+  std::vector<Piece> pieces;
+  for (const auto* list : {&inputs_, &outputs_}) {
+    for (const auto& [block, place] : *list) pieces.push_back({block->data(), block->size(), place, list == &outputs_});
+  }
+  return pieces;
+}
+
 void Scene::FillRows(const Element& element, uint8_t* image, ptrdiff_t step, int height, Value value) {
   constexpr int kValues = 256, kMostBytes = 8;
   uint8_t values[kValues * kMostBytes];  // to choose from: making each costs more than most calls

@@ -96,6 +96,14 @@ class Scene {
   std::vector<uint8_t> Outputs() const;
   uint64_t HashOfOutputs() const;
 
+  // The pieces of memory that the arguments point at, each with the place of its parameter.
+  struct Piece {
+    uint8_t* data;
+    size_t size, place;
+    bool isOutput;
+  };
+  std::vector<Piece> Pieces() const;
+
   // For lessons: memory that lives as long as the scene. Outputs are hashed; both are filled with random bytes.
   uint8_t* Input(size_t bytes) { return Add(inputs_, bytes); }
   uint8_t* Output(size_t bytes) { return Add(outputs_, bytes); }

@@ -37,10 +37,13 @@ class Random {
     return static_cast<uint32_t>(state_ >> 32 ^ state_ >> 45);
   }
   void Fill(uint8_t* bytes, size_t n) {
-    for (size_t i = 0; i < n; i += sizeof(uint32_t)) {
+    size_t i = 0;
+    for (; i + sizeof(uint32_t) <= n; i += sizeof(uint32_t)) {
       const uint32_t four = Next();
-      std::memcpy(bytes + i, &four, std::min(n - i, sizeof(four)));
+      std::memcpy(bytes + i, &four, sizeof(four));
     }
+    const uint32_t last = i < n ? Next() : 0;
+    std::memcpy(bytes + i, &last, n - i);
   }
 
  private:
