@@ -221,7 +221,7 @@ QvpStatus EqualEpsC(const Qvp32f* values, const Image<const Qvp32f>& src, const 
 #define COMPARE_TWO(name, impl, last, type, layout) \
   QVP_TWO_TO_ONE(name##_##type##_##layout##R, type, 8u, layout, C1, impl, (last parameter), (parameter))
 #define COMPARE_CONSTANT(name, impl, last, type, layout) \
-  QVP_WITH_VALUES(name##_##type##_##layout##R, type, 8u, layout, C1, impl, (last parameter), (parameter))
+  QVP_WITH_VALUES(name##_##type##_##layout##R, type, type, 8u, layout, C1, impl, (last parameter), (parameter))
 #define COMPARE(type)                                                \
   QVP_EACH_LAYOUT(COMPARE_TWO, qvpiCompare, Compare, QvpCmpOp, type) \
   QVP_EACH_LAYOUT(COMPARE_CONSTANT, qvpiCompareC, CompareC, QvpCmpOp, type)

@@ -84,23 +84,24 @@ constexpr const T* Values(const T* const& values) {
 #define QVP_UNARY_SFS(name, type, layout, impl) \
   QVP_BOTH_PLACES(name, Sfs, type, layout, impl, (int scaleFactor), (scaleFactor))
 
-// ---- A constant and an image: impl(values, source, destination, size, arguments...).
-#define QVP_WITH_VALUES(name, type, to, layout, toLayout, impl, parameters, arguments)                            \
-  QvpStatus name(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(type) value, Qvp##to* pDst, int dstStep, \
-                 QvpiSize roiSize QVP_AND parameters) {                                                           \
-    return impl(Values(value), View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##toLayout),  \
-                roiSize QVP_AND arguments);                                                                       \
+// ---- A constant, whose type may be another one, and an image: impl(values, source, destination, size, arguments...).
+#define QVP_WITH_VALUES(name, of, type, to, layout, toLayout, impl, parameters, arguments)                       \
+  QvpStatus name(const Qvp##type* pSrc, int srcStep, QVP_VALUES_##layout(of) value, Qvp##to* pDst, int dstStep,  \
+                 QvpiSize roiSize QVP_AND parameters) {                                                          \
+    return impl(Values(value), View(pSrc, srcStep, Layout::k##layout), View(pDst, dstStep, Layout::k##toLayout), \
+                roiSize QVP_AND arguments);                                                                      \
   }
-#define QVP_CONSTANT_FORM(name, end, type, layout, impl, parameters, arguments)                                    \
-  QVP_WITH_VALUES(name##_##type##_##layout##R##end, type, type, layout, layout, impl, parameters, arguments)       \
-  QvpStatus name##_##type##_##layout##IR##end(QVP_VALUES_##layout(type) value, Qvp##type* pSrcDst, int srcDstStep, \
-                                              QvpiSize roiSize QVP_AND parameters) {                               \
-    return impl(Values(value), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                      \
-                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize QVP_AND arguments);                          \
+#define QVP_CONSTANT_FORM(name, end, of, type, layout, impl, parameters, arguments)                              \
+  QVP_WITH_VALUES(name##_##type##_##layout##R##end, of, type, type, layout, layout, impl, parameters, arguments) \
+  QvpStatus name##_##type##_##layout##IR##end(QVP_VALUES_##layout(of) value, Qvp##type* pSrcDst, int srcDstStep, \
+                                              QvpiSize roiSize QVP_AND parameters) {                             \
+    return impl(Values(value), View<const Qvp##type>(pSrcDst, srcDstStep, Layout::k##layout),                    \
+                View(pSrcDst, srcDstStep, Layout::k##layout), roiSize QVP_AND arguments);                        \
   }
-#define QVP_CONSTANT(name, type, layout, impl) QVP_CONSTANT_FORM(name, , type, layout, impl, (), ())
+#define QVP_CONSTANT(name, type, layout, impl) QVP_CONSTANT_FORM(name, , type, type, layout, impl, (), ())
 #define QVP_CONSTANT_SFS(name, type, layout, impl) \
-  QVP_CONSTANT_FORM(name, Sfs, type, layout, impl, (int scaleFactor), (scaleFactor))
+  QVP_CONSTANT_FORM(name, Sfs, type, type, layout, impl, (int scaleFactor), (scaleFactor))
+#define QVP_COUNT(name, type, layout, impl) QVP_CONSTANT_FORM(name, , 32u, type, layout, impl, (), ())
 
 // ---- Two images to a third: impl(first, second, destination, size, arguments...).
 #define QVP_TWO_TO_ONE(name, type, to, layout, toLayout, impl, parameters, arguments)                       \

@@ -46,6 +46,7 @@ int main(int argc, char** argv) try {
   demo::Demo demo(demo::LoadPicture(argv[1]));
   demo::CoreSteps(demo);
   demo::ArithSteps(demo);
+  demo::LogicSteps(demo);
   demo::ConvertSteps(demo);
   demo::ThresholdSteps(demo);
   demo::FilterSteps(demo);

@@ -39,6 +39,7 @@ class Demo {
 // The steps of each header of the library.
 void CoreSteps(Demo& demo);
 void ArithSteps(Demo& demo);
+void LogicSteps(Demo& demo);
 void ConvertSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);

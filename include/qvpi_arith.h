@@ -1,5 +1,5 @@
 /** @file qvpi_arith.h
- *  Pixel-wise arithmetic, conversion, threshold and comparison.
+ *  Pixel-wise arithmetic, logic, conversion, threshold and comparison.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -1438,6 +1438,383 @@ QvpStatus qvpiScaleC_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp6
 QvpStatus qvpiScaleC_32s_C1IR(Qvp32s* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
 QvpStatus qvpiScaleC_64f_C1IR(Qvp64f* pSrcDst, int srcDstStep, Qvp64f mVal, Qvp64f aVal, QvpiSize roiSize, QvpHintAlgorithm hint);
+/** @} */
+
+/** @name Bitwise and
+ *  @{ */
+/** Bitwise and of two images: dst = src1 & src2; in place, srcDst = src & srcDst.
+ *
+ *  Keeps the bits of one image that are set in the other: a mask of 255 and 0 cuts pixels out.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast of the
+ *  pointers; wider images of other layouts are images of bytes with the width times the bytes of a pixel.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiAnd_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_32s_C1R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_C4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAnd_32s_C1IR(const Qvp32s* pSrc, int srcStep, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise and with a constant
+ *  @{ */
+/** Bitwise and of an image and a constant: dst = src & value; in place, srcDst = srcDst & value.
+ *
+ *  Selects bits: 0xF0 keeps the upper four bits of a byte, 0x80 its highest bit plane.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiAndC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp32s value, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_8u_AC4IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C1IR(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C3IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_C4IR(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiAndC_32s_C1IR(Qvp32s value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise or
+ *  @{ */
+/** Bitwise or of two images: dst = src1 | src2; in place, srcDst = src | srcDst.
+ *
+ *  Joins masks, and puts together bit planes or labels that have no bit in common.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast of the
+ *  pointers; wider images of other layouts are images of bytes with the width times the bytes of a pixel.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiOr_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_32s_C1R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_C4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOr_32s_C1IR(const Qvp32s* pSrc, int srcStep, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise or with a constant
+ *  @{ */
+/** Bitwise or of an image and a constant: dst = src | value; in place, srcDst = srcDst | value.
+ *
+ *  Sets bits: labels, flags, the least significant bits of values that were shifted to the left.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiOrC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp32s value, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_8u_AC4IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C1IR(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C3IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_C4IR(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiOrC_32s_C1IR(Qvp32s value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise exclusive or
+ *  @{ */
+/** Bitwise exclusive or of two images: dst = src1 ^ src2; in place, srcDst = src ^ srcDst.
+ *
+ *  Tells which bits differ, and puts a mark on that a second call takes off.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast of the
+ *  pointers; wider images of other layouts are images of bytes with the width times the bytes of a pixel.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc1,src1Step first operand
+ *  @param pSrc2,src2Step second operand
+ *  @param pDst,dstStep destination image; it may be either operand
+ *  @param pSrc,srcStep in place: first operand
+ *  @param pSrcDst,srcDstStep in place: second operand and destination
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiXor_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_32s_C1R(const Qvp32s* pSrc1, int src1Step, const Qvp32s* pSrc2, int src2Step, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_C4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXor_32s_C1IR(const Qvp32s* pSrc, int srcStep, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise exclusive or with a constant
+ *  @{ */
+/** Bitwise exclusive or of an image and a constant: dst = src ^ value; in place, srcDst = srcDst ^ value.
+ *
+ *  Turns bits over: 255 inverts a byte, 0x8000 changes 16-bit numbers between signed and unsigned with an offset.
+ *
+ *  Only bits count, so that the 16u functions serve 16s pixels too, and the 32s ones 32u and 32f, by a cast.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value the constant: a number for C1, one for each channel otherwise; three for AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiXorC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp32s value, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_8u_AC4IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C1IR(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C3IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_C4IR(const Qvp16u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiXorC_32s_C1IR(Qvp32s value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Bitwise not
+ *  @{ */
+/** Bitwise not: dst = ~src; in place, srcDst = ~srcDst.
+ *
+ *  Of bytes that is 255 - src, the negative of an image, and of masks of 255 and 0 the opposite. An image of wider
+ *  elements is one of bytes, C1, whose width is that times the bytes of a pixel.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNot_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiNot_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Shift to the left
+ *  @{ */
+/** Shifts bits to the left: dst = src << value; in place, srcDst = srcDst << value.
+ *
+ *  Zeros come in from the right, and bits that leave the element on the left are lost: 0x81 << 1 is 0x02 in a byte.
+ *  That is a product with 2^value modulo 2^bits; a product that saturates is qvpiAddC with the constant 0 and the scale
+ *  factor -value. A shift by 0 is a copy, and by all bits of an element or more gives 0.
+ *
+ *  It spreads values over more bits: of sensors of 12 bits, a shift by 4 makes full 16-bit numbers. 32s serves 32u by a
+ *  cast, 16u serves 16s.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value by how many bits: a number for C1, one for each channel otherwise, three for AC4. Every number is
+ *         valid
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiShiftLeftC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp32u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp32u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp32u value, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_C1IR(Qvp32u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_C3IR(const Qvp32u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_C4IR(const Qvp32u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_8u_AC4IR(const Qvp32u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C1IR(Qvp32u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C3IR(const Qvp32u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_C4IR(const Qvp32u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_16u_AC4IR(const Qvp32u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftLeftC_32s_C1IR(Qvp32u value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Shift to the right
+ *  @{ */
+/** Shifts bits to the right: dst = src >> value; in place, srcDst = srcDst >> value.
+ *
+ *  The quotient floor(src / 2^value), rounded toward minus infinity: zeros come in from the left for unsigned elements,
+ *  the sign for signed ones, so that -5 >> 1 is -3. For a quotient that is rounded to the nearest, use qvpiAddC with the
+ *  constant 0 and the scale factor value. A shift by 0 is a copy; by all bits of an element or more it gives 0, or -1
+ *  for negative values.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value by how many bits: a number for C1, one for each channel otherwise, three for AC4. Every number is
+ *         valid
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `value` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiShiftRightC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp32u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp32u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp32u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp32u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp32u value, Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C3R(const Qvp16s* pSrc, int srcStep, const Qvp32u value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C4R(const Qvp16s* pSrc, int srcStep, const Qvp32u value[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_AC4R(const Qvp16s* pSrc, int srcStep, const Qvp32u value[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_32s_C1R(const Qvp32s* pSrc, int srcStep, Qvp32u value, Qvp32s* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_C1IR(Qvp32u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_C3IR(const Qvp32u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_C4IR(const Qvp32u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_8u_AC4IR(const Qvp32u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C1IR(Qvp32u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C3IR(const Qvp32u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_C4IR(const Qvp32u value[4], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16u_AC4IR(const Qvp32u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C1IR(Qvp32u value, Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C3IR(const Qvp32u value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_C4IR(const Qvp32u value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_16s_AC4IR(const Qvp32u value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiShiftRightC_32s_C1IR(Qvp32u value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 /** @} */
 
 /** @name Threshold

@@ -1,4 +1,4 @@
-// Parameters of arithmetic, conversions and scaling.
+// Parameters of arithmetic, shifts, conversions and scaling.
 #include "tests/support/lessons.h"
 
 namespace test {
@@ -11,6 +11,8 @@ Real NotZero(const Element& element, Random& random) {
   }
 }
 
+Real Count(const Element&, Random& random) { return random.Next() % 4 == 0 ? random.Next() : random.Next() % 18; }
+
 // A range, of which neither end is infinite.
 Argument EndOfRange(Scene& scene, bool isFirst) {
   return isFirst ? scene.Any({-1000, -3, 0}) + scene.random().Next() * 0x1p-32 : scene.Any({7, 254, 255, 70000});
@@ -22,6 +24,17 @@ bool DivisionLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
   if (name != "value") return false;
   argument = scene.Constants(type, NotZero);
+  return true;
+}
+
+// Every other scene has one count for all channels.
+bool ShiftLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  if (name != "value") return false;
+  argument = scene.Constants(type, Count);
+  if (scene.roi().width % 2 == 0) return true;
+  auto* const counts = static_cast<Qvp32u*>(const_cast<void*>(argument.pointer));
+  std::fill(counts + 1, counts + 4, counts[0]);
   return true;
 }
 

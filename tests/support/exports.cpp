@@ -57,6 +57,7 @@ constexpr struct {
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
     {"qvpiScale", ScaleLesson},
+    {"qvpiShift", ShiftLesson},
     {"qvpiSum", ReductionLesson},
     {"qvpiSwapChannels", OrderLesson},
     {"qvpiThreshold", ThresholdLesson},

@@ -18,6 +18,7 @@ bool ReductionLesson(Scene& scene, size_t place, Argument& argument);
 bool RemapLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool ScaleLesson(Scene& scene, size_t place, Argument& argument);
+bool ShiftLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
