@@ -29,6 +29,14 @@ HWY_INLINE V IndicesOr0(V places) {
   return hn::And(hn::SaturatedAdd(places, hn::Set(d, uint8_t{0x70})), hn::Set(d, uint8_t{0x8F}));
 }
 
+// What a shuffle by TableLookupBytesOr0 makes of an index from 16 to 127: the byte at the index modulo 16, or zero, as
+// of all indices from 128 on.
+#if HWY_ARCH_X86
+inline constexpr bool kShuffleIsModulo16 = true;
+#else
+inline constexpr bool kShuffleIsModulo16 = false;
+#endif
+
 // The even, or the odd, floats of two vectors: within each block those of `a` before those of `b`.
 template <size_t N>
 HWY_INLINE hn::Vec128<float, N> EvenLanesOfBlocks(hn::Vec128<float, N> a, hn::Vec128<float, N> b) {

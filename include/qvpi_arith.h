@@ -1771,7 +1771,7 @@ QvpStatus qvpiShiftLeftC_32s_C1IR(Qvp32u value, Qvp32s* pSrcDst, int srcDstStep,
 /** Shifts bits to the right: dst = src >> value; in place, srcDst = srcDst >> value.
  *
  *  The quotient floor(src / 2^value), rounded toward minus infinity: zeros come in from the left for unsigned elements,
- *  the sign for signed ones, so that -5 >> 1 is -3. For a quotient that is rounded to the nearest, use qvpiAddC with the
+ *  the sign for signed ones, so that -5 >> 1 is -3. A quotient that is rounded to the nearest is qvpiAddC with the
  *  constant 0 and the scale factor value. A shift by 0 is a copy; by all bits of an element or more it gives 0, or -1
  *  for negative values.
  *
@@ -1815,6 +1815,48 @@ QvpStatus qvpiShiftRightC_16s_C3IR(const Qvp32u value[3], Qvp16s* pSrcDst, int s
 QvpStatus qvpiShiftRightC_16s_C4IR(const Qvp32u value[4], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiShiftRightC_16s_AC4IR(const Qvp32u value[3], Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiShiftRightC_32s_C1IR(Qvp32u value, Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Look-up table
+ *  @{ */
+/** Looks each value up in a table: dst = table[src]; in place, srcDst = table[srcDst].
+ *
+ *  For any function of a value, such as gamma, calibration or a threshold with steps, computed once for each of the 256
+ *  values of 8 bits or the 65536 of 16 bits. Each channel has a table of its own; passing the same pointer for all
+ *  channels is the fastest. For curves through a few points, use qvpiLookup; for tables of fewer bits or other types
+ *  than the image's, qvpiPalette.
+ *
+ *  Tables need not be aligned. Where one overlaps the destination, results are undefined. AC4 keeps the alpha of the
+ *  destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @param pTable 256 entries for 8u, 65536 for 16u: the table for C1, otherwise an array of pointers to one table for
+ *         each channel, three for AC4
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, `pTable` or a pointer in it is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiLookupTable_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pTable);
+QvpStatus qvpiLookupTable_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* const pTable[3]);
+QvpStatus qvpiLookupTable_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* const pTable[4]);
+QvpStatus qvpiLookupTable_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* const pTable[3]);
+QvpStatus qvpiLookupTable_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pTable);
+QvpStatus qvpiLookupTable_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
+QvpStatus qvpiLookupTable_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* const pTable[4]);
+QvpStatus qvpiLookupTable_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
+QvpStatus qvpiLookupTable_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u* pTable);
+QvpStatus qvpiLookupTable_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u* const pTable[3]);
+QvpStatus qvpiLookupTable_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u* const pTable[4]);
+QvpStatus qvpiLookupTable_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u* const pTable[3]);
+QvpStatus qvpiLookupTable_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* pTable);
+QvpStatus qvpiLookupTable_16u_C3IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
+QvpStatus qvpiLookupTable_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* const pTable[4]);
+QvpStatus qvpiLookupTable_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
 /** @} */
 
 /** @name Threshold

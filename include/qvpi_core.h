@@ -34,9 +34,10 @@
  *                                          Min, Max, MinMax, MinIndx, MaxIndx; Transpose, Mirror
  *    any but 0                             SwapChannels; DotProd, where 0 gives qvpStatusSize
  *    1 or more                             Div, DivC, Div_Round, ScaleC, Threshold, CountInRange; And, Or, Xor, Not,
- *                                          ShiftLeftC, ShiftRightC, with constants too; Norm; FFT, DFT, packed
- *                                          spectra; copies with a border; Remap; HOG; FilterBorder's source; Mirror
- *                                          about the axes 45 and 135, unless in place
+ *                                          ShiftLeftC, ShiftRightC, with constants too; LookupTable;
+ *                                          Norm; FFT, DFT, packed spectra; copies with a border; Remap;
+ *                                          HOG; FilterBorder's source; Mirror about the axes 45 and 135, unless in
+ *                                          place
  *    at least a row                        Histogram, ComputeThreshold_Otsu; FilterBorder's destination; Moments,
  *                                          which return qvpStatusStride for steps from 1 on
  *    multiples of an element, of any sign  Resize, Warp

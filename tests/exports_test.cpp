@@ -13,6 +13,7 @@
 
 #include "qvpcore.h"
 #include "tests/support/control.h"
+#include "tests/support/name.h"
 
 namespace {
 using test::Export;
@@ -62,8 +63,9 @@ TEST(EveryFunction, RefusesEachNullPointerAndWritesNothing) {
 
 // Pointers that an array of them has for a call.
 int PlanesOf(const std::string& function) {
-  if (function.ends_with("_C1R")) return 1;
-  return function.find("3R") != std::string::npos || function == "qvpiHistogramInit" ? 3 : 4;
+  const test::Name name(function);
+  if (!name.layout.empty()) return name.written;
+  return function == "qvpiHistogramInit" ? 3 : 4;
 }
 
 TEST(EveryFunction, RefusesEachNullPlane) {

@@ -44,6 +44,7 @@ constexpr struct {
     {"qvpiGrayToBin", ScaleLesson},
     {"qvpiHOG", HogLesson},
     {"qvpiHistogram", HistogramLesson},
+    {"qvpiLookupTable", TableLesson},
     {"qvpiMagnitudePack", FourierLesson},
     {"qvpiMax", ReductionLesson},
     {"qvpiMean", ReductionLesson},

@@ -19,6 +19,7 @@ bool RemapLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool ScaleLesson(Scene& scene, size_t place, Argument& argument);
 bool ShiftLesson(Scene& scene, size_t place, Argument& argument);
+bool TableLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);

@@ -243,6 +243,9 @@ TEST(Vectors, ShuffleZeroForEveryPlaceOutsideOfTheBlock) {
     const auto places = hn::Set(d, static_cast<uint8_t>(place));
     const auto found = LanesOf(hn::TableLookupBytesOr0(block, IndicesOr0(places)));
     for (const uint8_t byte : found) EXPECT_EQ(byte, place < 16 ? place + 1 : 0) << place;
+    const bool isFound = place < (kShuffleIsModulo16 ? 128 : 16);
+    for (const uint8_t byte : LanesOf(hn::TableLookupBytesOr0(block, places)))
+      EXPECT_EQ(byte, isFound ? place % 16 + 1 : 0) << place;
   }
 }
 

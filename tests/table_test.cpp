@@ -1,0 +1,100 @@
+// Look-up tables and palettes: every entry, through each member, against an array access.
+#include <numeric>
+
+#include "tests/support/name.h"
+
+namespace {
+using test::Block;
+using test::Export;
+using test::Guard;
+using test::Image;
+using test::Name;
+
+// A table of random entries that ends at a page that cannot be read, so that most are not aligned.
+template <class T>
+struct Table {
+  static constexpr size_t kEntries = size_t{1} << 8 * sizeof(T);
+  Block block;
+
+  explicit Table(uint64_t seed, Guard guard = Guard::kAfter) : block(kEntries * sizeof(T), guard) {
+    test::Random(seed).Fill(block.data(), block.size());
+  }
+  const T* data() const { return reinterpret_cast<const T*>(block.data()); }
+  T operator[](size_t i) const {
+    T entry;
+    std::memcpy(&entry, block.data() + i * sizeof(T), sizeof(T));
+    return entry;
+  }
+};
+
+// Looks up rows of all values in turn. `of` tells which of the tables each channel has.
+template <class T>
+void Check(const Export& function, int pixels, const Table<T> (&tables)[4], const std::array<int, 4>& of) {
+  const Name name(function.name);
+  const int samples = pixels * name.channels, height = 3;
+  Image<T> src(samples, height, 7), dst(samples, height, 2, Guard::kBefore);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < samples; ++x) src.Put(x, y, static_cast<T>(x / name.channels * 7 + y * 85));
+  }
+  Image<T> both(src);
+  const Image<T> before(dst);
+  auto& out = name.inPlace ? both : dst;
+  const T* pointers[4];
+  for (int c = 0; c < 4; ++c) pointers[c] = c < name.written ? tables[of[c]].data() : nullptr;
+  const void* const table = name.channels == 1 ? static_cast<const void*>(pointers[0]) : pointers;
+  ASSERT_EQ(
+      function(
+          {{"pSrc", src}, {"pDst", out}, {"pSrcDst", out}, {"roiSize", QvpiSize{pixels, height}}, {"pTable", table}}),
+      qvpStatusNoError)
+      << function.name;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < samples; ++x) {
+      const int c = x % name.channels;
+      const T kept = name.inPlace ? src(x, y) : before(x, y);
+      const T expected = c < name.written ? tables[of[c]][static_cast<size_t>(src(x, y))] : kept;
+      ASSERT_EQ(out(x, y), expected) << function.name << " at " << x << ',' << y << " of " << +src(x, y);
+    }
+  }
+}
+
+template <class T>
+void CheckAll(const std::string& type, std::initializer_list<int> widths) {
+  const Table<T> tables[4] = {Table<T>(1), Table<T>(2, Guard::kBefore), Table<T>(3), Table<T>(4)};
+  for (const Export* function : test::FunctionsOf({"LookupTable"})) {
+    if (Name(function->name).type != type) continue;
+    for (const int pixels : widths) {
+      Check(*function, pixels, tables, {0, 1, 2, 3});
+      Check(*function, pixels, tables, {1, 1, 1, 1});
+      Check(*function, pixels, tables, {2, 0, 0, 2});
+    }
+  }
+}
+
+TEST(LookupTable, TakesEveryEntryInEveryLane) {
+  CheckAll<uint8_t>("8u", {1, 2, 3, 5, 15, 16, 17, 31, 32, 33, 47, 63, 64, 65, 100, 129, 256, 517});
+  CheckAll<uint16_t>("16u", {1, 2, 3, 4, 5, 7, 16, 33, 517});
+}
+
+TEST(LookupTable, TakesEveryEntryOf16Bits) {
+  const Table<uint16_t> table(5);
+  std::vector<uint16_t> src(65536), dst(65536);
+  std::iota(src.begin(), src.end(), uint16_t{0});
+  ASSERT_EQ(qvpiLookupTable_16u_C1R(src.data(), 512, dst.data(), 512, {256, 256}, table.data()), qvpStatusNoError);
+  for (size_t i = 0; i < dst.size(); ++i) ASSERT_EQ(dst[i], table[i]) << i;
+}
+
+TEST(LookupTable, RefusesStepsBelowOneAfterTheSize) {
+  const Table<uint8_t> table(6);
+  const Qvp8u* const tables[4] = {table.data(), table.data(), table.data(), nullptr};
+  Qvp8u a[16] = {}, b[16] = {};
+  for (const int step : {0, -8}) {
+    EXPECT_EQ(qvpiLookupTable_8u_C1R(a, step, b, 8, {0, 1}, table.data()), qvpStatusSize);
+    EXPECT_EQ(qvpiLookupTable_8u_C1R(a, step, b, 8, {1, 1}, table.data()), qvpStatusStep);
+    EXPECT_EQ(qvpiLookupTable_8u_C3R(a, 8, b, step, {1, 1}, tables), qvpStatusStep);
+    EXPECT_EQ(qvpiLookupTable_8u_AC4IR(b, step, {1, 1}, tables), qvpStatusStep);
+    EXPECT_EQ(qvpiLookupTable_8u_C4IR(b, step, {1, 1}, tables), qvpStatusNullPointer);
+  }
+  for (const Qvp8u byte : b) EXPECT_EQ(byte, 0);
+}
+
+}  // namespace
