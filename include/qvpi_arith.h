@@ -1859,6 +1859,49 @@ QvpStatus qvpiLookupTable_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roi
 QvpStatus qvpiLookupTable_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
 /** @} */
 
+/** @name Palette
+ *  @{ */
+/** Replaces indices by the entries of a palette: dst = palette[src mod 2^nBits].
+ *
+ *  The lowest `nBits` bits of a pixel of the source are the index, and the others do not count. An entry is a whole
+ *  pixel of the destination: one value, or three (C1C3) or four (C1C4) side by side. Values are copied bit for bit,
+ *  NaN too. Index images become colour ones that way, brightness becomes false colour, sensor counts become physical
+ *  units, and of 12-bit images a table with 4096 entries shows a window of levels. qvpiLookupTable has a table for each
+ *  channel, of all values.
+ *
+ *  The palette need not be aligned, and no byte behind its last entry is read. Where it overlaps the destination,
+ *  results are undefined. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image of indices
+ *  @param pDst,dstStep destination image; it may be the source where both have pixels of the same size
+ *  @param roiSize size of the region in pixels
+ *  @param pPalette 2^nBits entries
+ *  @param nBits how many bits an index has: 1 to 8 for 8u sources, 1 to 16 for 16u ones
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or the palette is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusOutOfRange: `nBits` is outside its range
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiPalette_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u_C1C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u_C1C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u16u_C1R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u16u_C1C3R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u16u_C1C4R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f* pPalette, int nBits);
+QvpStatus qvpiPalette_8u32f_C1C3R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f* pPalette, int nBits);
+QvpStatus qvpiPalette_8u32f_C1C4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f* pPalette, int nBits);
+QvpStatus qvpiPalette_16u8u_C1R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u8u_C1C3R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u8u_C1C4R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u_C1C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u_C1C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u* pPalette, int nBits);
+QvpStatus qvpiPalette_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const Qvp32f* pPalette, int nBits);
+/** @} */
+
 /** @name Threshold
  *  @{ */
 /** Bounds values from above or below: it clamps them, and makes no image of two values.

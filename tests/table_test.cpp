@@ -97,4 +97,56 @@ TEST(LookupTable, RefusesStepsBelowOneAfterTheSize) {
   for (const Qvp8u byte : b) EXPECT_EQ(byte, 0);
 }
 
+// Channels of the destination: C1C3 has three.
+int ChannelsOfEntry(const Name& name) { return name.layout.back() - '0'; }
+
+// Entries of random bits, NaN among them, that end at a page that cannot be read; and indices with all bits.
+void CheckPalette(const Export& function, int pixels, int nBits) {
+  const Name name(function.name);
+  const int height = 2, indexBytes = name.From().bytes, entryBytes = ChannelsOfEntry(name) * name.To().bytes;
+  const Block palette((size_t{1} << nBits) * entryBytes);
+  test::Random(nBits).Fill(palette.data(), palette.size());
+  const Image<uint8_t> src(pixels * indexBytes, height, 3), dst(pixels * entryBytes, height, 5);
+  ASSERT_EQ(function({{"pSrc", src},
+                      {"pDst", dst},
+                      {"roiSize", QvpiSize{pixels, height}},
+                      {"pPalette", palette.data()},
+                      {"nBits", nBits}}),
+            qvpStatusNoError)
+      << function.name;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < pixels; ++x) {
+      size_t index = 0;  // little-endian, as all machines are
+      for (int b = 0; b < indexBytes; ++b) index |= size_t{src(x * indexBytes + b, y)} << 8 * b;
+      const uint8_t* const entry = palette.data() + index % (size_t{1} << nBits) * entryBytes;
+      ASSERT_EQ(std::memcmp(dst.bytes() + y * dst.step() + x * entryBytes, entry, entryBytes), 0)
+          << function.name << " with " << nBits << " bits at " << x << ',' << y;
+    }
+  }
+}
+
+TEST(Palette, CopiesTheEntryOfTheLowestBits) {
+  for (const Export* function : test::FamilyOf({"Palette"})) {
+    for (int nBits = 1; nBits <= 8 * Name(function->name).From().bytes; ++nBits) {
+      for (const int pixels : {1, 2, 3, 31, 67, 300}) CheckPalette(*function, pixels, nBits);
+    }
+  }
+}
+
+TEST(Palette, RefusesBitCountsOutsideOfTheIndexAfterTheSteps) {
+  const Qvp16u wide[4] = {1, 2, 3, 4};
+  const Qvp8u src[4] = {1, 2, 3, 4};
+  const std::vector<Qvp8u> palette(4 << 16);
+  Qvp8u dst[16] = {};
+  for (const int nBits : {0, -1, 9, INT32_MAX, INT32_MIN}) {
+    EXPECT_EQ(qvpiPalette_8u_C1C3R(src, 4, dst, 0, {1, 1}, palette.data(), nBits), qvpStatusStep);
+    EXPECT_EQ(qvpiPalette_8u_C1C3R(src, 0, dst, 16, {1, 1}, palette.data(), nBits), qvpStatusStep);
+    EXPECT_EQ(qvpiPalette_8u_C1C3R(src, 4, dst, 16, {1, 0}, palette.data(), nBits), qvpStatusSize);
+    EXPECT_EQ(qvpiPalette_8u_C1C3R(src, 4, dst, 16, {1, 1}, palette.data(), nBits), qvpStatusOutOfRange);
+    EXPECT_EQ(qvpiPalette_16u8u_C1C4R(wide, 8, dst, 16, {1, 1}, palette.data(), nBits == 9 ? 17 : nBits),
+              qvpStatusOutOfRange);
+  }
+  for (const Qvp8u byte : dst) EXPECT_EQ(byte, 0);
+}
+
 }  // namespace

@@ -54,6 +54,7 @@ constexpr struct {
     {"qvpiMulPack", FourierLesson},
     {"qvpiNorm", ReductionLesson},
     {"qvpiPackToCplxExtend", FourierLesson},
+    {"qvpiPalette", TableLesson},
     {"qvpiPhasePack", FourierLesson},
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
