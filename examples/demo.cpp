@@ -49,6 +49,7 @@ int main(int argc, char** argv) try {
   demo::LogicSteps(demo);
   demo::ConvertSteps(demo);
   demo::ThresholdSteps(demo);
+  demo::LookupSteps(demo);
   demo::FilterSteps(demo);
   demo::ResizeSteps(demo);
   demo::WarpSteps(demo);

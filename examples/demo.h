@@ -40,6 +40,7 @@ class Demo {
 void CoreSteps(Demo& demo);
 void ArithSteps(Demo& demo);
 void LogicSteps(Demo& demo);
+void LookupSteps(Demo& demo);
 void ConvertSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);

@@ -1859,6 +1859,143 @@ QvpStatus qvpiLookupTable_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roi
 QvpStatus qvpiLookupTable_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u* const pTable[3]);
 /** @} */
 
+/** @name Look-up through levels: size
+ *  @{ */
+/** Bytes of the record of a look-up through levels.
+ *
+ *  That is 192 and for each channel 256 (8u), 131072 (16u, 16s), or, of floats, 3 (steps), 5 (linear) or 7 (cubic)
+ *  arrays of 4 bytes a level, each rounded up to a multiple of 64. For integers the number of levels does not matter.
+ *
+ *  @param dataType pixel type: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param method qvpLookupStep, qvpLookupLinear or qvpLookupCubic
+ *  @param nLevels number of levels of each channel's curve
+ *  @param numChannels number of curves: 1, 3 or 4
+ *  @param pSpecSize receives the size in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusDataType: another pixel type
+ *  - qvpStatusInterpolation: another method
+ *  - qvpStatusNumChannels: another number of channels
+ *  - qvpStatusLutLevels: a channel has fewer than 2 levels
+ *  - qvpStatusSizeOverflow: more than 2147483647 bytes; the size is set to 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiLookupGetSize(QvpDataType dataType, QvpiLookupMethod method, const int nLevels[], int numChannels, int* pSpecSize);
+/** @} */
+
+/** @name Look-up through levels: record
+ *  @{ */
+/** Makes the record of a look-up through levels: of curves y(v) through points (level, value).
+ *
+ *  A channel has n levels x[0] < x[1] < ... < x[n-1] and values y[0] ... y[n-1], which need be neither in the range of
+ *  the pixel type nor whole. Below x[0] the curve is y[0], from x[n-1] on it is y[n-1]; between x[k] and x[k+1] it is
+ *
+ *  @code
+ *    qvpLookupStep    y[k]
+ *    qvpLookupLinear  y[k] + (v - x[k]) * D / h               D = y[k+1] - y[k], h = x[k+1] - x[k]
+ *    qvpLookupCubic   y[k] + a u + (3 D - 2 a - b) u^2 + (a + b - 2 D) u^3
+ *                     u = (v - x[k]) / h, a = h * slope at x[k], b = h * slope at x[k+1]
+ *  @endcode
+ *
+ *  Steps make a poster of an image, lines are what calibration tables mean, and cubics are tone curves: smooth, with no
+ *  value outside of y[k] to y[k+1], so that the curve rises where the values rise (F. N. Fritsch and R. E. Carlson,
+ *  "Monotone Piecewise Cubic Interpolation", 1980). The slope at an inner level is 0 unless the steepness before and
+ *  after it, d and e, have one sign, otherwise their weighted harmonic mean (w + z) / (w / d + z / e), w = 2 h + g,
+ *  z = h + 2 g, with g and h the distances to the levels before and after (F. N. Fritsch and J. Butland, 1984). At an
+ *  end it is ((2 h + g) d - h e) / (h + g), with h and d of the interval at the end, g and e of the next one: 0 if that
+ *  has another sign than d, and 3 d if d and e have opposite signs and it is steeper. Two levels make a line.
+ *
+ *  Integer types: all results are computed here, in double precision, rounded to the nearest, ties to even, and
+ *  saturated. Lines through whole numbers below 2^17 are the exact fractions, rounded. Calls only use a table of all
+ *  values.
+ *
+ *  Floats: coefficients and 1 / h are computed in double precision and kept in single. A call differs from the curve by
+ *  no more than 12 (linear) or 72 (cubic) times 2^-24 max(|y[k]|, |y[k+1]|), subnormal numbers aside.
+ *
+ *  The record keeps nothing of the caller's and is used where it was made.
+ *
+ *  @param dataType pixel type: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param method qvpLookupStep, qvpLookupLinear or qvpLookupCubic
+ *  @param pLevels the levels of each channel's curve, strictly increasing
+ *  @param pValues the value at each level
+ *  @param nLevels number of levels of each channel's curve
+ *  @param numChannels number of curves: 1, 3 or 4
+ *  @param pSpec receives the record, of the size that qvpiLookupGetSize() tells; at any address
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pLevels`, `pValues`, `nLevels` or `pSpec` is null
+ *  - qvpStatusDataType: another pixel type
+ *  - qvpStatusInterpolation: another method
+ *  - qvpStatusNumChannels: another number of channels
+ *  - qvpStatusNullPointer: the levels or the values of a channel are null
+ *  - qvpStatusLutLevels: a channel has fewer than 2 levels
+ *  - qvpStatusSizeOverflow: the record would have more than 2147483647 bytes
+ *  - then, for each channel: qvpStatusRange: a level is not finite, or not above the one before
+ *  - qvpStatusBadArgument: a value is not finite; of floats, linear and cubic, also: the distance of two levels is
+ *    outside 2^-126 to 2^126, or a coefficient is beyond single precision
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiLookupInit(QvpDataType dataType, QvpiLookupMethod method, const Qvp32f* const pLevels[], const Qvp32f* const pValues[], const int nLevels[], int numChannels, QvpiLookupSpec* pSpec);
+/** @} */
+
+/** @name Look-up through levels
+ *  @{ */
+/** Maps each value by a curve through levels: dst = y(src), with the curves of a record; in place, srcDst = y(srcDst).
+ *
+ *  The curves are described with qvpiLookupInit(). A record with one curve uses it for all channels and serves every
+ *  layout; a record with three is for C3 and AC4, one with four for C4.
+ *
+ *  Floats, in single precision: for s between the levels x[k] and x[k+1], u = (s - x[k]) * r, then c0 + u * c1 (linear)
+ *  or ((c3 * u + c2) * u + c1) * u + c0 (cubic), r and c0 to c3 from the record. NaN gives NaN, infinities give the
+ *  values at the ends.
+ *
+ *  AC4 keeps the alpha of the destination. Steps need not be multiples of an element.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: the image
+ *  @param roiSize size of the region in pixels
+ *  @param pSpec the record
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or the record is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusContextMatch: no record of qvpiLookupInit(), or one for another pixel type or number of channels
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiLookup_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C3IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C3IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_C4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_16s_AC4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+QvpStatus qvpiLookup_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, const QvpiLookupSpec* pSpec);
+/** @} */
+
 /** @name Palette
  *  @{ */
 /** Replaces indices by the entries of a palette: dst = palette[src mod 2^nBits].

@@ -34,8 +34,8 @@
  *                                          Min, Max, MinMax, MinIndx, MaxIndx; Transpose, Mirror
  *    any but 0                             SwapChannels; DotProd, where 0 gives qvpStatusSize
  *    1 or more                             Div, DivC, Div_Round, ScaleC, Threshold, CountInRange; And, Or, Xor, Not,
- *                                          ShiftLeftC, ShiftRightC, with constants too; LookupTable, Palette;
- *                                          Norm; FFT, DFT, packed spectra; copies with a border; Remap;
+ *                                          ShiftLeftC, ShiftRightC, with constants too; LookupTable, Lookup,
+ *                                          Palette; Norm; FFT, DFT, packed spectra; copies with a border; Remap;
  *                                          HOG; FilterBorder's source; Mirror about the axes 45 and 135, unless in
  *                                          place
  *    at least a row                        Histogram, ComputeThreshold_Otsu; FilterBorder's destination; Moments,

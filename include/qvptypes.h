@@ -135,6 +135,14 @@ enum {
     qvpAlgHintAccurate = 2, /**< double-precision accumulation, or the accurate kernel */
 };
 
+/** What a look-up makes of values between two levels. */
+typedef int QvpiLookupMethod;
+enum {
+    qvpLookupStep = 0,   /**< the value at the level below */
+    qvpLookupLinear = 1, /**< a line */
+    qvpLookupCubic = 2,  /**< a cubic with equal slopes on both sides of a level, which does not overshoot */
+};
+
 /** Relation that two values are tested for. */
 typedef int QvpCmpOp;
 enum {
@@ -215,6 +223,7 @@ typedef struct QvpiFilterBorderSpec QvpiFilterBorderSpec; /**< general filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
 typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
 typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */
+typedef struct QvpiLookupSpec QvpiLookupSpec;             /**< look-up through levels */
 typedef struct QvpiMomentState_64f QvpiMomentState_64f;   /**< moments */
 typedef struct QvpiFFTSpec_R_32f QvpiFFTSpec_R_32f;       /**< Fourier transform of real images, powers of two */
 typedef struct QvpiFFTSpec_C_32fc QvpiFFTSpec_C_32fc;     /**< Fourier transform of complex images, powers of two */

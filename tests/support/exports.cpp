@@ -44,6 +44,7 @@ constexpr struct {
     {"qvpiGrayToBin", ScaleLesson},
     {"qvpiHOG", HogLesson},
     {"qvpiHistogram", HistogramLesson},
+    {"qvpiLookup", LookupLesson},
     {"qvpiLookupTable", TableLesson},
     {"qvpiMagnitudePack", FourierLesson},
     {"qvpiMax", ReductionLesson},

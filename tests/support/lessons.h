@@ -12,6 +12,7 @@ bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool FourierLesson(Scene& scene, size_t place, Argument& argument);
 bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
+bool LookupLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);
 bool ReductionLesson(Scene& scene, size_t place, Argument& argument);
