@@ -53,7 +53,8 @@ def rename(names, cpu, machine):
     return "\n".join(lines + hidden) + "\n"
 
 
-# The stub that jumps through the slot at an address. Jumps are protected: a function that is reached through a register begins with a landing mark.
+# The stub that jumps through the slot at an address. Jumps are protected: a function that is reached through a register
+# begins with a landing mark.
 STUB = {
     ("x86", 64): "\t_CET_ENDBR\n\tjmp *({slot})(%rip)\n",
     # The address of the next instruction comes from the return address of a call; only eax and ecx may be changed.
@@ -171,7 +172,8 @@ def calls(functions):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
-    parser.add_argument("--levels", nargs="+", help="the codes of those whose code a build for several levels holds, lowest first")
+    parser.add_argument("--levels", nargs="+",
+                        help="the codes of those whose code a build for several levels holds, lowest first")
     parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB} | {"wasm"}),
                         help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
