@@ -2,6 +2,7 @@
 #include "base/check.h"
 #include "filter/border_filter_pairs.h"
 #include "filter/border_filter_reals.h"
+#include "filter/windows.h"
 #include "qvpi.h"
 
 namespace qvp::filter {
@@ -15,26 +16,6 @@ struct Job {
   Size roi;
   uint8_t* buffer;
 };
-
-// Two rows of n results. Where there is only one, `lower` is the same as `upper`: kernels store the upper results last.
-// What the kernel holds is copied, as bytes that are stored might be part of it for all that the compiler can tell. The
-// last vector may overlap the one before it: results are not what is read.
-template <class Kernel, class E, class T>
-void FilterRows(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
-  constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
-  const Kernel kernel = shared;
-  if (n < kLanes) {
-    T staged[2][kLanes];
-    kernel.template Run<1>(lines, 0, staged[0], staged[1]);
-    std::memcpy(lower, staged[1], n * sizeof(T));
-    std::memcpy(upper, staged[0], n * sizeof(T));
-    return;
-  }
-  ptrdiff_t i = 0;
-  for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, upper + i, lower + i);
-  for (; i + kLanes <= n; i += kLanes) kernel.template Run<1>(lines, i, upper + i, lower + i);
-  if (i < n) kernel.template Run<1>(lines, n - kLanes, upper + n - kLanes, lower + n - kLanes);
-}
 
 // Columns of a region that are filtered down its rows, two at a time.
 template <class Kernel, class T>

@@ -575,6 +575,353 @@ QvpStatus qvpiFilterBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst
 QvpStatus qvpiFilterBorder_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiSize dstRoiSize, QvpiBorderType borderType, const Qvp64f* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Fixed kernels: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of filters with fixed kernels: binomial, sharpen, derivatives and gradients.
+ *
+ *  One buffer serves every such filter, with the same or a smaller mask and region, of that type and number of channels,
+ *  at any border. It may begin anywhere.
+ *
+ *  @param maskSize 2x2, 3x3 or 5x5
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the source: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a source pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterFixedBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Fixed kernels: smoothing and sharpening
+ *  @{ */
+/** Smooths with binomial weights, or sharpens by twice the pixel minus that.
+ *
+ *  Binomial weighs each axis by [1 2 1] / 4 or [1 4 6 4 1] / 16:
+ *
+ *  @code
+ *    3x3    dst = (1 2 1            5x5    dst = ( 1  4  6  4  1
+ *                  2 4 2                           4 16 24 16  4
+ *                  1 2 1) / 16                     6 24 36 24  6
+ *                                                  4 16 24 16  4
+ *                                                  1  4  6  4  1) / 256
+ *  @endcode
+ *
+ *  Sharpen is 2 * src - binomial, an unsharp mask: plane areas stay, edges get steeper. Integers are summed exactly,
+ *  rounded once to the nearest, ties to even, and saturated: around a single 255, Binomial 3x3 gives 64, beside it 32 and
+ *  at the corners 16. Floats are added along rows, then down columns, the middle first and then by pairs; results differ
+ *  from exact ones by at most 12 * 2^-24 times the sum of the absolute products. A NaN or an infinity reaches exactly the
+ *  results whose mask covers it. AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
+ *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
+ *  the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize 3x3 or 5x5
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem; with 3x3 qvpBorderReplicateAlt too, which is the same as qvpBorderReplicate here
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterFixedBorderGetBufferSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBinomialBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBinomialBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSharpenBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Fixed kernels: derivatives
+ *  @{ */
+/** Derivatives by fixed kernels, positive where values grow to the right (X) or downward (Y).
+ *
+ *  Each is the product of a row of coefficients and a column; nothing is divided. Y is X with both exchanged.
+ *
+ *  @code
+ *    name                    mask   row                column            use
+ *    SobelX, SobelY          3x3    [-1 0 1]           [1 2 1]           first derivative
+ *                            5x5    [-1 -2 0 2 1]      [1 4 6 4 1]
+ *    SobelXX, SobelYY        3x3    [1 -2 1]           [1 2 1]           second derivative
+ *                            5x5    [1 0 -2 0 1]       [1 4 6 4 1]
+ *    SobelXY                 3x3    [-1 0 1]           [-1 0 1]          mixed derivative
+ *                            5x5    [-1 -2 0 2 1]      [-1 -2 0 2 1]
+ *    ScharrX, ScharrY        3x3    [-1 0 1]           [3 10 3]          first derivative, truer in its direction
+ *    PrewittX, PrewittY      3x3    [-1 0 1]           [1 1 1]           slope of the plane fitted to the mask
+ *                            5x5    [-2 -1 0 1 2]      [1 1 1 1 1]
+ *    RobertsDown             2x2    src(x + 1, y + 1) - src(x, y)        diagonals of the smallest mask
+ *    RobertsUp               2x2    src(x + 1, y) - src(x, y + 1)
+ *    Laplace                 3x3    the four neighbours - 4 * src        spots, focus
+ *                            5x5    SobelXX + SobelYY
+ *    HighPass                3x3    9 * src - the sum of the mask        points, defects
+ *                            5x5    25 * src - the sum of the mask
+ *  @endcode
+ *
+ *  On an image of 3 x + 4 y, SobelX 3x3 gives 24, SobelY 32. Integers give exact results, which always fit: 8u gives 16s,
+ *  16u and 16s give 32f. From 32f sums are formed along rows, then down columns, the middle first and then by pairs, in
+ *  single precision; they differ from exact ones by at most 12 * 2^-24 times the sum of the absolute products. A NaN or an
+ *  infinity reaches exactly the results that have it under a coefficient other than 0.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
+ *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
+ *  the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize as in the table
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem; with 3x3 qvpBorderReplicateAlt too, which is the same as qvpBorderReplicate here
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterFixedBorderGetBufferSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusNotEvenStep: from 16u or 16s, `dstStep` is no multiple of 4
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSobelXBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXXBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelYYBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobelXYBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrXBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterScharrYBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittXBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterPrewittYBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsDownBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsDownBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsDownBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsDownBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsUpBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsUpBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsUpBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterRobertsUpBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLaplaceBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterHighPassBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Gradients: magnitude
+ *  @{ */
+/** The magnitude of the gradient, as one picture.
+ *
+ *  gx and gy are the results of SobelX and SobelY with the same mask. `normType` tells what becomes of them:
+ *
+ *  @code
+ *    qvpNormL1     |gx| + |gy|
+ *    qvpNormL2     sqrt(gx * gx + gy * gy)
+ *    qvpNormInf    the larger of |gx| and |gy|
+ *  @endcode
+ *
+ *  Integers are exact for L1 and Inf; L2 is computed in single precision, each operation rounded, and rounded to the
+ *  nearest, ties to even. Results saturate. On an image of 30 x + 40 y, L2 with 3x3 gives 400, so that 8u has 255. In 32f
+ *  squares may overflow to infinity; NaN in gx or gy gives NaN.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
+ *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
+ *  the whole image. No destination may overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize 3x3 or 5x5
+ *  @param normType qvpNormL1, qvpNormL2 or qvpNormInf
+ *  @param borderType qvpBorderReplicate or qvpBorderConst, with flags of sides in memory, or qvpBorderInMem
+ *  @param borderValue the pixel outside; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterFixedBorderGetBufferSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusNotSupportedMode: `normType` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSobel_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobel_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobel_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobel_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSobel_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Gradients: vectors
+ *  @{ */
+/** The gradient by Sobel's or Scharr's kernels: both derivatives, magnitude and angle, each of which may be left out.
+ *
+ *  - `pGx`, `pGy`: what the functions SobelX and SobelY, or ScharrX and ScharrY, give.
+ *  - `pMagnitude`, in single precision: for qvpNormL1 |gx| + |gy|, for qvpNormL2 sqrt(gx * gx + gy * gy), each operation
+ *    rounded, for qvpNormInf the larger of |gx| and |gy|. Squares may overflow to infinity.
+ *  - `pAngle`: the direction of growth, atan2(gy, gx), in radians from -pi to pi, clockwise on the screen, as y grows
+ *    downward. Of no gradient it is 0. It is off by 5e-6 at most.
+ *
+ *  NaN in gx or gy gives NaN for both. From three channels (C3C1) the channel with the largest gradient decides, by
+ *  |gx| + |gy|, gx * gx + gy * gy or the larger of |gx| and |gy|, as the norm says, in single precision; of equal ones the
+ *  first.
+ *
+ *  On an image of 3 x + 4 y, Sobel 3x3 gives gx 24, gy 32, magnitudes 56, 40 and 32, and the angle 0.9272952.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
+ *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
+ *  the whole image. No destination may overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pGx,gxStep,pGy,gyStep derivatives to the right and downward; null: not wanted, the step is not looked at
+ *  @param pMagnitude,magnitudeStep,pAngle,angleStep magnitude and angle; null: not wanted
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize Sobel: 3x3 or 5x5; Scharr: 3x3
+ *  @param normType qvpNormL1, qvpNormL2 or qvpNormInf
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem; with 3x3 qvpBorderReplicateAlt too, which is the same as qvpBorderReplicate here
+ *  @param borderValue one value for each channel; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterFixedBorderGetBufferSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc` or `pBuffer` is null, or all destinations are, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: the step of the source or of a destination that is wanted is shorter than its row of the region
+ *  - qvpStatusNotEvenStep: from 16u or 16s, such a destination step is no multiple of 4
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusNotSupportedMode: `normType` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGradientSobelBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pGx, int gxStep, Qvp16s* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_8u16s_C3C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pGx, int gxStep, Qvp16s* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_16u32f_C3C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_16s32f_C3C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientSobelBorder_32f_C3C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pGx, int gxStep, Qvp16s* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_8u16s_C3C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pGx, int gxStep, Qvp16s* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_16u32f_C3C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_16s32f_C3C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGradientScharrBorder_32f_C3C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -153,6 +153,14 @@ enum {
     qvpCmpGreater = 4,   /**< greater than */
 };
 
+/** How the two derivatives of a gradient make one magnitude. */
+typedef int QvpNormType;
+enum {
+    qvpNormL1 = 1,  /**< |x| + |y| */
+    qvpNormL2 = 2,  /**< sqrt(x * x + y * y) */
+    qvpNormInf = 3, /**< the larger of |x| and |y| */
+};
+
 /** What an operation finds outside a region: a kind, combined with the sides that are in memory.
  *
  *  A side that is in memory is read where it lies, at negative offsets from the pointer or beyond the region, as far as
@@ -162,7 +170,7 @@ typedef int QvpiBorderType;
 enum {
     qvpBorderReplicate = 1,      /**< the nearest edge pixel */
     qvpBorderMirror = 3,         /**< reflection at the edge pixel, which is not repeated: -1 takes 1, -2 takes 2 */
-    qvpBorderReplicateAlt = 4,   /**< another word for qvpBorderReplicate, for resizing only */
+    qvpBorderReplicateAlt = 4,   /**< qvpBorderReplicate in other words, for resizing and 3x3 fixed kernels */
     qvpBorderConst = 6,          /**< a value that the caller gives */
     qvpBorderTransparent = 7,    /**< warps only: destination pixels that fall outside keep their value */
     qvpBorderInMemTop = 0x10,    /**< the rows above the region are in memory */

@@ -2,15 +2,18 @@
 #include <cmath>
 #include <functional>
 
+#include "tests/support/bordered.h"
 #include "tests/support/name.h"
-#include "tests/support/reference.h"
 
 namespace {
 using test::Block;
+using test::Bordered;
 using test::Element;
 using test::ElementOf;
 using test::Guard;
+using test::ReachOf;
 using test::Real;
+using test::Region;
 
 // The function that filters images of elements.
 const test::Export& FilterOf(const Element& element, int channels) {
@@ -103,44 +106,8 @@ Real Expected(const Element& element, const Filter& f, int channels, const Pixel
   return test::Converted(element, isDouble ? SumOf<double>(f, pixel) : SumOf<float>(f, pixel), f.mode);
 }
 
-struct Region {
-  QvpiSize size;
-  int channels;
-  QvpiBorderType border;
-};
-
-// The image holds just what may be read: the region, and on the sides in memory what the kernel reaches.
-struct Scene {
-  int left, top, right, bottom;
-  Region region;
-  test::Samples image;
-  uint8_t value[32];  // beyond the image
-
-  Scene(const Element& element, QvpiSize kernel, const Region& r, Guard guard)
-      : left(r.border & qvpBorderInMemLeft ? (kernel.width - 1) / 2 : 0),
-        top(r.border & qvpBorderInMemTop ? (kernel.height - 1) / 2 : 0),
-        right(r.border & qvpBorderInMemRight ? kernel.width / 2 : 0),
-        bottom(r.border & qvpBorderInMemBottom ? kernel.height / 2 : 0),
-        region(r),
-        image(element, (left + r.size.width + right) * r.channels, top + r.size.height + bottom, 3, guard) {
-    test::Random random(7);
-    if (!element.isInteger) image.Fill([&](int, int) { return static_cast<int>(random.Next()) / 1000; });
-    constexpr Real kValue[4] = {250, 3, 77, 128};
-    for (int c = 0; c < 4; ++c) element.write(value + c * element.bytes, kValue[c]);
-  }
-  const Element& element() const { return image.element(); }
-  const uint8_t* At(int x, int y) const { return image.At((left + x) * region.channels, top + y); }
-  Real Pixel(int x, int y, int c) const {
-    const int kind = region.border & 15;
-    const int column = test::BorderPosition(kind, x, -left, region.size.width - 1 + right),
-              row = test::BorderPosition(kind, y, -top, region.size.height - 1 + bottom);
-    if (column == test::kConstant || row == test::kConstant) return element().read(value + c * element().bytes);
-    return image((left + column) * region.channels + c, top + row);
-  }
-};
-
 // Filters the part of a scene that begins at x, y.
-QvpStatus Apply(const Scene& scene, const Prepared& prepared, int x, int y, QvpiSize size, int border,
+QvpStatus Apply(const Bordered& scene, const Prepared& prepared, int x, int y, QvpiSize size, int border,
                 const test::Argument& dst) {
   return FilterOf(scene.element(), scene.region.channels)({{"pSrc", {scene.At(x, y), scene.image.step()}},
                                                            {"pDst", dst},
@@ -154,7 +121,7 @@ QvpStatus Apply(const Scene& scene, const Prepared& prepared, int x, int y, Qvpi
 // `record` is the type that the record is made for, if not that of the image.
 void Check(std::string_view type, const Filter& f, const Region& r, Guard guard = Guard::kAfter,
            QvpDataType record = 0) {
-  const Scene scene(ElementOf(type), f.size, r, guard);
+  const Bordered scene(ElementOf(type), ReachOf(f.size), r, guard);
   const test::Samples dst(scene.element(), r.size.width * r.channels, r.size.height, 5, guard);
   const Prepared prepared(f, r.size, record ? record : scene.element().code, r.channels);
   ASSERT_EQ(Apply(scene, prepared, 0, 0, r.size, r.border, dst), 0);
@@ -269,7 +236,7 @@ void CheckExtremes(std::string_view type, QvpiSize kernel, int coefficient, int 
   const Region region{{40, 3}, 1, qvpBorderReplicate};
   const Prepared prepared(f, region.size, element.code, 1);
   for (const Real pixel : {element.lowest, element.highest}) {
-    Scene scene(element, f.size, region, Guard::kAfter);
+    Bordered scene(element, ReachOf(f.size), region, Guard::kAfter);
     const test::Samples dst(element, 40, 3, 0);
     scene.image.Fill([&](int, int) { return pixel; });
     ASSERT_EQ(Apply(scene, prepared, 0, 0, region.size, region.border, dst), 0);
@@ -292,21 +259,14 @@ TEST(FilterBorder, NeverWrapsAround) {
 
 // Tiles whose inner sides are in memory, filtered with one buffer of the whole image.
 void CheckTiles(std::string_view type, const Filter& f, QvpiSize size, QvpiSize tile, int kind) {
-  const Scene scene(ElementOf(type), f.size, {size, 1, kind}, Guard::kAfter);
+  const Bordered scene(ElementOf(type), ReachOf(f.size), {size, 1, kind}, Guard::kAfter);
   const test::Samples whole(scene.element(), size.width, size.height, 0),
       tiled(scene.element(), size.width, size.height, 1);
   const Prepared prepared(f, size, scene.element().code, 1);
   ASSERT_EQ(Apply(scene, prepared, 0, 0, size, kind, whole), 0);
-  for (int y = 0; y < size.height; y += tile.height) {
-    for (int x = 0; x < size.width; x += tile.width) {
-      const QvpiSize part{std::min(tile.width, size.width - x), std::min(tile.height, size.height - y)};
-      // A side is in memory if as many pixels as the kernel reaches are.
-      const int flags = (y > 0 ? qvpBorderInMemTop : 0) | (x > 0 ? qvpBorderInMemLeft : 0) |
-                        (y + part.height < size.height ? qvpBorderInMemBottom : 0) |
-                        (x + part.width < size.width ? qvpBorderInMemRight : 0);
-      ASSERT_EQ(Apply(scene, prepared, x, y, part, flags | kind, {tiled.At(x, y), tiled.step()}), 0);
-    }
-  }
+  test::ForEachTile(size, tile, kind, [&](int x, int y, QvpiSize part, int border) {
+    ASSERT_EQ(Apply(scene, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+  });
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) ASSERT_EQ(whole(x, y), tiled(x, y)) << x << ',' << y;
   }
@@ -365,7 +325,7 @@ TEST(FilterBorder, RecordsOfOtherTypesAreSafe) {
   const Filter f = RandomFilter("16s", {3, 3}, 5, 7);
   const Prepared bytes(f, {40, 3}, qvp8u, 1);
   const Region region{{40, 3}, 1, qvpBorderReplicate};
-  Scene scene(ElementOf("16u"), f.size, region, Guard::kAfter);
+  Bordered scene(ElementOf("16u"), ReachOf(f.size), region, Guard::kAfter);
   scene.image.Fill([](int x, int y) { return x * 5 + y; });
   const test::Samples dst(scene.element(), 40, 3, 0);
   ASSERT_EQ(Apply(scene, bytes, 0, 0, region.size, region.border, dst), 0);

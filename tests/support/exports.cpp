@@ -31,6 +31,7 @@ constexpr struct {
     {"qvpiDotProd", ReductionLesson},
     {"qvpiDotProdCol", WeightedRowsLesson},
     {"qvpiFFT", FourierLesson},
+    {"qvpiFilter", WindowLesson},
     {"qvpiFilterBorder", FilterLesson},
     {"qvpiFilterBorderInit", FilterInitLesson},
     {"qvpiGetAffine", TransformLesson},

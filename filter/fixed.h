@@ -1,0 +1,175 @@
+// The call of a filter with a fixed kernel: its checks in order, and its walk.
+#pragma once
+
+#include "base/check.h"
+#include "base/export.h"
+#include "base/pack.h"
+#include "filter/fixed_kinds.h"
+#include "filter/unrolled.h"
+#include "filter/windows.h"
+
+namespace qvp::filter {
+
+// Lanes that hold every sum of a fixed kernel over pixels of T.
+template <class T>
+using FixedLane =
+    std::conditional_t<std::is_same_v<T, float>, float, std::conditional_t<sizeof(T) == 1, int16_t, int32_t>>;
+
+// Two vectors of results from vectors of lanes: bytes are taken by twos, those at even places and those at odd ones,
+// and their results come so.
+template <class R, class D, class V>
+HWY_INLINE void StoreEvenOdd(D d, V even, V odd, R* to) {
+  if constexpr (sizeof(R) == sizeof(hn::TFromD<D>)) {
+    hn::StoreInterleaved2(even, odd, d, to);
+  } else {
+    const hn::Repartition<R, D> bytes;
+    static constexpr auto kTurns = [] {
+      std::array<uint8_t, hn::MaxLanes(hn::ScalableTag<uint8_t>())> places{};
+      for (size_t i = 0; i < places.size(); ++i) places[i] = static_cast<uint8_t>(i % 16 / 2 + i % 2 * 8);
+      return places;
+    }();
+    hn::StoreU(hn::TableLookupBytes(Packed(R(), even, odd), hn::LoadU(bytes, kTurns.data())), bytes, to);
+  }
+}
+
+// kCount vectors of lanes, as results.
+template <int kCount, class R, class D, class V>
+HWY_INLINE void StoreLanes(D d, const V (&v)[kCount], R* to) {
+  using L = hn::TFromD<D>;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  if constexpr (std::is_same_v<R, float> && std::is_integral_v<L>) {
+    const hn::Rebind<float, D> f;
+    Unrolled<kCount>([&](auto i) QVP_INLINED { hn::StoreU(hn::ConvertTo(f, v[i]), f, to + i * kLanes); });
+  } else if constexpr (sizeof(R) < sizeof(L) && kCount == 2) {
+    hn::StoreU(PackedInOrder<R>(v[0], v[1]), hn::Repartition<R, D>(), to);
+  } else {
+    Unrolled<kCount>([&](auto i) QVP_INLINED { hn::StoreU(Narrow<R>(d, v[i]), hn::Rebind<R, D>(), to + i * kLanes); });
+  }
+}
+
+// Two rows of results of a kind at a time, from rows of pixels that are taken as they are.
+template <class T, class R, class Kind>
+class FixedKernel {
+ public:
+  using Element = T;
+  using Result = R;
+  using D = hn::ScalableTag<FixedLane<T>>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  static constexpr int kLines = Kind::kHeight + 1;
+  static constexpr int kVectors = sizeof(T) == 1 || sizeof(R) < sizeof(FixedLane<T>) ? 2 : 1;  // whose results fill one
+
+  explicit FixedKernel(int channels) : channels_(channels) {}
+
+  template <int kCount>
+  HWY_INLINE void Run(const T* const* lines, ptrdiff_t at, R* upper, R* lower) const {
+    const D d;
+    constexpr bool kIsEvenOdd = sizeof(T) == 1 && kCount == 2;
+    hn::Vec<D> above[kCount], below[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
+      typename Kind::template Part<D> parts[kLines];
+      Unrolled<kLines>([&](auto j) QVP_INLINED {
+        const T* first = lines[j] + at + (kIsEvenOdd ? 0 : v * kLanes);
+        if constexpr (kIsEvenOdd) first = Unknown(first);  // all sums of the even places come before those of the odd
+        parts[j] = Kind::RowOf(d, [&](int k) QVP_INLINED {
+          if constexpr (kIsEvenOdd) return EveryOther<v>(first + k * channels_);
+          if constexpr (!kIsEvenOdd) return LoadWide(d, first + k * channels_);
+        });
+      });
+      above[v] = Kind::Result(d, static_cast<const typename Kind::template Part<D>*>(parts));
+      below[v] = Kind::Result(d, static_cast<const typename Kind::template Part<D>*>(parts + 1));
+    });
+    if constexpr (kIsEvenOdd) {
+      StoreEvenOdd(d, below[0], below[1], lower);
+      StoreEvenOdd(d, above[0], above[1], upper);
+    } else {
+      StoreLanes<kCount>(d, below, lower);
+      StoreLanes<kCount>(d, above, upper);
+    }
+  }
+
+ private:
+  // The bytes at even places, or those at odd ones: a mask or a shift takes the place of a conversion.
+  template <int kOdd>
+  static HWY_INLINE hn::Vec<D> EveryOther(const uint8_t* from) {
+    const hn::RebindToUnsigned<D> words;
+    const auto pairs = hn::BitCast(words, hn::LoadU(hn::ScalableTag<uint8_t>(), from));
+    if constexpr (kOdd) return hn::BitCast(D(), hn::ShiftRight<8>(pairs));
+    return hn::BitCast(D(), hn::And(pairs, hn::Set(words, 0xFF)));
+  }
+
+  ptrdiff_t channels_;
+};
+
+// What the functions of fixed kernels take.
+template <class T, class R>
+struct FixedCall {
+  Image<const T> src;
+  Image<R> dst;
+  Size roi;
+  QvpiSize mask;
+  QvpiBorderType border;
+  const T* value;
+  uint8_t* buffer;
+};
+
+constexpr bool IsMask(QvpiSize mask, int width, int height) { return mask.width == width && mask.height == height; }
+
+// A step must cover its row. Where results are longer than pixels of two bytes, it must be a multiple of theirs.
+template <class T>
+bool CoversRow(const Image<T>& image, Size roi) {
+  return image.step >= int64_t{roi.width} * image.PixelBytes();
+}
+
+// Replicating the pixel itself too is asked for by masks of 3 x 3 only, and is the same for them.
+inline QvpStatus CheckFixedBorder(QvpiSize mask, QvpiBorderType* border) {
+  using enum BorderKind;
+  const bool takesAlternative = IsMask(mask, 3, 3) && IsBorderOf({kReplicateAlt}, *border);
+  if (takesAlternative && KindOf(*border) == kReplicateAlt) *border = (*border & ~0xF) | qvpBorderReplicate;
+  return IsBorderOf({kReplicate, kMirror, kConst}, *border) ? qvpStatusNoError : qvpStatusBorder;
+}
+
+template <class T, class R>
+QvpStatus CheckFixed(const FixedCall<T, R>& call) {
+  if (const QvpStatus failed = Validate<kPointers>(call.roi, {call.src, call.dst}, {call.buffer})) return failed;
+  if (KindOf(call.border) == BorderKind::kConst && !call.value) return qvpStatusNullPointer;
+  if (const QvpStatus failed = Validate<kSize>(call.roi, {})) return failed;
+  if (!CoversRow(call.src, call.roi) || !CoversRow(call.dst, call.roi)) return qvpStatusStep;
+  if (sizeof(T) == 2 && std::is_same_v<R, float> && call.dst.step % 4 != 0) return qvpStatusNotEvenStep;
+  return qvpStatusNoError;
+}
+
+template <class Kind, class T, class R>
+void FilterFixed(const FixedCall<T, R>& call) {
+  constexpr Reach kReach{(Kind::kWidth - 1) / 2, (Kind::kHeight - 1) / 2, Kind::kWidth / 2, Kind::kHeight / 2};
+  const FixedKernel<T, R, Kind> kernel(Channels(call.src.layout));
+  auto windows = WindowsOn(call.src, call.roi, call.border, call.value, kReach, call.buffer);
+  windows.outputs[0] = AsBytes(call.dst);
+  FilterWindows(windows, {&kernel, nullptr, DownBy<FixedKernel<T, R, Kind>>, sizeof(T), 2});
+}
+
+// The kinds are those of the masks that the function knows.
+template <class... Kinds, class T, class R>
+QvpStatus Fixed(FixedCall<T, R> call) {
+  if (const QvpStatus failed = CheckFixed(call)) return failed;
+  if (!(IsMask(call.mask, Kinds::kWidth, Kinds::kHeight) || ...)) return qvpStatusMaskSize;
+  if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
+  (void)((IsMask(call.mask, Kinds::kWidth, Kinds::kHeight) && (FilterFixed<Kinds>(call), true)) || ...);
+  return qvpStatusNoError;
+}
+
+// A function of the grid: kinds in parentheses.
+#define QVP_FIXED(name, from, to, layout, types, ...)                                                      \
+  QvpStatus qvpiFilter##name##Border_##types##_##layout##R(                                                \
+      const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, \
+      QvpiBorderType borderType, const Qvp##from* borderValue, Qvp8u* pBuffer) {                           \
+    return qvp::filter::Fixed<__VA_ARGS__>(                                                                \
+        qvp::filter::FixedCall<Qvp##from, Qvp##to>{{pSrc, srcStep, qvp::Layout::k##layout},                \
+                                                   {pDst, dstStep, qvp::Layout::k##layout},                \
+                                                   roiSize,                                                \
+                                                   maskSize,                                               \
+                                                   borderType,                                             \
+                                                   borderValue,                                            \
+                                                   pBuffer});                                              \
+  }
+
+}  // namespace qvp::filter

@@ -1,0 +1,209 @@
+// The walk of a window of lines down a region.
+#include "filter/windows.h"
+
+#include "base/map.h"
+
+namespace qvp::filter {
+namespace {
+
+// Lines of a block of columns stay in the nearest cache; columns that blocks have in common do not count.
+constexpr int64_t kCacheBytes = 16384, kFewestColumns = 64;
+
+// Behind a line there is room for a vector. Lines are kept close: there may be thousands of a few pixels.
+constexpr int64_t kVectorBytes = 64, kLineBoundary = 32;
+
+ByteCount LineBytes(ByteCount samples, int elementBytes) {
+  return (samples * elementBytes + kVectorBytes).RoundedTo(kLineBoundary);
+}
+
+// A block of columns with its window.
+template <class T>
+class Block {
+ public:
+  Block(const Windows<T>& windows, const WindowKernel& kernel, Extent columns)
+      : windows_(windows),
+        kernel_(kernel),
+        first_(columns.begin),
+        pixels_(columns.end - columns.begin),
+        samples_(pixels_ * windows.src.channels()),
+        lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
+        next_(-windows.reach.above),
+        source_(windows.src, {columns.begin - windows.reach.left, columns.end + windows.reach.right},
+                samples_ >= kFewestInPlace) {}
+
+  int64_t WorkBytes() const {
+    const int64_t lines = (kernel_.across ? SourceBytes() : 0) + lines_ * WindowLineBytes();
+    return ByteCount(PointerBytes() + source_.TableBytes() + lines + 2 * KeptBytes())
+        .RoundedTo(kRecordBoundary)
+        .value();
+  }
+
+  // Prepares the first lines. Returns where the memory ends that it takes; it begins at a boundary.
+  uint8_t* Start(uint8_t* memory) {
+    uint8_t* const end = memory + WorkBytes();
+    pointers_ = reinterpret_cast<const void**>(memory);
+    memory = source_.Start(memory + PointerBytes());
+    for (uint8_t*& kept : kept_) {
+      kept = memory;
+      memory += KeptBytes();
+    }
+    if (kernel_.across) {
+      stage_ = reinterpret_cast<T*>(memory);
+      memory += SourceBytes();
+    }
+    ring_ = {memory, static_cast<ptrdiff_t>(WindowLineBytes()), static_cast<int>(lines_)};
+    room_ = ring_.at;
+    Prepare(0);
+    return end;
+  }
+
+  // The rows of results from y on, after those above.
+  void Filter(ptrdiff_t y) {
+    if (y > 0) Advance();
+    const ptrdiff_t next = std::min(y + kernel_.rowsAtOnce, windows_.roi.height) - 1;
+    ResultRows rows;
+    for (int i = 0; i < kMostOutputs; ++i) {
+      rows.upper[i] = At(windows_.outputs[i], y);
+      rows.lower[i] = At(windows_.outputs[i], next);
+    }
+    if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, pointers_, samples_, rows);
+    ResultRows kept{};
+    kept.upper[0] = kept_[0];
+    kept.lower[0] = next == y ? kept_[0] : kept_[1];
+    kernel_.down(kernel_.context, pointers_, samples_, kept);
+    PutColours(kept_[0], rows.upper[0]);
+    if (next != y) PutColours(kept_[1], rows.lower[0]);
+  }
+
+ private:
+  int64_t PointerBytes() const { return ByteCount(lines_ * 8).RoundedTo(kRecordBoundary).value(); }
+  // A line of the source.
+  int64_t SourceBytes() const {
+    const ptrdiff_t beyond = (windows_.reach.left + windows_.reach.right) * windows_.src.channels();
+    return source_.isInPlace() ? 0 : LineBytes(samples_ + beyond, sizeof(T)).value();
+  }
+  int64_t WindowLineBytes() const {
+    return kernel_.across ? LineBytes(samples_, kernel_.elementBytes).value() : SourceBytes();
+  }
+  // A row of results that do not go to the image as they are.
+  int64_t KeptBytes() const {
+    const Bytes& output = windows_.outputs[0];
+    return KeepsAlpha(output.layout) ? LineBytes(samples_, output.elementBytes).value() : 0;
+  }
+
+  uint8_t* At(const Bytes& output, ptrdiff_t y) const {
+    return output.data ? output.Row(y) + first_ * output.PixelBytes() : nullptr;
+  }
+
+  void PutColours(const uint8_t* from, uint8_t* to) const {
+    const int bytes = windows_.outputs[0].elementBytes;
+    if (bytes == 1) PutColoursOf<uint8_t>(from, to);
+    if (bytes == 2) PutColoursOf<uint16_t>(from, to);
+    if (bytes == 4) PutColoursOf<uint32_t>(from, to);
+  }
+  template <class R>
+  void PutColoursOf(const uint8_t* from, uint8_t* to) const {
+    MapRow<true>(
+        hn::ScalableTag<R>(), reinterpret_cast<R*>(to), samples_, [](auto v) HWY_ATTR { return v; },
+        reinterpret_cast<const R*>(from));
+  }
+
+  void Advance() {
+    const ptrdiff_t count = kernel_.rowsAtOnce;
+    std::memmove(pointers_, pointers_ + count, (lines_ - count) * sizeof(*pointers_));
+    Prepare(lines_ - count);
+  }
+
+  // The lines from one of the window to its last.
+  void Prepare(ptrdiff_t line) {
+    for (; line < lines_; ++line, ++next_, room_ = ring_.Next(room_)) {
+      if (!kernel_.across) {
+        pointers_[line] = source_.Line(next_, reinterpret_cast<T*>(room_));
+        continue;
+      }
+      kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, samples_);
+      pointers_[line] = room_;
+    }
+  }
+
+  const Windows<T>& windows_;
+  const WindowKernel& kernel_;
+  ptrdiff_t first_, pixels_, samples_;
+  int64_t lines_;
+  ptrdiff_t next_;  // row of the next line
+  BorderRows<SingleRows<T, T>, T> source_;
+  const void** pointers_ = nullptr;
+  RowRing<uint8_t> ring_{};
+  uint8_t* room_ = nullptr;  // for the next line
+  T* stage_ = nullptr;       // where a line of the source is made for `across`
+  uint8_t* kept_[2] = {};
+};
+
+int64_t MaskWidth(const Reach& reach) { return reach.left + reach.right + 1; }
+int64_t MaskHeight(const Reach& reach) { return reach.above + reach.below + 1; }
+
+// Lines of the source are its rows but for the columns that reach the border. False if they would not stay in the
+// second-level cache, or the work buffer is too small for both edges together.
+template <class T>
+bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
+  constexpr int64_t kSecondCacheBytes = 1 << 19;
+  const Reach& reach = windows.reach;
+  const ptrdiff_t width = windows.roi.width, edge = std::max<ptrdiff_t>(kFewestInPlace, MaskWidth(reach));
+  const int64_t lineBytes = int64_t{width} * windows.src.image.PixelBytes();
+  if (width < 4 * edge || lineBytes > kSecondCacheBytes / (MaskHeight(reach) + 1)) return false;
+  Block<T> left(windows, kernel, {0, edge}), middle(windows, kernel, {edge, width - edge}),
+      right(windows, kernel, {width - edge, width});
+  const int64_t bytes = left.WorkBytes() + middle.WorkBytes() + right.WorkBytes() + kRecordBoundary;
+  const int elementBytes =
+      std::max({static_cast<int>(sizeof(T)), kernel.elementBytes, windows.outputs[0].elementBytes});
+  const Size mask(static_cast<ptrdiff_t>(MaskWidth(reach)), static_cast<ptrdiff_t>(MaskHeight(reach)));
+  if (bytes > WindowBytes(mask, width, windows.src.channels(), elementBytes).value()) return false;
+  right.Start(middle.Start(left.Start(AtBoundary(windows.buffer))));
+  for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) {
+    left.Filter(y);
+    middle.Filter(y);
+    right.Filter(y);
+  }
+  return true;
+}
+
+template <class T>
+void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
+  const Reach& reach = windows.reach;
+  const ptrdiff_t width = windows.roi.width;
+  const int64_t columnBytes = (MaskHeight(reach) + 1) * windows.src.channels() * int64_t{kernel.elementBytes};
+  const int64_t most = std::max({kCacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
+  const int64_t blocks = (width + most - 1) / most;
+  for (int64_t b = 0; b < blocks; ++b) {
+    Block<T> block(windows, kernel,
+                   {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)});
+    block.Start(AtBoundary(windows.buffer));
+    for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) block.Filter(y);
+  }
+}
+
+}  // namespace
+
+// Of each line there are at most the columns of the region, or of a block and beyond it; the cache's bytes are all
+// lines' together. Beside the window's there are four lines: one of the source, one of constants, two of kept results.
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes) {
+  const ByteCount lines = ByteCount(mask.height) + 1, pixelBytes = channels * elementBytes;
+  const int64_t columns = 4 * int64_t{mask.width} + kFewestColumns;
+  const ByteCount whole = lines * regionWidth * pixelBytes, ofBlocks = lines * columns * pixelBytes + kCacheBytes;
+  const ByteCount others = pixelBytes * (4 * std::min(regionWidth, kCacheBytes / (2 * channels) + columns));
+  const ByteCount beyond = (lines + 4) * (pixelBytes * mask.width + kVectorBytes + kLineBoundary + 8);
+  return std::min(whole.value(), ofBlocks.value()) + others + beyond + ByteCount(mask.width) * 4 + 8 * kRecordBoundary +
+         kLineSpare;
+}
+
+template <class T>
+void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel) {
+  if (!kernel.across && FilterInPlace(windows, kernel)) return;
+  FilterBlocks(windows, kernel);
+}
+
+template void FilterWindows(const Windows<uint8_t>&, const WindowKernel&);
+template void FilterWindows(const Windows<uint16_t>&, const WindowKernel&);
+template void FilterWindows(const Windows<uint32_t>&, const WindowKernel&);
+
+}  // namespace qvp::filter

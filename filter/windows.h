@@ -1,0 +1,115 @@
+// The walk of the filters that make each row of results from the same few rows around it: rows of the source, with the
+// border around them, are prepared once each and kept in a window, which moves down over the region.
+//
+//     source --border--> line --across--> line, in the window --down--> results
+//
+// The walk is compiled once for each size of elements: what a filter does across and down are functions with a context.
+#pragma once
+
+#include <array>
+
+#include "base/row_ring.h"
+
+namespace qvp::filter {
+
+inline constexpr int kMostOutputs = 4;
+
+// Where one or two rows of results go, as far as each output is wanted: else null. Of a single row both are the same,
+// and the upper results are stored last.
+struct ResultRows {
+  std::array<uint8_t*, kMostOutputs> upper, lower;
+};
+
+// What a filter does.
+//   across  makes `samples` elements of a line from one of the source, of which the first result reads the first
+//   samples.
+//           Null if lines are those of the source.
+//   down    makes results from the lines of the window, from the uppermost on. `samples` are those of the source's type
+//           of pixel. Without `across` the first result reads the first samples of lines here.
+// Both may read and write kLineSpare bytes behind a line, but behind one of the source only if samples are fewer than
+// kFewestInPlace: it may be a row of the image.
+struct WindowKernel {
+  const void* context;
+  void (*across)(const void* context, const void* source, void* line, ptrdiff_t samples);
+  void (*down)(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows);
+  int elementBytes;  // of lines in the window
+  int rowsAtOnce;    // of results: 1 or 2
+};
+
+inline constexpr ptrdiff_t kFewestInPlace = 64;
+
+// T is an unsigned integer as long as the elements: pixels are only moved here.
+template <class T>
+struct Windows {
+  BorderedImage<T> src;
+  Size roi;
+  Reach reach;
+  std::array<Bytes, kMostOutputs> outputs;  // an AC4 image keeps its alpha
+  uint8_t* buffer;
+};
+
+// Bytes of the work buffer for regions up to a width, from any address on; they grow with each argument.
+// `elementBytes` is the most that an element of the source, of a line or of a result has.
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes);
+
+template <class T>
+void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel);
+extern template void FilterWindows(const Windows<uint8_t>&, const WindowKernel&);
+extern template void FilterWindows(const Windows<uint16_t>&, const WindowKernel&);
+extern template void FilterWindows(const Windows<uint32_t>&, const WindowKernel&);
+
+// Two rows of n results, by a kernel that makes those of kVectors vectors at a time, or of one:
+// Run<kCount>(lines, first sample, upper, lower). What the kernel holds is copied, as bytes that are stored might be
+// part of it for all that the compiler can tell. The last vector may overlap the one before it: results are not what is
+// read.
+template <class Kernel, class E, class T>
+HWY_INLINE void FilterRows(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
+  constexpr ptrdiff_t kLanes = Kernel::kLanes, kGroup = Kernel::kVectors * kLanes;
+  const Kernel kernel = shared;
+  T staged[2][kLanes];
+  const bool isShort = n < kLanes;
+  T *const toUpper = isShort ? staged[0] : upper, *const toLower = isShort ? staged[1] : lower;
+  const ptrdiff_t last = isShort ? 0 : n - kLanes;
+  ptrdiff_t i = 0;
+  if constexpr (Kernel::kVectors > 1) {
+    for (; i + kGroup <= n; i += kGroup) kernel.template Run<Kernel::kVectors>(lines, i, toUpper + i, toLower + i);
+  }
+  for (; i < n; i += kLanes) {
+    const ptrdiff_t at = std::min(i, last);
+    kernel.template Run<1>(lines, at, toUpper + at, toLower + at);
+  }
+  if (!isShort) return;
+  std::memcpy(lower, staged[1], n * sizeof(T));
+  std::memcpy(upper, staged[0], n * sizeof(T));
+}
+
+// The lines of a window, copied: what is stored might be part of an array that is not.
+template <class E, int kCount>
+std::array<const E*, kCount> LinesOf(const void* const* lines) {
+  std::array<const E*, kCount> copy;
+  for (int j = 0; j < kCount; ++j) copy[j] = static_cast<const E*>(lines[j]);
+  return copy;
+}
+
+// The same as what a WindowKernel does down: Kernel names the types of lines and of results, and how many lines it has.
+template <class Kernel>
+void DownBy(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  using Result = typename Kernel::Result;
+  const auto from = LinesOf<typename Kernel::Element, Kernel::kLines>(lines);
+  FilterRows(*static_cast<const Kernel*>(context), from.data(), samples, reinterpret_cast<Result*>(rows.upper[0]),
+             reinterpret_cast<Result*>(rows.lower[0]));
+}
+
+// An image as one of unsigned integers.
+template <class T>
+using BitsOf = std::conditional_t<sizeof(T) == 1, uint8_t, std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
+
+template <class T>
+Windows<BitsOf<T>> WindowsOn(const Image<const T>& src, Size roi, QvpiBorderType border, const T* value,
+                             const Reach& reach, uint8_t* buffer) {
+  using Bits = BitsOf<T>;
+  const Image<const Bits> image{reinterpret_cast<const Bits*>(src.data), src.step, src.layout};
+  return {WithBorder(image, roi, border, reinterpret_cast<const Bits*>(value), reach), roi, reach, {}, buffer};
+}
+
+}  // namespace qvp::filter
