@@ -14,21 +14,28 @@ using namespace qvp::lookup;
 // The curves of the channels, of which one may serve all.
 int CurveOf(const Record& record, int channel) { return record.channels == 1 ? 0 : channel; }
 
+// Curves are too large to be copied into kernels.
 template <QvpiLookupMethod kMethod, int kChannels, int kProcessed>
 void MapChannelsBy(const Record& record, const Image<const float>& src, const Image<float>& dst, Size roi) {
   using Curve = FloatCurve<kMethod>;
-  const std::array<Curve, 4> curves = {Curve(record, 0), Curve(record, 1), Curve(record, 2),
-                                       Curve(record, kProcessed - 1)};
-  const auto row = [curves](ptrdiff_t n, float* to, const float* from) HWY_ATTR {
-    const auto look = [&](int c, auto v) HWY_ATTR { return curves[c](v); };
+  const Curve curves[] = {Curve(record, 0), Curve(record, 1), Curve(record, 2), Curve(record, kProcessed - 1)};
+  const auto row = [at = &curves[0]](ptrdiff_t n, float* to, const float* from) HWY_ATTR {
+    const auto look = [=](int c, auto v) HWY_ATTR { return at[c](v); };
     MapChannelsOfRow<kChannels, kProcessed>(Floats(), to, n, look, from);
   };
   ForEachPiece(roi, row, dst, src);
 }
 
 template <QvpiLookupMethod kMethod>
+void MapAllBy(const Record& record, const Image<const float>& src, const Image<float>& dst, Size roi) {
+  const FloatCurve<kMethod> curve(record, 0);
+  MapImages(
+      Floats(), [at = &curve](auto v) HWY_ATTR { return (*at)(v); }, roi, dst, src);
+}
+
+template <QvpiLookupMethod kMethod>
 void MapBy(const Record& record, const Image<const float>& src, const Image<float>& dst, Size roi) {
-  if (record.channels == 1) return MapImages(Floats(), FloatCurve<kMethod>(record, 0), roi, dst, src);
+  if (record.channels == 1) return MapAllBy<kMethod>(record, src, dst, roi);
   switch (dst.layout) {
     case Layout::kC3: return MapChannelsBy<kMethod, 3, 3>(record, src, dst, roi);
     case Layout::kAC4: return MapChannelsBy<kMethod, 4, 3>(record, src, dst, roi);

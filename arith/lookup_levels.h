@@ -46,8 +46,8 @@ class FloatCurve {
         last_(Level(levels_ - 1)) {
     if (levels_ > kMostCounted) return;
     constexpr Floats d;
-    // What is added to whole groups counts for no value.
-    for (int k = 1; k <= kMostCounted; ++k) {
+    // What fills up the last group counts for no value.
+    for (int k = 1; k < levels_ + kGroup; ++k) {
       hn::Store(hn::Set(d, k < levels_ ? Level(k) : __builtin_nanf("")), d, spread_[k - 1]);
     }
   }
@@ -123,7 +123,7 @@ class FloatCurve {
   int32_t levels_;
   Index index_;
   float first_, last_;
-  HWY_ALIGN float spread_[kMostCounted][hn::MaxLanes(Floats())];  // levels from the second on, in all lanes
+  HWY_ALIGN float spread_[kMostCounted + kGroup][hn::MaxLanes(Floats())];  // levels from the second on, in all lanes
 };
 
 }  // namespace qvp::lookup

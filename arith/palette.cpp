@@ -4,6 +4,8 @@
 #include "arith/table_rows.h"
 #include "base/check.h"
 #include "base/export.h"
+#include "base/gather.h"
+#include "base/pack.h"
 #include "base/rows.h"
 #include "base/scalar.h"
 
@@ -27,8 +29,8 @@ void MoveEntries(const uint8_t* palette, int nBits, const Image<const S>& src, c
   });
 }
 
-// The entries of all bytes, in places as large as a word where that is not the size of an entry. A store of a word then
-// reaches into the next pixel, which is stored later; the last one of a row has only its own bytes.
+// The entries of all bytes, each in a word, so that pixels are loaded and stored as words. What a word has beyond its
+// entry reaches into the next pixel, which is stored later; the last pixels of a row have only their own bytes.
 template <int kBytes>
 class Words {
  public:
@@ -36,14 +38,38 @@ class Words {
     const int mask = (1 << nBits) - 1;
     for (int i = 0; i < 256; ++i) std::memcpy(words_[i], palette + (i & mask) * kBytes, kBytes);
   }
-  void MoveRow(ptrdiff_t n, const uint8_t* from, uint8_t* to) const {
-    ForEachOf(n - 1, [=, this](ptrdiff_t i) HWY_ATTR { std::memcpy(to + i * kBytes, words_[from[i]], kWord); });
-    std::memcpy(to + (n - 1) * kBytes, words_[from[n - 1]], kBytes);
+  HWY_INLINE void MoveRow(ptrdiff_t n, const uint8_t* from, uint8_t* to) const {
+    ptrdiff_t i = 0;
+    for (; i + kReached <= n; i += kAtOnce) Move(from + i, to + i * kBytes);
+    for (; i < n; ++i) std::memcpy(to + i * kBytes, words_[from[i]], kBytes);
   }
 
  private:
   static constexpr int kWord = kBytes <= 4 ? 4 : kBytes <= 8 ? 8 : 16;
-  alignas(16) uint8_t words_[256][kWord];
+  static constexpr int kAtOnce = kBytes == 2 ? 8 : 4;
+  static constexpr int kStored = kWord == 4 ? kBlockBytes : 3 * kBytes + kWord;  // bytes, of so many pixels:
+  static constexpr int kReached = (kStored + kBytes - 1) / kBytes;
+
+  HWY_INLINE auto Four(const uint8_t* from) const {
+    return LoadWords<int32_t>([=, this](int k) HWY_ATTR { return reinterpret_cast<const int32_t*>(words_[from[k]]); });
+  }
+
+  // CPUs store fewer times than they load: several small entries leave together.
+  HWY_INLINE void Move(const uint8_t* from, uint8_t* to) const {
+    const hn::Full128<uint8_t> d;
+    if constexpr (kWord > 4) {
+      for (int k = 0; k < kAtOnce; ++k) std::memcpy(to + k * kBytes, words_[from[k]], kWord);
+    } else if constexpr (kBytes == 2) {
+      hn::StoreU(hn::BitCast(d, Packed(uint16_t(), Four(from), Four(from + 4))), d, to);
+    } else if constexpr (kBytes == 3) {
+      static constexpr uint8_t kTight[kBlockBytes] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14};
+      hn::StoreU(hn::TableLookupBytes(hn::BitCast(d, Four(from)), hn::LoadU(d, kTight)), d, to);
+    } else {
+      hn::StoreU(hn::BitCast(d, Four(from)), d, to);
+    }
+  }
+
+  alignas(16) uint8_t words_[256][kWord] = {};
 };
 
 template <int kBytes>
@@ -69,12 +95,12 @@ QvpStatus Paint(const Image<const S>& src, const Image<T>& dst, Size roi, const 
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {palette})) return failed;
   if (nBits < 1 || nBits > 8 * int{sizeof(S)}) return qvpStatusOutOfRange;
   constexpr int kBytes = kChannels * sizeof(T);
-  constexpr bool isByteIndex = sizeof(S) == 1, isWord = (kBytes & (kBytes - 1)) == 0;
+  constexpr bool isByteIndex = sizeof(S) == 1, hasWords = isByteIndex && kBytes != 8 && kBytes != 16;
   const auto* const entries = reinterpret_cast<const uint8_t*>(palette);
   if constexpr (isByteIndex && kBytes == 1) {
     MoveBytes(entries, nBits, src, dst, roi);
-  } else if (isByteIndex && !isWord && IsWorthCopying(roi)) {
-    if constexpr (isByteIndex && !isWord) MoveWords<kBytes>(entries, nBits, src, AsBytes(dst), roi);
+  } else if (hasWords && IsWorthCopying(roi)) {
+    if constexpr (hasWords) MoveWords<kBytes>(entries, nBits, src, AsBytes(dst), roi);
   } else {
     MoveEntries<kBytes>(entries, nBits, src, AsBytes(dst), roi);
   }

@@ -19,43 +19,47 @@ bool AreOne(const Tables<T>& tables, Layout layout) {
   return true;
 }
 
-// A table for each channel, in vectors.
+// One element after the other: rows that are too short for vectors, and tables that have no room in registers.
+template <int kChannels, int kProcessed, class T>
+HWY_INLINE void MapElements(const std::array<const T*, 4>& of, ptrdiff_t n, T* to, const T* from) {
+  ForEachOf(n / kChannels, [=](ptrdiff_t i) HWY_ATTR {
+    for (int c = 0; c < kProcessed; ++c) {
+      StoreScalar(to + kChannels * i + c, LoadScalar(of[c] + LoadScalar(from + kChannels * i + c)));
+    }
+  });
+}
+
 template <int kChannels, int kProcessed>
 void MapChannelsThrough(const Tables<uint8_t>& tables, const Image<const uint8_t>& src, const Image<uint8_t>& dst,
                         Size roi) {
-  struct {
-    ByteTable table[4];
-  } const prepared = {
-      {ByteTable(tables[0]), ByteTable(tables[1]), ByteTable(tables[2]), ByteTable(tables[kProcessed - 1])}};
-  const auto row = [prepared](ptrdiff_t n, uint8_t* to, const uint8_t* from) HWY_ATTR {
-    const auto look = [&](int c, auto v) HWY_ATTR { return prepared.table[c](v); };
-    MapChannelsOfRow<kChannels, kProcessed>(hn::ScalableTag<uint8_t>(), to, n, look, from);
+  using D = hn::ScalableTag<uint8_t>;
+  const std::array<const uint8_t*, 4> of = {tables[0], tables[1], tables[2], tables[kProcessed - 1]};
+  const std::array<ByteTable, 4> prepared = {ByteTable(of[0]), ByteTable(of[1]), ByteTable(of[2]), ByteTable(of[3])};
+  const auto row = [of, prepared](ptrdiff_t n, uint8_t* to, const uint8_t* from) HWY_ATTR {
+    if (n < ptrdiff_t{hn::MaxLanes(D())} * kChannels) return MapElements<kChannels, kProcessed>(of, n, to, from);
+    const auto look = [&](int c, auto v) HWY_ATTR { return prepared[c](v); };
+    MapChannelsOfRow<kChannels, kProcessed>(D(), to, n, look, from);
   };
   ForEachPiece(roi, row, dst, src);
 }
 
-// Entries of 16 bits, one after the other: no CPU has room for the table in registers.
 template <int kChannels, int kProcessed>
 void MapChannelsThrough(const Tables<uint16_t>& tables, const Image<const uint16_t>& src, const Image<uint16_t>& dst,
                         Size roi) {
   const std::array<const uint16_t*, 4> of = {tables[0], tables[1], tables[2], tables[3]};
   Rows(src, dst).ForEach(roi, [of](ptrdiff_t width, const uint16_t* from, uint16_t* to) {
-    for (ptrdiff_t i = 0; i < width * kChannels; i += kChannels) {
-      for (int c = 0; c < kProcessed; ++c) StoreScalar(to + i + c, LoadScalar(of[c] + LoadScalar(from + i + c)));
-    }
+    MapElements<kChannels, kProcessed>(of, width * kChannels, to, from);
   });
 }
 
-// Rows that are shorter than a vector go by elements.
+// One table for all channels.
 template <bool kKeepAlpha>
 void MapThrough(const uint8_t* table, const Image<const uint8_t>& src, const Image<uint8_t>& dst, Size roi) {
+  using D = hn::ScalableTag<uint8_t>;
   const ByteTable prepared(table);
-  const auto row = [prepared, table](ptrdiff_t n, uint8_t* to, const uint8_t* from) HWY_ATTR {
-    const hn::ScalableTag<uint8_t> d;
-    if (n >= ptrdiff_t{hn::MaxLanes(d)}) return MapRow<kKeepAlpha>(d, to, n, prepared, from);
-    for (ptrdiff_t i = 0; i < n; ++i) {
-      if (!kKeepAlpha || i % 4 != 3) to[i] = table[from[i]];
-    }
+  const auto row = [table, prepared](ptrdiff_t n, uint8_t* to, const uint8_t* from) HWY_ATTR {
+    if (n >= ptrdiff_t{hn::MaxLanes(D())}) return MapRow<kKeepAlpha>(D(), to, n, prepared, from);
+    MapElements<kKeepAlpha ? 4 : 1, kKeepAlpha ? 3 : 1, uint8_t>({table, table, table, table}, n, to, from);
   };
   ForEachPiece(roi, row, dst, src);
 }
@@ -64,12 +68,13 @@ void MapThrough(const uint8_t* table, const Image<const uint8_t>& src, const Ima
 }
 
 void MapThrough(const uint16_t* table, const Image<const uint16_t>& src, const Image<uint16_t>& dst, Size roi) {
-  if (KeepsAlpha(dst.layout)) return MapChannelsThrough<4, 3>({table, table, table, table}, src, dst, roi);
-  const int channels = Channels(dst.layout);
-  Rows(src, dst).ForEach(roi, [=](ptrdiff_t width, const uint16_t* from, uint16_t* to) {
-    ForEachOf(width * channels,
-              [=](ptrdiff_t i) HWY_ATTR { StoreScalar(to + i, LoadScalar(table + LoadScalar(from + i))); });
-  });
+  const Tables<uint16_t> tables = {table, table, table, table};
+  switch (dst.layout) {
+    case Layout::kC1: return MapChannelsThrough<1, 1>(tables, src, dst, roi);
+    case Layout::kC3: return MapChannelsThrough<3, 3>(tables, src, dst, roi);
+    case Layout::kAC4: return MapChannelsThrough<4, 3>(tables, src, dst, roi);
+    default: return MapChannelsThrough<4, 4>(tables, src, dst, roi);
+  }
 }
 
 template <class T>

@@ -22,6 +22,20 @@ void ShiftPlainly(const Image<uint16_t>& src, const Image<uint16_t>& dst, int fi
   }
 }
 
+// What a call and a row cost: images of one pixel, of one column, and small ones whose rows do not join.
+void Overhead() {
+  for (const QvpiSize size : {QvpiSize{1, 1}, {1, 64}, {16, 16}}) {
+    const QvpiSize wider{size.width + 1, size.height};
+    const Image<uint8_t> a(wider, 1), b(wider, 1), dst(wider, 1);
+    const cv::Mat first = a.mat.colRange(0, size.width), second = b.mat.colRange(0, size.width);
+    Add({Name("and 8u C1, rows apart", size),
+         {a.bytes() + b.bytes(), dst.bytes()},
+         [=] { Require(qvpiAnd_8u_C1R(a.data(), a.step, b.data(), b.step, dst.data(), dst.step, size)); },
+         {{"OpenCV bitwise_and",
+           [=, to = dst.mat.colRange(0, size.width)]() mutable { cv::bitwise_and(first, second, to); }}}});
+  }
+}
+
 void Logic() {
   for (const QvpiSize size : kSizes) {
     const bool isTile = size.width == kTile.width, isLarge = size.width == kLarge.width;
@@ -78,6 +92,7 @@ void Shifts() {
 }
 
 const bool kRegistered = [] {
+  Overhead();
   Logic();
   Shifts();
   return true;

@@ -140,15 +140,23 @@ void Palettes(QvpiSize size) {
                                 nullptr);
 }
 
-// Of one pixel, and of a row.
+// What a call and a row cost: images of one pixel, of one column, and small ones whose rows do not join.
 void Overhead() {
   for (const QvpiSize size : {QvpiSize{1, 1}, {1, 64}, {16, 16}}) {
+    const QvpiSize wider{size.width + 1, size.height};
     const auto table = Entries<uint8_t>(256);
-    const Image<uint8_t> a({size.width + 1, size.height}, 1), b({size.width + 1, size.height}, 1);
+    const Image<uint8_t> a(wider, 1), b(wider, 1);
+    const cv::Mat from = a.mat.colRange(0, size.width);
     Add({Name("table 8u C1, rows apart", size),
          {a.bytes(), b.bytes()},
          [=] { Require(qvpiLookupTable_8u_C1R(a.data(), a.step, b.data(), b.step, size, table.data())); },
-         {{"OpenCV LUT", [=] { cv::LUT(a.mat, table.mat, b.mat); }}}});
+         {{"OpenCV LUT", [=, to = b.mat.colRange(0, size.width)]() mutable { cv::LUT(from, table.mat, to); }}}});
+    const auto curve = std::make_shared<Curve>(16, qvpLookupLinear);
+    const Image<float> c(wider, 1), d(wider, 1);
+    std::fill_n(c.data(), c.bytes() / sizeof(float), 100.0f);
+    Add({Name("look-up 32f C1, linear, 16 levels, rows apart", size), {c.bytes(), d.bytes()}, [=] {
+           Require(qvpiLookup_32f_C1R(c.data(), c.step, d.data(), d.step, size, curve->spec()));
+         }});
   }
 }
 
