@@ -11,11 +11,11 @@ using test::Name;
 using Values = std::array<uint32_t, 4>;
 
 // What an operation, by its name without the C of a constant, makes of an element: floor of a quotient to the right,
-// modulo 2^bits to the left. Of 33 bits on, all counts are the same.
+// modulo 2^bits to the left. From 32 on, all counts are the same.
 template <class T>
 T Expected(std::string_view operation, T a, T b, uint32_t count) {
   const auto u = static_cast<int64_t>(a), v = static_cast<int64_t>(b);
-  const int bits = static_cast<int>(std::min(count, 33u));
+  const int bits = static_cast<int>(std::min(count, 32u));
   if (operation == "And") return static_cast<T>(u & v);
   if (operation == "Or") return static_cast<T>(u | v);
   if (operation == "Xor") return static_cast<T>(u ^ v);
