@@ -47,6 +47,12 @@ HWY_INLINE void StoreLanes(D d, const V (&v)[kCount], R* to) {
   }
 }
 
+// For templates, which do not convert.
+template <class T>
+HWY_INLINE const T* Const(const T* p) {
+  return p;
+}
+
 // Two rows of results of a kind at a time, from rows of pixels that are taken as they are.
 template <class T, class R, class Kind>
 class FixedKernel {
@@ -66,17 +72,17 @@ class FixedKernel {
     constexpr bool kIsEvenOdd = sizeof(T) == 1 && kCount == 2;
     hn::Vec<D> above[kCount], below[kCount];
     Unrolled<kCount>([&](auto v) QVP_INLINED {
-      typename Kind::template Part<D> parts[kLines];
+      Parts<D, Kind::kParts> rows[kLines];
       Unrolled<kLines>([&](auto j) QVP_INLINED {
         const T* first = lines[j] + at + (kIsEvenOdd ? 0 : v * kLanes);
         if constexpr (kIsEvenOdd) first = Unknown(first);  // all sums of the even places come before those of the odd
-        parts[j] = Kind::RowOf(d, [&](int k) QVP_INLINED {
+        rows[j] = Kind::RowOf(d, [&](int k) QVP_INLINED {
           if constexpr (kIsEvenOdd) return EveryOther<v>(first + k * channels_);
           if constexpr (!kIsEvenOdd) return LoadWide(d, first + k * channels_);
         });
       });
-      above[v] = Kind::Result(d, static_cast<const typename Kind::template Part<D>*>(parts));
-      below[v] = Kind::Result(d, static_cast<const typename Kind::template Part<D>*>(parts + 1));
+      above[v] = Kind::Result(d, Const(rows));
+      below[v] = Kind::Result(d, Const(rows + 1));
     });
     if constexpr (kIsEvenOdd) {
       StoreEvenOdd(d, below[0], below[1], lower);
@@ -98,6 +104,58 @@ class FixedKernel {
   }
 
   ptrdiff_t channels_;
+};
+
+// The same from lines of parts: a line has all first parts, then all second ones.
+template <class T, class R, class Kind>
+class FixedKernelOfParts {
+ public:
+  using Element = FixedLane<T>;
+  using D = hn::ScalableTag<Element>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  static constexpr int kLines = Kind::kHeight + 1, kVectors = sizeof(R) < sizeof(Element) ? 2 : 1;
+
+  // The context is the number of channels. Rows that are shorter than a vector are in the lines' room, in order, so
+  // that what is behind the first parts is overwritten by the second ones.
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const D d;
+    const ptrdiff_t channels = *static_cast<const int*>(context);
+    const auto* const from = static_cast<const T*>(source);
+    auto* const to = static_cast<Element*>(line);
+    ForEachVector<kLanes>(std::max(samples, kLanes), [&](ptrdiff_t i) HWY_ATTR {
+      const auto parts = Kind::RowOf(d, [&](int k) QVP_INLINED { return LoadWide(d, from + i + k * channels); });
+      for (int p = 0; p < Kind::kParts; ++p) hn::StoreU(parts[p], d, to + p * samples + i);
+    });
+  }
+
+  static void Down(const void*, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto from = LinesOf<Element, kLines>(lines);
+    FilterRows(FixedKernelOfParts(samples), from.data(), samples, reinterpret_cast<R*>(rows.upper[0]),
+               reinterpret_cast<R*>(rows.lower[0]));
+  }
+
+  template <int kCount>
+  HWY_INLINE void Run(const Element* const* lines, ptrdiff_t at, R* upper, R* lower) const {
+    const D d;
+    hn::Vec<D> above[kCount], below[kCount];
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
+      Parts<D, Kind::kParts> rows[kLines];
+      Unrolled<kLines>([&](auto j) QVP_INLINED {
+        for (int p = 0; p < Kind::kParts; ++p) {
+          rows[j][p] = hn::LoadU(d, lines[j] + p * samples_ + at + v * kLanes);
+        }
+      });
+      above[v] = Kind::Result(d, Const(rows));
+      below[v] = Kind::Result(d, Const(rows + 1));
+    });
+    StoreLanes<kCount>(d, below, lower);
+    StoreLanes<kCount>(d, above, upper);
+  }
+
+ private:
+  explicit FixedKernelOfParts(ptrdiff_t samples) : samples_(samples) {}
+
+  ptrdiff_t samples_;
 };
 
 // What the functions of fixed kernels take.
@@ -141,10 +199,17 @@ QvpStatus CheckFixed(const FixedCall<T, R>& call) {
 template <class Kind, class T, class R>
 void FilterFixed(const FixedCall<T, R>& call) {
   constexpr Reach kReach{(Kind::kWidth - 1) / 2, (Kind::kHeight - 1) / 2, Kind::kWidth / 2, Kind::kHeight / 2};
-  const FixedKernel<T, R, Kind> kernel(Channels(call.src.layout));
+  const int channels = Channels(call.src.layout);
   auto windows = WindowsOn(call.src, call.roi, call.border, call.value, kReach, call.buffer);
   windows.outputs[0] = AsBytes(call.dst);
-  FilterWindows(windows, {&kernel, nullptr, DownBy<FixedKernel<T, R, Kind>>, sizeof(T), 2});
+  if constexpr (kKeepsParts<Kind>) {
+    using Kernel = FixedKernelOfParts<T, R, Kind>;
+    constexpr int kBytes = Kind::kParts * sizeof(typename Kernel::Element);
+    FilterWindows(windows, {&channels, Kernel::Across, Kernel::Down, kBytes, 2});
+  } else {
+    const FixedKernel<T, R, Kind> kernel(channels);
+    FilterWindows(windows, {&kernel, nullptr, DownBy<FixedKernel<T, R, Kind>>, sizeof(T), 2});
+  }
 }
 
 // The kinds are those of the masks that the function knows.

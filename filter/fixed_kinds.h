@@ -1,8 +1,9 @@
 // The fixed kernels as sums along the two axes: what each makes of the pixels of one row, and of its rows.
 //
-// A kind has a width and a height, RowOf(d, pixel), which makes a part of the pixels pixel(0), pixel(1)... of one row,
-// and Result(d, parts), which makes the result of the parts of its rows. Parts serve every result that reads their row.
-// Integers are exact. Floats are added in the order that is written here, along rows first.
+// A kind has a width and a height, RowOf(d, pixel), which makes the parts, one vector or two, of the pixels pixel(0),
+// pixel(1)... of one row, and Result(d, rows), which makes the result of the parts of its rows. Parts serve every
+// result that reads their row. Integers are exact. Floats are added in the order that is written here, along rows
+// first.
 #pragma once
 
 #include <array>
@@ -10,6 +11,9 @@
 #include "base/lanes.h"
 
 namespace qvp::filter {
+
+template <class D, int kCount>
+using Parts = std::array<hn::Vec<D>, kCount>;
 
 // Coefficients along one axis, symmetric or antisymmetric.
 template <int... kTaps>
@@ -61,41 +65,31 @@ HWY_INLINE auto TreeSum(const Value& value) {
 // A kernel that is the product of a column and a row.
 template <class Across, class Down>
 struct Product {
-  static constexpr int kWidth = Across::kCount, kHeight = Down::kCount;
-  template <class D>
-  using Part = hn::Vec<D>;
+  static constexpr int kWidth = Across::kCount, kHeight = Down::kCount, kParts = 1;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D d, const Pixel& pixel) {
-    return SumAlong<Across>(d, pixel);
+  static HWY_INLINE Parts<D, 1> RowOf(D d, const Pixel& pixel) {
+    return {SumAlong<Across>(d, pixel)};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const Part<D>* parts) {
-    return SumAlong<Down>(d, [&](int j) HWY_ATTR { return parts[j]; });
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 1>* rows) {
+    return SumAlong<Down>(d, [&](int j) HWY_ATTR { return rows[j][0]; });
   }
 };
 
 // Two such kernels, added.
-template <class First, class Second>
-struct SumOfTwo {
-  static constexpr int kWidth = First::kWidth, kHeight = First::kHeight;
-  template <class D>
-  struct Part {
-    hn::Vec<D> first, second;
-  };
+template <class Across1, class Down1, class Across2, class Down2>
+struct SumOfProducts {
+  static constexpr int kWidth = Across1::kCount, kHeight = Down1::kCount, kParts = 2;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D d, const Pixel& pixel) {
-    return {First::RowOf(d, pixel), Second::RowOf(d, pixel)};
+  static HWY_INLINE Parts<D, 2> RowOf(D d, const Pixel& pixel) {
+    return {SumAlong<Across1>(d, pixel), SumAlong<Across2>(d, pixel)};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const Part<D>* parts) {
-    hn::Vec<D> first[kHeight], second[kHeight];
-    for (int j = 0; j < kHeight; ++j) {
-      first[j] = parts[j].first;
-      second[j] = parts[j].second;
-    }
-    return hn::Add(First::Result(d, first), Second::Result(d, second));
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 2>* rows) {
+    return hn::Add(SumAlong<Down1>(d, [&](int j) HWY_ATTR { return rows[j][0]; }),
+                   SumAlong<Down2>(d, [&](int j) HWY_ATTR { return rows[j][1]; }));
   }
 };
 
@@ -126,63 +120,50 @@ using PrewittX3 = Product<Slope3, Ones3>;
 using PrewittX5 = Product<Line5, Ones5>;
 using PrewittY3 = Product<Ones3, Slope3>;
 using PrewittY5 = Product<Ones5, Line5>;
-using Laplace5 = SumOfTwo<SobelXX5, SobelYY5>;
+using Laplace5 = SumOfProducts<Bend5, Smooth5, Smooth5, Bend5>;
 
-// The four neighbours minus 4 times the pixel.
+// The four neighbours minus 4 times the pixel. Parts: the pixel, and the sum of those beside it.
 struct Laplace3 {
-  static constexpr int kWidth = 3, kHeight = 3;
-  template <class D>
-  struct Part {
-    hn::Vec<D> pixel, sides;
-  };
+  static constexpr int kWidth = 3, kHeight = 3, kParts = 2;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D, const Pixel& pixel) {
+  static HWY_INLINE Parts<D, 2> RowOf(D, const Pixel& pixel) {
     return {pixel(1), hn::Add(pixel(0), pixel(2))};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const Part<D>* parts) {
-    const auto neighbours = hn::Add(parts[1].sides, hn::Add(parts[0].pixel, parts[2].pixel));
-    return hn::Add(Times<-4>(d, parts[1].pixel), neighbours);
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 2>* rows) {
+    return hn::Add(Times<-4>(d, rows[1][0]), hn::Add(rows[1][1], hn::Add(rows[0][0], rows[2][0])));
   }
 };
 
-// The pixel times their number minus all of the mask.
+// The pixel times their number minus all of the mask. Parts: the pixel, and the sum of its row.
 template <int kSide>
 struct HighPass {
-  static constexpr int kWidth = kSide, kHeight = kSide;
-  template <class D>
-  struct Part {
-    hn::Vec<D> pixel, sum;
-  };
+  static constexpr int kWidth = kSide, kHeight = kSide, kParts = 2;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D, const Pixel& pixel) {
+  static HWY_INLINE Parts<D, 2> RowOf(D, const Pixel& pixel) {
     return {pixel(kSide / 2), TreeSum<kSide>(pixel)};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const Part<D>* parts) {
-    const auto sum = TreeSum<kSide>([&](int j) HWY_ATTR { return parts[j].sum; });
-    return hn::Sub(Times<kSide * kSide>(d, parts[kSide / 2].pixel), sum);
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 2>* rows) {
+    const auto sum = TreeSum<kSide>([&](int j) HWY_ATTR { return rows[j][1]; });
+    return hn::Sub(Times<kSide * kSide>(d, rows[kSide / 2][0]), sum);
   }
 };
 
-// The differences along the diagonals of 2 x 2 pixels.
+// The differences along the diagonals of 2 x 2 pixels. Parts: both pixels.
 template <bool kIsDown>
 struct Roberts {
-  static constexpr int kWidth = 2, kHeight = 2;
-  template <class D>
-  struct Part {
-    hn::Vec<D> left, right;
-  };
+  static constexpr int kWidth = 2, kHeight = 2, kParts = 2;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D, const Pixel& pixel) {
+  static HWY_INLINE Parts<D, 2> RowOf(D, const Pixel& pixel) {
     return {pixel(0), pixel(1)};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D, const Part<D>* parts) {
-    return kIsDown ? hn::Sub(parts[1].right, parts[0].left) : hn::Sub(parts[0].right, parts[1].left);
+  static HWY_INLINE hn::Vec<D> Result(D, const Parts<D, 2>* rows) {
+    return kIsDown ? hn::Sub(rows[1][1], rows[0][0]) : hn::Sub(rows[0][1], rows[1][0]);
   }
 };
 
@@ -206,32 +187,37 @@ struct Binomial : Product<Taps, Taps> {
   static constexpr int kBits = Taps::kCount == 3 ? 4 : 8;
 
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const hn::Vec<D>* parts) {
-    return DividedBy<kBits>(d, Product<Taps, Taps>::Result(d, parts));
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 1>* rows) {
+    return DividedBy<kBits>(d, Product<Taps, Taps>::Result(d, rows));
   }
 };
 
 // Twice the pixel minus what smoothing makes of it. The rounded quotient serves here too: 2 p is even, so that ties go
-// to even either way.
+// to even either way. Parts: that of smoothing, and the pixel.
 template <class Taps>
 struct Sharpen {
   using Smooth = Binomial<Taps>;
-  static constexpr int kWidth = Taps::kCount, kHeight = Taps::kCount;
-  template <class D>
-  struct Part {
-    hn::Vec<D> pixel, smooth;
-  };
+  static constexpr int kWidth = Taps::kCount, kHeight = Taps::kCount, kParts = 2;
 
   template <class D, class Pixel>
-  static HWY_INLINE Part<D> RowOf(D d, const Pixel& pixel) {
-    return {pixel(kWidth / 2), Smooth::RowOf(d, pixel)};
+  static HWY_INLINE Parts<D, 2> RowOf(D d, const Pixel& pixel) {
+    return {Smooth::RowOf(d, pixel)[0], pixel(kWidth / 2)};
   }
   template <class D>
-  static HWY_INLINE hn::Vec<D> Result(D d, const Part<D>* parts) {
-    hn::Vec<D> smooth[kHeight];
-    for (int j = 0; j < kHeight; ++j) smooth[j] = parts[j].smooth;
-    return hn::Sub(Times<2>(d, parts[kHeight / 2].pixel), Smooth::Result(d, smooth));
+  static HWY_INLINE hn::Vec<D> Result(D d, const Parts<D, 2>* rows) {
+    Parts<D, 1> smooth[kHeight];
+    for (int j = 0; j < kHeight; ++j) smooth[j][0] = rows[j][0];
+    return hn::Sub(Times<2>(d, rows[kHeight / 2][1]), Smooth::Result(d, smooth));
   }
 };
+
+// Whether the parts of rows are worth keeping: else they are made again for every two rows of results, which saves
+// stores and loads.
+template <class Kind>
+inline constexpr bool kKeepsParts = Kind::kHeight == 5;
+template <class Taps>
+inline constexpr bool kKeepsParts<Binomial<Taps>> = true;
+template <class Taps>
+inline constexpr bool kKeepsParts<Sharpen<Taps>> = true;
 
 }  // namespace qvp::filter

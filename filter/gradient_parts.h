@@ -86,7 +86,7 @@ struct PixelGradients {
 
   HWY_INLINE void Make(const T* const* lines, ptrdiff_t, ptrdiff_t at, GradientVector<D> (&rows)[2]) const {
     const D d;
-    hn::Vec<D> x[kHeight + 1], y[kHeight + 1];
+    Parts<D, 1> x[kHeight + 1], y[kHeight + 1];
     Unrolled<kHeight + 1>([&](auto j) QVP_INLINED {
       const T* const first = lines[j] + at;
       const auto pixel = [&](int k) QVP_INLINED { return LoadWide(d, first + k); };
@@ -94,8 +94,7 @@ struct PixelGradients {
       y[j] = KindY::RowOf(d, pixel);
     });
     Unrolled<2>([&](auto row) QVP_INLINED {
-      rows[row] = {KindX::Result(d, static_cast<const hn::Vec<D>*>(x + row)),
-                   KindY::Result(d, static_cast<const hn::Vec<D>*>(y + row))};
+      rows[row] = {KindX::Result(d, Const(x + row)), KindY::Result(d, Const(y + row))};
     });
   }
   QvpNormType norm;
@@ -125,8 +124,8 @@ struct LargestGradients {
       });
       for (int c = 0; c < kChannels; ++c) {
         const auto pixel = [&](int k) QVP_INLINED { return pixels[c][k]; };
-        hn::StoreU(KindX::RowOf(d, pixel), d, to + c * step);
-        hn::StoreU(KindY::RowOf(d, pixel), d, to + (kChannels + c) * step);
+        hn::StoreU(KindX::RowOf(d, pixel)[0], d, to + c * step);
+        hn::StoreU(KindY::RowOf(d, pixel)[0], d, to + (kChannels + c) * step);
       }
     };
     const auto* const from = static_cast<const T*>(source);
@@ -160,12 +159,12 @@ struct LargestGradients {
 
   static HWY_INLINE GradientVector<D> OfChannel(const Element* const* lines, ptrdiff_t at, ptrdiff_t n, int c) {
     const D d;
-    hn::Vec<D> x[kHeight], y[kHeight];
+    Parts<D, 1> x[kHeight], y[kHeight];
     for (int j = 0; j < kHeight; ++j) {
-      x[j] = hn::LoadU(d, lines[j] + at + c * n);
-      y[j] = hn::LoadU(d, lines[j] + at + (kChannels + c) * n);
+      x[j][0] = hn::LoadU(d, lines[j] + at + c * n);
+      y[j][0] = hn::LoadU(d, lines[j] + at + (kChannels + c) * n);
     }
-    return {KindX::Result(d, static_cast<const hn::Vec<D>*>(x)), KindY::Result(d, static_cast<const hn::Vec<D>*>(y))};
+    return {KindX::Result(d, Const(x)), KindY::Result(d, Const(y))};
   }
 
   HWY_INLINE void KeepLarger(const GradientVector<D>& other, GradientVector<D>& largest) const {

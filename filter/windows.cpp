@@ -23,13 +23,16 @@ class Block {
   Block(const Windows<T>& windows, const WindowKernel& kernel, Extent columns)
       : windows_(windows),
         kernel_(kernel),
-        first_(columns.begin),
-        pixels_(columns.end - columns.begin),
-        samples_(pixels_ * windows.src.channels()),
+        samples_((columns.end - columns.begin) * windows.src.channels()),
         lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
         next_(-windows.reach.above),
         source_(windows.src, {columns.begin - windows.reach.left, columns.end + windows.reach.right},
-                samples_ >= kFewestInPlace) {}
+                samples_ >= kFewestInPlace) {
+    for (int i = 0; i < kMostOutputs; ++i) {
+      const Bytes& output = windows.outputs[i];
+      at_[i] = output.data ? output.data + columns.begin * output.PixelBytes() : nullptr;
+    }
+  }
 
   int64_t WorkBytes() const {
     const int64_t lines = (kernel_.across ? SourceBytes() : 0) + lines_ * WindowLineBytes();
@@ -60,19 +63,15 @@ class Block {
   // The rows of results from y on, after those above.
   void Filter(ptrdiff_t y) {
     if (y > 0) Advance();
-    const ptrdiff_t next = std::min(y + kernel_.rowsAtOnce, windows_.roi.height) - 1;
-    ResultRows rows;
-    for (int i = 0; i < kMostOutputs; ++i) {
-      rows.upper[i] = At(windows_.outputs[i], y);
-      rows.lower[i] = At(windows_.outputs[i], next);
-    }
+    const bool isSingle = y + kernel_.rowsAtOnce > windows_.roi.height || kernel_.rowsAtOnce == 1;
+    const ResultRows rows = NextRows(isSingle);
     if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, pointers_, samples_, rows);
     ResultRows kept{};
     kept.upper[0] = kept_[0];
-    kept.lower[0] = next == y ? kept_[0] : kept_[1];
+    kept.lower[0] = isSingle ? kept_[0] : kept_[1];
     kernel_.down(kernel_.context, pointers_, samples_, kept);
     PutColours(kept_[0], rows.upper[0]);
-    if (next != y) PutColours(kept_[1], rows.lower[0]);
+    if (!isSingle) PutColours(kept_[1], rows.lower[0]);
   }
 
  private:
@@ -91,8 +90,17 @@ class Block {
     return KeepsAlpha(output.layout) ? LineBytes(samples_, output.elementBytes).value() : 0;
   }
 
-  uint8_t* At(const Bytes& output, ptrdiff_t y) const {
-    return output.data ? output.Row(y) + first_ * output.PixelBytes() : nullptr;
+  // Where the next results go, one row or two. Outputs that are not wanted are null.
+  ResultRows NextRows(bool isSingle) {
+    ResultRows rows{};
+    for (int i = 0; i < kMostOutputs; ++i) {
+      if (!at_[i]) continue;
+      const ptrdiff_t step = windows_.outputs[i].step;
+      rows.upper[i] = at_[i];
+      rows.lower[i] = isSingle ? at_[i] : at_[i] + step;
+      at_[i] += kernel_.rowsAtOnce * step;
+    }
+    return rows;
   }
 
   void PutColours(const uint8_t* from, uint8_t* to) const {
@@ -128,7 +136,7 @@ class Block {
 
   const Windows<T>& windows_;
   const WindowKernel& kernel_;
-  ptrdiff_t first_, pixels_, samples_;
+  ptrdiff_t samples_;
   int64_t lines_;
   ptrdiff_t next_;  // row of the next line
   BorderRows<SingleRows<T, T>, T> source_;
@@ -137,6 +145,7 @@ class Block {
   uint8_t* room_ = nullptr;  // for the next line
   T* stage_ = nullptr;       // where a line of the source is made for `across`
   uint8_t* kept_[2] = {};
+  std::array<uint8_t*, kMostOutputs> at_;  // the next rows of results
 };
 
 int64_t MaskWidth(const Reach& reach) { return reach.left + reach.right + 1; }
