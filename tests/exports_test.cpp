@@ -26,15 +26,6 @@ bool IsPointer(const test::Parameter& parameter) {
   return parameter.type.ends_with("*") || parameter.type.ends_with("]");
 }
 
-// No border kind that resizing knows takes a value, so that its border value is not looked at; Fourier transforms need
-// no memory for their initialisation; each output of gradients may be left out.
-bool MayBeNull(const Export& function, const test::Parameter& parameter) {
-  if (function.name.starts_with("qvpiFilterGradient")) {
-    return !parameter.type.starts_with("const") && parameter.name != "pBuffer";
-  }
-  return parameter.name == "pBorderValue" || parameter.name == "pMemInit";
-}
-
 // Whether a refused call has left its outputs as they were. An Init takes the identification, a word, of the record
 // away.
 bool IsUntouched(const Scene& scene, const std::vector<uint8_t>& before) {
@@ -52,7 +43,7 @@ TEST(EveryFunction, RefusesEachNullPointerAndWritesNothing) {
   for (const Export& function : Exports()) {
     const int border = function.Find("borderType");
     for (size_t i = 0; i < function.parameters.size(); ++i) {
-      if (!IsPointer(function.parameters[i]) || MayBeNull(function, function.parameters[i])) continue;
+      if (!IsPointer(function.parameters[i]) || function.MayBeNull(i)) continue;
       Scene scene(function, kRoi, 1);
       const std::vector<uint8_t> before = scene.Outputs();
       scene.arguments[i].pointer = nullptr;

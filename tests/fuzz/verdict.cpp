@@ -35,7 +35,9 @@ QvpStatus Trial::Call(const test::Call* calls) const {
 bool Trial::MustBeRefused() const {
   const int region = function_.Find("roiSize");
   bool isRefused = region >= 0 && (int64_t{arguments_[region].number} < 1 || int64_t{arguments_[region].second} < 1);
-  for (size_t i = 0; i < arguments_.size(); ++i) isRefused |= IsImage(function_, i) && !arguments_[i].pointer;
+  for (size_t i = 0; i < arguments_.size(); ++i) {
+    isRefused |= IsImage(function_, i) && !arguments_[i].pointer && !function_.MayBeNull(i);
+  }
   return isRefused;
 }
 

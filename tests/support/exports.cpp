@@ -127,6 +127,16 @@ int Export::Find(std::string_view parameter) const {
   return found == parameters.end() ? -1 : static_cast<int>(found - parameters.begin());
 }
 
+// No border kind that resizing knows takes a value, so that its border value is not looked at; Fourier transforms need
+// no memory for their initialisation; each output of gradients may be left out.
+bool Export::MayBeNull(size_t place) const {
+  const Parameter& parameter = parameters[place];
+  if (name.starts_with("qvpiFilterGradient")) {
+    return !parameter.type.starts_with("const") && parameter.name != "pBuffer";
+  }
+  return parameter.name == "pBorderValue" || parameter.name == "pMemInit";
+}
+
 QvpStatus Export::operator()(const std::vector<Named>& given) const {
   std::vector<Argument> arguments;
   for (const Parameter& parameter : parameters) {

@@ -73,6 +73,8 @@ struct Export {
   // The place of a parameter by its name, or -1.
   int Find(std::string_view parameter) const;
   bool Has(std::string_view parameter) const { return Find(parameter) >= 0; }
+  // Whether a call succeeds although the pointer at a place is null.
+  bool MayBeNull(size_t place) const;
   // Calls with those of the arguments that the function takes. A step that is not among them is that of its image.
   QvpStatus operator()(const std::vector<Named>& arguments) const;
 };
