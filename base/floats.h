@@ -63,4 +63,27 @@ HWY_INLINE auto RoundToIntInRange(V v) {
 #endif
 }
 
+// Toward zero, of lanes whose integer part is in the range, or whose result is not used.
+template <class V>
+HWY_INLINE auto TruncateInRange(V v) {
+#if HWY_ARCH_X86
+  const hn::RebindToSigned<hn::DFromV<V>> ints;
+  if constexpr (sizeof(v) == 16) {
+    return hn::VFromD<decltype(ints)>{_mm_cvttps_epi32(v.raw)};
+  }
+#if HWY_TARGET <= HWY_AVX2
+  else if constexpr (sizeof(v) == 32) {
+    return hn::VFromD<decltype(ints)>{_mm256_cvttps_epi32(v.raw)};
+  }
+#endif
+#if HWY_TARGET <= HWY_AVX3
+  else {
+    return hn::VFromD<decltype(ints)>{_mm512_cvttps_epi32(v.raw)};
+  }
+#endif
+#else
+  return hn::ConvertTo(hn::RebindToSigned<hn::DFromV<V>>(), v);
+#endif
+}
+
 }  // namespace qvp

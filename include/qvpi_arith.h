@@ -1,5 +1,5 @@
 /** @file qvpi_arith.h
- *  Pixel-wise arithmetic, logic, conversion, threshold and comparison.
+ *  Pixel-wise arithmetic, logic, look-up tables, conversion, threshold, comparison, compositing and color keys.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -2538,6 +2538,322 @@ QvpStatus qvpiCountInRange_8u_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize roiS
 QvpStatus qvpiCountInRange_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, int* pCounts, Qvp32f lowerBound, Qvp32f upperBound);
 QvpStatus qvpiCountInRange_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, int pCounts[3], const Qvp32f lowerBound[3], const Qvp32f upperBound[3]);
 QvpStatus qvpiCountInRange_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, int pCounts[3], const Qvp32f lowerBound[3], const Qvp32f upperBound[3]);
+/** @} */
+
+/** @name Premultiplication
+ *  @{ */
+/** Multiplies colors by the alpha of their pixel: color = color alpha / M, which is what qvpiComposite works on.
+ *
+ *  M, the largest value of the type, stands for an alpha of 1: 255 or 65535. The quotient is rounded to the nearest
+ *  integer; there are no ties. Floats have M = 1, and their product is rounded once. Alpha is copied.
+ *
+ *  AC4 are four values to a pixel, the last one alpha; AP4 are four planes with one step, the last one alpha. All four
+ *  are written. Planes do not overlap each other.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, an array of planes or a plane is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiPremultiply_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_8u_AP4R(const Qvp8u* const pSrc[4], int srcStep, Qvp8u* const pDst[4], int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_8u_AP4IR(Qvp8u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiPremultiply_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Premultiplication undone
+ *  @{ */
+/** Divides premultiplied colors by the alpha of their pixel: color = min(M, color M / alpha); 0 where alpha is 0.
+ *
+ *  M, the largest value of the type, stands for an alpha of 1: 255 or 65535. The quotient is rounded to the nearest
+ *  integer, halves up: 100 of alpha 128 becomes 199, 1 of alpha 2 becomes 128. Colors of 8 bits that were
+ *  premultiplied come back exactly where alpha is 255, and otherwise with an error of about 128 / alpha: 1 for an alpha
+ *  of 128, 2 for 64, 8 for 16.
+ *
+ *  Floats have M = 1: color / alpha, rounded once and not bounded; +0 where alpha is +0 or -0. Alpha is copied.
+ *
+ *  AC4 are four values to a pixel, the last one alpha; AP4 are four planes with one step, the last one alpha. All four
+ *  are written. Planes do not overlap each other.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region in pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, an array of planes or a plane is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiUnpremultiply_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_8u_AP4R(const Qvp8u* const pSrc[4], int srcStep, Qvp8u* const pDst[4], int dstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_8u_AP4IR(Qvp8u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+QvpStatus qvpiUnpremultiply_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Compositing of premultiplied images
+ *  @{ */
+/** Combines two layers whose pixels have an alpha: dst = F1 src1 + F2 src2, with the factors of an operator.
+ *
+ *  M, the largest value of the type, stands for an alpha of 1: 255 or 65535; floats have M = 1. Colors are premultiplied,
+ *  that is times their alpha (qvpiPremultiply), so that alpha is treated like them: each of the four values is
+ *  min(M, (F1 src1 + F2 src2) / M), rounded once to the nearest integer; there are no ties. The factors depend on the
+ *  alphas a and b of both pixels and are told with QvpiCompositeOp. Colors above their alpha, which give light but cover
+ *  less, are valid and saturate: (255, 0, 0, 10) over white is (255, 245, 245, 255).
+ *
+ *  Floats: both products are rounded, then their sum, and nothing is bounded. Where the operator has a factor of M, the
+ *  layer itself is the term, and where it has 0, there is none: qvpCompositeClear gives +0 whatever the layers hold.
+ *
+ *  AC4 are four values to a pixel, the last one alpha; AP4 are four planes with one step, the last one alpha. All four
+ *  are read and written. Planes do not overlap each other. Layers that are not premultiplied: qvpiCompositeStraight.
+ *
+ *  Source: Porter and Duff, "Compositing Digital Images", 1984.
+ *
+ *  @param pSrc1,src1Step first layer
+ *  @param pSrc2,src2Step second layer
+ *  @param pDst,dstStep destination image; it may be either layer
+ *  @param pSrc,srcStep in place: first layer
+ *  @param pSrcDst,srcDstStep in place: second layer and destination
+ *  @param roiSize size of the region in pixels
+ *  @param op operator: any of QvpiCompositeOp
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, an array of planes or a plane is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusAlphaType: `op` is not among the operators
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiComposite_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_8u_AP4R(const Qvp8u* const pSrc1[4], int src1Step, const Qvp8u* const pSrc2[4], int src2Step, Qvp8u* const pDst[4], int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_8u_AP4IR(const Qvp8u* const pSrc[4], int srcStep, Qvp8u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_16u_AP4R(const Qvp16u* const pSrc1[4], int src1Step, const Qvp16u* const pSrc2[4], int src2Step, Qvp16u* const pDst[4], int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_16u_AP4IR(const Qvp16u* const pSrc[4], int srcStep, Qvp16u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiComposite_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+/** @} */
+
+/** @name Compositing of images that are not premultiplied
+ *  @{ */
+/** Combines two layers whose pixels have an alpha and colors that are not times it.
+ *
+ *  M, the largest value of the type, stands for an alpha of 1: 255 or 65535; floats have M = 1. With the alphas a and b
+ *  of both pixels and the factors F1 and F2 of the operator, told with QvpiCompositeOp, the layers have the weights
+ *  w1 = F1 a and w2 = F2 b:
+ *
+ *      alpha = (w1 + w2) / M, to the nearest integer; there are no ties
+ *      color = (w1 src1 + w2 src2) / (w1 + w2), to the nearest integer, halves up
+ *
+ *  All four values are 0 where that alpha is 0. Over an opaque background, which need not be premultiplied, colors are
+ *  the same as those of qvpiComposite with a premultiplied first layer, but rounded once.
+ *
+ *  Floats: weights, alpha = w1 + w2 and color = (w1 src1 + w2 src2) / alpha, each operation rounded, nothing bounded.
+ *  Operators with one layer alone move its colors. All four values are +0 where that alpha is +0 or -0.
+ *
+ *  AC4 are four values to a pixel, the last one alpha; AP4 are four planes with one step, the last one alpha. All four
+ *  are read and written. Planes do not overlap each other.
+ *
+ *  Source: Porter and Duff, "Compositing Digital Images", 1984.
+ *
+ *  @param pSrc1,src1Step first layer
+ *  @param pSrc2,src2Step second layer
+ *  @param pDst,dstStep destination image; it may be either layer
+ *  @param pSrc,srcStep in place: first layer
+ *  @param pSrcDst,srcDstStep in place: second layer and destination
+ *  @param roiSize size of the region in pixels
+ *  @param op operator: any of QvpiCompositeOp
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, an array of planes or a plane is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusAlphaType: `op` is not among the operators
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiCompositeStraight_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_8u_AP4R(const Qvp8u* const pSrc1[4], int src1Step, const Qvp8u* const pSrc2[4], int src2Step, Qvp8u* const pDst[4], int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_8u_AP4IR(const Qvp8u* const pSrc[4], int srcStep, Qvp8u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_16u_AP4R(const Qvp16u* const pSrc1[4], int src1Step, const Qvp16u* const pSrc2[4], int src2Step, Qvp16u* const pDst[4], int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_16u_AP4IR(const Qvp16u* const pSrc[4], int srcStep, Qvp16u* const pSrcDst[4], int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeStraight_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiCompositeOp op);
+/** @} */
+
+/** @name Compositing with constant opacities
+ *  @{ */
+/** Combines two layers that have one opacity each: cross-fades, watermarks.
+ *
+ *  M, the largest value of the type, stands for an opacity of 1: 255 or 65535. With the factors F1 and F2 that the
+ *  operator has for these opacities, told with QvpiCompositeOp, the weights are W1 = alpha1 F1 / M and
+ *  W2 = alpha2 F2 / M, and dst = (W1 src1 + W2 src2) / M, each to the nearest integer; there are no ties. W1 + W2 is M
+ *  at most, so that nothing saturates; the result is less than 1.5 from that with weights that are not rounded. The
+ *  first layer at 40 % over the second: alpha1 = 102, alpha2 = 255, qvpCompositeFirstOver.
+ *
+ *  Floats have M = 1: W = alpha F, dst = src1 W1 + src2 W2, each operation rounded. Where the operator has a factor of 0
+ *  there is no term, so that what that layer holds does not matter.
+ *
+ *  The result is times its opacity W1 + W2, as premultiplied colors are; over an opaque layer that is M. All channels
+ *  are colors; AC4 keeps the alpha of the destination.
+ *
+ *  Source: Porter and Duff, "Compositing Digital Images", 1984.
+ *
+ *  @param pSrc1,src1Step first layer
+ *  @param pSrc2,src2Step second layer
+ *  @param pDst,dstStep destination image; it may be either layer
+ *  @param pSrc,srcStep in place: first layer
+ *  @param pSrcDst,srcDstStep in place: second layer and destination
+ *  @param roiSize size of the region in pixels
+ *  @param alpha1,alpha2 opacities of the layers; floats from 0 to 1
+ *  @param op operator: any of QvpiCompositeOp
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusBadArgument: floats only: not 0 <= alpha <= 1
+ *  - qvpStatusAlphaType: `op` is not among the operators
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiCompositeC_8u_C1R(const Qvp8u* pSrc1, int src1Step, Qvp8u alpha1, const Qvp8u* pSrc2, int src2Step, Qvp8u alpha2, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u alpha1, Qvp8u* pSrcDst, int srcDstStep, Qvp8u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_8u_C3R(const Qvp8u* pSrc1, int src1Step, Qvp8u alpha1, const Qvp8u* pSrc2, int src2Step, Qvp8u alpha2, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u alpha1, Qvp8u* pSrcDst, int srcDstStep, Qvp8u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_8u_AC4R(const Qvp8u* pSrc1, int src1Step, Qvp8u alpha1, const Qvp8u* pSrc2, int src2Step, Qvp8u alpha2, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u alpha1, Qvp8u* pSrcDst, int srcDstStep, Qvp8u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_C1R(const Qvp16u* pSrc1, int src1Step, Qvp16u alpha1, const Qvp16u* pSrc2, int src2Step, Qvp16u alpha2, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u alpha1, Qvp16u* pSrcDst, int srcDstStep, Qvp16u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_C3R(const Qvp16u* pSrc1, int src1Step, Qvp16u alpha1, const Qvp16u* pSrc2, int src2Step, Qvp16u alpha2, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u alpha1, Qvp16u* pSrcDst, int srcDstStep, Qvp16u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_AC4R(const Qvp16u* pSrc1, int src1Step, Qvp16u alpha1, const Qvp16u* pSrc2, int src2Step, Qvp16u alpha2, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u alpha1, Qvp16u* pSrcDst, int srcDstStep, Qvp16u alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_C1R(const Qvp32f* pSrc1, int src1Step, Qvp32f alpha1, const Qvp32f* pSrc2, int src2Step, Qvp32f alpha2, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_C1IR(const Qvp32f* pSrc, int srcStep, Qvp32f alpha1, Qvp32f* pSrcDst, int srcDstStep, Qvp32f alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_C3R(const Qvp32f* pSrc1, int src1Step, Qvp32f alpha1, const Qvp32f* pSrc2, int src2Step, Qvp32f alpha2, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_C3IR(const Qvp32f* pSrc, int srcStep, Qvp32f alpha1, Qvp32f* pSrcDst, int srcDstStep, Qvp32f alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_AC4R(const Qvp32f* pSrc1, int src1Step, Qvp32f alpha1, const Qvp32f* pSrc2, int src2Step, Qvp32f alpha2, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiCompositeOp op);
+QvpStatus qvpiCompositeC_32f_AC4IR(const Qvp32f* pSrc, int srcStep, Qvp32f alpha1, Qvp32f* pSrcDst, int srcDstStep, Qvp32f alpha2, QvpiSize roiSize, QvpiCompositeOp op);
+/** @} */
+
+/** @name Color key
+ *  @{ */
+/** Replaces pixels within a range of colors by those of another image: dst = src1 inside ? src2 : src1.
+ *
+ *  A pixel is inside if lowerBound <= value <= upperBound in all its channels; equal bounds are one exact color. In
+ *  place, the background keeps its pixels where the source is inside and takes those of the source elsewhere.
+ *
+ *  Of AC4, three channels decide and are written, and the alpha of the destination stays.
+ *
+ *  @param pSrc1,src1Step image with the colors that are replaced
+ *  @param pSrc2,src2Step background, which replaces them
+ *  @param pDst,dstStep destination image; it may be either of these
+ *  @param pSrc,srcStep in place: image with the colors that are replaced
+ *  @param pSrcDst,srcDstStep in place: background and destination
+ *  @param roiSize size of the region in pixels
+ *  @param lowerBound,upperBound the range, both ends inclusive: one value each for one channel, else arrays of one for
+ *         each channel, 3 of AC4
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or an array of bounds is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusRange: lowerBound > upperBound in a channel
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiColorKey_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp8u lowerBound, Qvp8u upperBound);
+QvpStatus qvpiColorKey_8u_C1IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u lowerBound, Qvp8u upperBound);
+QvpStatus qvpiColorKey_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKey_8u_C3IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKey_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[4], const Qvp8u upperBound[4]);
+QvpStatus qvpiColorKey_8u_C4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[4], const Qvp8u upperBound[4]);
+QvpStatus qvpiColorKey_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKey_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKey_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, Qvp16u lowerBound, Qvp16u upperBound);
+QvpStatus qvpiColorKey_16u_C1IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp16u lowerBound, Qvp16u upperBound);
+QvpStatus qvpiColorKey_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKey_16u_C3IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKey_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKey_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+/** @} */
+
+/** @name Color key: a constant
+ *  @{ */
+/** Replaces pixels within a range of colors by one color: dst = src inside ? value : src.
+ *
+ *  A pixel is inside if lowerBound <= value <= upperBound in all its channels; equal bounds are one exact color.
+ *
+ *  Of AC4, three channels decide and are written, and the alpha of the destination stays.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param value what replaces the pixels: one value for one channel, else an array of one for each channel, 3 of AC4
+ *  @param pDst,dstStep destination image; it may be the source
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region in pixels
+ *  @param lowerBound,upperBound the range, both ends inclusive, in the form of `value`
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, the array of the value or one of bounds is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusRange: lowerBound > upperBound in a channel
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiColorKeyC_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u value, Qvp8u* pDst, int dstStep, QvpiSize roiSize, Qvp8u lowerBound, Qvp8u upperBound);
+QvpStatus qvpiColorKeyC_8u_C1IR(Qvp8u value, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp8u lowerBound, Qvp8u upperBound);
+QvpStatus qvpiColorKeyC_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKeyC_8u_C3IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKeyC_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[4], const Qvp8u upperBound[4]);
+QvpStatus qvpiColorKeyC_8u_C4IR(const Qvp8u value[4], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[4], const Qvp8u upperBound[4]);
+QvpStatus qvpiColorKeyC_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u value[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKeyC_8u_AC4IR(const Qvp8u value[3], Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3]);
+QvpStatus qvpiColorKeyC_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u value, Qvp16u* pDst, int dstStep, QvpiSize roiSize, Qvp16u lowerBound, Qvp16u upperBound);
+QvpStatus qvpiColorKeyC_16u_C1IR(Qvp16u value, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, Qvp16u lowerBound, Qvp16u upperBound);
+QvpStatus qvpiColorKeyC_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKeyC_16u_C3IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKeyC_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u value[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+QvpStatus qvpiColorKeyC_16u_AC4IR(const Qvp16u value[3], Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3]);
+/** @} */
+
+/** @name Color key: a composite
+ *  @{ */
+/** Combines two layers as qvpiCompositeStraight does, where pixels of the first one within a range of colors are clear.
+ *
+ *  A pixel is inside if lowerBound <= value <= upperBound in all three colors; its alpha is then taken as 0. With
+ *  qvpCompositeFirstOver and an opaque background such a pixel gives the background exactly. All four values are written.
+ *
+ *  @param pSrc1,src1Step first layer
+ *  @param pSrc2,src2Step second layer
+ *  @param pDst,dstStep destination image; it may be either layer
+ *  @param pSrc,srcStep in place: first layer
+ *  @param pSrcDst,srcDstStep in place: second layer and destination
+ *  @param roiSize size of the region in pixels
+ *  @param lowerBound,upperBound the range, both ends inclusive
+ *  @param op operator: any of QvpiCompositeOp
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or an array of bounds is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusRange: lowerBound > upperBound in a channel
+ *  - qvpStatusAlphaType: `op` is not among the operators
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiColorKeyComposite_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3], QvpiCompositeOp op);
+QvpStatus qvpiColorKeyComposite_8u_AC4IR(const Qvp8u* pSrc, int srcStep, Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp8u lowerBound[3], const Qvp8u upperBound[3], QvpiCompositeOp op);
+QvpStatus qvpiColorKeyComposite_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, Qvp16u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3], QvpiCompositeOp op);
+QvpStatus qvpiColorKeyComposite_16u_AC4IR(const Qvp16u* pSrc, int srcStep, Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, const Qvp16u lowerBound[3], const Qvp16u upperBound[3], QvpiCompositeOp op);
 /** @} */
 
 #ifdef __cplusplus

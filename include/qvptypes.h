@@ -143,6 +143,27 @@ enum {
     qvpLookupCubic = 2,  /**< a cubic with equal slopes on both sides of a level, which does not overshoot */
 };
 
+/** Operator of a composite of two layers: which part of each is in the result.
+ *
+ *  After Porter and Duff, "Compositing Digital Images", 1984. With alphas a of the first and b of the second layer and M
+ *  for 1, the result is F1 first + F2 second, with the factors (F1, F2).
+ */
+typedef int QvpiCompositeOp;
+enum {
+    qvpCompositeClear = 0,      /**< (0, 0): nothing */
+    qvpCompositeFirst = 1,      /**< (M, 0): the first layer */
+    qvpCompositeSecond = 2,     /**< (0, M): the second layer */
+    qvpCompositeFirstOver = 3,  /**< (M, M - a): the first layer over the second */
+    qvpCompositeSecondOver = 4, /**< (M - b, M): the second layer over the first */
+    qvpCompositeFirstIn = 5,    /**< (b, 0): the first layer where the second one is */
+    qvpCompositeSecondIn = 6,   /**< (0, a): the second layer where the first one is */
+    qvpCompositeFirstOut = 7,   /**< (M - b, 0): the first layer where the second one is not */
+    qvpCompositeSecondOut = 8,  /**< (0, M - a): the second layer where the first one is not */
+    qvpCompositeFirstAtop = 9,  /**< (b, M - a): the first layer over the second, as far as that reaches */
+    qvpCompositeSecondAtop = 10, /**< (M - b, a): the second layer over the first, as far as that reaches */
+    qvpCompositeXor = 11,       /**< (M - b, M - a): each layer where the other one is not */
+};
+
 /** Relation that two values are tested for. */
 typedef int QvpCmpOp;
 enum {

@@ -18,7 +18,9 @@ constexpr struct {
   Lesson lesson;
 } kLessons[] = {
     {"qvpiBinToGray", ScaleLesson},
+    {"qvpiColorKey", CompositeLesson},
     {"qvpiCompare", ThresholdLesson},
+    {"qvpiComposite", CompositeLesson},
     {"qvpiComputeThreshold", ThresholdLesson},
     {"qvpiCopyConstBorder", CopyBorderLesson},
     {"qvpiCopyMirrorBorder", CopyBorderLesson},

@@ -22,7 +22,7 @@ std::string_view TakeLast(std::string_view& text) {
 }
 
 bool IsLayout(std::string_view text) {
-  return text.starts_with('C') || text.starts_with('P') || text.starts_with("AC4");
+  return text.starts_with('C') || text.starts_with('P') || text.starts_with("AC4") || text.starts_with("AP4");
 }
 
 // Of the pixels that the layout begins with, as in C3AC4.
