@@ -1,5 +1,6 @@
 // Premultiplied colors, compositing and color keys, against formulas in whole numbers; floats against the same order of
 // operations.
+#include <array>
 #include <cmath>
 #include <limits>
 
