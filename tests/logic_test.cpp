@@ -1,4 +1,6 @@
 // Bitwise operations and shifts: each member against one formula in 64 bits, over its whole grid.
+#include <array>
+
 #include "tests/support/name.h"
 
 namespace {

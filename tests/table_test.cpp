@@ -1,4 +1,5 @@
 // Look-up tables and palettes: every entry, through each member, against an array access.
+#include <array>
 #include <numeric>
 
 #include "tests/support/name.h"
