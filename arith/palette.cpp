@@ -99,9 +99,13 @@ QvpStatus Paint(const Image<const S>& src, const Image<T>& dst, Size roi, const 
   const auto* const entries = reinterpret_cast<const uint8_t*>(palette);
   if constexpr (isByteIndex && kBytes == 1) {
     MoveBytes(entries, nBits, src, dst, roi);
-  } else if (hasWords && IsWorthCopying(roi)) {
-    if constexpr (hasWords) MoveWords<kBytes>(entries, nBits, src, AsBytes(dst), roi);
   } else {
+    if constexpr (hasWords) {
+      if (IsWorthCopying(roi)) {
+        MoveWords<kBytes>(entries, nBits, src, AsBytes(dst), roi);
+        return qvpStatusNoError;
+      }
+    }
     MoveEntries<kBytes>(entries, nBits, src, AsBytes(dst), roi);
   }
   return qvpStatusNoError;
