@@ -21,7 +21,7 @@ struct Workshop {
   const bool isVerbose = std::getenv("QVPI_FUZZ_VERBOSE") != nullptr;
   // Of each function whether its results are made of pixels, once that is known; see Trial::IsMadeOfPixels.
   std::vector<std::optional<bool>> madeOfPixels = std::vector<std::optional<bool>>(test::Exports().size());
-  std::array<Zone, 10> zones;  // one for each image or plane
+  std::array<Zone, 12> zones;  // one for each image or plane: two sources and a destination may have four
   Zone numbers, record, buffer;
   Copies copies;
 };
