@@ -87,7 +87,7 @@ void Directions(Demo& demo) {
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) PutHue(image.At(x, y), *angle.At(x, y), *magnitude.At(x, y));
   }
-  demo.Show("Direction as hue, gradient as brightness", image);
+  demo.Show("Gradient: direction as hue", image);
 }
 
 }  // namespace
