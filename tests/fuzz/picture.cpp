@@ -1,6 +1,7 @@
 #include "tests/fuzz/picture.h"
 
 #include <algorithm>
+#include <array>
 
 #include "tests/support/name.h"
 
@@ -20,10 +21,10 @@ int ChannelsOf(std::string_view layout, bool isDestination) {
 int SizeFor(const Export& function, std::string_view image) {
   const bool isSource = image.starts_with("pSrc") && !image.starts_with("pSrcDst");
   const bool isInPlace = image == "pSrcDst";
-  const std::initializer_list<const char*> names =
-      isSource    ? std::initializer_list<const char*>{"srcRoiSize", "srcSize", "roiSize"}
-      : isInPlace ? std::initializer_list<const char*>{"roiSize"}
-                  : std::initializer_list<const char*>{"dstRoiSize", "dstSize", "roiSize"};
+  using Names = std::array<const char*, 3>;
+  static constexpr Names kOfSource{"srcRoiSize", "srcSize", "roiSize"}, kInPlace{"roiSize", "roiSize", "roiSize"},
+      kOfDestination{"dstRoiSize", "dstSize", "roiSize"};
+  const Names& names = isSource ? kOfSource : isInPlace ? kInPlace : kOfDestination;
   for (const char* name : names) {
     if (const int place = function.Find(name); place >= 0) return place;
   }
