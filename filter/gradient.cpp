@@ -128,8 +128,9 @@ void FilterGradient(const GradientCall<T, R>& call, const Sink& sink) {
   }
 }
 
+// All checks but that of the border, in their order. A function tells whether it knows the mask.
 template <class T, class R>
-QvpStatus CheckGradient(const GradientCall<T, R>& call) {
+QvpStatus CheckGradient(const GradientCall<T, R>& call, bool isMaskKnown) {
   bool isAnyWanted = false, areStepsLong = CoversRow(call.src, call.roi), areStepsEven = true;
   for (const Bytes& output : call.outputs) {
     if (!output.data) continue;
@@ -141,7 +142,18 @@ QvpStatus CheckGradient(const GradientCall<T, R>& call) {
   if (KindOf(call.border) == BorderKind::kConst && !call.value) return qvpStatusNullPointer;
   if (const QvpStatus failed = Validate<kSize>(call.roi, {})) return failed;
   if (!areStepsLong) return qvpStatusStep;
-  return sizeof(T) == 2 && std::is_same_v<R, float> && !areStepsEven ? qvpStatusNotEvenStep : qvpStatusNoError;
+  if (sizeof(T) == 2 && std::is_same_v<R, float> && !areStepsEven) return qvpStatusNotEvenStep;
+  if (!isMaskKnown) return qvpStatusMaskSize;
+  return IsNorm(call.norm) ? qvpStatusNoError : qvpStatusNotSupportedMode;
+}
+
+constexpr bool IsSobelMask(QvpiSize mask) { return IsMask(mask, 3, 3) || IsMask(mask, 5, 5); }
+
+template <class Sink, class T, class R>
+QvpStatus FilterSobel(const GradientCall<T, R>& call, const Sink& sink) {
+  IsMask(call.mask, 3, 3) ? FilterGradient<Sink, SobelX3, SobelY3>(call, sink)
+                          : FilterGradient<Sink, SobelX5, SobelY5>(call, sink);
+  return qvpStatusNoError;
 }
 
 template <class T, class R>
@@ -151,38 +163,25 @@ using MagnitudeSinkOf = MagnitudeSink<hn::ScalableTag<FixedLane<T>>, R>;
 
 template <class T, class R>
 QvpStatus SobelVectors(GradientCall<T, R> call) {
-  if (const QvpStatus failed = CheckGradient(call)) return failed;
-  if (!IsMask(call.mask, 3, 3) && !IsMask(call.mask, 5, 5)) return qvpStatusMaskSize;
-  if (!IsNorm(call.norm)) return qvpStatusNotSupportedMode;
+  if (const QvpStatus failed = CheckGradient(call, IsSobelMask(call.mask))) return failed;
   if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
-  const VectorSinkOf<T, R> sink{call.norm, Channels(call.src.layout)};
-  IsMask(call.mask, 3, 3) ? FilterGradient<VectorSinkOf<T, R>, SobelX3, SobelY3>(call, sink)
-                          : FilterGradient<VectorSinkOf<T, R>, SobelX5, SobelY5>(call, sink);
-  return qvpStatusNoError;
+  return FilterSobel(call, VectorSinkOf<T, R>{call.norm, Channels(call.src.layout)});
 }
 
 template <class T, class R>
 QvpStatus ScharrVectors(GradientCall<T, R> call) {
-  if (const QvpStatus failed = CheckGradient(call)) return failed;
-  if (!IsMask(call.mask, 3, 3)) return qvpStatusMaskSize;
-  if (!IsNorm(call.norm)) return qvpStatusNotSupportedMode;
+  if (const QvpStatus failed = CheckGradient(call, IsMask(call.mask, 3, 3))) return failed;
   if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
-  FilterGradient<VectorSinkOf<T, R>, ScharrX3, ScharrY3>(call,
-                                                         VectorSinkOf<T, R>{call.norm, Channels(call.src.layout)});
+  FilterGradient<VectorSinkOf<T, R>, ScharrX3, ScharrY3>(call, {call.norm, Channels(call.src.layout)});
   return qvpStatusNoError;
 }
 
 // There is no mirror here.
 template <class T, class R>
 QvpStatus SobelMagnitude(const GradientCall<T, R>& call) {
-  if (const QvpStatus failed = CheckGradient(call)) return failed;
-  if (!IsMask(call.mask, 3, 3) && !IsMask(call.mask, 5, 5)) return qvpStatusMaskSize;
-  if (!IsNorm(call.norm)) return qvpStatusNotSupportedMode;
+  if (const QvpStatus failed = CheckGradient(call, IsSobelMask(call.mask))) return failed;
   if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kConst}, call.border)) return qvpStatusBorder;
-  const MagnitudeSinkOf<T, R> sink{call.norm};
-  IsMask(call.mask, 3, 3) ? FilterGradient<MagnitudeSinkOf<T, R>, SobelX3, SobelY3>(call, sink)
-                          : FilterGradient<MagnitudeSinkOf<T, R>, SobelX5, SobelY5>(call, sink);
-  return qvpStatusNoError;
+  return FilterSobel(call, MagnitudeSinkOf<T, R>{call.norm});
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ struct ResultRows {
 //           Null if lines are those of the source.
 //   down    makes results from the lines of the window, from the uppermost on. `samples` are those of the source's type
 //           of pixel. Without `across` the first result reads the first samples of lines here.
-// Both may read and write kLineSpare bytes behind a line, but behind one of the source only if samples are fewer than
+// Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
 // kFewestInPlace: it may be a row of the image.
 struct WindowKernel {
   const void* context;

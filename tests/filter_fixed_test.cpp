@@ -145,22 +145,27 @@ std::vector<const Export*> FixedFunctions() {
   return functions;
 }
 
+// Calls the function on a scene, with outputs and what else it takes; the buffer has just the reported size.
+void Filter(const Export& function, const Bordered& scene, QvpiSize mask, std::vector<test::Named> arguments) {
+  const Region& r = scene.region;
+  const auto buffer = BufferFor(mask, r.size, scene.element(), r.channels);
+  const test::Named shared[] = {{"pSrc", {scene.At(0, 0), scene.image.step()}},
+                                {"roiSize", r.size},
+                                {"maskSize", mask},
+                                {"borderType", r.border},
+                                {"borderValue", {scene.value}},
+                                {"pBuffer", {buffer->data()}}};
+  arguments.insert(arguments.end(), std::begin(shared), std::end(shared));
+  ASSERT_EQ(function(arguments), 0) << function.name;
+}
+
 void CheckFixed(const Export& function, int side, const Region& r, test::Guard guard) {
   const Name name(function.name);
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r, guard);
   const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8, guard);
   const test::Samples before(dst);
-  const auto buffer = BufferFor(mask, r.size, name.From(), r.channels);
-  ASSERT_EQ(function({{"pSrc", {scene.At(0, 0), scene.image.step()}},
-                      {"pDst", dst},
-                      {"roiSize", r.size},
-                      {"maskSize", mask},
-                      {"borderType", r.border},
-                      {"borderValue", {scene.value}},
-                      {"pBuffer", {buffer->data()}}}),
-            0)
-      << function.name;
+  Filter(function, scene, mask, {{"pDst", dst}});
   const std::string kind = KindOf(function.name);
   for (int y = 0; y < r.size.height; ++y) {
     for (int i = 0; i < r.size.width * r.channels; ++i) {
@@ -227,43 +232,38 @@ TEST(FilterFixed, NaNReachesWhatItsCoefficientsReach) {
 }
 
 TEST(FilterFixed, KnownPictures) {
-  const auto filter8u = [](auto function, std::vector<Qvp8u> src, QvpiSize size, QvpiSize mask, int border) {
-    std::vector<Qvp8u> dst(src.size());
+  const auto filtered = []<class R>(R, auto function, std::vector<Qvp8u> src, QvpiSize size, QvpiSize mask,
+                                    int border) {
+    std::vector<R> dst(src.size());
     const auto buffer = BufferFor(mask, size, ElementOf("8u"), 1);
     const Qvp8u zero = 0;
-    EXPECT_EQ(function(src.data(), size.width, dst.data(), size.width, size, mask, border, &zero, buffer->data()), 0);
-    return dst;
-  };
-  const auto filter16s = [](auto function, std::vector<Qvp8u> src, QvpiSize size, QvpiSize mask, int border) {
-    std::vector<Qvp16s> dst(src.size());
-    const auto buffer = BufferFor(mask, size, ElementOf("8u"), 1);
-    const Qvp8u zero = 0;
-    EXPECT_EQ(function(src.data(), size.width, dst.data(), 2 * size.width, size, mask, border, &zero, buffer->data()),
-              0);
+    const int step = size.width * static_cast<int>(sizeof(R));
+    EXPECT_EQ(function(src.data(), size.width, dst.data(), step, size, mask, border, &zero, buffer->data()), 0);
     return dst;
   };
   std::vector<Qvp8u> impulse(25);
   impulse[12] = 255;
-  EXPECT_EQ(filter8u(qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[6], 16);
-  EXPECT_EQ(filter8u(qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {5, 5}, qvpBorderReplicate)[12], 36);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[6], 16);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {5, 5}, qvpBorderReplicate)[12], 36);
   impulse[12] = 100;
-  EXPECT_EQ(filter8u(qvpiFilterSharpenBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 175);
-  EXPECT_EQ(filter8u(qvpiFilterSharpenBorder_8u_C1R, impulse, {5, 5}, {5, 5}, qvpBorderReplicate)[12], 186);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterSharpenBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 175);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterSharpenBorder_8u_C1R, impulse, {5, 5}, {5, 5}, qvpBorderReplicate)[12], 186);
   impulse[12] = 2;
-  EXPECT_EQ(filter8u(qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 0);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 0);
   impulse[12] = 6;
-  EXPECT_EQ(filter8u(qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 2);
+  EXPECT_EQ(filtered(Qvp8u(), qvpiFilterBinomialBorder_8u_C1R, impulse, {5, 5}, {3, 3}, qvpBorderReplicate)[12], 2);
   const std::vector<Qvp8u> ramp{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, four{1, 2, 4, 8};
   using Words = std::vector<Qvp16s>;
-  EXPECT_EQ(filter16s(qvpiFilterSobelXBorder_8u16s_C1R, ramp, {10, 1}, {5, 5}, qvpBorderReplicate),
+  EXPECT_EQ(filtered(Qvp16s(), qvpiFilterSobelXBorder_8u16s_C1R, ramp, {10, 1}, {5, 5}, qvpBorderReplicate),
             (Words{64, 112, 128, 128, 128, 128, 128, 128, 112, 64}));
-  EXPECT_EQ(filter16s(qvpiFilterSobelXBorder_8u16s_C1R, ramp, {10, 1}, {3, 3}, qvpBorderMirror),
+  EXPECT_EQ(filtered(Qvp16s(), qvpiFilterSobelXBorder_8u16s_C1R, ramp, {10, 1}, {3, 3}, qvpBorderMirror),
             (Words{0, 8, 8, 8, 8, 8, 8, 8, 8, 0}));
-  EXPECT_EQ(filter16s(qvpiFilterRobertsDownBorder_8u16s_C1R, four, {2, 2}, {2, 2}, qvpBorderMirror),
+  EXPECT_EQ(filtered(Qvp16s(), qvpiFilterRobertsDownBorder_8u16s_C1R, four, {2, 2}, {2, 2}, qvpBorderMirror),
             (Words{7, 2, -2, -7}));
-  EXPECT_EQ(filter16s(qvpiFilterRobertsUpBorder_8u16s_C1R, four, {2, 2}, {2, 2}, qvpBorderReplicate),
+  EXPECT_EQ(filtered(Qvp16s(), qvpiFilterRobertsUpBorder_8u16s_C1R, four, {2, 2}, {2, 2}, qvpBorderReplicate),
             (Words{-2, -6, 4, 0}));
-  EXPECT_EQ(filter16s(qvpiFilterHighPassBorder_8u16s_C1R, std::vector<Qvp8u>(9, 255), {3, 3}, {3, 3}, qvpBorderConst),
+  EXPECT_EQ(filtered(Qvp16s(), qvpiFilterHighPassBorder_8u16s_C1R, std::vector<Qvp8u>(9, 255), {3, 3}, {3, 3},
+                     qvpBorderConst),
             (Words{1275, 765, 1275, 765, 0, 765, 1275, 765, 1275}));
 }
 
@@ -311,23 +311,15 @@ void CheckVectors(const Export& function, int side, QvpNormType norm, const Regi
   const Element& real = ElementOf("32f");
   const test::Samples gx(name.To(), r.size.width, r.size.height, 4), gy(name.To(), r.size.width, r.size.height, 8),
       magnitude(real, r.size.width, r.size.height, 12), angle(real, r.size.width, r.size.height, 0);
-  const auto buffer = BufferFor(mask, r.size, name.From(), r.channels);
   const auto output = [&](int bit, const test::Samples& image) {
     return wanted & bit ? test::Argument(image) : test::Argument(nullptr, 1);
   };
-  ASSERT_EQ(function({{"pSrc", {scene.At(0, 0), scene.image.step()}},
-                      {"pGx", output(1, gx)},
-                      {"pGy", output(2, gy)},
-                      {"pMagnitude", output(4, magnitude)},
-                      {"pAngle", output(8, angle)},
-                      {"roiSize", r.size},
-                      {"maskSize", mask},
-                      {"normType", norm},
-                      {"borderType", r.border},
-                      {"borderValue", {scene.value}},
-                      {"pBuffer", {buffer->data()}}}),
-            0)
-      << function.name;
+  Filter(function, scene, mask,
+         {{"pGx", output(1, gx)},
+          {"pGy", output(2, gy)},
+          {"pMagnitude", output(4, magnitude)},
+          {"pAngle", output(8, angle)},
+          {"normType", norm}});
   for (int y = 0; y < r.size.height; ++y) {
     for (int x = 0; x < r.size.width; ++x) {
       const Gradient g = GradientAt(scene, kind, side, norm, x, y);
@@ -359,16 +351,7 @@ void CheckMagnitude(const Export& function, int side, QvpNormType norm, const Re
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r);
   const test::Samples dst(name.To(), r.size.width, r.size.height, 3);
-  const auto buffer = BufferFor(mask, r.size, name.From(), 1);
-  ASSERT_EQ(function({{"pSrc", {scene.At(0, 0), scene.image.step()}},
-                      {"pDst", dst},
-                      {"roiSize", r.size},
-                      {"maskSize", mask},
-                      {"normType", norm},
-                      {"borderType", r.border},
-                      {"borderValue", {scene.value}},
-                      {"pBuffer", {buffer->data()}}}),
-            0);
+  Filter(function, scene, mask, {{"pDst", dst}, {"normType", norm}});
   for (int i = 0; i < r.size.width * r.size.height; ++i) {
     const int x = i % r.size.width, y = i / r.size.width;
     const Gradient g = GradientAt(scene, "Sobel", side, norm, x, y);

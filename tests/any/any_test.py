@@ -8,8 +8,11 @@ import argparse
 import os
 import re
 import shutil
-import subprocess
+import sys
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+from commands import require, run  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
 INCLUDE = f"-I{HERE.parents[1] / 'include'}"
@@ -17,18 +20,6 @@ COLLECT = "-Wl,--gc-sections"
 USED = {"qvpiGetLibVersion", "qvpiSet_8u_C3R", "qvpiSwapChannels_8u_C3IR", "qvpiMirror_8u_C3R", "qvpiAdd_8u_C3RSfs"}
 # What chooses, the five entries and stubs, and the gaps between them; the code of each level comes on top.
 MOST_BESIDE_CODE = 2048
-
-
-def run(*command, **environment):
-    done = subprocess.run([str(word) for word in command], env={**os.environ, **environment}, text=True,
-                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    require(done.returncode == 0, *command, environment, done.stdout)
-    return done.stdout
-
-
-def require(condition, *explanation):
-    if not condition:
-        raise SystemExit("failed: " + " ".join(map(str, explanation)))
 
 
 def best_level():

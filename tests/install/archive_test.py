@@ -6,29 +6,20 @@ import json
 import os
 import re
 import shutil
-import subprocess
+import sys
 import tarfile
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+from commands import require, run  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
 # Scripts of emscripten need Debian's packages for Node.js, which one that is not Debian's has to be told; and code
 # beside a program is not found by newer releases of Node.js.
-ENVIRONMENT = {**os.environ, "NODE_PATH": "/usr/share/nodejs"}
+os.environ["NODE_PATH"] = "/usr/share/nodejs"
 FLAGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 LINK_FLAGS = ["-sSINGLE_FILE=1"]
-
-
-def run(*command, **options):
-    done = subprocess.run([str(word) for word in command], env=ENVIRONMENT, text=True, stdout=subprocess.PIPE,
-                          stderr=subprocess.STDOUT, **options)
-    require(done.returncode == 0, *command, done.stdout)
-    return done.stdout
-
-
-def require(condition, *explanation):
-    if not condition:
-        raise SystemExit("failed: " + " ".join(map(str, explanation)))
 
 
 def unpacked(options, scratch):

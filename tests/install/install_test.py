@@ -1,28 +1,18 @@
 #!/usr/bin/env python3
 """Installs the build below a scratch prefix, and builds and runs programs against it in the ways that users have."""
 import argparse
-import os
 import re
 import shutil
-import subprocess
+import sys
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
+from commands import require, run  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
 FLAGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 COMPILERS = {"C": ["cc", "-std=c11"], "CXX": ["c++", "-std=c++17", "-xc++"]}
 EMULATOR = []  # what programs start with
-
-
-def run(*command, **environment):
-    done = subprocess.run([str(word) for word in command], env={**os.environ, **environment}, text=True,
-                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    require(done.returncode == 0, *command, environment, done.stdout)
-    return done.stdout
-
-
-def require(condition, *explanation):
-    if not condition:
-        raise SystemExit("failed: " + " ".join(map(str, explanation)))
 
 
 def require_output(program, cpu, **environment):
