@@ -61,7 +61,9 @@ class NearestShift {
 class IntegerQuotient {
  public:
   // `largest` bounds the magnitude of the sums.
-  IntegerQuotient(const FilterRecord& record, int64_t largest) : mode_(record.mode()), divisor_(record.divisor) {
+  IntegerQuotient(const FilterRecord& record, int64_t largest)
+      : IntegerQuotient(record.mode(), record.divisor, largest) {}
+  IntegerQuotient(int mode, int32_t divisor, int64_t largest) : mode_(mode), divisor_(divisor) {
     const bool isPowerOfTwo = divisor_ > 0 && (divisor_ & (divisor_ - 1)) == 0;
     const int bits = __builtin_ctz(static_cast<unsigned>(divisor_));
     if (isPowerOfTwo && largest + divisor_ <= INT32_MAX) {
@@ -97,11 +99,11 @@ class IntegerQuotient {
  private:
   enum class Method { kNearestShift, kShift, kFloat, kDouble };
 
-  // Half of a vector: as many doubles as a vector has.
+  // Half of a vector.
   template <class V>
   HWY_NOINLINE static V InDouble(int mode, int32_t divisor, V v) {
-    const hn::ScalableTag<double> d;
-    const hn::Rebind<int32_t, decltype(d)> ints;
+    const hn::DFromV<V> ints;
+    const hn::Rebind<double, decltype(ints)> d;
     const auto quotient = hn::Div(hn::PromoteTo(d, v), hn::Set(d, static_cast<double>(divisor)));
     return hn::DemoteTo(ints, RoundedBy(mode, d, quotient));
   }

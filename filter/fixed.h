@@ -1,11 +1,11 @@
 // The call of a filter with a fixed kernel: its checks in order, and its walk.
 #pragma once
 
-#include "base/check.h"
 #include "base/export.h"
 #include "base/pack.h"
 #include "filter/fixed_kinds.h"
 #include "filter/unrolled.h"
+#include "filter/window_check.h"
 #include "filter/windows.h"
 
 namespace qvp::filter {
@@ -172,12 +172,6 @@ struct FixedCall {
 
 constexpr bool IsMask(QvpiSize mask, int width, int height) { return mask.width == width && mask.height == height; }
 
-// A step must cover its row. Where results are longer than pixels of two bytes, it must be a multiple of theirs.
-template <class T>
-bool CoversRow(const Image<T>& image, Size roi) {
-  return image.step >= int64_t{roi.width} * image.PixelBytes();
-}
-
 // Replicating the pixel itself too is asked for by masks of 3 x 3 only, and is the same for them.
 inline QvpStatus CheckFixedBorder(QvpiSize mask, QvpiBorderType* border) {
   using enum BorderKind;
@@ -186,14 +180,12 @@ inline QvpStatus CheckFixedBorder(QvpiSize mask, QvpiBorderType* border) {
   return IsBorderOf({kReplicate, kMirror, kConst}, *border) ? qvpStatusNoError : qvpStatusBorder;
 }
 
+// Where results are longer than pixels of two bytes, the step must be a multiple of theirs.
 template <class T, class R>
 QvpStatus CheckFixed(const FixedCall<T, R>& call) {
-  if (const QvpStatus failed = Validate<kPointers>(call.roi, {call.src, call.dst}, {call.buffer})) return failed;
-  if (KindOf(call.border) == BorderKind::kConst && !call.value) return qvpStatusNullPointer;
-  if (const QvpStatus failed = Validate<kSize>(call.roi, {})) return failed;
-  if (!CoversRow(call.src, call.roi) || !CoversRow(call.dst, call.roi)) return qvpStatusStep;
-  if (sizeof(T) == 2 && std::is_same_v<R, float> && call.dst.step % 4 != 0) return qvpStatusNotEvenStep;
-  return qvpStatusNoError;
+  const auto& [src, dst, roi, mask, border, value, buffer] = call;
+  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
+  return sizeof(T) == 2 && std::is_same_v<R, float> && dst.step % 4 != 0 ? qvpStatusNotEvenStep : qvpStatusNoError;
 }
 
 template <class Kind, class T, class R>

@@ -18,7 +18,7 @@ QvpStatus qvpiFilterFixedBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize
   if (!pBufferSize) return qvpStatusNullPointer;
   if (roiSize.width < 1 || roiSize.height < 1) return qvpStatusSize;
   if (!IsMask(maskSize, 2, 2) && !IsMask(maskSize, 3, 3) && !IsMask(maskSize, 5, 5)) return qvpStatusMaskSize;
-  if (dataType != qvp8u && dataType != qvp16u && dataType != qvp16s && dataType != qvp32f) return qvpStatusDataType;
-  if (numChannels != 1 && numChannels != 3 && numChannels != 4) return qvpStatusNumChannels;
+  if (!IsFilteredType(dataType)) return qvpStatusDataType;
+  if (!IsFilteredChannelCount(numChannels)) return qvpStatusNumChannels;
   return WindowBytes(maskSize, roiSize.width, numChannels, dataType == qvp8u ? 4 : 8).StoreTo(pBufferSize);
 }

@@ -27,7 +27,7 @@ class Block {
         lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
         next_(-windows.reach.above),
         source_(windows.src, {columns.begin - windows.reach.left, columns.end + windows.reach.right},
-                samples_ >= kFewestInPlace) {
+                samples_ >= kFewestInPlace && !kernel.readsBeyond) {
     for (int i = 0; i < kMostOutputs; ++i) {
       const Bytes& output = windows.outputs[i];
       at_[i] = output.data ? output.data + columns.begin * output.PixelBytes() : nullptr;

@@ -27,13 +27,14 @@ struct ResultRows {
 //   down    makes results from the lines of the window, from the uppermost on. `samples` are those of the source's type
 //           of pixel. Without `across` the first result reads the first samples of lines here.
 // Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
-// kFewestInPlace: it may be a row of the image.
+// kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
 struct WindowKernel {
   const void* context;
   void (*across)(const void* context, const void* source, void* line, ptrdiff_t samples);
   void (*down)(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows);
   int elementBytes;  // of lines in the window
   int rowsAtOnce;    // of results: 1 or 2
+  bool readsBeyond = false;
 };
 
 inline constexpr ptrdiff_t kFewestInPlace = 64;

@@ -579,8 +579,8 @@ QvpStatus qvpiFilterBorder_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst
  *  @{ */
 /** Tells the size of the work buffer of filters with fixed kernels: binomial, sharpen, derivatives and gradients.
  *
- *  One buffer serves every such filter, with the same or a smaller mask and region, of that type and number of channels,
- *  at any border. It may begin anywhere.
+ *  One buffer serves every such filter, with the same or a smaller mask and region, of that type and number of
+ *  channels, at any border. It may begin anywhere.
  *
  *  @param maskSize 2x2, 3x3 or 5x5
  *  @param roiSize size of the region in pixels
@@ -590,7 +590,8 @@ QvpStatus qvpiFilterBorder_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst
  *  @return, in the order of the checks:
  *  - qvpStatusNullPointer: `pBufferSize` is null
  *  - qvpStatusSize: a side of `roiSize` is below 1
- *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the above
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the
+ *    above
  *  - qvpStatusSizeOverflow: the size is above 2147483647
  *  - qvpStatusNoError: otherwise
  */
@@ -612,14 +613,14 @@ QvpStatus qvpiFilterFixedBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize
  *  @endcode
  *
  *  Sharpen is 2 * src - binomial, an unsharp mask: plane areas stay, edges get steeper. Integers are summed exactly,
- *  rounded once to the nearest, ties to even, and saturated: around a single 255, Binomial 3x3 gives 64, beside it 32 and
- *  at the corners 16. Floats are added along rows, then down columns, the middle first and then by pairs; results differ
- *  from exact ones by at most 12 * 2^-24 times the sum of the absolute products. A NaN or an infinity reaches exactly the
- *  results whose mask covers it. AC4 keeps alpha.
+ *  rounded once to the nearest, ties to even, and saturated: around a single 255, Binomial 3x3 gives 64, beside it 32
+ *  and at the corners 16. Floats are added along rows, then down columns, the middle first and then by pairs; results
+ *  differ from exact ones by at most 12 * 2^-24 times the sum of the absolute products. A NaN or an infinity reaches
+ *  exactly the results whose mask covers it. AC4 keeps alpha.
  *
- *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
- *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
- *  the whole image. The destination must not overlap with what is read.
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read.
  *
  *  @param pSrc,srcStep source, at the first pixel of the region
  *  @param pDst,dstStep destination
@@ -696,14 +697,14 @@ QvpStatus qvpiFilterSharpenBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp3
  *                            5x5    25 * src - the sum of the mask
  *  @endcode
  *
- *  On an image of 3 x + 4 y, SobelX 3x3 gives 24, SobelY 32. Integers give exact results, which always fit: 8u gives 16s,
- *  16u and 16s give 32f. From 32f sums are formed along rows, then down columns, the middle first and then by pairs, in
- *  single precision; they differ from exact ones by at most 12 * 2^-24 times the sum of the absolute products. A NaN or an
- *  infinity reaches exactly the results that have it under a coefficient other than 0.
+ *  On an image of 3 x + 4 y, SobelX 3x3 gives 24, SobelY 32. Integers give exact results, which always fit: 8u gives
+ *  16s, 16u and 16s give 32f. From 32f sums are formed along rows, then down columns, the middle first and then by
+ *  pairs, in single precision; they differ from exact ones by at most 12 * 2^-24 times the sum of the absolute
+ *  products. A NaN or an infinity reaches exactly the results that have it under a coefficient other than 0.
  *
- *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
- *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
- *  the whole image. The destination must not overlap with what is read.
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read.
  *
  *  @param pSrc,srcStep source, at the first pixel of the region
  *  @param pDst,dstStep destination
@@ -833,12 +834,12 @@ QvpStatus qvpiFilterHighPassBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp3
  *  @endcode
  *
  *  Integers are exact for L1 and Inf; L2 is computed in single precision, each operation rounded, and rounded to the
- *  nearest, ties to even. Results saturate. On an image of 30 x + 40 y, L2 with 3x3 gives 400, so that 8u has 255. In 32f
- *  squares may overflow to infinity; NaN in gx or gy gives NaN.
+ *  nearest, ties to even. Results saturate. On an image of 30 x + 40 y, L2 with 3x3 gives 400, so that 8u has 255. In
+ *  32f squares may overflow to infinity; NaN in gx or gy gives NaN.
  *
- *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
- *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
- *  the whole image. No destination may overlap with what is read.
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. No destination may overlap with what is read.
  *
  *  @param pSrc,srcStep source, at the first pixel of the region
  *  @param pDst,dstStep destination
@@ -869,20 +870,20 @@ QvpStatus qvpiFilterSobel_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst,
 /** The gradient by Sobel's or Scharr's kernels: both derivatives, magnitude and angle, each of which may be left out.
  *
  *  - `pGx`, `pGy`: what the functions SobelX and SobelY, or ScharrX and ScharrY, give.
- *  - `pMagnitude`, in single precision: for qvpNormL1 |gx| + |gy|, for qvpNormL2 sqrt(gx * gx + gy * gy), each operation
- *    rounded, for qvpNormInf the larger of |gx| and |gy|. Squares may overflow to infinity.
+ *  - `pMagnitude`, in single precision: for qvpNormL1 |gx| + |gy|, for qvpNormL2 sqrt(gx * gx + gy * gy), each
+ *    operation rounded, for qvpNormInf the larger of |gx| and |gy|. Squares may overflow to infinity.
  *  - `pAngle`: the direction of growth, atan2(gy, gx), in radians from -pi to pi, clockwise on the screen, as y grows
  *    downward. Of no gradient it is 0. It is off by 5e-6 at most.
  *
  *  NaN in gx or gy gives NaN for both. From three channels (C3C1) the channel with the largest gradient decides, by
- *  |gx| + |gy|, gx * gx + gy * gy or the larger of |gx| and |gy|, as the norm says, in single precision; of equal ones the
- *  first.
+ *  |gx| + |gy|, gx * gx + gy * gy or the larger of |gx| and |gy|, as the norm says, in single precision; of equal ones
+ *  the first.
  *
  *  On an image of 3 x + 4 y, Sobel 3x3 gives gx 24, gy 32, magnitudes 56, 40 and 32, and the angle 0.9272952.
  *
- *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the mask
- *  reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
- *  the whole image. No destination may overlap with what is read.
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. No destination may overlap with what is read.
  *
  *  @param pSrc,srcStep source, at the first pixel of the region
  *  @param pGx,gxStep,pGy,gyStep derivatives to the right and downward; null: not wanted, the step is not looked at
@@ -920,6 +921,239 @@ QvpStatus qvpiFilterGradientScharrBorder_16s32f_C1R(const Qvp16s* pSrc, int srcS
 QvpStatus qvpiFilterGradientScharrBorder_16s32f_C3C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiFilterGradientScharrBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiFilterGradientScharrBorder_32f_C3C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Separable filter: sizes
+ *  @{ */
+/** Tells the sizes of the record and of the work buffer of a separable filter.
+ *
+ *  @param kernelSize taps of the row kernel (width) and of the column kernel (height); 65536 for their product at most
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param srcType,dstType types of the images: both qvp8u, both qvp16u, both qvp16s, qvp8u and qvp16s, or both qvp32f
+ *  @param kernelType qvp16s, which does not serve qvp32f images, or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpecSize,pBufferSize sizes in bytes; 0 for one that cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `kernelSize` is below 1, or their product above 65536
+ *  - qvpStatusDataType, qvpStatusNumChannels: the types, `numChannels` are none of the above
+ *  - qvpStatusSizeOverflow: a size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSeparableBorderGetSize(QvpiSize kernelSize, QvpiSize roiSize, QvpDataType srcType, QvpDataType dstType, QvpDataType kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Separable filter: integer kernels
+ *  @{ */
+/** Makes the record of a separable filter from two integer kernels.
+ *
+ *  The filter is a convolution with the product of both: it turns them. Of a row [1 2 3], with a column of [1]:
+ *
+ *  @code
+ *    dst(x) = 3 * src(x - 1) + 2 * src(x) + 1 * src(x + 1)     10 20 30 gives 70 100 150
+ *  @endcode
+ *
+ *  Sums are exact, whatever their size. The result is the sum divided by `divisor`, rounded once by `roundMode`, and
+ *  saturated: the same bits as the general filter with the product kernel.
+ *
+ *  @param pRowKernel,pColumnKernel taps along the rows, and along the columns
+ *  @param kernelSize taps of the row kernel (width) and of the column kernel (height); 65536 for their product at most
+ *  @param divisor any number but 0
+ *  @param srcType,dstType types of the images: both qvp8u, both qvp16u, both qvp16s, or qvp8u and qvp16s
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero)
+ *  @param pSpec the record, of the size that qvpiFilterSeparableBorderGetSize() tells; it must not be moved. After a
+ *         failure, whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pRowKernel`, `pColumnKernel` or `pSpec` is null
+ *  - qvpStatusMaskSize: a side of `kernelSize` is below 1, or their product above 65536
+ *  - qvpStatusDataType, qvpStatusNumChannels, qvpStatusRoundMode: the types, `numChannels`, `roundMode` are none of the
+ *    above
+ *  - qvpStatusDivisor: `divisor` is 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSeparableBorderInit_16s(const Qvp16s* pRowKernel, const Qvp16s* pColumnKernel, QvpiSize kernelSize, int divisor, QvpDataType srcType, QvpDataType dstType, int numChannels, QvpRoundMode roundMode, QvpiFilterSeparableBorderSpec* pSpec);
+/** @} */
+
+/** @name Separable filter: kernels of single precision
+ *  @{ */
+/** Makes the record of a separable filter from two kernels of single precision.
+ *
+ *  The filter is a convolution with the product of both, as qvpiFilterSeparableBorderInit_16s() tells. Rows are
+ *  filtered first, then columns, in single precision: a sum begins with its first product, and the others are added in
+ *  the order of the pixels, each operation rounded. No tap is left out, so that an infinite pixel under a tap of 0
+ *  gives NaN. Results of integer images are rounded by `roundMode` and saturated; NaN becomes the lowest value.
+ *
+ *  @param pRowKernel,pColumnKernel taps along the rows, and along the columns
+ *  @param kernelSize taps of the row kernel (width) and of the column kernel (height); 65536 for their product at most
+ *  @param srcType,dstType types of the images: both qvp8u, both qvp16u, both qvp16s, qvp8u and qvp16s, or both qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param roundMode qvpRoundZero, qvpRoundNear (ties to even) or qvpRoundFinancial (ties away from zero); checked for
+ *         qvp32f results too, where it has no effect
+ *  @param pSpec the record, of the size that qvpiFilterSeparableBorderGetSize() tells; it must not be moved. After a
+ *         failure, whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pRowKernel`, `pColumnKernel` or `pSpec` is null
+ *  - qvpStatusMaskSize: a side of `kernelSize` is below 1, or their product above 65536
+ *  - qvpStatusDataType, qvpStatusNumChannels, qvpStatusRoundMode: the types, `numChannels`, `roundMode` are none of the
+ *    above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSeparableBorderInit_32f(const Qvp32f* pRowKernel, const Qvp32f* pColumnKernel, QvpiSize kernelSize, QvpDataType srcType, QvpDataType dstType, int numChannels, QvpRoundMode roundMode, QvpiFilterSeparableBorderSpec* pSpec);
+/** @} */
+
+/** @name Separable filter: filtering
+ *  @{ */
+/** Convolves an image with a row kernel and a column kernel, which its record has.
+ *
+ *  For each channel, over the taps j of the column kernel, h of them, and i of the row kernel, w of them:
+ *
+ *  @code
+ *    dst(x, y) = sum of column[h - 1 - j] * row[w - 1 - i] * src(x - ax + i, y - ay + j)
+ *    ax = (w - 1) / 2, ay = (h - 1) / 2
+ *  @endcode
+ *
+ *  with ax and ay rounded down: a kernel of even length reaches one pixel further to the right than to the left, or
+ *  down than up. How sums are formed, divided and rounded is told at the Init functions. AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  kernel reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image; with qvpBorderMirror and an even side of the kernel, tiles at the right or the lower edge
+ *  must be at least two pixels long that way. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pSpec the record
+ *  @param pBuffer work buffer of the size that qvpiFilterSeparableBorderGetSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: the record was not made by an Init function of the separable filter, or for other types or
+ *    another number of channels; AC4 takes a record for 4
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSeparableBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u16s_C3R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSeparableBorder_8u16s_C4R(const Qvp8u* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Gauss filter: sizes
+ *  @{ */
+/** Tells the sizes of the record and of the work buffer of a Gauss filter.
+ *
+ *  @param maskSize sides of the mask: odd, 1 to 1023
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpecSize,pBufferSize sizes in bytes; 0 for one that cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 1023
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: a size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGaussBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Gauss filter: record
+ *  @{ */
+/** Makes the record of a Gauss filter.
+ *
+ *  The weight of a pixel at distance (i, j) is exp(-i * i / (2 * sigmaX^2)) * exp(-j * j / (2 * sigmaY^2)), divided by
+ *  the sum of all weights of the mask. A mask of 2 * ceil(3 * sigma) + 1 leaves out less than 0.3 % of the bell.
+ *
+ *  @param maskSize sides of the mask: odd, 1 to 1023; with the width 1 rows are not filtered, with the height 1 columns
+ *  @param sigmaX,sigmaY standard deviations along rows and along columns, in pixels: above 0 and finite
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpec the record, of the size that qvpiFilterGaussBorderGetSize() tells; it must not be moved. After a
+ *         failure, whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 1023
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusBadArgument: a sigma is not above 0, or infinite
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGaussBorderInit(QvpiSize maskSize, Qvp32f sigmaX, Qvp32f sigmaY, QvpDataType dataType, int numChannels, QvpiFilterGaussBorderSpec* pSpec);
+/** @} */
+
+/** @name Gauss filter: filtering
+ *  @{ */
+/** Smooths an image with the bell of Gauss that its record has.
+ *
+ *  Rows are filtered first, then columns. Constant images stay, mirrored images give mirrored results.
+ *  - 8u: in integers, with weights of 14 to 17 bits and rows of 6 bits behind the point. Results differ from exact ones
+ *    by at most 0.54 for masks up to 31, 0.57 up to 63, 0.71 up to 255 and 1.25 up to 1023.
+ *  - 16u, 16s, 32f: in single precision, the middle first, then the sums of the pairs at each distance times their
+ *    weight, each operation rounded; integers are rounded to the nearest, ties to even, and saturated. Results differ
+ *    from exact ones by at most (w / 2 + h / 2 + 6) * 2^-24 of the largest magnitude under the mask. A NaN or an
+ *    infinity reaches exactly the results whose mask covers it.
+ *
+ *  AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pSpec the record
+ *  @param pBuffer work buffer of the size that qvpiFilterGaussBorderGetSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: the record was not made by qvpiFilterGaussBorderInit(), or for other types or another
+ *    number of channels; AC4 takes a record for 4
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGaussBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGaussBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
 #ifdef __cplusplus

@@ -98,6 +98,18 @@ HWY_INLINE V ScaledExp(V x, double scale) {
   return hn::Mul(ExpNearZero(hn::Mul(rest, hn::Set(d, 0x1.62e42fefa39efp-1))), PowerOfTwo(n));
 }
 
+// e^x of double lanes for any x <= 0, to a part in 2^51; below e^-700 it is 0.
+template <class V>
+HWY_INLINE V ExpOfNegative(V x) {
+  const hn::DFromV<V> d;
+  using Traits = ElementaryTraits<double>;
+  const V bounded = hn::Max(x, hn::Set(d, -700.0));
+  const V n = hn::Round(hn::Mul(bounded, hn::Set(d, 0x1.71547652b82fep+0)));
+  const V upper = hn::Sub(bounded, hn::Mul(n, hn::Set(d, Traits::kLn2Upper)));
+  const V result = hn::Mul(ExpNearZero(hn::Sub(upper, hn::Mul(n, hn::Set(d, Traits::kLn2Lower)))), PowerOfTwo(n));
+  return hn::IfThenElseZero(hn::Ge(x, hn::Set(d, -700.0)), result);
+}
+
 // ln(1 + f) = f - s (f - R) for sqrt(1/2) <= 1 + f < sqrt(2), with s = f / (2 + f) and
 // R = 2 s^2 (1/3 + s^2/5 + s^4/7 + ...), the series of the inverse hyperbolic tangent; plus e ln(2).
 template <class V>

@@ -36,6 +36,8 @@ constexpr struct {
     {"qvpiFilter", WindowLesson},
     {"qvpiFilterBorder", FilterLesson},
     {"qvpiFilterBorderInit", FilterInitLesson},
+    {"qvpiFilterGauss", GaussLesson},
+    {"qvpiFilterSeparable", SeparableLesson},
     {"qvpiGetAffine", TransformLesson},
     {"qvpiGetBilinear", TransformLesson},
     {"qvpiGetCentralMoment", MomentLesson},

@@ -1,0 +1,58 @@
+// Filters that sum across, then down, as functions of a window's walk. Each has an axis of taps for either direction.
+#pragma once
+
+#include "base/pack.h"
+#include "filter/axis_sums.h"
+#include "filter/border_filter_quotient.h"
+
+namespace qvp::filter {
+
+template <class Tap>
+struct AxisOf {
+  const Tap* taps;
+  ptrdiff_t count;  // of terms
+};
+
+// Sums in lanes of F: floats or doubles, or 16-bit numbers for what comes across before it goes down in pairs.
+template <class F>
+struct LaneAxes {
+  AxisOf<F> across, down;
+  int channels, mode;
+  double divisor;
+};
+
+template <class T, class F, class Tap, bool kIsFolded>
+HWY_INLINE void SumAcross(const T* source, const AxisOf<Tap>& axis, ptrdiff_t channels, ptrdiff_t samples, F* line) {
+  const hn::ScalableTag<F> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+  const AxisOf<Tap> a = axis;
+  ForEachVector<kLanes>(std::max(samples, kLanes), [&](ptrdiff_t i) HWY_ATTR {
+    const auto value = [&](ptrdiff_t k) QVP_INLINED { return LoadWide(d, source + i + k * channels); };
+    hn::StoreU(SumOfProducts<kIsFolded>(d, a.taps, a.count, value), d, line + i);
+  });
+}
+
+// T to R, by lanes of floats or doubles. Integers are rounded by the mode; doubles are divided first.
+template <class T, class R, class F, bool kIsFolded>
+struct LaneKernel {
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto& axes = *static_cast<const LaneAxes<F>*>(context);
+    SumAcross<T, F, F, kIsFolded>(static_cast<const T*>(source), axes.across, axes.channels, samples,
+                                  static_cast<F*>(line));
+  }
+
+  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto axes = *static_cast<const LaneAxes<F>*>(context);
+    const auto* const from = reinterpret_cast<const F* const*>(lines);
+    const hn::ScalableTag<F> d;
+    MakeRow<hn::MaxLanes(d)>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
+      auto sum = SumOfProducts<kIsFolded>(d, axes.down.taps, axes.down.count, value);
+      if constexpr (sizeof(F) == sizeof(double)) sum = hn::Div(sum, hn::Set(d, axes.divisor));
+      if constexpr (std::is_integral_v<R>) sum = RoundedBy(axes.mode, d, sum);
+      hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
+    });
+  }
+};
+
+}  // namespace qvp::filter

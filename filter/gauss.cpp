@@ -1,0 +1,105 @@
+// The Gauss filter: symmetric sums across, then down.
+#include "filter/gauss.h"
+
+#include "base/export.h"
+#include "filter/axis_kernels.h"
+#include "filter/window_check.h"
+
+namespace qvp::filter {
+namespace {
+
+// Bytes. Rows have kGaussRowBits behind the point, and both sums are rounded.
+struct ByteAxes {
+  PairedTaps across, down;
+  int channels, acrossShift, downShift;
+};
+
+struct ByteKernel {
+  // Sums rounded and shifted, as 16-bit lanes in order.
+  template <class D, class Value>
+  static HWY_INLINE hn::Vec<D> Rounded(D d, const PairedTaps& taps, int shift, const Value& value) {
+    const auto sum = SumOfPairs<true>(d, taps, 1 << (shift - 1), value);
+    return Packed(int16_t(), hn::ShiftRightSame(sum.lower, shift), hn::ShiftRightSame(sum.upper, shift));
+  }
+
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto axes = *static_cast<const ByteAxes*>(context);
+    const auto* const from = static_cast<const uint8_t*>(source);
+    auto* const to = static_cast<int16_t*>(line);
+    const hn::ScalableTag<int16_t> d;
+    constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+    ForEachVector<kLanes>(std::max(samples, kLanes), [&](ptrdiff_t i) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k) QVP_INLINED { return LoadWide(d, from + i + k * axes.channels); };
+      hn::StoreU(Rounded(d, axes.across, axes.acrossShift, value), d, to + i);
+    });
+  }
+
+  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto axes = *static_cast<const ByteAxes*>(context);
+    const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
+    const hn::ScalableTag<int16_t> d;
+    const hn::Rebind<uint8_t, decltype(d)> bytes;
+    MakeRow<hn::MaxLanes(d)>(samples, rows.upper[0], [&](ptrdiff_t i, uint8_t* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
+      hn::StoreU(hn::DemoteTo(bytes, Rounded(d, axes.down, axes.downShift, value)), bytes, to);
+    });
+  }
+};
+
+template <class Bits>
+void FilterBytes(const GaussRecord& r, const Windows<Bits>& windows) {
+  const auto pairs = [](const uint8_t* table, int64_t size) {
+    return PairedTaps{reinterpret_cast<const int32_t*>(table), static_cast<ptrdiff_t>(GaussRecord::Terms(size))};
+  };
+  const ByteAxes axes{pairs(r.Across(), r.width), pairs(r.Down(), r.height), windows.src.channels(),
+                      r.acrossBits - kGaussRowBits, r.downBits + kGaussRowBits};
+  FilterWindows(windows, {&axes, ByteKernel::Across, ByteKernel::Down, sizeof(int16_t), 1});
+}
+
+template <class T, class Bits>
+void FilterFloats(const GaussRecord& r, const Windows<Bits>& windows) {
+  const auto axis = [](const uint8_t* table, int64_t size) {
+    return AxisOf<float>{reinterpret_cast<const float*>(table), static_cast<ptrdiff_t>(GaussRecord::Terms(size))};
+  };
+  using Kernel = LaneKernel<T, T, float, true>;
+  const LaneAxes<float> axes{axis(r.Across(), r.width), axis(r.Down(), r.height), windows.src.channels(), qvpRoundNear,
+                             1};
+  FilterWindows(windows, {&axes, Kernel::Across, Kernel::Down, sizeof(float), 1});
+}
+
+template <class T>
+QvpStatus Gauss(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
+                const QvpiFilterGaussBorderSpec* spec, uint8_t* buffer) {
+  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {spec, buffer})) return failed;
+  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+  const GaussRecord& r = *GaussRecord::At(spec);
+  const bool isOurs = r.identification == GaussRecord::kIdentification && r.type == kDataTypeOf<T> &&
+                      r.channels == Channels(src.layout);
+  if (!isOurs) return qvpStatusContextMatch;
+  auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
+  windows.outputs[0] = AsBytes(dst);
+  if constexpr (sizeof(T) == 1) {
+    FilterBytes(r, windows);
+  } else {
+    FilterFloats<T>(r, windows);
+  }
+  return qvpStatusNoError;
+}
+
+}  // namespace
+}  // namespace qvp::filter
+
+using namespace qvp;
+using namespace qvp::filter;
+
+#define GAUSS(type, layout)                                                                                          \
+  QvpStatus qvpiFilterGaussBorder_##type##_##layout##R(                                                              \
+      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, \
+      const Qvp##type* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer) {                        \
+    return Gauss<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize,         \
+                            borderType, borderValue, pSpec, pBuffer);                                                \
+  }
+QVP_EACH_LAYOUT(GAUSS, 8u)
+QVP_EACH_LAYOUT(GAUSS, 16u)
+QVP_EACH_LAYOUT(GAUSS, 16s)
+QVP_EACH_LAYOUT(GAUSS, 32f)

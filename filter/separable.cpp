@@ -1,0 +1,224 @@
+// The separable filter: sums across by one kernel, then down by another.
+#include "filter/separable.h"
+
+#include "base/export.h"
+#include "base/scalar.h"
+#include "filter/axis_kernels.h"
+#include "filter/window_check.h"
+
+namespace qvp::filter {
+namespace {
+
+// Sums down in 32 bits, from lines of 16 or 32 bits.
+struct IntegerAxes {
+  AxisOf<int32_t> across, down;
+  PairedTaps acrossPairs, downPairs;
+  int channels;
+  int32_t acrossStart;
+  IntegerQuotient quotient;
+};
+
+// A vector of lower and one of upper halves of blocks, divided and packed in their order.
+template <class R, class V>
+HWY_INLINE void StoreBlocks(const IntegerQuotient& quotient, V lower, V upper, R* to) {
+  const hn::DFromV<V> d;
+  using Word = std::conditional_t<std::is_same_v<R, uint16_t>, uint16_t, int16_t>;
+  const auto words = Packed(Word(), quotient(d, lower), quotient(d, upper));
+  const hn::DFromV<decltype(words)> w;
+  if constexpr (sizeof(R) == 1) {
+    const hn::Rebind<uint8_t, decltype(w)> bytes;
+    hn::StoreU(hn::DemoteTo(bytes, words), bytes, to);
+  } else {
+    hn::StoreU(words, w, to);
+  }
+}
+
+// Bytes, whose sums across fit 16 bits.
+template <class R>
+struct WordKernel {
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto& axes = *static_cast<const IntegerAxes*>(context);
+    SumAcross<uint8_t, int16_t, int32_t, false>(static_cast<const uint8_t*>(source), axes.across, axes.channels,
+                                                samples, static_cast<int16_t*>(line));
+  }
+  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto axes = *static_cast<const IntegerAxes*>(context);
+    const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
+    const hn::ScalableTag<int16_t> d;
+    MakeRow<hn::MaxLanes(d)>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
+      const auto sum = SumOfPairs<false>(d, axes.downPairs, axes.quotient.Start(), value);
+      StoreBlocks(axes.quotient, sum.lower, sum.upper, to);
+    });
+  }
+};
+
+// Lines of 32 bits are in groups of a vector of lower and one of upper halves of blocks, which packing puts in order.
+// Vectors have 256 bits at most, as there is room for 64 bytes behind a line.
+template <class T, class R>
+struct IntKernel {
+  using D = hn::CappedTag<int16_t, 16>;
+  using Sums = hn::Repartition<int32_t, D>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kHalf = kLanes / 2;
+
+  // 16u pixels are taken less 32768, which makes them 16s.
+  static HWY_INLINE hn::Vec<D> Load(const T* from) {
+    const D d;
+    if constexpr (std::is_same_v<T, uint16_t>) {
+      const hn::RebindToUnsigned<D> u;
+      return hn::BitCast(d, hn::Xor(hn::LoadU(u, from), hn::Set(u, 0x8000)));
+    } else {
+      return LoadWide(d, from);
+    }
+  }
+
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto axes = *static_cast<const IntegerAxes*>(context);
+    const auto* const from = static_cast<const T*>(source);
+    auto* const to = static_cast<int32_t*>(line);
+    const D d;
+    for (ptrdiff_t i = 0; i < samples; i += kLanes) {
+      const auto value = [&](ptrdiff_t k) QVP_INLINED { return Load(from + i + k * axes.channels); };
+      const auto sum = SumOfPairs<false>(d, axes.acrossPairs, axes.acrossStart, value);
+      hn::StoreU(sum.lower, Sums(), to + i);
+      hn::StoreU(sum.upper, Sums(), to + i + kHalf);
+    }
+  }
+
+  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto axes = *static_cast<const IntegerAxes*>(context);
+    const auto* const from = reinterpret_cast<const int32_t* const*>(lines);
+    const Sums d;
+    const auto start = hn::Set(d, axes.quotient.Start());
+    MakeGroups<kLanes>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
+      const auto sum = [&](ptrdiff_t at) QVP_INLINED {
+        const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + at); };
+        return hn::Add(start, SumOfProducts<false>(d, axes.down.taps, axes.down.count, value));
+      };
+      StoreBlocks(axes.quotient, sum(i), sum(i + kHalf), to);
+    });
+  }
+};
+
+// Where neither 32 bits nor doubles hold the sums.
+struct LongAxes {
+  AxisOf<int64_t> across, down;
+  int channels, mode, divisor;
+};
+
+// n / d for a rounding mode.
+int64_t Quotient(int64_t n, int64_t d, int mode) {
+  const int64_t whole = n / d, rest = n % d, magnitude = rest < 0 ? -rest : rest, divisor = d < 0 ? -d : d;
+  const int64_t away = (n < 0) != (d < 0) ? -1 : 1;
+  const bool isTie = 2 * magnitude == divisor;
+  const bool isUp = 2 * magnitude > divisor || (isTie && (mode == qvpRoundFinancial || whole % 2 != 0));
+  return mode != qvpRoundZero && isUp ? whole + away : whole;
+}
+
+template <class T, class R>
+struct LongKernel {
+  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto& axes = *static_cast<const LongAxes*>(context);
+    auto* const to = static_cast<int64_t*>(line);
+    for (ptrdiff_t i = 0; i < samples; ++i) {
+      int64_t sum = 0;
+      for (ptrdiff_t k = 0; k < axes.across.count; ++k) {
+        sum += int64_t{LoadScalar(static_cast<const T*>(source) + i + k * axes.channels)} * axes.across.taps[k];
+      }
+      to[i] = sum;
+    }
+  }
+  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+    const auto& axes = *static_cast<const LongAxes*>(context);
+    using Limits = std::numeric_limits<R>;
+    for (ptrdiff_t i = 0; i < samples; ++i) {
+      int64_t sum = 0;
+      for (ptrdiff_t k = 0; k < axes.down.count; ++k) {
+        sum += static_cast<const int64_t*>(lines[k])[i] * axes.down.taps[k];
+      }
+      const int64_t result = Quotient(sum, axes.divisor, axes.mode);
+      StoreScalar(reinterpret_cast<R*>(rows.upper[0]) + i,
+                  static_cast<R>(std::clamp<int64_t>(result, Limits::lowest(), Limits::max())));
+    }
+  }
+};
+
+template <class Tap>
+AxisOf<Tap> AxisIn(const uint8_t* table, ptrdiff_t taps) {
+  return {SeparableRecord::TapsIn<Tap>(table), taps};
+}
+
+template <class Kernel, class Axes, class Bits>
+void Filter(const Windows<Bits>& windows, const Axes& axes, int elementBytes, bool readsBeyond = false) {
+  FilterWindows(windows, {&axes, Kernel::Across, Kernel::Down, elementBytes, 1, readsBeyond});
+}
+
+template <class T, class R, class F, class Bits>
+void FilterInLanes(const SeparableRecord& r, const Windows<Bits>& windows) {
+  const LaneAxes<F> axes{AxisIn<F>(r.Across(), r.width), AxisIn<F>(r.Down(), r.height), windows.src.channels(), r.mode,
+                         static_cast<double>(r.divisor)};
+  Filter<LaneKernel<T, R, F, false>>(windows, axes, sizeof(F));
+}
+
+template <class T, class R, class Bits>
+void FilterIntegers(const SeparableRecord& r, const Windows<Bits>& windows) {
+  const PairedTaps across{SeparableRecord::PairsIn(r.Across(), r.width), r.width},
+      down{SeparableRecord::PairsIn(r.Down(), r.height), r.height};
+  const IntegerAxes axes{AxisIn<int32_t>(r.Across(), r.width),
+                         AxisIn<int32_t>(r.Down(), r.height),
+                         across,
+                         down,
+                         windows.src.channels(),
+                         std::is_same_v<T, uint16_t> ? 32768 * r.rowSum : 0,
+                         IntegerQuotient(r.mode, r.divisor, r.largestSum)};
+  if constexpr (sizeof(T) == 1) {
+    if (r.form == SeparableForm::kWords) return Filter<WordKernel<R>>(windows, axes, sizeof(int16_t));
+  }
+  Filter<IntKernel<T, R>>(windows, axes, sizeof(int32_t), true);
+}
+
+template <class T, class R, class Bits>
+void FilterByForm(const SeparableRecord& r, const Windows<Bits>& windows) {
+  if (r.form == SeparableForm::kFloats) return FilterInLanes<T, R, float>(r, windows);
+  if constexpr (std::is_integral_v<T>) {
+    if (r.form == SeparableForm::kDoubles) return FilterInLanes<T, R, double>(r, windows);
+    if (r.form != SeparableForm::kLongs) return FilterIntegers<T, R>(r, windows);
+    const LongAxes axes{AxisIn<int64_t>(r.Across(), r.width), AxisIn<int64_t>(r.Down(), r.height),
+                        windows.src.channels(), r.mode, r.divisor};
+    Filter<LongKernel<T, R>>(windows, axes, sizeof(int64_t));
+  }
+}
+
+template <class T, class R>
+QvpStatus Separable(const Image<const T>& src, const Image<R>& dst, Size roi, QvpiBorderType border, const T* value,
+                    const QvpiFilterSeparableBorderSpec* spec, uint8_t* buffer) {
+  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {spec, buffer})) return failed;
+  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+  const SeparableRecord& r = *SeparableRecord::At(spec);
+  const bool isOurs = r.identification == SeparableRecord::kIdentification && r.srcType == kDataTypeOf<T> &&
+                      r.dstType == kDataTypeOf<R> && r.channels == Channels(src.layout);
+  if (!isOurs) return qvpStatusContextMatch;
+  auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
+  windows.outputs[0] = AsBytes(dst);
+  FilterByForm<T, R>(r, windows);
+  return qvpStatusNoError;
+}
+
+}  // namespace
+}  // namespace qvp::filter
+
+using namespace qvp;
+using namespace qvp::filter;
+
+#define SEPARABLE(from, to, types, layout)                                                                         \
+  QvpStatus qvpiFilterSeparableBorder_##types##_##layout##R(                                                       \
+      const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, \
+      const Qvp##from* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer) {                  \
+    return Separable<Qvp##from, Qvp##to>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout},   \
+                                         roiSize, borderType, borderValue, pSpec, pBuffer);                        \
+  }
+QVP_EACH_LAYOUT(SEPARABLE, 8u, 8u, 8u)
+QVP_EACH_LAYOUT(SEPARABLE, 16u, 16u, 16u)
+QVP_EACH_LAYOUT(SEPARABLE, 16s, 16s, 16s)
+QVP_EACH_LAYOUT(SEPARABLE, 32f, 32f, 32f)
+QVP_C1_C3_C4(SEPARABLE, 8u, 16s, 8u16s)

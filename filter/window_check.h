@@ -1,0 +1,40 @@
+// The first checks of the filters that have a window, in their order.
+#pragma once
+
+#include <algorithm>
+
+#include "base/border.h"
+#include "base/check.h"
+
+namespace qvp::filter {
+
+// A step must cover its row.
+template <class T>
+bool CoversRow(const Image<T>& image, Size roi) {
+  return image.step >= int64_t{roi.width} * image.PixelBytes();
+}
+
+// Pointers, among them the value of a constant border; the region; steps.
+template <class T, class R>
+QvpStatus CheckWindow(const Image<const T>& src, const Image<R>& dst, Size roi, QvpiBorderType border, const T* value,
+                      Pointers others) {
+  if (const QvpStatus failed = Validate<kPointers>(roi, {src, dst}, others)) return failed;
+  if (KindOf(border) == BorderKind::kConst && !value) return qvpStatusNullPointer;
+  if (const QvpStatus failed = Validate<kSize>(roi, {})) return failed;
+  return CoversRow(src, roi) && CoversRow(dst, roi) ? qvpStatusNoError : qvpStatusStep;
+}
+
+// What functions that name an image's type take for it.
+template <class T>
+constexpr QvpDataType kDataTypeOf = std::is_same_v<T, uint8_t>    ? qvp8u
+                                    : std::is_same_v<T, uint16_t> ? qvp16u
+                                    : std::is_same_v<T, int16_t>  ? qvp16s
+                                                                  : qvp32f;
+
+// Types and channels that size queries and Inits of filters know.
+constexpr bool IsFilteredType(QvpDataType type) {
+  return type == qvp8u || type == qvp16u || type == qvp16s || type == qvp32f;
+}
+constexpr bool IsFilteredChannelCount(int channels) { return channels == 1 || channels == 3 || channels == 4; }
+
+}  // namespace qvp::filter

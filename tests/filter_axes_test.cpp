@@ -1,0 +1,426 @@
+// Filters that sum across, then down, against their formulas: the separable filter and that of Gauss.
+#include <cmath>
+#include <functional>
+
+#include "tests/support/bordered.h"
+#include "tests/support/name.h"
+
+namespace {
+using test::Block;
+using test::Bordered;
+using test::Element;
+using test::ElementOf;
+using test::Export;
+using test::Name;
+using test::Real;
+using test::Region;
+
+// A record and a buffer of the reported sizes, before unreadable pages; the record may begin anywhere.
+template <class Spec>
+class Prepared {
+ public:
+  template <class Init>
+  Prepared(QvpiSize mask, QvpiSize roi, int channels, int spec, int buffer, const Init& init) {
+    EXPECT_LE(buffer, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
+    EXPECT_LE(spec, 64 * (mask.width + mask.height) + 512);
+    static int phase = 0;
+    phase_ = phase = (phase + 7) % 64;
+    spec_ = std::make_unique<Block>(spec + phase_);
+    buffer_ = std::make_unique<Block>(buffer);
+    EXPECT_EQ(init(get()), 0);
+  }
+  Spec* get() const { return reinterpret_cast<Spec*>(spec_->data() + phase_); }
+  Qvp8u* buffer() const { return buffer_->data(); }
+
+ private:
+  int phase_;
+  std::unique_ptr<Block> spec_, buffer_;
+};
+
+// Filters the part of a scene that begins at x, y.
+template <class Spec>
+QvpStatus Apply(const Export& function, const Bordered& scene, const Prepared<Spec>& prepared, int x, int y,
+                QvpiSize size, int border, const test::Argument& dst) {
+  return function({{"pSrc", {scene.At(x, y), scene.image.step()}},
+                   {"pDst", dst},
+                   {"roiSize", size},
+                   {"borderType", border},
+                   {"borderValue", {scene.value}},
+                   {"pSpec", {prepared.get()}},
+                   {"pBuffer", {prepared.buffer()}}});
+}
+
+using Expected = std::function<Real(const std::function<Real(int, int)>& pixel)>;
+
+template <class Spec>
+void Check(const Export& function, QvpiSize mask, const Region& r, const Prepared<Spec>& prepared,
+           const Expected& expected) {
+  const Name name(function.name);
+  const Bordered scene(name.From(), test::ReachOf(mask), r);
+  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8);
+  const test::Samples before(dst);
+  ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0) << function.name;
+  for (int y = 0; y < r.size.height; ++y) {
+    for (int i = 0; i < r.size.width * r.channels; ++i) {
+      const int x = i / r.channels, c = i % r.channels;
+      const bool isKept = name.written == 3 && c == 3;
+      const auto pixel = [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); };
+      const Real value = isKept ? before(i, y) : expected(pixel);
+      ASSERT_TRUE(test::AreSame(dst(i, y), value))
+          << dst(i, y) << " for " << value << " of " << function.name << " mask " << mask.width << 'x' << mask.height
+          << " border " << r.border << " region " << r.size.width << 'x' << r.size.height << " at " << i << ',' << y;
+    }
+  }
+}
+
+// A region and a border that a number stands for.
+Region RegionOf(int turn, int channels) {
+  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
+  const int width = turn % 5 == 4 ? 257 + turn % 40 : 1 + turn * 7 % 70;
+  return {{width, 1 + turn % 9}, channels, kKinds[turn % 3] | turn * 0x30 % 0x100};
+}
+
+// ---- The separable filter
+
+struct Axes {
+  bool isInteger;
+  std::vector<Real> row, column;
+  int divisor = 1;
+  QvpRoundMode mode = qvpRoundNear;
+
+  QvpiSize size() const { return {static_cast<int>(row.size()), static_cast<int>(column.size())}; }
+};
+
+// Taps of magnitudes up to `limit`.
+Axes RandomAxes(bool isInteger, QvpiSize size, int limit, int divisor = 1, QvpRoundMode mode = qvpRoundNear) {
+  Axes axes{isInteger, {}, {}, divisor, mode};
+  test::Random random(size.width * 31 + size.height + limit);
+  const auto tap = [&] {
+    const int k = static_cast<int>(random.Next() % (2 * limit + 1)) - limit;
+    return isInteger ? static_cast<Real>(k) : static_cast<Real>(static_cast<float>(k / 128.0));
+  };
+  for (int i = 0; i < size.width; ++i) axes.row.push_back(tap());
+  for (int j = 0; j < size.height; ++j) axes.column.push_back(tap());
+  return axes;
+}
+
+using Separable = Prepared<QvpiFilterSeparableBorderSpec>;
+
+Separable Prepare(const Axes& axes, const Name& name, QvpiSize roi) {
+  const QvpDataType src = name.From().code, dst = name.To().code;
+  int spec = 0, buffer = 0;
+  EXPECT_EQ(qvpiFilterSeparableBorderGetSize(axes.size(), roi, src, dst, axes.isInteger ? qvp16s : qvp32f,
+                                             name.channels, &spec, &buffer),
+            0);
+  return Separable(axes.size(), roi, name.channels, spec, buffer, [&](QvpiFilterSeparableBorderSpec* to) {
+    if (!axes.isInteger) {
+      const std::vector<Qvp32f> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
+      return qvpiFilterSeparableBorderInit_32f(row.data(), column.data(), axes.size(), src, dst, name.channels,
+                                               axes.mode, to);
+    }
+    const std::vector<Qvp16s> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
+    return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), axes.size(), axes.divisor, src, dst,
+                                             name.channels, axes.mode, to);
+  });
+}
+
+// Taps are turned; sums in F, each operation rounded, the first product alone.
+template <class F>
+F SumAlong(const std::vector<Real>& taps, const std::function<F(int)>& value) {
+  const int n = static_cast<int>(taps.size());
+  volatile F sum = 0;
+  for (int i = 0; i < n; ++i) {
+    const volatile F product = static_cast<F>(taps[n - 1 - i]) * value(i - (n - 1) / 2);
+    sum = i == 0 ? product : static_cast<F>(sum + product);
+  }
+  return sum;
+}
+template <class F>
+F SumOf(const Axes& axes, const std::function<Real(int, int)>& pixel) {
+  return SumAlong<F>(axes.column,
+                     [&](int j) { return SumAlong<F>(axes.row, [&](int i) { return static_cast<F>(pixel(i, j)); }); });
+}
+
+void CheckSeparable(const Export& function, const Axes& axes, const Region& r) {
+  const Name name(function.name);
+  Check(function, axes.size(), r, Prepare(axes, name, r.size), [&](const auto& pixel) {
+    if (axes.isInteger) return test::Quotient(name.To(), SumOf<int64_t>(axes, pixel), axes.divisor, axes.mode);
+    return test::Converted(name.To(), SumOf<float>(axes, pixel), axes.mode);
+  });
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  const auto& all = test::Exports();
+  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+}
+
+TEST(FilterSeparable, EveryMemberEqualsItsFormula) {
+  constexpr QvpiSize kSizes[] = {{1, 1}, {3, 3}, {5, 2}, {2, 5}, {9, 9}, {15, 3}, {3, 15}, {1, 7}, {64, 1}, {4, 33}};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterSeparableBorder"})) {
+    const Name name(function->name);
+    for (const QvpiSize size : kSizes) {
+      // Sums across of 16 and of 32 bits, doubles, 64 bits.
+      for (const int limit : {3, 100, 8000, 32767}) {
+        ++turn;
+        if (name.From().isInteger) {
+          CheckSeparable(*function, RandomAxes(true, size, limit, 1 + limit * limit / 3, turn % 3),
+                         RegionOf(turn, name.channels));
+        }
+        if (limit == 100) {
+          CheckSeparable(*function, RandomAxes(false, size, limit, 1, turn % 3), RegionOf(turn, name.channels));
+        }
+      }
+    }
+  }
+}
+
+// Extreme pixels under extreme taps: at the bounds between the forms of sums nothing may wrap around.
+TEST(FilterSeparable, NeverWrapsAround) {
+  for (const auto& [type, lowest, highest] : {std::tuple{"8u", 0, 255}, {"16u", 0, 65535}, {"16s", -32768, 32767}}) {
+    const Export& function = FunctionNamed(std::string("qvpiFilterSeparableBorder_") + type + "_C1R");
+    for (const int tap : {1, 63, 64, 127, 128, 180, 181, 182, 2047, 2048, 32767, -32768}) {
+      for (const QvpiSize size : {QvpiSize{1, 1}, {2, 1}, {3, 2}, {16, 16}, {40, 1000}}) {
+        if (size.height > 100 && tap > 0 && tap < 32767) continue;
+        for (const int divisor : {1, 1000, INT32_MAX, -7, INT32_MIN}) {
+          Axes axes{true, std::vector<Real>(size.width, tap), std::vector<Real>(size.height, tap), divisor};
+          if (size.width > 1) axes.row[0] = -tap - (tap == -32768);
+          const Name name(function.name);
+          const Region r{{33, 1}, 1, qvpBorderReplicate};
+          Bordered scene(name.From(), {}, r);
+          for (const int pixel : {lowest, highest}) {
+            scene.image.Fill([&](int, int) { return pixel; });
+            const test::Samples dst(name.To(), 33, 1, 0);
+            ASSERT_EQ(Apply(function, scene, Prepare(axes, name, r.size), 0, 0, r.size, r.border, dst), 0);
+            const auto expected = test::Quotient(name.To(), SumOf<int64_t>(axes, [&](int, int) { return Real(pixel); }),
+                                                 divisor, axes.mode);
+            for (int i = 0; i < 33; ++i) ASSERT_EQ(dst(i, 0), expected) << type << ' ' << tap << ' ' << divisor;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
+  const Axes axes = RandomAxes(true, {5, 4}, 9, 37);
+  const Export& function = FunctionNamed("qvpiFilterSeparableBorder_8u_C3R");
+  const Region r{{300, 7}, 3, qvpBorderMirror};
+  const Bordered scene(ElementOf("8u"), {}, r);
+  const test::Samples dst(ElementOf("8u"), 900, 7, 0), other(ElementOf("8u"), 900, 7, 0);
+  ASSERT_EQ(Apply(function, scene, Prepare(axes, Name(function.name), r.size), 0, 0, r.size, r.border, dst), 0);
+  std::vector<Qvp16s> product;
+  for (const Real c : axes.column) {
+    for (const Real k : axes.row) product.push_back(static_cast<Qvp16s>(c * k));
+  }
+  int spec, bytes;
+  ASSERT_EQ(qvpiFilterBorderGetSize({5, 4}, r.size, qvp8u, qvp16s, 3, &spec, &bytes), 0);
+  const Block record(spec), buffer(bytes);
+  auto* const general = reinterpret_cast<QvpiFilterBorderSpec*>(record.data());
+  ASSERT_EQ(qvpiFilterBorderInit_16s(product.data(), {5, 4}, 37, qvp8u, 3, qvpRoundNear, general), 0);
+  ASSERT_EQ(qvpiFilterBorder_8u_C3R(scene.At(0, 0), scene.image.step(), other.bytes(), other.step(), r.size, r.border,
+                                    nullptr, general, buffer.data()),
+            0);
+  EXPECT_EQ(std::memcmp(dst.bytes(), other.bytes(), 900 * 7), 0);
+}
+
+TEST(FilterSeparable, RefusesInTheDocumentedOrder) {
+  int spec = 1, buffer = 1;
+  const auto size = [&](QvpiSize kernel, QvpiSize roi, int src, int dst, int kernelType, int channels) {
+    return qvpiFilterSeparableBorderGetSize(kernel, roi, src, dst, kernelType, channels, &spec, &buffer);
+  };
+  EXPECT_EQ(qvpiFilterSeparableBorderGetSize({}, {}, 0, 0, 0, 0, &spec, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(size({}, {1, 0}, 0, 0, 0, 0), qvpStatusSize);
+  EXPECT_EQ(size({256, 257}, {1, 1}, 0, 0, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size({256, 256}, {1, 1}, qvp32f, qvp32f, qvp16s, 0), qvpStatusDataType);
+  EXPECT_EQ(size({256, 256}, {1, 1}, qvp16u, qvp16s, qvp16s, 0), qvpStatusDataType);
+  EXPECT_EQ(size({256, 256}, {1, 1}, qvp8u, qvp16s, qvp32f, 2), qvpStatusNumChannels);
+  const Qvp16s k[9] = {};
+  const Block block(4096), work(65536);
+  auto* const record = reinterpret_cast<QvpiFilterSeparableBorderSpec*>(block.data());
+  const auto init = [&](const Qvp16s* row, QvpiSize kernel, int divisor, int src, int channels, int mode) {
+    return qvpiFilterSeparableBorderInit_16s(row, k, kernel, divisor, src, src, channels, mode, record);
+  };
+  const auto filter = [&](int channels) {
+    Qvp8u pixels[64] = {}, out[64];
+    return channels == 1 ? qvpiFilterSeparableBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data())
+                         : qvpiFilterSeparableBorder_8u_C3R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data());
+  };
+  EXPECT_EQ(init(k, {3, 3}, 1, qvp8u, 1, 1), 0);
+  EXPECT_EQ(filter(1), 0);
+  EXPECT_EQ(filter(3), qvpStatusContextMatch);
+  EXPECT_EQ(init(nullptr, {0, 3}, 0, 0, 0, 9), qvpStatusNullPointer);
+  EXPECT_EQ(filter(1), qvpStatusContextMatch);
+  EXPECT_EQ(init(k, {0, 3}, 0, 0, 0, 9), qvpStatusMaskSize);
+  EXPECT_EQ(init(k, {3, 3}, 0, 0, 0, 9), qvpStatusDataType);
+  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 0, 9), qvpStatusNumChannels);
+  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 1, 9), qvpStatusRoundMode);
+  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 1, 1), qvpStatusDivisor);
+}
+
+// ---- Gauss
+
+using Gauss = Prepared<QvpiFilterGaussBorderSpec>;
+
+Gauss PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& name, QvpiSize roi) {
+  int spec = 0, buffer = 0;
+  const QvpDataType type = name.From().code;
+  EXPECT_EQ(qvpiFilterGaussBorderGetSize(mask, roi, type, name.channels, &spec, &buffer), 0);
+  return Gauss(mask, roi, name.channels, spec, buffer, [&](QvpiFilterGaussBorderSpec* to) {
+    return qvpiFilterGaussBorderInit(mask, sigmaX, sigmaY, type, name.channels, to);
+  });
+}
+
+// From the middle on.
+std::vector<double> Weights(int size, double sigma) {
+  std::vector<double> w;
+  double sum = 0;
+  for (int d = 0; d <= size / 2; ++d) w.push_back(std::exp(-d * double(d) / (2 * sigma * sigma)));
+  for (int d = size / 2; d > 0; --d) sum += w[d];
+  const double all = w[0] + 2 * sum;
+  for (double& v : w) v /= all;
+  return w;
+}
+
+struct WholeTaps {
+  int bits;
+  std::vector<int64_t> taps;
+};
+WholeTaps WholeWeights(int size, double sigma) {
+  const std::vector<double> w = Weights(size, sigma);
+  for (int bits = 17;; --bits) {
+    std::vector<int64_t> q(w.size());
+    double error = 0;
+    q[0] = 1 << bits;
+    for (size_t d = w.size() - 1; d > 0; --d) {
+      const double v = w[d] * (1 << bits) + error;
+      q[d] = std::llrint(v);
+      error = v - q[d];
+      q[0] -= 2 * q[d];
+    }
+    if (q[0] <= 32767) return {bits, q};
+  }
+}
+
+template <class F, class Tap, class Value>
+F FoldedSum(const std::vector<Tap>& taps, const Value& value) {
+  volatile F sum = static_cast<F>(taps[0]) * static_cast<F>(value(0));
+  for (int d = 1; d < static_cast<int>(taps.size()); ++d) {
+    const volatile F pair = static_cast<F>(value(d)) + static_cast<F>(value(-d));
+    const volatile F product = static_cast<F>(taps[d]) * pair;
+    sum = sum + product;
+  }
+  return sum;
+}
+
+void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigmaY, const Region& r) {
+  const Name name(function.name);
+  const Element& element = name.From();
+  const WholeTaps across = WholeWeights(mask.width, sigmaX), down = WholeWeights(mask.height, sigmaY);
+  const auto floats = [](const std::vector<double>& w) { return std::vector<float>(w.begin(), w.end()); };
+  const std::vector<float> x = floats(Weights(mask.width, sigmaX)), y = floats(Weights(mask.height, sigmaY));
+  Check(function, mask, r, PrepareGauss(mask, sigmaX, sigmaY, name, r.size), [&](const auto& pixel) -> Real {
+    if (element.bytes == 1) {
+      const auto row = [&](int j) {
+        const auto sum = FoldedSum<int64_t>(across.taps, [&](int i) { return pixel(i, j); });
+        return (sum + (int64_t{1} << (across.bits - 7))) >> (across.bits - 6);
+      };
+      return (FoldedSum<int64_t>(down.taps, row) + (int64_t{1} << (down.bits + 5))) >> (down.bits + 6);
+    }
+    const float sum =
+        FoldedSum<float>(y, [&](int j) { return FoldedSum<float>(x, [&](int i) { return pixel(i, j); }); });
+    return test::Converted(element, sum);
+  });
+}
+
+TEST(FilterGauss, EveryMemberEqualsItsFormula) {
+  constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 3}, {1, 9}, {7, 7}, {31, 5}, {15, 63}, {101, 1}};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterGaussBorder"})) {
+    for (const QvpiSize mask : kMasks) {
+      for (const float sigma : {0.01f, 0.8f, 2.5f, 40.0f}) {
+        ++turn;
+        CheckGauss(*function, mask, sigma, sigma + turn % 2, RegionOf(turn, Name(function->name).channels));
+      }
+    }
+  }
+}
+
+TEST(FilterGauss, KnownWeightsAndPictures) {
+  EXPECT_EQ(WholeWeights(3, 0.8f).taps, (std::vector<int64_t>{17106, 7831}));
+  EXPECT_EQ(WholeWeights(5, 1.1f).taps, (std::vector<int64_t>{24218, 16021, 4638}));
+  const WholeTaps wide = WholeWeights(15, 2.5);
+  EXPECT_EQ(wide.bits, 17);
+  EXPECT_EQ(wide.taps[0], 20970);
+  const Export& function = FunctionNamed("qvpiFilterGaussBorder_8u_C1R");
+  const Region r{{5, 5}, 1, qvpBorderReplicate};
+  Bordered scene(ElementOf("8u"), {}, r);
+  scene.image.Fill([](int x, int y) { return x == 2 && y == 2 ? 255 : 0; });
+  const test::Samples dst(ElementOf("8u"), 5, 5, 0);
+  const Gauss prepared = PrepareGauss({5, 5}, 1.1f, 1.1f, Name(function.name), r.size);
+  ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0);
+  constexpr int kExpected[3][3] = {{35, 23, 7}, {23, 15, 4}, {7, 4, 1}};
+  for (int i = 0; i < 9; ++i) EXPECT_EQ(dst(2 + i % 3, 2 + i / 3), kExpected[i / 3][i % 3]);
+}
+
+// Constants stay, at every size of the mask.
+TEST(FilterGauss, KeepsConstants) {
+  for (const auto& [type, value] : {std::pair{"8u", 255}, {"16u", 65535}, {"16s", -32768}}) {
+    const Export& function = FunctionNamed(std::string("qvpiFilterGaussBorder_") + type + "_C1R");
+    const Region r{{40, 2}, 1, qvpBorderMirror};
+    Bordered scene(ElementOf(type), {}, r);
+    scene.image.Fill([v = value](int, int) { return v; });
+    const test::Samples dst(ElementOf(type), 40, 2, 0);
+    for (int side = 1; side <= 1023; side += side < 65 ? 2 : 86) {
+      const Gauss prepared = PrepareGauss({side, side}, side / 4.0f, side / 5.0f, Name(function.name), r.size);
+      ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0);
+      for (int i = 0; i < 80; ++i) ASSERT_EQ(dst(i % 40, i / 40), value) << type << ' ' << side;
+    }
+  }
+}
+
+TEST(FilterGauss, TilesEqualTheWhole) {
+  const Export& function = FunctionNamed("qvpiFilterGaussBorder_32f_C1R");
+  const QvpiSize size{700, 40}, mask{9, 7};
+  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+    const Bordered scene(ElementOf("32f"), {}, {size, 1, kind});
+    const test::Samples whole(scene.element(), size.width, size.height, 0),
+        tiled(scene.element(), size.width, size.height, 4);
+    const Gauss prepared = PrepareGauss(mask, 2, 1.5f, Name(function.name), size);
+    ASSERT_EQ(Apply(function, scene, prepared, 0, 0, size, kind, whole), 0);
+    test::ForEachTile(size, {58, 18}, kind, [&](int x, int y, QvpiSize part, int border) {
+      ASSERT_EQ(Apply(function, scene, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+    });
+    for (int i = 0; i < size.width * size.height; ++i) {
+      ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width));
+    }
+  }
+}
+
+TEST(FilterGauss, RefusesInTheDocumentedOrder) {
+  const Block block(4096), work(65536);
+  auto* const record = reinterpret_cast<QvpiFilterGaussBorderSpec*>(block.data());
+  const auto init = [&](QvpiSize mask, float x, float y, int type, int channels) {
+    return qvpiFilterGaussBorderInit(mask, x, y, type, channels, record);
+  };
+  Qvp8u pixels[64] = {}, out[64];
+  const auto filter = [&] {
+    return qvpiFilterGaussBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data());
+  };
+  EXPECT_EQ(init({3, 3}, 1, 1, qvp8u, 1), 0);
+  EXPECT_EQ(filter(), 0);
+  EXPECT_EQ(qvpiFilterGaussBorderInit({}, 0, 0, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(init({2, 3}, 0, 1, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(filter(), qvpStatusContextMatch);
+  EXPECT_EQ(init({3, 1025}, 0, 1, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(init({3, 3}, 0, 1, 99, 0), qvpStatusDataType);
+  EXPECT_EQ(init({3, 3}, 0, 1, qvp8u, 2), qvpStatusNumChannels);
+  for (const float sigma : {0.0f, -1.0f, NAN, INFINITY}) {
+    EXPECT_EQ(init({3, 3}, sigma, 1, qvp8u, 1), qvpStatusBadArgument);
+    EXPECT_EQ(init({3, 3}, 1, sigma, qvp8u, 1), qvpStatusBadArgument);
+  }
+  EXPECT_EQ(init({3, 3}, 1, 1, qvp16u, 1), 0);
+  EXPECT_EQ(filter(), qvpStatusContextMatch);
+}
+
+}  // namespace
