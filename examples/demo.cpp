@@ -51,6 +51,7 @@ int main(int argc, char** argv) try {
   demo::ThresholdSteps(demo);
   demo::LookupSteps(demo);
   demo::FilterSteps(demo);
+  demo::AxesFilterSteps(demo);
   demo::FixedFilterSteps(demo);
   demo::ResizeSteps(demo);
   demo::WarpSteps(demo);

@@ -44,6 +44,7 @@ void LookupSteps(Demo& demo);
 void ConvertSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
 void FilterSteps(Demo& demo);
+void AxesFilterSteps(Demo& demo);
 void FixedFilterSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void WarpSteps(Demo& demo);
