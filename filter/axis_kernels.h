@@ -7,12 +7,6 @@
 
 namespace qvp::filter {
 
-template <class Tap>
-struct AxisOf {
-  const Tap* taps;
-  ptrdiff_t count;  // of terms
-};
-
 // Sums in lanes of F: floats or doubles, or 16-bit numbers for what comes across before it goes down in pairs.
 template <class F>
 struct LaneAxes {
@@ -21,14 +15,20 @@ struct LaneAxes {
   double divisor;
 };
 
+// Vectors that are summed at a time: enough to hide how long additions take, few enough for the registers.
+template <class F>
+inline constexpr int kSumsAtOnce = 4;
+
 template <class T, class F, class Tap, bool kIsFolded>
-HWY_INLINE void SumAcross(const T* source, const AxisOf<Tap>& axis, ptrdiff_t channels, ptrdiff_t samples, F* line) {
+HWY_INLINE void SumAcross(const T* source, const AxisOf<Tap>& shared, ptrdiff_t channels, ptrdiff_t samples, F* line) {
   const hn::ScalableTag<F> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-  const AxisOf<Tap> a = axis;
-  ForEachVector<kLanes>(std::max(samples, kLanes), [&](ptrdiff_t i) HWY_ATTR {
-    const auto value = [&](ptrdiff_t k) QVP_INLINED { return LoadWide(d, source + i + k * channels); };
-    hn::StoreU(SumOfProducts<kIsFolded>(d, a.taps, a.count, value), d, line + i);
+  const AxisOf<Tap> axis = shared;
+  ForEachVectors<kSumsAtOnce<F>, kLanes>(samples, [&](auto count, ptrdiff_t i) HWY_ATTR {
+    const auto value = [&](ptrdiff_t k, auto v)
+                           QVP_INLINED { return LoadWide(d, source + i + v * kLanes + k * channels); };
+    const auto sums = SumsOfProducts<kIsFolded, count>(d, axis, value);
+    Unrolled<count>([&](auto v) QVP_INLINED { hn::StoreU(sums[v], d, line + i + v * kLanes); });
   });
 }
 
@@ -45,13 +45,21 @@ struct LaneKernel {
     const auto axes = *static_cast<const LaneAxes<F>*>(context);
     const auto* const from = reinterpret_cast<const F* const*>(lines);
     const hn::ScalableTag<F> d;
-    MakeRow<hn::MaxLanes(d)>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
-      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
-      auto sum = SumOfProducts<kIsFolded>(d, axes.down.taps, axes.down.count, value);
-      if constexpr (sizeof(F) == sizeof(double)) sum = hn::Div(sum, hn::Set(d, axes.divisor));
-      if constexpr (std::is_integral_v<R>) sum = RoundedBy(axes.mode, d, sum);
-      hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
+    constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+    auto* const out = reinterpret_cast<R*>(rows.upper[0]);
+    MakeRow<kSumsAtOnce<F>, kLanes>(samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(d, from[k] + i + v * kLanes); };
+      const auto sums = SumsOfProducts<kIsFolded, count>(d, axes.down, value);
+      Unrolled<count>([&](auto v) QVP_INLINED { Store(axes, sums[v], to + v * kLanes); });
     });
+  }
+
+ private:
+  static HWY_INLINE void Store(const LaneAxes<F>& axes, hn::Vec<hn::ScalableTag<F>> sum, R* to) {
+    const hn::ScalableTag<F> d;
+    if constexpr (sizeof(F) == sizeof(double)) sum = hn::Div(sum, hn::Set(d, axes.divisor));
+    if constexpr (std::is_integral_v<R>) sum = RoundedBy(axes.mode, d, sum);
+    hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
   }
 };
 

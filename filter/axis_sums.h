@@ -2,7 +2,7 @@
 // window.
 //
 // A symmetric kernel's values may be folded: the middle one, then the sums of the pairs at each distance from it; the
-// taps are those from the middle on then.
+// taps are those from the middle on then. Several vectors are summed at a time, which share the taps.
 #pragma once
 
 #include "base/pairs.h"
@@ -11,16 +11,11 @@
 
 namespace qvp::filter {
 
-// Term k of `count`, from value(0), value(1)... of all taps.
-template <bool kIsFolded, class Value>
-HWY_INLINE auto TermAt(const Value& value, ptrdiff_t k, ptrdiff_t count) {
-  if constexpr (kIsFolded) {
-    const ptrdiff_t middle = count - 1;
-    return k == 0 ? value(middle) : hn::Add(value(middle + k), value(middle - k));
-  } else {
-    return value(k);
-  }
-}
+template <class Tap>
+struct AxisOf {
+  const Tap* taps;
+  ptrdiff_t count;  // of terms
+};
 
 // Taps of 16 bits by twos, as the multiplication of pairs takes them; an odd one has a 0 beside it.
 struct PairedTaps {
@@ -28,64 +23,90 @@ struct PairedTaps {
   ptrdiff_t count;
 };
 
+// Term k of `count` of vector v, from value(0, v), value(1, v)... of all taps.
+template <bool kIsFolded, class Value, class Place>
+HWY_INLINE auto TermAt(const Value& value, ptrdiff_t k, ptrdiff_t count, Place v) {
+  if constexpr (kIsFolded) {
+    const ptrdiff_t middle = count - 1;
+    return k == 0 ? value(middle, v) : hn::Add(value(middle + k, v), value(middle - k, v));
+  } else {
+    return value(k, v);
+  }
+}
+
+// In lanes as they are, each product and each sum rounded; the first product stands alone.
+template <bool kIsFolded, int kCount, class D, class Tap, class Value>
+HWY_INLINE std::array<hn::Vec<D>, kCount> SumsOfProducts(D d, const AxisOf<Tap>& axis, const Value& value) {
+  std::array<hn::Vec<D>, kCount> sums;
+  const auto first = hn::Set(d, static_cast<hn::TFromD<D>>(axis.taps[0]));
+  Unrolled<kCount>([&](auto v) QVP_INLINED { sums[v] = hn::Mul(TermAt<kIsFolded>(value, 0, axis.count, v), first); });
+  for (ptrdiff_t k = 1; k < axis.count; ++k) {
+    const auto tap = hn::Set(d, static_cast<hn::TFromD<D>>(axis.taps[k]));
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
+      sums[v] = hn::Add(sums[v], hn::Mul(TermAt<kIsFolded>(value, k, axis.count, v), tap));
+    });
+  }
+  return sums;
+}
+
 // Sums of 16-bit lanes as 32-bit ones, modulo 2^32: those of the lower half of each block, and of the upper half.
 // Packing brings them back in order.
 template <class D>
 struct BlockSums {
-  using Sum = hn::Repartition<int32_t, D>;
-  hn::Vec<Sum> lower, upper;
+  hn::Vec<hn::Repartition<int32_t, D>> lower, upper;
 };
 
-template <bool kIsFolded, class D, class Value>
-HWY_INLINE BlockSums<D> SumOfPairs(D d, const PairedTaps& taps, int32_t start, const Value& value) {
-  const hn::Repartition<int32_t, D> sums;
-  BlockSums<D> sum{hn::Set(sums, start), hn::Set(sums, start)};
-  const auto add = [&](auto first, auto second, int32_t pair) QVP_INLINED {
-    const auto w = hn::BitCast(d, hn::Set(sums, pair));
-    sum.lower = hn::Add(sum.lower, MulAddPairs(hn::InterleaveLower(d, first, second), w));
-    sum.upper = hn::Add(sum.upper, MulAddPairs(hn::InterleaveUpper(d, first, second), w));
+template <bool kIsFolded, int kCount, class D, class Value>
+HWY_INLINE std::array<BlockSums<D>, kCount> SumsOfPairs(D d, const PairedTaps& taps, int32_t start,
+                                                        const Value& value) {
+  const hn::Repartition<int32_t, D> ints;
+  std::array<BlockSums<D>, kCount> sums;
+  Unrolled<kCount>([&](auto v) QVP_INLINED { sums[v].lower = sums[v].upper = hn::Set(ints, start); });
+  const auto add = [&](ptrdiff_t k, bool isPair) QVP_INLINED {
+    const auto w = hn::BitCast(d, hn::Set(ints, taps.pairs[k / 2]));
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
+      const auto a = TermAt<kIsFolded>(value, k, taps.count, v);
+      const auto b = isPair ? TermAt<kIsFolded>(value, k + 1, taps.count, v) : hn::Zero(d);
+      sums[v].lower = hn::Add(sums[v].lower, MulAddPairs(hn::InterleaveLower(d, a, b), w));
+      sums[v].upper = hn::Add(sums[v].upper, MulAddPairs(hn::InterleaveUpper(d, a, b), w));
+    });
   };
+  const bool isOdd = taps.count % 2 != 0;
   ptrdiff_t k = 0;
-  for (; k + 1 < taps.count; k += 2) {
-    add(TermAt<kIsFolded>(value, k, taps.count), TermAt<kIsFolded>(value, k + 1, taps.count), taps.pairs[k / 2]);
-  }
-  if (k < taps.count) add(TermAt<kIsFolded>(value, k, taps.count), hn::Zero(d), taps.pairs[k / 2]);
-  return sum;
+  for (; k + 1 < taps.count; k += 2) add(k, true);
+  if (isOdd) add(k, false);
+  return sums;
 }
 
-// In lanes as they are, each product and each sum rounded; the first product stands alone.
-template <bool kIsFolded, class D, class Tap, class Value>
-HWY_INLINE hn::Vec<D> SumOfProducts(D d, const Tap* taps, ptrdiff_t count, const Value& value) {
-  const auto term = [&](ptrdiff_t k) QVP_INLINED {
-    return hn::Mul(TermAt<kIsFolded>(value, k, count), hn::Set(d, static_cast<hn::TFromD<D>>(taps[k])));
-  };
-  auto sum = term(0);
-  for (ptrdiff_t k = 1; k < count; ++k) sum = hn::Add(sum, term(k));
-  return sum;
+// step(count, i) for the vectors of a row, kVectors at a time and then one by one; count is a constant. The last one
+// may overlap the one before it. A row that is shorter than a vector has a step at 0 alone.
+template <int kVectors, ptrdiff_t kLanes, class Step>
+HWY_INLINE void ForEachVectors(ptrdiff_t n, const Step& step) {
+  const ptrdiff_t last = std::max<ptrdiff_t>(n - kLanes, 0);
+  ptrdiff_t i = 0;
+  for (; i + kVectors * kLanes <= n; i += kVectors * kLanes) step(std::integral_constant<int, kVectors>(), i);
+  for (; i < n; i += kLanes) step(std::integral_constant<int, 1>(), std::min(i, last));
 }
 
-// make(i, to) for each vector of a row of n results, of which the last may overlap the one before it; make writes a
-// whole one.
-template <ptrdiff_t kLanes, class R, class Make>
-HWY_INLINE void MakeRow(ptrdiff_t n, R* to, const Make& make) {
-  if (n < kLanes) {
-    R staged[kLanes];
-    make(0, staged);
-    std::memcpy(to, staged, n * sizeof(R));
-    return;
-  }
-  ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { make(i, to + i); });
+// The same for a row of results: step(count, i, where they go), which writes whole vectors.
+template <int kVectors, ptrdiff_t kLanes, class R, class Step>
+HWY_INLINE void MakeRow(ptrdiff_t n, R* to, const Step& step) {
+  R staged[kLanes];
+  const bool isShort = n < kLanes;
+  R* const out = isShort ? staged : to;
+  ForEachVectors<kVectors, kLanes>(n, [&](auto count, ptrdiff_t i) QVP_INLINED { step(count, i, out + i); });
+  if (isShort) std::memcpy(to, staged, n * sizeof(R));
 }
 
-// The same for groups at places that are multiples of their length: the last one may have too many results.
+// For groups at places that are multiples of their length: the last one may have too many results.
 template <ptrdiff_t kLanes, class R, class Make>
 HWY_INLINE void MakeGroups(ptrdiff_t n, R* to, const Make& make) {
-  ptrdiff_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) make(i, to + i);
-  if (i == n) return;
   R staged[kLanes];
-  make(i, staged);
-  std::memcpy(to + i, staged, (n - i) * sizeof(R));
+  for (ptrdiff_t i = 0; i < n; i += kLanes) {
+    const bool isWhole = i + kLanes <= n;
+    make(i, isWhole ? to + i : staged);
+    if (!isWhole) std::memcpy(to + i, staged, (n - i) * sizeof(R));
+  }
 }
 
 }  // namespace qvp::filter

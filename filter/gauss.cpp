@@ -15,33 +15,46 @@ struct ByteAxes {
 };
 
 struct ByteKernel {
+  using D = hn::ScalableTag<int16_t>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  static constexpr int kVectors = 2;
+
   // Sums rounded and shifted, as 16-bit lanes in order.
-  template <class D, class Value>
-  static HWY_INLINE hn::Vec<D> Rounded(D d, const PairedTaps& taps, int shift, const Value& value) {
-    const auto sum = SumOfPairs<true>(d, taps, 1 << (shift - 1), value);
-    return Packed(int16_t(), hn::ShiftRightSame(sum.lower, shift), hn::ShiftRightSame(sum.upper, shift));
+  template <int kCount, class Value>
+  static HWY_INLINE std::array<hn::Vec<D>, kCount> Rounded(const PairedTaps& taps, int shift, const Value& value) {
+    const auto sums = SumsOfPairs<true, kCount>(D(), taps, 1 << (shift - 1), value);
+    std::array<hn::Vec<D>, kCount> results;
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
+      results[v] =
+          Packed(int16_t(), hn::ShiftRightSame(sums[v].lower, shift), hn::ShiftRightSame(sums[v].upper, shift));
+    });
+    return results;
   }
 
   static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
     const auto axes = *static_cast<const ByteAxes*>(context);
     const auto* const from = static_cast<const uint8_t*>(source);
     auto* const to = static_cast<int16_t*>(line);
-    const hn::ScalableTag<int16_t> d;
-    constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-    ForEachVector<kLanes>(std::max(samples, kLanes), [&](ptrdiff_t i) HWY_ATTR {
-      const auto value = [&](ptrdiff_t k) QVP_INLINED { return LoadWide(d, from + i + k * axes.channels); };
-      hn::StoreU(Rounded(d, axes.across, axes.acrossShift, value), d, to + i);
+    ForEachVectors<kVectors, kLanes>(samples, [&](auto count, ptrdiff_t i) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k, auto v)
+                             QVP_INLINED { return LoadWide(D(), from + i + v * kLanes + k * axes.channels); };
+      const auto results = Rounded<count>(axes.across, axes.acrossShift, value);
+      Unrolled<count>([&](auto v) QVP_INLINED { hn::StoreU(results[v], D(), to + i + v * kLanes); });
     });
   }
 
   static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
     const auto axes = *static_cast<const ByteAxes*>(context);
     const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
-    const hn::ScalableTag<int16_t> d;
-    const hn::Rebind<uint8_t, decltype(d)> bytes;
-    MakeRow<hn::MaxLanes(d)>(samples, rows.upper[0], [&](ptrdiff_t i, uint8_t* to) HWY_ATTR {
-      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
-      hn::StoreU(hn::DemoteTo(bytes, Rounded(d, axes.down, axes.downShift, value)), bytes, to);
+    MakeRow<kVectors, kLanes>(samples, rows.upper[0], [&](auto count, ptrdiff_t i, uint8_t* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(D(), from[k] + i + v * kLanes); };
+      const auto results = Rounded<count>(axes.down, axes.downShift, value);
+      if constexpr (count == kVectors) {
+        hn::StoreU(PackedInOrder<uint8_t>(results[0], results[1]), hn::ScalableTag<uint8_t>(), to);
+      } else {
+        const hn::Rebind<uint8_t, D> bytes;
+        hn::StoreU(hn::DemoteTo(bytes, results[0]), bytes, to);
+      }
     });
   }
 };

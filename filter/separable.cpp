@@ -18,18 +18,21 @@ struct IntegerAxes {
   IntegerQuotient quotient;
 };
 
-// A vector of lower and one of upper halves of blocks, divided and packed in their order.
-template <class R, class V>
-HWY_INLINE void StoreBlocks(const IntegerQuotient& quotient, V lower, V upper, R* to) {
-  const hn::DFromV<V> d;
+// Sums of blocks, divided and packed in their order to 16 bits, and these stored as results.
+template <class R, class Sums>
+HWY_INLINE auto Words(const IntegerQuotient& quotient, const Sums& sums) {
+  const hn::DFromV<decltype(sums.lower)> d;
   using Word = std::conditional_t<std::is_same_v<R, uint16_t>, uint16_t, int16_t>;
-  const auto words = Packed(Word(), quotient(d, lower), quotient(d, upper));
-  const hn::DFromV<decltype(words)> w;
+  return Packed(Word(), quotient(d, sums.lower), quotient(d, sums.upper));
+}
+template <class R, class V>
+HWY_INLINE void StoreWords(V words, R* to) {
+  const hn::DFromV<V> d;
   if constexpr (sizeof(R) == 1) {
-    const hn::Rebind<uint8_t, decltype(w)> bytes;
+    const hn::Rebind<uint8_t, decltype(d)> bytes;
     hn::StoreU(hn::DemoteTo(bytes, words), bytes, to);
   } else {
-    hn::StoreU(words, w, to);
+    hn::StoreU(words, d, to);
   }
 }
 
@@ -45,10 +48,12 @@ struct WordKernel {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
     const hn::ScalableTag<int16_t> d;
-    MakeRow<hn::MaxLanes(d)>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
-      const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + i); };
-      const auto sum = SumOfPairs<false>(d, axes.downPairs, axes.quotient.Start(), value);
-      StoreBlocks(axes.quotient, sum.lower, sum.upper, to);
+    constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+    auto* const out = reinterpret_cast<R*>(rows.upper[0]);
+    MakeRow<2, kLanes>(samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
+      const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(d, from[k] + i + v * kLanes); };
+      const auto sums = SumsOfPairs<false, count>(d, axes.downPairs, axes.quotient.Start(), value);
+      Unrolled<count>([&](auto v) QVP_INLINED { StoreWords(Words<R>(axes.quotient, sums[v]), to + v * kLanes); });
     });
   }
 };
@@ -76,26 +81,23 @@ struct IntKernel {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = static_cast<const T*>(source);
     auto* const to = static_cast<int32_t*>(line);
-    const D d;
     for (ptrdiff_t i = 0; i < samples; i += kLanes) {
-      const auto value = [&](ptrdiff_t k) QVP_INLINED { return Load(from + i + k * axes.channels); };
-      const auto sum = SumOfPairs<false>(d, axes.acrossPairs, axes.acrossStart, value);
-      hn::StoreU(sum.lower, Sums(), to + i);
-      hn::StoreU(sum.upper, Sums(), to + i + kHalf);
+      const auto value = [&](ptrdiff_t k, auto) QVP_INLINED { return Load(from + i + k * axes.channels); };
+      const auto sums = SumsOfPairs<false, 1>(D(), axes.acrossPairs, axes.acrossStart, value);
+      hn::StoreU(sums[0].lower, Sums(), to + i);
+      hn::StoreU(sums[0].upper, Sums(), to + i + kHalf);
     }
   }
 
   static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = reinterpret_cast<const int32_t* const*>(lines);
-    const Sums d;
-    const auto start = hn::Set(d, axes.quotient.Start());
+    const auto start = hn::Set(Sums(), axes.quotient.Start());
     MakeGroups<kLanes>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
-      const auto sum = [&](ptrdiff_t at) QVP_INLINED {
-        const auto value = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, from[k] + at); };
-        return hn::Add(start, SumOfProducts<false>(d, axes.down.taps, axes.down.count, value));
-      };
-      StoreBlocks(axes.quotient, sum(i), sum(i + kHalf), to);
+      const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(Sums(), from[k] + i + v * kHalf); };
+      const auto halves = SumsOfProducts<false, 2>(Sums(), axes.down, value);
+      const BlockSums<D> sums{hn::Add(start, halves[0]), hn::Add(start, halves[1])};
+      StoreWords(Words<R>(axes.quotient, sums), to);
     });
   }
 };
