@@ -41,13 +41,13 @@ struct LaneKernel {
                                   static_cast<F*>(line));
   }
 
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto axes = *static_cast<const LaneAxes<F>*>(context);
-    const auto* const from = reinterpret_cast<const F* const*>(lines);
+    const auto* const from = reinterpret_cast<const F* const*>(window.lines);
     const hn::ScalableTag<F> d;
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
     auto* const out = reinterpret_cast<R*>(rows.upper[0]);
-    MakeRow<kSumsAtOnce<F>, kLanes>(samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
+    MakeRow<kSumsAtOnce<F>, kLanes>(window.samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(d, from[k] + i + v * kLanes); };
       const auto sums = SumsOfProducts<kIsFolded, count>(d, axes.down, value);
       Unrolled<count>([&](auto v) QVP_INLINED { Store(axes, sums[v], to + v * kLanes); });

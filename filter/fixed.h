@@ -128,9 +128,9 @@ class FixedKernelOfParts {
     });
   }
 
-  static void Down(const void*, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
-    const auto from = LinesOf<Element, kLines>(lines);
-    FilterRows(FixedKernelOfParts(samples), from.data(), samples, reinterpret_cast<R*>(rows.upper[0]),
+  static void Down(const void*, const Window& window, const ResultRows& rows) {
+    const auto from = LinesOf<Element, kLines>(window.lines);
+    FilterRows(FixedKernelOfParts(window.samples), from.data(), window.samples, reinterpret_cast<R*>(rows.upper[0]),
                reinterpret_cast<R*>(rows.lower[0]));
   }
 

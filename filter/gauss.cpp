@@ -43,10 +43,10 @@ struct ByteKernel {
     });
   }
 
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto axes = *static_cast<const ByteAxes*>(context);
-    const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
-    MakeRow<kVectors, kLanes>(samples, rows.upper[0], [&](auto count, ptrdiff_t i, uint8_t* to) HWY_ATTR {
+    const auto* const from = reinterpret_cast<const int16_t* const*>(window.lines);
+    MakeRow<kVectors, kLanes>(window.samples, rows.upper[0], [&](auto count, ptrdiff_t i, uint8_t* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(D(), from[k] + i + v * kLanes); };
       const auto results = Rounded<count>(axes.down, axes.downShift, value);
       if constexpr (count == kVectors) {

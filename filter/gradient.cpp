@@ -13,12 +13,12 @@ struct GradientKernel {
   Source source;
   Sink sink;
 
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& outputs) {
+  static void Down(const void* context, const Window& window, const ResultRows& outputs) {
     const GradientKernel kernel = *static_cast<const GradientKernel*>(context);
     const ResultRows rows = outputs;
-    const auto copy = LinesOf<typename Source::Element, Source::kHeight + 1>(lines);
+    const auto copy = LinesOf<typename Source::Element, Source::kHeight + 1>(window.lines);
     const auto* const from = copy.data();
-    const ptrdiff_t n = samples / kernel.sink.channels;
+    const ptrdiff_t n = window.samples / kernel.sink.channels;
     if (n >= kLanes) {
       return ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { kernel.Make(from, n, i, rows, i); });
     }

@@ -44,13 +44,13 @@ struct WordKernel {
     SumAcross<uint8_t, int16_t, int32_t, false>(static_cast<const uint8_t*>(source), axes.across, axes.channels,
                                                 samples, static_cast<int16_t*>(line));
   }
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto axes = *static_cast<const IntegerAxes*>(context);
-    const auto* const from = reinterpret_cast<const int16_t* const*>(lines);
+    const auto* const from = reinterpret_cast<const int16_t* const*>(window.lines);
     const hn::ScalableTag<int16_t> d;
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
     auto* const out = reinterpret_cast<R*>(rows.upper[0]);
-    MakeRow<2, kLanes>(samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
+    MakeRow<2, kLanes>(window.samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(d, from[k] + i + v * kLanes); };
       const auto sums = SumsOfPairs<false, count>(d, axes.downPairs, axes.quotient.Start(), value);
       Unrolled<count>([&](auto v) QVP_INLINED { StoreWords(Words<R>(axes.quotient, sums[v]), to + v * kLanes); });
@@ -89,11 +89,11 @@ struct IntKernel {
     }
   }
 
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto axes = *static_cast<const IntegerAxes*>(context);
-    const auto* const from = reinterpret_cast<const int32_t* const*>(lines);
+    const auto* const from = reinterpret_cast<const int32_t* const*>(window.lines);
     const auto start = hn::Set(Sums(), axes.quotient.Start());
-    MakeGroups<kLanes>(samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
+    MakeGroups<kLanes>(window.samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(Sums(), from[k] + i + v * kHalf); };
       const auto halves = SumsOfProducts<false, 2>(Sums(), axes.down, value);
       const BlockSums<D> sums{hn::Add(start, halves[0]), hn::Add(start, halves[1])};
@@ -130,13 +130,13 @@ struct LongKernel {
       to[i] = sum;
     }
   }
-  static void Down(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto& axes = *static_cast<const LongAxes*>(context);
     using Limits = std::numeric_limits<R>;
-    for (ptrdiff_t i = 0; i < samples; ++i) {
+    for (ptrdiff_t i = 0; i < window.samples; ++i) {
       int64_t sum = 0;
       for (ptrdiff_t k = 0; k < axes.down.count; ++k) {
-        sum += static_cast<const int64_t*>(lines[k])[i] * axes.down.taps[k];
+        sum += static_cast<const int64_t*>(window.lines[k])[i] * axes.down.taps[k];
       }
       const int64_t result = Quotient(sum, axes.divisor, axes.mode);
       StoreScalar(reinterpret_cast<R*>(rows.upper[0]) + i,
@@ -152,7 +152,7 @@ AxisOf<Tap> AxisIn(const uint8_t* table, ptrdiff_t taps) {
 
 template <class Kernel, class Axes, class Bits>
 void Filter(const Windows<Bits>& windows, const Axes& axes, int elementBytes, bool readsBeyond = false) {
-  FilterWindows(windows, {&axes, Kernel::Across, Kernel::Down, elementBytes, 1, readsBeyond});
+  FilterWindows(windows, {&axes, Kernel::Across, Kernel::Down, elementBytes, 1, {}, readsBeyond});
 }
 
 template <class T, class R, class F, class Bits>

@@ -16,6 +16,11 @@ ByteCount LineBytes(ByteCount samples, int elementBytes) {
   return (samples * elementBytes + kVectorBytes).RoundedTo(kLineBoundary);
 }
 
+// Lines of a window, one more among them, and what is kept beside them, of one column.
+ByteCount BytesOfColumn(int64_t maskHeight, int channels, int elementBytes, const KeptRows& kept) {
+  return ((ByteCount(maskHeight) + 1) * elementBytes + ByteCount(kept.count) * kept.elementBytes) * channels;
+}
+
 // A block of columns with its window.
 template <class T>
 class Block {
@@ -24,6 +29,7 @@ class Block {
       : windows_(windows),
         kernel_(kernel),
         samples_((columns.end - columns.begin) * windows.src.channels()),
+        window_{nullptr, samples_, 0, nullptr, 0},
         lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
         next_(-windows.reach.above),
         source_(windows.src, {columns.begin - windows.reach.left, columns.end + windows.reach.right},
@@ -35,8 +41,9 @@ class Block {
   }
 
   int64_t WorkBytes() const {
-    const int64_t lines = (kernel_.across ? SourceBytes() : 0) + lines_ * WindowLineBytes();
-    return ByteCount(PointerBytes() + source_.TableBytes() + lines + 2 * KeptBytes())
+    const int64_t lines = (kernel_.across ? StageBytes() : 0) + lines_ * WindowLineBytes() +
+                          kernel_.kept.count * SourceLineBytes(kernel_.kept.elementBytes);
+    return ByteCount(PointerBytes() + source_.TableBytes() + lines + 2 * ColourBytes())
         .RoundedTo(kRecordBoundary)
         .value();
   }
@@ -46,14 +53,18 @@ class Block {
     uint8_t* const end = memory + WorkBytes();
     pointers_ = reinterpret_cast<const void**>(memory);
     memory = source_.Start(memory + PointerBytes());
-    for (uint8_t*& kept : kept_) {
-      kept = memory;
-      memory += KeptBytes();
+    for (uint8_t*& colours : colours_) {
+      colours = memory;
+      memory += ColourBytes();
     }
     if (kernel_.across) {
       stage_ = reinterpret_cast<T*>(memory);
-      memory += SourceBytes();
+      memory += StageBytes();
     }
+    window_.lines = pointers_;
+    window_.kept = memory;
+    window_.keptStep = static_cast<ptrdiff_t>(SourceLineBytes(kernel_.kept.elementBytes));
+    memory += kernel_.kept.count * window_.keptStep;
     ring_ = {memory, static_cast<ptrdiff_t>(WindowLineBytes()), static_cast<int>(lines_)};
     room_ = ring_.at;
     Prepare(0);
@@ -65,27 +76,29 @@ class Block {
     if (y > 0) Advance();
     const bool isSingle = y + kernel_.rowsAtOnce > windows_.roi.height || kernel_.rowsAtOnce == 1;
     const ResultRows rows = NextRows(isSingle);
-    if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, pointers_, samples_, rows);
-    ResultRows kept{};
-    kept.upper[0] = kept_[0];
-    kept.lower[0] = isSingle ? kept_[0] : kept_[1];
-    kernel_.down(kernel_.context, pointers_, samples_, kept);
-    PutColours(kept_[0], rows.upper[0]);
-    if (!isSingle) PutColours(kept_[1], rows.lower[0]);
+    window_.y = y;
+    if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, window_, rows);
+    ResultRows colours{};
+    colours.upper[0] = colours_[0];
+    colours.lower[0] = isSingle ? colours_[0] : colours_[1];
+    kernel_.down(kernel_.context, window_, colours);
+    PutColours(colours_[0], rows.upper[0]);
+    if (!isSingle) PutColours(colours_[1], rows.lower[0]);
   }
 
  private:
   int64_t PointerBytes() const { return ByteCount(lines_ * 8).RoundedTo(kRecordBoundary).value(); }
-  // A line of the source.
-  int64_t SourceBytes() const {
+  // As many elements as a line of the source has.
+  int64_t SourceLineBytes(int elementBytes) const {
     const ptrdiff_t beyond = (windows_.reach.left + windows_.reach.right) * windows_.src.channels();
-    return source_.isInPlace() ? 0 : LineBytes(samples_ + beyond, sizeof(T)).value();
+    return LineBytes(samples_ + beyond, elementBytes).value();
   }
+  int64_t StageBytes() const { return source_.isInPlace() ? 0 : SourceLineBytes(sizeof(T)); }
   int64_t WindowLineBytes() const {
-    return kernel_.across ? LineBytes(samples_, kernel_.elementBytes).value() : SourceBytes();
+    return kernel_.across ? LineBytes(samples_, kernel_.elementBytes).value() : StageBytes();
   }
   // A row of results that do not go to the image as they are.
-  int64_t KeptBytes() const {
+  int64_t ColourBytes() const {
     const Bytes& output = windows_.outputs[0];
     return KeepsAlpha(output.layout) ? LineBytes(samples_, output.elementBytes).value() : 0;
   }
@@ -137,14 +150,15 @@ class Block {
   const Windows<T>& windows_;
   const WindowKernel& kernel_;
   ptrdiff_t samples_;
+  Window window_;
   int64_t lines_;
   ptrdiff_t next_;  // row of the next line
   BorderRows<SingleRows<T, T>, T> source_;
   const void** pointers_ = nullptr;
   RowRing<uint8_t> ring_{};
-  uint8_t* room_ = nullptr;  // for the next line
-  T* stage_ = nullptr;       // where a line of the source is made for `across`
-  uint8_t* kept_[2] = {};
+  uint8_t* room_ = nullptr;                // for the next line
+  T* stage_ = nullptr;                     // where a line of the source is made for `across`
+  uint8_t* colours_[2] = {};               // rows of results of images that keep their alpha
   std::array<uint8_t*, kMostOutputs> at_;  // the next rows of results
 };
 
@@ -166,7 +180,7 @@ bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
   const int elementBytes =
       std::max({static_cast<int>(sizeof(T)), kernel.elementBytes, windows.outputs[0].elementBytes});
   const Size mask(static_cast<ptrdiff_t>(MaskWidth(reach)), static_cast<ptrdiff_t>(MaskHeight(reach)));
-  if (bytes > WindowBytes(mask, width, windows.src.channels(), elementBytes).value()) return false;
+  if (bytes > WindowBytes(mask, width, windows.src.channels(), elementBytes, kernel.kept).value()) return false;
   right.Start(middle.Start(left.Start(AtBoundary(windows.buffer))));
   for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) {
     left.Filter(y);
@@ -180,7 +194,8 @@ template <class T>
 void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width;
-  const int64_t columnBytes = (MaskHeight(reach) + 1) * windows.src.channels() * int64_t{kernel.elementBytes};
+  const int64_t columnBytes =
+      BytesOfColumn(MaskHeight(reach), windows.src.channels(), kernel.elementBytes, kernel.kept).value();
   const int64_t most = std::max({kCacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
@@ -195,10 +210,11 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
 
 // Of each line there are at most the columns of the region, or of a block and beyond it; the cache's bytes are all
 // lines' together. Beside the window's there are four lines: one of the source, one of constants, two of kept results.
-ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes) {
-  const ByteCount lines = ByteCount(mask.height) + 1, pixelBytes = channels * elementBytes;
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept) {
+  const ByteCount lines = ByteCount(mask.height) + 1 + kept.count, pixelBytes = channels * elementBytes;
   const int64_t columns = 4 * int64_t{mask.width} + kFewestColumns;
-  const ByteCount whole = lines * regionWidth * pixelBytes, ofBlocks = lines * columns * pixelBytes + kCacheBytes;
+  const ByteCount ofColumn = BytesOfColumn(mask.height, channels, elementBytes, kept);
+  const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + kCacheBytes;
   const ByteCount others = pixelBytes * (4 * std::min(regionWidth, kCacheBytes / (2 * channels) + columns));
   const ByteCount beyond = (lines + 4) * (pixelBytes * mask.width + kVectorBytes + kLineBoundary + 8);
   return std::min(whole.value(), ofBlocks.value()) + others + beyond + ByteCount(mask.width) * 4 + 8 * kRecordBoundary +

@@ -20,20 +20,35 @@ struct ResultRows {
   std::array<uint8_t*, kMostOutputs> upper, lower;
 };
 
+// What rows of results are made from, in a block of columns.
+struct Window {
+  const void* const* lines;  // from the uppermost on
+  ptrdiff_t samples;
+  ptrdiff_t y;         // of the upper row
+  uint8_t* kept;       // what a filter keeps from row to row; of unknown content at y = 0
+  ptrdiff_t keptStep;  // bytes
+};
+
 // What a filter does.
 //   across  makes `samples` elements of a line from one of the source, of which the first result reads the first
 //   samples.
 //           Null if lines are those of the source.
-//   down    makes results from the lines of the window, from the uppermost on. `samples` are those of the source's type
-//           of pixel. Without `across` the first result reads the first samples of lines here.
+//   down    makes results from a window. `samples` are those of the source's type of pixel. Without `across` the first
+//           result reads the first samples of lines here.
+//   kept    rows that `down` writes for itself, with room for what a line of the source has.
 // Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
 // kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
+struct KeptRows {
+  int count = 0, elementBytes = 0;
+};
+
 struct WindowKernel {
   const void* context;
   void (*across)(const void* context, const void* source, void* line, ptrdiff_t samples);
-  void (*down)(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows);
+  void (*down)(const void* context, const Window& window, const ResultRows& rows);
   int elementBytes;  // of lines in the window
   int rowsAtOnce;    // of results: 1 or 2
+  KeptRows kept = {};
   bool readsBeyond = false;
 };
 
@@ -51,7 +66,7 @@ struct Windows {
 
 // Bytes of the work buffer for regions up to a width, from any address on; they grow with each argument.
 // `elementBytes` is the most that an element of the source, of a line or of a result has.
-ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes);
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept = {});
 
 template <class T>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel);
@@ -94,11 +109,11 @@ std::array<const E*, kCount> LinesOf(const void* const* lines) {
 
 // The same as what a WindowKernel does down: Kernel names the types of lines and of results, and how many lines it has.
 template <class Kernel>
-void DownBy(const void* context, const void* const* lines, ptrdiff_t samples, const ResultRows& rows) {
+void DownBy(const void* context, const Window& window, const ResultRows& rows) {
   using Result = typename Kernel::Result;
-  const auto from = LinesOf<typename Kernel::Element, Kernel::kLines>(lines);
-  FilterRows(*static_cast<const Kernel*>(context), from.data(), samples, reinterpret_cast<Result*>(rows.upper[0]),
-             reinterpret_cast<Result*>(rows.lower[0]));
+  const auto from = LinesOf<typename Kernel::Element, Kernel::kLines>(window.lines);
+  FilterRows(*static_cast<const Kernel*>(context), from.data(), window.samples,
+             reinterpret_cast<Result*>(rows.upper[0]), reinterpret_cast<Result*>(rows.lower[0]));
 }
 
 // An image as one of unsigned integers.
