@@ -27,6 +27,8 @@ struct Image {
 };
 
 inline constexpr QvpiSize kTile{64, 64}, kVga{640, 480}, kHd{1920, 1080}, kLarge{8000, 6000};
+// What a call and a row cost: images of one pixel, of one column, and small ones.
+inline constexpr QvpiSize kSmallest[] = {{1, 1}, {1, 64}, {16, 16}};
 
 inline std::string Name(const std::string& what, QvpiSize size) {
   return what + " " + std::to_string(size.width) + "x" + std::to_string(size.height);

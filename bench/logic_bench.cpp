@@ -22,9 +22,9 @@ void ShiftPlainly(const Image<uint16_t>& src, const Image<uint16_t>& dst, int fi
   }
 }
 
-// What a call and a row cost: images of one pixel, of one column, and small ones whose rows do not join.
+// With rows that do not join.
 void Overhead() {
-  for (const QvpiSize size : {QvpiSize{1, 1}, {1, 64}, {16, 16}}) {
+  for (const QvpiSize size : kSmallest) {
     const QvpiSize wider{size.width + 1, size.height};
     const Image<uint8_t> a(wider, 1), b(wider, 1), dst(wider, 1);
     const cv::Mat first = a.mat.colRange(0, size.width), second = b.mat.colRange(0, size.width);

@@ -140,9 +140,9 @@ void Palettes(QvpiSize size) {
                                 nullptr);
 }
 
-// What a call and a row cost: images of one pixel, of one column, and small ones whose rows do not join.
+// With rows that do not join.
 void Overhead() {
-  for (const QvpiSize size : {QvpiSize{1, 1}, {1, 64}, {16, 16}}) {
+  for (const QvpiSize size : kSmallest) {
     const QvpiSize wider{size.width + 1, size.height};
     const auto table = Entries<uint8_t>(256);
     const Image<uint8_t> a(wider, 1), b(wider, 1);

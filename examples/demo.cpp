@@ -50,6 +50,7 @@ int main(int argc, char** argv) try {
   demo::ConvertSteps(demo);
   demo::ThresholdSteps(demo);
   demo::LookupSteps(demo);
+  demo::CompositeSteps(demo);
   demo::FilterSteps(demo);
   demo::AxesFilterSteps(demo);
   demo::FixedFilterSteps(demo);

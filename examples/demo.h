@@ -43,6 +43,7 @@ void LogicSteps(Demo& demo);
 void LookupSteps(Demo& demo);
 void ConvertSteps(Demo& demo);
 void ThresholdSteps(Demo& demo);
+void CompositeSteps(Demo& demo);
 void FilterSteps(Demo& demo);
 void AxesFilterSteps(Demo& demo);
 void FixedFilterSteps(Demo& demo);

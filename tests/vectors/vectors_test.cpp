@@ -167,6 +167,16 @@ TEST(Vectors, RoundToIntGivesTheLowestOutsideOfTheRange) {
   });
 }
 
+TEST(Vectors, TruncateTowardZero) {
+  ForExtremes(hn::ScalableTag<float>(), [](auto v, const auto& lanes) {
+    const auto truncated = LanesOf(TruncateInRange(v));
+    for (size_t i = 0; i < lanes.size(); ++i) {
+      const bool isInside = lanes[i] >= -2147483648.0f && lanes[i] < 2147483648.0f;
+      if (isInside) EXPECT_EQ(truncated[i], static_cast<int32_t>(lanes[i])) << lanes[i];
+    }
+  });
+}
+
 template <class T, class L>
 void ExpectPacked() {
   ForPairs(hn::ScalableTag<L>(), [](auto lower, auto upper, const auto& x, const auto& y) {
