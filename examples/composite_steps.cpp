@@ -95,8 +95,8 @@ void Watermark(Demo& demo) {
   demo.Show("Watermark at 40 % opacity", result);
 }
 
-// What is bright and more blue than red becomes a sunset.
-void ReplaceSky(Demo& demo) {
+// What is as light as the backdrop becomes a sunset.
+void ReplaceBackdrop(Demo& demo) {
   const Rgb& photo = demo.photo();
   const QvpiSize size = photo.size();
   Rgb sunset(size), result(size);
@@ -105,11 +105,11 @@ void ReplaceSky(Demo& demo) {
     const Qvp8u color[3] = {static_cast<Qvp8u>(255 - down / 8), static_cast<Qvp8u>(90 + down / 2), 60};
     for (int x = 0; x < size.width; ++x) std::copy_n(color, 3, sunset.At(x, y));
   }
-  const Qvp8u lower[3] = {0, 90, 150}, upper[3] = {210, 240, 255};
+  const Qvp8u lower[3] = {165, 165, 175}, upper[3] = {236, 236, 245};
   demo.Time(size, 3 + 3 + 3,
             CALL(qvpiColorKey_8u_C3R, photo.data(), photo.step(), sunset.data(), sunset.step(), result.data(),
                  result.step(), size, lower, upper));
-  demo.Show("Sky replaced by color key", result);
+  demo.Show("Backdrop replaced by color key", result);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ void CompositeSteps(Demo& demo) {
   RoundOverCheckerboard(demo);
   TwelveOperators(demo);
   Watermark(demo);
-  ReplaceSky(demo);
+  ReplaceBackdrop(demo);
 }
 
 }  // namespace demo
