@@ -74,14 +74,17 @@ struct SingleRows {
   }
 };
 
+template <class Form, class T>
+HWY_NOINLINE void ConvertShortRows(const T* const (&rows)[2], typename Form::Element* out, ptrdiff_t n) {
+  const Partial<T> upper(rows[0], n), lower(rows[1], n);
+  Form::Convert({upper.lanes, lower.lanes}, out, 0);
+}
+
 // Converts n samples. Behind the last one there is room for a vector.
 template <class Form, class T>
 void ConvertRows(const T* const (&rows)[2], typename Form::Element* out, ptrdiff_t n) {
   constexpr ptrdiff_t kLanes = Form::kLanes;
-  if (n < kLanes) {
-    const Partial<T> upper(rows[0], n), lower(rows[1], n);
-    return Form::Convert({upper.lanes, lower.lanes}, out, 0);
-  }
+  if (n < kLanes) return ConvertShortRows<Form>(rows, out, n);
   ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { Form::Convert(rows, out, i); });
 }
 
@@ -101,19 +104,23 @@ class BorderRows {
  public:
   using Element = typename Form::Element;
 
-  // `columns` has one at least that can be read. `mayBeInPlace`: nothing is read behind the last sample of a line, so
-  // that a row of the image may be one if it needs no conversion and no border columns.
+  // `columns` has one at least that can be read, and with it those that stand for border columns. `mayBeInPlace`:
+  // nothing is read behind the last sample of a line, so that a row of the image may be one if it needs no conversion
+  // and no border columns.
   BorderRows(const BorderedImage<T>& image, Extent columns, bool mayBeInPlace)
       : image_(image),
         channels_(image.channels()),
         readable_{std::max(columns.begin, image.columns.begin), std::min(columns.end, image.columns.end)},
         before_(readable_.begin - columns.begin),
         after_(columns.end - readable_.end),
+        readableAt_(Samples(before_)),
+        readableSamples_(Samples(readable_.end - readable_.begin)),
+        firstReadable_(Samples(readable_.begin)),
         isInPlace_(Form::kIsInPlace && mayBeInPlace && before_ == 0 && after_ == 0) {}
 
   bool isInPlace() const { return isInPlace_; }
   int64_t LineBytes() const {
-    return LineBytesFor(Samples(before_ + after_) + ReadableSamples(), sizeof(Element)).value();
+    return LineBytesFor(readableAt_ + readableSamples_ + Samples(after_), sizeof(Element)).value();
   }
 
   // What Start() takes: where border columns are found, and a row of constants.
@@ -121,11 +128,11 @@ class BorderRows {
 
   // Prepares the tables. Returns where the memory ends that they take; it begins at a boundary.
   uint8_t* Start(uint8_t* memory) {
-    columnOf_ = reinterpret_cast<int32_t*>(memory);
-    FindColumns(readable_.begin - before_, before_, columnOf_);
-    FindColumns(readable_.end, after_, columnOf_ + before_);
+    places_ = reinterpret_cast<int32_t*>(memory);
+    FindColumns(readable_.begin - before_, before_, places_);
+    FindColumns(readable_.end, after_, places_ + before_);
     constants_ = reinterpret_cast<T*>(memory + ColumnBytes());
-    if (ConstantBytes() > 0) FillConstants();
+    if (image_.kind == BorderKind::kConst) FillConstants();
     return memory + TableBytes();
   }
 
@@ -137,68 +144,76 @@ class BorderRows {
     if constexpr (Form::kIsInPlace) {
       if (isInPlace_) return readable[0];
     }
-    ConvertRows<Form>(readable, room + Samples(before_), ReadableSamples());
-    if (ReadableSamples() >= kFetchedSamples) {
+    ConvertRows<Form>(readable, room + readableAt_, readableSamples_);
+    if (readableSamples_ >= kFetchedSamples) {
       for (int i = 0; i < Form::kRows; ++i) FetchAhead(Readable(image_.Row(y + Form::kRows + i)));
     }
-    FillColumns(rows, columnOf_, before_, room);
-    FillColumns(rows, columnOf_ + before_, after_, room + Samples(before_) + ReadableSamples());
+    FillColumns(room);
     return room;
   }
 
  private:
-  static constexpr int32_t kConstantColumn = INT32_MIN;
   static constexpr ptrdiff_t kFetchedSamples = 128;  // shorter lines are not worth it
 
   ptrdiff_t Samples(ptrdiff_t pixels) const { return pixels * channels_; }
-  ptrdiff_t ReadableSamples() const { return Samples(readable_.end - readable_.begin); }
   int64_t ColumnBytes() const {
-    return ByteCount((before_ + after_) * int64_t{sizeof(*columnOf_)}).RoundedTo(kRecordBoundary).value();
+    return ByteCount((before_ + after_) * int64_t{sizeof(*places_)}).RoundedTo(kRecordBoundary).value();
   }
   int64_t ConstantBytes() const {
-    return image_.kind == BorderKind::kConst ? LineBytesFor(ReadableSamples(), sizeof(T)).value() : 0;
+    return image_.kind == BorderKind::kConst ? LineBytesFor(readableSamples_, sizeof(T)).value() : 0;
   }
 
+  // Columns of the border are copies of others in the line.
   void FindColumns(ptrdiff_t x, ptrdiff_t count, int32_t* to) const {
     for (ptrdiff_t i = 0; i < count; ++i) {
       const ptrdiff_t column = BorderPosition(image_.kind, x + i, image_.columns);
-      to[i] = column == kOutside ? kConstantColumn : static_cast<int32_t>(column);
+      to[i] = column == kOutside ? 0 : static_cast<int32_t>(Samples(column - readable_.begin) + readableAt_);
     }
   }
 
   void FillConstants() {
-    for (ptrdiff_t i = 0; i < ReadableSamples(); i += channels_) {
+    const T* const pixels[2] = {image_.constant, image_.constant};
+    for (ptrdiff_t c = 0; c < channels_; ++c) constant_[c] = Form::Of(pixels, c);
+    for (ptrdiff_t i = 0; i < readableSamples_; i += channels_) {
       std::memcpy(constants_ + i, image_.constant, channels_ * sizeof(T));
     }
   }
 
-  const T* Readable(const T* row) const { return row == nullptr ? constants_ : row + Samples(readable_.begin); }
+  const T* Readable(const T* row) const { return row == nullptr ? constants_ : row + firstReadable_; }
 
   // The next row of a block of columns begins far from the end of this one, where the CPU does not expect it.
   void FetchAhead(const T* row) const {
     constexpr ptrdiff_t kCacheLine = 64 / sizeof(T);
-    for (ptrdiff_t i = 0; i < ReadableSamples(); i += kCacheLine) hwy::Prefetch(row + i);
+    for (ptrdiff_t i = 0; i < readableSamples_; i += kCacheLine) hwy::Prefetch(row + i);
   }
 
-  void FillColumns(const T* const (&rows)[2], const int32_t* columnOf, ptrdiff_t count, Element* to) const {
-    for (ptrdiff_t i = 0; i < count; ++i, to += channels_) {
-      const auto pixel = [&](const T* row) {
-        const bool isConstant = row == nullptr || columnOf[i] == kConstantColumn;
-        return isConstant ? image_.constant : row + Samples(columnOf[i]);
-      };
-      const T* const first = pixel(rows[0]);
-      const T* const pixels[2] = {first, Form::kRows == 1 ? first : pixel(rows[1])};
-      for (ptrdiff_t c = 0; c < channels_; ++c) to[c] = Form::Of(pixels, c);
-    }
+  void FillColumns(Element* line) const {
+    if (channels_ == 1) return FillColumnsOf<1>(line);
+    if (channels_ == 3) return FillColumnsOf<3>(line);
+    FillColumnsOf<4>(line);
+  }
+  template <int kChannels>
+  HWY_INLINE void FillColumnsOf(Element* line) const {
+    const bool isConstant = image_.kind == BorderKind::kConst;
+    const auto fill = [&](const int32_t* places, ptrdiff_t count, Element* to) QVP_INLINED {
+      QVP_ROLLED
+      for (ptrdiff_t i = 0; i < count; ++i, to += kChannels) {
+        std::memcpy(to, isConstant ? constant_ : line + places[i], kChannels * sizeof(Element));
+      }
+    };
+    fill(places_, before_, line);
+    fill(places_ + before_, after_, line + readableAt_ + readableSamples_);
   }
 
   const BorderedImage<T>& image_;
   ptrdiff_t channels_;
   Extent readable_;
-  ptrdiff_t before_, after_;  // border columns on either side
+  ptrdiff_t before_, after_;                                // border columns on either side
+  ptrdiff_t readableAt_, readableSamples_, firstReadable_;  // where they are in a line, how many, and where in a row
   bool isInPlace_;
-  int32_t* columnOf_ = nullptr;  // which column of the image each border column takes
-  T* constants_ = nullptr;       // stands for the readable columns of rows of the constant
+  int32_t* places_ = nullptr;  // where in a line the pixel is that each border column takes
+  Element constant_[4] = {};
+  T* constants_ = nullptr;  // stands for the readable columns of rows of the constant
 };
 
 }  // namespace qvp

@@ -12,6 +12,13 @@ static_assert(HWY_TARGET == QVP_VECTOR_TARGET, "the compiler's flags do not sele
 // For lambdas: one that is called makes memory of what it refers to.
 #define QVP_INLINED __attribute__((always_inline))
 
+// For loops that are taken a few times only: what compilers make of others has a long way to the first turn.
+#ifdef __clang__
+#define QVP_ROLLED _Pragma("clang loop vectorize(disable) unroll(disable)")
+#else
+#define QVP_ROLLED _Pragma("GCC unroll 1")
+#endif
+
 namespace qvp {
 namespace hn = hwy::HWY_NAMESPACE;
 
