@@ -1,6 +1,7 @@
 #include "base/walk.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "base/store.h"
@@ -64,6 +65,47 @@ HWY_NOINLINE void StreamRow(const WalkedRow& row, ptrdiff_t n, const Bytes& dst,
   writer.Finish();
 }
 
+// Copies rows of a few bytes: by pieces, of which the last one ends with the row.
+template <class Piece>
+HWY_INLINE void CopyRowsBy(const uint8_t* from, ptrdiff_t fromStep, uint8_t* to, ptrdiff_t toStep, ptrdiff_t bytes,
+                           ptrdiff_t rows) {
+  constexpr ptrdiff_t kBytes = sizeof(Piece);
+  for (ptrdiff_t y = 0; y < rows; ++y, from += fromStep, to += toStep) {
+    QVP_ROLLED
+    for (ptrdiff_t i = 0; i + kBytes < bytes; i += kBytes) std::memcpy(to + i, from + i, kBytes);
+    std::memcpy(to + bytes - kBytes, from + bytes - kBytes, kBytes);
+  }
+}
+void CopyShortRows(const uint8_t* from, ptrdiff_t fromStep, uint8_t* to, ptrdiff_t toStep, ptrdiff_t bytes,
+                   ptrdiff_t rows) {
+  const auto copy = bytes >= 16  ? CopyRowsBy<std::array<uint64_t, 2>>
+                    : bytes >= 8 ? CopyRowsBy<uint64_t>
+                    : bytes >= 4 ? CopyRowsBy<uint32_t>
+                                 : CopyRowsBy<uint8_t>;
+  copy(from, fromStep, to, toStep, bytes, rows);
+}
+
+// Rows that are shorter than a vector come to the kernel together, one behind the other: gathering them costs less than
+// a call for each.
+HWY_NOINLINE void WalkShortRows(Size roi, const Bytes& dst, const ConstBytes& a, const ConstBytes* b, RowCall call,
+                                const void* context) {
+  constexpr ptrdiff_t kStageBytes = 4096;
+  alignas(kStreamedLine) uint8_t to[kStageBytes], sources[2][kStageBytes];
+  const ptrdiff_t n = roi.width * Channels(dst.layout);
+  const ptrdiff_t most = kStageBytes / (n * std::max({dst.elementBytes, a.elementBytes, b ? b->elementBytes : 0}));
+  for (ptrdiff_t y = 0; y < roi.height; y += most) {
+    const ptrdiff_t rows = std::min(most, roi.height - y);
+    const auto gather = [&](const auto& image, uint8_t* stage) {
+      CopyShortRows(image.Row(y), image.step, stage, n * image.elementBytes, n * image.elementBytes, rows);
+    };
+    gather(a, sources[0]);
+    if (b) gather(*b, sources[1]);
+    if (KeepsAlpha(dst.layout)) gather(dst, to);
+    call(context, n * rows, to, sources[0], b ? sources[1] : nullptr);
+    CopyShortRows(to, n * dst.elementBytes, dst.Row(y), dst.step, n * dst.elementBytes, rows);
+  }
+}
+
 }  // namespace
 
 void Walk(Size roi, const Bytes& dst, const ConstBytes& a, const ConstBytes* b, RowCall call, const void* context) {
@@ -71,6 +113,8 @@ void Walk(Size roi, const Bytes& dst, const ConstBytes& a, const ConstBytes* b, 
   const bool isPacked = dst.IsPacked(roi.width) && a.IsPacked(roi.width) && (!b || b->IsPacked(roi.width));
   ptrdiff_t pixels;
   if (isPacked && !__builtin_mul_overflow(roi.width, roi.height, &pixels)) roi = Size(pixels, 1);
+  constexpr ptrdiff_t kVector = hn::MaxLanes(hn::ScalableTag<uint8_t>());
+  if (roi.height > 1 && dst.RowBytes(roi.width) < kVector) return WalkShortRows(roi, dst, a, b, call, context);
   const ptrdiff_t n = roi.width * Channels(dst.layout), stepB = b ? b->step : 0;
   WalkedRow row{dst.data, a.data, b ? b->data : nullptr};
   for (ptrdiff_t y = 0; y < roi.height; ++y, row.to += dst.step, row.a += a.step, row.b += stepB) {

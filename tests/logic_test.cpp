@@ -33,7 +33,7 @@ void Check(const Export& function, int pixels, const Values& values) {
   const Name name(function.name);
   const bool hasConstant = function.Has("value"), isShift = name.operation.starts_with("Shift");
   const std::string operation = name.operation.substr(0, name.operation.size() - hasConstant);
-  const int samples = pixels * name.channels, height = 3;
+  const int samples = pixels * name.channels, height = pixels == 7 ? 700 : 3;  // more narrow rows than go together
   const Image<T> a(samples, height, 7), b(samples, height, 3);
   Image<T> dst(samples, height, 5, Guard::kBefore), both(b);
   const Image<T> before(dst);
