@@ -51,7 +51,7 @@ function(qvpi_settings target bits)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ${QVPI_HAS_SHARED} LINKER_LANGUAGE C)
   if(QVPI_SANITIZE)
     target_compile_options(${target} PRIVATE ${QVPI_SANITIZERS}
-      $<$<BOOL:${QVPI_FUZZ}>:-fsanitize-coverage=inline-8bit-counters,pc-table>)
+      $<$<CXX_COMPILER_ID:Clang>:-fsanitize-coverage=inline-8bit-counters,pc-table>)  # the fuzzer sees what it reaches
     target_link_options(${target} PRIVATE ${QVPI_SANITIZERS})
   endif()
   if(bits EQUAL 32 AND QVPI_MACHINE STREQUAL x86)

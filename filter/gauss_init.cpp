@@ -44,10 +44,10 @@ bool StoreTaps(const Weights& weights, int bits, uint8_t* table) {
   int middle = 1 << bits;
   for (int k = weights.radius; k >= 1; --k) {
     const double exact = weights.at[k] * unit + error;
-    const double whole = hn::GetLane(hn::Round(hn::Set(hn::CappedTag<double, 1>(), exact)));
+    const auto whole = static_cast<int>(hn::GetLane(hn::Round(hn::Set(hn::CappedTag<double, 1>(), exact))));
     error = exact - whole;
-    to[k] = static_cast<int16_t>(whole);
-    middle -= 2 * static_cast<int>(whole);
+    to[k] = static_cast<int16_t>(whole);  // the middle one is larger
+    middle -= 2 * whole;
   }
   to[0] = static_cast<int16_t>(middle);
   if (weights.radius % 2 == 0) to[weights.radius + 1] = 0;  // the second of the last pair
