@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "base/border.h"
+#include "base/border_rows.h"
 #include "base/check.h"
 
 namespace qvp::filter {
@@ -36,5 +36,29 @@ constexpr bool IsFilteredType(QvpDataType type) {
   return type == qvp8u || type == qvp16u || type == qvp16s || type == qvp32f;
 }
 constexpr bool IsFilteredChannelCount(int channels) { return channels == 1 || channels == 3 || channels == 4; }
+
+// A mask that is placed by its anchor: the pixel in it that is at that of the result. `isMask` is the family's own rule
+// for masks.
+constexpr bool IsAnchor(QvpiSize mask, QvpiPoint anchor) {
+  return anchor.x >= 0 && anchor.x < mask.width && anchor.y >= 0 && anchor.y < mask.height;
+}
+constexpr Reach ReachOf(QvpiSize mask, QvpiPoint anchor) {
+  return {anchor.x, anchor.y, mask.width - 1 - anchor.x, mask.height - 1 - anchor.y};
+}
+inline QvpStatus CheckAnchored(bool isMask, QvpiSize mask, QvpiPoint anchor, QvpiBorderType border) {
+  if (!isMask) return qvpStatusMaskSize;
+  if (!IsAnchor(mask, anchor)) return qvpStatusAnchor;
+  const bool isKnown = IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border);
+  return isKnown ? qvpStatusNoError : qvpStatusBorder;
+}
+
+// What asks for the size of a work buffer.
+inline QvpStatus CheckQuery(const int* size, QvpiSize roi, bool isMask, QvpDataType type, int channels) {
+  if (!size) return qvpStatusNullPointer;
+  if (roi.width < 1 || roi.height < 1) return qvpStatusSize;
+  if (!isMask) return qvpStatusMaskSize;
+  if (!IsFilteredType(type)) return qvpStatusDataType;
+  return IsFilteredChannelCount(channels) ? qvpStatusNoError : qvpStatusNumChannels;
+}
 
 }  // namespace qvp::filter
