@@ -88,14 +88,14 @@ class Block {
 
  private:
   int64_t PointerBytes() const { return ByteCount(lines_ * 8).RoundedTo(kRecordBoundary).value(); }
-  // As many elements as a line of the source has.
-  int64_t SourceLineBytes(int elementBytes) const {
-    const ptrdiff_t beyond = (windows_.reach.left + windows_.reach.right) * windows_.src.channels();
-    return LineBytes(samples_ + beyond, elementBytes).value();
+  ptrdiff_t SourceSamples() const {
+    return samples_ + (windows_.reach.left + windows_.reach.right) * windows_.src.channels();
   }
+  ptrdiff_t SamplesAcross() const { return kernel_.keepsReach ? SourceSamples() : samples_; }
+  int64_t SourceLineBytes(int elementBytes) const { return LineBytes(SourceSamples(), elementBytes).value(); }
   int64_t StageBytes() const { return source_.isInPlace() ? 0 : SourceLineBytes(sizeof(T)); }
   int64_t WindowLineBytes() const {
-    return kernel_.across ? LineBytes(samples_, kernel_.elementBytes).value() : StageBytes();
+    return kernel_.across ? LineBytes(SamplesAcross(), kernel_.elementBytes).value() : StageBytes();
   }
   // A row of results that do not go to the image as they are.
   int64_t ColourBytes() const {
@@ -142,7 +142,7 @@ class Block {
         pointers_[line] = source_.Line(next_, reinterpret_cast<T*>(room_));
         continue;
       }
-      kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, samples_);
+      kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, SamplesAcross());
       pointers_[line] = room_;
     }
   }

@@ -32,7 +32,8 @@ struct Window {
 // What a filter does.
 //   across  makes `samples` elements of a line from one of the source, of which the first result reads the first
 //   samples.
-//           Null if lines are those of the source.
+//           Null if lines are those of the source. If it keeps the reach, the samples are all that the source has, and
+//           the line is as long.
 //   down    makes results from a window. `samples` are those of the source's type of pixel. Without `across` the first
 //           result reads the first samples of lines here.
 //   kept    rows that `down` writes for itself, with room for what a line of the source has.
@@ -50,6 +51,7 @@ struct WindowKernel {
   int rowsAtOnce;    // of results: 1 or 2
   KeptRows kept = {};
   bool readsBeyond = false;
+  bool keepsReach = false;
 };
 
 inline constexpr ptrdiff_t kFewestInPlace = 64;
