@@ -923,6 +923,228 @@ QvpStatus qvpiFilterGradientScharrBorder_32f_C1R(const Qvp32f* pSrc, int srcStep
 QvpStatus qvpiFilterGradientScharrBorder_32f_C3C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pGx, int gxStep, Qvp32f* pGy, int gyStep, Qvp32f* pMagnitude, int magnitudeStep, Qvp32f* pAngle, int angleStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Minimum and maximum: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of minimum and maximum filters.
+ *
+ *  The buffer serves every smaller mask and region too, at any anchor and border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: 1 or more
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is below 1
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMinBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+QvpStatus qvpiFilterMaxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Minimum and maximum: filtering
+ *  @{ */
+/** Takes the least (Min) or the greatest (Max) value of a rectangle around each pixel, channel by channel:
+ *
+ *  @code
+ *    dst(x, y) = least or greatest src(x - anchor.x + i, y - anchor.y + j), 0 <= i < maskSize.width,
+ *                                                                           0 <= j < maskSize.height
+ *  @endcode
+ *
+ *  A pixel's time depends on the mask's width by its logarithm only, and from 8 rows on not on its height. By masks
+ *  that are no rectangles, qvpiFilterErodeBorder and qvpiFilterDilateBorder do the same.
+ *
+ *  Max less Min is the local contrast. The opening by a rectangle is Min, then Max with the mirrored anchor (w - 1 - x,
+ *  h - 1 - y).
+ *
+ *  Floats have a total order here: -inf .. -0 is below +0 .. +inf. A NaN counts as +inf where the least value is taken,
+ *  and as -inf where the greatest is: it is not taken while there is a number. Results depend on nothing but these
+ *  values.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. A constant border that is never taken is the greatest value of the type for the least one,
+ *  and the lowest for the greatest: 255 and 0, or +inf and -inf. The destination must not overlap with what is read.
+ *  AC4 keeps alpha.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: 1 or more; the mask may be larger than the region
+ *  @param anchor the mask's pixel that lies on the result's: 0, 0 is the upper left one
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterMinBorderGetBufferSize() or qvpiFilterMaxBorderGetBufferSize()
+ *         tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: a side of `maskSize` is below 1
+ *  - qvpStatusAnchor: `anchor` is outside of the mask
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMinBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMinBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMaxBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Erosion and dilation: sizes
+ *  @{ */
+/** Tells the sizes of the record and of the work buffer of erosion and dilation.
+ *
+ *  @param maskSize sides of the mask in pixels: 1 or more
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too, at any mask of that size, for
+ *         erosion and for dilation
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpecSize,pBufferSize sizes in bytes; 0 for one that cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is below 1
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: a size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMorphologyBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Erosion and dilation: record
+ *  @{ */
+/** Makes the record of erosion and dilation by a mask.
+ *
+ *  The record serves both functions, for every type, layout, region and border. It has the mask's chords, the runs of
+ *  selected pixels of each row.
+ *
+ *  @param pMask `maskSize.width` * `maskSize.height` bytes, row by row without gaps: those that are not 0 are selected.
+ *         It is not needed any more afterwards
+ *  @param maskSize sides of the mask in pixels: 1 or more
+ *  @param anchor the mask's pixel that lies on the result's: 0, 0 is the upper left one; it need not be selected
+ *  @param pSpec the record, of the size that qvpiFilterMorphologyBorderGetSize() tells; it must not be moved. After a
+ *         failure, whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pMask` or `pSpec` is null
+ *  - qvpStatusMaskSize: a side of `maskSize` is below 1
+ *  - qvpStatusAnchor: `anchor` is outside of the mask
+ *  - qvpStatusBadArgument: nothing is selected
+ *  - qvpStatusSizeOverflow: the size of the record is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMorphologyBorderInit(const Qvp8u* pMask, QvpiSize maskSize, QvpiPoint anchor, QvpiFilterMorphologyBorderSpec* pSpec);
+/** @} */
+
+/** @name Erosion and dilation: filtering
+ *  @{ */
+/** Takes the least (Erode) or the greatest (Dilate) value of the pixels that a mask selects, channel by channel:
+ *
+ *  @code
+ *    dst(x, y) = least or greatest src(x - anchor.x + i, y - anchor.y + j) over the selected (i, j)
+ *  @endcode
+ *
+ *  Both look at the same pixels: dilation does not turn the mask. The opening of an image, which takes away what is
+ *  brighter and too small for the mask, is Erode, then Dilate with the mask turned by 180 degrees and the mirrored
+ *  anchor (w - 1 - x, h - 1 - y); the closing, Dilate, then Erode, takes away what is darker. A second opening changes
+ *  nothing, and no pixel becomes brighter. (Soille, Morphological Image Analysis, 2003.)
+ *
+ *  A chord costs two operations a pixel, however long it is (Urbach and Wilkinson, 2008). A mask that selects all runs
+ *  as qvpiFilterMinBorder and qvpiFilterMaxBorder do.
+ *
+ *  Floats have a total order here: -inf .. -0 is below +0 .. +inf. A NaN counts as +inf where the least value is taken,
+ *  and as -inf where the greatest is: it is not taken while there is a number. Results depend on nothing but these
+ *  values.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. A constant border that is never taken is the greatest value of the type for the least one,
+ *  and the lowest for the greatest: 255 and 0, or +inf and -inf. The destination must not overlap with what is read.
+ *  AC4 keeps alpha.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pSpec the record
+ *  @param pBuffer work buffer of the size that qvpiFilterMorphologyBorderGetSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: the record was not made by qvpiFilterMorphologyBorderInit()
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterErodeBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterErodeBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16s* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterDilateBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Separable filter: sizes
  *  @{ */
 /** Tells the sizes of the record and of the work buffer of a separable filter.

@@ -249,6 +249,7 @@ typedef struct {
  *  An Init that returns a negative status leaves no record: every function refuses it.
  *  @{ */
 typedef struct QvpiFilterBorderSpec QvpiFilterBorderSpec; /**< general filter */
+typedef struct QvpiFilterMorphologyBorderSpec QvpiFilterMorphologyBorderSpec; /**< erosion and dilation */
 typedef struct QvpiFilterSeparableBorderSpec QvpiFilterSeparableBorderSpec; /**< separable filter */
 typedef struct QvpiFilterGaussBorderSpec QvpiFilterGaussBorderSpec; /**< Gauss filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */

@@ -8,6 +8,7 @@ namespace test {
 bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
 bool CopyBorderLesson(Scene& scene, size_t place, Argument& argument);
 bool DivisionLesson(Scene& scene, size_t place, Argument& argument);
+bool ExtremesLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool FourierLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,0 +1,351 @@
+// Minimum, maximum, erosion and dilation against their definition.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+#include "tests/support/name.h"
+
+namespace {
+using test::Block;
+using test::Bordered;
+using test::ElementOf;
+using test::Export;
+using test::Name;
+using test::Random;
+using test::Real;
+using test::Region;
+
+struct Mask {
+  QvpiSize size;
+  QvpiPoint anchor;
+  std::vector<Qvp8u> selected;
+
+  bool Has(int i, int j) const { return selected[j * size.width + i] != 0; }
+  test::Reach reach() const { return test::ReachOf(size, anchor); }
+};
+
+Mask Full(QvpiSize size, QvpiPoint anchor) { return {size, anchor, std::vector<Qvp8u>(size.width * size.height, 255)}; }
+Mask Full(QvpiSize size) { return Full(size, {(size.width - 1) / 2, (size.height - 1) / 2}); }
+
+// Runs of any length, and empty rows.
+Mask Scattered(QvpiSize size, uint64_t seed) {
+  Random random(seed);
+  Mask mask = Full(size, {static_cast<int>(random.Next() % size.width), static_cast<int>(random.Next() % size.height)});
+  for (int j = 0; j < size.height; ++j) {
+    const int likely = static_cast<int>(random.Next() % 9);
+    bool isIn = false;
+    for (int i = 0; i < size.width; ++i) {
+      if (random.Next() % 4 == 0) isIn = static_cast<int>(random.Next() % 8) < likely;
+      mask.selected[j * size.width + i] = isIn ? 1 + i % 200 : 0;
+    }
+  }
+  mask.selected[random.Next() % mask.selected.size()] = 128;
+  return mask;
+}
+
+Mask Disc(int side) {
+  Mask mask = Full({side, side});
+  const int r = side / 2;
+  for (int k = 0; k < side * side; ++k) {
+    const int x = k % side - r, y = k / side - r;
+    mask.selected[k] = x * x + y * y <= r * r + r;
+  }
+  return mask;
+}
+
+bool TakesLeast(const Export& function) {
+  return function.name.find("Min") != std::string::npos || function.name.find("Erode") != std::string::npos;
+}
+bool HasRecord(const Export& function) { return function.Has("pSpec"); }
+
+// A record if the function has one, and a buffer, of the reported sizes, before unreadable pages.
+class Prepared {
+ public:
+  Prepared(const Export& function, const Mask& mask, QvpiSize roi) {
+    const Name name(function.name);
+    int spec = 0, buffer = 0;
+    if (HasRecord(function)) {
+      EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
+      EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
+      static int phase = 0;
+      phase_ = phase = (phase + 7) % 64;
+      spec_ = std::make_unique<Block>(spec + phase_);
+      EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor, get()), 0);
+    } else {
+      const auto query = TakesLeast(function) ? qvpiFilterMinBorderGetBufferSize : qvpiFilterMaxBorderGetBufferSize;
+      EXPECT_EQ(query(mask.size, roi, name.From().code, name.channels, &buffer), 0);
+    }
+    buffer_ = std::make_unique<Block>(buffer);
+  }
+  QvpiFilterMorphologyBorderSpec* get() const {
+    return spec_ ? reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(spec_->data() + phase_) : nullptr;
+  }
+  Qvp8u* buffer() const { return buffer_->data(); }
+
+ private:
+  int phase_ = 0;
+  std::unique_ptr<Block> spec_, buffer_;
+};
+
+// Filters the part of a scene that begins at x, y.
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Prepared& prepared, int x, int y,
+                QvpiSize size, int border, const test::Argument& dst) {
+  std::vector<test::Named> arguments{{"pSrc", {scene.At(x, y), scene.image.step()}},
+                                     {"pDst", dst},
+                                     {"roiSize", size},
+                                     {"borderType", border},
+                                     {"borderValue", {scene.value}},
+                                     {"pBuffer", {prepared.buffer()}}};
+  if (HasRecord(function)) {
+    arguments.push_back({"pSpec", {prepared.get()}});
+  } else {
+    arguments.push_back({"maskSize", mask.size});
+    arguments.push_back({"anchor", mask.anchor});
+  }
+  return function(arguments);
+}
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Samples& dst) {
+  const Region& r = scene.region;
+  return Apply(function, scene, mask, Prepared(function, mask, r.size), 0, 0, r.size, r.border, dst);
+}
+
+bool IsBelow(Real a, Real b) { return a < b || (a == b && std::signbit(a) && !std::signbit(b)); }
+
+Real ExtremeAt(const Bordered& scene, const Mask& mask, bool takesLeast, int x, int y, int c) {
+  const Real worst = takesLeast ? INFINITY : -INFINITY;
+  Real best = worst;
+  for (int j = 0; j < mask.size.height; ++j) {
+    for (int i = 0; i < mask.size.width; ++i) {
+      if (!mask.Has(i, j)) continue;
+      Real p = scene.Pixel(x - mask.anchor.x + i, y - mask.anchor.y + j, c);
+      if (std::isnan(p)) p = worst;
+      if (takesLeast ? IsBelow(p, best) : IsBelow(best, p)) best = p;
+    }
+  }
+  return best;
+}
+
+void Check(const Export& function, const Mask& mask, const Region& r) {
+  const Name name(function.name);
+  Bordered scene(name.From(), mask.reach(), r);
+  Random random(r.size.width + mask.size.width);
+  if (!name.From().isInteger) {
+    scene.image.Fill([&](int, int) {
+      return random.Next() % 3 ? EdgeValue(name.From(), random) : random.Next() % 2 ? NAN : -NAN;
+    });
+  }
+  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8);
+  const test::Samples before(dst);
+  ASSERT_EQ(Apply(function, scene, mask, dst), 0) << function.name;
+  for (int y = 0; y < r.size.height; ++y) {
+    for (int i = 0; i < r.size.width * r.channels; ++i) {
+      const int x = i / r.channels, c = i % r.channels;
+      const bool isKept = name.written == 3 && c == 3;
+      const Real value = isKept ? before(i, y) : ExtremeAt(scene, mask, TakesLeast(function), x, y, c);
+      ASSERT_TRUE(test::AreSame(dst(i, y), value))
+          << dst(i, y) << " for " << value << " of " << function.name << " mask " << mask.size.width << 'x'
+          << mask.size.height << " border " << r.border << " region " << r.size.width << 'x' << r.size.height << " at "
+          << i << ',' << y;
+    }
+  }
+}
+
+// A region and a border that a number stands for: narrow and low ones, wide ones, and some that are higher than two
+// masks.
+Region RegionOf(int turn, const Name& name, QvpiSize mask) {
+  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
+  const int border = turn % 11 == 10 ? qvpBorderInMem : kKinds[turn % 3] | turn * 0x30 % 0x100;
+  const bool isWide = turn % 6 == 5 && mask.width * mask.height < 100;
+  if (isWide) return {{257 + turn % 40, 1 + turn % 4}, name.channels, border};
+  const int most = 3000 / (mask.width * mask.height), height = 2 * mask.height + 1 + turn % 3;
+  if (turn % 2) return {{1 + turn % std::clamp(most, 3, 40), height}, name.channels, border};
+  return {{1 + turn * 7 % 70, 1 + turn % 9}, name.channels, border};
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  const auto& all = test::Exports();
+  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+}
+
+TEST(FilterExtremes, RectanglesEqualTheirDefinition) {
+  constexpr QvpiSize kSizes[] = {{1, 1}, {3, 3}, {5, 5}, {2, 4},  {4, 2},  {7, 6},  {6, 7},  {1, 9},
+                                 {9, 1}, {8, 8}, {9, 9}, {15, 3}, {3, 15}, {64, 1}, {1, 64}, {21, 17}};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterMinBorder", "FilterMaxBorder"})) {
+    for (const QvpiSize size : kSizes) {
+      ++turn;
+      Check(*function, Full(size, {turn % size.width, turn / 3 % size.height}),
+            RegionOf(turn, Name(function->name), size));
+    }
+  }
+}
+
+TEST(FilterExtremes, MasksEqualTheirDefinition) {
+  constexpr QvpiSize kSizes[] = {{1, 1}, {3, 3}, {5, 5}, {2, 4}, {7, 6}, {1, 9}, {9, 1}, {17, 3}, {3, 15}, {64, 1}};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterErodeBorder", "FilterDilateBorder"})) {
+    const Name name(function->name);
+    for (const QvpiSize size : kSizes) {
+      ++turn;
+      Check(*function, Scattered(size, turn), RegionOf(turn, name, size));
+    }
+    ++turn;
+    Check(*function, Full({5, 4}), RegionOf(turn, name, {5, 4}));
+    Check(*function, Disc(turn % 2 ? 15 : 5), RegionOf(turn, name, {5, 5}));
+  }
+}
+
+TEST(FilterExtremes, TakeEveryAnchorAtEveryBorder) {
+  for (const char* name : {"qvpiFilterMinBorder_8u_C1R", "qvpiFilterDilateBorder_16u_C3R"}) {
+    const Export& function = FunctionNamed(name);
+    for (int k = 0; k < 6 * 16 * 3; ++k) {
+      constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
+      Check(function, Full({3, 2}, {k % 3, k / 3 % 2}),
+            {{2, 3}, Name(name).channels, kKinds[k / 96] | k / 6 % 16 * 16});
+    }
+  }
+}
+
+TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
+  const Region r{{7, 1}, 1, qvpBorderReplicate};
+  Bordered scene(ElementOf("32f"), {}, r);
+  constexpr Real kPixels[] = {NAN, 2, -0.0, 0.0, NAN, -NAN, NAN};
+  scene.image.Fill([&](int x, int) { return kPixels[x]; });
+  const auto check = [&](const char* name, std::initializer_list<Real> expected) {
+    const test::Samples dst(ElementOf("32f"), 7, 1, 0);
+    ASSERT_EQ(Apply(FunctionNamed(name), scene, Full({3, 1}), dst), 0);
+    for (int x = 0; x < 7; ++x) EXPECT_TRUE(test::AreSame(dst(x, 0), expected.begin()[x])) << name << ' ' << x;
+  };
+  check("qvpiFilterMinBorder_32f_C1R", {2, -0.0, -0.0, -0.0, 0.0, INFINITY, INFINITY});
+  check("qvpiFilterMaxBorder_32f_C1R", {2, 2, 2, 0.0, 0.0, -INFINITY, -INFINITY});
+}
+
+TEST(FilterExtremes, TilesEqualTheWhole) {
+  const QvpiSize size{700, 60}, most{60, 17};
+  for (const auto& filter : {std::pair{"qvpiFilterMaxBorder_8u_C1R", Full({15, 9})},
+                             {"qvpiFilterMinBorder_32f_C1R", Full({6, 12})},
+                             {"qvpiFilterErodeBorder_16s_C1R", Disc(13)}}) {
+    const Export& function = FunctionNamed(filter.first);
+    const Mask& mask = filter.second;
+    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+      const Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
+      const test::Samples whole(scene.element(), size.width, size.height, 0),
+          tiled(scene.element(), size.width, size.height, 4);
+      ASSERT_EQ(Apply(function, scene, mask, whole), 0);
+      const Prepared prepared(function, mask, size);
+      test::ForEachTile(size, most, kind, [&](int x, int y, QvpiSize part, int border) {
+        ASSERT_EQ(Apply(function, scene, mask, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+      });
+      for (int i = 0; i < size.width * size.height; ++i) {
+        ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width))
+            << function.name << ' ' << i;
+      }
+    }
+  }
+}
+
+// By a mask without symmetry, which is turned for the second step: no pixel rises, and a second opening changes
+// nothing. Borders are never taken.
+TEST(FilterExtremes, OpeningsLowerOnceAndForAll) {
+  const QvpiSize size{61, 37};
+  const Mask mask = Scattered({6, 5}, 3);
+  Mask turned = mask;
+  std::reverse(turned.selected.begin(), turned.selected.end());
+  turned.anchor = {mask.size.width - 1 - mask.anchor.x, mask.size.height - 1 - mask.anchor.y};
+  const auto step = [&](const char* name, const Mask& m, int constant, const test::Samples& src) {
+    Bordered scene(ElementOf("8u"), {}, {size, 1, qvpBorderConst});
+    scene.image.Fill([&](int x, int y) { return src(x, y); });
+    scene.value[0] = static_cast<Qvp8u>(constant);
+    const test::Samples dst(ElementOf("8u"), size.width, size.height, 0);
+    EXPECT_EQ(Apply(FunctionNamed(name), scene, m, dst), 0);
+    return dst;
+  };
+  const auto open = [&](const test::Samples& src) {
+    return step("qvpiFilterDilateBorder_8u_C1R", turned, 0, step("qvpiFilterErodeBorder_8u_C1R", mask, 255, src));
+  };
+  const test::Samples src(ElementOf("8u"), size.width, size.height, 0), once = open(src), twice = open(once);
+  bool isLower = false;
+  for (int i = 0; i < size.width * size.height; ++i) {
+    const int x = i % size.width, y = i / size.width;
+    ASSERT_LE(once(x, y), src(x, y));
+    ASSERT_EQ(twice(x, y), once(x, y));
+    isLower = isLower || once(x, y) < src(x, y);
+  }
+  EXPECT_TRUE(isLower);
+}
+
+TEST(FilterExtremes, BuffersGrowWithRegionAndMaskWithinTheirBound) {
+  constexpr int kSides[] = {1, 2, 8, 9, 64, 300, 5000};
+  for (const int w : kSides) {
+    for (const int h : kSides) {
+      for (const int channels : {1, 3, 4}) {
+        int before[2] = {};
+        for (const int width : {1, 64, 1000, 20000, 1000000}) {
+          int minimum = 0, spec = 0, morphology = 0;
+          const QvpStatus status =
+              qvpiFilterMorphologyBorderGetSize({w, h}, {width, 7}, qvp32f, channels, &spec, &morphology);
+          if (status) {
+            EXPECT_EQ(status, qvpStatusSizeOverflow);
+            EXPECT_EQ(morphology * int64_t{spec}, 0);
+            continue;
+          }
+          ASSERT_EQ(qvpiFilterMaxBorderGetBufferSize({w, h}, {width, 7}, qvp32f, channels, &minimum), 0);
+          EXPECT_LE(morphology, 64LL * (h + 4) * (width + w) * channels + 65536) << w << 'x' << h << ' ' << width;
+          EXPECT_LE(minimum, morphology);
+          EXPECT_GE(minimum, before[0]);
+          EXPECT_GE(morphology, before[1]);
+          before[0] = minimum, before[1] = morphology;
+        }
+      }
+    }
+  }
+}
+
+TEST(FilterExtremes, RefuseInTheDocumentedOrder) {
+  int size = 1;
+  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({}, {1, 0}, 0, 0, &size), qvpStatusSize);
+  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({1, 0}, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
+  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({1, 1}, {1, 1}, 99, 0, &size), qvpStatusDataType);
+  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({1, 1}, {1, 1}, qvp8u, 2, &size), qvpStatusNumChannels);
+  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({INT32_MAX, INT32_MAX}, {INT32_MAX, 1}, qvp32f, 4, &size),
+            qvpStatusSizeOverflow);
+  EXPECT_EQ(size, 0);
+  Qvp8u pixels[64] = {}, out[64], buffer[65536];
+  const auto filter = [&](QvpiSize mask, QvpiPoint anchor, int border) {
+    return qvpiFilterMinBorder_8u_C1R(pixels, 8, out, 8, {4, 4}, mask, anchor, border, nullptr, buffer);
+  };
+  EXPECT_EQ(filter({0, 0}, {9, 9}, qvpBorderConst), qvpStatusNullPointer);
+  EXPECT_EQ(filter({3, 0}, {0, 0}, 2), qvpStatusMaskSize);
+  EXPECT_EQ(filter({3, 3}, {3, 0}, 2), qvpStatusAnchor);
+  EXPECT_EQ(filter({3, 3}, {0, -1}, 2), qvpStatusAnchor);
+  EXPECT_EQ(filter({3, 3}, {2, 2}, qvpBorderReplicateAlt), qvpStatusBorder);
+  EXPECT_EQ(filter({3, 3}, {2, 2}, qvpBorderMirror), 0);
+}
+
+TEST(FilterExtremes, RecordsOfFailedInitsAreRefused) {
+  const Block block(4096), work(65536);
+  auto* const record = reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(block.data());
+  Qvp8u none[9] = {}, all[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1}, pixels[64] = {}, out[64];
+  const auto filter = [&](int border = qvpBorderReplicate) {
+    return qvpiFilterErodeBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, border, nullptr, record, work.data());
+  };
+  const auto init = [&](const Qvp8u* mask, QvpiSize size, QvpiPoint anchor) {
+    EXPECT_EQ(qvpiFilterMorphologyBorderInit(all, {3, 3}, {1, 1}, record), 0);
+    EXPECT_EQ(filter(), 0);
+    const QvpStatus status = qvpiFilterMorphologyBorderInit(mask, size, anchor, record);
+    EXPECT_EQ(filter(), qvpStatusContextMatch);
+    EXPECT_EQ(filter(2), qvpStatusBorder);
+    return status;
+  };
+  EXPECT_EQ(init(nullptr, {0, 3}, {9, 9}), qvpStatusNullPointer);
+  EXPECT_EQ(init(none, {0, 3}, {9, 9}), qvpStatusMaskSize);
+  EXPECT_EQ(init(none, {3, 3}, {0, 3}), qvpStatusAnchor);
+  EXPECT_EQ(init(none, {3, 3}, {0, 2}), qvpStatusBadArgument);
+  EXPECT_EQ(qvpiFilterMorphologyBorderInit(all, {3, 3}, {0, 0}, nullptr), qvpStatusNullPointer);
+  // A Gauss record is none of these.
+  EXPECT_EQ(
+      qvpiFilterGaussBorderInit({3, 3}, 1, 1, qvp8u, 1, reinterpret_cast<QvpiFilterGaussBorderSpec*>(block.data())), 0);
+  EXPECT_EQ(filter(), qvpStatusContextMatch);
+}
+
+}  // namespace
