@@ -8,6 +8,9 @@ namespace {
 
 // Lines of a block of columns stay in the nearest cache; columns that blocks have in common do not count.
 constexpr int64_t kCacheBytes = 16384, kFewestColumns = 64;
+// Bare lines may leave it: rows as they are are read in their order, for which whole ones are best.
+constexpr int64_t kBareCacheBytes = 1 << 18;
+constexpr int64_t CacheBytes(bool isBare) { return isBare ? kBareCacheBytes : kCacheBytes; }
 
 // Behind a line there is room for a vector. Lines are kept close: there may be thousands of a few pixels.
 constexpr int64_t kVectorBytes = 64, kLineBoundary = 32;
@@ -29,10 +32,12 @@ class Block {
       : windows_(windows),
         kernel_(kernel),
         samples_((columns.end - columns.begin) * windows.src.channels()),
-        window_{nullptr, samples_, 0, nullptr, 0},
+        window_{nullptr, samples_, 0, nullptr, 0, ColumnsOf(windows, kernel, columns)},
+        first_(columns.begin - windows.reach.left),
         lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
         next_(-windows.reach.above),
-        source_(windows.src, {columns.begin - windows.reach.left, columns.end + windows.reach.right},
+        source_(windows.src,
+                {first_ + window_.columns.before, columns.end + windows.reach.right - window_.columns.after},
                 samples_ >= kFewestInPlace && !kernel.readsBeyond) {
     for (int i = 0; i < kMostOutputs; ++i) {
       const Bytes& output = windows.outputs[i];
@@ -43,7 +48,7 @@ class Block {
   int64_t WorkBytes() const {
     const int64_t lines = (kernel_.across ? StageBytes() : 0) + lines_ * WindowLineBytes() +
                           kernel_.kept.count * SourceLineBytes(kernel_.kept.elementBytes);
-    return ByteCount(PointerBytes() + source_.TableBytes() + lines + 2 * ColourBytes())
+    return ByteCount(PointerBytes() + source_.TableBytes() + BorderBytes() + lines + 2 * ColourBytes())
         .RoundedTo(kRecordBoundary)
         .value();
   }
@@ -53,6 +58,8 @@ class Block {
     uint8_t* const end = memory + WorkBytes();
     pointers_ = reinterpret_cast<const void**>(memory);
     memory = source_.Start(memory + PointerBytes());
+    FindColumns(reinterpret_cast<int32_t*>(memory));
+    memory += BorderBytes();
     for (uint8_t*& colours : colours_) {
       colours = memory;
       memory += ColourBytes();
@@ -87,11 +94,39 @@ class Block {
   }
 
  private:
+  // Of bare lines, what is missing beside the columns that can be read.
+  static BorderColumns ColumnsOf(const Windows<T>& windows, const WindowKernel& kernel, Extent columns) {
+    const Extent lines{columns.begin - windows.reach.left, columns.end + windows.reach.right};
+    if (!kernel.isBare) return {0, lines.end - lines.begin, 0, nullptr};
+    const ptrdiff_t begin = std::max(lines.begin, windows.src.columns.begin),
+                    end = std::min(lines.end, windows.src.columns.end);
+    return {begin - lines.begin, end - begin, lines.end - end, nullptr};
+  }
+  void FindColumns(int32_t* to) {
+    BorderColumns& columns = window_.columns;
+    const ptrdiff_t begin = first_ + columns.before;
+    const auto find = [&](ptrdiff_t x, ptrdiff_t count) {
+      for (const ptrdiff_t end = x + count; x < end; ++x) {
+        const ptrdiff_t column = BorderPosition(windows_.src.kind, x, windows_.src.columns);
+        *to++ = column == kOutside ? -1 : static_cast<int32_t>(column - begin);
+      }
+    };
+    columns.from = to;
+    find(first_, columns.before);
+    find(begin + columns.inside, columns.after);
+  }
+  int64_t BorderBytes() const {
+    const int64_t count = window_.columns.before + window_.columns.after;
+    return ByteCount(count * int64_t{sizeof(int32_t)}).RoundedTo(kRecordBoundary).value();
+  }
+
   int64_t PointerBytes() const { return ByteCount(lines_ * 8).RoundedTo(kRecordBoundary).value(); }
   ptrdiff_t SourceSamples() const {
     return samples_ + (windows_.reach.left + windows_.reach.right) * windows_.src.channels();
   }
-  ptrdiff_t SamplesAcross() const { return kernel_.keepsReach ? SourceSamples() : samples_; }
+  ptrdiff_t SamplesAcross() const {
+    return kernel_.keepsReach ? window_.columns.inside * windows_.src.channels() : samples_;
+  }
   int64_t SourceLineBytes(int elementBytes) const { return LineBytes(SourceSamples(), elementBytes).value(); }
   int64_t StageBytes() const { return source_.isInPlace() ? 0 : SourceLineBytes(sizeof(T)); }
   int64_t WindowLineBytes() const {
@@ -151,6 +186,7 @@ class Block {
   const WindowKernel& kernel_;
   ptrdiff_t samples_;
   Window window_;
+  ptrdiff_t first_;  // column of lines, with those of the border
   int64_t lines_;
   ptrdiff_t next_;  // row of the next line
   BorderRows<SingleRows<T, T>, T> source_;
@@ -196,7 +232,7 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const ptrdiff_t width = windows.roi.width;
   const int64_t columnBytes =
       BytesOfColumn(MaskHeight(reach), windows.src.channels(), kernel.elementBytes, kernel.kept).value();
-  const int64_t most = std::max({kCacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
+  const int64_t most = std::max({CacheBytes(kernel.isBare) / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
     Block<T> block(windows, kernel,
@@ -210,12 +246,12 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
 
 // Of each line there are at most the columns of the region, or of a block and beyond it; the cache's bytes are all
 // lines' together. Beside the window's there are four lines: one of the source, one of constants, two of kept results.
-ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept) {
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept, bool isBare) {
   const ByteCount lines = ByteCount(mask.height) + 1 + kept.count, pixelBytes = channels * elementBytes;
   const int64_t columns = 4 * int64_t{mask.width} + kFewestColumns;
   const ByteCount ofColumn = BytesOfColumn(mask.height, channels, elementBytes, kept);
-  const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + kCacheBytes;
-  const ByteCount others = pixelBytes * (4 * std::min(regionWidth, kCacheBytes / (2 * channels) + columns));
+  const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + CacheBytes(isBare);
+  const ByteCount others = pixelBytes * (4 * std::min(regionWidth, CacheBytes(isBare) / (2 * channels) + columns));
   const ByteCount beyond = (lines + 4) * (pixelBytes * mask.width + kVectorBytes + kLineBoundary + 8);
   return std::min(whole.value(), ofBlocks.value()) + others + beyond + ByteCount(mask.width) * 4 + 8 * kRecordBoundary +
          kLineSpare;
@@ -223,7 +259,7 @@ ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementB
 
 template <class T>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel) {
-  if (!kernel.across && FilterInPlace(windows, kernel)) return;
+  if (!kernel.across && !kernel.isBare && FilterInPlace(windows, kernel)) return;
   FilterBlocks(windows, kernel);
 }
 

@@ -20,6 +20,35 @@ struct ResultRows {
   std::array<uint8_t*, kMostOutputs> upper, lower;
 };
 
+// Columns of lines that the border stands for, where lines have those alone that are in the image.
+struct BorderColumns {
+  ptrdiff_t before, inside, after;
+  const int32_t* from;  // a column inside for each of those before and after; negative for the constant
+
+  // Fills them around the columns inside, of a row that begins with those before.
+  template <class E>
+  HWY_INLINE void Fill(ptrdiff_t channels, const E* constant, E* row) const {
+    if (channels == 1) FillPixels<1>(constant, row);
+    if (channels == 3) FillPixels<3>(constant, row);
+    if (channels == 4) FillPixels<4>(constant, row);
+  }
+
+ private:
+  template <int kChannels, class E>
+  HWY_INLINE void FillPixels(const E* constant, E* row) const {
+    const E* const first = row + before * kChannels;
+    const auto fill = [=](const int32_t* columns, ptrdiff_t count, E* to) QVP_INLINED {
+#pragma clang loop vectorize(disable) unroll(disable)
+      for (ptrdiff_t i = 0; i < count; ++i) {
+        const E* const pixel = columns[i] < 0 ? constant : first + columns[i] * ptrdiff_t{kChannels};
+        std::memcpy(to + i * kChannels, pixel, kChannels * sizeof(E));
+      }
+    };
+    fill(from, before, row);
+    fill(from + before, after, row + (before + inside) * kChannels);
+  }
+};
+
 // What rows of results are made from, in a block of columns.
 struct Window {
   const void* const* lines;  // from the uppermost on
@@ -27,6 +56,7 @@ struct Window {
   ptrdiff_t y;         // of the upper row
   uint8_t* kept;       // what a filter keeps from row to row; of unknown content at y = 0
   ptrdiff_t keptStep;  // bytes
+  BorderColumns columns;
 };
 
 // What a filter does.
@@ -37,6 +67,9 @@ struct Window {
 //   down    makes results from a window. `samples` are those of the source's type of pixel. Without `across` the first
 //           result reads the first samples of lines here.
 //   kept    rows that `down` writes for itself, with room for what a line of the source has.
+//   isBare  lines have no border columns: `down` fills them in what it makes of lines. Columns of the border are the
+//   same
+//           on every row, so that what goes down alone may go down first, on rows as they are.
 // Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
 // kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
 struct KeptRows {
@@ -52,6 +85,7 @@ struct WindowKernel {
   KeptRows kept = {};
   bool readsBeyond = false;
   bool keepsReach = false;
+  bool isBare = false;
 };
 
 inline constexpr ptrdiff_t kFewestInPlace = 64;
@@ -68,7 +102,8 @@ struct Windows {
 
 // Bytes of the work buffer for regions up to a width, from any address on; they grow with each argument.
 // `elementBytes` is the most that an element of the source, of a line or of a result has.
-ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept = {});
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept = {},
+                      bool isBare = false);
 
 template <class T>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel);
