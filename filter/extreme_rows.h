@@ -24,25 +24,31 @@ struct ExtremeRows {
     });
   }
 
-  // Of a window of `width` elements at each place, which are `channels` apart: `from` has n + (width - 1) * channels
-  // elements, and a vector behind them if that is less than a vector. `spare` are two rows as long for what is between.
-  static void Across(const E* from, ptrdiff_t width, ptrdiff_t channels, E* const (&spare)[2], ptrdiff_t n, T* to) {
-    ptrdiff_t reached = 1;
-    for (int turn = 0; width > 5 * reached; turn ^= 1) {
-      const ptrdiff_t next = 4 * reached;
-      Combine<4, E>(from, reached * channels, 3 * reached * channels, n + (width - next) * channels, spare[turn]);
-      from = spare[turn];
-      reached = next;
+  // The extremes of windows of `width` elements, which are `channels` apart: passes that make windows four times as
+  // long, and a last one that overlaps them.
+  class Windowed {
+   public:
+    Windowed(ptrdiff_t width, ptrdiff_t channels) : width_(width), channels_(channels) {
+      while (width > 5 * reached_) reached_ *= 4;
+      constexpr auto kFinish = std::array{Combine<1, T>, Combine<2, T>, Combine<3, T>, Combine<4, T>, Combine<5, T>};
+      finish_ = kFinish[(width + reached_ - 1) / reached_ - 1];
     }
-    const ptrdiff_t step = reached * channels, last = (width - reached) * channels;
-    switch ((width + reached - 1) / reached) {
-      case 1: return Combine<1, T>(from, step, last, n, to);
-      case 2: return Combine<2, T>(from, step, last, n, to);
-      case 3: return Combine<3, T>(from, step, last, n, to);
-      case 4: return Combine<4, T>(from, step, last, n, to);
-      default: return Combine<5, T>(from, step, last, n, to);
+
+    // `from` has n + (width - 1) * channels elements, and a vector behind them if that is less than a vector. It and
+    // `spare`, which is as long, are for what is between.
+    HWY_INLINE void Run(E* from, E* spare, ptrdiff_t n, T* to) const {
+      for (ptrdiff_t reached = 1; reached < reached_; reached *= 4) {
+        const ptrdiff_t step = reached * channels_;
+        Combine<4, E>(from, step, 3 * step, n + (width_ - 4 * reached) * channels_, spare);
+        std::swap(from, spare);
+      }
+      finish_(from, reached_ * channels_, (width_ - reached_) * channels_, n, to);
     }
-  }
+
+   private:
+    ptrdiff_t width_, channels_, reached_ = 1;
+    void (*finish_)(const E* from, ptrdiff_t step, ptrdiff_t last, ptrdiff_t n, T* to);
+  };
 
  private:
   // The extreme of kTerms elements, `step` apart but the last one, which is at `last`. Results of T are finished.

@@ -67,12 +67,9 @@ HWY_INLINE V ResultOf(V lanes) {
   return lanes;
 }
 
-// Filters by the extremes of rectangles. The mask's sides and the window's reach are the same.
-struct Rectangle {
-  ptrdiff_t width, height, channels;
-};
+// Filters by the extremes of rectangles, whose sides and the window's reach are the same.
 template <class Op, class T>
-void FilterRectangles(const Windows<BitsOf<T>>& windows, const Rectangle& rectangle);
+void FilterRectangles(const Windows<BitsOf<T>>& windows, ptrdiff_t width, ptrdiff_t height);
 
 constexpr bool IsExtremeMask(QvpiSize mask) { return mask.width >= 1 && mask.height >= 1; }
 

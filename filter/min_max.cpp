@@ -14,7 +14,7 @@ QvpStatus Extreme(const Image<const T>& src, const Image<T>& dst, Size roi, Qvpi
   if (const QvpStatus failed = CheckAnchored(IsExtremeMask(mask), mask, anchor, border)) return failed;
   auto windows = WindowsOn(src, roi, border, value, ReachOf(mask, anchor), buffer);
   windows.outputs[0] = AsBytes(dst);
-  FilterRectangles<Op, T>(windows, {mask.width, mask.height, Channels(src.layout)});
+  FilterRectangles<Op, T>(windows, mask.width, mask.height);
   return qvpStatusNoError;
 }
 

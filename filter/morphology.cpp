@@ -89,7 +89,7 @@ QvpStatus Morph(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBo
   windows.outputs[0] = AsBytes(dst);
   const ptrdiff_t channels = Channels(src.layout);
   if (r.isFull) {
-    FilterRectangles<Op, T>(windows, {r.width, r.height, channels});
+    FilterRectangles<Op, T>(windows, r.width, r.height);
     return qvpStatusNoError;
   }
   const Chords chords{r, channels};

@@ -205,6 +205,14 @@ TEST(FilterExtremes, TakeEveryAnchorAtEveryBorder) {
   }
 }
 
+// Wider than the blocks of columns.
+TEST(FilterExtremes, TakeLongRows) {
+  for (const QvpiSize mask : {QvpiSize{2, 1}, {1, 3}, {3, 9}}) {
+    Check(FunctionNamed("qvpiFilterMaxBorder_16u_C4R"), Full(mask), {{20000, 2}, 4, qvpBorderConst});
+    Check(FunctionNamed("qvpiFilterErodeBorder_8u_C1R"), Full(mask), {{50000, 1}, 1, qvpBorderMirror});
+  }
+}
+
 TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
   const Region r{{7, 1}, 1, qvpBorderReplicate};
   Bordered scene(ElementOf("32f"), {}, r);
