@@ -220,12 +220,13 @@ void FilterRectangles(const Windows<BitsOf<T>>& windows, ptrdiff_t width, ptrdif
                           .elementBytes = sizeof(T),
                           .rowsAtOnce = 2,
                           .kept = {KeptCount(height, windows.roi.width), sizeof(T)},
-                          .isBare = true});
+                          .isBare = true,
+                          .cacheBytes = kSecondCacheBytes});
 }
 
 ByteCount RectangleBytes(Size mask, int64_t regionWidth, int channels, int elementBytes) {
   return WindowBytes(mask, regionWidth, channels, elementBytes, {KeptCount(mask.height, regionWidth), elementBytes},
-                     true);
+                     kSecondCacheBytes);
 }
 
 #define EXTREMES(T)                                                                          \

@@ -1,6 +1,8 @@
 // Extremes of numbers of one type: lanes with a total order, and the least or the greatest of them.
 #pragma once
 
+#include <limits>
+
 #include "base/floats.h"
 #include "filter/windows.h"
 
@@ -19,6 +21,8 @@ using ExtremeLane = std::conditional_t<std::is_same_v<T, float>, uint32_t, T>;
 // and become kLast, the infinity beside them, in the end.
 struct Least {
   static constexpr uint32_t kFirst = 0x807FFFFF, kLast = 0xFF000001;
+  template <class E>
+  static constexpr E kNeutral = std::numeric_limits<E>::max();
 
   template <class V>
   static HWY_INLINE V Of(V a, V b) {
@@ -28,6 +32,8 @@ struct Least {
 
 struct Greatest {
   static constexpr uint32_t kFirst = 0x7F800001, kLast = 0x00FFFFFE;
+  template <class E>
+  static constexpr E kNeutral = std::numeric_limits<E>::lowest();
 
   template <class V>
   static HWY_INLINE V Of(V a, V b) {

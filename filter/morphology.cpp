@@ -12,40 +12,77 @@ namespace {
 struct Chords {
   const MorphologyRecord& record;
   ptrdiff_t channels;
+  uint8_t* levels;  // two rows
+
+  const Chord* begin() const { return record.Chords(); }
+  ptrdiff_t SamplesBeyond() const { return (record.width - 1) * channels; }
 };
 
 template <class Op, class T>
 class ChordKernel {
  public:
-  static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
+  // ---- Lines of spans, each as long as a row of results.
+
+  static void AcrossSpans(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const Chords& c = *static_cast<const Chords*>(context);
+    ptrdiff_t shift = c.channels, n = samples + c.SamplesBeyond();
+    E *to = reinterpret_cast<E*>(c.levels), *spare = to + LevelBytes(n, sizeof(E)).value() / ptrdiff_t{sizeof(E)};
+    const E* level = static_cast<const E*>(source);
+    if constexpr (std::is_same_v<T, float>) {
+      Rows::Load(source, n, spare);
+      level = spare;
+    }
+    int l = 0;
+    for (int k = 0; k < c.record.spans; ++k) {
+      const ChordSpan& span = c.record.spanAt[k];
+      for (; l < span.level; ++l, shift *= 2) {
+        n -= shift;
+        Overlap(level, level + shift, n, to);
+        level = to;
+        std::swap(to, spare);
+      }
+      Overlap(level + span.column * c.channels, level + span.second * c.channels, samples,
+              static_cast<E*>(line) + k * samples);
+    }
+  }
+
+  static void DownSpans(const void* context, const Window& window, const ResultRows& rows) {
+    const MorphologyRecord& r = static_cast<const Chords*>(context)->record;
+    const SpanUse *const both = r.Uses(), *const upper = both + r.counts[0], *const lower = upper + r.counts[1];
+    const SpanKernel kernel{{both, upper, lower, lower + r.counts[2]}, window.samples};
+    FilterRows(kernel, reinterpret_cast<const E* const*>(window.lines), window.samples,
+               reinterpret_cast<T*>(rows.upper[0]), reinterpret_cast<T*>(rows.lower[0]));
+  }
+
+  // ---- Lines of all levels.
+
+  static void AcrossLevels(const void* context, const void* source, void* line, ptrdiff_t samples) {
     const Chords& c = *static_cast<const Chords*>(context);
     E* level = static_cast<E*>(line);
     Rows::Load(source, samples, level);
     ptrdiff_t shift = c.channels, n = samples - shift;
     for (int l = 1; l < c.record.levels; ++l, level += samples, shift *= 2, n -= shift) {
-      Double(level, shift, n, level + samples);
+      Overlap(level, level + shift, n, level + samples);
     }
   }
 
-  static void Down(const void* context, const Window& window, const ResultRows& rows) {
+  static void DownLevels(const void* context, const Window& window, const ResultRows& rows) {
     const Chords& c = *static_cast<const Chords*>(context);
-    const Places places{reinterpret_cast<const E* const*>(window.lines),
-                        window.samples + (c.record.width - 1) * c.channels, c.channels};
-    const Chord *const pairs = c.record.Chords(), *const singles = pairs + c.record.pairs,
-                       *const end = singles + c.record.singles;
-    MakeRow<kDown, kLanes>(
+    const Places places{reinterpret_cast<const E* const*>(window.lines), window.samples + c.SamplesBeyond(),
+                        c.channels};
+    const Chord *const pairs = c.begin(), *const singles = pairs + c.record.counts[0],
+                       *const end = singles + c.record.counts[1];
+    MakeRow<4, kLanes>(
         window.samples, reinterpret_cast<E*>(rows.upper[0]), [=](auto count, ptrdiff_t i, E* to) HWY_ATTR {
           hn::Vec<D> v[count];
-          const E* const first = places.Of(*pairs, pairs->column) + i;
-          Unrolled<count>([&](auto k) QVP_INLINED { v[k] = hn::LoadU(D(), first + k * kLanes); });
+          Unrolled<count>([&](auto k) QVP_INLINED { v[k] = hn::Set(D(), Op::template kNeutral<E>); });
           const auto take = [&](const E* from) QVP_INLINED {
-            Unrolled<count>([&](auto k) QVP_INLINED { v[k] = Op::Of(v[k], hn::LoadU(D(), from + k * kLanes)); });
+            Unrolled<count>([&](auto k) QVP_INLINED { v[k] = Op::Of(v[k], hn::LoadU(D(), from + i + k * kLanes)); });
           };
-          for (const Chord* chord = pairs; chord != singles; ++chord) {
-            take(places.Of(*chord, chord->column) + i);
-            take(places.Of(*chord, chord->second) + i);
+          for (const Chord* chord = pairs; chord != end; ++chord) {
+            take(places.Of(*chord, chord->span.column));
+            if (chord < singles) take(places.Of(*chord, chord->span.second));
           }
-          for (const Chord* chord = singles; chord != end; ++chord) take(places.Of(*chord, chord->column) + i);
           Unrolled<count>([&](auto k) QVP_INLINED { hn::StoreU(ResultOf<Op, T>(v[k]), D(), to + k * kLanes); });
         });
   }
@@ -55,17 +92,50 @@ class ChordKernel {
   using E = typename Rows::E;
   using D = typename Rows::D;
   static constexpr ptrdiff_t kLanes = Rows::kLanes;
-  static constexpr int kAcross = 2, kDown = 8;  // vectors at a time
 
-  // A level from the one before it.
-  static void Double(const E* from, ptrdiff_t shift, ptrdiff_t n, E* to) {
-    ForEachVectors<kAcross, kLanes>(n, [=](auto count, ptrdiff_t i) HWY_ATTR {
+  // Of the elements of two rows, or of one at two places.
+  static void Overlap(const E* a, const E* b, ptrdiff_t n, E* to) {
+    ForEachVectors<2, kLanes>(n, [=](auto count, ptrdiff_t i) HWY_ATTR {
       Unrolled<count>([&](auto v) QVP_INLINED {
-        const E* const first = from + i + v * kLanes;
-        hn::StoreU(Op::Of(hn::LoadU(D(), first), hn::LoadU(D(), first + shift)), D(), to + i + v * kLanes);
+        const ptrdiff_t at = i + v * kLanes;
+        hn::StoreU(Op::Of(hn::LoadU(D(), a + at), hn::LoadU(D(), b + at)), D(), to + at);
       });
     });
   }
+
+  // Two rows of results from the uses of lines.
+  struct SpanKernel {
+    static constexpr ptrdiff_t kLanes = Rows::kLanes;
+    static constexpr int kVectors = 4;
+    const SpanUse* lists[4];  // where they begin: uses by both rows, by the upper one, by the lower one
+    ptrdiff_t samples;
+
+    template <int kCount>
+    HWY_INLINE void Run(const E* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+      hn::Vec<D> above[kCount], below[kCount];
+      Unrolled<kCount>([&](auto k) QVP_INLINED { above[k] = hn::Set(D(), Op::template kNeutral<E>); });
+      const auto take = [=](const SpanUse* use, hn::Vec<D>(&v)[kCount]) QVP_INLINED {
+        const ptrdiff_t offset = use->span * samples + at;
+        const E *const *line = lines + use->line, *const *const end = line + use->count;
+        for (; line != end; ++line) {
+          Unrolled<kCount>([&](auto k)
+                               QVP_INLINED { v[k] = Op::Of(v[k], hn::LoadU(D(), *line + offset + k * kLanes)); });
+        }
+      };
+      for (const SpanUse* use = lists[0]; use != lists[1]; ++use) take(use, above);
+      Unrolled<kCount>([&](auto k) QVP_INLINED { below[k] = above[k]; });
+      for (const SpanUse* use = lists[1]; use != lists[2]; ++use) take(use, above);
+      for (const SpanUse* use = lists[2]; use != lists[3]; ++use) take(use, below);
+      Store(below, lower);
+      Store(above, upper);
+    }
+
+    template <int kCount>
+    static HWY_INLINE void Store(const hn::Vec<D> (&v)[kCount], T* to) {
+      E* const out = reinterpret_cast<E*>(to);
+      Unrolled<kCount>([&](auto k) QVP_INLINED { hn::StoreU(ResultOf<Op, T>(v[k]), D(), out + k * kLanes); });
+    }
+  };
 
   // Where windows are, for the first result of a row.
   struct Places {
@@ -73,10 +143,26 @@ class ChordKernel {
     ptrdiff_t levelStep, channels;
 
     HWY_INLINE const E* Of(const Chord& chord, ptrdiff_t column) const {
-      return lines[chord.row] + chord.level * levelStep + column * channels;
+      return lines[chord.row] + chord.span.level * levelStep + column * channels;
     }
   };
 };
+
+template <class Op, class T>
+void FilterChords(Windows<BitsOf<T>> windows, const MorphologyRecord& record) {
+  using Kernel = ChordKernel<Op, T>;
+  const ptrdiff_t channels = windows.src.channels();
+  const bool hasSpans = record.spans > 0;
+  const Chords chords{record, channels, AtBoundary(windows.buffer)};
+  windows.buffer = chords.levels + 2 * LevelBytes((windows.roi.width + record.width) * channels, sizeof(T)).value();
+  FilterWindows(windows, {.context = &chords,
+                          .across = hasSpans ? Kernel::AcrossSpans : Kernel::AcrossLevels,
+                          .down = hasSpans ? Kernel::DownSpans : Kernel::DownLevels,
+                          .elementBytes = (hasSpans ? record.spans : record.levels) * static_cast<int>(sizeof(T)),
+                          .rowsAtOnce = hasSpans ? 2 : 1,
+                          .keepsReach = !hasSpans,
+                          .cacheBytes = kSecondCacheBytes});
+}
 
 template <class Op, class T>
 QvpStatus Morph(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
@@ -87,19 +173,11 @@ QvpStatus Morph(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBo
   if (r.identification != MorphologyRecord::kIdentification) return qvpStatusContextMatch;
   auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
   windows.outputs[0] = AsBytes(dst);
-  const ptrdiff_t channels = Channels(src.layout);
   if (r.isFull) {
     FilterRectangles<Op, T>(windows, r.width, r.height);
     return qvpStatusNoError;
   }
-  const Chords chords{r, channels};
-  using Kernel = ChordKernel<Op, T>;
-  FilterWindows(windows, {.context = &chords,
-                          .across = Kernel::Across,
-                          .down = Kernel::Down,
-                          .elementBytes = r.levels * static_cast<int>(sizeof(T)),
-                          .rowsAtOnce = 1,
-                          .keepsReach = true});
+  FilterChords<Op, T>(windows, r);
   return qvpStatusNoError;
 }
 

@@ -9,46 +9,114 @@
 namespace qvp::filter {
 namespace {
 
-// Calls run(row, first column, length) for the runs of a mask.
-template <class Run>
-void ForEachRun(const uint8_t* mask, QvpiSize size, const Run& run) {
-  for (int row = 0; row < size.height; ++row, mask += size.width) {
-    for (int x = 0; x < size.width; ++x) {
-      const int first = x;
-      while (x < size.width && mask[x] != 0) ++x;
-      if (x > first) run(row, first, x - first);
-    }
+// Calls chord(row, span) for the chords of a row of a mask.
+template <class Take>
+void ForEachChordOf(const uint8_t* mask, QvpiSize size, int row, const Take& take) {
+  const uint8_t* const pixels = mask + ptrdiff_t{row} * size.width;
+  for (int x = 0; x < size.width; ++x) {
+    const int first = x;
+    while (x < size.width && pixels[x] != 0) ++x;
+    if (x == first) continue;
+    const int level = LevelsOf(x - first) - 1;
+    take(ChordSpan{first, x - (1 << level), level});
+  }
+}
+template <class Take>
+void ForEachChord(const uint8_t* mask, QvpiSize size, const Take& take) {
+  for (int row = 0; row < size.height; ++row) {
+    ForEachChordOf(mask, size, row, [&](const ChordSpan& span) { take(Chord{row, span}); });
   }
 }
 
-// Chords of two windows come first.
-void Fill(const uint8_t* mask, QvpiSize size, QvpiPoint anchor, MorphologyRecord& record) {
-  int64_t selected = 0;
-  int32_t counts[2] = {}, levels = 0;
+// The spans of a mask by ascending levels; their number is 0 if there are too many.
+void FindSpans(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
+  constexpr int kMost = MorphologyRecord::kMostSpans;
+  ChordSpan* const spans = record.spanAt;
+  int count = 0;
+  ForEachChord(mask, size, [&](const Chord& chord) {
+    record.levels = std::max(record.levels, chord.span.level + 1);
+    if (count > kMost || std::find(spans, spans + count, chord.span) != spans + count) return;
+    if (++count > kMost) return;
+    ChordSpan* to = spans + count - 1;
+    for (; to > spans && to[-1].level > chord.span.level; --to) *to = to[-1];
+    *to = chord.span;
+  });
+  record.spans = count > kMost ? 0 : count;
+}
+
+bool HasSpan(const uint8_t* mask, QvpiSize size, int row, const ChordSpan& span) {
+  bool has = false;
+  if (row < 0 || row == size.height) return has;
+  ForEachChordOf(mask, size, row, [&](const ChordSpan& other) { has = has || other == span; });
+  return has;
+}
+
+// A line is under a row of the mask for the upper results, and under the row above that for the lower ones.
+void FillUses(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
+  constexpr uint32_t kMost = (1u << 28) - 1;
+  SpanUse* to = record.Uses();
+  for (int list = 0; list < 3; ++list) {
+    const bool byUpper = list != 2, byLower = list != 1;
+    SpanUse* const first = to;
+    for (int k = 0; k < record.spans; ++k) {
+      const ChordSpan& span = record.spanAt[k];
+      bool lower = false;
+      for (int line = 0; line <= size.height; ++line) {
+        const bool upper = HasSpan(mask, size, line, span);
+        if (upper == byUpper && lower == byLower) {
+          const bool goesOn = to > first && to[-1].span == uint32_t(k) && to[-1].line + int(to[-1].count) == line;
+          if (goesOn && to[-1].count < kMost) {
+            ++to[-1].count;
+          } else {
+            *to++ = {line, uint32_t(k), 1};
+          }
+        }
+        lower = upper;
+      }
+    }
+    record.counts[list] = static_cast<int32_t>(to - first);
+  }
+}
+
+void FillChords(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
   Chord* to = record.Chords();
   for (const bool isSingle : {false, true}) {
-    ForEachRun(mask, size, [&](int row, int column, int length) {
-      const int level = LevelsOf(length) - 1, second = column + length - (1 << level);
-      if ((second == column) != isSingle) return;
-      *to++ = {row, column, second, level};
-      ++counts[isSingle];
-      levels = std::max(levels, level + 1);
-      selected += length;
+    const Chord* const first = to;
+    ForEachChord(mask, size, [&](const Chord& chord) {
+      if ((chord.span.column == chord.span.second) == isSingle) *to++ = chord;
     });
+    record.counts[isSingle] = static_cast<int32_t>(to - first);
   }
+}
+
+void Fill(const uint8_t* mask, QvpiSize size, QvpiPoint anchor, MorphologyRecord& record) {
+  const uint8_t* const end = mask + ptrdiff_t{size.width} * size.height;
   record.width = size.width;
   record.height = size.height;
   record.anchorX = anchor.x;
   record.anchorY = anchor.y;
-  record.levels = levels;
-  record.pairs = counts[0];
-  record.singles = counts[1];
-  record.isFull = selected == int64_t{size.width} * size.height;
+  record.isFull = std::find(mask, end, 0) == end;
+  record.levels = 0;
+  FindSpans(mask, size, record);
+  if (record.spans > 0) {
+    FillUses(mask, size, record);
+  } else {
+    FillChords(mask, size, record);
+  }
 }
 
 bool IsEmpty(const uint8_t* mask, QvpiSize size) {
   const uint8_t* const end = mask + ptrdiff_t{size.width} * size.height;
   return std::all_of(mask, end, [](uint8_t b) { return b == 0; });
+}
+
+// Lines are of spans or of levels; a full mask is a rectangle.
+ByteCount BufferBytes(QvpiSize mask, int64_t regionWidth, int channels, int bytes) {
+  const ByteCount levels = LevelBytes((regionWidth + mask.width) * channels, bytes) * 2;
+  const int64_t spans = std::min<int64_t>(MorphologyRecord::kMostSpans, (int64_t{mask.width} + 1) * mask.width / 2);
+  const int longest = static_cast<int>(std::max<int64_t>(spans, LevelsOf(mask.width))) * bytes;
+  const ByteCount chords = levels + WindowBytes(mask, regionWidth, channels, longest, {}, kSecondCacheBytes);
+  return std::max(chords.value(), RectangleBytes(mask, regionWidth, channels, bytes).value());
 }
 
 }  // namespace
@@ -57,18 +125,15 @@ bool IsEmpty(const uint8_t* mask, QvpiSize size) {
 using namespace qvp;
 using namespace qvp::filter;
 
-// For either way of filtering.
 QvpStatus qvpiFilterMorphologyBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels,
                                             int* pSpecSize, int* pBufferSize) {
   if (!pSpecSize) return qvpStatusNullPointer;
   if (const QvpStatus failed = CheckQuery(pBufferSize, roiSize, IsExtremeMask(maskSize), dataType, numChannels)) {
     return failed;
   }
-  const int bytes = ExtremeBytes(dataType);
-  const ByteCount full = RectangleBytes(maskSize, roiSize.width, numChannels, bytes),
-                  chords = WindowBytes(maskSize, roiSize.width, numChannels, LevelsOf(maskSize.width) * bytes);
   const QvpStatus spec = MorphologyRecord::Bytes(maskSize).StoreTo(pSpecSize);
-  const QvpStatus buffer = ByteCount(std::max(full.value(), chords.value())).StoreTo(pBufferSize);
+  const QvpStatus buffer =
+      BufferBytes(maskSize, roiSize.width, numChannels, ExtremeBytes(dataType)).StoreTo(pBufferSize);
   return spec ? spec : buffer;
 }
 

@@ -6,11 +6,8 @@
 namespace qvp::filter {
 namespace {
 
-// Lines of a block of columns stay in the nearest cache; columns that blocks have in common do not count.
-constexpr int64_t kCacheBytes = 16384, kFewestColumns = 64;
-// Bare lines may leave it: rows as they are are read in their order, for which whole ones are best.
-constexpr int64_t kBareCacheBytes = 1 << 18;
-constexpr int64_t CacheBytes(bool isBare) { return isBare ? kBareCacheBytes : kCacheBytes; }
+// Columns that blocks have in common do not count.
+constexpr int64_t kFewestColumns = 64;
 
 // Behind a line there is room for a vector. Lines are kept close: there may be thousands of a few pixels.
 constexpr int64_t kVectorBytes = 64, kLineBoundary = 32;
@@ -232,7 +229,7 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const ptrdiff_t width = windows.roi.width;
   const int64_t columnBytes =
       BytesOfColumn(MaskHeight(reach), windows.src.channels(), kernel.elementBytes, kernel.kept).value();
-  const int64_t most = std::max({CacheBytes(kernel.isBare) / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
+  const int64_t most = std::max({kernel.cacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
     Block<T> block(windows, kernel,
@@ -246,12 +243,13 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
 
 // Of each line there are at most the columns of the region, or of a block and beyond it; the cache's bytes are all
 // lines' together. Beside the window's there are four lines: one of the source, one of constants, two of kept results.
-ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept, bool isBare) {
+ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept,
+                      int64_t cacheBytes) {
   const ByteCount lines = ByteCount(mask.height) + 1 + kept.count, pixelBytes = channels * elementBytes;
   const int64_t columns = 4 * int64_t{mask.width} + kFewestColumns;
   const ByteCount ofColumn = BytesOfColumn(mask.height, channels, elementBytes, kept);
-  const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + CacheBytes(isBare);
-  const ByteCount others = pixelBytes * (4 * std::min(regionWidth, CacheBytes(isBare) / (2 * channels) + columns));
+  const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + cacheBytes;
+  const ByteCount others = pixelBytes * (4 * std::min(regionWidth, cacheBytes / (2 * channels) + columns));
   const ByteCount beyond = (lines + 4) * (pixelBytes * mask.width + kVectorBytes + kLineBoundary + 8);
   return std::min(whole.value(), ofBlocks.value()) + others + beyond + ByteCount(mask.width) * 4 + 8 * kRecordBoundary +
          kLineSpare;

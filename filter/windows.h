@@ -70,11 +70,16 @@ struct Window {
 //   isBare  lines have no border columns: `down` fills them in what it makes of lines. Columns of the border are the
 //   same
 //           on every row, so that what goes down alone may go down first, on rows as they are.
+//   cacheBytes  how many bytes of lines and kept rows a block of columns has: those of the second cache where most of
+//   the
+//           work is done while a line is new, or lines are rows as they are, which are best read to their ends
 // Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
 // kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
 struct KeptRows {
   int count = 0, elementBytes = 0;
 };
+
+inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 18;
 
 struct WindowKernel {
   const void* context;
@@ -86,6 +91,7 @@ struct WindowKernel {
   bool readsBeyond = false;
   bool keepsReach = false;
   bool isBare = false;
+  int64_t cacheBytes = kNearestCacheBytes;
 };
 
 inline constexpr ptrdiff_t kFewestInPlace = 64;
@@ -101,9 +107,10 @@ struct Windows {
 };
 
 // Bytes of the work buffer for regions up to a width, from any address on; they grow with each argument.
-// `elementBytes` is the most that an element of the source, of a line or of a result has.
+// `elementBytes` is the most that an element of the source, of a line or of a result has; `cacheBytes` as in the
+// kernel.
 ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept = {},
-                      bool isBare = false);
+                      int64_t cacheBytes = kNearestCacheBytes);
 
 template <class T>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel);
