@@ -61,12 +61,17 @@ void AddDisc(const std::string& what, QvpiSize size, int side, Call call, double
   auto* const spec = reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(memory.get());
   const cv::Mat element = cv::getStructuringElement(cv::MORPH_ELLIPSE, {side, side});
   Require(qvpiFilterMorphologyBorderInit(element.data, {side, side}, {side / 2, side / 2}, spec));
-  AddRow("erode by disc " + std::to_string(side) + " " + what, size, a.bytes(),
-         [=] {
-           (void)memory;
-           return call(a.data(), a.step, b.data(), b.step, size, kBorder, nullptr, spec, buffer.get());
-         },
-         "erode", [=] { cv::erode(a.mat, b.mat, element, {-1, -1}, 1, kPeerBorder); }, atLeast);
+  AddRow(
+      "erode by disc " + std::to_string(side) + " " + what, size, a.bytes(),
+      [=] {
+        (void)memory;
+        return call(a.data(), a.step, b.data(), b.step, size, kBorder, nullptr, spec, buffer.get());
+      },
+      "erode",
+      [=] {
+        cv::erode(a.mat, b.mat, element, {-1, -1}, 1, kPeerBorder);
+      },
+      atLeast);
 }
 
 const bool kRegistered = [] {

@@ -24,6 +24,11 @@ struct ExtremeRows {
     });
   }
 
+  // The extremes of four elements, `step` apart.
+  static void Quadruple(const E* from, ptrdiff_t step, ptrdiff_t n, E* to) {
+    Combine<4, E>(from, step, 3 * step, n, to);
+  }
+
   // The extremes of windows of `width` elements, which are `channels` apart: passes that make windows four times as
   // long, and a last one that overlaps them.
   class Windowed {
@@ -39,7 +44,7 @@ struct ExtremeRows {
     HWY_INLINE void Run(E* from, E* spare, ptrdiff_t n, T* to) const {
       for (ptrdiff_t reached = 1; reached < reached_; reached *= 4) {
         const ptrdiff_t step = reached * channels_;
-        Combine<4, E>(from, step, 3 * step, n + (width_ - 4 * reached) * channels_, spare);
+        Quadruple(from, step, n + (width_ - 4 * reached) * channels_, spare);
         std::swap(from, spare);
       }
       finish_(from, reached_ * channels_, (width_ - reached_) * channels_, n, to);

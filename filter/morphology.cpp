@@ -21,6 +21,12 @@ struct Chords {
 template <class Op, class T>
 class ChordKernel {
  public:
+  // ---- Lines of pixels.
+
+  static void AcrossPixels(const void*, const void* source, void* line, ptrdiff_t samples) {
+    Rows::Load(source, samples, static_cast<E*>(line));
+  }
+
   // ---- Lines of spans, each as long as a row of results.
 
   static void AcrossSpans(const void* context, const void* source, void* line, ptrdiff_t samples) {
@@ -35,9 +41,16 @@ class ChordKernel {
     int l = 0;
     for (int k = 0; k < c.record.spans; ++k) {
       const ChordSpan& span = c.record.spanAt[k];
-      for (; l < span.level; ++l, shift *= 2) {
-        n -= shift;
-        Overlap(level, level + shift, n, to);
+      while (l < span.level) {
+        const int up = l + 2 <= span.level ? 2 : 1;
+        n -= up == 2 ? 3 * shift : shift;
+        if (up == 2) {
+          Rows::Quadruple(level, shift, n, to);
+        } else {
+          Overlap(level, level + shift, n, to);
+        }
+        l += up;
+        shift <<= up;
         level = to;
         std::swap(to, spare);
       }
@@ -47,11 +60,12 @@ class ChordKernel {
   }
 
   static void DownSpans(const void* context, const Window& window, const ResultRows& rows) {
-    const MorphologyRecord& r = static_cast<const Chords*>(context)->record;
+    const Chords& c = *static_cast<const Chords*>(context);
+    const MorphologyRecord& r = c.record;
     const SpanUse *const both = r.Uses(), *const upper = both + r.counts[0], *const lower = upper + r.counts[1];
-    const SpanKernel kernel{{both, upper, lower, lower + r.counts[2]}, window.samples};
-    FilterRows(kernel, reinterpret_cast<const E* const*>(window.lines), window.samples,
-               reinterpret_cast<T*>(rows.upper[0]), reinterpret_cast<T*>(rows.lower[0]));
+    const SpanKernel kernel{{both, upper, lower, lower + r.counts[2]}, r.isDirect ? c.channels : window.samples};
+    FilterGroups(kernel, reinterpret_cast<const E* const*>(window.lines), window.samples,
+                 reinterpret_cast<T*>(rows.upper[0]), reinterpret_cast<T*>(rows.lower[0]));
   }
 
   // ---- Lines of all levels.
@@ -95,7 +109,7 @@ class ChordKernel {
 
   // Of the elements of two rows, or of one at two places.
   static void Overlap(const E* a, const E* b, ptrdiff_t n, E* to) {
-    ForEachVectors<2, kLanes>(n, [=](auto count, ptrdiff_t i) HWY_ATTR {
+    ForEachVectors<4, kLanes>(n, [=](auto count, ptrdiff_t i) HWY_ATTR {
       Unrolled<count>([&](auto v) QVP_INLINED {
         const ptrdiff_t at = i + v * kLanes;
         hn::StoreU(Op::Of(hn::LoadU(D(), a + at), hn::LoadU(D(), b + at)), D(), to + at);
@@ -103,19 +117,35 @@ class ChordKernel {
     });
   }
 
+  // The same as FilterRows, but that the last vectors go together, too: they share what a use costs.
+  template <class Kernel>
+  static void FilterGroups(const Kernel& kernel, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
+    if (n >= Kernel::kMost * kLanes) return FilterGroupsOf<Kernel::kMost>(kernel, lines, n, upper, lower);
+    if (n >= 2 * kLanes) return FilterGroupsOf<2>(kernel, lines, n, upper, lower);
+    FilterRows(kernel, lines, n, upper, lower);
+  }
+  template <int kCount, class Kernel>
+  static void FilterGroupsOf(const Kernel& shared, const E* const* lines, ptrdiff_t n, T* upper, T* lower) {
+    const Kernel kernel = shared;
+    for (ptrdiff_t i = 0; i < n; i += kCount * kLanes) {
+      const ptrdiff_t at = std::min(i, n - kCount * kLanes);
+      kernel.template Run<kCount>(lines, at, upper + at, lower + at);
+    }
+  }
+
   // Two rows of results from the uses of lines.
   struct SpanKernel {
     static constexpr ptrdiff_t kLanes = Rows::kLanes;
-    static constexpr int kVectors = 4;
+    static constexpr int kVectors = 1, kMost = 6;
     const SpanUse* lists[4];  // where they begin: uses by both rows, by the upper one, by the lower one
-    ptrdiff_t samples;
+    ptrdiff_t step;           // of spans in a line
 
     template <int kCount>
     HWY_INLINE void Run(const E* const* lines, ptrdiff_t at, T* upper, T* lower) const {
       hn::Vec<D> above[kCount], below[kCount];
       Unrolled<kCount>([&](auto k) QVP_INLINED { above[k] = hn::Set(D(), Op::template kNeutral<E>); });
       const auto take = [=](const SpanUse* use, hn::Vec<D>(&v)[kCount]) QVP_INLINED {
-        const ptrdiff_t offset = use->span * samples + at;
+        const ptrdiff_t offset = use->span * step + at;
         const E *const *line = lines + use->line, *const *const end = line + use->count;
         for (; line != end; ++line) {
           Unrolled<kCount>([&](auto k)
@@ -152,16 +182,26 @@ template <class Op, class T>
 void FilterChords(Windows<BitsOf<T>> windows, const MorphologyRecord& record) {
   using Kernel = ChordKernel<Op, T>;
   const ptrdiff_t channels = windows.src.channels();
-  const bool hasSpans = record.spans > 0;
   const Chords chords{record, channels, AtBoundary(windows.buffer)};
   windows.buffer = chords.levels + 2 * LevelBytes((windows.roi.width + record.width) * channels, sizeof(T)).value();
-  FilterWindows(windows, {.context = &chords,
-                          .across = hasSpans ? Kernel::AcrossSpans : Kernel::AcrossLevels,
-                          .down = hasSpans ? Kernel::DownSpans : Kernel::DownLevels,
-                          .elementBytes = (hasSpans ? record.spans : record.levels) * static_cast<int>(sizeof(T)),
-                          .rowsAtOnce = hasSpans ? 2 : 1,
-                          .keepsReach = !hasSpans,
-                          .cacheBytes = kSecondCacheBytes});
+  WindowKernel kernel{.context = &chords,
+                      .across = Kernel::AcrossSpans,
+                      .down = Kernel::DownSpans,
+                      .elementBytes = record.spans * static_cast<int>(sizeof(T)),
+                      .rowsAtOnce = 2,
+                      .cacheBytes = kFartherCacheBytes};
+  if (record.isDirect) {
+    kernel.across = std::is_same_v<T, float> ? Kernel::AcrossPixels : nullptr;
+    kernel.elementBytes = sizeof(T);
+    kernel.keepsReach = true;
+  } else if (record.spans == 0) {
+    kernel.across = Kernel::AcrossLevels;
+    kernel.down = Kernel::DownLevels;
+    kernel.elementBytes = record.levels * static_cast<int>(sizeof(T));
+    kernel.rowsAtOnce = 1;
+    kernel.keepsReach = true;
+  }
+  FilterWindows(windows, kernel);
 }
 
 template <class Op, class T>

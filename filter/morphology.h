@@ -35,9 +35,10 @@ struct MorphologyRecord {
 
   uint32_t identification;
   int32_t width, height, anchorX, anchorY;
-  int32_t isFull;  // all pixels are selected
-  int32_t levels;  // of windows: 1, 2, 4... pixels
-  int32_t spans;   // by ascending levels; 0 if there are too many
+  int32_t isFull;    // all pixels are selected
+  int32_t isDirect;  // lines are rows of pixels: a span is a column
+  int32_t levels;    // of windows: 1, 2, 4... pixels
+  int32_t spans;     // by ascending levels; 0 if there are too many
   // Of spans: uses by both rows, by the upper one, by the lower one. Else: chords of two windows, and of one.
   int32_t counts[3];
   ChordSpan spanAt[kMostSpans];

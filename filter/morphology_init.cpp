@@ -9,6 +9,9 @@
 namespace qvp::filter {
 namespace {
 
+// Pixels of a mask that are read one by one: more cost more than chords.
+constexpr int kMostDirect = 24;
+
 // Calls chord(row, span) for the chords of a row of a mask.
 template <class Take>
 void ForEachChordOf(const uint8_t* mask, QvpiSize size, int row, const Take& take) {
@@ -44,38 +47,62 @@ void FindSpans(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
   record.spans = count > kMost ? 0 : count;
 }
 
-bool HasSpan(const uint8_t* mask, QvpiSize size, int row, const ChordSpan& span) {
+bool HasSpan(const uint8_t* mask, QvpiSize size, int row, const ChordSpan& span, bool isDirect) {
   bool has = false;
   if (row < 0 || row == size.height) return has;
+  if (isDirect) return mask[ptrdiff_t{row} * size.width + span.column] != 0;
   ForEachChordOf(mask, size, row, [&](const ChordSpan& other) { has = has || other == span; });
   return has;
 }
 
-// A line is under a row of the mask for the upper results, and under the row above that for the lower ones.
-void FillUses(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
+// Calls use(line) for the lines that are under a row of the mask with a span for the upper results, and under the row
+// above that for the lower ones.
+template <class Use>
+void ForEachUse(const uint8_t* mask, QvpiSize size, const MorphologyRecord& record, int list, int span,
+                const Use& use) {
+  const bool byUpper = list != 2, byLower = list != 1;
+  bool lower = false;
+  for (int line = 0; line <= size.height; ++line) {
+    const bool upper = HasSpan(mask, size, line, record.spanAt[span], record.isDirect);
+    if (upper == byUpper && lower == byLower) use(line);
+    lower = upper;
+  }
+}
+
+// False if there are more than fit.
+bool FillUses(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
   constexpr uint32_t kMost = (1u << 28) - 1;
-  SpanUse* to = record.Uses();
+  SpanUse *const uses = record.Uses(), *to = uses;
+  const SpanUse* const end = uses + 2 * int64_t{size.height} * (size.width / 2 + size.width % 2);
   for (int list = 0; list < 3; ++list) {
-    const bool byUpper = list != 2, byLower = list != 1;
     SpanUse* const first = to;
-    for (int k = 0; k < record.spans; ++k) {
-      const ChordSpan& span = record.spanAt[k];
-      bool lower = false;
-      for (int line = 0; line <= size.height; ++line) {
-        const bool upper = HasSpan(mask, size, line, span);
-        if (upper == byUpper && lower == byLower) {
-          const bool goesOn = to > first && to[-1].span == uint32_t(k) && to[-1].line + int(to[-1].count) == line;
-          if (goesOn && to[-1].count < kMost) {
-            ++to[-1].count;
-          } else {
-            *to++ = {line, uint32_t(k), 1};
-          }
+    for (uint32_t span = 0; span < static_cast<uint32_t>(record.spans); ++span) {
+      ForEachUse(mask, size, record, list, static_cast<int>(span), [&](int line) {
+        SpanUse* const last = to - 1;
+        const bool goesOn = to > first && last->span == span && last->line + static_cast<int>(last->count) == line;
+        if (goesOn && last->count < kMost) {
+          ++last->count;
+        } else if (to++ < end) {
+          to[-1] = {line, span, 1};
         }
-        lower = upper;
-      }
+      });
+      if (to > end) return false;
     }
     record.counts[list] = static_cast<int32_t>(to - first);
   }
+  return true;
+}
+
+// Columns as spans.
+bool FillDirect(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
+  const auto isSelected = [](uint8_t b) { return b != 0; };
+  const auto selected = std::count_if(mask, mask + ptrdiff_t{size.width} * size.height, isSelected);
+  record.isDirect = size.width <= MorphologyRecord::kMostSpans && selected <= kMostDirect;
+  if (!record.isDirect) return false;
+  record.spans = size.width;
+  for (int x = 0; x < size.width; ++x) record.spanAt[x] = {x, x, 0};
+  record.isDirect = FillUses(mask, size, record);
+  return record.isDirect;
 }
 
 void FillChords(const uint8_t* mask, QvpiSize size, MorphologyRecord& record) {
@@ -97,12 +124,11 @@ void Fill(const uint8_t* mask, QvpiSize size, QvpiPoint anchor, MorphologyRecord
   record.anchorY = anchor.y;
   record.isFull = std::find(mask, end, 0) == end;
   record.levels = 0;
+  if (FillDirect(mask, size, record)) return;
   FindSpans(mask, size, record);
-  if (record.spans > 0) {
-    FillUses(mask, size, record);
-  } else {
-    FillChords(mask, size, record);
-  }
+  if (record.spans > 0 && FillUses(mask, size, record)) return;
+  record.spans = 0;
+  FillChords(mask, size, record);
 }
 
 bool IsEmpty(const uint8_t* mask, QvpiSize size) {
@@ -115,7 +141,7 @@ ByteCount BufferBytes(QvpiSize mask, int64_t regionWidth, int channels, int byte
   const ByteCount levels = LevelBytes((regionWidth + mask.width) * channels, bytes) * 2;
   const int64_t spans = std::min<int64_t>(MorphologyRecord::kMostSpans, (int64_t{mask.width} + 1) * mask.width / 2);
   const int longest = static_cast<int>(std::max<int64_t>(spans, LevelsOf(mask.width))) * bytes;
-  const ByteCount chords = levels + WindowBytes(mask, regionWidth, channels, longest, {}, kSecondCacheBytes);
+  const ByteCount chords = levels + WindowBytes(mask, regionWidth, channels, longest, {}, kFartherCacheBytes);
   return std::max(chords.value(), RectangleBytes(mask, regionWidth, channels, bytes).value());
 }
 

@@ -9,6 +9,7 @@
 #include <array>
 
 #include "base/row_ring.h"
+#include "filter/unrolled.h"
 
 namespace qvp::filter {
 
@@ -38,9 +39,9 @@ struct BorderColumns {
   HWY_INLINE void FillPixels(const E* constant, E* row) const {
     const E* const first = row + before * kChannels;
     const auto fill = [=](const int32_t* columns, ptrdiff_t count, E* to) QVP_INLINED {
-#pragma clang loop vectorize(disable) unroll(disable)
       for (ptrdiff_t i = 0; i < count; ++i) {
-        const E* const pixel = columns[i] < 0 ? constant : first + columns[i] * ptrdiff_t{kChannels};
+        // Vectors of places would take longer for the few columns that there are.
+        const E* const pixel = Unknown(columns[i] < 0 ? constant : first + columns[i] * ptrdiff_t{kChannels});
         std::memcpy(to + i * kChannels, pixel, kChannels * sizeof(E));
       }
     };
@@ -79,7 +80,7 @@ struct KeptRows {
   int count = 0, elementBytes = 0;
 };
 
-inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 18;
+inline constexpr int64_t kNearestCacheBytes = 16384, kFartherCacheBytes = 1 << 18;
 
 struct WindowKernel {
   const void* context;
