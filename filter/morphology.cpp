@@ -144,7 +144,7 @@ class ChordKernel {
     HWY_INLINE void Run(const E* const* lines, ptrdiff_t at, T* upper, T* lower) const {
       hn::Vec<D> above[kCount], below[kCount];
       Unrolled<kCount>([&](auto k) QVP_INLINED { above[k] = hn::Set(D(), Op::template kNeutral<E>); });
-      const auto take = [=](const SpanUse* use, hn::Vec<D>(&v)[kCount]) QVP_INLINED {
+      const auto take = [=, this](const SpanUse* use, hn::Vec<D>(&v)[kCount]) QVP_INLINED {
         const ptrdiff_t offset = use->span * step + at;
         const E *const *line = lines + use->line, *const *const end = line + use->count;
         for (; line != end; ++line) {
