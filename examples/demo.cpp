@@ -53,6 +53,7 @@ int main(int argc, char** argv) try {
   demo::CompositeSteps(demo);
   demo::FilterSteps(demo);
   demo::AxesFilterSteps(demo);
+  demo::ExtremesSteps(demo);
   demo::FixedFilterSteps(demo);
   demo::ResizeSteps(demo);
   demo::WarpSteps(demo);

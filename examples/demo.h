@@ -46,6 +46,7 @@ void ThresholdSteps(Demo& demo);
 void CompositeSteps(Demo& demo);
 void FilterSteps(Demo& demo);
 void AxesFilterSteps(Demo& demo);
+void ExtremesSteps(Demo& demo);
 void FixedFilterSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void WarpSteps(Demo& demo);
