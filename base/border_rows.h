@@ -88,6 +88,67 @@ void ConvertRows(const T* const (&rows)[2], typename Form::Element* out, ptrdiff
   ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { Form::Convert(rows, out, i); });
 }
 
+// The border columns of lines: copies of other columns in the line, or the constant.
+struct BorderColumns {
+  ptrdiff_t before, inside, after;  // columns; those inside can be read
+  bool isConstant, isUniform;       // all of a side are copies of one
+  const int32_t* places = nullptr;  // where in a line the sample is that each border column begins with
+
+  // Of lines of `columns`, among which are those that stand for border columns.
+  template <class T>
+  static BorderColumns Of(const BorderedImage<T>& image, Extent columns) {
+    const ptrdiff_t begin = std::max(columns.begin, image.columns.begin),
+                    end = std::min(columns.end, image.columns.end);
+    const bool isConstant = image.kind == BorderKind::kConst;
+    return {begin - columns.begin, end - begin, columns.end - end, isConstant,
+            isConstant || image.kind == BorderKind::kReplicate};
+  }
+
+  int64_t Bytes() const {
+    return ByteCount((before + after) * int64_t{sizeof(*places)}).RoundedTo(kRecordBoundary).value();
+  }
+
+  // Finds the places for lines that begin with a column; they take Bytes().
+  template <class T>
+  void Find(const BorderedImage<T>& image, ptrdiff_t first, int32_t* to) {
+    places = to;
+    const auto find = [&](ptrdiff_t x, ptrdiff_t count) {
+      for (const ptrdiff_t end = x + count; x < end; ++x) {
+        const ptrdiff_t column = BorderPosition(image.kind, x, image.columns);
+        *to++ = column == kOutside ? 0 : static_cast<int32_t>((column - first) * image.channels());
+      }
+    };
+    find(first, before);
+    find(first + before + inside, after);
+  }
+
+  // Fills them in a line whose columns inside are there.
+  template <class E>
+  void Fill(ptrdiff_t channels, const E* constant, E* line) const {
+    if (channels == 1) return FillPixels<1>(constant, line);
+    if (channels == 3) return FillPixels<3>(constant, line);
+    FillPixels<4>(constant, line);
+  }
+
+ private:
+  template <int kChannels, class E>
+  HWY_INLINE void FillPixels(const E* constant, E* line) const {
+    constexpr ptrdiff_t kMany = 16;
+    const auto fill = [&](const int32_t* from, ptrdiff_t count, E* to) QVP_INLINED {
+      if (kChannels == 1 && isUniform && count >= kMany) {
+        std::fill_n(to, count, isConstant ? *constant : line[*from]);
+        return;
+      }
+      QVP_ROLLED
+      for (ptrdiff_t i = 0; i < count; ++i, to += kChannels) {
+        std::memcpy(to, isConstant ? constant : line + from[i], kChannels * sizeof(E));
+      }
+    };
+    fill(places, before, line);
+    fill(places + before, after, line + (before + inside) * kChannels);
+  }
+};
+
 // ---- Lines
 
 // What may be read and written behind a line: as many bytes as the longest vector has.
@@ -110,28 +171,25 @@ class BorderRows {
   BorderRows(const BorderedImage<T>& image, Extent columns, bool mayBeInPlace)
       : image_(image),
         channels_(image.channels()),
-        readable_{std::max(columns.begin, image.columns.begin), std::min(columns.end, image.columns.end)},
-        before_(readable_.begin - columns.begin),
-        after_(columns.end - readable_.end),
-        readableAt_(Samples(before_)),
-        readableSamples_(Samples(readable_.end - readable_.begin)),
-        firstReadable_(Samples(readable_.begin)),
-        isInPlace_(Form::kIsInPlace && mayBeInPlace && before_ == 0 && after_ == 0) {}
+        first_(columns.begin),
+        columns_(BorderColumns::Of(image, columns)),
+        readableAt_(Samples(columns_.before)),
+        readableSamples_(Samples(columns_.inside)),
+        firstReadable_(Samples(columns.begin + columns_.before)),
+        isInPlace_(Form::kIsInPlace && mayBeInPlace && columns_.before == 0 && columns_.after == 0) {}
 
   bool isInPlace() const { return isInPlace_; }
   int64_t LineBytes() const {
-    return LineBytesFor(readableAt_ + readableSamples_ + Samples(after_), sizeof(Element)).value();
+    return LineBytesFor(readableAt_ + readableSamples_ + Samples(columns_.after), sizeof(Element)).value();
   }
 
   // What Start() takes: where border columns are found, and a row of constants.
-  int64_t TableBytes() const { return ColumnBytes() + ConstantBytes(); }
+  int64_t TableBytes() const { return columns_.Bytes() + ConstantBytes(); }
 
   // Prepares the tables. Returns where the memory ends that they take; it begins at a boundary.
   uint8_t* Start(uint8_t* memory) {
-    places_ = reinterpret_cast<int32_t*>(memory);
-    FindColumns(readable_.begin - before_, before_, places_);
-    FindColumns(readable_.end, after_, places_ + before_);
-    constants_ = reinterpret_cast<T*>(memory + ColumnBytes());
+    columns_.Find(image_, first_, reinterpret_cast<int32_t*>(memory));
+    constants_ = reinterpret_cast<T*>(memory + columns_.Bytes());
     if (image_.kind == BorderKind::kConst) FillConstants();
     return memory + TableBytes();
   }
@@ -148,7 +206,7 @@ class BorderRows {
     if (readableSamples_ >= kFetchedSamples) {
       for (int i = 0; i < Form::kRows; ++i) FetchAhead(Readable(image_.Row(y + Form::kRows + i)));
     }
-    FillColumns(room);
+    columns_.Fill(channels_, constant_, room);
     return room;
   }
 
@@ -156,19 +214,8 @@ class BorderRows {
   static constexpr ptrdiff_t kFetchedSamples = 128;  // shorter lines are not worth it
 
   ptrdiff_t Samples(ptrdiff_t pixels) const { return pixels * channels_; }
-  int64_t ColumnBytes() const {
-    return ByteCount((before_ + after_) * int64_t{sizeof(*places_)}).RoundedTo(kRecordBoundary).value();
-  }
   int64_t ConstantBytes() const {
     return image_.kind == BorderKind::kConst ? LineBytesFor(readableSamples_, sizeof(T)).value() : 0;
-  }
-
-  // Columns of the border are copies of others in the line.
-  void FindColumns(ptrdiff_t x, ptrdiff_t count, int32_t* to) const {
-    for (ptrdiff_t i = 0; i < count; ++i) {
-      const ptrdiff_t column = BorderPosition(image_.kind, x + i, image_.columns);
-      to[i] = column == kOutside ? 0 : static_cast<int32_t>(Samples(column - readable_.begin) + readableAt_);
-    }
   }
 
   void FillConstants() {
@@ -187,31 +234,12 @@ class BorderRows {
     for (ptrdiff_t i = 0; i < readableSamples_; i += kCacheLine) hwy::Prefetch(row + i);
   }
 
-  void FillColumns(Element* line) const {
-    if (channels_ == 1) return FillColumnsOf<1>(line);
-    if (channels_ == 3) return FillColumnsOf<3>(line);
-    FillColumnsOf<4>(line);
-  }
-  template <int kChannels>
-  HWY_INLINE void FillColumnsOf(Element* line) const {
-    const bool isConstant = image_.kind == BorderKind::kConst;
-    const auto fill = [&](const int32_t* places, ptrdiff_t count, Element* to) QVP_INLINED {
-      QVP_ROLLED
-      for (ptrdiff_t i = 0; i < count; ++i, to += kChannels) {
-        std::memcpy(to, isConstant ? constant_ : line + places[i], kChannels * sizeof(Element));
-      }
-    };
-    fill(places_, before_, line);
-    fill(places_ + before_, after_, line + readableAt_ + readableSamples_);
-  }
-
   const BorderedImage<T>& image_;
   ptrdiff_t channels_;
-  Extent readable_;
-  ptrdiff_t before_, after_;                                // border columns on either side
+  ptrdiff_t first_;  // column of lines
+  BorderColumns columns_;
   ptrdiff_t readableAt_, readableSamples_, firstReadable_;  // where they are in a line, how many, and where in a row
   bool isInPlace_;
-  int32_t* places_ = nullptr;  // where in a line the pixel is that each border column takes
   Element constant_[4] = {};
   T* constants_ = nullptr;  // stands for the readable columns of rows of the constant
 };

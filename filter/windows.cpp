@@ -45,7 +45,7 @@ class Block {
   int64_t WorkBytes() const {
     const int64_t lines = (kernel_.across ? StageBytes() : 0) + lines_ * WindowLineBytes() +
                           kernel_.kept.count * SourceLineBytes(kernel_.kept.elementBytes);
-    return ByteCount(PointerBytes() + source_.TableBytes() + BorderBytes() + lines + 2 * ColourBytes())
+    return ByteCount(PointerBytes() + source_.TableBytes() + window_.columns.Bytes() + lines + 2 * ColourBytes())
         .RoundedTo(kRecordBoundary)
         .value();
   }
@@ -55,8 +55,8 @@ class Block {
     uint8_t* const end = memory + WorkBytes();
     pointers_ = reinterpret_cast<const void**>(memory);
     memory = source_.Start(memory + PointerBytes());
-    FindColumns(reinterpret_cast<int32_t*>(memory));
-    memory += BorderBytes();
+    window_.columns.Find(windows_.src, first_, reinterpret_cast<int32_t*>(memory));
+    memory += window_.columns.Bytes();
     for (uint8_t*& colours : colours_) {
       colours = memory;
       memory += ColourBytes();
@@ -91,30 +91,10 @@ class Block {
   }
 
  private:
-  // Of bare lines, what is missing beside the columns that can be read.
   static BorderColumns ColumnsOf(const Windows<T>& windows, const WindowKernel& kernel, Extent columns) {
     const Extent lines{columns.begin - windows.reach.left, columns.end + windows.reach.right};
-    if (!kernel.isBare) return {0, lines.end - lines.begin, 0, nullptr};
-    const ptrdiff_t begin = std::max(lines.begin, windows.src.columns.begin),
-                    end = std::min(lines.end, windows.src.columns.end);
-    return {begin - lines.begin, end - begin, lines.end - end, nullptr};
-  }
-  void FindColumns(int32_t* to) {
-    BorderColumns& columns = window_.columns;
-    const ptrdiff_t begin = first_ + columns.before;
-    const auto find = [&](ptrdiff_t x, ptrdiff_t count) {
-      for (const ptrdiff_t end = x + count; x < end; ++x) {
-        const ptrdiff_t column = BorderPosition(windows_.src.kind, x, windows_.src.columns);
-        *to++ = column == kOutside ? -1 : static_cast<int32_t>(column - begin);
-      }
-    };
-    columns.from = to;
-    find(first_, columns.before);
-    find(begin + columns.inside, columns.after);
-  }
-  int64_t BorderBytes() const {
-    const int64_t count = window_.columns.before + window_.columns.after;
-    return ByteCount(count * int64_t{sizeof(int32_t)}).RoundedTo(kRecordBoundary).value();
+    return kernel.isBare ? BorderColumns::Of(windows.src, lines)
+                         : BorderColumns{0, lines.end - lines.begin, 0, false, false};
   }
 
   int64_t PointerBytes() const { return ByteCount(lines_ * 8).RoundedTo(kRecordBoundary).value(); }

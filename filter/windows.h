@@ -9,7 +9,6 @@
 #include <array>
 
 #include "base/row_ring.h"
-#include "filter/unrolled.h"
 
 namespace qvp::filter {
 
@@ -21,43 +20,14 @@ struct ResultRows {
   std::array<uint8_t*, kMostOutputs> upper, lower;
 };
 
-// Columns of lines that the border stands for, where lines have those alone that are in the image.
-struct BorderColumns {
-  ptrdiff_t before, inside, after;
-  const int32_t* from;  // a column inside for each of those before and after; negative for the constant
-
-  // Fills them around the columns inside, of a row that begins with those before.
-  template <class E>
-  HWY_INLINE void Fill(ptrdiff_t channels, const E* constant, E* row) const {
-    if (channels == 1) FillPixels<1>(constant, row);
-    if (channels == 3) FillPixels<3>(constant, row);
-    if (channels == 4) FillPixels<4>(constant, row);
-  }
-
- private:
-  template <int kChannels, class E>
-  HWY_INLINE void FillPixels(const E* constant, E* row) const {
-    const E* const first = row + before * kChannels;
-    const auto fill = [=](const int32_t* columns, ptrdiff_t count, E* to) QVP_INLINED {
-      for (ptrdiff_t i = 0; i < count; ++i) {
-        // Vectors of places would take longer for the few columns that there are.
-        const E* const pixel = Unknown(columns[i] < 0 ? constant : first + columns[i] * ptrdiff_t{kChannels});
-        std::memcpy(to + i * kChannels, pixel, kChannels * sizeof(E));
-      }
-    };
-    fill(from, before, row);
-    fill(from + before, after, row + (before + inside) * kChannels);
-  }
-};
-
 // What rows of results are made from, in a block of columns.
 struct Window {
   const void* const* lines;  // from the uppermost on
   ptrdiff_t samples;
-  ptrdiff_t y;         // of the upper row
-  uint8_t* kept;       // what a filter keeps from row to row; of unknown content at y = 0
-  ptrdiff_t keptStep;  // bytes
-  BorderColumns columns;
+  ptrdiff_t y;            // of the upper row
+  uint8_t* kept;          // what a filter keeps from row to row; of unknown content at y = 0
+  ptrdiff_t keptStep;     // bytes
+  BorderColumns columns;  // of lines without border columns, those that are missing
 };
 
 // What a filter does.
