@@ -1,5 +1,6 @@
-// Erosion and dilation by a mask: the extremes of its chords (Urbach, Wilkinson 2008). Each row of the source becomes a
-// line of levels, the extremes of 1, 2, 4... pixels from every place on; a chord is the overlap of two of them.
+// Erosion and dilation by a mask: the extremes of its chords (Urbach, Wilkinson 2008). Windows of 1, 2, 4... pixels are
+// made across each row of the source, and a chord of two of them that overlap; down the lines, results take the chords
+// of the mask's rows.
 #include "filter/morphology.h"
 
 #include "base/export.h"

@@ -955,7 +955,7 @@ QvpStatus qvpiFilterMaxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, 
  *                                                                           0 <= j < maskSize.height
  *  @endcode
  *
- *  A pixel's time depends on the mask's width by its logarithm only, and from 8 rows on not on its height. By masks
+ *  A pixel's time depends on the mask's width by its logarithm only, and from 9 rows on not on its height. By masks
  *  that are no rectangles, qvpiFilterErodeBorder and qvpiFilterDilateBorder do the same.
  *
  *  Max less Min is the local contrast. The opening by a rectangle is Min, then Max with the mirrored anchor (w - 1 - x,
@@ -1082,8 +1082,8 @@ QvpStatus qvpiFilterMorphologyBorderInit(const Qvp8u* pMask, QvpiSize maskSize, 
  *  anchor (w - 1 - x, h - 1 - y); the closing, Dilate, then Erode, takes away what is darker. A second opening changes
  *  nothing, and no pixel becomes brighter. (Soille, Morphological Image Analysis, 2003.)
  *
- *  A chord costs two operations a pixel, however long it is (Urbach and Wilkinson, 2008). A mask that selects all runs
- *  as qvpiFilterMinBorder and qvpiFilterMaxBorder do.
+ *  A chord, a run of selected pixels in a row, costs one or two operations a pixel, however long it is (Urbach and
+ *  Wilkinson, 2008). A mask that selects all runs as qvpiFilterMinBorder and qvpiFilterMaxBorder do.
  *
  *  Floats have a total order here: -inf .. -0 is below +0 .. +inf. A NaN counts as +inf where the least value is taken,
  *  and as -inf where the greatest is: it is not taken while there is a number. Results depend on nothing but these
