@@ -14,7 +14,7 @@ namespace {
 constexpr bool IsShared(int64_t height, int64_t regionWidth) { return height > 1 && (height <= 8 || regionWidth < 4); }
 
 int KeptCount(int64_t height, int64_t regionWidth) {
-  return IsShared(height, regionWidth) ? 3 : static_cast<int>(height) + 4;
+  return IsShared(height, regionWidth) ? 3 : static_cast<int>(std::min<int64_t>(height + 4, INT32_MAX));
 }
 
 template <class Op, class T>
