@@ -221,12 +221,12 @@ void FilterRectangles(const Windows<BitsOf<T>>& windows, ptrdiff_t width, ptrdif
                           .rowsAtOnce = 2,
                           .kept = {KeptCount(height, windows.roi.width), sizeof(T)},
                           .isBare = true,
-                          .cacheBytes = kFartherCacheBytes});
+                          .cacheBytes = kSecondCacheBytes});
 }
 
 ByteCount RectangleBytes(Size mask, int64_t regionWidth, int channels, int elementBytes) {
   return WindowBytes(mask, regionWidth, channels, elementBytes, {KeptCount(mask.height, regionWidth), elementBytes},
-                     kFartherCacheBytes);
+                     kSecondCacheBytes);
 }
 
 #define EXTREMES(T)                                                                          \

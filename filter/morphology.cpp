@@ -190,7 +190,7 @@ void FilterChords(Windows<BitsOf<T>> windows, const MorphologyRecord& record) {
                       .down = Kernel::DownSpans,
                       .elementBytes = record.spans * static_cast<int>(sizeof(T)),
                       .rowsAtOnce = 2,
-                      .cacheBytes = kFartherCacheBytes};
+                      .cacheBytes = kSecondCacheBytes};
   if (record.isDirect) {
     kernel.across = std::is_same_v<T, float> ? Kernel::AcrossPixels : nullptr;
     kernel.elementBytes = sizeof(T);

@@ -141,7 +141,7 @@ ByteCount BufferBytes(QvpiSize mask, int64_t regionWidth, int channels, int byte
   const ByteCount levels = LevelBytes((regionWidth + mask.width) * channels, bytes) * 2;
   const int64_t spans = std::min<int64_t>(MorphologyRecord::kMostSpans, (int64_t{mask.width} + 1) * mask.width / 2);
   const int longest = static_cast<int>(std::max<int64_t>(spans, LevelsOf(mask.width))) * bytes;
-  const ByteCount chords = levels + WindowBytes(mask, regionWidth, channels, longest, {}, kFartherCacheBytes);
+  const ByteCount chords = levels + WindowBytes(mask, regionWidth, channels, longest, {}, kSecondCacheBytes);
   return std::max(chords.value(), RectangleBytes(mask, regionWidth, channels, bytes).value());
 }
 

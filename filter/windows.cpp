@@ -182,7 +182,6 @@ int64_t MaskHeight(const Reach& reach) { return reach.above + reach.below + 1; }
 // second-level cache, or the work buffer is too small for both edges together.
 template <class T>
 bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
-  constexpr int64_t kSecondCacheBytes = 1 << 19;
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width, edge = std::max<ptrdiff_t>(kFewestInPlace, MaskWidth(reach));
   const int64_t lineBytes = int64_t{width} * windows.src.image.PixelBytes();

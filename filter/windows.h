@@ -50,7 +50,7 @@ struct KeptRows {
   int count = 0, elementBytes = 0;
 };
 
-inline constexpr int64_t kNearestCacheBytes = 16384, kFartherCacheBytes = 1 << 18;
+inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 19;
 
 struct WindowKernel {
   const void* context;
