@@ -30,38 +30,40 @@ struct Window {
   BorderColumns columns;  // of lines without border columns, those that are missing
 };
 
-// What a filter does.
-//   across  makes `samples` elements of a line from one of the source, of which the first result reads the first
-//   samples.
-//           Null if lines are those of the source. If it keeps the reach, the samples are all that the source has, and
-//           the line is as long.
-//   down    makes results from a window. `samples` are those of the source's type of pixel. Without `across` the first
-//           result reads the first samples of lines here.
-//   kept    rows that `down` writes for itself, with room for what a line of the source has.
-//   isBare  lines have no border columns: `down` fills them in what it makes of lines. Columns of the border are the
-//   same
-//           on every row, so that what goes down alone may go down first, on rows as they are.
-//   cacheBytes  how many bytes of lines and kept rows a block of columns has: those of the second cache where most of
-//   the
-//           work is done while a line is new, or lines are rows as they are, which are best read to their ends
-// Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
-// kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
+// Bytes of the caches that blocks of columns are made for.
+inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 19;
+
 struct KeptRows {
   int count = 0, elementBytes = 0;
 };
 
-inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 19;
-
+// What a filter does.
+//   across  makes `samples` elements of a line from one of the source, of which the first result reads the first
+//           samples. Null if lines are those of the source.
+//   down    makes results from a window. `samples` are those of the source's type of pixel. Without `across` the first
+//           result reads the first samples of lines here.
+// Both may read and write a vector behind a line, but behind one of the source only if samples are fewer than
+// kFewestInPlace, or the filter says that it always does so: else it may be a row of the image.
 struct WindowKernel {
   const void* context;
   void (*across)(const void* context, const void* source, void* line, ptrdiff_t samples);
   void (*down)(const void* context, const Window& window, const ResultRows& rows);
   int elementBytes;  // of lines in the window
   int rowsAtOnce;    // of results: 1 or 2
+
+  // Rows that `down` writes for itself, with room for what a line of the source has.
   KeptRows kept = {};
   bool readsBeyond = false;
+
+  // `across` is told all samples of a line of the source, and makes as many.
   bool keepsReach = false;
+
+  // Lines have no border columns: `down` fills them in what it makes of lines. Columns of the border are the same on
+  // every row, so that what goes down alone may go down first, on rows as they are.
   bool isBare = false;
+
+  // Of lines and kept rows of a block. Those of the second cache where most is done while a line is new, or where lines
+  // are rows as they are, which are best read to their ends.
   int64_t cacheBytes = kNearestCacheBytes;
 };
 
