@@ -184,8 +184,8 @@ template <class T>
 bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width, edge = std::max<ptrdiff_t>(kFewestInPlace, MaskWidth(reach));
-  const int64_t lineBytes = int64_t{width} * windows.src.image.PixelBytes();
-  if (width < 4 * edge || lineBytes > kSecondCacheBytes / (MaskHeight(reach) + 1)) return false;
+  const int64_t columnBytes = BytesOfColumn(MaskHeight(reach), windows.src.channels(), sizeof(T), kernel.kept).value();
+  if (width < 4 * edge || width > kSecondCacheBytes / columnBytes) return false;
   Block<T> left(windows, kernel, {0, edge}), middle(windows, kernel, {edge, width - edge}),
       right(windows, kernel, {width - edge, width});
   const int64_t bytes = left.WorkBytes() + middle.WorkBytes() + right.WorkBytes() + kRecordBoundary;
@@ -224,7 +224,8 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
 // lines' together. Beside the window's there are four lines: one of the source, one of constants, two of kept results.
 ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept,
                       int64_t cacheBytes) {
-  const ByteCount lines = ByteCount(mask.height) + 1 + kept.count, pixelBytes = channels * elementBytes;
+  const ByteCount lines = ByteCount(mask.height) + 1 + kept.count;
+  const ByteCount pixelBytes = channels * std::max(elementBytes, kept.elementBytes);
   const int64_t columns = 4 * int64_t{mask.width} + kFewestColumns;
   const ByteCount ofColumn = BytesOfColumn(mask.height, channels, elementBytes, kept);
   const ByteCount whole = ofColumn * regionWidth, ofBlocks = ofColumn * columns + cacheBytes;

@@ -1378,6 +1378,181 @@ QvpStatus qvpiFilterGaussBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f*
 QvpStatus qvpiFilterGaussBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Box filter: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of the box filter.
+ *
+ *  One buffer serves every mask of this size, with the same or a smaller region of that type and number of channels,
+ *  at any border. It may begin anywhere.
+ *
+ *  @param maskSize width and height of the mask, each at least 1 and their product at most 2147483647
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the source: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of these
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBoxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Box filter
+ *  @{ */
+/** Gives each pixel the mean of the pixels under a rectangular mask, channel by channel.
+ *
+ *  @code
+ *    dst(x, y) = sum / (maskSize.width * maskSize.height), of the sum of src(x - anchor.x + i, y - anchor.y + j)
+ *                over 0 <= i < maskSize.width, 0 <= j < maskSize.height
+ *  @endcode
+ *
+ *  Use it for local means and variances, and as the fastest smoothing: it takes about as long for any height of the
+ *  mask, and little longer for wide ones. It leaves traces of its edges; three times in a row, or
+ *  qvpiFilterGaussBorder, it does not.
+ *
+ *  Integers are summed exactly at any size of the mask, divided, and rounded to the nearest, ties to even: under a
+ *  mask of 3x1 with replicated edges, 10 20 40 gives 13 23 33. Floats are added in single precision as a tree, first
+ *  along rows, then down columns: Sum(n) of n values is the first of them if n is 1, else Sum(m) of the first m and
+ *  Sum(n - m) of the others, with m = n / 2 if n is a power of two, else the largest power of two below n. The sum is
+ *  divided once. A result differs from the exact mean by at most (2 log2 width + 2 log2 height + 2) * 2^-24 times the
+ *  mean of the magnitudes. A NaN or an infinity reaches exactly the results whose mask covers it. AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. The mask may be larger than the region. Tiles
+ *  that are joined by these flags give the bits of the whole image; with qvpBorderMirror, a tile at an edge must be
+ *  wider than |maskSize.width - 1 - 2 * anchor.x|, and likewise higher. The destination must not overlap with what is
+ *  read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize width and height of the mask, each at least 1 and their product at most 2147483647
+ *  @param anchor the pixel of the mask that is at the pixel of the result; {0, 0} is its upper left one
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterBoxBorderGetBufferSize() tells
+ *         for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusAnchor: `anchor` is outside of the mask
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBoxBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBoxBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiPoint anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Sums along rows or columns: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of sums along rows, or along columns.
+ *
+ *  One buffer serves every mask of this size, with the same or a smaller region of that type and number of channels,
+ *  at any border. It may begin anywhere.
+ *
+ *  @param maskSize pixels that are summed, at least 1
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the source: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of these
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSumRowBorderGetBufferSize(int maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+QvpStatus qvpiFilterSumColumnBorderGetBufferSize(int maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Sums along rows or columns
+ *  @{ */
+/** Gives each pixel the sum of the pixels around it in its row, or in its column, channel by channel.
+ *
+ *  @code
+ *    Row       dst(x, y) = sum of src(x - anchor + i, y) over 0 <= i < maskSize
+ *    Column    dst(x, y) = sum of src(x, y - anchor + i) over 0 <= i < maskSize
+ *  @endcode
+ *
+ *  Use them for projections and profiles, and one after the other for sums over rectangles. Sums of integers are
+ *  exact, and rounded once to the nearest float, ties to even: 1 2 3 under a mask of 3 with anchor 1 and mirrored
+ *  edges gives 5 6 7; 257 times 65535 gives 16842496. Floats are added in single precision as a tree: Sum(n) of n
+ *  values is the first of them if n is 1, else Sum(m) of the first m and Sum(n - m) of the others, with m = n / 2 if n
+ *  is a power of two, else the largest power of two below n. A sum differs from the exact one by at most 2 log2 n *
+ *  2^-24 times the sum of the magnitudes. A NaN or an infinity reaches exactly the results whose mask covers it.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. The mask may be longer than the region. Tiles
+ *  that are joined by these flags give the bits of the whole image; with qvpBorderMirror, a tile at an edge must be
+ *  longer than |maskSize - 1 - 2 * anchor|. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize pixels that are summed, at least 1
+ *  @param anchor the pixel of the mask that is at the pixel of the result; 0 is its first one
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterSumRowBorderGetBufferSize() or
+ *         qvpiFilterSumColumnBorderGetBufferSize() tells
+ *         for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusAnchor: `anchor` is outside of the mask
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterSumRowBorder_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_8u32f_C3R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_8u32f_C4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16u32f_C4R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_16s32f_C4R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumRowBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_8u32f_C1R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_8u32f_C3R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_8u32f_C4R(const Qvp8u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16u32f_C1R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16u32f_C3R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16u32f_C4R(const Qvp16u* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16s32f_C1R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16s32f_C3R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_16s32f_C4R(const Qvp16s* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterSumColumnBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -23,6 +23,7 @@ bool RemapLesson(Scene& scene, size_t place, Argument& argument);
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool ScaleLesson(Scene& scene, size_t place, Argument& argument);
 bool ShiftLesson(Scene& scene, size_t place, Argument& argument);
+bool SumsLesson(Scene& scene, size_t place, Argument& argument);
 bool TableLesson(Scene& scene, size_t place, Argument& argument);
 bool SeparableLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,0 +1,83 @@
+// The box filter: means under a window.
+#include "filter/means.h"
+#include "filter/sum_call.h"
+
+namespace qvp::filter {
+namespace {
+
+template <class T>
+using BoxCall = SumCall<T, T>;
+
+void FilterIn16Bits(const BoxCall<uint8_t>& call) {
+  const auto columns = ColumnSums<uint8_t, uint16_t, uint16_t>::Make;
+  if (call.Count() % 2) return call.RunIntegers<uint16_t>(columns, ByteMeans<true>(call.Count()));
+  call.RunIntegers<uint16_t>(columns, ByteMeans<false>(call.Count()));
+}
+
+template <class F, bool kIsProduct, class T>
+void FilterIn32Bits(const BoxCall<T>& call) {
+  auto columns = ColumnSums<T, int32_t, int32_t>::Make;
+  if constexpr (sizeof(T) == 1) {
+    if (call.mask.height <= kMostBytesIn16Bits) columns = ColumnSums<T, uint16_t, int32_t>::Make;
+  }
+  call.template RunIntegers<int32_t>(columns, RealMeans<T, F, kIsProduct>(call.Count()));
+}
+
+template <class T>
+void FilterIntegers(const BoxCall<T>& call) {
+  const int64_t count = call.Count(), beyondSums = count * kBeyondPixels<T>;
+  if (!Fits32Bits<T>(count)) {
+    return call.template RunIntegers<double>(ColumnSums<T, double, double>::Make, RealMeans<T, double, false>(count));
+  }
+  if (count % 2) {
+    return beyondSums <= kMostForProduct<float> ? FilterIn32Bits<float, true>(call)
+                                                : FilterIn32Bits<double, true>(call);
+  }
+  beyondSums <= kMostForQuotient<float> ? FilterIn32Bits<float, false>(call) : FilterIn32Bits<double, false>(call);
+}
+
+template <class T>
+QvpStatus Box(const BoxCall<T>& call) {
+  if (const QvpStatus failed = call.Check()) return failed;
+  if constexpr (std::is_same_v<T, float>) {
+    call.RunFloats(FloatMeans{static_cast<float>(call.Count())});
+  } else if (sizeof(T) == 1 && ByteMean::IsExactFor(call.Count())) {
+    if constexpr (sizeof(T) == 1) FilterIn16Bits(call);
+  } else {
+    FilterIntegers(call);
+  }
+  return qvpStatusNoError;
+}
+
+}  // namespace
+}  // namespace qvp::filter
+
+using namespace qvp;
+using namespace qvp::filter;
+
+QvpStatus qvpiFilterBoxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels,
+                                           int* pBufferSize) {
+  if (const QvpStatus failed = CheckQuery(pBufferSize, roiSize, IsSummed(maskSize), dataType, numChannels))
+    return failed;
+  const int elementBytes = dataType == qvp8u ? 1 : dataType == qvp32f ? 4 : 2;
+  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, KeptFor(dataType, maskSize))
+      .StoreTo(pBufferSize);
+}
+
+#define BOX(type, layout)                                                                                    \
+  QvpStatus qvpiFilterBoxBorder_##type##_##layout##R(                                                        \
+      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, \
+      QvpiPoint anchor, QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {           \
+    return Box<Qvp##type>({{pSrc, srcStep, Layout::k##layout},                                               \
+                           {pDst, dstStep, Layout::k##layout},                                               \
+                           roiSize,                                                                          \
+                           maskSize,                                                                         \
+                           anchor,                                                                           \
+                           borderType,                                                                       \
+                           borderValue,                                                                      \
+                           pBuffer});                                                                        \
+  }
+QVP_EACH_LAYOUT(BOX, 8u)
+QVP_EACH_LAYOUT(BOX, 16u)
+QVP_EACH_LAYOUT(BOX, 16s)
+QVP_EACH_LAYOUT(BOX, 32f)

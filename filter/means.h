@@ -1,0 +1,147 @@
+// Means of integers from their sums: sum / n to the nearest integer, ties to even. Each way is exact for the counts
+// that its condition allows.
+#pragma once
+
+#include <bit>
+
+#include "base/lanes.h"
+#include "base/pack.h"
+#include "filter/unrolled.h"
+
+namespace qvp::filter {
+
+// Vectors of lanes that hold values of T, as elements.
+template <class T, int kCount, class D>
+HWY_INLINE void StoreNarrow(D d, const std::array<hn::Vec<D>, kCount>& v, T* to) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  constexpr size_t kRatio = std::is_integral_v<hn::TFromD<D>> ? sizeof(hn::TFromD<D>) / sizeof(T) : 0;
+  if constexpr (kRatio == 4 && kCount == 4) {
+    const auto lower = Packed(int16_t(), v[0], v[1]), upper = Packed(int16_t(), v[2], v[3]);
+    hn::StoreU(InOrder<4>(Packed(T(), lower, upper)), hn::ScalableTag<T>(), to);
+  } else if constexpr (kRatio == 2 && kCount % 2 == 0) {
+    const hn::RebindToSigned<D> bounded;
+    Unrolled<kCount / 2>([&](auto i) QVP_INLINED {
+      const auto pair = PackedInOrder<T>(hn::BitCast(bounded, v[2 * i]), hn::BitCast(bounded, v[2 * i + 1]));
+      hn::StoreU(pair, hn::ScalableTag<T>(), to + 2 * i * kLanes);
+    });
+  } else {
+    Unrolled<kCount>([&](auto i) QVP_INLINED { hn::StoreU(Narrow<T>(d, v[i]), hn::Rebind<T, D>(), to + i * kLanes); });
+  }
+}
+
+// Means of bytes from sums in 16 bits, by one multiplication. With half of n added the quotient is that rounded down;
+// for odd n there are no ties, for even ones halves of both are divided.
+//
+// The factor is 2^(16 + shift) / divisor, rounded up by `excess` of its units. The largest sum whose quotient might be
+// taken for the next one is 255 n - 1, for which the error has to stay below that of one part of n. Halves are small
+// enough for any n.
+class ByteMean {
+ public:
+  explicit constexpr ByteMean(uint32_t n)
+      : n_(static_cast<uint16_t>(n)),
+        shift_(std::bit_width(Divisor() - 1) - 1),
+        factor_((uint32_t{1} << (16 + shift_)) / Divisor() + ((uint32_t{1} << (16 + shift_)) % Divisor() != 0)) {}
+
+  // Whether it is exact: for 3 to 256 values, but for a few odd numbers above 200.
+  static constexpr bool IsExactFor(int64_t n) {
+    if (n < 3 || n > 256) return false;
+    const ByteMean mean(static_cast<uint32_t>(n));
+    const int64_t unit = int64_t{1} << (16 + mean.shift_), excess = int64_t{mean.factor_} * mean.Divisor() - unit;
+    return n % 2 == 0 || excess * (255 * n - 1) < unit;
+  }
+
+  template <bool kIsOdd, class D>
+  HWY_INLINE hn::Vec<D> Of(D d, hn::Vec<D> sum) const {
+    const auto raised = hn::Add(sum, hn::Set(d, static_cast<uint16_t>(n_ / 2)));
+    const auto factor = hn::Set(d, static_cast<uint16_t>(factor_));
+    if constexpr (kIsOdd) return hn::ShiftRightSame(hn::MulHigh(raised, factor), shift_);
+    const auto mean = hn::ShiftRightSame(hn::MulHigh(hn::ShiftRight<1>(raised), factor), shift_);
+    const auto isTie = hn::VecFromMask(d, hn::Eq(hn::Mul(mean, hn::Set(d, n_)), raised));
+    return hn::Sub(mean, hn::And(hn::And(isTie, mean), hn::Set(d, uint16_t{1})));
+  }
+
+ private:
+  constexpr uint32_t Divisor() const { return n_ % 2 ? n_ : n_ / 2; }
+
+  uint16_t n_;
+  int shift_;
+  uint32_t factor_;
+};
+
+template <bool kIsOdd>
+struct ByteMeans {
+  using Result = uint8_t;
+  static constexpr int kVectors = 4;
+  ByteMean mean;
+
+  explicit ByteMeans(int64_t n) : mean(static_cast<uint32_t>(n)) {}
+
+  template <int kCount, class D>
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, uint8_t* to) const {
+    std::array<hn::Vec<D>, kCount> means;
+    Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = mean.template Of<kIsOdd>(d, sums[v]); });
+    StoreNarrow<uint8_t, kCount>(d, means, to);
+  }
+};
+
+// Means through lanes of F, floats or doubles: by the reciprocal where n is odd, so that there are no ties, else by a
+// division.
+//
+// A mean is at least 1 / (2 n) away from a tie that it is not. The reciprocal and the product are each rounded by at
+// most 2^-p of the mean, where F has p bits; the quotient alone by half of that, and a tie is exact.
+template <class F>
+constexpr int64_t kMostForProduct = sizeof(F) == 4 ? int64_t{1} << 22 : int64_t{1} << 51;  // of largest mean * n
+template <class F>
+constexpr int64_t kMostForQuotient = sizeof(F) == 4 ? int64_t{1} << 24 : int64_t{1} << 53;
+
+template <class T, class F, bool kIsProduct>
+struct RealMeans {
+  using Result = T;
+  static constexpr int kVectors = 4;
+  F by;
+
+  explicit RealMeans(int64_t n) : by(kIsProduct ? 1 / static_cast<F>(n) : static_cast<F>(n)) {}
+
+  template <int kCount, class D>
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, T* to) const {
+    std::array<hn::Vec<D>, kCount> means;
+    Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = Mean(d, sums[v]); });
+    StoreNarrow<T, kCount>(d, means, to);
+  }
+
+ private:
+  template <class D>
+  HWY_INLINE hn::Vec<D> Mean(D d, hn::Vec<D> sum) const {
+    if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
+      return hn::Round(Quotient(d, sum));
+    } else if constexpr (std::is_same_v<F, float>) {
+      const hn::Rebind<float, D> f;
+      return RoundToIntInRange(Quotient(f, hn::ConvertTo(f, sum)));
+    } else {
+      const hn::Half<D> half;
+      const hn::Rebind<double, decltype(half)> f;
+      const auto mean = [&](auto part)
+                            QVP_INLINED { return hn::DemoteTo(half, hn::Round(Quotient(f, hn::PromoteTo(f, part)))); };
+      return hn::Combine(d, mean(hn::UpperHalf(half, sum)), mean(hn::LowerHalf(half, sum)));
+    }
+  }
+  template <class D>
+  HWY_INLINE hn::Vec<D> Quotient(D d, hn::Vec<D> sum) const {
+    return kIsProduct ? hn::Mul(sum, hn::Set(d, by)) : hn::Div(sum, hn::Set(d, by));
+  }
+};
+
+// The same of floats: one division.
+struct FloatMeans {
+  using Result = float;
+  static constexpr int kVectors = 2;
+  float n;
+
+  template <int kCount, class D>
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, float* to) const {
+    Unrolled<kCount>([&](auto v)
+                         QVP_INLINED { hn::StoreU(hn::Div(sums[v], hn::Set(d, n)), d, to + v * hn::MaxLanes(d)); });
+  }
+};
+
+}  // namespace qvp::filter

@@ -1,0 +1,326 @@
+// Filters that sum pixels under a window, against their definitions: box, sums along rows, sums along columns.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+#include "tests/support/name.h"
+
+namespace {
+using test::Block;
+using test::Bordered;
+using test::Element;
+using test::ElementOf;
+using test::Export;
+using test::Name;
+using test::Real;
+using test::Region;
+
+// A mask with its anchor; that of sums along an axis has one row or column.
+struct Mask {
+  QvpiSize size;
+  QvpiPoint anchor;
+
+  int64_t count() const { return int64_t{size.width} * size.height; }
+  test::Reach reach() const { return test::ReachOf(size, anchor); }
+};
+
+// Of a mask what a function takes.
+Mask For(const Name& name, const Mask& m) {
+  if (name.family == "FilterSumRowBorder") return {{m.size.width, 1}, {m.anchor.x, 0}};
+  if (name.family == "FilterSumColumnBorder") return {{1, m.size.height}, {0, m.anchor.y}};
+  return m;
+}
+
+QvpStatus BufferSize(const Name& name, QvpiSize mask, QvpiSize roi, int* size) {
+  const QvpDataType type = name.From().code;
+  if (name.family == "FilterSumRowBorder") {
+    return qvpiFilterSumRowBorderGetBufferSize(mask.width, roi, type, name.channels, size);
+  }
+  if (name.family == "FilterSumColumnBorder") {
+    return qvpiFilterSumColumnBorderGetBufferSize(mask.height, roi, type, name.channels, size);
+  }
+  return qvpiFilterBoxBorderGetBufferSize(mask, roi, type, name.channels, size);
+}
+
+// Filters the part of a scene that begins at x, y, with a buffer of the reported size before an unreadable page.
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, int x, int y, QvpiSize size,
+                int border, const test::Argument& dst) {
+  const Name name(function.name);
+  int bytes = 0;
+  EXPECT_EQ(BufferSize(name, mask.size, size, &bytes), 0);
+  EXPECT_LE(bytes, 64LL * (mask.size.height + 4) * (size.width + mask.size.width) * name.channels + 65536);
+  const Block buffer(bytes);
+  const bool isRow = name.family == "FilterSumRowBorder", isBox = name.family == "FilterBoxBorder";
+  const auto side = [&](QvpiSize s) { return isRow ? s.width : s.height; };
+  const auto place = [&](QvpiPoint p) { return isRow ? p.x : p.y; };
+  return function({{"pSrc", {scene.At(x, y), scene.image.step()}},
+                   {"pDst", dst},
+                   {"roiSize", size},
+                   {"maskSize", isBox ? test::Argument(mask.size) : test::Argument(side(mask.size))},
+                   {"anchor", isBox ? test::Argument(mask.anchor) : test::Argument(place(mask.anchor))},
+                   {"borderType", border},
+                   {"borderValue", {scene.value}},
+                   {"pBuffer", {buffer.data()}}});
+}
+
+// The sum of n floats in the order of a tree: powers of two from the largest on, each of two halves.
+template <class Value>
+float TreeSum(int n, const Value& value, int at = 0) {
+  if (n == 1) return value(at);
+  const int first = (n & (n - 1)) == 0 ? n / 2 : 1 << (31 - __builtin_clz(n));
+  const volatile float sum = TreeSum(first, value, at) + TreeSum(n - first, value, at + first);
+  return sum;
+}
+
+// Sums of n values from each of `count` places on, `apart` from each other.
+std::vector<Real> SumsAlong(bool isInteger, const std::vector<Real>& values, int n, int apart, int count) {
+  std::vector<Real> sums(count);
+  for (int i = 0; i < count; ++i) {
+    if (!isInteger) {
+      sums[i] = TreeSum(n, [&](int k) { return static_cast<float>(values[i + k * apart]); });
+    } else if (i >= apart) {  // exact, so that they may run
+      sums[i] = sums[i - apart] - values[i - apart] + values[i + (n - 1) * apart];
+    } else {
+      for (int k = 0; k < n; ++k) sums[i] += values[i + k * apart];
+    }
+  }
+  return sums;
+}
+
+Real Result(const Name& name, const Mask& mask, Real sum) {
+  if (name.family != "FilterBoxBorder") return static_cast<float>(sum);
+  if (name.From().isInteger) {
+    return test::Quotient(name.To(), static_cast<int64_t>(sum), mask.count(), qvpRoundNear);
+  }
+  const volatile float mean = static_cast<float>(sum) / static_cast<float>(mask.count());
+  return mean;
+}
+
+// All results of a scene, row by row.
+std::vector<Real> Expected(const Name& name, const Bordered& scene, const Mask& mask) {
+  const QvpiSize size = scene.region.size;
+  const int channels = scene.region.channels, samples = size.width * channels;
+  const bool isInteger = name.From().isInteger;
+  std::vector<Real> across, row((size.width + mask.size.width - 1) * channels);
+  for (int y = -mask.anchor.y; y < size.height + mask.reach().below; ++y) {
+    for (int i = 0; i < static_cast<int>(row.size()); ++i) {
+      row[i] = scene.Pixel(i / channels - mask.anchor.x, y, i % channels);
+    }
+    const std::vector<Real> sums = SumsAlong(isInteger, row, mask.size.width, channels, samples);
+    across.insert(across.end(), sums.begin(), sums.end());
+  }
+  std::vector<Real> results = SumsAlong(isInteger, across, mask.size.height, samples, samples * size.height);
+  for (Real& value : results) value = Result(name, mask, value);
+  return results;
+}
+
+void Check(const Export& function, const Mask& whole, const Bordered& scene) {
+  const Name name(function.name);
+  const Mask mask = For(name, whole);
+  const Region& r = scene.region;
+  const int samples = r.size.width * r.channels;
+  const test::Samples dst(name.To(), samples, r.size.height, 8);
+  const test::Samples before(dst);
+  ASSERT_EQ(Apply(function, scene, mask, 0, 0, r.size, r.border, dst), 0) << function.name;
+  const std::vector<Real> expected = Expected(name, scene, mask);
+  for (int i = 0; i < samples * r.size.height; ++i) {
+    const int x = i % samples, y = i / samples;
+    const Real value = name.written == 3 && x % r.channels == 3 ? before(x, y) : expected[i];
+    ASSERT_TRUE(test::AreSame(dst(x, y), value))
+        << dst(x, y) << " for " << value << " of " << function.name << " mask " << mask.size.width << 'x'
+        << mask.size.height << " at " << mask.anchor.x << ',' << mask.anchor.y << " border " << r.border << " region "
+        << r.size.width << 'x' << r.size.height << " at " << x << ',' << y;
+  }
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  const auto& all = test::Exports();
+  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+}
+std::vector<const Export*> Functions() {
+  return test::FamilyOf({"FilterBoxBorder", "FilterSumRowBorder", "FilterSumColumnBorder"});
+}
+
+// A mask whose anchor, and a region whose size and border, a number stands for.
+Mask MaskOf(int turn, QvpiSize size) { return {size, {turn * 5 % size.width, turn * 3 % size.height}}; }
+Region RegionOf(int turn, int channels) {
+  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
+  const int width = turn % 6 == 5 ? 257 + turn % 40 : 1 + turn * 7 % 70;
+  return {{width, 1 + turn % 9}, channels, turn % 16 == 15 ? qvpBorderInMem : kKinds[turn % 3] | turn * 0x30 % 0x100};
+}
+
+TEST(FilterSums, EveryMemberEqualsItsDefinition) {
+  constexpr QvpiSize kSizes[] = {{1, 1}, {2, 1},  {3, 3},  {1, 5},  {5, 6},  {8, 7},   {9, 9},
+                                 {4, 2}, {15, 3}, {3, 15}, {64, 1}, {1, 70}, {21, 24}, {33, 35}};
+  int turn = 0;
+  for (const Export* function : Functions()) {
+    const Name name(function->name);
+    for (const QvpiSize size : kSizes) {
+      for (int i = 0; i < (size.width * size.height < 100 ? 3 : 1); ++i, ++turn) {
+        const Mask mask = MaskOf(turn, size);
+        Check(*function, mask, Bordered(name.From(), For(name, mask).reach(), RegionOf(turn, name.channels)));
+      }
+    }
+    for (int a = 0; a < 6; ++a) {
+      const Mask mask{{3, 2}, {a % 3, a / 3}};
+      Check(*function, mask, Bordered(name.From(), For(name, mask).reach(), {{5, 3}, name.channels, qvpBorderMirror}));
+    }
+  }
+}
+
+// Pixels floor(x / n) under a row of n have the sums 0, 1, 2...
+TEST(FilterSums, MeansOfAllSumsOfBytes) {
+  for (int n = 1; n <= 256; ++n) {
+    const int width = 255 * n + 1;
+    std::vector<Qvp8u> src(width + n - 1), dst(width);
+    for (int x = 0; x < width + n - 1; ++x) src[x] = static_cast<Qvp8u>(x / n);
+    int bytes;
+    ASSERT_EQ(qvpiFilterBoxBorderGetBufferSize({n, 1}, {width, 1}, qvp8u, 1, &bytes), 0);
+    const Block buffer(bytes);
+    ASSERT_EQ(qvpiFilterBoxBorder_8u_C1R(src.data(), width + n - 1, dst.data(), width, {width, 1}, {n, 1}, {0, 0},
+                                         qvpBorderInMem, nullptr, buffer.data()),
+              0);
+    for (int sum = 0; sum < width; ++sum) {
+      const int whole = sum / n, twice = 2 * (sum - whole * n);
+      ASSERT_EQ(dst[sum], whole + (twice > n || (twice == n && whole % 2))) << sum << " / " << n;
+    }
+  }
+}
+
+// Counts around the bounds of each way to sum and to divide, at the ends of the types and close to ties.
+TEST(FilterSums, LargeMasks) {
+  constexpr QvpiSize kSizes[] = {{7, 9},     {8, 8},    {13, 5},    {16, 8},    {43, 3},    {15, 17},   {16, 16},
+                                 {257, 1},   {1, 257},  {1, 258},   {181, 181}, {182, 181}, {127, 129}, {128, 128},
+                                 {16385, 1}, {64, 512}, {256, 256}, {331, 199}, {1, 32769}, {65536, 1}};
+  struct Ends {
+    std::string type;
+    int low, high;
+  };
+  for (const auto& [type, low, high] : {Ends{"8u", 0, 255}, {"16u", 0, 65535}, {"16s", -32768, 32767}}) {
+    for (const QvpiSize size : kSizes) {
+      Bordered scene(ElementOf(type), {}, {{19, 3}, 1, qvpBorderReplicate});
+      const int values[] = {low, high, (low + high) / 2, (low + high) / 2 + 1};
+      test::Random random(size.width);
+      scene.image.Fill([&](int, int) { return values[random.Next() / 64 % 4]; });
+      for (const std::string& function : {"qvpiFilterBoxBorder_" + type, "qvpiFilterSumRowBorder_" + type + "32f"}) {
+        Check(FunctionNamed(function + "_C1R"), {size, {size.width / 3, size.height / 2}}, scene);
+      }
+    }
+  }
+}
+
+TEST(FilterSums, KnownValues) {
+  const auto check = [](const char* function, const Mask& mask, int border, int width, std::vector<Real> pixels,
+                        const std::vector<Real>& expected) {
+    const Name name(function);
+    const int height = static_cast<int>(pixels.size()) / width;
+    Bordered scene(name.From(), {}, {{width, height}, 1, border});
+    std::fill(scene.value, scene.value + sizeof(scene.value), uint8_t{0});
+    scene.image.Fill([&](int x, int y) { return pixels[y * width + x]; });
+    const test::Samples dst(name.To(), width, height, 0);
+    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, 0, 0, {width, height}, border, dst), 0);
+    for (size_t i = 0; i < expected.size(); ++i) {
+      EXPECT_EQ(dst(static_cast<int>(i) % width, static_cast<int>(i) / width), expected[i]) << function << ' ' << i;
+    }
+  };
+  const char* const bytes = "qvpiFilterBoxBorder_8u_C1R";
+  check(bytes, {{3, 1}, {1, 0}}, qvpBorderReplicate, 3, {10, 20, 40}, {13, 23, 33});
+  check(bytes, {{2, 1}, {0, 0}}, qvpBorderReplicate, 4, {0, 1, 2, 4}, {0, 2, 3, 4});
+  check(bytes, {{3, 3}, {1, 1}}, qvpBorderConst, 3, std::vector<Real>(9, 255), {113, 170, 113, 170, 255, 170, 113});
+  check("qvpiFilterBoxBorder_32f_C1R", {{5, 1}, {2, 0}}, qvpBorderReplicate, 5, {1e8, 1, -1e8, 1, 3},
+        {40000000, 20000000, 0.6f});
+  check("qvpiFilterSumRowBorder_8u32f_C1R", {{3, 1}, {1, 0}}, qvpBorderMirror, 3, {1, 2, 3}, {5, 6, 7});
+  check("qvpiFilterSumColumnBorder_16u32f_C1R", {{1, 257}, {0, 9}}, qvpBorderReplicate, 1, {65535}, {16842496});
+}
+
+TEST(FilterSums, NotANumberReachesItsWindowsAlone) {
+  for (const auto& [function, expected] : {std::pair{"qvpiFilterBoxBorder_32f_C1R", 91},
+                                           {"qvpiFilterSumRowBorder_32f_C1R", 13},
+                                           {"qvpiFilterSumColumnBorder_32f_C1R", 7}}) {
+    Bordered scene(ElementOf("32f"), {}, {{200, 30}, 1, qvpBorderReplicate});
+    scene.image.Put(100, 11, NAN);
+    const test::Samples dst(ElementOf("32f"), 200, 30, 0);
+    const Mask mask = For(Name(function), {{13, 7}, {2, 3}});
+    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, 0, 0, {200, 30}, qvpBorderReplicate, dst), 0);
+    int count = 0;
+    for (int i = 0; i < 200 * 30; ++i) count += std::isnan(dst(i % 200, i / 200));
+    EXPECT_EQ(count, expected) << function;
+  }
+}
+
+TEST(FilterSums, TilesEqualTheWhole) {
+  const QvpiSize size{700, 40};
+  const Mask mask{{9, 12}, {3, 8}};
+  for (const char* const type : {"32f", "8u"}) {
+    const Export& function = FunctionNamed(std::string("qvpiFilterBoxBorder_") + type + "_C1R");
+    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+      const Bordered scene(ElementOf(type), {}, {size, 1, kind});
+      const test::Samples whole(scene.element(), size.width, size.height, 0),
+          tiled(scene.element(), size.width, size.height, 4);
+      ASSERT_EQ(Apply(function, scene, mask, 0, 0, size, kind, whole), 0);
+      test::ForEachTile(size, {70, 20}, kind, [&](int x, int y, QvpiSize part, int border) {
+        ASSERT_EQ(Apply(function, scene, mask, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+      });
+      for (int i = 0; i < size.width * size.height; ++i) {
+        ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width)) << type << ' ' << i;
+      }
+    }
+  }
+}
+
+TEST(FilterSums, BuffersGrowWithRegionAndMask) {
+  for (const Export* function : Functions()) {
+    const Name name(function->name);
+    int last = 0;
+    for (const int side : {1, 2, 3, 7, 8, 15, 16, 31, 32, 63, 64, 65, 100, 128, 129, 200}) {
+      for (const QvpiSize roi : {QvpiSize{1, 1}, {9, 1}, {1000, 2}, {100000, 2}}) {
+        int size = 0, wider = 0, larger = 0;
+        ASSERT_EQ(BufferSize(name, {side, side}, roi, &size), 0);
+        ASSERT_EQ(BufferSize(name, {side, side}, {roi.width + 1, 3}, &wider), 0);
+        ASSERT_EQ(BufferSize(name, {side + 1, side + 1}, roi, &larger), 0);
+        EXPECT_LE(size, wider);
+        EXPECT_LE(size, larger) << function->name << ' ' << side;
+        if (roi.width == 1) EXPECT_LE(std::exchange(last, size), size);
+      }
+    }
+  }
+}
+
+TEST(FilterSums, RefusesInTheDocumentedOrder) {
+  int bytes = 1;
+  const auto size = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
+    return qvpiFilterBoxBorderGetBufferSize(mask, roi, type, channels, &bytes);
+  };
+  EXPECT_EQ(qvpiFilterBoxBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(size({}, {1, 0}, 0, 0), qvpStatusSize);
+  EXPECT_EQ(size({1, 0}, {1, 1}, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size({65536, 32768}, {1, 1}, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size({65536, 32767}, {1, 1}, 0, 0), qvpStatusDataType);
+  EXPECT_EQ(size({3, 3}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
+  EXPECT_EQ(bytes, 1);
+  EXPECT_EQ(size({1, 2147483647}, {1, 1}, qvp8u, 1), qvpStatusSizeOverflow);
+  EXPECT_EQ(bytes, 0);
+  EXPECT_EQ(qvpiFilterSumRowBorderGetBufferSize(0, {1, 1}, 0, 0, &bytes), qvpStatusMaskSize);
+  EXPECT_EQ(qvpiFilterSumColumnBorderGetBufferSize(0, {1, 1}, 0, 0, &bytes), qvpStatusMaskSize);
+
+  const Block work(65536);
+  Qvp8u pixels[64] = {}, out[64];
+  const auto box = [&](QvpiSize roi, int step, QvpiSize mask, QvpiPoint anchor, int border, const Qvp8u* value) {
+    return qvpiFilterBoxBorder_8u_C1R(pixels, 8, out, step, roi, mask, anchor, border, value, work.data());
+  };
+  EXPECT_EQ(box({}, 0, {}, {}, qvpBorderConst, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(box({}, 0, {}, {}, qvpBorderConst, pixels), qvpStatusSize);
+  EXPECT_EQ(box({8, 2}, 7, {}, {}, 2, nullptr), qvpStatusStep);
+  EXPECT_EQ(box({8, 2}, 8, {3, 0}, {3, 0}, 2, nullptr), qvpStatusMaskSize);
+  EXPECT_EQ(box({8, 2}, 8, {3, 3}, {3, 0}, 2, nullptr), qvpStatusAnchor);
+  EXPECT_EQ(box({8, 2}, 8, {3, 3}, {0, -1}, 2, nullptr), qvpStatusAnchor);
+  for (const int border : {2, 4, 0, 0x80, 0x101}) {
+    EXPECT_EQ(box({8, 2}, 8, {3, 3}, {1, 1}, border, nullptr), qvpStatusBorder);
+  }
+  Qvp32f sums[16];
+  EXPECT_EQ(qvpiFilterSumRowBorder_8u32f_C1R(pixels, 8, sums, 31, {8, 2}, 0, 9, 2, nullptr, work.data()),
+            qvpStatusStep);
+  EXPECT_EQ(qvpiFilterSumRowBorder_8u32f_C1R(pixels, 8, sums, 32, {8, 2}, 3, 3, 2, nullptr, work.data()),
+            qvpStatusAnchor);
+}
+
+}  // namespace
