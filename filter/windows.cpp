@@ -25,7 +25,8 @@ ByteCount BytesOfColumn(int64_t maskHeight, int channels, int elementBytes, cons
 template <class T>
 class Block {
  public:
-  Block(const Windows<T>& windows, const WindowKernel& kernel, Extent columns)
+  // `isNarrow`: rows are in other pages than those before them, where the CPU does not expect what comes next.
+  Block(const Windows<T>& windows, const WindowKernel& kernel, Extent columns, bool isNarrow = false)
       : windows_(windows),
         kernel_(kernel),
         samples_((columns.end - columns.begin) * windows.src.channels()),
@@ -33,6 +34,7 @@ class Block {
         first_(columns.begin - windows.reach.left),
         lines_(windows.reach.above + windows.reach.below + kernel.rowsAtOnce),
         next_(-windows.reach.above),
+        isNarrow_(isNarrow),
         source_(windows.src,
                 {first_ + window_.columns.before, columns.end + windows.reach.right - window_.columns.after},
                 samples_ >= kFewestInPlace && !kernel.readsBeyond) {
@@ -80,6 +82,7 @@ class Block {
     if (y > 0) Advance();
     const bool isSingle = y + kernel_.rowsAtOnce > windows_.roi.height || kernel_.rowsAtOnce == 1;
     const ResultRows rows = NextRows(isSingle);
+    if (isNarrow_) FetchNext();
     window_.y = y;
     if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, window_, rows);
     ResultRows colours{};
@@ -141,6 +144,21 @@ class Block {
         reinterpret_cast<const R*>(from));
   }
 
+  // The next line that is in place, and where the next results go.
+  void FetchNext() const {
+    if (source_.isInPlace() && !kernel_.across) {
+      for (int i = 0; i < kernel_.rowsAtOnce; ++i) Fetch(source_.Line(next_ + i, nullptr), samples_ * sizeof(T));
+    }
+    const Bytes& output = windows_.outputs[0];
+    for (int i = 0; i < kernel_.rowsAtOnce && at_[0]; ++i) {
+      Fetch(at_[0] + i * output.step, samples_ * output.elementBytes);
+    }
+  }
+  static void Fetch(const void* row, size_t bytes) {
+    constexpr size_t kCacheLine = 64;
+    for (size_t i = 0; i < bytes; i += kCacheLine) hwy::Prefetch(static_cast<const uint8_t*>(row) + i);
+  }
+
   void Advance() {
     const ptrdiff_t count = kernel_.rowsAtOnce;
     std::memmove(pointers_, pointers_ + count, (lines_ - count) * sizeof(*pointers_));
@@ -166,6 +184,7 @@ class Block {
   ptrdiff_t first_;  // column of lines, with those of the border
   int64_t lines_;
   ptrdiff_t next_;  // row of the next line
+  bool isNarrow_;
   BorderRows<SingleRows<T, T>, T> source_;
   const void** pointers_ = nullptr;
   RowRing<uint8_t> ring_{};
@@ -184,15 +203,19 @@ template <class T>
 bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width, edge = std::max<ptrdiff_t>(kFewestInPlace, MaskWidth(reach));
-  const int64_t columnBytes = BytesOfColumn(MaskHeight(reach), windows.src.channels(), sizeof(T), kernel.kept).value();
-  if (width < 4 * edge || width > kSecondCacheBytes / columnBytes) return false;
+  const int64_t lineBytes = int64_t{width} * windows.src.image.PixelBytes(),
+                keptBytes = int64_t{width} * windows.src.channels() * kernel.kept.count * kernel.kept.elementBytes;
+  if (width < 4 * edge || lineBytes > kSecondCacheBytes / (MaskHeight(reach) + 1)) return false;
+  if (keptBytes > kernel.cacheBytes) return false;
   Block<T> left(windows, kernel, {0, edge}), middle(windows, kernel, {edge, width - edge}),
       right(windows, kernel, {width - edge, width});
   const int64_t bytes = left.WorkBytes() + middle.WorkBytes() + right.WorkBytes() + kRecordBoundary;
   const int elementBytes =
       std::max({static_cast<int>(sizeof(T)), kernel.elementBytes, windows.outputs[0].elementBytes});
   const Size mask(static_cast<ptrdiff_t>(MaskWidth(reach)), static_cast<ptrdiff_t>(MaskHeight(reach)));
-  if (bytes > WindowBytes(mask, width, windows.src.channels(), elementBytes, kernel.kept).value()) return false;
+  if (bytes > WindowBytes(mask, width, windows.src.channels(), elementBytes, kernel.kept, kernel.cacheBytes).value()) {
+    return false;
+  }
   right.Start(middle.Start(left.Start(AtBoundary(windows.buffer))));
   for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) {
     left.Filter(y);
@@ -212,7 +235,8 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
     Block<T> block(windows, kernel,
-                   {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)});
+                   {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)},
+                   blocks > 1 && kernel.kept.count > 0);
     block.Start(AtBoundary(windows.buffer));
     for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) block.Filter(y);
   }
