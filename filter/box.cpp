@@ -14,26 +14,25 @@ void FilterIn16Bits(const BoxCall<uint8_t>& call) {
   call.RunIntegers<uint16_t>(columns, ByteMeans<false>(call.Count()));
 }
 
-template <class F, bool kIsProduct, class T>
+template <MeanOf kOf, class T>
 void FilterIn32Bits(const BoxCall<T>& call) {
   auto columns = ColumnSums<T, int32_t, int32_t>::Make;
   if constexpr (sizeof(T) == 1) {
     if (call.mask.height <= kMostBytesIn16Bits) columns = ColumnSums<T, uint16_t, int32_t>::Make;
   }
-  call.template RunIntegers<int32_t>(columns, RealMeans<T, F, kIsProduct>(call.Count()));
+  call.template RunIntegers<int32_t>(columns, IntegerMeans<T, kOf>(call.Count()));
 }
 
 template <class T>
 void FilterIntegers(const BoxCall<T>& call) {
-  const int64_t count = call.Count(), beyondSums = count * kBeyondPixels<T>;
-  if (!Fits32Bits<T>(count)) {
-    return call.template RunIntegers<double>(ColumnSums<T, double, double>::Make, RealMeans<T, double, false>(count));
+  using enum MeanOf;
+  const int64_t n = call.Count();
+  if (!Fits32Bits<T>(n)) {
+    return call.template RunIntegers<double>(ColumnSums<T, double, double>::Make,
+                                             DoubleMeans<T>{static_cast<double>(n)});
   }
-  if (count % 2) {
-    return beyondSums <= kMostForProduct<float> ? FilterIn32Bits<float, true>(call)
-                                                : FilterIn32Bits<double, true>(call);
-  }
-  beyondSums <= kMostForQuotient<float> ? FilterIn32Bits<float, false>(call) : FilterIn32Bits<double, false>(call);
+  if (n % 2 == 0) return FilterIn32Bits<kEven>(call);
+  n <= IntegerMeans<T, kFewOdd>::kMostForFew ? FilterIn32Bits<kFewOdd>(call) : FilterIn32Bits<kOdd>(call);
 }
 
 template <class T>

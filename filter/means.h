@@ -84,23 +84,22 @@ struct ByteMeans {
   }
 };
 
-// Means through lanes of F, floats or doubles: by the reciprocal where n is odd, so that there are no ties, else by a
-// division.
-//
-// A mean is at least 1 / (2 n) away from a tie that it is not. The reciprocal and the product are each rounded by at
-// most 2^-p of the mean, where F has p bits; the quotient alone by half of that, and a tie is exact.
-template <class F>
-constexpr int64_t kMostForProduct = sizeof(F) == 4 ? int64_t{1} << 22 : int64_t{1} << 51;  // of largest mean * n
-template <class F>
-constexpr int64_t kMostForQuotient = sizeof(F) == 4 ? int64_t{1} << 24 : int64_t{1} << 53;
+// Means from sums in 32 bits, through floats. Sum, reciprocal and product are each rounded by at most 2^-24 of them, so
+// that a mean of up to 2^16 is less than 0.02 off. For odd n a mean is at least 1 / (2 n) away from a tie: where the
+// largest mean times n is at most 2^22, it is rounded as the exact one. Else it may be one off, and what it leaves of
+// the sum tells.
+enum class MeanOf { kFewOdd, kOdd, kEven };
 
-template <class T, class F, bool kIsProduct>
-struct RealMeans {
+template <class T, MeanOf kOf>
+struct IntegerMeans {
   using Result = T;
   static constexpr int kVectors = 4;
-  F by;
+  static constexpr int64_t kMostForFew = (int64_t{1} << 22) >> (8 * sizeof(T));
 
-  explicit RealMeans(int64_t n) : by(kIsProduct ? 1 / static_cast<F>(n) : static_cast<F>(n)) {}
+  int32_t n;
+  float reciprocal;
+
+  explicit IntegerMeans(int64_t count) : n(static_cast<int32_t>(count)), reciprocal(1 / static_cast<float>(count)) {}
 
   template <int kCount, class D>
   HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, T* to) const {
@@ -112,22 +111,30 @@ struct RealMeans {
  private:
   template <class D>
   HWY_INLINE hn::Vec<D> Mean(D d, hn::Vec<D> sum) const {
-    if constexpr (std::is_same_v<hn::TFromD<D>, double>) {
-      return hn::Round(Quotient(d, sum));
-    } else if constexpr (std::is_same_v<F, float>) {
-      const hn::Rebind<float, D> f;
-      return RoundToIntInRange(Quotient(f, hn::ConvertTo(f, sum)));
-    } else {
-      const hn::Half<D> half;
-      const hn::Rebind<double, decltype(half)> f;
-      const auto mean = [&](auto part)
-                            QVP_INLINED { return hn::DemoteTo(half, hn::Round(Quotient(f, hn::PromoteTo(f, part)))); };
-      return hn::Combine(d, mean(hn::UpperHalf(half, sum)), mean(hn::LowerHalf(half, sum)));
-    }
+    const hn::Rebind<float, D> f;
+    const auto mean = RoundToIntInRange(hn::Mul(hn::ConvertTo(f, sum), hn::Set(f, reciprocal)));
+    if constexpr (kOf == MeanOf::kFewOdd) return mean;
+    // More than half of n is left, or as much of an odd mean: the next one is nearer, or even.
+    const auto half = hn::Set(d, n / 2), rest = hn::Sub(sum, hn::Mul(mean, hn::Set(d, n)));
+    const auto odd = kOf == MeanOf::kEven ? hn::And(mean, hn::Set(d, 1)) : hn::Zero(d);
+    const auto up = hn::VecFromMask(d, hn::Gt(hn::Add(rest, odd), half)),
+               down = hn::VecFromMask(d, hn::Lt(hn::Sub(rest, odd), hn::Neg(half)));
+    return hn::Add(hn::Sub(mean, up), down);
   }
-  template <class D>
-  HWY_INLINE hn::Vec<D> Quotient(D d, hn::Vec<D> sum) const {
-    return kIsProduct ? hn::Mul(sum, hn::Set(d, by)) : hn::Div(sum, hn::Set(d, by));
+};
+
+// Means from sums in doubles, whose quotient is exact enough for any n, and exact for ties.
+template <class T>
+struct DoubleMeans {
+  using Result = T;
+  static constexpr int kVectors = 2;
+  double n;
+
+  template <int kCount, class D>
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, T* to) const {
+    std::array<hn::Vec<D>, kCount> means;
+    Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = hn::Round(hn::Div(sums[v], hn::Set(d, n))); });
+    StoreNarrow<T, kCount>(d, means, to);
   }
 };
 

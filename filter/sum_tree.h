@@ -44,15 +44,16 @@ class SumTree {
   constexpr int terms() const { return terms_count_; }
   constexpr const TreeTerm& term(int i) const { return terms_[i]; }
 
-  // How many of the latest sums of a level are used, once values [0, n) are there.
-  constexpr int Depth(int level) const {
-    const int64_t newest = n_ - Length(level);
-    int64_t oldest = level < levels_ ? n_ - Length(level + 1) : newest;
+  // Of the sums of a level, once values [0, n) are there: which is the newest, and the oldest that is used.
+  constexpr ptrdiff_t Newest(int level) const { return static_cast<ptrdiff_t>(n_ - Length(level)); }
+  constexpr ptrdiff_t Oldest(int level) const {
+    ptrdiff_t oldest = level < levels_ ? Newest(level + 1) : Newest(level);
     for (int i = 0; i < terms_count_; ++i) {
-      if (terms_[i].level == level) oldest = std::min<int64_t>(oldest, terms_[i].offset);
+      if (terms_[i].level == level) oldest = std::min(oldest, terms_[i].offset);
     }
-    return static_cast<int>(newest - oldest + 1);
+    return oldest;
   }
+  constexpr int Depth(int level) const { return static_cast<int>(Newest(level) - Oldest(level) + 1); }
 
  private:
   ptrdiff_t n_;
@@ -116,7 +117,7 @@ template <class E>
 HWY_NOINLINE void AddFours(const std::array<const E*, 4>& rows, ptrdiff_t n, E* to) {
   const hn::ScalableTag<E> d;
   const TreePart<E> part{rows, 4};
-  ForEachVectors<2, hn::MaxLanes(d)>(n, [&](auto count, ptrdiff_t i) HWY_ATTR {
+  ForEachVectors<2, hn::MaxLanes(d)>(n, [&](auto count, ptrdiff_t i) QVP_INLINED {
     ForEachOf<count>(d, part, i,
                      [&](auto v, auto sum) QVP_INLINED { hn::StoreU(sum, d, to + i + v * hn::MaxLanes(d)); });
   });
@@ -135,7 +136,8 @@ struct Rows {
 // Sums along a row, of values that are `apart` elements from each other: what `results` of them are made of. The levels
 // take rows of `room`.
 template <class E>
-TreeParts<E> PartsAcross(const SumTree& tree, const E* values, ptrdiff_t apart, ptrdiff_t results, Rows<E> room) {
+TreeParts<E> PartsAcross(const SumTree& tree, const E* values, ptrdiff_t apart, ptrdiff_t results,
+                         const Rows<E>& room) {
   const auto row = [&](int level, ptrdiff_t offset) {
     return (level == 0 ? values : room.Row(level - 1)) + offset * apart;
   };

@@ -7,20 +7,26 @@
 #pragma once
 
 #include "base/pack.h"
+#include "filter/running_totals.h"
 #include "filter/sum_tree.h"
 
 namespace qvp::filter {
 
-// A row of results from the parts of their sums.
-template <class E, class Finish>
-HWY_INLINE void FinishRow(const Finish& shared, const TreeParts<E>& parts, ptrdiff_t n, uint8_t* row) {
+// A row of n results: sums(count, i) gives `count` vectors of sums, a constant, from result i on.
+template <class E, class Finish, class Sums>
+HWY_INLINE void FinishRow(const Finish& shared, ptrdiff_t n, uint8_t* row, const Sums& sums) {
   using Result = typename Finish::Result;
   const hn::ScalableTag<E> d;
   const Finish finish = shared;
   MakeRow<Finish::kVectors, ptrdiff_t{hn::MaxLanes(d)}>(
-      n, reinterpret_cast<Result*>(row), [&](auto count, ptrdiff_t i, Result* to) HWY_ATTR {
-        finish.template Store<count>(d, TreeSums<count>(d, parts, i), to);
-      });
+      n, reinterpret_cast<Result*>(row),
+      [&](auto count, ptrdiff_t i, Result* to) QVP_INLINED { finish.template Store<count>(d, sums(count, i), to); });
+}
+
+template <class E, class Finish>
+HWY_INLINE void FinishRow(const Finish& finish, const TreeParts<E>& parts, ptrdiff_t n, uint8_t* row) {
+  FinishRow<E>(finish, n, row,
+               [&](auto count, ptrdiff_t i) QVP_INLINED { return TreeSums<count>(hn::ScalableTag<E>(), parts, i); });
 }
 
 // ---- Integers. Sums down the columns run, without the newest row, and two rows of results are made at a time.
@@ -50,6 +56,16 @@ HWY_INLINE void StoreAs(hn::Vec<hn::ScalableTag<S>> v, L* to) {
     hn::StoreU(hn::PromoteTo(wide, hn::LowerHalf(half, v)), wide, to);
     hn::StoreU(hn::PromoteTo(wide, hn::UpperHalf(half, v)), wide, to + hn::MaxLanes(wide));
   }
+}
+
+template <int kCount, class D, class E>
+HWY_INLINE std::array<hn::Vec<D>, kCount> Differences(D d, const E* from, const E* to) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  std::array<hn::Vec<D>, kCount> differences;
+  Unrolled<kCount>([&](auto v) QVP_INLINED {
+    differences[v] = hn::Sub(hn::LoadU(d, to + v * kLanes), hn::LoadU(d, from + v * kLanes));
+  });
+  return differences;
 }
 
 // Sums of columns of T in lanes of S, stored as lanes of L.
@@ -97,7 +113,7 @@ class ColumnSums {
   void AddAnew() const {
     const hn::ScalableTag<S> d;
     const T *const first = lines_[0], *const last = lines_[height_];
-    ForEachVectors<2, kLanes>(n_, [&](auto count, ptrdiff_t i) HWY_ATTR {
+    ForEachVectors<2, kLanes>(n_, [&](auto count, ptrdiff_t i) QVP_INLINED {
       const auto shared = Sum<count>(1, height_, i);
       Unrolled<count>([&](auto v) QVP_INLINED {
         const ptrdiff_t at = i + v * kLanes;
@@ -109,7 +125,7 @@ class ColumnSums {
 
   void Start() const {
     const hn::ScalableTag<S> d;
-    ForEachVectors<4, kLanes>(n_, [&](auto count, ptrdiff_t i) HWY_ATTR {
+    ForEachVectors<4, kLanes>(n_, [&](auto count, ptrdiff_t i) QVP_INLINED {
       const auto sums = Sum<count>(0, height_ - 1, i);
       Unrolled<count>([&](auto v) QVP_INLINED { hn::StoreU(sums[v], d, before_ + i + v * kLanes); });
     });
@@ -120,7 +136,7 @@ class ColumnSums {
     const hn::ScalableTag<S> d;
     const T *const oldest = lines_[0], *const next = lines_[1], *const newer = lines_[height_ - 1],
                    *const newest = lines_[height_];
-    ForEachVectors<2, kLanes>(n_, [&](auto count, ptrdiff_t start) HWY_ATTR {
+    ForEachVectors<2, kLanes>(n_, [&](auto count, ptrdiff_t start) QVP_INLINED {
       Unrolled<count>([&](auto v) QVP_INLINED {
         const ptrdiff_t i = start + v * kLanes;
         const auto upper = hn::Add(hn::LoadU(d, before_ + i), LoadWide(d, newer + i));
@@ -160,19 +176,47 @@ struct IntegerSums {
   }
 
  private:
-  HWY_NOINLINE void Across(const L* sums, ptrdiff_t samples, Rows<L> room, uint8_t* row) const {
+  // As differences of running totals where these are quicker, and pixels do not lie across blocks of 16 bytes.
+  HWY_NOINLINE void Across(const L* sums, ptrdiff_t samples, const Rows<L>& room, uint8_t* row) const {
+    if constexpr (std::is_integral_v<L>) {
+      if (across.levels() > 0 && shape.channels != 3) return AcrossByTotals(sums, samples, room.Row(0), row);
+    }
     FinishRow<L>(finish, PartsAcross<L>(across, sums, shape.channels, samples, room), samples, row);
+  }
+  void AcrossByTotals(const L* sums, ptrdiff_t samples, L* totals, uint8_t* row) const {
+    const hn::ScalableTag<L> d;
+    const ptrdiff_t apart = shape.width * shape.channels;
+    shape.channels == 1 ? AddUp<1>(sums, shape.Columns(samples), totals)
+                        : AddUp<4>(sums, shape.Columns(samples), totals);
+    FinishRow<L>(finish, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
+      return Differences<count>(d, totals + i, totals + i + apart);
+    });
   }
 };
 
 // ---- Floats: by trees across, then down. The latest rows of each level are kept.
 
-// Rows of a level by their positions.
-struct LevelRing {
-  Rows<float> rows;
-  int places;
+// The latest rows of a level, by how far they begin behind the row of results.
+class LevelRing {
+ public:
+  LevelRing() = default;
+  // Those from offset `oldest` on are used for the row of results y.
+  LevelRing(const Rows<float>& room, int depth, ptrdiff_t oldest, ptrdiff_t y)
+      : rows_(room),
+        places_(depth),
+        first_(oldest - static_cast<uint32_t>(y + oldest) % static_cast<uint32_t>(depth)) {}
 
-  float* Row(ptrdiff_t position) const { return rows.Row(position % places); }
+  float* Row(ptrdiff_t offset) const {
+    ptrdiff_t place = offset - first_;
+    if (place >= places_) place -= places_;
+    if (place < 0) place += (places_ - 1 - place) / places_ * places_;  // older ones, before the first row of results
+    return rows_.Row(place);
+  }
+
+ private:
+  Rows<float> rows_;
+  int32_t places_;
+  ptrdiff_t first_;  // the offset whose place is the first one
 };
 
 // How many rows of the levels are kept.
@@ -220,10 +264,11 @@ struct FloatSums {
   class Columns {
    public:
     Columns(const FloatSums& sums, const Window& window, Rows<float> room)
-        : lines_(reinterpret_cast<const float* const*>(window.lines)), y_(window.y), isPlain_(sums.shape.width == 1) {
+        : lines_(reinterpret_cast<const float* const*>(window.lines)), isPlain_(sums.shape.width == 1) {
       for (int level = 0; level <= sums.down.levels(); ++level) {
-        rings_[level] = {room, sums.down.Depth(level)};
-        room = room.From(rings_[level].places);
+        const int depth = sums.down.Depth(level);
+        rings_[level] = {room, depth, sums.down.Oldest(level), window.y};
+        room = room.From(depth);
       }
     }
 
@@ -231,14 +276,14 @@ struct FloatSums {
     void Add(const FloatSums& sums, const Window& window, ptrdiff_t line) const {
       if (!isPlain_) {
         const auto parts = sums.PartsOf(lines_[line], window.samples, {window.kept, window.keptStep});
-        FinishRow<float>(AsSums(), parts, window.samples, reinterpret_cast<uint8_t*>(rings_[0].Row(y_ + line)));
+        FinishRow<float>(AsSums(), parts, window.samples, reinterpret_cast<uint8_t*>(rings_[0].Row(line)));
       }
       for (int level = 1; level <= sums.down.levels(); ++level) {
         const ptrdiff_t first = line + 1 - static_cast<ptrdiff_t>(SumTree::Length(level));
         if (first < 0) break;
         const auto part = static_cast<ptrdiff_t>(SumTree::Length(level - 1));
         const auto row = [&](int i) { return Row(level - 1, first + i * part); };
-        AddFours<float>({row(0), row(1), row(2), row(3)}, window.samples, rings_[level].Row(y_ + first));
+        AddFours<float>({row(0), row(1), row(2), row(3)}, window.samples, rings_[level].Row(first));
       }
     }
 
@@ -248,16 +293,15 @@ struct FloatSums {
 
    private:
     const float* Row(int level, ptrdiff_t line) const {
-      return level == 0 && isPlain_ ? lines_[line] : rings_[level].Row(y_ + line);
+      return level == 0 && isPlain_ ? lines_[line] : rings_[level].Row(line);
     }
 
     const float* const* lines_;
-    ptrdiff_t y_;
     bool isPlain_;  // lines are what is added down
     std::array<LevelRing, SumTree::kMostTerms / 2 + 1> rings_;
   };
 
-  TreeParts<float> PartsOf(const float* line, ptrdiff_t samples, Rows<float> room) const {
+  TreeParts<float> PartsOf(const float* line, ptrdiff_t samples, const Rows<float>& room) const {
     return PartsAcross<float>(across, line, shape.channels, samples, room);
   }
   void PutRow(const TreeParts<float>& parts, const Window& window, const ResultRows& rows) const {
