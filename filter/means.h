@@ -141,7 +141,7 @@ struct DoubleMeans {
 // The same of floats: one division.
 struct FloatMeans {
   using Result = float;
-  static constexpr int kVectors = 2;
+  static constexpr int kVectors = 4;
   float n;
 
   template <int kCount, class D>
