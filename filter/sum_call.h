@@ -2,8 +2,9 @@
 #pragma once
 
 #include "base/export.h"
+#include "filter/float_sums.h"
+#include "filter/integer_sums.h"
 #include "filter/window_check.h"
-#include "filter/window_sums.h"
 
 namespace qvp::filter {
 
@@ -25,12 +26,11 @@ constexpr bool Fits32Bits(int64_t count) {
 // Rows that are kept for a mask; they grow with it, and no call keeps more.
 template <class T>
 KeptRows KeptFor(QvpiSize mask) {
-  const SumTree across(mask.width);
   if constexpr (std::is_same_v<T, float>) {
-    return {RowsKept(across, SumTree(mask.height)), sizeof(float)};
+    return {RowsKept(TreeAcross(mask.width), TreeDown(mask.height)), sizeof(float)};
   } else {
     const bool isShort = Fits32Bits<T>(int64_t{mask.width} * mask.height);
-    return {SumRows::kLevels + across.levels(), isShort ? int{sizeof(int32_t)} : int{sizeof(double)}};
+    return {SumRows::kLevels + SumTree(mask.width).levels(), isShort ? int{sizeof(int32_t)} : int{sizeof(double)}};
   }
 }
 inline KeptRows KeptFor(QvpDataType type, QvpiSize mask) {
@@ -63,7 +63,7 @@ struct SumCall {
   }
   template <class Finish>
   void RunFloats(const Finish& finish) const {
-    Run(FloatSums<Finish>{Shape(), SumTree(mask.width), SumTree(mask.height), finish});
+    Run(FloatSums<Finish>{Shape(), TreeAcross(mask.width), TreeDown(mask.height), finish});
   }
 
  private:

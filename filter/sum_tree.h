@@ -6,7 +6,8 @@
 // A sum takes at most 2 log2 n additions. Sums of floats have the same bits wherever a row begins, and what is not a
 // number is in those alone that cover it: a running sum promises neither.
 //
-// Sums of 4, 16, 64.. values, the levels, are kept if they are used more than once. Others are made of them on the way.
+// Sums of 4, 16, 64.. values, or of 2, 4, 8.., are the levels, which are kept if they are used more than once. Others
+// are made of them on the way.
 #pragma once
 
 #include "filter/axis_sums.h"
@@ -24,14 +25,17 @@ class SumTree {
  public:
   static constexpr int kMostTerms = 31;
 
-  explicit constexpr SumTree(ptrdiff_t n) : n_(n) {
+  // `stepBits`: 2 for levels of 4, 16, 64.. values, 1 for those of 2, 4, 8..
+  explicit constexpr SumTree(ptrdiff_t n, int stepBits = 2) : n_(n), stepBits_(stepBits) {
     while (2 * Length(levels_ + 1) <= n) ++levels_;
+    for (int level = 0; level <= levels_; ++level) oldest_[level] = Newest(std::min(level + 1, levels_));
     ptrdiff_t offset = n;
     for (int bit = 0; bit < kMostTerms; ++bit) {
       const ptrdiff_t m = ptrdiff_t{1} << bit;
       if ((n & m) == 0) continue;
-      const int level = std::min(bit / 2, levels_);
+      const int level = std::min(bit / stepBits, levels_);
       terms_[terms_count_++] = {level, offset -= m, static_cast<int>(m / Length(level))};
+      oldest_[level] = std::min(oldest_[level], offset);
     }
   }
 
@@ -39,26 +43,22 @@ class SumTree {
   // Levels that are kept, besides the values themselves, which are level 0.
   constexpr int levels() const { return levels_; }
   // How many values a sum of a level has.
-  static constexpr int64_t Length(int level) { return int64_t{1} << (2 * level); }
+  constexpr int64_t Length(int level) const { return int64_t{1} << (stepBits_ * level); }
   // From the last term, the smallest, to the first.
   constexpr int terms() const { return terms_count_; }
   constexpr const TreeTerm& term(int i) const { return terms_[i]; }
 
-  // Of the sums of a level, once values [0, n) are there: which is the newest, and the oldest that is used.
+  // Of the sums of a level, once values [0, n) are there: which is the newest, the oldest that is used, and how many
+  // these are.
   constexpr ptrdiff_t Newest(int level) const { return static_cast<ptrdiff_t>(n_ - Length(level)); }
-  constexpr ptrdiff_t Oldest(int level) const {
-    ptrdiff_t oldest = level < levels_ ? Newest(level + 1) : Newest(level);
-    for (int i = 0; i < terms_count_; ++i) {
-      if (terms_[i].level == level) oldest = std::min(oldest, terms_[i].offset);
-    }
-    return oldest;
-  }
+  constexpr ptrdiff_t Oldest(int level) const { return oldest_[level]; }
   constexpr int Depth(int level) const { return static_cast<int>(Newest(level) - Oldest(level) + 1); }
 
  private:
   ptrdiff_t n_;
-  int levels_ = 0, terms_count_ = 0;
+  int stepBits_, levels_ = 0, terms_count_ = 0;
   std::array<TreeTerm, kMostTerms> terms_{};
+  std::array<ptrdiff_t, kMostTerms> oldest_{};
 };
 
 // A term as the rows that are added.
@@ -81,7 +81,7 @@ struct TreeParts {
       const TreeTerm& term = tree.term(i);
       parts[i].count = term.count;
       for (int j = 0; j < term.count; ++j) {
-        parts[i].rows[j] = row(term.level, term.offset + j * static_cast<ptrdiff_t>(SumTree::Length(term.level)));
+        parts[i].rows[j] = row(term.level, term.offset + j * static_cast<ptrdiff_t>(tree.Length(term.level)));
       }
     }
   }
@@ -142,7 +142,7 @@ TreeParts<E> PartsAcross(const SumTree& tree, const E* values, ptrdiff_t apart, 
     return (level == 0 ? values : room.Row(level - 1)) + offset * apart;
   };
   for (int level = 1; level <= tree.levels(); ++level) {
-    const auto part = static_cast<ptrdiff_t>(SumTree::Length(level - 1));
+    const auto part = static_cast<ptrdiff_t>(tree.Length(level - 1));
     AddFours<E>({row(level - 1, 0), row(level - 1, part), row(level - 1, 2 * part), row(level - 1, 3 * part)},
                 results + (tree.n() - 4 * part) * apart, room.Row(level - 1));
   }
