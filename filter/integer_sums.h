@@ -132,11 +132,8 @@ struct IntegerSums {
 
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto& kernel = *static_cast<const IntegerSums*>(context);
-    const Rows<L> kept{window.kept, window.keptStep};
     kernel.columns(kernel.shape, window);
-    kernel.Across(kept.Row(SumRows::kUpper), window.samples, kept.From(SumRows::kLevels), rows.upper[0]);
-    if (rows.lower[0] == rows.upper[0]) return;
-    kernel.Across(kept.Row(SumRows::kLower), window.samples, kept.From(SumRows::kLevels), rows.lower[0]);
+    kernel.Across({window.kept, window.keptStep}, window.samples, rows);
   }
 
   WindowKernel AsKernel() const {
@@ -144,12 +141,29 @@ struct IntegerSums {
   }
 
  private:
-  // As differences of running totals where these are quicker, and pixels do not lie across blocks of 16 bytes.
-  HWY_NOINLINE void Across(const L* sums, ptrdiff_t samples, const Rows<L>& room, uint8_t* row) const {
-    if constexpr (std::is_integral_v<L>) {
-      if (across.levels() > 0 && shape.channels != 3) return AcrossByTotals(sums, samples, room.Row(0), row);
+  void Across(const Rows<L>& kept, ptrdiff_t samples, const ResultRows& rows) const {
+    const bool isSingle = rows.lower[0] == rows.upper[0];
+    if (across.levels() == 0) {  // both rows of sums have the same parts
+      const auto parts = PartsAcross<L>(across, kept.Row(SumRows::kUpper), shape.channels, samples, kept);
+      PutRow(parts, 0, samples, rows.upper[0]);
+      if (!isSingle) PutRow(parts, kept.Row(SumRows::kLower) - kept.Row(SumRows::kUpper), samples, rows.lower[0]);
+    } else {
+      AcrossMany(kept.Row(SumRows::kUpper), samples, kept.From(SumRows::kLevels), rows.upper[0]);
+      if (!isSingle) AcrossMany(kept.Row(SumRows::kLower), samples, kept.From(SumRows::kLevels), rows.lower[0]);
     }
-    FinishRow<L>(finish, PartsAcross<L>(across, sums, shape.channels, samples, room), samples, row);
+  }
+
+  // As differences of running totals, unless pixels lie across blocks of 16 bytes.
+  HWY_NOINLINE void AcrossMany(const L* sums, ptrdiff_t samples, const Rows<L>& room, uint8_t* row) const {
+    if constexpr (std::is_integral_v<L>) {
+      if (shape.channels != 3) return AcrossByTotals(sums, samples, room.Row(0), row);
+    }
+    PutRow(PartsAcross<L>(across, sums, shape.channels, samples, room), 0, samples, row);
+  }
+  HWY_NOINLINE void PutRow(const TreeParts<L>& parts, ptrdiff_t first, ptrdiff_t samples, uint8_t* row) const {
+    FinishRow<L>(finish, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
+      return TreeSums<count>(hn::ScalableTag<L>(), parts, first + i);
+    });
   }
   void AcrossByTotals(const L* sums, ptrdiff_t samples, L* totals, uint8_t* row) const {
     const hn::ScalableTag<L> d;
