@@ -42,13 +42,18 @@ class ColumnSums {
  public:
   static void Make(const SumShape& shape, const Window& window) {
     const ColumnSums sums(shape, window);
-    if (shape.height <= kMostAddedAnew) return sums.AddAnew();
+    switch (shape.height) {  // sums of a few rows need not run
+      case 1: return sums.template AddAnew<1>();
+      case 2: return sums.template AddAnew<2>();
+      case 3: return sums.template AddAnew<3>();
+      case 4: return sums.template AddAnew<4>();
+      case 5: return sums.template AddAnew<5>();
+    }
     if (window.y == 0) sums.Start();
     sums.Run();
   }
 
  private:
-  static constexpr ptrdiff_t kMostAddedAnew = 5;  // rows: up to here sums need not run
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<S>());
 
   ColumnSums(const SumShape& shape, const Window& window)
@@ -78,15 +83,18 @@ class ColumnSums {
     return sums;
   }
 
+  template <int kHeight>
   void AddAnew() const {
     const hn::ScalableTag<S> d;
-    const T *const first = lines_[0], *const last = lines_[height_];
+    const std::array<const T*, kHeight + 1> lines =
+        LinesOf<T, kHeight + 1>(reinterpret_cast<const void* const*>(lines_));
     ForEachVectors<2, kLanes>(n_, [&](auto count, ptrdiff_t i) QVP_INLINED {
-      const auto shared = Sum<count>(1, height_, i);
       Unrolled<count>([&](auto v) QVP_INLINED {
         const ptrdiff_t at = i + v * kLanes;
-        StoreAs<L, S>(hn::Add(shared[v], LoadWide(d, first + at)), upper_ + at);
-        StoreAs<L, S>(hn::Add(shared[v], LoadWide(d, last + at)), lower_ + at);
+        auto shared = hn::Zero(d);
+        Unrolled<kHeight - 1>([&](auto j) QVP_INLINED { shared = hn::Add(shared, LoadWide(d, lines[j + 1] + at)); });
+        StoreAs<L, S>(hn::Add(shared, LoadWide(d, lines[0] + at)), upper_ + at);
+        StoreAs<L, S>(hn::Add(shared, LoadWide(d, lines[kHeight] + at)), lower_ + at);
       });
     });
   }
