@@ -124,6 +124,8 @@ struct FloatSums {
 
  private:
   using D = hn::ScalableTag<float>;
+  // The CPU does not see what comes next among so many rows. In floats.
+  static constexpr ptrdiff_t kAhead = 512, kCacheLine = 16;
 
   void MakeRow(const Window& window, uint8_t* row) const {
     const ptrdiff_t last = shape.height - 1;
@@ -134,7 +136,10 @@ struct FloatSums {
     const auto columns = levels.Parts();
     const LineSums newest = levels.Line(last);
     const auto parts = PartsOf(window, last);
+    const float* const ahead = static_cast<const float*>(window.lines[last]) + kAhead;
     FinishRow<float>(finish, window.samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
+      hwy::Prefetch(ahead + i);
+      if constexpr (count > 1) hwy::Prefetch(ahead + i + kCacheLine);
       newest.Put<count>(TreeSums<count>(D(), parts, i), i);
       return TreeSums<count>(D(), columns, i);
     });
