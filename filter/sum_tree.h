@@ -34,7 +34,7 @@ class SumTree {
       const ptrdiff_t m = ptrdiff_t{1} << bit;
       if ((n & m) == 0) continue;
       const int level = std::min(bit / stepBits, levels_);
-      terms_[terms_count_++] = {level, offset -= m, static_cast<int>(m / Length(level))};
+      terms_[termCount_++] = {level, offset -= m, static_cast<int>(m / Length(level))};
       oldest_[level] = std::min(oldest_[level], offset);
     }
   }
@@ -45,7 +45,7 @@ class SumTree {
   // How many values a sum of a level has.
   constexpr int64_t Length(int level) const { return int64_t{1} << (stepBits_ * level); }
   // From the last term, the smallest, to the first.
-  constexpr int terms() const { return terms_count_; }
+  constexpr int terms() const { return termCount_; }
   constexpr const TreeTerm& term(int i) const { return terms_[i]; }
 
   // Of the sums of a level, once values [0, n) are there: which is the newest, the oldest that is used, and how many
@@ -56,7 +56,7 @@ class SumTree {
 
  private:
   ptrdiff_t n_;
-  int stepBits_, levels_ = 0, terms_count_ = 0;
+  int stepBits_, levels_ = 0, termCount_ = 0;
   std::array<TreeTerm, kMostTerms> terms_{};
   std::array<ptrdiff_t, kMostTerms> oldest_{};
 };
