@@ -65,7 +65,10 @@ void AddSums(const std::string& name, int n, bool isRow, QvpiSize size, Query qu
 
 void AddBoxes() {
   for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
-    AddBox<uint8_t>("8u C1", size, 1, 3, qvpiFilterBoxBorder_8u_C1R, size.width == kTile.width ? 2 : 4.5);
+    AddBox<uint8_t>("8u C1", size, 1, 3, qvpiFilterBoxBorder_8u_C1R,
+                    size.width == kTile.width ? 2
+                    : size.width == kHd.width ? 4.5
+                                              : 1);
   }
   for (const auto& [side, atLeast] : {std::pair{5, 5.0}, {15, 3.0}, {63, 2.2}}) {
     AddBox<uint8_t>("8u C1", kHd, 1, side, qvpiFilterBoxBorder_8u_C1R, atLeast);
@@ -81,7 +84,7 @@ void AddBoxes() {
   for (const auto& [side, atLeast] : {std::pair{3, 3.0}, {15, 2.5}, {63, 1.8}}) {
     AddBox<float>("32f C1", kHd, 1, side, qvpiFilterBoxBorder_32f_C1R, atLeast);
   }
-  AddBox<float>("32f C1", kLarge, 1, 15, qvpiFilterBoxBorder_32f_C1R, 2.5);
+  AddBox<float>("32f C1", kLarge, 1, 15, qvpiFilterBoxBorder_32f_C1R, 1);
 }
 
 void AddAxes() {
