@@ -59,7 +59,7 @@ QvpStatus qvpiFilterBoxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, 
   if (const QvpStatus failed = CheckQuery(pBufferSize, roiSize, IsSummed(maskSize), dataType, numChannels))
     return failed;
   const int elementBytes = dataType == qvp8u ? 1 : dataType == qvp32f ? 4 : 2;
-  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, KeptFor(dataType, maskSize))
+  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, KeptFor(dataType, maskSize), kSumCacheBytes)
       .StoreTo(pBufferSize);
 }
 

@@ -11,7 +11,7 @@ class LevelRing {
  public:
   LevelRing() = default;
   // Those from offset `oldest` on are used for the row of results y.
-  LevelRing(const Rows<float>& room, int depth, ptrdiff_t oldest, ptrdiff_t y)
+  LevelRing(const RowRoom<float>& room, int depth, ptrdiff_t oldest, ptrdiff_t y)
       : rows_(room),
         places_(depth),
         first_(oldest - static_cast<uint32_t>(y + oldest) % static_cast<uint32_t>(depth)) {}
@@ -24,7 +24,7 @@ class LevelRing {
   }
 
  private:
-  Rows<float> rows_;
+  RowRoom<float> rows_;
   int32_t places_;
   ptrdiff_t first_;  // the offset whose place is the first one
 };
@@ -61,9 +61,9 @@ struct LineSums {
 // The levels of sums down the columns, for a row of results.
 class ColumnLevels {
  public:
-  ColumnLevels(const SumTree& tree, const Window& window, const Rows<float>& room, bool keepsLines)
+  ColumnLevels(const SumTree& tree, const Window& window, const RowRoom<float>& room, bool keepsLines)
       : tree_(tree), lines_(reinterpret_cast<const float* const*>(window.lines)), keepsLines_(keepsLines) {
-    Rows<float> rest = room;
+    RowRoom<float> rest = room;
     for (int level = 0; level <= tree.levels(); ++level) {
       const int depth = tree.Depth(level);
       rings_[level] = {rest, depth, tree.Oldest(level), window.y};
@@ -119,7 +119,13 @@ struct FloatSums {
   }
 
   WindowKernel AsKernel() const {
-    return {this, nullptr, Down, sizeof(float), 1, {RowsKept(across, down), sizeof(float)}};
+    return {.context = this,
+            .across = nullptr,
+            .down = Down,
+            .elementBytes = sizeof(float),
+            .rowsAtOnce = 1,
+            .kept = {RowsKept(across, down), sizeof(float)},
+            .cacheBytes = kSumCacheBytes};
   }
 
  private:
@@ -130,7 +136,7 @@ struct FloatSums {
   void MakeRow(const Window& window, uint8_t* row) const {
     const ptrdiff_t last = shape.height - 1;
     if (last == 0) return FinishRow<float>(finish, PartsOf(window, 0), window.samples, row);
-    const Rows<float> room{window.kept, window.keptStep};
+    const RowRoom<float> room{window.kept, window.keptStep};
     const ColumnLevels levels(down, window, room.From(across.levels()), shape.width > 1);
     for (ptrdiff_t line = window.y == 0 ? 0 : last; line < last; ++line) Add(levels.Line(line), window, line);
     const auto columns = levels.Parts();

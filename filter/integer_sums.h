@@ -145,11 +145,17 @@ struct IntegerSums {
   }
 
   WindowKernel AsKernel() const {
-    return {this, nullptr, Down, sizeof(T), 2, {SumRows::kLevels + across.levels(), sizeof(L)}};
+    return {.context = this,
+            .across = nullptr,
+            .down = Down,
+            .elementBytes = sizeof(T),
+            .rowsAtOnce = 2,
+            .kept = {SumRows::kLevels + across.levels(), sizeof(L)},
+            .cacheBytes = kSumCacheBytes};
   }
 
  private:
-  void Across(const Rows<L>& kept, ptrdiff_t samples, const ResultRows& rows) const {
+  void Across(const RowRoom<L>& kept, ptrdiff_t samples, const ResultRows& rows) const {
     const bool isSingle = rows.lower[0] == rows.upper[0];
     if (across.levels() == 0) {  // both rows of sums have the same parts
       const auto parts = PartsAcross<L>(across, kept.Row(SumRows::kUpper), shape.channels, samples, kept);
@@ -162,7 +168,7 @@ struct IntegerSums {
   }
 
   // As differences of running totals, unless pixels lie across blocks of 16 bytes.
-  HWY_NOINLINE void AcrossMany(const L* sums, ptrdiff_t samples, const Rows<L>& room, uint8_t* row) const {
+  HWY_NOINLINE void AcrossMany(const L* sums, ptrdiff_t samples, const RowRoom<L>& room, uint8_t* row) const {
     if constexpr (std::is_integral_v<L>) {
       if (shape.channels != 3) return AcrossByTotals(sums, samples, room.Row(0), row);
     }

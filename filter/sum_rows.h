@@ -9,6 +9,10 @@
 
 namespace qvp::filter {
 
+// Of a block of columns: what sums keep is read and written again for each row, so that many blocks would cost more
+// than a larger cache.
+inline constexpr int64_t kSumCacheBytes = 49152;
+
 struct SumShape {
   ptrdiff_t width, height;
   int channels;

@@ -125,19 +125,19 @@ HWY_NOINLINE void AddFours(const std::array<const E*, 4>& rows, ptrdiff_t n, E* 
 
 // Rows of memory.
 template <class E>
-struct Rows {
+struct RowRoom {
   uint8_t* at;
   ptrdiff_t step;  // bytes
 
   E* Row(ptrdiff_t i) const { return reinterpret_cast<E*>(at + i * step); }
-  Rows From(ptrdiff_t i) const { return {at + i * step, step}; }
+  RowRoom From(ptrdiff_t i) const { return {at + i * step, step}; }
 };
 
 // Sums along a row, of values that are `apart` elements from each other: what `results` of them are made of. The levels
 // take rows of `room`.
 template <class E>
 TreeParts<E> PartsAcross(const SumTree& tree, const E* values, ptrdiff_t apart, ptrdiff_t results,
-                         const Rows<E>& room) {
+                         const RowRoom<E>& room) {
   const auto row = [&](int level, ptrdiff_t offset) {
     return (level == 0 ? values : room.Row(level - 1)) + offset * apart;
   };

@@ -51,7 +51,7 @@ QvpStatus Sums(const SumCall<T, float>& call) {
 
 QvpStatus StoreBufferSize(QvpiSize mask, QvpiSize roi, QvpDataType type, int channels, int* size) {
   if (const QvpStatus failed = CheckQuery(size, roi, IsSummed(mask), type, channels)) return failed;
-  return WindowBytes(mask, roi.width, channels, sizeof(float), KeptFor(type, mask)).StoreTo(size);
+  return WindowBytes(mask, roi.width, channels, sizeof(float), KeptFor(type, mask), kSumCacheBytes).StoreTo(size);
 }
 
 }  // namespace
