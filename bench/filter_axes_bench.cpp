@@ -1,19 +1,8 @@
 // The separable filter and that of Gauss.
-#include <opencv2/imgproc.hpp>
-
-#include "bench/image.h"
+#include "bench/filters.h"
 
 namespace {
 using namespace bench;
-
-constexpr QvpiBorderType kBorder = qvpBorderReplicate;
-constexpr int kPeerBorder = cv::BORDER_REPLICATE;
-
-template <class T>
-constexpr QvpDataType kType = sizeof(T) == 1              ? qvp8u
-                              : std::is_same_v<T, Qvp16u> ? qvp16u
-                              : std::is_same_v<T, Qvp16s> ? qvp16s
-                                                          : qvp32f;
 
 // A record with its work buffer.
 template <class Spec>
@@ -22,19 +11,10 @@ struct Prepared {
   Spec* get() const { return reinterpret_cast<Spec*>(spec.get()); }
 };
 
-// Floats of random bytes would be NaN and subnormals.
-template <class T>
-void Smooth(const Image<T>& image) {
-  if constexpr (std::is_same_v<T, float>) {
-    for (size_t i = 0; i < image.bytes() / sizeof(T); ++i) image.data()[i] = static_cast<float>(i * 7919 % 1000);
-  }
-}
-
 template <class T, class Spec, class Call, class PeerCall>
 void AddRow(const std::string& name, QvpiSize size, int channels, const Prepared<Spec>& prepared, Call call,
             const std::string& peer, const PeerCall& peerCall, double atLeast) {
-  const Image<T> a(size, channels), b(size, channels);
-  Smooth(a);
+  const Image<T> a = Scene<T>(size, channels), b(size, channels);
   Add({Name(name, size),
        {a.bytes(), b.bytes()},
        [=] {
@@ -107,8 +87,7 @@ const bool kRegistered = [] {
   AddGauss<uint16_t>("Gauss 5x5 16u C1", kHd, 1, 5, qvpiFilterGaussBorder_16u_C1R, 10);
   AddGauss<uint16_t>("Gauss 15x15 16u C1", kHd, 1, 15, qvpiFilterGaussBorder_16u_C1R, 3.2);
   for (const auto& [side, atLeast] : {std::pair{5, 1.3}, {15, 2.0}, {31, 1.6}}) {
-    AddGauss<float>("Gauss " + std::to_string(side) + "x" + std::to_string(side) + " 32f C1", kHd, 1, side,
-                    qvpiFilterGaussBorder_32f_C1R, atLeast);
+    AddGauss<float>("Gauss " + Square(side) + " 32f C1", kHd, 1, side, qvpiFilterGaussBorder_32f_C1R, atLeast);
   }
   return true;
 }();

@@ -1,29 +1,8 @@
 // Minimum, maximum, erosion and dilation.
-#include <opencv2/imgproc.hpp>
-
-#include "bench/image.h"
+#include "bench/filters.h"
 
 namespace {
 using namespace bench;
-
-constexpr QvpiBorderType kBorder = qvpBorderReplicate;
-constexpr int kPeerBorder = cv::BORDER_REPLICATE;
-
-template <class T>
-constexpr QvpDataType kType = sizeof(T) == 1              ? qvp8u
-                              : std::is_same_v<T, Qvp16u> ? qvp16u
-                              : std::is_same_v<T, Qvp16s> ? qvp16s
-                                                          : qvp32f;
-
-// Floats of random bytes would be NaN and subnormals.
-template <class T>
-Image<T> Random(QvpiSize size, int channels) {
-  const Image<T> image(size, channels);
-  if constexpr (std::is_same_v<T, float>) {
-    for (size_t i = 0; i < image.bytes() / sizeof(T); ++i) image.data()[i] = static_cast<float>(i * 7919 % 1000);
-  }
-  return image;
-}
 
 template <class Call>
 void AddRow(const std::string& name, QvpiSize size, size_t bytes, const Call& call, const std::string& peer,
@@ -34,13 +13,12 @@ void AddRow(const std::string& name, QvpiSize size, size_t bytes, const Call& ca
 template <class T, class Call>
 void AddRectangle(const std::string& what, QvpiSize size, int channels, int side, Call call, double atLeast,
                   bool isMaximum = false) {
-  const Image<T> a = Random<T>(size, channels), b(size, channels);
+  const Image<T> a = Scene<T>(size, channels), b(size, channels);
   int bytes;
   Require(qvpiFilterMinBorderGetBufferSize({side, side}, size, kType<T>, channels, &bytes));
   const auto buffer = Pixels<Qvp8u>(bytes);
   const cv::Mat element = cv::getStructuringElement(cv::MORPH_RECT, {side, side});
-  const std::string mask = std::to_string(side) + "x" + std::to_string(side);
-  AddRow((isMaximum ? "max " : "min ") + mask + " " + what, size, a.bytes(),
+  AddRow((isMaximum ? "max " : "min ") + Square(side) + " " + what, size, a.bytes(),
          [=] {
            return call(a.data(), a.step, b.data(), b.step, size, {side, side}, {side / 2, side / 2}, kBorder, nullptr,
                        buffer.get());
@@ -54,7 +32,7 @@ void AddRectangle(const std::string& what, QvpiSize size, int channels, int side
 
 template <class T, class Call>
 void AddDisc(const std::string& what, QvpiSize size, int side, Call call, double atLeast) {
-  const Image<T> a = Random<T>(size, 1), b(size, 1);
+  const Image<T> a = Scene<T>(size, 1), b(size, 1);
   int specBytes, bytes;
   Require(qvpiFilterMorphologyBorderGetSize({side, side}, size, kType<T>, 1, &specBytes, &bytes));
   const auto memory = Pixels<Qvp8u>(specBytes), buffer = Pixels<Qvp8u>(bytes);

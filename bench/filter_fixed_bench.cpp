@@ -1,13 +1,8 @@
 // Filters with fixed kernels, and gradients.
-#include <opencv2/imgproc.hpp>
-
-#include "bench/image.h"
+#include "bench/filters.h"
 
 namespace {
 using namespace bench;
-
-constexpr QvpiBorderType kBorder = qvpBorderReplicate;
-constexpr int kPeerBorder = cv::BORDER_REPLICATE;
 
 std::shared_ptr<Qvp8u[]> BufferFor(int side, QvpiSize size, QvpDataType type, int channels) {
   int bytes = 0;
@@ -15,26 +10,11 @@ std::shared_ptr<Qvp8u[]> BufferFor(int side, QvpiSize size, QvpDataType type, in
   return Pixels<Qvp8u>(bytes);
 }
 
-template <class T>
-constexpr QvpDataType kType = sizeof(T) == 1              ? qvp8u
-                              : std::is_same_v<T, Qvp16u> ? qvp16u
-                              : std::is_same_v<T, Qvp16s> ? qvp16s
-                                                          : qvp32f;
-
-// Floats of random bytes would be NaN and subnormals.
-template <class T>
-void Smooth(const Image<T>& image) {
-  if constexpr (std::is_same_v<T, float>) {
-    for (size_t i = 0; i < image.bytes() / sizeof(T); ++i) image.data()[i] = static_cast<float>(i * 7919 % 1000);
-  }
-}
-
 template <class T, class R, class Call, class Peer>
 void AddFixed(const std::string& name, QvpiSize size, int channels, int side, Call call, const std::string& peerName,
               const Peer& peer, double atLeast) {
-  const Image<T> a(size, channels);
+  const Image<T> a = Scene<T>(size, channels);
   const Image<R> b(size, channels);
-  Smooth(a);
   const auto buffer = BufferFor(side, size, kType<T>, channels);
   Add({Name(name, size),
        {a.bytes(), b.bytes()},
@@ -108,10 +88,9 @@ void Derivatives() {
 template <class T, class R, class Call, class Peer>
 void AddGradient(const std::string& name, int wanted, Call call, const std::string& peerName, const Peer& peer,
                  double atLeast) {
-  const Image<T> a(kHd, 1);
+  const Image<T> a = Scene<T>(kHd, 1);
   const Image<R> gx(kHd, 1), gy(kHd, 1);
   const Image<float> magnitude(kHd, 1), angle(kHd, 1);
-  Smooth(a);
   const auto buffer = BufferFor(3, kHd, kType<T>, 1);
   const auto out = [=](int bit, const auto& image) { return wanted & bit ? image.data() : nullptr; };
   const size_t written = (wanted & 1 ? gx.bytes() : 0) + (wanted & 2 ? gy.bytes() : 0) +

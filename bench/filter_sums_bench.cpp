@@ -1,28 +1,8 @@
 // The box filter, and sums along rows and columns.
-#include <opencv2/imgproc.hpp>
-
-#include "bench/image.h"
+#include "bench/filters.h"
 
 namespace {
 using namespace bench;
-
-template <class T>
-constexpr QvpDataType kType = sizeof(T) == 1              ? qvp8u
-                              : std::is_same_v<T, Qvp16u> ? qvp16u
-                              : std::is_same_v<T, Qvp16s> ? qvp16s
-                                                          : qvp32f;
-
-// Floats of random bytes would be NaN and subnormals.
-template <class T>
-Image<T> Scene(QvpiSize size, int channels) {
-  const Image<T> image(size, channels);
-  if constexpr (std::is_same_v<T, float>) {
-    for (size_t i = 0; i < image.bytes() / sizeof(T); ++i) image.data()[i] = static_cast<float>(i * 7919 % 1000);
-  }
-  return image;
-}
-
-std::string Square(int side) { return std::to_string(side) + "x" + std::to_string(side); }
 
 template <class T, class Call>
 void AddBox(const std::string& type, QvpiSize size, int channels, int side, Call call, double atLeast) {
@@ -33,12 +13,12 @@ void AddBox(const std::string& type, QvpiSize size, int channels, int side, Call
   Add({Name("box " + Square(side) + " " + type, size),
        {a.bytes(), b.bytes()},
        [=] {
-         Require(call(a.data(), a.step, b.data(), b.step, size, {side, side}, {side / 2, side / 2}, qvpBorderReplicate,
-                      nullptr, buffer.get()));
+         Require(call(a.data(), a.step, b.data(), b.step, size, {side, side}, {side / 2, side / 2}, kBorder, nullptr,
+                      buffer.get()));
        },
        {{"OpenCV blur",
          [=] {
-           cv::blur(a.mat, b.mat, {side, side}, {-1, -1}, cv::BORDER_REPLICATE);
+           cv::blur(a.mat, b.mat, {side, side}, {-1, -1}, kPeerBorder);
          },
          atLeast}}});
 }
@@ -53,12 +33,10 @@ void AddSums(const std::string& name, int n, bool isRow, QvpiSize size, Query qu
   const cv::Size mask = isRow ? cv::Size(n, 1) : cv::Size(1, n);
   Add({Name(name, size),
        {a.bytes(), b.bytes()},
-       [=] {
-         Require(call(a.data(), a.step, b.data(), b.step, size, n, n / 2, qvpBorderReplicate, nullptr, buffer.get()));
-       },
+       [=] { Require(call(a.data(), a.step, b.data(), b.step, size, n, n / 2, kBorder, nullptr, buffer.get())); },
        {{"OpenCV boxFilter",
          [=] {
-           cv::boxFilter(a.mat, b.mat, CV_32F, mask, {-1, -1}, false, cv::BORDER_REPLICATE);
+           cv::boxFilter(a.mat, b.mat, CV_32F, mask, {-1, -1}, false, kPeerBorder);
          },
          atLeast}}});
 }
