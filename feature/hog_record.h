@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "base/scalar.h"
 #include "qvptypes.h"
 
 namespace qvp::hog {
@@ -22,10 +23,11 @@ static_assert(sizeof(Record) <= kTableOffset);
 // The cells of a block: 2 x 2.
 inline constexpr int kCells = 4;
 
-// Pointers are tested by the caller.
+// Pointers are tested by the caller. A record of another family may be shorter.
 inline QvpStatus OpenRecord(const QvpiHOGSpec* spec, Record& record) {
+  if (LoadScalar(reinterpret_cast<const uint32_t*>(spec)) != kIdentification) return qvpStatusContextMatch;
   std::memcpy(&record, spec, sizeof(record));
-  return record.identification == kIdentification ? qvpStatusNoError : qvpStatusContextMatch;
+  return qvpStatusNoError;
 }
 
 }  // namespace qvp::hog

@@ -63,8 +63,8 @@ class Channel {
 template <class Use>
 QvpStatus Answer(const QvpiMomentState_64f* from, int m, int n, int channel, void* out, const Use& use) {
   if (from == nullptr || out == nullptr) return qvpStatusNullPointer;
+  if (!MomentState::IsAt(from)) return qvpStatusContextMatch;
   const MomentState state(from);
-  if (state.identification != MomentState::kIdentification) return qvpStatusContextMatch;
   if (m < 0 || n < 0 || static_cast<int64_t>(m) + n > 3) return qvpStatusSize;
   if (channel < 0 || channel >= state.channels) return qvpStatusChannel;
   return use(Channel(state, channel));

@@ -66,10 +66,10 @@ void AddImage(const Image<const T>& src, Size roi, double (*moments)[16]) {
 template <class T>
 QvpStatus Moments(const Image<const T>& src, Size roi, QvpiMomentState_64f* to) {
   if (const QvpStatus failed = Validate<kPointers>(roi, {src}, {to})) return failed;
-  MomentState state(to);
-  if (state.identification != MomentState::kIdentification) return qvpStatusContextMatch;
+  if (!MomentState::IsAt(to)) return qvpStatusContextMatch;
   if (const QvpStatus failed = Validate<kSteps, kSize>(roi, {src})) return failed;
   if (static_cast<int64_t>(roi.width) * src.PixelBytes() > src.step) return qvpStatusStride;
+  MomentState state(to);
   state.channels = ProcessedChannels(src.layout);
   std::memset(state.moments, 0, sizeof(state.moments));
   AddImage(src, roi, state.moments);

@@ -351,7 +351,7 @@ TEST(Hog, TellsSizesAndRefusesConfigurations) {
 
 TEST(Hog, RefusesCallsInTheDocumentedOrder) {
   const Record record(kPeople);
-  const Block foreign(4168);
+  const Block foreign(4);  // all that is looked at, as records of other families may be shorter
   std::memset(foreign.data(), 0, 4);
   std::vector<uint8_t> src(64 * 128), buffer(12 * 64 * 128);
   std::vector<float> dst(3780, -1);
