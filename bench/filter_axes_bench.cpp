@@ -26,10 +26,10 @@ void AddRow(const std::string& name, QvpiSize size, int channels, const Prepared
 
 // Without symmetry, of either sign; divided by 2^bits.
 template <class T, class Call>
-void AddSeparable(const std::string& name, int side, bool isInteger, Call call, double atLeast) {
+void AddSeparable(const std::string& name, QvpiSize size, int side, bool isInteger, Call call, double atLeast) {
   int spec, buffer;
-  Require(qvpiFilterSeparableBorderGetSize({side, side}, kHd, kType<T>, kType<T>, isInteger ? qvp16s : qvp32f, 1, &spec,
-                                           &buffer));
+  Require(qvpiFilterSeparableBorderGetSize({side, side}, size, kType<T>, kType<T>, isInteger ? qvp16s : qvp32f, 1,
+                                           &spec, &buffer));
   const Prepared<QvpiFilterSeparableBorderSpec> prepared{Pixels<Qvp8u>(spec), Pixels<Qvp8u>(buffer)};
   cv::Mat row(1, side, CV_32F), column(side, 1, CV_32F);
   std::vector<Qvp16s> whole(side);
@@ -47,7 +47,7 @@ void AddSeparable(const std::string& name, int side, bool isInteger, Call call, 
                                               qvpRoundNear, prepared.get()));
   }
   AddRow<T>(
-      name, kHd, 1, prepared, call, "sepFilter2D",
+      name, size, 1, prepared, call, "sepFilter2D",
       [=](const cv::Mat& a, cv::Mat b) {
         cv::sepFilter2D(a, b, -1, row, column, {-1, -1}, 0, kPeerBorder);
       },
@@ -72,14 +72,18 @@ void AddGauss(const std::string& name, QvpiSize size, int channels, int side, Ca
 const bool kRegistered = [] {
   cv::setNumThreads(1);
   const auto separable8u = qvpiFilterSeparableBorder_8u_C1R;
-  AddSeparable<uint8_t>("separable 5x5 8u C1, integers", 5, true, separable8u, 4);
-  AddSeparable<uint8_t>("separable 15x15 8u C1, integers", 15, true, separable8u, 5);
-  AddSeparable<int16_t>("separable 15x15 16s C1, integers", 15, true, qvpiFilterSeparableBorder_16s_C1R, 3.5);
-  AddSeparable<uint8_t>("separable 15x15 8u C1, floats", 15, false, separable8u, 2.5);
-  AddSeparable<float>("separable 5x5 32f C1", 5, false, qvpiFilterSeparableBorder_32f_C1R, 2.2);
-  AddSeparable<float>("separable 15x15 32f C1", 15, false, qvpiFilterSeparableBorder_32f_C1R, 2.2);
+  for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
+    AddSeparable<uint8_t>("separable 5x5 8u C1, integers", size, 5, true, separable8u, size.width == kHd.width ? 4 : 1);
+  }
+  AddSeparable<uint8_t>("separable 15x15 8u C1, integers", kHd, 15, true, separable8u, 5);
+  AddSeparable<int16_t>("separable 15x15 16s C1, integers", kHd, 15, true, qvpiFilterSeparableBorder_16s_C1R, 3.5);
+  AddSeparable<uint8_t>("separable 15x15 8u C1, floats", kHd, 15, false, separable8u, 2.5);
+  AddSeparable<float>("separable 5x5 32f C1", kHd, 5, false, qvpiFilterSeparableBorder_32f_C1R, 2.2);
+  AddSeparable<float>("separable 15x15 32f C1", kHd, 15, false, qvpiFilterSeparableBorder_32f_C1R, 2.2);
   const auto gauss8u = qvpiFilterGaussBorder_8u_C1R;
   for (const QvpiSize size : {kTile, kVga, kHd}) AddGauss<uint8_t>("Gauss 3x3 8u C1", size, 1, 3, gauss8u, 1.6);
+  for (const QvpiSize size : kSmallest) AddGauss<uint8_t>("Gauss 3x3 8u C1", size, 1, 3, gauss8u, 0);
+  AddGauss<uint8_t>("Gauss 3x3 8u C1", kLarge, 1, 3, gauss8u, 1);
   AddGauss<uint8_t>("Gauss 5x5 8u C1", kHd, 1, 5, gauss8u, 2);
   AddGauss<uint8_t>("Gauss 15x15 8u C1", kHd, 1, 15, gauss8u, 3.5);
   AddGauss<uint8_t>("Gauss 31x31 8u C1", kHd, 1, 31, gauss8u, 4.2);

@@ -58,6 +58,7 @@ const bool kRegistered = [] {
   for (const auto& [size, atLeast] : {std::pair{kTile, 2.0}, {kVga, 1.0}, {kHd, 1.2}, {kLarge, 1.0}}) {
     AddRectangle<uint8_t>("8u C1", size, 1, 3, min8u, atLeast);
   }
+  for (const QvpiSize size : kSmallest) AddRectangle<uint8_t>("8u C1", size, 1, 3, min8u, 0);
   AddRectangle<uint8_t>("8u C1", kTile, 1, 15, min8u, 1);
   for (const auto& [side, atLeast] : {std::pair{5, 1.2}, {15, 1.8}, {63, 6.0}}) {
     AddRectangle<uint8_t>("8u C1", kHd, 1, side, min8u, atLeast);

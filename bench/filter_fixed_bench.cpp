@@ -57,10 +57,13 @@ void Smoothing() {
 }
 
 void Derivatives() {
-  for (const QvpiSize size : {kTile, kVga, kHd}) {
+  const auto sobel = [](QvpiSize size, double atLeast) {
     AddFixed<uint8_t, int16_t>("SobelX 3x3 8u16s C1", size, 1, 3, qvpiFilterSobelXBorder_8u16s_C1R, "Sobel",
-                               Sobel(CV_16S, 1, 0, 3), 2);
-  }
+                               Sobel(CV_16S, 1, 0, 3), atLeast);
+  };
+  for (const QvpiSize size : {kTile, kVga, kHd}) sobel(size, 2);
+  for (const QvpiSize size : kSmallest) sobel(size, 0);
+  sobel(kLarge, 1);
   AddFixed<uint8_t, int16_t>("SobelX 5x5 8u16s C1", kHd, 1, 5, qvpiFilterSobelXBorder_8u16s_C1R, "Sobel",
                              Sobel(CV_16S, 1, 0, 5), 8);
   AddFixed<uint8_t, int16_t>("SobelX 5x5 8u16s C3", kHd, 3, 5, qvpiFilterSobelXBorder_8u16s_C3R, "Sobel",

@@ -51,6 +51,7 @@ void AddBoxes() {
   for (const auto& [side, atLeast] : {std::pair{5, 5.0}, {15, 3.0}, {63, 2.2}}) {
     AddBox<uint8_t>("8u C1", kHd, 1, side, qvpiFilterBoxBorder_8u_C1R, atLeast);
   }
+  for (const QvpiSize size : kSmallest) AddBox<uint8_t>("8u C1", size, 1, 3, qvpiFilterBoxBorder_8u_C1R, 0);
   AddBox<uint8_t>("8u C1", kTile, 1, 15, qvpiFilterBoxBorder_8u_C1R, 1);
   AddBox<uint8_t>("8u C1", kHd, 1, 4, qvpiFilterBoxBorder_8u_C1R, 1);
   AddBox<uint8_t>("8u C3", kHd, 3, 5, qvpiFilterBoxBorder_8u_C3R, 5);
@@ -68,7 +69,7 @@ void AddBoxes() {
 void AddAxes() {
   const auto rowQuery = qvpiFilterSumRowBorderGetBufferSize, columnQuery = qvpiFilterSumColumnBorderGetBufferSize;
   const auto rows = qvpiFilterSumRowBorder_8u32f_C1R, columns = qvpiFilterSumColumnBorder_8u32f_C1R;
-  for (const QvpiSize size : {kTile, kHd, kLarge}) {
+  for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
     const bool isHd = size.width == kHd.width;
     AddSums<uint8_t>("sums of 5 along rows, 8u32f C1", 5, true, size, rowQuery, rows, isHd ? 4 : 1);
     AddSums<uint8_t>("sums of 5 along columns, 8u32f C1", 5, false, size, columnQuery, columns, isHd ? 3 : 1);
