@@ -220,7 +220,7 @@ class BorderRows {
 
   void FillConstants() {
     const T* const pixels[2] = {image_.constant, image_.constant};
-    for (ptrdiff_t c = 0; c < channels_; ++c) constant_[c] = Form::Of(pixels, c);
+    for (ptrdiff_t c = 0; c < 4; ++c) constant_[c] = Form::Of(pixels, c);
     for (ptrdiff_t i = 0; i < readableSamples_; i += channels_) {
       std::memcpy(constants_ + i, image_.constant, channels_ * sizeof(T));
     }
