@@ -3,7 +3,6 @@
 #include <functional>
 
 #include "tests/support/bordered.h"
-#include "tests/support/name.h"
 
 namespace {
 using test::Block;
@@ -11,74 +10,13 @@ using test::Bordered;
 using test::Element;
 using test::ElementOf;
 using test::Export;
+using test::FunctionNamed;
 using test::Name;
+using test::Part;
+using test::Prepared;
 using test::Real;
 using test::Region;
-
-// A record and a buffer of the reported sizes, before unreadable pages; the record may begin anywhere.
-template <class Spec>
-class Prepared {
- public:
-  template <class Init>
-  Prepared(QvpiSize mask, QvpiSize roi, int channels, int spec, int buffer, const Init& init) {
-    EXPECT_LE(buffer, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
-    EXPECT_LE(spec, 64 * (mask.width + mask.height) + 512);
-    static int phase = 0;
-    phase_ = phase = (phase + 7) % 64;
-    spec_ = std::make_unique<Block>(spec + phase_);
-    buffer_ = std::make_unique<Block>(buffer);
-    EXPECT_EQ(init(get()), 0);
-  }
-  Spec* get() const { return reinterpret_cast<Spec*>(spec_->data() + phase_); }
-  Qvp8u* buffer() const { return buffer_->data(); }
-
- private:
-  int phase_;
-  std::unique_ptr<Block> spec_, buffer_;
-};
-
-// Filters the part of a scene that begins at x, y.
-template <class Spec>
-QvpStatus Apply(const Export& function, const Bordered& scene, const Prepared<Spec>& prepared, int x, int y,
-                QvpiSize size, int border, const test::Argument& dst) {
-  return function({{"pSrc", {scene.At(x, y), scene.image.step()}},
-                   {"pDst", dst},
-                   {"roiSize", size},
-                   {"borderType", border},
-                   {"borderValue", {scene.value}},
-                   {"pSpec", {prepared.get()}},
-                   {"pBuffer", {prepared.buffer()}}});
-}
-
-using Expected = std::function<Real(const std::function<Real(int, int)>& pixel)>;
-
-template <class Spec>
-void Check(const Export& function, QvpiSize mask, const Region& r, const Prepared<Spec>& prepared,
-           const Expected& expected) {
-  const Name name(function.name);
-  const Bordered scene(name.From(), test::ReachOf(mask), r);
-  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8);
-  const test::Samples before(dst);
-  ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0) << function.name;
-  for (int y = 0; y < r.size.height; ++y) {
-    for (int i = 0; i < r.size.width * r.channels; ++i) {
-      const int x = i / r.channels, c = i % r.channels;
-      const bool isKept = name.written == 3 && c == 3;
-      const auto pixel = [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); };
-      const Real value = isKept ? before(i, y) : expected(pixel);
-      ASSERT_TRUE(test::AreSame(dst(i, y), value))
-          << dst(i, y) << " for " << value << " of " << function.name << " mask " << mask.width << 'x' << mask.height
-          << " border " << r.border << " region " << r.size.width << 'x' << r.size.height << " at " << i << ',' << y;
-    }
-  }
-}
-
-// A region and a border that a number stands for.
-Region RegionOf(int turn, int channels) {
-  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
-  const int width = turn % 5 == 4 ? 257 + turn % 40 : 1 + turn * 7 % 70;
-  return {{width, 1 + turn % 9}, channels, kKinds[turn % 3] | turn * 0x30 % 0x100};
-}
+using test::RegionOf;
 
 // ---- The separable filter
 
@@ -104,24 +42,40 @@ Axes RandomAxes(bool isInteger, QvpiSize size, int limit, int divisor = 1, QvpRo
   return axes;
 }
 
-using Separable = Prepared<QvpiFilterSeparableBorderSpec>;
+// A record and a buffer for a mask; the sizes have bounds.
+Prepared Memory(QvpiSize mask, QvpiSize roi, int channels, int spec, int buffer) {
+  test::ExpectModest(buffer, mask, roi, channels);
+  EXPECT_LE(spec, 64 * (mask.width + mask.height) + 512);
+  return {spec, buffer};
+}
 
-Separable Prepare(const Axes& axes, const Name& name, QvpiSize roi) {
+Prepared Prepare(const Axes& axes, const Name& name, QvpiSize roi) {
   const QvpDataType src = name.From().code, dst = name.To().code;
   int spec = 0, buffer = 0;
   EXPECT_EQ(qvpiFilterSeparableBorderGetSize(axes.size(), roi, src, dst, axes.isInteger ? qvp16s : qvp32f,
                                              name.channels, &spec, &buffer),
             0);
-  return Separable(axes.size(), roi, name.channels, spec, buffer, [&](QvpiFilterSeparableBorderSpec* to) {
-    if (!axes.isInteger) {
-      const std::vector<Qvp32f> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
+  Prepared prepared = Memory(axes.size(), roi, name.channels, spec, buffer);
+  auto* const to = prepared.record<QvpiFilterSeparableBorderSpec>();
+  const auto init = [&]<class T>(T) {
+    const std::vector<T> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
+    if constexpr (std::is_same_v<T, Qvp32f>) {
       return qvpiFilterSeparableBorderInit_32f(row.data(), column.data(), axes.size(), src, dst, name.channels,
                                                axes.mode, to);
+    } else {
+      return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), axes.size(), axes.divisor, src, dst,
+                                               name.channels, axes.mode, to);
     }
-    const std::vector<Qvp16s> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
-    return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), axes.size(), axes.divisor, src, dst,
-                                             name.channels, axes.mode, to);
-  });
+  };
+  EXPECT_EQ(axes.isInteger ? init(Qvp16s()) : init(Qvp32f()), 0);
+  return prepared;
+}
+
+// Filters all of a scene.
+auto FilterAll(const Export& function, const Bordered& scene, const Prepared& prepared) {
+  return [&](const test::Argument& dst) {
+    return test::Filter(function, scene, test::WholeOf(scene), prepared, {{"pDst", dst}});
+  };
 }
 
 // Taps are turned; sums in F, each operation rounded, the first product alone.
@@ -143,15 +97,13 @@ F SumOf(const Axes& axes, const std::function<Real(int, int)>& pixel) {
 
 void CheckSeparable(const Export& function, const Axes& axes, const Region& r) {
   const Name name(function.name);
-  Check(function, axes.size(), r, Prepare(axes, name, r.size), [&](const auto& pixel) {
+  const Bordered scene(name.From(), test::ReachOf(axes.size()), r);
+  const Prepared prepared = Prepare(axes, name, r.size);
+  const auto expected = [&](const auto& pixel) {
     if (axes.isInteger) return test::Quotient(name.To(), SumOf<int64_t>(axes, pixel), axes.divisor, axes.mode);
     return test::Converted(name.To(), SumOf<float>(axes, pixel), axes.mode);
-  });
-}
-
-const Export& FunctionNamed(const std::string& name) {
-  const auto& all = test::Exports();
-  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+  };
+  test::ExpectWindows(function, scene, FilterAll(function, scene, prepared), expected, test::Shown(axes.size()));
 }
 
 TEST(FilterSeparable, EveryMemberEqualsItsFormula) {
@@ -186,15 +138,15 @@ TEST(FilterSeparable, NeverWrapsAround) {
           Axes axes{true, std::vector<Real>(size.width, tap), std::vector<Real>(size.height, tap), divisor};
           if (size.width > 1) axes.row[0] = -tap - (tap == -32768);
           const Name name(function.name);
-          const Region r{{33, 1}, 1, qvpBorderReplicate};
-          Bordered scene(name.From(), {}, r);
+          Bordered scene(name.From(), {}, {{33, 1}, 1, qvpBorderReplicate});
+          const Prepared prepared = Prepare(axes, name, scene.region.size);
           for (const int pixel : {lowest, highest}) {
             scene.image.Fill([&](int, int) { return pixel; });
-            const test::Samples dst(name.To(), 33, 1, 0);
-            ASSERT_EQ(Apply(function, scene, Prepare(axes, name, r.size), 0, 0, r.size, r.border, dst), 0);
-            const auto expected = test::Quotient(name.To(), SumOf<int64_t>(axes, [&](int, int) { return Real(pixel); }),
-                                                 divisor, axes.mode);
-            for (int i = 0; i < 33; ++i) ASSERT_EQ(dst(i, 0), expected) << type << ' ' << tap << ' ' << divisor;
+            const auto sum = SumOf<int64_t>(axes, [&](int, int) { return Real(pixel); });
+            const Real expected = test::Quotient(name.To(), sum, divisor, axes.mode);
+            test::ExpectResults(
+                function, scene, FilterAll(function, scene, prepared), [&](int, int, int) { return expected; },
+                std::to_string(tap) + " / " + std::to_string(divisor));
           }
         }
       }
@@ -208,7 +160,7 @@ TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
   const Region r{{300, 7}, 3, qvpBorderMirror};
   const Bordered scene(ElementOf("8u"), {}, r);
   const test::Samples dst(ElementOf("8u"), 900, 7, 0), other(ElementOf("8u"), 900, 7, 0);
-  ASSERT_EQ(Apply(function, scene, Prepare(axes, Name(function.name), r.size), 0, 0, r.size, r.border, dst), 0);
+  ASSERT_EQ(FilterAll(function, scene, Prepare(axes, Name(function.name), r.size))(dst), 0);
   std::vector<Qvp16s> product;
   for (const Real c : axes.column) {
     for (const Real k : axes.row) product.push_back(static_cast<Qvp16s>(c * k));
@@ -260,15 +212,15 @@ TEST(FilterSeparable, RefusesInTheDocumentedOrder) {
 
 // ---- Gauss
 
-using Gauss = Prepared<QvpiFilterGaussBorderSpec>;
-
-Gauss PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& name, QvpiSize roi) {
+Prepared PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& name, QvpiSize roi) {
   int spec = 0, buffer = 0;
   const QvpDataType type = name.From().code;
   EXPECT_EQ(qvpiFilterGaussBorderGetSize(mask, roi, type, name.channels, &spec, &buffer), 0);
-  return Gauss(mask, roi, name.channels, spec, buffer, [&](QvpiFilterGaussBorderSpec* to) {
-    return qvpiFilterGaussBorderInit(mask, sigmaX, sigmaY, type, name.channels, to);
-  });
+  Prepared prepared = Memory(mask, roi, name.channels, spec, buffer);
+  EXPECT_EQ(qvpiFilterGaussBorderInit(mask, sigmaX, sigmaY, type, name.channels,
+                                      prepared.record<QvpiFilterGaussBorderSpec>()),
+            0);
+  return prepared;
 }
 
 // From the middle on.
@@ -319,7 +271,9 @@ void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigma
   const WholeTaps across = WholeWeights(mask.width, sigmaX), down = WholeWeights(mask.height, sigmaY);
   const auto floats = [](const std::vector<double>& w) { return std::vector<float>(w.begin(), w.end()); };
   const std::vector<float> x = floats(Weights(mask.width, sigmaX)), y = floats(Weights(mask.height, sigmaY));
-  Check(function, mask, r, PrepareGauss(mask, sigmaX, sigmaY, name, r.size), [&](const auto& pixel) -> Real {
+  const Bordered scene(element, test::ReachOf(mask), r);
+  const Prepared prepared = PrepareGauss(mask, sigmaX, sigmaY, name, r.size);
+  const auto expected = [&](const auto& pixel) -> Real {
     if (element.bytes == 1) {
       const auto row = [&](int j) {
         const auto sum = FoldedSum<int64_t>(across.taps, [&](int i) { return pixel(i, j); });
@@ -330,7 +284,8 @@ void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigma
     const float sum =
         FoldedSum<float>(y, [&](int j) { return FoldedSum<float>(x, [&](int i) { return pixel(i, j); }); });
     return test::Converted(element, sum);
-  });
+  };
+  test::ExpectWindows(function, scene, FilterAll(function, scene, prepared), expected, test::Shown(mask));
 }
 
 TEST(FilterGauss, EveryMemberEqualsItsFormula) {
@@ -353,12 +308,10 @@ TEST(FilterGauss, KnownWeightsAndPictures) {
   EXPECT_EQ(wide.bits, 17);
   EXPECT_EQ(wide.taps[0], 20970);
   const Export& function = FunctionNamed("qvpiFilterGaussBorder_8u_C1R");
-  const Region r{{5, 5}, 1, qvpBorderReplicate};
-  Bordered scene(ElementOf("8u"), {}, r);
+  Bordered scene(ElementOf("8u"), {}, {{5, 5}, 1, qvpBorderReplicate});
   scene.image.Fill([](int x, int y) { return x == 2 && y == 2 ? 255 : 0; });
   const test::Samples dst(ElementOf("8u"), 5, 5, 0);
-  const Gauss prepared = PrepareGauss({5, 5}, 1.1f, 1.1f, Name(function.name), r.size);
-  ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0);
+  ASSERT_EQ(FilterAll(function, scene, PrepareGauss({5, 5}, 1.1f, 1.1f, Name(function.name), {5, 5}))(dst), 0);
   constexpr int kExpected[3][3] = {{35, 23, 7}, {23, 15, 4}, {7, 4, 1}};
   for (int i = 0; i < 9; ++i) EXPECT_EQ(dst(2 + i % 3, 2 + i / 3), kExpected[i / 3][i % 3]);
 }
@@ -367,14 +320,13 @@ TEST(FilterGauss, KnownWeightsAndPictures) {
 TEST(FilterGauss, KeepsConstants) {
   for (const auto& [type, value] : {std::pair{"8u", 255}, {"16u", 65535}, {"16s", -32768}}) {
     const Export& function = FunctionNamed(std::string("qvpiFilterGaussBorder_") + type + "_C1R");
-    const Region r{{40, 2}, 1, qvpBorderMirror};
-    Bordered scene(ElementOf(type), {}, r);
+    Bordered scene(ElementOf(type), {}, {{40, 2}, 1, qvpBorderMirror});
     scene.image.Fill([v = value](int, int) { return v; });
-    const test::Samples dst(ElementOf(type), 40, 2, 0);
     for (int side = 1; side <= 1023; side += side < 65 ? 2 : 86) {
-      const Gauss prepared = PrepareGauss({side, side}, side / 4.0f, side / 5.0f, Name(function.name), r.size);
-      ASSERT_EQ(Apply(function, scene, prepared, 0, 0, r.size, r.border, dst), 0);
-      for (int i = 0; i < 80; ++i) ASSERT_EQ(dst(i % 40, i / 40), value) << type << ' ' << side;
+      const Prepared prepared = PrepareGauss({side, side}, side / 4.0f, side / 5.0f, Name(function.name), {40, 2});
+      test::ExpectResults(
+          function, scene, FilterAll(function, scene, prepared), [v = value](int, int, int) { return v; },
+          std::to_string(side));
     }
   }
 }
@@ -384,16 +336,10 @@ TEST(FilterGauss, TilesEqualTheWhole) {
   const QvpiSize size{700, 40}, mask{9, 7};
   for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
     const Bordered scene(ElementOf("32f"), {}, {size, 1, kind});
-    const test::Samples whole(scene.element(), size.width, size.height, 0),
-        tiled(scene.element(), size.width, size.height, 4);
-    const Gauss prepared = PrepareGauss(mask, 2, 1.5f, Name(function.name), size);
-    ASSERT_EQ(Apply(function, scene, prepared, 0, 0, size, kind, whole), 0);
-    test::ForEachTile(size, {58, 18}, kind, [&](int x, int y, QvpiSize part, int border) {
-      ASSERT_EQ(Apply(function, scene, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+    const Prepared prepared = PrepareGauss(mask, 2, 1.5f, Name(function.name), size);
+    test::ExpectTilesEqualTheWhole(scene, {58, 18}, [&](const Part& part, const test::Argument& dst) {
+      return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
     });
-    for (int i = 0; i < size.width * size.height; ++i) {
-      ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width));
-    }
   }
 }
 

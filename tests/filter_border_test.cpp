@@ -3,26 +3,17 @@
 #include <functional>
 
 #include "tests/support/bordered.h"
-#include "tests/support/name.h"
 
 namespace {
-using test::Block;
 using test::Bordered;
 using test::Element;
 using test::ElementOf;
 using test::Guard;
+using test::Part;
+using test::Prepared;
 using test::ReachOf;
 using test::Real;
 using test::Region;
-
-// The function that filters images of elements.
-const test::Export& FilterOf(const Element& element, int channels) {
-  for (const test::Export* function : test::FunctionsOf({"FilterBorder"})) {
-    const test::Name name(function->name);
-    if (name.type == element.name && name.channels == channels) return *function;
-  }
-  throw std::invalid_argument("no filter");
-}
 
 // A kernel of 16s, 32f or 64f, and what is asked of Init and SetMode.
 struct Filter {
@@ -45,28 +36,18 @@ QvpStatus Init(const Filter& f, QvpDataType type, int channels, QvpiFilterBorder
              : qvpiFilterBorderInit_64f(kernel.As<Qvp64f>(), f.size, type, channels, f.mode, spec);
 }
 
-// A record and a buffer of the reported sizes, before unreadable pages; the record may begin anywhere.
-class Prepared {
- public:
-  Prepared(const Filter& f, QvpiSize roi, QvpDataType type, int channels) {
-    int spec = 0, buffer = 0;
-    EXPECT_EQ(qvpiFilterBorderGetSize(f.size, roi, type, f.element->code, channels, &spec, &buffer), 0);
-    static int phase = 0;
-    phase_ = phase = (phase + 7) % 64;
-    spec_ = std::make_unique<Block>(spec + phase_);
-    buffer_ = std::make_unique<Block>(buffer);
-    EXPECT_EQ(Init(f, type, channels, get()), 0);
-    if (f.offset != 0) {
-      EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, f.offset, get()), 0);
-    }
-  }
-  QvpiFilterBorderSpec* get() const { return reinterpret_cast<QvpiFilterBorderSpec*>(spec_->data() + phase_); }
-  Qvp8u* buffer() const { return buffer_->data(); }
+QvpiFilterBorderSpec* RecordIn(const Prepared& prepared) { return prepared.record<QvpiFilterBorderSpec>(); }
 
- private:
-  int phase_;
-  std::unique_ptr<Block> spec_, buffer_;
-};
+Prepared Prepare(const Filter& f, QvpiSize roi, QvpDataType type, int channels) {
+  int spec = 0, buffer = 0;
+  EXPECT_EQ(qvpiFilterBorderGetSize(f.size, roi, type, f.element->code, channels, &spec, &buffer), 0);
+  Prepared prepared(spec, buffer);
+  EXPECT_EQ(Init(f, type, channels, RecordIn(prepared)), 0);
+  if (f.offset != 0) {
+    EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, f.offset, RecordIn(prepared)), 0);
+  }
+  return prepared;
+}
 
 // The taps of one result, in the order in which they are added up: coefficient and pixel.
 template <class Tap>
@@ -106,36 +87,30 @@ Real Expected(const Element& element, const Filter& f, int channels, const Pixel
   return test::Converted(element, isDouble ? SumOf<double>(f, pixel) : SumOf<float>(f, pixel), f.mode);
 }
 
-// Filters the part of a scene that begins at x, y.
-QvpStatus Apply(const Bordered& scene, const Prepared& prepared, int x, int y, QvpiSize size, int border,
-                const test::Argument& dst) {
-  return FilterOf(scene.element(), scene.region.channels)({{"pSrc", {scene.At(x, y), scene.image.step()}},
-                                                           {"pDst", dst},
-                                                           {"dstRoiSize", size},
-                                                           {"borderType", border},
-                                                           {"borderValue", {scene.value}},
-                                                           {"pSpec", {prepared.get()}},
-                                                           {"pBuffer", {prepared.buffer()}}});
+const test::Export& FunctionFor(const Bordered& scene) {
+  return test::FunctionNamed("qvpiFilterBorder_" + std::string(scene.element().name) + "_C" +
+                             std::to_string(scene.region.channels) + "R");
+}
+
+QvpStatus Apply(const Bordered& scene, const Prepared& prepared, const Part& part, const test::Argument& dst) {
+  return test::Filter(FunctionFor(scene), scene, part, prepared, {{"pDst", dst}});
 }
 
 // `record` is the type that the record is made for, if not that of the image.
+void Check(const Bordered& scene, const Filter& f, QvpDataType record = 0, Guard guard = Guard::kAfter) {
+  const int channels = scene.region.channels;
+  const Prepared prepared = Prepare(f, scene.region.size, record ? record : scene.element().code, channels);
+  const std::string about = test::Shown(f.size) + " of " + std::string(f.element->name) + " divisor " +
+                            std::to_string(f.divisor) + " mode " + std::to_string(f.mode) + " offset " +
+                            std::to_string(f.offset);
+  test::ExpectWindows(
+      FunctionFor(scene), scene,
+      [&](const test::Argument& dst) { return Apply(scene, prepared, test::WholeOf(scene), dst); },
+      [&](const auto& pixel) { return Expected(scene.element(), f, channels, pixel); }, about, guard);
+}
 void Check(std::string_view type, const Filter& f, const Region& r, Guard guard = Guard::kAfter,
            QvpDataType record = 0) {
-  const Bordered scene(ElementOf(type), ReachOf(f.size), r, guard);
-  const test::Samples dst(scene.element(), r.size.width * r.channels, r.size.height, 5, guard);
-  const Prepared prepared(f, r.size, record ? record : scene.element().code, r.channels);
-  ASSERT_EQ(Apply(scene, prepared, 0, 0, r.size, r.border, dst), 0);
-  for (int y = 0; y < r.size.height; ++y) {
-    for (int i = 0; i < r.size.width * r.channels; ++i) {
-      const int x = i / r.channels, c = i % r.channels;
-      const Real expected =
-          Expected(scene.element(), f, r.channels, [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); });
-      ASSERT_EQ(dst(i, y), expected) << "type " << type << " kernel " << f.size.width << 'x' << f.size.height << " of "
-                                     << f.element->name << " divisor " << f.divisor << " mode " << f.mode << " offset "
-                                     << f.offset << " border " << r.border << " region " << r.size.width << 'x'
-                                     << r.size.height << " x " << r.channels << " at " << x << ',' << y;
-    }
-  }
+  Check(Bordered(ElementOf(type), ReachOf(f.size), r, guard), f, record, guard);
 }
 
 // Coefficients of magnitudes up to `limit`.
@@ -233,16 +208,10 @@ TEST(FilterBorder, EveryRoundingAndDivisor) {
 void CheckExtremes(std::string_view type, QvpiSize kernel, int coefficient, int divisor) {
   const Element& element = ElementOf(type);
   const Filter f{&ElementOf("16s"), kernel, std::vector<Real>(kernel.width * kernel.height, coefficient), divisor};
-  const Region region{{40, 3}, 1, qvpBorderReplicate};
-  const Prepared prepared(f, region.size, element.code, 1);
+  Bordered scene(element, ReachOf(f.size), {{40, 3}, 1, qvpBorderReplicate});
   for (const Real pixel : {element.lowest, element.highest}) {
-    Bordered scene(element, ReachOf(f.size), region, Guard::kAfter);
-    const test::Samples dst(element, 40, 3, 0);
     scene.image.Fill([&](int, int) { return pixel; });
-    ASSERT_EQ(Apply(scene, prepared, 0, 0, region.size, region.border, dst), 0);
-    const Real expected = Expected(element, f, 1, [&](int, int) { return pixel; });
-    for (int i = 0; i < 120; ++i)
-      ASSERT_EQ(dst(i % 40, i / 40), expected) << kernel.width << ' ' << coefficient << ' ' << divisor;
+    Check(scene, f);
   }
 }
 
@@ -259,17 +228,10 @@ TEST(FilterBorder, NeverWrapsAround) {
 
 // Tiles whose inner sides are in memory, filtered with one buffer of the whole image.
 void CheckTiles(std::string_view type, const Filter& f, QvpiSize size, QvpiSize tile, int kind) {
-  const Bordered scene(ElementOf(type), ReachOf(f.size), {size, 1, kind}, Guard::kAfter);
-  const test::Samples whole(scene.element(), size.width, size.height, 0),
-      tiled(scene.element(), size.width, size.height, 1);
-  const Prepared prepared(f, size, scene.element().code, 1);
-  ASSERT_EQ(Apply(scene, prepared, 0, 0, size, kind, whole), 0);
-  test::ForEachTile(size, tile, kind, [&](int x, int y, QvpiSize part, int border) {
-    ASSERT_EQ(Apply(scene, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
-  });
-  for (int y = 0; y < size.height; ++y) {
-    for (int x = 0; x < size.width; ++x) ASSERT_EQ(whole(x, y), tiled(x, y)) << x << ',' << y;
-  }
+  const Bordered scene(ElementOf(type), {}, {size, 1, kind});
+  const Prepared prepared = Prepare(f, size, scene.element().code, 1);
+  test::ExpectTilesEqualTheWhole(
+      scene, tile, [&](const Part& part, const test::Argument& dst) { return Apply(scene, prepared, part, dst); });
 }
 
 TEST(FilterBorder, TilesEqualTheWhole) {
@@ -297,9 +259,9 @@ TEST(FilterBorder, IntegerResultsOfFloatsSaturateAndNaNIsTheLowest) {
 TEST(FilterBorder, ZerosArePositiveAndNaNSpreads) {
   const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
   const float src[3][5] = {{-0.0f, -0.0f, -0.0f, 2, 3}, {-0.0f, -0.0f, -0.0f, 2, nan}, {-0.0f, 1, 2, 3, inf}};
-  const Prepared identity({&ElementOf("32f"), {3, 1}, {0, 1, 0}}, {5, 3}, qvp32f, 1);
+  const Prepared identity = Prepare({&ElementOf("32f"), {3, 1}, {0, 1, 0}}, {5, 3}, qvp32f, 1);
   float dst[3][5];
-  ASSERT_EQ(qvpiFilterBorder_32f_C1R(src[0], 20, dst[0], 20, {5, 3}, qvpBorderReplicate, nullptr, identity.get(),
+  ASSERT_EQ(qvpiFilterBorder_32f_C1R(src[0], 20, dst[0], 20, {5, 3}, qvpBorderReplicate, nullptr, RecordIn(identity),
                                      identity.buffer()),
             0);
   EXPECT_FALSE(std::signbit(dst[0][1]));
@@ -323,21 +285,19 @@ TEST(FilterBorder, FloatsTakeTheOffsetOfARecordForIntegers) {
 // A record for another type gives the same filter, with nothing beyond the images touched.
 TEST(FilterBorder, RecordsOfOtherTypesAreSafe) {
   const Filter f = RandomFilter("16s", {3, 3}, 5, 7);
-  const Prepared bytes(f, {40, 3}, qvp8u, 1);
-  const Region region{{40, 3}, 1, qvpBorderReplicate};
-  Bordered scene(ElementOf("16u"), ReachOf(f.size), region, Guard::kAfter);
+  const Prepared bytes = Prepare(f, {40, 3}, qvp8u, 1);
+  Bordered scene(ElementOf("16u"), ReachOf(f.size), {{40, 3}, 1, qvpBorderReplicate});
   scene.image.Fill([](int x, int y) { return x * 5 + y; });
-  const test::Samples dst(scene.element(), 40, 3, 0);
-  ASSERT_EQ(Apply(scene, bytes, 0, 0, region.size, region.border, dst), 0);
-  for (int i = 0; i < 120; ++i) {
+  const auto expected = [&](const auto& pixel) {
     int64_t sum = 0;
-    ForEachTap(
-        f, [&](Real k, int dx, int dy) { sum += static_cast<int64_t>(k * scene.Pixel(i % 40 + dx, i / 40 + dy, 0)); });
-    ASSERT_EQ(dst(i % 40, i / 40), test::Quotient(scene.element(), sum, 7, qvpRoundNear)) << i;
-  }
-  const Filter d = RandomFilter("64f", {3, 3}, 5);
-  const Prepared doubles(d, {40, 3}, qvp64f, 1);
-  EXPECT_EQ(Apply(scene, doubles, 0, 0, region.size, qvpBorderMirror, dst), 0);
+    ForEachTap(f, [&](Real k, int dx, int dy) { sum += static_cast<int64_t>(k * pixel(dx, dy)); });
+    return test::Quotient(scene.element(), sum, 7, qvpRoundNear);
+  };
+  const auto run = [&](const test::Argument& dst) { return Apply(scene, bytes, test::WholeOf(scene), dst); };
+  test::ExpectWindows(FunctionFor(scene), scene, run, expected);
+  const Prepared doubles = Prepare(RandomFilter("64f", {3, 3}, 5), {40, 3}, qvp64f, 1);
+  const test::Samples dst(scene.element(), 40, 3, 0);
+  EXPECT_EQ(Apply(scene, doubles, {0, 0, {40, 3}, qvpBorderMirror}, dst), 0);
 }
 
 TEST(FilterBorder, SizesAndTheirChecksInOrder) {
@@ -365,11 +325,11 @@ TEST(FilterBorder, SizesAndTheirChecksInOrder) {
 }
 
 TEST(FilterBorder, ChecksOfInitAndModeInOrder) {
-  const Prepared prepared(RandomFilter("16s", {3, 3}, 5), {9, 9}, qvp8u, 1);
+  const Prepared prepared = Prepare(RandomFilter("16s", {3, 3}, 5), {9, 9}, qvp8u, 1);
   const Qvp16s k[9] = {};
   const Qvp32f kf[9] = {};
   const Qvp64f kd[9] = {};
-  QvpiFilterBorderSpec* const spec = prepared.get();
+  QvpiFilterBorderSpec* const spec = RecordIn(prepared);
   EXPECT_EQ(qvpiFilterBorderInit_16s(nullptr, {0, 3}, 0, 0, 0, 9, spec), qvpStatusNullPointer);
   EXPECT_EQ(qvpiFilterBorderInit_16s(k, {0, 3}, 0, qvp32f, 0, 9, spec), qvpStatusSize);
   EXPECT_EQ(qvpiFilterBorderInit_16s(k, {3, 3}, 0, qvp32f, 0, 9, spec), qvpStatusDataType);
@@ -420,21 +380,21 @@ TEST(FilterBorder, RefusedInitsLeaveNoRecord) {
   };
   std::vector<Qvp8u> src(81), dst(81, 77);
   for (const auto& init : inits) {
-    const Prepared prepared(f, {9, 9}, qvp8u, 1);
-    ASSERT_LT(init(prepared.get()), 0);
-    EXPECT_EQ(qvpiFilterBorder_8u_C1R(src.data(), 9, dst.data(), 9, {9, 9}, qvpBorderReplicate, nullptr, prepared.get(),
-                                      prepared.buffer()),
+    const Prepared prepared = Prepare(f, {9, 9}, qvp8u, 1);
+    ASSERT_LT(init(RecordIn(prepared)), 0);
+    EXPECT_EQ(qvpiFilterBorder_8u_C1R(src.data(), 9, dst.data(), 9, {9, 9}, qvpBorderReplicate, nullptr,
+                                      RecordIn(prepared), prepared.buffer()),
               qvpStatusContextMatch);
-    EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, 1, prepared.get()), qvpStatusContextMatch);
+    EXPECT_EQ(qvpiFilterBorderSetMode(qvpAlgHintFast, 1, RecordIn(prepared)), qvpStatusContextMatch);
     for (const Qvp8u result : dst) ASSERT_EQ(result, 77);
   }
 }
 
 TEST(FilterBorder, ChecksOfTheCallInOrder) {
-  const Prepared prepared(RandomFilter("16s", {3, 3}, 5), {9, 9}, qvp8u, 1);
+  const Prepared prepared = Prepare(RandomFilter("16s", {3, 3}, 5), {9, 9}, qvp8u, 1);
   const test::Image<Qvp8u> src(90, 9, 0), dst(90, 9, 0), before(dst);
   const auto call = [&](int srcStep, int dstStep, QvpiSize roi, QvpiBorderType border) {
-    return qvpiFilterBorder_8u_C4R(src.data(), srcStep, dst.data(), dstStep, roi, border, nullptr, prepared.get(),
+    return qvpiFilterBorder_8u_C4R(src.data(), srcStep, dst.data(), dstStep, roi, border, nullptr, RecordIn(prepared),
                                    prepared.buffer());
   };
   EXPECT_EQ(call(0, 0, {0, 9}, qvpBorderConst), qvpStatusNullPointer);

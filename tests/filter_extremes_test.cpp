@@ -2,14 +2,16 @@
 #include <cmath>
 
 #include "tests/support/bordered.h"
-#include "tests/support/name.h"
 
 namespace {
 using test::Block;
 using test::Bordered;
 using test::ElementOf;
 using test::Export;
+using test::FunctionNamed;
 using test::Name;
+using test::Part;
+using test::Prepared;
 using test::Random;
 using test::Real;
 using test::Region;
@@ -55,57 +57,32 @@ Mask Disc(int side) {
 bool TakesLeast(const Export& function) {
   return function.name.find("Min") != std::string::npos || function.name.find("Erode") != std::string::npos;
 }
-bool HasRecord(const Export& function) { return function.Has("pSpec"); }
 
-// A record if the function has one, and a buffer, of the reported sizes, before unreadable pages.
-class Prepared {
- public:
-  Prepared(const Export& function, const Mask& mask, QvpiSize roi) {
-    const Name name(function.name);
-    int spec = 0, buffer = 0;
-    if (HasRecord(function)) {
-      EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
-      EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
-      static int phase = 0;
-      phase_ = phase = (phase + 7) % 64;
-      spec_ = std::make_unique<Block>(spec + phase_);
-      EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor, get()), 0);
-    } else {
-      const auto query = TakesLeast(function) ? qvpiFilterMinBorderGetBufferSize : qvpiFilterMaxBorderGetBufferSize;
-      EXPECT_EQ(query(mask.size, roi, name.From().code, name.channels, &buffer), 0);
-    }
-    buffer_ = std::make_unique<Block>(buffer);
+Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
+  const Name name(function.name);
+  int spec = 0, buffer = 0;
+  if (!function.Has("pSpec")) {
+    const auto query = TakesLeast(function) ? qvpiFilterMinBorderGetBufferSize : qvpiFilterMaxBorderGetBufferSize;
+    EXPECT_EQ(query(mask.size, roi, name.From().code, name.channels, &buffer), 0);
+    return Prepared(buffer);
   }
-  QvpiFilterMorphologyBorderSpec* get() const {
-    return spec_ ? reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(spec_->data() + phase_) : nullptr;
-  }
-  Qvp8u* buffer() const { return buffer_->data(); }
-
- private:
-  int phase_ = 0;
-  std::unique_ptr<Block> spec_, buffer_;
-};
-
-// Filters the part of a scene that begins at x, y.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Prepared& prepared, int x, int y,
-                QvpiSize size, int border, const test::Argument& dst) {
-  std::vector<test::Named> arguments{{"pSrc", {scene.At(x, y), scene.image.step()}},
-                                     {"pDst", dst},
-                                     {"roiSize", size},
-                                     {"borderType", border},
-                                     {"borderValue", {scene.value}},
-                                     {"pBuffer", {prepared.buffer()}}};
-  if (HasRecord(function)) {
-    arguments.push_back({"pSpec", {prepared.get()}});
-  } else {
-    arguments.push_back({"maskSize", mask.size});
-    arguments.push_back({"anchor", mask.anchor});
-  }
-  return function(arguments);
+  EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
+  EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
+  Prepared prepared(spec, buffer);
+  EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor,
+                                           prepared.record<QvpiFilterMorphologyBorderSpec>()),
+            0);
+  return prepared;
 }
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Samples& dst) {
-  const Region& r = scene.region;
-  return Apply(function, scene, mask, Prepared(function, mask, r.size), 0, 0, r.size, r.border, dst);
+
+// Filters a part of a scene, or all of it.
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Prepared& prepared,
+                const Part& part, const test::Argument& dst) {
+  return test::Filter(function, scene, part, prepared,
+                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
+}
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Argument& dst) {
+  return Apply(function, scene, mask, Prepare(function, mask, scene.region.size), test::WholeOf(scene), dst);
 }
 
 bool IsBelow(Real a, Real b) { return a < b || (a == b && std::signbit(a) && !std::signbit(b)); }
@@ -133,37 +110,22 @@ void Check(const Export& function, const Mask& mask, const Region& r) {
       return random.Next() % 3 ? EdgeValue(name.From(), random) : random.Next() % 2 ? NAN : -NAN;
     });
   }
-  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8);
-  const test::Samples before(dst);
-  ASSERT_EQ(Apply(function, scene, mask, dst), 0) << function.name;
-  for (int y = 0; y < r.size.height; ++y) {
-    for (int i = 0; i < r.size.width * r.channels; ++i) {
-      const int x = i / r.channels, c = i % r.channels;
-      const bool isKept = name.written == 3 && c == 3;
-      const Real value = isKept ? before(i, y) : ExtremeAt(scene, mask, TakesLeast(function), x, y, c);
-      ASSERT_TRUE(test::AreSame(dst(i, y), value))
-          << dst(i, y) << " for " << value << " of " << function.name << " mask " << mask.size.width << 'x'
-          << mask.size.height << " border " << r.border << " region " << r.size.width << 'x' << r.size.height << " at "
-          << i << ',' << y;
-    }
-  }
+  test::ExpectResults(
+      function, scene, [&](const test::Argument& dst) { return Apply(function, scene, mask, dst); },
+      [&](int x, int y, int c) { return ExtremeAt(scene, mask, TakesLeast(function), x, y, c); },
+      test::Shown(mask.size));
 }
 
-// A region and a border that a number stands for: narrow and low ones, wide ones, and some that are higher than two
-// masks.
+// Some regions are narrow and higher than two masks; none is wide under a large mask, which takes the definition long.
 Region RegionOf(int turn, const Name& name, QvpiSize mask) {
-  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
-  const int border = turn % 11 == 10 ? qvpBorderInMem : kKinds[turn % 3] | turn * 0x30 % 0x100;
-  const bool isWide = turn % 6 == 5 && mask.width * mask.height < 100;
-  if (isWide) return {{257 + turn % 40, 1 + turn % 4}, name.channels, border};
-  const int most = 3000 / (mask.width * mask.height), height = 2 * mask.height + 1 + turn % 3;
-  if (turn % 2) return {{1 + turn % std::clamp(most, 3, 40), height}, name.channels, border};
-  return {{1 + turn * 7 % 70, 1 + turn % 9}, name.channels, border};
-}
-
-const Export& FunctionNamed(const std::string& name) {
-  const auto& all = test::Exports();
-  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+  Region r = test::RegionOf(turn, name.channels);
+  const int count = mask.width * mask.height;
+  if (turn % 2) {
+    r.size = {1 + turn % std::clamp(3000 / count, 3, 40), 2 * mask.height + 1 + turn % 3};
+  } else if (count >= 100) {
+    r.size.width = std::min(r.size.width, 70);
+  }
+  return r;
 }
 
 TEST(FilterExtremes, RectanglesEqualTheirDefinition) {
@@ -229,7 +191,7 @@ TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
 }
 
 TEST(FilterExtremes, TilesEqualTheWhole) {
-  const QvpiSize size{700, 60}, most{60, 17};
+  const QvpiSize size{700, 60};
   for (const auto& filter : {std::pair{"qvpiFilterMaxBorder_8u_C1R", Full({15, 9})},
                              {"qvpiFilterMinBorder_32f_C1R", Full({6, 12})},
                              {"qvpiFilterErodeBorder_16s_C1R", Disc(13)}}) {
@@ -237,17 +199,10 @@ TEST(FilterExtremes, TilesEqualTheWhole) {
     const Mask& mask = filter.second;
     for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
       const Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
-      const test::Samples whole(scene.element(), size.width, size.height, 0),
-          tiled(scene.element(), size.width, size.height, 4);
-      ASSERT_EQ(Apply(function, scene, mask, whole), 0);
-      const Prepared prepared(function, mask, size);
-      test::ForEachTile(size, most, kind, [&](int x, int y, QvpiSize part, int border) {
-        ASSERT_EQ(Apply(function, scene, mask, prepared, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+      const Prepared prepared = Prepare(function, mask, size);
+      test::ExpectTilesEqualTheWhole(scene, {60, 17}, [&](const Part& part, const test::Argument& dst) {
+        return Apply(function, scene, mask, prepared, part, dst);
       });
-      for (int i = 0; i < size.width * size.height; ++i) {
-        ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width))
-            << function.name << ' ' << i;
-      }
     }
   }
 }

@@ -4,7 +4,6 @@
 #include <map>
 
 #include "tests/support/bordered.h"
-#include "tests/support/name.h"
 
 namespace {
 using test::Bordered;
@@ -14,6 +13,7 @@ using test::Export;
 using test::Name;
 using test::Real;
 using test::Region;
+using test::RegionOf;
 
 // Coefficients of a kernel as products of a column and a row, of which a second may be added.
 using Axis = std::vector<int>;
@@ -118,20 +118,11 @@ Real Expected(const std::string& kind, int side, const Element& from, const Elem
   return kind == "Sharpen" ? 2 * static_cast<float>(pixel(0, 0)) - sum : sum;
 }
 
-std::unique_ptr<test::Block> BufferFor(QvpiSize mask, QvpiSize roi, const Element& element, int channels) {
+test::Prepared BufferFor(QvpiSize mask, QvpiSize roi, const Element& element, int channels) {
   int bytes = 0;
   EXPECT_EQ(qvpiFilterFixedBorderGetBufferSize(mask, roi, element.code, channels, &bytes), 0);
-  EXPECT_LE(bytes, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
-  return std::make_unique<test::Block>(bytes);
-}
-
-constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst, qvpBorderReplicateAlt};
-
-// A region and a border that a number stands for.
-Region RegionOf(int turn, int channels, bool isCube) {
-  const int width = turn % 5 == 4 ? 257 + turn % 40 : 1 + turn * 7 % 70;
-  const int kind = kKinds[turn % (isCube ? 4 : 3)];
-  return {{width, 1 + turn % 9}, channels, kind | turn * 0x30 % 0x110 / 0x10 * 0x10 % 0x100};
+  test::ExpectModest(bytes, mask, roi, channels);
+  return test::Prepared(bytes);
 }
 
 std::vector<const Export*> FixedFunctions() {
@@ -145,39 +136,27 @@ std::vector<const Export*> FixedFunctions() {
   return functions;
 }
 
-// Calls the function on a scene, with outputs and what else it takes; the buffer has just the reported size.
-void Filter(const Export& function, const Bordered& scene, QvpiSize mask, std::vector<test::Named> arguments) {
+// Calls the function on all of a scene, with outputs and what else it takes.
+QvpStatus Filter(const Export& function, const Bordered& scene, QvpiSize mask, std::vector<test::Named> others) {
   const Region& r = scene.region;
-  const auto buffer = BufferFor(mask, r.size, scene.element(), r.channels);
-  const test::Named shared[] = {{"pSrc", {scene.At(0, 0), scene.image.step()}},
-                                {"roiSize", r.size},
-                                {"maskSize", mask},
-                                {"borderType", r.border},
-                                {"borderValue", {scene.value}},
-                                {"pBuffer", {buffer->data()}}};
-  arguments.insert(arguments.end(), std::begin(shared), std::end(shared));
-  ASSERT_EQ(function(arguments), 0) << function.name;
+  others.push_back({"maskSize", mask});
+  return test::Filter(function, scene, test::WholeOf(scene), BufferFor(mask, r.size, scene.element(), r.channels),
+                      others);
 }
 
 void CheckFixed(const Export& function, int side, const Region& r, test::Guard guard) {
   const Name name(function.name);
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r, guard);
-  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8, guard);
-  const test::Samples before(dst);
-  Filter(function, scene, mask, {{"pDst", dst}});
-  const std::string kind = KindOf(function.name);
-  for (int y = 0; y < r.size.height; ++y) {
-    for (int i = 0; i < r.size.width * r.channels; ++i) {
-      const int x = i / r.channels, c = i % r.channels;
-      const auto pixel = [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); };
-      const bool isKept = name.written == 3 && c == 3;
-      const Real expected = isKept ? before(i, y) : Expected(kind, side, name.From(), name.To(), pixel);
-      ASSERT_TRUE(test::AreSame(dst(i, y), expected))
-          << dst(i, y) << " for " << expected << " of " << function.name << ' ' << side << " border " << r.border
-          << " region " << r.size.width << 'x' << r.size.height << " at " << i << ',' << y;
-    }
-  }
+  test::ExpectWindows(
+      function, scene,
+      [&](const test::Argument& dst) {
+        return Filter(function, scene, mask, {{"pDst", dst}});
+      },
+      [&, kind = KindOf(function.name)](const auto& pixel) {
+        return Expected(kind, side, name.From(), name.To(), pixel);
+      },
+      test::Shown(mask), guard);
 }
 
 TEST(FilterFixed, EveryMemberEqualsItsTable) {
@@ -185,7 +164,7 @@ TEST(FilterFixed, EveryMemberEqualsItsTable) {
   for (const Export* function : FixedFunctions()) {
     for (const auto& [side, kernel] : kKernels.at(KindOf(function->name))) {
       for (int i = 0; i < 8; ++i, ++turn) {
-        CheckFixed(*function, side, RegionOf(turn, Name(function->name).channels, side == 3),
+        CheckFixed(*function, side, RegionOf(turn, Name(function->name).channels, side == 3 ? 4 : 3),
                    turn % 2 ? test::Guard::kAfter : test::Guard::kBefore);
       }
     }
@@ -225,7 +204,7 @@ TEST(FilterFixed, NaNReachesWhatItsCoefficientsReach) {
       float src[81] = {}, dst[81];
       src[40] = bad;
       const auto buffer = BufferFor({5, 5}, {9, 9}, ElementOf("32f"), 1);
-      ASSERT_EQ(function(src, 36, dst, 36, {9, 9}, {5, 5}, qvpBorderMirror, nullptr, buffer->data()), 0);
+      ASSERT_EQ(function(src, 36, dst, 36, {9, 9}, {5, 5}, qvpBorderMirror, nullptr, buffer.buffer()), 0);
       EXPECT_EQ(std::count_if(dst, dst + 81, [](float v) { return !std::isfinite(v); }), count);
     }
   }
@@ -238,7 +217,7 @@ TEST(FilterFixed, KnownPictures) {
     const auto buffer = BufferFor(mask, size, ElementOf("8u"), 1);
     const Qvp8u zero = 0;
     const int step = size.width * static_cast<int>(sizeof(R));
-    EXPECT_EQ(function(src.data(), size.width, dst.data(), step, size, mask, border, &zero, buffer->data()), 0);
+    EXPECT_EQ(function(src.data(), size.width, dst.data(), step, size, mask, border, &zero, buffer.buffer()), 0);
     return dst;
   };
   std::vector<Qvp8u> impulse(25);
@@ -314,12 +293,13 @@ void CheckVectors(const Export& function, int side, QvpNormType norm, const Regi
   const auto output = [&](int bit, const test::Samples& image) {
     return wanted & bit ? test::Argument(image) : test::Argument(nullptr, 1);
   };
-  Filter(function, scene, mask,
-         {{"pGx", output(1, gx)},
-          {"pGy", output(2, gy)},
-          {"pMagnitude", output(4, magnitude)},
-          {"pAngle", output(8, angle)},
-          {"normType", norm}});
+  ASSERT_EQ(Filter(function, scene, mask,
+                   {{"pGx", output(1, gx)},
+                    {"pGy", output(2, gy)},
+                    {"pMagnitude", output(4, magnitude)},
+                    {"pAngle", output(8, angle)},
+                    {"normType", norm}}),
+            0);
   for (int y = 0; y < r.size.height; ++y) {
     for (int x = 0; x < r.size.width; ++x) {
       const Gradient g = GradientAt(scene, kind, side, norm, x, y);
@@ -339,7 +319,7 @@ TEST(Gradients, EveryMemberEqualsItsDerivatives) {
     for (const int side : {3, 5}) {
       if (side == 5 && function.name.find("Scharr") != std::string::npos) continue;
       for (int i = 0; i < 12; ++i, ++turn) {
-        CheckVectors(function, side, 1 + turn % 3, RegionOf(turn, Name(function.name).channels, side == 3),
+        CheckVectors(function, side, 1 + turn % 3, RegionOf(turn, Name(function.name).channels, side == 3 ? 4 : 3),
                      1 + turn % 15);
       }
     }
@@ -350,23 +330,23 @@ void CheckMagnitude(const Export& function, int side, QvpNormType norm, const Re
   const Name name(function.name);
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r);
-  const test::Samples dst(name.To(), r.size.width, r.size.height, 3);
-  Filter(function, scene, mask, {{"pDst", dst}, {"normType", norm}});
-  for (int i = 0; i < r.size.width * r.size.height; ++i) {
-    const int x = i % r.size.width, y = i / r.size.width;
+  const auto run = [&](const test::Argument& dst) {
+    return Filter(function, scene, mask, {{"pDst", dst}, {"normType", norm}});
+  };
+  test::ExpectResults(function, scene, run, [&](int x, int y, int) {
     const Gradient g = GradientAt(scene, "Sobel", side, norm, x, y);
     const bool isWhole = name.From().isInteger && norm != qvpNormL2;
     const Real ax = std::fabs(g.x), ay = std::fabs(g.y);
     const Real whole = norm == qvpNormL1 ? ax + ay : std::max(ax, ay);
-    ASSERT_EQ(dst(x, y), test::Converted(name.To(), isWhole ? whole : Magnitude(norm, g))) << function.name << ' ' << i;
-  }
+    return test::Converted(name.To(), isWhole ? whole : Magnitude(norm, g));
+  });
 }
 
 TEST(Gradients, MagnitudesAreRoundedAndSaturated) {
   int turn = 0;
   for (const Export* function : test::FunctionsOf({"FilterSobel"})) {
     for (int i = 0; i < 30; ++i, ++turn) {
-      Region r = RegionOf(turn, 1, false);
+      Region r = RegionOf(turn, 1);
       if ((r.border & 15) == qvpBorderMirror) r.border -= 2;
       CheckMagnitude(*function, turn % 2 ? 3 : 5, 1 + turn % 3, r);
     }
@@ -381,7 +361,7 @@ TEST(Gradients, AnglesOfZerosInfinitiesAndNaN) {
     float angle[9], magnitude[9];
     const auto buffer = BufferFor({3, 3}, {3, 3}, ElementOf("32f"), 1);
     EXPECT_EQ(qvpiFilterGradientSobelBorder_32f_C1R(src, 12, nullptr, 0, nullptr, 0, magnitude, 12, angle, 12, {3, 3},
-                                                    {3, 3}, qvpNormInf, qvpBorderReplicate, nullptr, buffer->data()),
+                                                    {3, 3}, qvpNormInf, qvpBorderReplicate, nullptr, buffer.buffer()),
               0);
     EXPECT_EQ(std::isnan(magnitude[4]), std::isnan(angle[4]));
     return angle[4];
@@ -397,25 +377,14 @@ TEST(Gradients, AnglesOfZerosInfinitiesAndNaN) {
 // ---- Tiles, refusals
 
 TEST(FilterFixed, TilesEqualTheWhole) {
-  const Element& element = ElementOf("32f");
+  const Export& function = test::FunctionNamed("qvpiFilterLaplaceBorder_32f_C1R");
+  const QvpiSize mask{5, 5};
   for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const QvpiSize size{700, 40}, mask{5, 5};
-    const Bordered scene(element, {0, 0, 0, 0}, {size, 1, kind});
-    const test::Samples whole(element, size.width, size.height, 0), tiled(element, size.width, size.height, 4);
-    const auto buffer = BufferFor(mask, size, element, 1);
-    const auto filter = [&](int x, int y, QvpiSize part, int border, uint8_t* to, int step) {
-      ASSERT_EQ(qvpiFilterLaplaceBorder_32f_C1R(reinterpret_cast<const Qvp32f*>(scene.At(x, y)), scene.image.step(),
-                                                reinterpret_cast<Qvp32f*>(to), step, part, mask, border,
-                                                reinterpret_cast<const Qvp32f*>(scene.value), buffer->data()),
-                0);
-    };
-    filter(0, 0, size, kind, whole.At(0, 0), whole.step());
-    test::ForEachTile(size, {38, 19}, kind, [&](int x, int y, QvpiSize part, int border) {
-      filter(x, y, part, border, tiled.At(x, y), tiled.step());
+    const Bordered scene(ElementOf("32f"), {}, {{700, 40}, 1, kind});
+    const auto buffer = BufferFor(mask, scene.region.size, scene.element(), 1);
+    test::ExpectTilesEqualTheWhole(scene, {38, 19}, [&](const test::Part& part, const test::Argument& dst) {
+      return test::Filter(function, scene, part, buffer, {{"pDst", dst}, {"maskSize", mask}});
     });
-    for (int i = 0; i < size.width * size.height; ++i) {
-      ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width));
-    }
   }
 }
 
@@ -473,7 +442,9 @@ TEST(FilterFixed, BufferSizesGrowAndAreRefusedInOrder) {
   for (const int width : {1, 2, 63, 64, 65, 100, 1000, 4095, 4096, 5000, 100000, INT32_MAX}) {
     for (const int side : {2, 3, 5}) {
       ASSERT_EQ(size({side, side}, {width, 1}, qvp8u, 4), 0);
-      if (side > 2) EXPECT_GE(bytes, before);
+      if (side > 2) {
+        EXPECT_GE(bytes, before);
+      }
       before = bytes;
     }
   }

@@ -2,7 +2,6 @@
 #include <cmath>
 
 #include "tests/support/bordered.h"
-#include "tests/support/name.h"
 
 namespace {
 using test::Block;
@@ -10,9 +9,10 @@ using test::Bordered;
 using test::Element;
 using test::ElementOf;
 using test::Export;
+using test::FunctionNamed;
 using test::Name;
+using test::Part;
 using test::Real;
-using test::Region;
 
 // A mask with its anchor; that of sums along an axis has one row or column.
 struct Mask {
@@ -41,25 +41,20 @@ QvpStatus BufferSize(const Name& name, QvpiSize mask, QvpiSize roi, int* size) {
   return qvpiFilterBoxBorderGetBufferSize(mask, roi, type, name.channels, size);
 }
 
-// Filters the part of a scene that begins at x, y, with a buffer of the reported size before an unreadable page.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, int x, int y, QvpiSize size,
-                int border, const test::Argument& dst) {
+// Filters a part of a scene.
+QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Part& part,
+                const test::Argument& dst) {
   const Name name(function.name);
   int bytes = 0;
-  EXPECT_EQ(BufferSize(name, mask.size, size, &bytes), 0);
-  EXPECT_LE(bytes, 64LL * (mask.size.height + 4) * (size.width + mask.size.width) * name.channels + 65536);
-  const Block buffer(bytes);
-  const bool isRow = name.family == "FilterSumRowBorder", isBox = name.family == "FilterBoxBorder";
-  const auto side = [&](QvpiSize s) { return isRow ? s.width : s.height; };
-  const auto place = [&](QvpiPoint p) { return isRow ? p.x : p.y; };
-  return function({{"pSrc", {scene.At(x, y), scene.image.step()}},
-                   {"pDst", dst},
-                   {"roiSize", size},
-                   {"maskSize", isBox ? test::Argument(mask.size) : test::Argument(side(mask.size))},
-                   {"anchor", isBox ? test::Argument(mask.anchor) : test::Argument(place(mask.anchor))},
-                   {"borderType", border},
-                   {"borderValue", {scene.value}},
-                   {"pBuffer", {buffer.data()}}});
+  EXPECT_EQ(BufferSize(name, mask.size, part.size, &bytes), 0);
+  test::ExpectModest(bytes, mask.size, part.size, name.channels);
+  std::vector<test::Named> others{{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}};
+  if (name.family == "FilterSumRowBorder") {
+    others = {{"pDst", dst}, {"maskSize", mask.size.width}, {"anchor", mask.anchor.x}};
+  } else if (name.family == "FilterSumColumnBorder") {
+    others = {{"pDst", dst}, {"maskSize", mask.size.height}, {"anchor", mask.anchor.y}};
+  }
+  return test::Filter(function, scene, part, test::Prepared(bytes), others);
 }
 
 // The sum of n floats in the order of a tree: powers of two from the largest on, each of two halves.
@@ -116,37 +111,20 @@ std::vector<Real> Expected(const Name& name, const Bordered& scene, const Mask& 
 void Check(const Export& function, const Mask& whole, const Bordered& scene) {
   const Name name(function.name);
   const Mask mask = For(name, whole);
-  const Region& r = scene.region;
-  const int samples = r.size.width * r.channels;
-  const test::Samples dst(name.To(), samples, r.size.height, 8);
-  const test::Samples before(dst);
-  ASSERT_EQ(Apply(function, scene, mask, 0, 0, r.size, r.border, dst), 0) << function.name;
-  const std::vector<Real> expected = Expected(name, scene, mask);
-  for (int i = 0; i < samples * r.size.height; ++i) {
-    const int x = i % samples, y = i / samples;
-    const Real value = name.written == 3 && x % r.channels == 3 ? before(x, y) : expected[i];
-    ASSERT_TRUE(test::AreSame(dst(x, y), value))
-        << dst(x, y) << " for " << value << " of " << function.name << " mask " << mask.size.width << 'x'
-        << mask.size.height << " at " << mask.anchor.x << ',' << mask.anchor.y << " border " << r.border << " region "
-        << r.size.width << 'x' << r.size.height << " at " << x << ',' << y;
-  }
+  const std::vector<Real> all = Expected(name, scene, mask);
+  const auto run = [&](const test::Argument& dst) { return Apply(function, scene, mask, test::WholeOf(scene), dst); };
+  const auto expected = [&](int x, int y, int c) {
+    return all[(y * scene.region.size.width + x) * scene.region.channels + c];
+  };
+  test::ExpectResults(function, scene, run, expected, test::Shown(mask.size));
 }
 
-const Export& FunctionNamed(const std::string& name) {
-  const auto& all = test::Exports();
-  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
-}
 std::vector<const Export*> Functions() {
   return test::FamilyOf({"FilterBoxBorder", "FilterSumRowBorder", "FilterSumColumnBorder"});
 }
 
-// A mask whose anchor, and a region whose size and border, a number stands for.
+// A mask whose anchor a number stands for.
 Mask MaskOf(int turn, QvpiSize size) { return {size, {turn * 5 % size.width, turn * 3 % size.height}}; }
-Region RegionOf(int turn, int channels) {
-  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst};
-  const int width = turn % 6 == 5 ? 257 + turn % 40 : 1 + turn * 7 % 70;
-  return {{width, 1 + turn % 9}, channels, turn % 16 == 15 ? qvpBorderInMem : kKinds[turn % 3] | turn * 0x30 % 0x100};
-}
 
 TEST(FilterSums, EveryMemberEqualsItsDefinition) {
   constexpr QvpiSize kSizes[] = {{1, 1}, {2, 1},  {3, 3},  {1, 5},  {5, 6},  {8, 7},   {9, 9},
@@ -157,7 +135,7 @@ TEST(FilterSums, EveryMemberEqualsItsDefinition) {
     for (const QvpiSize size : kSizes) {
       for (int i = 0; i < (size.width * size.height < 100 ? 3 : 1); ++i, ++turn) {
         const Mask mask = MaskOf(turn, size);
-        Check(*function, mask, Bordered(name.From(), For(name, mask).reach(), RegionOf(turn, name.channels)));
+        Check(*function, mask, Bordered(name.From(), For(name, mask).reach(), test::RegionOf(turn, name.channels)));
       }
     }
     for (int a = 0; a < 6; ++a) {
@@ -217,7 +195,7 @@ TEST(FilterSums, KnownValues) {
     std::fill(scene.value, scene.value + sizeof(scene.value), uint8_t{0});
     scene.image.Fill([&](int x, int y) { return pixels[y * width + x]; });
     const test::Samples dst(name.To(), width, height, 0);
-    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, 0, 0, {width, height}, border, dst), 0);
+    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, test::WholeOf(scene), dst), 0);
     for (size_t i = 0; i < expected.size(); ++i) {
       EXPECT_EQ(dst(static_cast<int>(i) % width, static_cast<int>(i) / width), expected[i]) << function << ' ' << i;
     }
@@ -240,7 +218,7 @@ TEST(FilterSums, NotANumberReachesItsWindowsAlone) {
     scene.image.Put(100, 11, NAN);
     const test::Samples dst(ElementOf("32f"), 200, 30, 0);
     const Mask mask = For(Name(function), {{13, 7}, {2, 3}});
-    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, 0, 0, {200, 30}, qvpBorderReplicate, dst), 0);
+    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, test::WholeOf(scene), dst), 0);
     int count = 0;
     for (int i = 0; i < 200 * 30; ++i) count += std::isnan(dst(i % 200, i / 200));
     EXPECT_EQ(count, expected) << function;
@@ -254,15 +232,9 @@ TEST(FilterSums, TilesEqualTheWhole) {
     const Export& function = FunctionNamed(std::string("qvpiFilterBoxBorder_") + type + "_C1R");
     for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
       const Bordered scene(ElementOf(type), {}, {size, 1, kind});
-      const test::Samples whole(scene.element(), size.width, size.height, 0),
-          tiled(scene.element(), size.width, size.height, 4);
-      ASSERT_EQ(Apply(function, scene, mask, 0, 0, size, kind, whole), 0);
-      test::ForEachTile(size, {70, 20}, kind, [&](int x, int y, QvpiSize part, int border) {
-        ASSERT_EQ(Apply(function, scene, mask, x, y, part, border, {tiled.At(x, y), tiled.step()}), 0);
+      test::ExpectTilesEqualTheWhole(scene, {70, 20}, [&](const Part& part, const test::Argument& dst) {
+        return Apply(function, scene, mask, part, dst);
       });
-      for (int i = 0; i < size.width * size.height; ++i) {
-        ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width)) << type << ' ' << i;
-      }
     }
   }
 }
@@ -279,7 +251,9 @@ TEST(FilterSums, BuffersGrowWithRegionAndMask) {
         ASSERT_EQ(BufferSize(name, {side + 1, side + 1}, roi, &larger), 0);
         EXPECT_LE(size, wider);
         EXPECT_LE(size, larger) << function->name << ' ' << side;
-        if (roi.width == 1) EXPECT_LE(std::exchange(last, size), size);
+        if (roi.width == 1) {
+          EXPECT_LE(std::exchange(last, size), size);
+        }
       }
     }
   }

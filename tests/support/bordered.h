@@ -1,8 +1,10 @@
-// An image with what lies around it by a border type: what filters over neighbourhoods are tested with.
+// An image with what lies around it by a border type, and how filters over neighbourhoods are called with it and
+// compared with their definitions.
 #pragma once
 
 #include "tests/support/element.h"
 #include "tests/support/exports.h"
+#include "tests/support/name.h"
 #include "tests/support/reference.h"
 
 namespace test {
@@ -21,6 +23,14 @@ struct Region {
   int channels;
   QvpiBorderType border;
 };
+
+// A region and a border that a number stands for: one of the first kinds, with all sides in memory or not.
+inline Region RegionOf(int turn, int channels, int kinds = 3) {
+  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst, qvpBorderReplicateAlt};
+  const int width = turn % 5 == 4 ? 257 + turn % 40 : 1 + turn * 7 % 70;
+  const int sides = (turn * 3 + turn / 16) % 16 * 16;
+  return {{width, 1 + turn % 9}, channels, turn % 17 == 16 ? qvpBorderInMem : kKinds[turn % kinds] | sides};
+}
 
 // The image holds just what may be read: the region, and on the sides in memory what the operation reaches.
 struct Bordered {
@@ -52,18 +62,107 @@ struct Bordered {
   }
 };
 
-// Calls tile(x, y, size, border) for the tiles of an image, whose inner sides are in memory. All, the last ones too,
-// must be at least as long as the operation reaches.
-template <class Tile>
-void ForEachTile(QvpiSize size, QvpiSize most, int kind, const Tile& tile) {
+// Of a scene: where it begins, and what is around it.
+struct Part {
+  int x, y;
+  QvpiSize size;
+  QvpiBorderType border;
+};
+inline Part WholeOf(const Bordered& scene) { return {0, 0, scene.region.size, scene.region.border}; }
+
+// A buffer and a record of the reported sizes, before unreadable pages; the record may begin anywhere.
+class Prepared {
+ public:
+  explicit Prepared(int buffer) : buffer_(std::make_unique<Block>(buffer)) {}
+  Prepared(int spec, int buffer) : Prepared(buffer) {
+    static int phase = 0;
+    phase_ = phase = (phase + 7) % 64;
+    spec_ = std::make_unique<Block>(spec + phase_);
+  }
+  template <class Spec>
+  Spec* record() const {
+    return spec_ ? reinterpret_cast<Spec*>(spec_->data() + phase_) : nullptr;
+  }
+  Qvp8u* buffer() const { return buffer_->data(); }
+
+ private:
+  int phase_ = 0;
+  std::unique_ptr<Block> buffer_, spec_;
+};
+
+inline void ExpectModest(int buffer, QvpiSize mask, QvpiSize roi, int channels) {
+  EXPECT_LE(buffer, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
+}
+
+inline const Export& FunctionNamed(const std::string& name) {
+  const auto& all = Exports();
+  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+}
+
+// Filters a part of a scene; `others` are its destination and what else it takes.
+inline QvpStatus Filter(const Export& function, const Bordered& scene, const Part& part, const Prepared& prepared,
+                        std::vector<Named> others) {
+  const Named shared[] = {{"pSrc", {scene.At(part.x, part.y), scene.image.step()}},
+                          {"roiSize", part.size},
+                          {"dstRoiSize", part.size},
+                          {"borderType", part.border},
+                          {"borderValue", {scene.value}},
+                          {"pSpec", {prepared.record<uint8_t>()}},
+                          {"pBuffer", {prepared.buffer()}}};
+  others.insert(others.end(), std::begin(shared), std::end(shared));
+  return function(others);
+}
+
+// Compares what run(dst) makes of a scene with expected(x, y, c); alpha that a function keeps is as it was.
+template <class Run, class Expected>
+void ExpectResults(const Export& function, const Bordered& scene, const Run& run, const Expected& expected,
+                   const std::string& about = "", Guard guard = Guard::kAfter) {
+  const Name name(function.name);
+  const Region& r = scene.region;
+  const Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8, guard), before(dst);
+  ASSERT_EQ(run(dst), 0) << function.name;
+  for (int y = 0; y < r.size.height; ++y) {
+    for (int i = 0; i < r.size.width * r.channels; ++i) {
+      const int x = i / r.channels, c = i % r.channels;
+      const bool isKept = name.written == 3 && c == 3;
+      const Real value = isKept ? before(i, y) : expected(x, y, c);
+      ASSERT_TRUE(AreSame(dst(i, y), value))
+          << dst(i, y) << " for " << value << " of " << function.name << ' ' << about << " border " << r.border
+          << " region " << r.size.width << 'x' << r.size.height << " at " << x << ',' << y << " channel " << c;
+    }
+  }
+}
+
+// The same for an operation that is told by its window: expected(pixel) with pixel(dx, dy) around the result's place.
+template <class Run, class Expected>
+void ExpectWindows(const Export& function, const Bordered& scene, const Run& run, const Expected& expected,
+                   const std::string& about = "", Guard guard = Guard::kAfter) {
+  const auto at = [&](int x, int y, int c) -> Real {
+    return expected([&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); });
+  };
+  ExpectResults(function, scene, run, at, about, guard);
+}
+
+inline std::string Shown(QvpiSize mask) { return std::to_string(mask.width) + "x" + std::to_string(mask.height); }
+
+// run(part, dst) filters the tiles of a scene as it filters all of it. Inner sides are in memory. All tiles, the last
+// ones too, must be at least as long as the operation reaches.
+template <class Run>
+void ExpectTilesEqualTheWhole(const Bordered& scene, QvpiSize most, const Run& run) {
+  const QvpiSize size = scene.region.size;
+  const Samples whole(scene.element(), size.width, size.height, 0), tiled(scene.element(), size.width, size.height, 4);
+  ASSERT_EQ(run(WholeOf(scene), Argument(whole)), 0);
   for (int y = 0; y < size.height; y += most.height) {
     for (int x = 0; x < size.width; x += most.width) {
       const QvpiSize part{std::min(most.width, size.width - x), std::min(most.height, size.height - y)};
-      const int flags = (y > 0 ? qvpBorderInMemTop : 0) | (x > 0 ? qvpBorderInMemLeft : 0) |
+      const int sides = (y > 0 ? qvpBorderInMemTop : 0) | (x > 0 ? qvpBorderInMemLeft : 0) |
                         (y + part.height < size.height ? qvpBorderInMemBottom : 0) |
                         (x + part.width < size.width ? qvpBorderInMemRight : 0);
-      tile(x, y, part, flags | kind);
+      ASSERT_EQ(run(Part{x, y, part, sides | scene.region.border}, Argument(tiled.At(x, y), tiled.step())), 0);
     }
+  }
+  for (int i = 0; i < size.width * size.height; ++i) {
+    ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width)) << i;
   }
 }
 
