@@ -29,6 +29,13 @@ constexpr bool IsBorderOf(std::initializer_list<BorderKind> kinds, QvpiBorderTyp
   return border == qvpBorderInMem || std::find(kinds.begin(), kinds.end(), KindOf(border)) != kinds.end();
 }
 
+// The check of most functions with a border.
+constexpr QvpStatus CheckBorder(QvpiBorderType border,
+                                std::initializer_list<BorderKind> kinds = {BorderKind::kReplicate, BorderKind::kMirror,
+                                                                           BorderKind::kConst}) {
+  return IsBorderOf(kinds, border) ? qvpStatusNoError : qvpStatusBorder;
+}
+
 // Positions [begin, end) along one axis that can be read, counted from the first pixel of the region.
 struct Extent {
   ptrdiff_t begin, end;

@@ -60,8 +60,7 @@ QvpStatus CheckCall(const Image<const T>& src, Size roi, const T* outside, const
   if (roi.width < record.config.winSize.width || roi.height < record.config.winSize.height) return qvpStatusSize;
   if (call.count < 1) return qvpStatusBadArgument;
   if (call.locations == nullptr && call.count >= 2) return qvpStatusNullPointer;
-  const bool isKnown = IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, call.border);
-  return isKnown ? qvpStatusNoError : qvpStatusBorder;
+  return CheckBorder(call.border);
 }
 
 template <class T>

@@ -1,8 +1,7 @@
 // The general filter: checks, the choice of a kernel, and the walk over a region.
-#include "base/check.h"
 #include "filter/border_filter_pairs.h"
 #include "filter/border_filter_reals.h"
-#include "filter/windows.h"
+#include "filter/window_call.h"
 #include "qvpi.h"
 
 namespace qvp::filter {
@@ -163,14 +162,20 @@ void FilterByKind(const FilterRecord& record, const Job<T>& job) {
   FilterInDouble(record, job);
 }
 
+// Steps are looked at less closely than those of other filters: that of the source may be any that goes forward, that
+// of the destination has an element for each pixel.
 template <class T>
-QvpStatus FilterBorder(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
-                       const QvpiFilterBorderSpec* spec, uint8_t* buffer) {
-  if (const QvpStatus failed = Validate<kPointers>(roi, {src, dst}, {spec, buffer})) return failed;
-  if (KindOf(border) == BorderKind::kConst && !value) return qvpStatusNullPointer;
-  if (const QvpStatus failed = Validate<kSize>(roi, {src})) return failed;
-  if (src.step < 1 || dst.step < static_cast<int64_t>(roi.width) * int64_t{sizeof(T)}) return qvpStatusStep;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+QvpStatus CheckSteps(const WindowCall<T>& call) {
+  const bool areGood = call.src.step >= 1 && call.dst.step >= call.roi.width * ptrdiff_t{sizeof(T)};
+  return areGood ? qvpStatusNoError : qvpStatusStep;
+}
+
+template <class T>
+QvpStatus General(const WindowCall<T>& call, const QvpiFilterBorderSpec* spec) {
+  const auto& [src, dst, roi, border, value, buffer] = call;
+  if (const QvpStatus failed = call.CheckPointersAndSize(spec)) return failed;
+  if (const QvpStatus failed = CheckSteps(call)) return failed;
+  if (const QvpStatus failed = CheckBorder(border)) return failed;
   const FilterRecord& record = *FilterRecord::At(spec);
   if (!record.IsReady()) return qvpStatusContextMatch;
   FilterByKind<T>(record, {WithBorder(src, roi, border, value, record.reach()), dst, roi, buffer});
@@ -182,17 +187,9 @@ QvpStatus FilterBorder(const Image<const T>& src, const Image<T>& dst, Size roi,
 
 using namespace qvp;
 
-#define FILTER_BORDER(type, layout)                                                                                 \
-  QvpStatus qvpiFilterBorder_##type##_##layout##R(                                                                  \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize dstRoiSize,                        \
-      QvpiBorderType borderType, const Qvp##type* borderValue, const QvpiFilterBorderSpec* pSpec, Qvp8u* pBuffer) { \
-    return filter::FilterBorder<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout},  \
-                                           dstRoiSize, borderType, borderValue, pSpec, pBuffer);                    \
-  }
-#define FILTER_BORDERS(type) FILTER_BORDER(type, C1) FILTER_BORDER(type, C3) FILTER_BORDER(type, C4)
-
-FILTER_BORDERS(8u)
-FILTER_BORDERS(16u)
-FILTER_BORDERS(16s)
-FILTER_BORDERS(32f)
-FILTER_BORDER(64f, C1)
+#define FILTER(type, layout) QVP_WINDOW_BY_RECORD(, type, type, type, layout, General, QvpiFilterBorderSpec)
+QVP_C1_C3_C4(FILTER, 8u)
+QVP_C1_C3_C4(FILTER, 16u)
+QVP_C1_C3_C4(FILTER, 16s)
+QVP_C1_C3_C4(FILTER, 32f)
+FILTER(64f, C1)

@@ -36,7 +36,8 @@ void FilterIntegers(const BoxCall<T>& call) {
 }
 
 template <class T>
-QvpStatus Box(const BoxCall<T>& call) {
+QvpStatus Box(const WindowCall<T>& on, QvpiSize mask, QvpiPoint anchor) {
+  const BoxCall<T> call{on, mask, anchor};
   if (const QvpStatus failed = call.Check()) return failed;
   if constexpr (std::is_same_v<T, float>) {
     call.RunFloats(FloatMeans{static_cast<float>(call.Count())});
@@ -63,19 +64,7 @@ QvpStatus qvpiFilterBoxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, 
       .StoreTo(pBufferSize);
 }
 
-#define BOX(type, layout)                                                                                    \
-  QvpStatus qvpiFilterBoxBorder_##type##_##layout##R(                                                        \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, \
-      QvpiPoint anchor, QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {           \
-    return Box<Qvp##type>({{pSrc, srcStep, Layout::k##layout},                                               \
-                           {pDst, dstStep, Layout::k##layout},                                               \
-                           roiSize,                                                                          \
-                           maskSize,                                                                         \
-                           anchor,                                                                           \
-                           borderType,                                                                       \
-                           borderValue,                                                                      \
-                           pBuffer});                                                                        \
-  }
+#define BOX(type, layout) QVP_ANCHORED_WINDOW(Box, type, layout, Box)
 QVP_EACH_LAYOUT(BOX, 8u)
 QVP_EACH_LAYOUT(BOX, 16u)
 QVP_EACH_LAYOUT(BOX, 16s)

@@ -1,12 +1,10 @@
 // The call of a filter with a fixed kernel: its checks in order, and its walk.
 #pragma once
 
-#include "base/export.h"
 #include "base/pack.h"
 #include "filter/fixed_kinds.h"
 #include "filter/unrolled.h"
-#include "filter/window_check.h"
-#include "filter/windows.h"
+#include "filter/window_call.h"
 
 namespace qvp::filter {
 
@@ -158,18 +156,6 @@ class FixedKernelOfParts {
   ptrdiff_t samples_;
 };
 
-// What the functions of fixed kernels take.
-template <class T, class R>
-struct FixedCall {
-  Image<const T> src;
-  Image<R> dst;
-  Size roi;
-  QvpiSize mask;
-  QvpiBorderType border;
-  const T* value;
-  uint8_t* buffer;
-};
-
 constexpr bool IsMask(QvpiSize mask, int width, int height) { return mask.width == width && mask.height == height; }
 
 // Replicating the pixel itself too is asked for by masks of 3 x 3 only, and is the same for them.
@@ -177,23 +163,21 @@ inline QvpStatus CheckFixedBorder(QvpiSize mask, QvpiBorderType* border) {
   using enum BorderKind;
   const bool takesAlternative = IsMask(mask, 3, 3) && IsBorderOf({kReplicateAlt}, *border);
   if (takesAlternative && KindOf(*border) == kReplicateAlt) *border = (*border & ~0xF) | qvpBorderReplicate;
-  return IsBorderOf({kReplicate, kMirror, kConst}, *border) ? qvpStatusNoError : qvpStatusBorder;
+  return CheckBorder(*border);
 }
 
 // Where results are longer than pixels of two bytes, the step must be a multiple of theirs.
 template <class T, class R>
-QvpStatus CheckFixed(const FixedCall<T, R>& call) {
-  const auto& [src, dst, roi, mask, border, value, buffer] = call;
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
-  return sizeof(T) == 2 && std::is_same_v<R, float> && dst.step % 4 != 0 ? qvpStatusNotEvenStep : qvpStatusNoError;
+QvpStatus CheckFixed(const WindowCall<T, R>& call) {
+  if (const QvpStatus failed = call.Check()) return failed;
+  return sizeof(T) == 2 && std::is_same_v<R, float> && call.dst.step % 4 != 0 ? qvpStatusNotEvenStep : qvpStatusNoError;
 }
 
 template <class Kind, class T, class R>
-void FilterFixed(const FixedCall<T, R>& call) {
+void FilterFixed(const WindowCall<T, R>& call) {
   constexpr Reach kReach{(Kind::kWidth - 1) / 2, (Kind::kHeight - 1) / 2, Kind::kWidth / 2, Kind::kHeight / 2};
-  const int channels = Channels(call.src.layout);
-  auto windows = WindowsOn(call.src, call.roi, call.border, call.value, kReach, call.buffer);
-  windows.outputs[0] = AsBytes(call.dst);
+  const int channels = call.channels();
+  const auto windows = call.Reaching(kReach);
   if constexpr (kKeepsParts<Kind>) {
     using Kernel = FixedKernelOfParts<T, R, Kind>;
     constexpr int kBytes = Kind::kParts * sizeof(typename Kernel::Element);
@@ -204,29 +188,21 @@ void FilterFixed(const FixedCall<T, R>& call) {
   }
 }
 
-// The kinds are those of the masks that the function knows.
-template <class... Kinds, class T, class R>
-QvpStatus Fixed(FixedCall<T, R> call) {
+// The kinds of the masks that a function knows.
+template <class... Kinds>
+struct Masks {};
+
+template <class T, class R, class... Kinds>
+QvpStatus Fixed(WindowCall<T, R> call, QvpiSize mask, Masks<Kinds...>) {
   if (const QvpStatus failed = CheckFixed(call)) return failed;
-  if (!(IsMask(call.mask, Kinds::kWidth, Kinds::kHeight) || ...)) return qvpStatusMaskSize;
-  if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
-  (void)((IsMask(call.mask, Kinds::kWidth, Kinds::kHeight) && (FilterFixed<Kinds>(call), true)) || ...);
+  if (!(IsMask(mask, Kinds::kWidth, Kinds::kHeight) || ...)) return qvpStatusMaskSize;
+  if (const QvpStatus failed = CheckFixedBorder(mask, &call.border)) return failed;
+  (void)((IsMask(mask, Kinds::kWidth, Kinds::kHeight) && (FilterFixed<Kinds>(call), true)) || ...);
   return qvpStatusNoError;
 }
 
-// A function of the grid: kinds in parentheses.
-#define QVP_FIXED(name, from, to, layout, types, ...)                                                      \
-  QvpStatus qvpiFilter##name##Border_##types##_##layout##R(                                                \
-      const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, \
-      QvpiBorderType borderType, const Qvp##from* borderValue, Qvp8u* pBuffer) {                           \
-    return qvp::filter::Fixed<__VA_ARGS__>(                                                                \
-        qvp::filter::FixedCall<Qvp##from, Qvp##to>{{pSrc, srcStep, qvp::Layout::k##layout},                \
-                                                   {pDst, dstStep, qvp::Layout::k##layout},                \
-                                                   roiSize,                                                \
-                                                   maskSize,                                               \
-                                                   borderType,                                             \
-                                                   borderValue,                                            \
-                                                   pBuffer});                                              \
-  }
-
 }  // namespace qvp::filter
+
+// A function of the grid, by the kinds of its masks.
+#define QVP_FIXED(name, from, to, layout, types, ...) \
+  QVP_WINDOW(name, from, to, types, layout, Fixed, (QvpiSize maskSize), (), (maskSize, Masks<__VA_ARGS__>()))

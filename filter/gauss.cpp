@@ -1,9 +1,8 @@
 // The Gauss filter: symmetric sums across, then down.
 #include "filter/gauss.h"
 
-#include "base/export.h"
 #include "filter/axis_kernels.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 
 namespace qvp::filter {
 namespace {
@@ -81,20 +80,17 @@ void FilterFloats(const GaussRecord& r, const Windows<Bits>& windows) {
 }
 
 template <class T>
-QvpStatus Gauss(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
-                const QvpiFilterGaussBorderSpec* spec, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {spec, buffer})) return failed;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+QvpStatus Gauss(const WindowCall<T>& call, const QvpiFilterGaussBorderSpec* spec) {
+  if (const QvpStatus failed = call.Check(spec)) return failed;
+  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
   const GaussRecord& r = *GaussRecord::At(spec);
-  const bool isOurs = r.identification == GaussRecord::kIdentification && r.type == kDataTypeOf<T> &&
-                      r.channels == Channels(src.layout);
+  const bool isOurs =
+      r.identification == GaussRecord::kIdentification && r.type == kDataTypeOf<T> && r.channels == call.channels();
   if (!isOurs) return qvpStatusContextMatch;
-  auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
-  windows.outputs[0] = AsBytes(dst);
   if constexpr (sizeof(T) == 1) {
-    FilterBytes(r, windows);
+    FilterBytes(r, call.Reaching(r.reach()));
   } else {
-    FilterFloats<T>(r, windows);
+    FilterFloats<T>(r, call.Reaching(r.reach()));
   }
   return qvpStatusNoError;
 }
@@ -105,13 +101,7 @@ QvpStatus Gauss(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBo
 using namespace qvp;
 using namespace qvp::filter;
 
-#define GAUSS(type, layout)                                                                                          \
-  QvpStatus qvpiFilterGaussBorder_##type##_##layout##R(                                                              \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, \
-      const Qvp##type* borderValue, const QvpiFilterGaussBorderSpec* pSpec, Qvp8u* pBuffer) {                        \
-    return Gauss<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize,         \
-                            borderType, borderValue, pSpec, pBuffer);                                                \
-  }
+#define GAUSS(type, layout) QVP_WINDOW_BY_RECORD(Gauss, type, type, type, layout, Gauss, QvpiFilterGaussBorderSpec)
 QVP_EACH_LAYOUT(GAUSS, 8u)
 QVP_EACH_LAYOUT(GAUSS, 16u)
 QVP_EACH_LAYOUT(GAUSS, 16s)

@@ -180,7 +180,7 @@ QvpStatus ScharrVectors(GradientCall<T, R> call) {
 template <class T, class R>
 QvpStatus SobelMagnitude(const GradientCall<T, R>& call) {
   if (const QvpStatus failed = CheckGradient(call, IsSobelMask(call.mask))) return failed;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kConst}, call.border)) return qvpStatusBorder;
+  if (const QvpStatus failed = CheckBorder(call.border, {BorderKind::kReplicate, BorderKind::kConst})) return failed;
   return FilterSobel(call, MagnitudeSinkOf<T, R>{call.norm});
 }
 

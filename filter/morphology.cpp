@@ -3,9 +3,8 @@
 // of the mask's rows.
 #include "filter/morphology.h"
 
-#include "base/export.h"
 #include "filter/extreme_rows.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 
 namespace qvp::filter {
 namespace {
@@ -206,19 +205,13 @@ void FilterChords(Windows<BitsOf<T>> windows, const MorphologyRecord& record) {
 }
 
 template <class Op, class T>
-QvpStatus Morph(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBorderType border, const T* value,
-                const QvpiFilterMorphologyBorderSpec* spec, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {spec, buffer})) return failed;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+QvpStatus Morph(const WindowCall<T>& call, const QvpiFilterMorphologyBorderSpec* spec) {
+  if (const QvpStatus failed = call.Check(spec)) return failed;
+  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
   const MorphologyRecord& r = *MorphologyRecord::At(spec);
   if (r.identification != MorphologyRecord::kIdentification) return qvpStatusContextMatch;
-  auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
-  windows.outputs[0] = AsBytes(dst);
-  if (r.isFull) {
-    FilterRectangles<Op, T>(windows, r.width, r.height);
-    return qvpStatusNoError;
-  }
-  FilterChords<Op, T>(windows, r);
+  const auto windows = call.Reaching(r.reach());
+  r.isFull ? FilterRectangles<Op, T>(windows, r.width, r.height) : FilterChords<Op, T>(windows, r);
   return qvpStatusNoError;
 }
 
@@ -228,13 +221,8 @@ QvpStatus Morph(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiBo
 using namespace qvp;
 using namespace qvp::filter;
 
-#define MORPH(name, op, type, layout)                                                                                \
-  QvpStatus qvpiFilter##name##Border_##type##_##layout##R(                                                           \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, \
-      const Qvp##type* borderValue, const QvpiFilterMorphologyBorderSpec* pSpec, Qvp8u* pBuffer) {                   \
-    return Morph<op, Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize,     \
-                                borderType, borderValue, pSpec, pBuffer);                                            \
-  }
+#define MORPH(name, op, type, layout) \
+  QVP_WINDOW_BY_RECORD(name, type, type, type, layout, Morph<op>, QvpiFilterMorphologyBorderSpec)
 #define MORPHS(type, layout)        \
   MORPH(Erode, Least, type, layout) \
   MORPH(Dilate, Greatest, type, layout)

@@ -1,10 +1,9 @@
 // The separable filter: sums across by one kernel, then down by another.
 #include "filter/separable.h"
 
-#include "base/export.h"
 #include "base/scalar.h"
 #include "filter/axis_kernels.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 
 namespace qvp::filter {
 namespace {
@@ -192,17 +191,14 @@ void FilterByForm(const SeparableRecord& r, const Windows<Bits>& windows) {
 }
 
 template <class T, class R>
-QvpStatus Separable(const Image<const T>& src, const Image<R>& dst, Size roi, QvpiBorderType border, const T* value,
-                    const QvpiFilterSeparableBorderSpec* spec, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {spec, buffer})) return failed;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border)) return qvpStatusBorder;
+QvpStatus Separable(const WindowCall<T, R>& call, const QvpiFilterSeparableBorderSpec* spec) {
+  if (const QvpStatus failed = call.Check(spec)) return failed;
+  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
   const SeparableRecord& r = *SeparableRecord::At(spec);
   const bool isOurs = r.identification == SeparableRecord::kIdentification && r.srcType == kDataTypeOf<T> &&
-                      r.dstType == kDataTypeOf<R> && r.channels == Channels(src.layout);
+                      r.dstType == kDataTypeOf<R> && r.channels == call.channels();
   if (!isOurs) return qvpStatusContextMatch;
-  auto windows = WindowsOn(src, roi, border, value, r.reach(), buffer);
-  windows.outputs[0] = AsBytes(dst);
-  FilterByForm<T, R>(r, windows);
+  FilterByForm<T, R>(r, call.Reaching(r.reach()));
   return qvpStatusNoError;
 }
 
@@ -212,13 +208,8 @@ QvpStatus Separable(const Image<const T>& src, const Image<R>& dst, Size roi, Qv
 using namespace qvp;
 using namespace qvp::filter;
 
-#define SEPARABLE(from, to, types, layout)                                                                         \
-  QvpStatus qvpiFilterSeparableBorder_##types##_##layout##R(                                                       \
-      const Qvp##from* pSrc, int srcStep, Qvp##to* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, \
-      const Qvp##from* borderValue, const QvpiFilterSeparableBorderSpec* pSpec, Qvp8u* pBuffer) {                  \
-    return Separable<Qvp##from, Qvp##to>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout},   \
-                                         roiSize, borderType, borderValue, pSpec, pBuffer);                        \
-  }
+#define SEPARABLE(from, to, types, layout) \
+  QVP_WINDOW_BY_RECORD(Separable, from, to, types, layout, Separable, QvpiFilterSeparableBorderSpec)
 QVP_EACH_LAYOUT(SEPARABLE, 8u, 8u, 8u)
 QVP_EACH_LAYOUT(SEPARABLE, 16u, 16u, 16u)
 QVP_EACH_LAYOUT(SEPARABLE, 16s, 16s, 16s)

@@ -1,10 +1,9 @@
 // Calls of the filters that sum pixels under a window: what they take, their checks, and the lanes that sums need.
 #pragma once
 
-#include "base/export.h"
 #include "filter/float_sums.h"
 #include "filter/integer_sums.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 
 namespace qvp::filter {
 
@@ -41,20 +40,15 @@ inline KeptRows KeptFor(QvpDataType type, QvpiSize mask) {
 
 template <class T, class R>
 struct SumCall {
-  Image<const T> src;
-  Image<R> dst;
-  Size roi;
+  WindowCall<T, R> on;
   QvpiSize mask;
   QvpiPoint anchor;
-  QvpiBorderType border;
-  const T* value;
-  uint8_t* buffer;
 
   int64_t Count() const { return int64_t{mask.width} * mask.height; }
 
   QvpStatus Check() const {
-    if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
-    return CheckAnchored(IsSummed(mask), mask, anchor, border);
+    if (const QvpStatus failed = on.Check()) return failed;
+    return CheckAnchored(IsSummed(mask), mask, anchor, on.border);
   }
 
   template <class L, class Finish>
@@ -67,13 +61,11 @@ struct SumCall {
   }
 
  private:
-  SumShape Shape() const { return {mask.width, mask.height, Channels(src.layout)}; }
+  SumShape Shape() const { return {mask.width, mask.height, on.channels()}; }
 
   template <class Sums>
   void Run(const Sums& sums) const {
-    auto windows = WindowsOn(src, roi, border, value, ReachOf(mask, anchor), buffer);
-    windows.outputs[0] = AsBytes(dst);
-    FilterWindows(windows, sums.AsKernel());
+    FilterWindows(on.Reaching(ReachOf(mask, anchor)), sums.AsKernel());
   }
 };
 

@@ -34,7 +34,8 @@ struct AsFloats {
 };
 
 template <class T>
-QvpStatus Sums(const SumCall<T, float>& call) {
+QvpStatus Sums(const WindowCall<T, float>& on, QvpiSize mask, QvpiPoint anchor) {
+  const SumCall<T, float> call{on, mask, anchor};
   if (const QvpStatus failed = call.Check()) return failed;
   if constexpr (std::is_same_v<T, float>) {
     call.RunFloats(AsSums());
@@ -69,19 +70,8 @@ QvpStatus qvpiFilterSumColumnBorderGetBufferSize(int maskSize, QvpiSize roiSize,
   return StoreBufferSize({1, maskSize}, roiSize, dataType, numChannels, pBufferSize);
 }
 
-#define SUMS(axis, mask, point, type, types, layout)                                                             \
-  QvpStatus qvpiFilterSum##axis##Border_##types##_##layout##R(                                                   \
-      const Qvp##type* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int maskSize, int anchor, \
-      QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {                                 \
-    return Sums<Qvp##type>({{pSrc, srcStep, Layout::k##layout},                                                  \
-                            {pDst, dstStep, Layout::k##layout},                                                  \
-                            roiSize,                                                                             \
-                            mask,                                                                                \
-                            point,                                                                               \
-                            borderType,                                                                          \
-                            borderValue,                                                                         \
-                            pBuffer});                                                                           \
-  }
+#define SUMS(axis, mask, point, type, types, layout) \
+  QVP_WINDOW(Sum##axis, type, 32f, types, layout, Sums, (int maskSize, int anchor), (), (mask, point))
 #define SUMS_ON_BOTH_AXES(type, types, layout)                                    \
   SUMS(Row, (QvpiSize{maskSize, 1}), (QvpiPoint{anchor, 0}), type, types, layout) \
   SUMS(Column, (QvpiSize{1, maskSize}), (QvpiPoint{0, anchor}), type, types, layout)

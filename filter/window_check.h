@@ -1,4 +1,4 @@
-// The first checks of the filters that have a window, in their order.
+// What the filters with a window know: types, masks, steps.
 #pragma once
 
 #include <algorithm>
@@ -12,16 +12,6 @@ namespace qvp::filter {
 template <class T>
 bool CoversRow(const Image<T>& image, Size roi) {
   return image.step >= int64_t{roi.width} * image.PixelBytes();
-}
-
-// Pointers, among them the value of a constant border; the region; steps.
-template <class T, class R>
-QvpStatus CheckWindow(const Image<const T>& src, const Image<R>& dst, Size roi, QvpiBorderType border, const T* value,
-                      Pointers others) {
-  if (const QvpStatus failed = Validate<kPointers>(roi, {src, dst}, others)) return failed;
-  if (KindOf(border) == BorderKind::kConst && !value) return qvpStatusNullPointer;
-  if (const QvpStatus failed = Validate<kSize>(roi, {})) return failed;
-  return CoversRow(src, roi) && CoversRow(dst, roi) ? qvpStatusNoError : qvpStatusStep;
 }
 
 // What functions that name an image's type take for it.
@@ -48,8 +38,7 @@ constexpr Reach ReachOf(QvpiSize mask, QvpiPoint anchor) {
 inline QvpStatus CheckAnchored(bool isMask, QvpiSize mask, QvpiPoint anchor, QvpiBorderType border) {
   if (!isMask) return qvpStatusMaskSize;
   if (!IsAnchor(mask, anchor)) return qvpStatusAnchor;
-  const bool isKnown = IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border);
-  return isKnown ? qvpStatusNoError : qvpStatusBorder;
+  return CheckBorder(border);
 }
 
 // What asks for the size of a work buffer.

@@ -304,10 +304,18 @@ void CheckVectors(const Export& function, int side, QvpNormType norm, const Regi
     for (int x = 0; x < r.size.width; ++x) {
       const Gradient g = GradientAt(scene, kind, side, norm, x, y);
       const std::string where = function.name + " at " + std::to_string(x) + "," + std::to_string(y);
-      if (wanted & 1) ASSERT_EQ(gx(x, y), g.x) << where;
-      if (wanted & 2) ASSERT_EQ(gy(x, y), g.y) << where;
-      if (wanted & 4) ASSERT_EQ(magnitude(x, y), Magnitude(norm, g)) << where;
-      if (wanted & 8) ASSERT_NEAR(angle(x, y), std::atan2(g.y, g.x), 5e-6) << where;
+      if (wanted & 1) {
+        ASSERT_EQ(gx(x, y), g.x) << where;
+      }
+      if (wanted & 2) {
+        ASSERT_EQ(gy(x, y), g.y) << where;
+      }
+      if (wanted & 4) {
+        ASSERT_EQ(magnitude(x, y), Magnitude(norm, g)) << where;
+      }
+      if (wanted & 8) {
+        ASSERT_NEAR(angle(x, y), std::atan2(g.y, g.x), 5e-6) << where;
+      }
     }
   }
 }
