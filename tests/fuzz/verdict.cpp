@@ -5,23 +5,28 @@
 #include "tests/fuzz/edit.h"
 #include "tests/fuzz/trial.h"
 
+// The header comes with the sanitizers' run-time library, which only their build needs.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#include <sanitizer/asan_interface.h>
+#endif
+#endif
+
 namespace fuzz {
 using test::Argument;
 
 // For a library with a sanitizer nothing around and between the rows is memory then.
-void Trial::SetPoison(bool on) const {
+void Trial::SetPoison([[maybe_unused]] bool on) const {
+#ifdef ASAN_POISON_MEMORY_REGION
   for (const Picture& picture : pictures_) {
-    [[maybe_unused]] const Span span = picture.Around();
-    if (on) {
-      ASAN_POISON_MEMORY_REGION(span.data, span.size);
-    } else {
-      ASAN_UNPOISON_MEMORY_REGION(span.data, span.size);
-    }
+    const Span span = picture.Around();
+    (on ? __asan_poison_memory_region : __asan_unpoison_memory_region)(span.data, span.size);
   }
   if (!on) return;
   for (const Picture& picture : pictures_) {
-    picture.ForEachRow([&](uint8_t* row) { ASAN_UNPOISON_MEMORY_REGION(row, picture.rowBytes); });
+    picture.ForEachRow([&](uint8_t* row) { __asan_unpoison_memory_region(row, picture.rowBytes); });
   }
+#endif
 }
 
 // A sanitizer refuses copies between bytes that overlap: they are left to another build.

@@ -1,7 +1,6 @@
 // Memory that is mapped once and used by every trial.
 #pragma once
 
-#include <sanitizer/asan_interface.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
