@@ -1,33 +1,12 @@
-// Rows of pixels whose channels have operations of their own: taken apart into a vector for each channel, and put
-// together again.
+// Rows of pixels whose channels have operations of their own.
 #pragma once
 
 #include <cstring>
 
+#include "base/channels.h"
 #include "base/row_vectors.h"
 
 namespace qvp {
-
-template <int kChannels, class V>
-struct Pixels {
-  V v[kChannels];
-};
-
-template <int kChannels, class D, class T>
-HWY_INLINE Pixels<kChannels, hn::Vec<D>> LoadChannels(D d, const T* from) {
-  Pixels<kChannels, hn::Vec<D>> pixels;
-  auto& v = pixels.v;
-  if constexpr (kChannels == 3) hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
-  if constexpr (kChannels == 4) hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
-  return pixels;
-}
-
-template <int kChannels, class D, class T>
-HWY_INLINE void StoreChannels(const Pixels<kChannels, hn::Vec<D>>& pixels, D d, T* to) {
-  const auto& v = pixels.v;
-  if constexpr (kChannels == 3) hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
-  if constexpr (kChannels == 4) hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
-}
 
 // dst[i] = op(channel, src[i]) for the first kProcessed channels of pixels; the others keep what dst has. `n` counts
 // elements. The source may be the destination.

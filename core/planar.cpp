@@ -4,6 +4,7 @@
 #include <cstring>
 #include <tuple>
 
+#include "base/channels.h"
 #include "base/check.h"
 #include "base/export.h"
 #include "base/rows.h"
@@ -11,23 +12,6 @@
 
 namespace {
 using namespace qvp;
-
-template <class D, class T, class V>
-HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[3]) {
-  hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
-}
-template <class D, class T, class V>
-HWY_INLINE void LoadPixels(D d, const T* from, V (&v)[4]) {
-  hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
-}
-template <class D, class T, class V>
-HWY_INLINE void StorePixels(D d, const V (&v)[3], T* to) {
-  hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
-}
-template <class D, class T, class V>
-HWY_INLINE void StorePixels(D d, const V (&v)[4], T* to) {
-  hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
-}
 
 template <class T, size_t kPlanes>
 using PlaneRows = std::array<T*, kPlanes>;
@@ -37,10 +21,10 @@ template <Store kStore, int kVectors, class T, int kPlanes>
 HWY_INLINE void Split(const T* pixels, const PlaneRows<T, kPlanes>& planes, ptrdiff_t i) {
   const hn::ScalableTag<T> d;
   constexpr int kLanes = hn::MaxLanes(d);
-  hn::Vec<decltype(d)> v[kVectors][kPlanes];
-  for (int k = 0; k < kVectors; ++k) LoadPixels(d, pixels + k * kPlanes * kLanes, v[k]);
+  Pixels<kPlanes, hn::Vec<decltype(d)>> each[kVectors];
+  for (int k = 0; k < kVectors; ++k) each[k] = LoadChannels<kPlanes>(d, pixels + k * kPlanes * kLanes);
   for (int p = 0; p < kPlanes; ++p) {
-    for (int k = 0; k < kVectors; ++k) StoreTo<kStore>(v[k][p], d, planes[p] + i + k * kLanes);
+    for (int k = 0; k < kVectors; ++k) StoreTo<kStore>(each[k].v[p], d, planes[p] + i + k * kLanes);
   }
 }
 
@@ -49,11 +33,11 @@ template <Store kStore, class T, int kPlanes>
 HWY_INLINE void Merge(const PlaneRows<const T, kPlanes>& planes, ptrdiff_t i, T* pixels) {
   const hn::ScalableTag<T> d;
   constexpr int kLanes = hn::MaxLanes(d);
-  hn::Vec<decltype(d)> v[kPlanes];
-  for (int p = 0; p < kPlanes; ++p) v[p] = hn::LoadU(d, planes[p] + i);
-  if constexpr (kStore == Store::kOrdinary) return StorePixels(d, v, pixels);
+  Pixels<kPlanes, hn::Vec<decltype(d)>> each;
+  for (int p = 0; p < kPlanes; ++p) each.v[p] = hn::LoadU(d, planes[p] + i);
+  if constexpr (kStore == Store::kOrdinary) return StoreChannels(each, d, pixels);
   alignas(64) T staged[kPlanes * kLanes];
-  StorePixels(d, v, staged);
+  StoreChannels(each, d, staged);
   for (int j = 0; j < kPlanes * kLanes; j += kLanes) StoreTo<kStore>(hn::Load(d, staged + j), d, pixels + j);
 }
 

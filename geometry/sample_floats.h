@@ -71,13 +71,6 @@ class RowTaps<kTaps, 1, double, D> {
   hn::Vec<D> taps_[kTaps];
 };
 
-// Whole pixels from one vector for each channel.
-template <int kChannels, class D, class T = hn::TFromD<D>>
-HWY_INLINE void StorePixels(D d, const hn::Vec<D>* v, T* to) {
-  if constexpr (kChannels == 3) hn::StoreInterleaved3(v[0], v[1], v[2], d, to);
-  if constexpr (kChannels == 4) hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, to);
-}
-
 // The weighted sums of as many points as there are lanes, from the i-th on.
 template <int kTaps, int kChannels, class T, class D>
 HWY_INLINE void BlendAt(D d, const uint8_t* src, ptrdiff_t step, const Weigher<kTaps, WorkOf<T>>& weigh,
@@ -116,10 +109,10 @@ void BlendPoints(const Task<T>& task, const Places<WorkOf<T>>& places, ptrdiff_t
       hn::StoreU(NarrowParts<T>(d, part), hn::CappedTag<T, kLanes * kParts>(), to);
     } else {
       hn::Vec<D> total[kChannels];
-      hn::Vec<hn::Rebind<T, D>> pixels[kChannels];
+      Pixels<kChannels, hn::Vec<hn::Rebind<T, D>>> pixels;
       BlendAt<kTaps, kChannels, T>(d, src, step, weigh, places, i, total);
-      for (int c = 0; c < kChannels; ++c) pixels[c] = Narrow<T>(d, total[c]);
-      StorePixels<kChannels>(hn::Rebind<T, D>(), pixels, to);
+      for (int c = 0; c < kChannels; ++c) pixels.v[c] = Narrow<T>(d, total[c]);
+      StoreChannels(pixels, hn::Rebind<T, D>(), to);
     }
   });
 }
