@@ -28,6 +28,17 @@ HWY_INLINE hn::Vec<D> GatherWords(D d, const uint8_t* base, hn::Vec<D> offset) {
   }
 }
 
+// The words of a table at indices.
+template <class D>
+HWY_INLINE hn::Vec<D> LookUpWords(D d, const hn::TFromD<D>* table, hn::Vec<hn::Rebind<int32_t, D>> index) {
+  static_assert(sizeof(hn::TFromD<D>) == sizeof(int32_t));
+  if constexpr (hn::MaxLanes(D()) * sizeof(int32_t) > kBlockBytes) {
+    return hn::GatherIndex(d, table, index);
+  } else {
+    return LoadWords<hn::TFromD<D>>([&](int i) HWY_ATTR { return table + hn::ExtractLane(index, i); });
+  }
+}
+
 // The 64-bit words at every kStride-th offset. Of these, single loads are quicker on every CPU.
 template <int kStride, class D>
 HWY_INLINE hn::Vec<D> LoadWords(D d, const uint8_t* base, const int32_t* offset) {

@@ -4,13 +4,6 @@
 namespace {
 using namespace bench;
 
-// A record with its work buffer.
-template <class Spec>
-struct Prepared {
-  std::shared_ptr<Qvp8u[]> spec, buffer;
-  Spec* get() const { return reinterpret_cast<Spec*>(spec.get()); }
-};
-
 template <class T, class Spec, class Call, class PeerCall>
 void AddRow(const std::string& name, QvpiSize size, int channels, const Prepared<Spec>& prepared, Call call,
             const std::string& peer, const PeerCall& peerCall, double atLeast) {

@@ -26,6 +26,13 @@ Image<T> Scene(QvpiSize size, int channels) {
   return image;
 }
 
+// A record with its work buffer.
+template <class Spec>
+struct Prepared {
+  std::shared_ptr<Qvp8u[]> spec, buffer;
+  Spec* get() const { return reinterpret_cast<Spec*>(spec.get()); }
+};
+
 inline std::string Square(int side) { return std::to_string(side) + "x" + std::to_string(side); }
 
 }  // namespace bench

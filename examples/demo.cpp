@@ -56,6 +56,7 @@ int main(int argc, char** argv) try {
   demo::ExtremesSteps(demo);
   demo::FixedFilterSteps(demo);
   demo::SumsFilterSteps(demo);
+  demo::DenoiseSteps(demo);
   demo::ResizeSteps(demo);
   demo::WarpSteps(demo);
   demo::StatsSteps(demo);

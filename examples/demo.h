@@ -49,6 +49,7 @@ void AxesFilterSteps(Demo& demo);
 void ExtremesSteps(Demo& demo);
 void FixedFilterSteps(Demo& demo);
 void SumsFilterSteps(Demo& demo);
+void DenoiseSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);

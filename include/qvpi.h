@@ -6,6 +6,7 @@
 
 #include "qvpi_arith.h"
 #include "qvpi_core.h"
+#include "qvpi_denoise.h"
 #include "qvpi_feature.h"
 #include "qvpi_filter.h"
 #include "qvpi_geometry.h"

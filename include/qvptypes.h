@@ -174,12 +174,12 @@ enum {
     qvpCmpGreater = 4,   /**< greater than */
 };
 
-/** How the two derivatives of a gradient make one magnitude. */
+/** How the derivatives of a gradient make one magnitude, or the differences of colours one distance. */
 typedef int QvpNormType;
 enum {
-    qvpNormL1 = 1,  /**< |x| + |y| */
-    qvpNormL2 = 2,  /**< sqrt(x * x + y * y) */
-    qvpNormInf = 3, /**< the larger of |x| and |y| */
+    qvpNormL1 = 1,  /**< sum of magnitudes: |x| + |y| */
+    qvpNormL2 = 2,  /**< root of the sum of squares: sqrt(x * x + y * y) */
+    qvpNormInf = 3, /**< largest magnitude */
 };
 
 /** What an operation finds outside a region: a kind, combined with the sides that are in memory.
@@ -252,6 +252,7 @@ typedef struct QvpiFilterBorderSpec QvpiFilterBorderSpec; /**< general filter */
 typedef struct QvpiFilterMorphologyBorderSpec QvpiFilterMorphologyBorderSpec; /**< erosion and dilation */
 typedef struct QvpiFilterSeparableBorderSpec QvpiFilterSeparableBorderSpec; /**< separable filter */
 typedef struct QvpiFilterGaussBorderSpec QvpiFilterGaussBorderSpec; /**< Gauss filter */
+typedef struct QvpiFilterBilateralBorderSpec QvpiFilterBilateralBorderSpec; /**< bilateral filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
 typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
 typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */

@@ -86,6 +86,24 @@ HWY_INLINE V Exp(V x) {
   return hn::Mul(exp, PowerOfTwo(n));
 }
 
+// e^x of float lanes for any x <= 0, to 1.3e-7 and with 1 for 0; below -87 it is 0. NaN stays NaN. The sum whose lowest
+// bits are the exponent n rounds x / ln(2) to it, and 2^r is taken for what is left, |r| <= 1/2: its polynomial has the
+// smallest error, 2^-23 of the result, by Lawson's method.
+template <class V>
+HWY_INLINE V ExpOfDecay(V x) {
+  const hn::DFromV<V> d;
+  using Traits = ElementaryTraits<float>;
+  constexpr float kUnit = static_cast<float>(1 << Traits::kMantissaBits) + Traits::kBias;
+  constexpr float kPowers[] = {0x1.5bba14p-10f, 0x1.3cea88p-7f, 0x1.c6b752p-5f, 0x1.ebf9bcp-3f, 0x1.62e42ap-1f, 1};
+  const V t = hn::Mul(x, hn::Set(d, 0x1.715476p+0f)), sum = hn::Add(t, hn::Set(d, kUnit)),
+          r = hn::Sub(t, hn::Sub(sum, hn::Set(d, kUnit)));
+  V power = hn::Set(d, kPowers[0]);
+  for (size_t i = 1; i < std::size(kPowers); ++i) power = hn::Add(hn::Mul(power, r), hn::Set(d, kPowers[i]));
+  const hn::RebindToUnsigned<decltype(d)> bits;
+  const V whole = hn::BitCast(d, hn::ShiftLeft<Traits::kMantissaBits>(hn::BitCast(bits, sum)));
+  return hn::IfThenZeroElse(hn::Lt(x, hn::Set(d, -87.0f)), hn::Mul(power, whole));
+}
+
 // e^x 2^-scale for whole |x| <= 65535, of double lanes, to a part in 2^50, where the result is between 2^-80 and 2^80;
 // beyond, no smaller or no larger than those. The upper part of 1 / ln(2) has so few bits that x times it is exact.
 template <class V>

@@ -114,9 +114,9 @@ inline QvpStatus Filter(const Export& function, const Bordered& scene, const Par
 }
 
 // Compares what run(dst) makes of a scene with expected(x, y, c); alpha that a function keeps is as it was.
-template <class Run, class Expected>
+template <class Run, class Expected, class Same = bool (*)(Real, Real)>
 void ExpectResults(const Export& function, const Bordered& scene, const Run& run, const Expected& expected,
-                   const std::string& about = "", Guard guard = Guard::kAfter) {
+                   const std::string& about = "", Guard guard = Guard::kAfter, const Same& isSame = AreSame) {
   const Name name(function.name);
   const Region& r = scene.region;
   const Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8, guard), before(dst);
@@ -126,7 +126,7 @@ void ExpectResults(const Export& function, const Bordered& scene, const Run& run
       const int x = i / r.channels, c = i % r.channels;
       const bool isKept = name.written == 3 && c == 3;
       const Real value = isKept ? before(i, y) : expected(x, y, c);
-      ASSERT_TRUE(AreSame(dst(i, y), value))
+      ASSERT_TRUE(isKept ? AreSame(dst(i, y), value) : isSame(dst(i, y), value))
           << dst(i, y) << " for " << value << " of " << function.name << ' ' << about << " border " << r.border
           << " region " << r.size.width << 'x' << r.size.height << " at " << x << ',' << y << " channel " << c;
     }

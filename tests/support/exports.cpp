@@ -34,6 +34,7 @@ constexpr struct {
     {"qvpiDotProdCol", WeightedRowsLesson},
     {"qvpiFFT", FourierLesson},
     {"qvpiFilter", WindowLesson},
+    {"qvpiFilterBilateral", BilateralLesson},
     {"qvpiFilterBorder", FilterLesson},
     {"qvpiFilterBorderInit", FilterInitLesson},
     {"qvpiFilterBox", SumsLesson},

@@ -280,8 +280,13 @@ TEST(Vectors, CollectWordsFromBothSidesOfAnAddress) {
   for (int i = 0; i < kLanes; ++i) offsets[i] = (i % 2 ? -1 : 1) * (5 * i + 3);
   const auto words = LanesOf(GatherWords(d, bytes.data() + 128, hn::LoadU(d, offsets)));
   const auto pairs = LanesOf(hn::BitCast(hn::ScalableTag<uint64_t>(), LoadWords<2>(bytes.data() + 128, offsets)));
+  float table[2 * kLanes];
+  for (int i = 0; i < 2 * kLanes; ++i) table[i] = static_cast<float>(i) / 4;
+  const auto indices = hn::Add(hn::Iota(d, 1), hn::ShiftRight<1>(hn::Iota(d, 0)));
+  const auto looked = LanesOf(LookUpWords(hn::ScalableTag<float>(), table, indices));
   for (int i = 0; i < kLanes; ++i) {
     const uint32_t first = 128 + offsets[i];
+    EXPECT_EQ(looked[i], static_cast<float>(1 + i + i / 2) / 4);
     EXPECT_EQ(static_cast<uint32_t>(words[i]),
               first + (first + 1) * 0x100 + (first + 2) * 0x10000 + (first + 3) * 0x1000000);
     if (i % 2 == 0) {

@@ -1,0 +1,45 @@
+// Steps of qvpi_denoise.h: a grainy photograph, and what is left of it.
+#include <vector>
+
+#include "examples/demo.h"
+
+namespace demo {
+namespace {
+
+// The photograph with grain of a standard deviation of about 15 in each channel: sums of four numbers of 16 values.
+Rgb Grainy(const Rgb& photo) {
+  Rgb grainy(photo.size());
+  uint32_t state = 1;
+  for (int y = 0; y < photo.size().height; ++y) {
+    for (int i = 0; i < 3 * photo.size().width; ++i) {
+      int grain = -120;
+      for (int k = 0; k < 4; ++k) grain += 4 * static_cast<int>((state = state * 1664525 + 1013904223) >> 28);
+      const int value = photo.data()[y * photo.step() + i] + grain / 2;
+      grainy.data()[y * grainy.step() + i] = static_cast<Qvp8u>(value < 0 ? 0 : value > 255 ? 255 : value);
+    }
+  }
+  return grainy;
+}
+
+void Bilateral(Demo& demo, const Rgb& grainy) {
+  const QvpiSize size = grainy.size();
+  constexpr int kRadius = 5;
+  int specSize, bufferSize;
+  Require(qvpiFilterBilateralBorderGetSize(kRadius, size, qvp8u, 3, &specSize, &bufferSize));
+  std::vector<Qvp8u> record(specSize), buffer(bufferSize);
+  auto* const spec = reinterpret_cast<QvpiFilterBilateralBorderSpec*>(record.data());
+  Require(qvpiFilterBilateralBorderInit(kRadius, qvpNormL2, 50, 3, qvp8u, 3, spec));
+  Rgb result(size);
+  demo.Time(size, 3 + 3,
+            CALL(qvpiFilterBilateralBorder_8u_C3R, grainy.data(), grainy.step(), result.data(), result.step(), size,
+                 qvpBorderReplicate, nullptr, spec, buffer.data()));
+  const QvpiSize left{size.width / 2, size.height};
+  Require(qvpiCopy_8u_C3R(grainy.data(), grainy.step(), result.data(), result.step(), left));
+  demo.Show("Grain, and smoothed but for edges", result);
+}
+
+}  // namespace
+
+void DenoiseSteps(Demo& demo) { Bilateral(demo, Grainy(demo.photo())); }
+
+}  // namespace demo

@@ -1,0 +1,125 @@
+/** @file qvpi_denoise.h
+ *  Filters that remove noise and keep edges.
+ *
+ *  The conventions of every function are told in qvpi_core.h.
+ */
+#ifndef QVPI_DENOISE_H
+#define QVPI_DENOISE_H
+
+#include "qvptypes.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @name Bilateral filter: sizes
+ *  @{ */
+/** Tells the sizes of the record and of the work buffer of a bilateral filter.
+ *
+ *  The buffer serves smaller radii, too, all borders, and every function of this type and number of channels. It may
+ *  begin anywhere.
+ *
+ *  @param radius radius of the disc in pixels: 1 to 127
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpecSize,pBufferSize sizes in bytes; 0 for one that cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpecSize` or `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: `radius` is below 1 or above 127
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: the buffer's size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBilateralBorderGetSize(int radius, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Bilateral filter: record
+ *  @{ */
+/** Makes the record of a bilateral filter.
+ *
+ *  A disc of two or three times `sigmaSpace` has nearly all that counts. `sigmaRange` separates noise from edges: twice
+ *  the noise's standard deviation is a good start. An infinite sigma weighs all distances alike: with both infinite the
+ *  filter is the mean of a disc, with an infinite `sigmaRange` one of Gauss.
+ *
+ *  @param radius radius of the disc in pixels: 1 to 127
+ *  @param normType how the differences d of three colours make one: qvpNormL1 |d0| + |d1| + |d2|, or qvpNormL2
+ *         sqrt(d0^2 + d1^2 + d2^2). Both are the same for one channel
+ *  @param sigmaRange standard deviation of the weights by difference, in pixel values: above 0
+ *  @param sigmaSpace standard deviation of the weights by distance, in pixels: above 0
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pSpec the record, of the size that qvpiFilterBilateralBorderGetSize() tells; it must not be moved. After a
+ *         failure, whichever it was, every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusMaskSize: `radius` is below 1 or above 127
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusNotSupportedMode: `normType` is none of the above
+ *  - qvpStatusBadArgument: a sigma is not above 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBilateralBorderInit(int radius, QvpNormType normType, Qvp32f sigmaRange, Qvp32f sigmaSpace, QvpDataType dataType, int numChannels, QvpiFilterBilateralBorderSpec* pSpec);
+/** @} */
+
+/** @name Bilateral filter: filtering
+ *  @{ */
+/** Smooths an image but for its edges: each pixel p becomes a mean of the pixels q of a disc around it, of which those
+ *  that are near and similar count most (Tomasi, Manduchi 1998).
+ *
+ *  @code
+ *    dst = p + sum(g * (q - p)) / (1 + sum(g)),  over the q != p with dx * dx + dy * dy <= radius * radius
+ *    g   = e(-(dx * dx + dy * dy) / (2 * sigmaSpace^2)) * e(-d * d / (2 * sigmaRange^2))
+ *  @endcode
+ *
+ *  with d = q - p, or for colours the one of their differences that the record's norm makes; e(x) is exp(x), but 0 below
+ *  -87. All colours of a pixel share g. So constants pass unchanged, and edges that are much higher than sigmaRange stay
+ *  as steep as they are. A row of 0 0 100 100 100, repeated, with radius 1, sigmaSpace 1, sigmaRange 100 and replicated
+ *  edges gives 0 12 88 100 100.
+ *
+ *  All of it is single precision, each operation rounded: the factors 1 / (2 * sigma^2) come from double precision and
+ *  are at most the largest float; the pixels at (dx, dy) and (-dx, -dy) are added to each other, then to the sums, those
+ *  of dy = 0 first, with dx = 1, 2, ..., then dy = 1, 2, ..., dx ascending. Integers are rounded to the nearest, ties to
+ *  even. A NaN in the disc makes all colours of the result NaN, an infinity at least its own. AC4 keeps alpha.
+ *
+ *  Time grows with the square of the radius, and is a third of that for radii up to 10 (7 for colours) where weights of
+ *  pairs are kept. Filter tiles of an image at once rather than rows: a call weighs what is above its region again.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  radius; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the bits of
+ *  the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pSpec the record
+ *  @param pBuffer work buffer of the size that qvpiFilterBilateralBorderGetSize() tells for this or a larger region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `pSpec` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: the record was not made by qvpiFilterBilateralBorderInit(), or for another type or number of
+ *    channels; AC4 takes a record for 4
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterBilateralBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp8u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp16u* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiFilterBilateralBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiBorderType borderType, const Qvp32f* borderValue, const QvpiFilterBilateralBorderSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,251 @@
+// The bilateral filter against its formula, operation by operation but for the exponential.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+
+namespace {
+using test::Bordered;
+using test::Element;
+using test::Export;
+using test::Name;
+using test::Part;
+using test::Prepared;
+using test::Real;
+
+struct Disc {
+  int radius;
+  QvpNormType norm;
+  float range, space;
+
+  test::Reach reach() const { return {radius, radius, radius, radius}; }
+};
+
+QvpiFilterBilateralBorderSpec* RecordIn(const Prepared& p) { return p.record<QvpiFilterBilateralBorderSpec>(); }
+
+Prepared Prepare(const Disc& disc, const Name& name, QvpiSize roi) {
+  const QvpDataType type = name.From().code;
+  const int64_t side = 2 * disc.radius + 1;
+  int spec = 0, buffer = 0;
+  EXPECT_EQ(qvpiFilterBilateralBorderGetSize(disc.radius, roi, type, name.channels, &spec, &buffer), 0);
+  EXPECT_LE(spec, 8 * side * side + 16384);
+  EXPECT_LE(buffer, 192 * (side + 4) * (roi.width + side) * name.channels + (1 << 20));
+  Prepared prepared(spec, buffer);
+  EXPECT_EQ(qvpiFilterBilateralBorderInit(disc.radius, disc.norm, disc.range, disc.space, type, name.channels,
+                                          RecordIn(prepared)),
+            0);
+  return prepared;
+}
+
+float Exp(float x) { return x < -87 ? 0 : std::exp(x); }
+float Falloff(float sigma) {
+  return static_cast<float>(std::min<double>(1 / (2 * (double{sigma} * sigma)), std::numeric_limits<float>::max()));
+}
+
+// Weights of both kinds, of whole squares of distances and of differences.
+class Weights {
+ public:
+  Weights(const Disc& disc, int channels) : disc_(disc), colours_(channels == 1 ? 1 : 3) {
+    for (int s = 0; s <= disc.radius * disc.radius; ++s) space_.push_back(Exp(-(s * Falloff(disc.space))));
+  }
+  float Of(int dx, int dy, const float (&d)[3]) const {
+    volatile float square = d[0] * d[0];
+    if (colours_ == 3 && disc_.norm == qvpNormL1) {
+      const volatile float sum = (std::fabs(d[0]) + std::fabs(d[1])) + std::fabs(d[2]);
+      square = sum * sum;
+    } else if (colours_ == 3) {
+      for (int c = 1; c < 3; ++c) {
+        const volatile float more = d[c] * d[c];
+        square = square + more;
+      }
+    }
+    const volatile float product = square * Falloff(disc_.range);
+    return space_[dx * dx + dy * dy] * Exp(-product);
+  }
+  int colours() const { return colours_; }
+
+ private:
+  const Disc& disc_;
+  int colours_;
+  std::vector<float> space_;
+};
+
+Real Expected(const Bordered& scene, const Weights& weights, int radius, int x, int y, int c) {
+  float middle[3];
+  for (int k = 0; k < weights.colours(); ++k) middle[k] = static_cast<float>(scene.Pixel(x, y, k));
+  volatile float sum = 0, all = 1;
+  const auto add = [&](int dx, int dy) {
+    volatile float weighted[2], weight[2];
+    for (const int side : {0, 1}) {
+      const int sign = side ? -1 : 1;
+      float d[3];
+      for (int k = 0; k < weights.colours(); ++k) {
+        d[k] = static_cast<float>(scene.Pixel(x + sign * dx, y + sign * dy, k)) - middle[k];
+      }
+      weight[side] = weights.Of(dx, dy, d);
+      weighted[side] = weight[side] * d[c];
+    }
+    const volatile float pair = weighted[0] + weighted[1], both = weight[0] + weight[1];
+    sum = sum + pair;
+    all = all + both;
+  };
+  for (int dy = 0; dy <= radius; ++dy) {
+    for (int dx = dy == 0 ? 1 : -radius; dx <= radius; ++dx) {
+      if (dx * dx + dy * dy <= radius * radius) add(dx, dy);
+    }
+  }
+  const volatile float mean = sum / all;
+  return static_cast<float>(middle[c] + mean);
+}
+
+// To the bit where all weights are 1; else by as much as weights may differ.
+bool IsClose(const Element& element, const Disc& disc, Real got, Real expected) {
+  if (std::isinf(disc.range) && std::isinf(disc.space)) return test::AreSame(got, test::Converted(element, expected));
+  if (!element.isInteger) return test::AreSame(got, expected) || std::fabs(got - expected) <= 1e-6 * 4e6;
+  return std::fabs(got - std::clamp(expected, element.lowest, element.highest)) <= 0.5 + element.highest * 1e-6;
+}
+
+void Check(const Export& function, const Disc& disc, const Bordered& scene) {
+  const Name name(function.name);
+  const Prepared prepared = Prepare(disc, name, scene.region.size);
+  const Weights weights(disc, name.channels);
+  test::ExpectResults(
+      function, scene,
+      [&](const test::Argument& dst) {
+        return test::Filter(function, scene, test::WholeOf(scene), prepared, {{"pDst", dst}});
+      },
+      [&](int x, int y, int c) { return Expected(scene, weights, disc.radius, x, y, c); },
+      "radius " + std::to_string(disc.radius) + " sigmas " + std::to_string(disc.range) + ' ' +
+          std::to_string(disc.space),
+      test::Guard::kAfter, [&](Real got, Real expected) { return IsClose(name.To(), disc, got, expected); });
+}
+
+TEST(FilterBilateral, EveryMemberEqualsItsFormula) {
+  constexpr float kRanges[] = {40, 5, 1e-30f, INFINITY, 300}, kSpaces[] = {1.5f, INFINITY, 0.2f, 4};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterBilateralBorder"})) {
+    const Name name(function->name);
+    for (const int radius : {1, 2, 3, 5, 7, 8, 10, 11}) {  // weights of pairs are kept, and no longer
+      for (int i = 0; i < (radius < 4 ? 6 : 2); ++i) {
+        const Disc disc{radius, 1 + ++turn % 2, kRanges[turn % 5], kSpaces[turn % 4]};
+        test::Region r = test::RegionOf(turn, name.channels);
+        if (radius > 3) r.size = {std::min(r.size.width, 30), 1 + turn % 4 * radius / 2};
+        Bordered scene(name.From(), disc.reach(), r);
+        if (turn % 3 == 0) {  // some that are close
+          scene.image.Fill([&, old = test::Samples(scene.image)](int x, int y) {
+            return name.From().isInteger ? 100 + (x * 7 + y * 3) % 23 : old(x, y) / 10000;
+          });
+        }
+        Check(*function, disc, scene);
+      }
+    }
+  }
+}
+
+TEST(FilterBilateral, WideRegionsAndTiles) {
+  for (const auto& [name, radius] : {std::pair{"qvpiFilterBilateralBorder_32f_C1R", 9},
+                                     {"qvpiFilterBilateralBorder_8u_C1R", 5},
+                                     {"qvpiFilterBilateralBorder_16u_C1R", 12}}) {
+    const Export& function = test::FunctionNamed(name);
+    const Disc disc{radius, qvpNormL1, 50, 3};
+    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+      const Bordered scene(Name(name).From(), {}, {{700, 40}, 1, kind});
+      const Prepared prepared = Prepare(disc, Name(name), {700, 40});
+      test::ExpectTilesEqualTheWhole(scene, {47, 20}, [&](const Part& part, const test::Argument& dst) {
+        return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
+      });
+    }
+  }
+  const Disc far{127, qvpNormL2, 100, 60};
+  Check(test::FunctionNamed("qvpiFilterBilateralBorder_8u_C3R"), far,
+        Bordered(test::ElementOf("8u"), far.reach(), {{3, 1}, 3, qvpBorderMirror}));
+}
+
+// What is not finite spreads as the formula says: an infinity less another is no number.
+TEST(FilterBilateral, NaNAndInfinities) {
+  for (const char* name : {"qvpiFilterBilateralBorder_32f_C1R", "qvpiFilterBilateralBorder_32f_C3R"}) {
+    const int channels = Name(name).channels;
+    for (const float bad : {NAN, INFINITY, -INFINITY, 3e38f}) {
+      for (const float space : {0.1f, 2.0f}) {
+        const Disc disc{3, qvpNormL1, 1e3f, space};
+        Bordered scene(test::ElementOf("32f"), {}, {{20, 9}, channels, qvpBorderReplicate});
+        scene.image.Put(9 * channels, 4, bad);
+        Check(test::FunctionNamed(name), disc, scene);
+      }
+    }
+  }
+}
+
+TEST(FilterBilateral, KnownValues) {
+  const auto filtered = [](const char* function, const Disc& disc, std::vector<int> pixels, int rows) {
+    const Name name(function);
+    const int samples = static_cast<int>(pixels.size());
+    Bordered scene(name.From(), {}, {{samples / name.channels, rows}, name.channels, qvpBorderReplicate});
+    scene.image.Fill([&](int x, int) { return pixels[x]; });
+    const test::Samples dst(name.To(), samples, rows, 0);
+    EXPECT_EQ(test::Filter(test::FunctionNamed(function), scene, test::WholeOf(scene),
+                           Prepare(disc, name, scene.region.size), {{"pDst", dst}}),
+              0);
+    for (int i = 0; i < samples; ++i) pixels[i] = static_cast<int>(dst(i, rows / 2));
+    return pixels;
+  };
+  const std::vector<int> step{0, 0, 100, 100, 100};
+  using Row = std::vector<int>;
+  const char *const grey = "qvpiFilterBilateralBorder_8u_C1R", *const colour = "qvpiFilterBilateralBorder_8u_C3R";
+  EXPECT_EQ(filtered(grey, {1, qvpNormL1, 100, 1}, step, 3), (Row{0, 12, 88, 100, 100}));
+  EXPECT_EQ(filtered(grey, {1, qvpNormL1, 1e-30f, 1}, step, 3), step);
+  EXPECT_EQ(filtered(grey, {1, qvpNormL2, INFINITY, 1}, step, 3), (Row{0, 18, 82, 100, 100}));
+  // One pixel that differs, in the middle of a row alone; its rows above and below are the same.
+  for (const auto& [norm, expected] : {std::pair{qvpNormL1, Row{26, 41, 30}}, {qvpNormL2, Row{22, 36, 30}}}) {
+    Bordered scene(test::ElementOf("8u"), {}, {{3, 3}, 3, qvpBorderReplicate});
+    scene.image.Fill([](int x, int y) { return y == 1 && x / 3 == 1 ? (Row{40, 60, 30})[x % 3] : 10 + x % 3 * 10; });
+    const test::Samples dst(test::ElementOf("8u"), 9, 3, 0);
+    ASSERT_EQ(test::Filter(test::FunctionNamed(colour), scene, test::WholeOf(scene),
+                           Prepare({1, norm, 50, 1}, Name(colour), {3, 3}), {{"pDst", dst}}),
+              0);
+    for (int c = 0; c < 3; ++c) EXPECT_EQ(dst(3 + c, 1), expected[c]);
+  }
+}
+
+TEST(FilterBilateral, RefusesInTheDocumentedOrder) {
+  int spec = 1, buffer = 1;
+  const auto size = [&](int radius, QvpiSize roi, int type, int channels) {
+    return qvpiFilterBilateralBorderGetSize(radius, roi, type, channels, &spec, &buffer);
+  };
+  EXPECT_EQ(qvpiFilterBilateralBorderGetSize(0, {}, 0, 0, &spec, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(size(0, {1, 0}, 0, 0), qvpStatusSize);
+  EXPECT_EQ(size(128, {1, 1}, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size(127, {1, 1}, qvp16s, 0), qvpStatusDataType);
+  EXPECT_EQ(size(127, {1, 1}, qvp32f, 2), qvpStatusNumChannels);
+  int before = 0;
+  for (int radius = 1; radius <= 127; ++radius) {
+    ASSERT_EQ(size(radius, {3000, 10}, qvp8u, 3), 0);
+    EXPECT_LE(std::exchange(before, buffer), buffer) << radius;
+  }
+  const test::Block block(8192), work(1 << 20);
+  auto* const record = reinterpret_cast<QvpiFilterBilateralBorderSpec*>(block.data());
+  Qvp8u pixels[64] = {}, out[64];
+  const auto filter = [&](int border = qvpBorderReplicate) {
+    return qvpiFilterBilateralBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, border, nullptr, record, work.data());
+  };
+  const auto init = [&](int radius, int norm, float range, float space, int type, int channels) {
+    EXPECT_EQ(qvpiFilterBilateralBorderInit(1, qvpNormL1, 1, 1, qvp8u, 1, record), 0);
+    EXPECT_EQ(filter(), 0);
+    const QvpStatus status = qvpiFilterBilateralBorderInit(radius, norm, range, space, type, channels, record);
+    EXPECT_EQ(filter(), qvpStatusContextMatch);
+    EXPECT_EQ(filter(2), qvpStatusBorder);
+    return status;
+  };
+  EXPECT_EQ(qvpiFilterBilateralBorderInit(0, 0, 0, 0, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(init(0, 3, 0, 0, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(init(1, 3, 0, 0, qvp16s, 0), qvpStatusDataType);
+  EXPECT_EQ(init(1, 3, 0, 0, qvp8u, 2), qvpStatusNumChannels);
+  EXPECT_EQ(init(1, 3, 0, 0, qvp8u, 1), qvpStatusNotSupportedMode);
+  for (const float sigma : {0.0f, -1.0f, NAN}) {
+    EXPECT_EQ(init(1, 1, sigma, 1, qvp8u, 1), qvpStatusBadArgument);
+    EXPECT_EQ(init(1, 2, 1, sigma, qvp8u, 1), qvpStatusBadArgument);
+  }
+  EXPECT_EQ(init(1, 1, 1, 1, qvp16u, 1), 0);
+  EXPECT_EQ(init(1, 1, 1, 1, qvp8u, 3), 0);
+}
+
+}  // namespace

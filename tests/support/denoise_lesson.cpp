@@ -1,0 +1,64 @@
+// Parameters of the filters that keep edges.
+#include <cmath>
+#include <stdexcept>
+
+#include "tests/support/lessons.h"
+#include "tests/support/name.h"
+
+namespace test {
+namespace {
+
+struct Disc {
+  QvpDataType type = qvp8u;
+  int channels = 1, radius;
+  QvpNormType norm;
+  float range, space;
+};
+
+// The radius is within what lies around images.
+Disc DiscOf(const Scene& scene) {
+  constexpr int kRadii[] = {1, 2, 3, 5, 7, 8}, kNorms[] = {qvpNormL1, qvpNormL2};
+  constexpr float kRanges[] = {3, 20, 200, INFINITY, 1e-30f}, kSpaces[] = {0.3f, 1, 3, INFINITY};
+  Random random = scene.choices();
+  const auto any = [&](const auto& list) { return list[random.Next() % std::size(list)]; };
+  Disc disc{.radius = any(kRadii), .norm = any(kNorms), .range = any(kRanges), .space = any(kSpaces)};
+  const Name name(scene.function().name);
+  if (!name.layout.empty()) disc.type = name.From().code, disc.channels = name.channels;
+  return disc;
+}
+
+}  // namespace
+
+bool BilateralLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const Disc disc = DiscOf(scene);
+  int spec = 0, buffer = 0;
+  if (qvpiFilterBilateralBorderGetSize(disc.radius, scene.roi(), disc.type, disc.channels, &spec, &buffer)) {
+    throw std::runtime_error("qvpiFilterBilateralBorderGetSize");
+  }
+  if (name == "radius") {
+    argument = disc.radius;
+  } else if (name == "normType") {
+    argument = disc.norm;
+  } else if (name == "sigmaRange" || name == "sigmaSpace") {
+    argument = name == "sigmaRange" ? disc.range : disc.space;
+  } else if (name == "dataType") {
+    argument = disc.type;
+  } else if (name == "numChannels") {
+    argument = disc.channels;
+  } else if (name == "pBuffer") {
+    argument = {scene.Input(buffer)};
+  } else if (name == "pSpec") {
+    auto* const record = reinterpret_cast<QvpiFilterBilateralBorderSpec*>(scene.Input(spec));
+    argument = {record};
+    if (!scene.Has("Init") && qvpiFilterBilateralBorderInit(disc.radius, disc.norm, disc.range, disc.space, disc.type,
+                                                            disc.channels, record)) {
+      throw std::runtime_error("qvpiFilterBilateralBorderInit");
+    }
+  } else {
+    return WindowLesson(scene, place, argument);
+  }
+  return true;
+}
+
+}  // namespace test
