@@ -15,6 +15,16 @@ HWY_INLINE void ForEachVector(ptrdiff_t n, const Step& step) {
   if (i < n) step(n - kStride);
 }
 
+// step(d, i) for each vector of D, then, with a tag of one lane, for the elements that are left: for rows in place, or
+// without room behind them.
+template <class D, class Step>
+HWY_INLINE void ForEachElement(D, ptrdiff_t n, const Step& step) {
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  ptrdiff_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) step(D(), i);
+  for (; i < n; ++i) step(hn::CappedTag<hn::TFromD<D>, 1>(), i);
+}
+
 // The same for rows that may be their own source: store(i, at(i, phase)), where the last vector is computed before the
 // first one is stored. kSteps vectors go at a time. `phase` is i modulo kSteps vectors but in the last few, so that it
 // is a constant in the loop: what has a period that divides kSteps vectors may go by it.

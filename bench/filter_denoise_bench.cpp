@@ -1,4 +1,6 @@
 // Filters that remove noise and keep edges.
+#include <fftw3.h>
+
 #include "bench/filters.h"
 
 namespace {
@@ -22,8 +24,37 @@ void AddBilateral(const std::string& name, QvpiSize size, int channels, int radi
          [=] { cv::bilateralFilter(a.mat, b.mat, 2 * radius + 1, range, space, kPeerBorder); }, atLeast}}});
 }
 
+// The peer makes the cosine transforms of as many iterations alone.
+void AddLeastSquares(QvpiSize size, double atLeast) {
+  constexpr int kIterations = 4;
+  const Image<float> a = Scene<float>(size, 1), b(size, 1);
+  int specBytes, bufferBytes;
+  Require(qvpiFilterLeastSquaresGetSize(size, qvp32f, 1, &specBytes, &bufferBytes));
+  const Prepared<QvpiFilterLeastSquaresSpec> prepared{Pixels<Qvp8u>(specBytes), Pixels<Qvp8u>(bufferBytes)};
+  Require(qvpiFilterLeastSquaresInit(size, 1, 0.8f, 1e-4f, kIterations, qvp32f, 1, prepared.get()));
+  const auto plan = [&](fftwf_r2r_kind kind) {
+    return fftwf_plan_r2r_2d(size.height, size.width, a.data(), b.data(), kind, kind, FFTW_MEASURE);
+  };
+  const fftwf_plan forward = plan(FFTW_REDFT10), inverse = plan(FFTW_REDFT01);
+  Add({Name("least squares 32f C1, 4 iterations", size),
+       {a.bytes(), b.bytes()},
+       [=] {
+         Require(
+             qvpiFilterLeastSquares_32f_C1R(a.data(), a.step, b.data(), b.step, prepared.get(), prepared.buffer.get()));
+       },
+       {{"FFTW 2D cosine transforms alone",
+         [=] {
+           for (int i = 0; i < kIterations; ++i) {
+             fftwf_execute_r2r(forward, a.data(), b.data());
+             fftwf_execute_r2r(inverse, b.data(), b.data());
+           }
+         },
+         atLeast}}});
+}
+
 const bool kRegistered = [] {
   cv::setNumThreads(1);
+  for (const QvpiSize size : {kTile, kVga, kHd}) AddLeastSquares(size, 0);
   const auto grey = qvpiFilterBilateralBorder_8u_C1R;
   AddBilateral<uint8_t>("bilateral 2 8u C1", kHd, 1, 2, grey, 1.2);
   for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {

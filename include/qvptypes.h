@@ -253,6 +253,7 @@ typedef struct QvpiFilterMorphologyBorderSpec QvpiFilterMorphologyBorderSpec; /*
 typedef struct QvpiFilterSeparableBorderSpec QvpiFilterSeparableBorderSpec; /**< separable filter */
 typedef struct QvpiFilterGaussBorderSpec QvpiFilterGaussBorderSpec; /**< Gauss filter */
 typedef struct QvpiFilterBilateralBorderSpec QvpiFilterBilateralBorderSpec; /**< bilateral filter */
+typedef struct QvpiFilterLeastSquaresSpec QvpiFilterLeastSquaresSpec; /**< iterative least-squares filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
 typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
 typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */

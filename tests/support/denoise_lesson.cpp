@@ -61,4 +61,40 @@ bool BilateralLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const Disc about = DiscOf(scene);
+  Random random = scene.choices();
+  const int turn = static_cast<int>(random.Next() % 4);
+  constexpr float kLambdas[] = {1, 0.1f, 0.5f, 0}, kPowers[] = {0.8f, 2, 0.3f, 1}, kEps[] = {1e-4f, 1, 1e-6f, 1e-3f};
+  const int iterations = 1 + turn, channels = about.channels == 1 ? 1 : 3;
+  int spec = 0, buffer = 0;
+  if (qvpiFilterLeastSquaresGetSize(scene.roi(), about.type, channels, &spec, &buffer)) {
+    throw std::runtime_error("qvpiFilterLeastSquaresGetSize");
+  }
+  if (name == "lambda") {
+    argument = kLambdas[turn];
+  } else if (name == "power" || name == "eps") {
+    argument = name == "power" ? kPowers[turn] : kEps[turn];
+  } else if (name == "numIterations") {
+    argument = iterations;
+  } else if (name == "dataType") {
+    argument = about.type;
+  } else if (name == "numChannels") {
+    argument = channels;
+  } else if (name == "pBuffer") {
+    argument = {scene.Input(buffer)};
+  } else if (name == "pSpec") {
+    auto* const record = reinterpret_cast<QvpiFilterLeastSquaresSpec*>(scene.Input(spec));
+    argument = {record};
+    if (!scene.Has("Init") && qvpiFilterLeastSquaresInit(scene.roi(), kLambdas[turn], kPowers[turn], kEps[turn],
+                                                         iterations, about.type, channels, record)) {
+      throw std::runtime_error("qvpiFilterLeastSquaresInit");
+    }
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace test

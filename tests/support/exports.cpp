@@ -41,6 +41,7 @@ constexpr struct {
     {"qvpiFilterDilate", ExtremesLesson},
     {"qvpiFilterErode", ExtremesLesson},
     {"qvpiFilterGauss", GaussLesson},
+    {"qvpiFilterLeastSquares", LeastSquaresLesson},
     {"qvpiFilterMax", ExtremesLesson},
     {"qvpiFilterMin", ExtremesLesson},
     {"qvpiFilterMorphology", ExtremesLesson},

@@ -16,6 +16,7 @@ bool FourierLesson(Scene& scene, size_t place, Argument& argument);
 bool GaussLesson(Scene& scene, size_t place, Argument& argument);
 bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
+bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument);
 bool LookupLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);
