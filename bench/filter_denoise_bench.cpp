@@ -24,6 +24,33 @@ void AddBilateral(const std::string& name, QvpiSize size, int channels, int radi
          [=] { cv::bilateralFilter(a.mat, b.mat, 2 * radius + 1, range, space, kPeerBorder); }, atLeast}}});
 }
 
+// The peer's means and means of squares are those of floats.
+template <class T, class Call>
+void AddWiener(const std::string& name, QvpiSize size, int side, Call call, double atLeast) {
+  const Image<T> a = Scene<T>(size, 1), b(size, 1);
+  constexpr float kNoise = 0.001f, kVariance = kNoise * (std::is_same_v<T, float> ? 1 : 255 * 255);
+  int bytes;
+  Require(qvpiFilterWienerBorderGetBufferSize({side, side}, size, kType<T>, 1, &bytes));
+  const auto buffer = Pixels<Qvp8u>(bytes);
+  Add({Name(name, size),
+       {a.bytes(), b.bytes()},
+       [=] {
+         Require(call(a.data(), a.step, b.data(), b.step, size, {side, side}, kNoise, kBorder, nullptr, buffer.get()));
+       },
+       {{"OpenCV boxFilter, sqrBoxFilter and arithmetic",
+         [=] {
+           cv::Mat p, mean, variance, gain;
+           a.mat.convertTo(p, CV_32F);
+           cv::boxFilter(a.mat, mean, CV_32F, {side, side}, {-1, -1}, true, kPeerBorder);
+           cv::sqrBoxFilter(a.mat, variance, CV_32F, {side, side}, {-1, -1}, true, kPeerBorder);
+           variance -= mean.mul(mean);
+           cv::max(variance - kVariance, 0, gain);
+           cv::divide(gain, variance, gain);
+           cv::Mat(mean + (p - mean).mul(gain)).convertTo(b.mat, a.mat.type());
+         },
+         atLeast}}});
+}
+
 // The peer makes the cosine transforms of as many iterations alone.
 void AddLeastSquares(QvpiSize size, double atLeast) {
   constexpr int kIterations = 4;
@@ -54,7 +81,14 @@ void AddLeastSquares(QvpiSize size, double atLeast) {
 
 const bool kRegistered = [] {
   cv::setNumThreads(1);
-  for (const QvpiSize size : {kTile, kVga, kHd}) AddLeastSquares(size, 0);
+  for (const QvpiSize size : {kTile, kVga, kHd}) {
+    AddLeastSquares(size, 0);
+    AddWiener<uint8_t>("Wiener 5x5 8u C1", size, 5, qvpiFilterWienerBorder_8u_C1R, 3);
+  }
+  AddWiener<uint8_t>("Wiener 5x5 8u C1", kLarge, 5, qvpiFilterWienerBorder_8u_C1R, 1);
+  AddWiener<uint8_t>("Wiener 31x31 8u C1", kHd, 31, qvpiFilterWienerBorder_8u_C1R, 1);
+  AddWiener<uint16_t>("Wiener 5x5 16u C1", kHd, 5, qvpiFilterWienerBorder_16u_C1R, 1);
+  AddWiener<float>("Wiener 5x5 32f C1", kHd, 5, qvpiFilterWienerBorder_32f_C1R, 1);
   const auto grey = qvpiFilterBilateralBorder_8u_C1R;
   AddBilateral<uint8_t>("bilateral 2 8u C1", kHd, 1, 2, grey, 1.2);
   for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {

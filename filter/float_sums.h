@@ -7,16 +7,17 @@
 namespace qvp::filter {
 
 // The latest rows of a level, by how far they begin behind the row of results.
+template <class E>
 class LevelRing {
  public:
   LevelRing() = default;
   // Those from offset `oldest` on are used for the row of results y.
-  LevelRing(const RowRoom<float>& room, int depth, ptrdiff_t oldest, ptrdiff_t y)
+  LevelRing(const RowRoom<E>& room, int depth, ptrdiff_t oldest, ptrdiff_t y)
       : rows_(room),
         places_(depth),
         first_(oldest - static_cast<uint32_t>(y + oldest) % static_cast<uint32_t>(depth)) {}
 
-  float* Row(ptrdiff_t offset) const {
+  E* Row(ptrdiff_t offset) const {
     ptrdiff_t place = offset - first_;
     if (place >= places_) place -= places_;
     if (place < 0) place += (places_ - 1 - place) / places_ * places_;  // older ones, before the first row of results
@@ -24,26 +25,27 @@ class LevelRing {
   }
 
  private:
-  RowRoom<float> rows_;
+  RowRoom<E> rows_;
   int32_t places_;
   ptrdiff_t first_;  // the offset whose place is the first one
 };
 
 // What a line of the window adds to the levels: itself or its sums across, and the sum of each level that it completes
 // with an older one of the level before.
+template <class E>
 struct LineSums {
-  using D = hn::ScalableTag<float>;
+  using D = hn::ScalableTag<E>;
 
   int levels;
-  float* line;  // null if it is in the window
-  std::array<const float*, SumTree::kMostTerms> older;
-  std::array<float*, SumTree::kMostTerms> sums;
+  E* line;  // null if it is in the window
+  std::array<const E*, SumTree::kMostTerms> older;
+  std::array<E*, SumTree::kMostTerms> sums;
 
   template <int kCount>
   HWY_INLINE void Put(std::array<hn::Vec<D>, kCount> v, ptrdiff_t i) const {
     if (line) Store(v, line + i);
     for (int level = 0; level < levels; ++level) {
-      const float* const from = older[level] + i;
+      const E* const from = older[level] + i;
       Unrolled<kCount>([&](auto k) QVP_INLINED { v[k] = hn::Add(hn::LoadU(D(), from + k * kLanes), v[k]); });
       Store(v, sums[level] + i);
     }
@@ -53,17 +55,18 @@ struct LineSums {
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
 
   template <size_t kCount>
-  static HWY_INLINE void Store(const std::array<hn::Vec<D>, kCount>& v, float* to) {
+  static HWY_INLINE void Store(const std::array<hn::Vec<D>, kCount>& v, E* to) {
     Unrolled<static_cast<int>(kCount)>([&](auto k) QVP_INLINED { hn::StoreU(v[k], D(), to + k * kLanes); });
   }
 };
 
 // The levels of sums down the columns, for a row of results.
+template <class E>
 class ColumnLevels {
  public:
-  ColumnLevels(const SumTree& tree, const Window& window, const RowRoom<float>& room, bool keepsLines)
-      : tree_(tree), lines_(reinterpret_cast<const float* const*>(window.lines)), keepsLines_(keepsLines) {
-    RowRoom<float> rest = room;
+  ColumnLevels(const SumTree& tree, const Window& window, const RowRoom<E>& room, bool keepsLines)
+      : tree_(tree), lines_(reinterpret_cast<const E* const*>(window.lines)), keepsLines_(keepsLines) {
+    RowRoom<E> rest = room;
     for (int level = 0; level <= tree.levels(); ++level) {
       const int depth = tree.Depth(level);
       rings_[level] = {rest, depth, tree.Oldest(level), window.y};
@@ -71,8 +74,8 @@ class ColumnLevels {
     }
   }
 
-  LineSums Line(ptrdiff_t line) const {
-    LineSums sums;
+  LineSums<E> Line(ptrdiff_t line) const {
+    LineSums<E> sums;
     sums.line = keepsLines_ ? rings_[0].Row(line) : nullptr;
     sums.levels = 0;
     for (int level = 1; level <= tree_.levels() && line + 1 >= tree_.Length(level); ++level) {
@@ -83,19 +86,19 @@ class ColumnLevels {
     return sums;
   }
 
-  TreeParts<float> Parts() const {
-    return TreeParts<float>(tree_, [&](int level, ptrdiff_t offset) { return Row(level, offset); });
+  TreeParts<E> Parts() const {
+    return TreeParts<E>(tree_, [&](int level, ptrdiff_t offset) { return Row(level, offset); });
   }
 
  private:
-  const float* Row(int level, ptrdiff_t line) const {
+  const E* Row(int level, ptrdiff_t line) const {
     return level == 0 && !keepsLines_ ? lines_[line] : rings_[level].Row(line);
   }
 
   const SumTree& tree_;
-  const float* const* lines_;
+  const E* const* lines_;
   bool keepsLines_;  // as what is added down: else it is those of the window
-  std::array<LevelRing, SumTree::kMostTerms> rings_;
+  std::array<LevelRing<E>, SumTree::kMostTerms> rings_;
 };
 
 inline SumTree TreeAcross(ptrdiff_t n) { return SumTree(n, 2); }
@@ -137,10 +140,10 @@ struct FloatSums {
     const ptrdiff_t last = shape.height - 1;
     if (last == 0) return FinishRow<float>(finish, PartsOf(window, 0), window.samples, row);
     const RowRoom<float> room{window.kept, window.keptStep};
-    const ColumnLevels levels(down, window, room.From(across.levels()), shape.width > 1);
+    const ColumnLevels<float> levels(down, window, room.From(across.levels()), shape.width > 1);
     for (ptrdiff_t line = window.y == 0 ? 0 : last; line < last; ++line) Add(levels.Line(line), window, line);
     const auto columns = levels.Parts();
-    const LineSums newest = levels.Line(last);
+    const LineSums<float> newest = levels.Line(last);
     const auto parts = PartsOf(window, last);
     const float* const ahead = static_cast<const float*>(window.lines[last]) + kAhead;
     FinishRow<float>(finish, window.samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
@@ -152,7 +155,7 @@ struct FloatSums {
   }
 
   // One line of those of the first row of results.
-  HWY_NOINLINE void Add(const LineSums& sums, const Window& window, ptrdiff_t line) const {
+  HWY_NOINLINE void Add(const LineSums<float>& sums, const Window& window, ptrdiff_t line) const {
     const auto parts = PartsOf(window, line);
     ForEachVectors<2, ptrdiff_t{hn::MaxLanes(D())}>(window.samples, [&](auto count, ptrdiff_t i) QVP_INLINED {
       sums.Put<count>(TreeSums<count>(D(), parts, i), i);

@@ -216,6 +216,88 @@ QvpStatus qvpiFilterLeastSquares_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f
 QvpStatus qvpiFilterLeastSquares_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiFilterLeastSquaresSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Wiener filter: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of the Wiener filter.
+ *
+ *  The buffer serves smaller masks, too, and all borders. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask: odd, 1 to 255
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 255
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterWienerBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Wiener filter
+ *  @{ */
+/** Removes noise of a known variance (film grain, noise of a sensor): where a mask sees no more variance than that, a
+ *  pixel becomes the mean under the mask; the more it sees, the nearer the result is to the pixel (Lim 1990).
+ *
+ *  @code
+ *    mean = sum(p) / n,  variance = sum(p^2) / n - mean^2,  over the n pixels p of the mask around the pixel
+ *    dst  = mean + (src - mean) * max(0, variance - noise * full range^2) / variance
+ *  @endcode
+ *
+ *  channel by channel, with the full range 255 (8u), 65535 (16u, 16s) or 1 (32f). Noise of a standard deviation of 10
+ *  levels of 8 bits is (10 / 255)^2 = 0.0015. With noise 0 integers pass unchanged; constants always do. One pixel of 200
+ *  in 10 under a mask of 3x3 with noise 0.01 gives 169, and 14 beside it.
+ *
+ *  Without divisions on the way, in double precision: s1 = sum(p), s2 = sum(p^2), d = n * s2 - s1^2, which is exact for
+ *  integers and rounded once, v = noise * (full range * n)^2, g = d > v ? (d - v) / d : 0,
+ *  dst = (s1 + (n * p - s1) * g) / n. Integers are rounded to the nearest, ties to even, and saturated. Floats are summed
+ *  along rows, then down columns, in the order that qvpiFilterBoxBorder has. A NaN or an infinity under the mask makes the
+ *  result NaN. AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask: odd, 1 to 255; its middle is at the pixel
+ *  @param noise variance of the noise, of pixels between 0 and 1; for colour one for each channel, three for AC4: at least
+ *         0, below 1
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterWienerBorderGetBufferSize() tells for this or a larger mask and
+ *         region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst`, `noise` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize, qvpStatusNoiseRange, qvpStatusBorder: `maskSize`, `noise`, `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterWienerBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f noise, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[4], QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f noise, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[4], QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f noise, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[4], QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f noise, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[4], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterWienerBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -57,21 +57,12 @@ QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask,
   return test::Filter(function, scene, part, test::Prepared(bytes), others);
 }
 
-// The sum of n floats in the order of a tree: powers of two from the largest on, each of two halves.
-template <class Value>
-float TreeSum(int n, const Value& value, int at = 0) {
-  if (n == 1) return value(at);
-  const int first = (n & (n - 1)) == 0 ? n / 2 : 1 << (31 - __builtin_clz(n));
-  const volatile float sum = TreeSum(first, value, at) + TreeSum(n - first, value, at + first);
-  return sum;
-}
-
 // Sums of n values from each of `count` places on, `apart` from each other.
 std::vector<Real> SumsAlong(bool isInteger, const std::vector<Real>& values, int n, int apart, int count) {
   std::vector<Real> sums(count);
   for (int i = 0; i < count; ++i) {
     if (!isInteger) {
-      sums[i] = TreeSum(n, [&](int k) { return static_cast<float>(values[i + k * apart]); });
+      sums[i] = test::TreeSum<float>(n, [&](int k) { return static_cast<float>(values[i + k * apart]); });
     } else if (i >= apart) {  // exact, so that they may run
       sums[i] = sums[i - apart] - values[i - apart] + values[i + (n - 1) * apart];
     } else {

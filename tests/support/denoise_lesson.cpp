@@ -97,4 +97,30 @@ bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+bool WienerLesson(Scene& scene, size_t place, Argument& argument) {
+  constexpr QvpiSize kMasks[] = {{3, 3}, {5, 5}, {1, 1}, {7, 3}, {1, 9}, {15, 5}};
+  constexpr float kNoises[] = {0.01f, 0, 0.3f, 0.0001f};
+  const auto& [type, name] = scene.function().parameters[place];
+  const QvpiSize mask = kMasks[scene.choices().Next() % std::size(kMasks)];
+  const Disc about = DiscOf(scene);
+  if (name == "maskSize") {
+    argument = mask;
+  } else if (name == "noise" && type.ends_with('*')) {
+    auto* const noise = reinterpret_cast<float*>(scene.Input(4 * sizeof(float)));
+    for (int c = 0; c < 4; ++c) noise[c] = kNoises[scene.random().Next() % std::size(kNoises)];
+    argument = {noise};
+  } else if (name == "noise") {
+    argument = kNoises[scene.random().Next() % std::size(kNoises)];
+  } else if (name == "pBuffer") {
+    int size = 0;
+    if (qvpiFilterWienerBorderGetBufferSize(mask, scene.roi(), about.type, about.channels, &size)) {
+      throw std::runtime_error("qvpiFilterWienerBorderGetBufferSize");
+    }
+    argument = {scene.Input(size)};
+  } else {
+    return WindowLesson(scene, place, argument);
+  }
+  return true;
+}
+
 }  // namespace test

@@ -47,6 +47,7 @@ constexpr struct {
     {"qvpiFilterMorphology", ExtremesLesson},
     {"qvpiFilterSeparable", SeparableLesson},
     {"qvpiFilterSum", SumsLesson},
+    {"qvpiFilterWiener", WienerLesson},
     {"qvpiGetAffine", TransformLesson},
     {"qvpiGetBilinear", TransformLesson},
     {"qvpiGetCentralMoment", MomentLesson},

@@ -33,6 +33,7 @@ bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument);
+bool WienerLesson(Scene& scene, size_t place, Argument& argument);
 bool WindowLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test

@@ -30,6 +30,15 @@ inline Real Quotient(const Element& element, int64_t n, int64_t d, QvpRoundMode 
   return std::clamp<Real>((n < 0 ? -1 : 1) * (whole + isUp), element.lowest, element.highest);
 }
 
+// The sum of n values in the order of a tree: powers of two from the largest on, each of two halves.
+template <class F, class Value>
+F TreeSum(int n, const Value& value, int at = 0) {
+  if (n == 1) return value(at);
+  const int first = (n & (n - 1)) == 0 ? n / 2 : 1 << (31 - __builtin_clz(n));
+  const volatile F sum = TreeSum<F>(first, value, at) + TreeSum<F>(n - first, value, at + first);
+  return sum;
+}
+
 // A kind besides those of QvpiBorderType: the image is repeated.
 constexpr int kWrap = 2;
 // What BorderPosition gives for the constant.

@@ -1,0 +1,184 @@
+// The Wiener filter against its formula, operation by operation.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+
+namespace {
+using test::Bordered;
+using test::Export;
+using test::Name;
+using test::Part;
+using test::Prepared;
+using test::Real;
+
+Prepared Buffer(const Name& name, QvpiSize mask, QvpiSize roi) {
+  int bytes = 0;
+  EXPECT_EQ(qvpiFilterWienerBorderGetBufferSize(mask, roi, name.From().code, name.channels, &bytes), 0);
+  EXPECT_LE(bytes, 192LL * (mask.height + 4) * (roi.width + mask.width) * name.channels + (1 << 20));
+  return Prepared(bytes);
+}
+
+// One channel's noise is a number, that of more is pointed at.
+test::Argument NoiseFor(const Name& name, const float* noise) {
+  return name.channels == 1 ? test::Argument(noise[0]) : test::Argument(noise);
+}
+
+double Product(double a, double b) {
+  const volatile double product = a * b;
+  return product;
+}
+
+Real Expected(const Name& name, QvpiSize mask, double noise, const auto& pixel) {
+  const double n = double(mask.width) * mask.height;
+  const auto sum = [&](auto zero, auto of) {
+    using F = decltype(zero);
+    return test::TreeSum<F>(mask.height, [&](int j) {
+      return test::TreeSum<F>(
+          mask.width, [&](int i) { return of(static_cast<F>(pixel(i - mask.width / 2, j - mask.height / 2))); });
+    });
+  };
+  double s1, deviation;
+  if (name.From().isInteger) {
+    const __int128 exact = sum(__int128(), [](__int128 p) { return p; });
+    s1 = static_cast<double>(exact);
+    deviation = static_cast<double>(static_cast<__int128>(n) * sum(__int128(), [](__int128 p) { return p * p; }) -
+                                    exact * exact);
+  } else {
+    s1 = sum(double(), [](double p) { return p; });
+    deviation = Product(n, sum(double(), [](double p) { return Product(p, p); })) - Product(s1, s1);
+  }
+  const double unit = !name.From().isInteger ? 1 : name.From().bytes == 1 ? 255 : 65535;
+  const double variance = Product(noise, Product(unit * n, unit * n));
+  const volatile double rest = deviation - variance;
+  const volatile double gain = deviation > variance ? rest / deviation : 0;
+  const volatile double distance = Product(n, static_cast<double>(pixel(0, 0))) - s1;
+  const volatile double total = s1 + Product(distance, gain);
+  const Real result = total / n;
+  return test::Converted(name.To(), result);
+}
+
+void Check(const Export& function, QvpiSize mask, const float* noise, const Bordered& scene) {
+  const Name name(function.name);
+  const Prepared buffer = Buffer(name, mask, scene.region.size);
+  test::ExpectResults(
+      function, scene,
+      [&](const test::Argument& dst) {
+        return test::Filter(function, scene, test::WholeOf(scene), buffer,
+                            {{"pDst", dst}, {"maskSize", mask}, {"noise", NoiseFor(name, noise)}});
+      },
+      [&](int x, int y, int c) {
+        return Expected(name, mask, noise[c], [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); });
+      },
+      test::Shown(mask) + " noise " + std::to_string(noise[0]));
+}
+
+TEST(FilterWiener, EveryMemberEqualsItsFormula) {
+  constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 5}, {1, 7}, {9, 1}, {7, 3}, {15, 5}, {3, 31}};
+  constexpr float kNoise[][4] = {{0.01f, 0.2f, 0.0001f, 0.5f}, {0, 0.99999994f, 0.05f, 0}, {0.05f, 0.001f, 0, 0.01f}};
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterWienerBorder"})) {
+    const Name name(function->name);
+    for (const QvpiSize mask : kMasks) {
+      for (int i = 0; i < 3; ++i, ++turn) {
+        test::Region r = test::RegionOf(turn, name.channels);
+        if (mask.width * mask.height > 50) r.size.width = std::min(r.size.width, 70);
+        Bordered scene(name.From(), test::ReachOf(mask), r);
+        if (!name.From().isInteger) {
+          test::Random random(turn);
+          scene.image.Fill([&](int, int) {
+            return random.Next() % 97 == 0 && i == 2 ? EdgeValue(name.From(), random)
+                                                     : static_cast<float>(random.Next() % 1000 / 999.0);
+          });
+        }
+        Check(*function, mask, kNoise[i], scene);
+      }
+    }
+  }
+}
+
+// Sums and products at the ends of the types, and beside constants.
+TEST(FilterWiener, LargeMasks) {
+  for (const auto& [type, low, high] : {std::tuple{"8u", 0, 255}, {"16u", 0, 65535}, {"16s", -32768, 32767}}) {
+    const Export& function = test::FunctionNamed(std::string("qvpiFilterWienerBorder_") + type + "_C1R");
+    for (const QvpiSize mask : {QvpiSize{255, 255}, {255, 1}, {101, 99}}) {
+      for (int pattern = 0; pattern < 4; ++pattern) {
+        Bordered scene(test::ElementOf(type), {}, {{7, 2}, 1, qvpBorderReplicate});
+        scene.image.Fill([&, l = low, h = high](int x, int y) {
+          return pattern == 0   ? h
+                 : pattern == 1 ? (x == 5 && y == 1 ? h - 1 : h)
+                 : pattern == 2 ? (x < 3 ? l : h)
+                 : (x + y) % 2  ? l
+                                : h;
+        });
+        constexpr float kNoises[] = {0, 1e-9f, 0.3f, 0.1f};
+        Check(function, mask, &kNoises[pattern], scene);
+      }
+    }
+  }
+}
+
+TEST(FilterWiener, KnownValues) {
+  const Export& function = test::FunctionNamed("qvpiFilterWienerBorder_8u_C1R");
+  for (const auto& [noise, middle, beside] :
+       {std::tuple{0.0f, 200, 10}, {0.01f, 169, 14}, {0.05f, 46, 29}, {0.999f, 31, 31}}) {
+    Bordered scene(test::ElementOf("8u"), {}, {{5, 5}, 1, qvpBorderReplicate});
+    scene.image.Fill([](int x, int y) { return x == 2 && y == 2 ? 200 : 10; });
+    const test::Samples dst(test::ElementOf("8u"), 5, 5, 0);
+    ASSERT_EQ(test::Filter(function, scene, test::WholeOf(scene), Buffer(Name(function.name), {3, 3}, {5, 5}),
+                           {{"pDst", dst}, {"maskSize", QvpiSize{3, 3}}, {"noise", noise}}),
+              0);
+    EXPECT_EQ(dst(2, 2), middle) << noise;
+    EXPECT_EQ(dst(1, 2), beside) << noise;
+    EXPECT_EQ(dst(0, 0), 10) << noise;
+  }
+}
+
+TEST(FilterWiener, TilesEqualTheWhole) {
+  for (const char* const type : {"32f", "16u"}) {
+    const Export& function = test::FunctionNamed(std::string("qvpiFilterWienerBorder_") + type + "_C1R");
+    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+      const Bordered scene(test::ElementOf(type), {}, {{1500, 40}, 1, kind});
+      test::ExpectTilesEqualTheWhole(scene, {70, 20}, [&](const Part& part, const test::Argument& dst) {
+        return test::Filter(function, scene, part, Buffer(Name(function.name), {11, 9}, part.size),
+                            {{"pDst", dst}, {"maskSize", QvpiSize{11, 9}}, {"noise", 0.02f}});
+      });
+    }
+  }
+}
+
+TEST(FilterWiener, RefusesInTheDocumentedOrder) {
+  int bytes = 1;
+  const auto size = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
+    return qvpiFilterWienerBorderGetBufferSize(mask, roi, type, channels, &bytes);
+  };
+  EXPECT_EQ(qvpiFilterWienerBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(size({}, {1, 0}, 0, 0), qvpStatusSize);
+  EXPECT_EQ(size({3, 257}, {1, 1}, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size({2, 3}, {1, 1}, 0, 0), qvpStatusMaskSize);
+  EXPECT_EQ(size({3, 3}, {1, 1}, 99, 0), qvpStatusDataType);
+  EXPECT_EQ(size({3, 3}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
+  int before = 0;
+  for (int side = 1; side <= 255; side += 2) {
+    ASSERT_EQ(size({side, side}, {3000, 10}, qvp8u, 3), 0);
+    EXPECT_LE(std::exchange(before, bytes), bytes) << side;
+  }
+  const test::Block work(1 << 20);
+  Qvp8u pixels[64] = {}, out[64];
+  const auto filter = [&](int step, QvpiSize roi, QvpiSize mask, const float* noise, int border) {
+    return qvpiFilterWienerBorder_8u_C3R(pixels, 12, out, step, roi, mask, noise, border, nullptr, work.data());
+  };
+  constexpr float kNoise[3] = {0.1f, 0.2f, 0.3f};
+  EXPECT_EQ(filter(0, {}, {}, nullptr, 99), qvpStatusNullPointer);
+  EXPECT_EQ(filter(0, {}, {}, kNoise, qvpBorderConst), qvpStatusNullPointer);
+  EXPECT_EQ(filter(0, {}, {}, kNoise, 99), qvpStatusSize);
+  EXPECT_EQ(filter(11, {4, 2}, {}, kNoise, 99), qvpStatusStep);
+  for (const float bad : {-0.1f, 1.0f, NAN}) {
+    const float noise[3] = {0.1f, 0.1f, bad};
+    EXPECT_EQ(filter(12, {4, 2}, {4, 3}, noise, 99), qvpStatusMaskSize);
+    EXPECT_EQ(filter(12, {4, 2}, {3, 3}, noise, 99), qvpStatusNoiseRange);
+  }
+  EXPECT_EQ(filter(12, {4, 2}, {3, 3}, kNoise, qvpBorderReplicateAlt), qvpStatusBorder);
+  EXPECT_EQ(filter(12, {4, 2}, {3, 3}, kNoise, qvpBorderMirror), 0);
+}
+
+}  // namespace
