@@ -2,6 +2,7 @@
 // otherwise.
 #pragma once
 
+#include "base/channels.h"
 #include "base/gather.h"
 #include "base/map.h"
 #include "geometry/sample_task.h"
