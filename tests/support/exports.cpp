@@ -43,6 +43,7 @@ constexpr struct {
     {"qvpiFilterGauss", GaussLesson},
     {"qvpiFilterLeastSquares", LeastSquaresLesson},
     {"qvpiFilterMax", ExtremesLesson},
+    {"qvpiFilterMedian", MedianLesson},
     {"qvpiFilterMin", ExtremesLesson},
     {"qvpiFilterMorphology", ExtremesLesson},
     {"qvpiFilterSeparable", SeparableLesson},

@@ -18,6 +18,7 @@ bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument);
 bool LookupLesson(Scene& scene, size_t place, Argument& argument);
+bool MedianLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);
 bool ReductionLesson(Scene& scene, size_t place, Argument& argument);

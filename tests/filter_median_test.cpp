@@ -1,0 +1,380 @@
+// Medians against their definition.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+#include "tests/support/name.h"
+
+namespace {
+using test::Block;
+using test::Bordered;
+using test::ElementOf;
+using test::Export;
+using test::Name;
+using test::Random;
+using test::Real;
+using test::Region;
+
+// What a function takes beside its images.
+struct Manner {
+  QvpiSize mask;
+  int weight = 1;
+  QvpNormType norm = qvpNormL1;
+
+  test::Reach reach() const { return test::ReachOf(mask); }
+};
+
+int BufferSize(const Export& function, const Manner& manner, QvpiSize roi) {
+  const Name name(function.name);
+  const auto query = function.Has("normType") ? qvpiFilterMedianVectorBorderGetBufferSize
+                     : function.Has("weight") ? qvpiFilterMedianCenterBorderGetBufferSize
+                                              : qvpiFilterMedianBorderGetBufferSize;
+  int bytes = 0;
+  EXPECT_EQ(query(manner.mask, roi, name.From().code, name.channels, &bytes), 0);
+  EXPECT_LE(bytes, 192LL * (manner.mask.height + 4) * (roi.width + manner.mask.width) * name.channels + (1 << 20));
+  return bytes;
+}
+
+// Filters the part of a scene that begins at x, y, with a buffer of the reported size before an unreadable page.
+QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, int x, int y, QvpiSize size,
+                int border, const test::Argument& dst) {
+  const Block buffer(BufferSize(function, manner, size));
+  return function({{"pSrc", {scene.At(x, y), scene.image.step()}},
+                   {"pDst", dst},
+                   {"roiSize", size},
+                   {"maskSize", manner.mask},
+                   {"weight", manner.weight},
+                   {"normType", manner.norm},
+                   {"borderType", border},
+                   {"borderValue", {scene.value}},
+                   {"pBuffer", {buffer.data()}}});
+}
+QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const test::Samples& dst) {
+  return Apply(function, scene, manner, 0, 0, scene.region.size, scene.region.border, dst);
+}
+
+// ---- The definition
+
+using Value = int64_t;  // an element's place in the order of its type
+
+Value PlaceOf(const test::Element& element, const uint8_t* bytes) {
+  if (element.isInteger) return static_cast<Value>(element.read(bytes));
+  int32_t bits;
+  std::memcpy(&bits, bytes, sizeof(bits));
+  return bits ^ ((bits >> 31) & 0x7FFFFFFF);
+}
+
+// The address of what stands for a pixel.
+const uint8_t* PixelAt(const Bordered& scene, int x, int y) {
+  const int kind = scene.region.border & 15;
+  const int column = test::BorderPosition(kind, x, -scene.left, scene.region.size.width - 1 + scene.right),
+            row = test::BorderPosition(kind, y, -scene.top, scene.region.size.height - 1 + scene.bottom);
+  return column == test::kConstant || row == test::kConstant ? scene.value : scene.At(column, row);
+}
+
+Value MedianAt(const Bordered& scene, const Manner& manner, int x, int y, int c) {
+  const test::Element& element = scene.element();
+  const auto at = [&](int dx, int dy) { return PlaceOf(element, PixelAt(scene, x + dx, y + dy) + c * element.bytes); };
+  const int beside = manner.mask.width / 2, beyond = manner.mask.height / 2;
+  std::vector<Value> values;
+  for (int dy = -beyond; dy <= beyond; ++dy) {
+    for (int dx = -beside; dx <= beside; ++dx) values.push_back(at(dx, dy));
+  }
+  const int more = std::min(manner.weight, static_cast<int>(values.size())) - 1;  // as many as all others decide
+  values.insert(values.end(), more, at(0, 0));
+  const auto middle = values.begin() + (values.size() - 1) / 2;
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+// Few values and their ties, extremes, or any.
+void FillScene(Bordered& scene, int turn) {
+  Random random(turn);
+  const test::Element& element = scene.element();
+  const Real few[] = {3, 7, EdgeValue(element, random), element.isInteger ? element.highest : -NAN};
+  scene.image.Fill([&](int x, int y) -> Real {
+    switch (turn % 4) {
+      case 0: return few[random.Next() % 4];
+      case 1: return element.isInteger ? element.lowest + (x + 3 * y) % 251 : x / 8.0L - y;
+      default: return EdgeValue(element, random);
+    }
+  });
+}
+
+void Check(const Export& function, const Manner& manner, const Region& r, int turn = 2) {
+  const Name name(function.name);
+  Bordered scene(name.From(), manner.reach(), r);
+  FillScene(scene, turn);
+  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8), before(dst);
+  ASSERT_EQ(Apply(function, scene, manner, dst), 0) << function.name;
+  for (int y = 0; y < r.size.height; ++y) {
+    for (int i = 0; i < r.size.width * r.channels; ++i) {
+      const int x = i / r.channels, c = i % r.channels;
+      const bool isKept = name.written == 3 && c == 3;
+      const Value expected = isKept ? PlaceOf(name.To(), before.At(i, y)) : MedianAt(scene, manner, x, y, c);
+      ASSERT_EQ(PlaceOf(name.To(), dst.At(i, y)), expected)
+          << function.name << " mask " << manner.mask.width << 'x' << manner.mask.height << " weight " << manner.weight
+          << " border " << r.border << " region " << r.size.width << 'x' << r.size.height << " at " << i << ',' << y;
+    }
+  }
+}
+
+// A region and a border that a number stands for: narrow and low ones, and some that are wider than vectors.
+Region RegionOf(int turn, const Name& name, QvpiSize mask) {
+  constexpr QvpiBorderType kKinds[] = {qvpBorderReplicate, qvpBorderConst};
+  const int border = turn % 11 == 10 ? qvpBorderInMem : kKinds[turn % 2] | turn * 0x30 % 0x100;
+  const int most = std::max(40000 / (mask.width * mask.height * name.channels), 12);
+  const int width = 1 + turn * 7 % (turn % 3 ? 70 : 23);
+  return {{width, 1 + turn * 5 % std::clamp(most / width, 1, 9)}, name.channels, border};
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  const auto& all = test::Exports();
+  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
+}
+
+std::vector<const Export*> Functions(const char* prefix) {
+  auto functions = test::FunctionsOf({prefix});
+  std::erase_if(functions, [](const Export* e) { return !e->Has("pDst"); });
+  return functions;
+}
+
+TEST(FilterMedian, EqualsItsDefinition) {
+  constexpr QvpiSize kMasks[] = {{1, 1},   {3, 3}, {5, 5}, {7, 7}, {9, 9},  {11, 11}, {13, 13}, {15, 15},
+                                 {17, 17}, {3, 1}, {1, 3}, {3, 5}, {7, 3},  {15, 3},  {3, 15},  {1, 31},
+                                 {31, 1},  {5, 9}, {9, 5}, {1, 5}, {21, 5}, {5, 23},  {33, 31}};
+  int turn = 0;
+  for (const Export* function : Functions("FilterMedianBorder")) {
+    for (const QvpiSize mask : kMasks) {
+      ++turn;
+      Check(*function, {mask}, RegionOf(turn, Name(function->name), mask), turn / 3);
+    }
+  }
+}
+
+TEST(FilterMedian, WeightedEqualsItsDefinition) {
+  constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 5}, {7, 7}, {3, 5}, {9, 9}, {15, 3}, {15, 15}, {1, 31}, {19, 17}};
+  constexpr int kWeights[] = {1, 2, 3, 4, 5, 8, 9, 10, 24, 25, 26, INT32_MAX};
+  int turn = 0;
+  for (const Export* function : Functions("FilterMedianCenterBorder")) {
+    for (const QvpiSize mask : kMasks) {
+      ++turn;
+      Check(*function, {mask, kWeights[turn % std::size(kWeights)]}, RegionOf(turn, Name(function->name), mask),
+            turn / 3);
+    }
+  }
+}
+
+TEST(FilterMedian, TakesMasksLargerThanTheRegion) {
+  for (const char* type : {"8u_C1R", "16s_C1R", "32f_C1R"}) {
+    for (const int turn : {0, 2}) {
+      const Region r{{20, 3}, 1, turn ? qvpBorderConst : qvpBorderReplicate};
+      Check(FunctionNamed(std::string("qvpiFilterMedianBorder_") + type), {{255, 255}}, r, turn);
+      Check(FunctionNamed(std::string("qvpiFilterMedianCenterBorder_") + type), {{255, 131}, 5000}, r, turn);
+    }
+  }
+}
+
+// ---- Colour vectors
+
+struct Colour {
+  float c[3];
+};
+
+// Each operation is rounded to single precision, which L1 of integers needs nowhere.
+float DistanceOf(const Colour& a, const Colour& b, QvpNormType norm) {
+  volatile float d[3], sum, square;
+  for (int c = 0; c < 3; ++c) d[c] = std::fabs(a.c[c] - b.c[c]);
+  if (norm == qvpNormL1) {
+    sum = d[0] + d[1];
+    return sum + d[2];
+  }
+  for (int c = 0; c < 3; ++c) d[c] = d[c] * d[c];
+  sum = d[0] + d[1];
+  square = sum + d[2];
+  return std::sqrt(square);
+}
+
+// The number of the pixel in the mask that is taken.
+int ChoiceOf(const std::vector<Colour>& mask, const Manner& manner) {
+  const int width = manner.mask.width, height = manner.mask.height;
+  const auto sumOf = [&](int p) {
+    volatile float all = 0;
+    for (int k = 0; k < width; ++k) {
+      volatile float column = 0;
+      for (int l = 0; l < height; ++l) column = column + DistanceOf(mask[p], mask[l * width + k], manner.norm);
+      all = all + column;
+    }
+    return all;
+  };
+  int best = width * height / 2;
+  float least = sumOf(best);
+  for (int p = 0; p < width * height; ++p) {
+    const float sum = sumOf(p);
+    if (sum < least) best = p, least = sum;
+  }
+  return best;
+}
+
+void CheckVectors(const Export& function, const Manner& manner, const Region& r, int turn) {
+  const Name name(function.name);
+  Bordered scene(name.From(), manner.reach(), r);
+  FillScene(scene, turn);
+  const int bytes = scene.element().bytes, beside = manner.mask.width / 2, beyond = manner.mask.height / 2;
+  const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8), before(dst);
+  ASSERT_EQ(Apply(function, scene, manner, dst), 0);
+  for (int i = 0; i < r.size.width * r.size.height; ++i) {
+    const int x = i % r.size.width, y = i / r.size.width;
+    std::vector<Colour> mask;
+    for (int k = 0; k < manner.mask.width * manner.mask.height; ++k) {
+      const uint8_t* const p = PixelAt(scene, x + k % manner.mask.width - beside, y + k / manner.mask.width - beyond);
+      const auto channel = [&](int c) { return static_cast<float>(scene.element().read(p + c * bytes)); };
+      mask.push_back({{channel(0), channel(1), channel(2)}});
+    }
+    const int choice = ChoiceOf(mask, manner);
+    const uint8_t *const result = dst.At(x * r.channels, y), *const expected =
+                                                                 PixelAt(scene, x + choice % manner.mask.width - beside,
+                                                                         y + choice / manner.mask.width - beyond);
+    ASSERT_EQ(std::memcmp(result, expected, 3 * bytes), 0)
+        << function.name << " norm " << manner.norm << " mask " << manner.mask.width << 'x' << manner.mask.height
+        << " border " << r.border << " at " << x << ',' << y;
+    const uint8_t* const alpha = before.At(x * r.channels, y) + 3 * bytes;
+    if (r.channels == 4) ASSERT_EQ(std::memcmp(result + 3 * bytes, alpha, bytes), 0) << function.name;
+  }
+}
+
+TEST(FilterMedian, VectorsEqualTheirDefinition) {
+  constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 5}, {7, 7}, {1, 7}, {7, 1}, {3, 5}};
+  int turn = 0;
+  for (const Export* function : Functions("FilterMedianVectorBorder")) {
+    for (const QvpiSize mask : kMasks) {
+      for (const QvpNormType norm : {qvpNormL1, qvpNormL2}) {
+        ++turn;
+        CheckVectors(*function, {mask, 1, norm}, RegionOf(turn, Name(function->name), mask), turn / 2);
+      }
+    }
+  }
+}
+
+// ---- Examples, tiles, refusals
+
+// The middle of an image of bytes, of one channel or three.
+template <int kCount>
+std::vector<int> MiddleOf(const char* name, QvpiSize size, const Qvp8u (&pixels)[kCount], const Manner& manner) {
+  const Export& function = FunctionNamed(name);
+  const int channels = Name(function.name).channels;
+  Bordered scene(ElementOf("8u"), manner.reach(), {size, channels, qvpBorderReplicate});
+  scene.image.Fill([&](int i, int y) { return pixels[y * size.width * channels + i]; });
+  const test::Samples dst(ElementOf("8u"), size.width * channels, size.height, 0);
+  EXPECT_EQ(Apply(function, scene, manner, dst), 0);
+  std::vector<int> result;
+  for (int c = 0; c < channels; ++c) {
+    result.push_back(static_cast<int>(dst(size.width / 2 * channels + c, size.height / 2)));
+  }
+  return result;
+}
+
+TEST(FilterMedian, GivesTheDocumentedExamples) {
+  constexpr Qvp8u kSpot[] = {10, 10, 10, 10, 200, 10, 10, 10, 10}, kLine[] = {10, 200, 10, 10, 200, 10, 10, 200, 10};
+  for (const int weight : {1, 4, 5, 8, 9, INT32_MAX}) {
+    const auto at = [&](const auto& pixels) {
+      return MiddleOf("qvpiFilterMedianCenterBorder_8u_C1R", {3, 3}, pixels, {{3, 3}, weight})[0];
+    };
+    EXPECT_EQ(at(kSpot), weight < 9 ? 10 : 200) << weight;
+    EXPECT_EQ(at(kLine), weight < 5 ? 10 : 200) << weight;
+  }
+  using Pixel = std::vector<int>;
+  const char* const kVectors = "qvpiFilterMedianVectorBorder_8u_C3R";
+  constexpr Qvp8u kFlags[] = {255, 0, 0,   255, 0, 0, 255, 0, 0, 0,   255, 0, 0,  255,
+                              0,   0, 255, 0,   0, 0, 255, 0, 0, 255, 0,   0, 255};
+  EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kFlags, {{3, 3}}), (Pixel{0, 255, 0}));
+  constexpr Qvp8u kMixed[] = {0, 60, 60, 70, 10, 0,  70, 0,  40, 0,  20, 40, 30, 30,
+                              0, 0,  10, 0,  60, 40, 50, 20, 50, 60, 30, 40, 80};
+  EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kMixed, {{3, 3}, 1, qvpNormL1}), (Pixel{0, 20, 40}));
+  EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kMixed, {{3, 3}, 1, qvpNormL2}), (Pixel{20, 50, 60}));
+}
+
+TEST(FilterMedian, TilesEqualTheWhole) {
+  const QvpiSize size{400, 52}, most{45, 13};
+  for (const auto& filter : {std::pair{"qvpiFilterMedianBorder_8u_C1R", Manner{{5, 5}}},
+                             {"qvpiFilterMedianBorder_8u_C1R", {{23, 21}}},
+                             {"qvpiFilterMedianCenterBorder_16u_C1R", {{7, 9}, 4}},
+                             {"qvpiFilterMedianBorder_32f_C1R", {{19, 21}}},
+                             {"qvpiFilterMedianVectorBorder_32f_C3R", {{5, 3}, 1, qvpNormL2}}}) {
+    const Export& function = FunctionNamed(filter.first);
+    const Name name(function.name);
+    for (const int kind : {qvpBorderReplicate, qvpBorderConst}) {
+      Bordered scene(name.From(), {}, {size, name.channels, kind});
+      FillScene(scene, 2);
+      const test::Samples whole(scene.element(), size.width * name.channels, size.height, 0),
+          tiled(scene.element(), size.width * name.channels, size.height, 4);
+      ASSERT_EQ(Apply(function, scene, filter.second, whole), 0);
+      test::ForEachTile(size, most, kind, [&](int x, int y, QvpiSize part, int border) {
+        uint8_t* const to = tiled.At(x * name.channels, y);
+        ASSERT_EQ(Apply(function, scene, filter.second, x, y, part, border, {to, tiled.step()}), 0);
+      });
+      for (int y = 0; y < size.height; ++y) {
+        ASSERT_EQ(std::memcmp(whole.At(0, y), tiled.At(0, y), whole.width() * scene.element().bytes), 0)
+            << function.name << " row " << y;
+      }
+    }
+  }
+}
+
+// A buffer serves every smaller mask and region.
+TEST(FilterMedian, BuffersGrowWithRegionAndMaskWithinTheirBound) {
+  constexpr int kSides[] = {1, 3, 5, 7, 9, 15, 17, 63, 127, 255};
+  for (const int w : kSides) {
+    for (const int h : kSides) {
+      for (const auto type : {qvp8u, qvp16u, qvp32f}) {
+        int before = 0;
+        for (const int width : {1, 64, 1000, 20000, 100000}) {
+          int bytes = 0, taller = 0, wider = 0;
+          ASSERT_EQ(qvpiFilterMedianBorderGetBufferSize({w, h}, {width, 7}, type, 3, &bytes), 0);
+          EXPECT_LE(bytes, 192LL * (h + 4) * (width + w) * 3 + (1 << 20)) << w << 'x' << h << ' ' << width;
+          qvpiFilterMedianBorderGetBufferSize({w, std::min(h + 2, 255)}, {width, 7}, type, 3, &taller);
+          qvpiFilterMedianBorderGetBufferSize({std::min(w + 2, 255), h}, {width, 7}, type, 3, &wider);
+          EXPECT_GE(std::min(taller, wider), bytes);
+          EXPECT_GE(bytes, before);
+          before = bytes;
+        }
+      }
+    }
+  }
+}
+
+TEST(FilterMedian, RefusesInTheDocumentedOrder) {
+  int size = 1;
+  const auto query = qvpiFilterMedianBorderGetBufferSize;
+  const auto ofVectors = qvpiFilterMedianVectorBorderGetBufferSize;
+  EXPECT_EQ(query({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
+  EXPECT_EQ(query({2, 2}, {1, 0}, 0, 0, &size), qvpStatusSize);
+  for (const QvpiSize mask : {QvpiSize{2, 1}, {1, 0}, {257, 1}, {-1, 3}}) {
+    EXPECT_EQ(query(mask, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
+  }
+  EXPECT_EQ(query({255, 255}, {1, 1}, qvp64f, 0, &size), qvpStatusDataType);
+  EXPECT_EQ(query({1, 1}, {1, 1}, qvp16s, 2, &size), qvpStatusNumChannels);
+  EXPECT_EQ(ofVectors({9, 1}, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
+  EXPECT_EQ(ofVectors({7, 1}, {1, 1}, qvp16s, 0, &size), qvpStatusDataType);
+  EXPECT_EQ(ofVectors({7, 1}, {1, 1}, qvp8u, 1, &size), qvpStatusNumChannels);
+  const Block buffer(1 << 20);
+  Qvp8u pixels[64] = {}, out[64] = {};
+  const auto centre = [&](QvpiSize mask, int weight, int border) {
+    return qvpiFilterMedianCenterBorder_8u_C1R(pixels, 8, out, 8, {4, 4}, mask, weight, border, nullptr, buffer.data());
+  };
+  EXPECT_EQ(centre({2, 3}, 0, qvpBorderConst), qvpStatusNullPointer);
+  EXPECT_EQ(centre({2, 3}, 0, qvpBorderMirror), qvpStatusMaskSize);
+  EXPECT_EQ(centre({3, 3}, 0, qvpBorderMirror), qvpStatusWeight);
+  EXPECT_EQ(centre({3, 3}, 1, qvpBorderMirror), qvpStatusBorder);
+  EXPECT_EQ(centre({3, 3}, 1, qvpBorderReplicateAlt), qvpStatusBorder);
+  EXPECT_EQ(centre({3, 3}, 1, qvpBorderReplicate), 0);
+  const auto vectors = [&](QvpiSize mask, QvpNormType norm, int step) {
+    return qvpiFilterMedianVectorBorder_8u_C3R(pixels, step, out, 12, {4, 4}, mask, norm, qvpBorderMirror, nullptr,
+                                               buffer.data());
+  };
+  EXPECT_EQ(vectors({9, 9}, qvpNormInf, 11), qvpStatusStep);
+  EXPECT_EQ(vectors({9, 9}, qvpNormInf, 12), qvpStatusMaskSize);
+  EXPECT_EQ(vectors({7, 7}, qvpNormInf, 12), qvpStatusNotSupportedMode);
+  EXPECT_EQ(vectors({7, 7}, qvpNormL2, 12), qvpStatusBorder);
+}
+
+}  // namespace
