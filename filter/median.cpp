@@ -10,6 +10,7 @@ namespace {
 
 template <class T>
 void FilterMedian(const MedianCall<T>& call) {
+  if (FilterByNetworks(call)) return;
   if constexpr (std::is_same_v<T, float>) {
     FilterByRanks(call);
   } else if constexpr (std::is_same_v<T, uint8_t>) {
@@ -63,8 +64,10 @@ QvpStatus MedianCenter(const Image<const T>& src, const Image<T>& dst, Size roi,
 
 // Methods take turns with the mask's size, and each has to find its place in the buffer of a larger one.
 ByteCount MedianBytes(QvpiSize mask, int64_t regionWidth, QvpDataType type, int channels) {
-  if (type == qvp8u) return WindowBytes(mask, regionWidth, channels, 1, kColumnCounts, kColumnCacheBytes);
-  const ByteCount walk = WindowBytes(mask, regionWidth, channels, type == qvp32f ? 4 : 2);
+  if (type == qvp8u) {
+    return WindowBytes(mask, regionWidth, channels, 1, kColumnCounts, kColumnCacheBytes) + NetworkBytes();
+  }
+  const ByteCount walk = WindowBytes(mask, regionWidth, channels, type == qvp32f ? 4 : 2) + NetworkBytes();
   return type == qvp32f ? std::max(walk.value(), RankBytes(mask).value()) : walk + SlidingBytes();
 }
 

@@ -51,7 +51,7 @@ constexpr int32_t OrderedBits(int32_t bits) { return bits ^ ((bits >> 31) & 0x7F
 
 // The methods take what they need of the work buffer, at any address; the walk has the rest.
 template <class T>
-void FilterByNetworks(const MedianCall<T>& call);
+bool FilterByNetworks(const MedianCall<T>& call);  // false if it is none of theirs
 void FilterByColumnCounts(const MedianCall<uint8_t>& call);
 template <class T>
 void FilterBySlidingCounts(const MedianCall<T>& call);
@@ -62,6 +62,7 @@ inline constexpr KeptRows kColumnCounts{17, 16};
 inline constexpr int64_t kColumnCacheBytes = 1 << 18;
 
 // Bytes that the others take.
+ByteCount NetworkBytes();
 ByteCount SlidingBytes();
 ByteCount RankBytes(QvpiSize mask);
 

@@ -1,0 +1,216 @@
+// Medians of masks whose size the compiler knows, by sorting networks in the lanes of vectors: two rows of results at a
+// time, in pieces of a row whose lists stay in the nearest cache.
+#pragma once
+
+#include "filter/axis_sums.h"
+#include "filter/median.h"
+#include "filter/sorting_networks.h"
+
+namespace qvp::filter {
+
+// Runs one on an array of vectors that stays in registers, as far as there are enough.
+template <const auto& kNetwork, int kAt, class V>
+HWY_INLINE void RunExchange(V* wires) {
+  constexpr Exchange e = kNetwork.exchanges[kAt];
+  const V a = wires[e.low], b = wires[e.high];
+  if constexpr (e.hasLow) wires[e.low] = hn::Min(a, b);
+  if constexpr (e.hasHigh) wires[e.high] = hn::Max(a, b);
+}
+template <const auto& kNetwork, class V, int... kAt>
+HWY_INLINE void RunExchanges(V* wires, std::integer_sequence<int, kAt...>) {
+  (RunExchange<kNetwork, kAt>(wires), ...);
+}
+template <const auto& kNetwork, class V>
+HWY_INLINE void RunNetwork(V* wires) {
+  RunExchanges<kNetwork>(wires, std::make_integer_sequence<int, kNetwork.count>());
+}
+
+// All networks of a mask. Those of weighted medians have the places of two weights: kSpread places around the middle.
+template <int kSide, int kSpread>
+struct MedianNetworks {
+  using N = Network<128, 1024>;
+
+  static constexpr int kAll = kSide * kSide, kMiddle = kAll / 2;
+  static constexpr MedianShape kShape{kSide, kSide, {kAll, kMiddle - kSpread, kMiddle + kSpread}};
+  static constexpr N kColumn = ColumnNetwork<N>(kShape);
+
+  // The list of 2^kLog merged columns.
+  template <int kLog>
+  static constexpr ListShape ShapeOf() {
+    if constexpr (kLog == 0) return {kColumn.results.count, kColumn.results.dropped};
+    else return {kPair<kLog>.results.count, kPair<kLog>.results.dropped};
+  }
+  template <int kLog>
+  static constexpr N kPair = PairNetwork<N>(kShape, ShapeOf<kLog - 1>(), 1 << kLog);
+
+  static constexpr int kLogs = kSide < 4 ? 2 : kSide < 8 ? 3 : 4;  // from 0 on
+  static constexpr std::array<ListShape, 8> kLists = []<int... kLog>(std::integer_sequence<int, kLog...>) {
+    return std::array<ListShape, 8>{ShapeOf<kLog>()...};
+  }(std::make_integer_sequence<int, kLogs>());
+  static constexpr N kCore = CoreNetwork<N>(kShape, kLists.data());
+  static constexpr N kRow = RowNetwork<N>(kShape, {kCore.results.count, kCore.results.dropped});
+};
+
+template <class T>
+struct NetworkContext {
+  ptrdiff_t channels;
+  bool isUpperOdd;  // of a weighted median, whether the upper place is the last one of the networks
+  MedianLane<T>* lists;
+};
+
+inline constexpr ptrdiff_t kNetworkListBytes = 1 << 15;
+
+template <class T, int kSide, int kSpread>
+class NetworkKernel {
+ public:
+  using E = MedianLane<T>;
+  using Context = NetworkContext<T>;
+
+  static void Down(const void* context, const Window& window, const ResultRows& rows) {
+    const NetworkKernel kernel(*static_cast<const Context*>(context), window);
+    E *const upper = reinterpret_cast<E*>(rows.upper[0]), *const lower = reinterpret_cast<E*>(rows.lower[0]);
+    const ptrdiff_t n = window.samples;
+    if (n < kLanes) return kernel.FilterShort(n, upper, lower);
+    const ptrdiff_t pieces = (n + kPiece - 1) / kPiece;
+    for (ptrdiff_t p = 0; p < pieces; ++p) {
+      const ptrdiff_t begin = n * p / pieces;
+      kernel.FilterPiece(begin, n * (p + 1) / pieces - begin, upper + begin, lower + begin);
+    }
+  }
+
+ private:
+  using D = hn::ScalableTag<E>;
+  using V = hn::Vec<D>;
+  using Networks = MedianNetworks<kSide, kSpread>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  static constexpr bool kIsFloat = std::is_same_v<T, float>;
+  static constexpr int kCoreHeight = kSide - 1;
+
+  // Rows of memory: those of each list, one after the other, and of floats the rows beside the core, as keys.
+  static constexpr int FirstRow(int log) {
+    int row = 0;
+    for (int k = 0; k < log; ++k) row += Networks::kLists[k].count;
+    return row;
+  }
+  static constexpr int kListRows = FirstRow(Networks::kLogs), kRows = kListRows + 2;
+  static constexpr ptrdiff_t kBesides = (kSide - 1) * 4 + kLanes;
+  static constexpr ptrdiff_t kStep = kNetworkListBytes / kRows / 64 * 64 / ptrdiff_t{sizeof(E)},
+                             kPiece = std::min<ptrdiff_t>(kStep - kBesides, 2048);
+  static_assert(kPiece >= 2 * kLanes);
+
+  NetworkKernel(const Context& context, const Window& window) : context_(context) {
+    for (int j = 0; j <= kSide; ++j) lines_[j] = static_cast<const E*>(window.lines[j]);
+  }
+
+  static HWY_INLINE V Load(const E* pixels) { return Ordered(hn::LoadU(D(), pixels)); }
+  // Pixels as lanes that have their order, and back.
+  static HWY_INLINE V Ordered(V v) {
+    if constexpr (kIsFloat) return hn::Xor(v, hn::And(hn::ShiftRight<31>(v), hn::Set(D(), 0x7FFFFFFF)));
+    else return v;
+  }
+  HWY_INLINE E* Row(int row) const { return context_.lists + row * kStep; }
+
+  void FilterShort(ptrdiff_t n, E* upper, E* lower) const {
+    E staged[2][kLanes];
+    FilterPiece(0, n, staged[0], staged[1]);
+    std::memcpy(lower, staged[1], n * sizeof(E));
+    std::memcpy(upper, staged[0], n * sizeof(E));
+  }
+
+  HWY_INLINE void FilterPiece(ptrdiff_t begin, ptrdiff_t n, E* upper, E* lower) const {
+    SortColumns(begin, n + (kSide - 1) * context_.channels);
+    MergeFrom<1>(n);
+    Select(begin, n, upper, lower);
+  }
+
+  HWY_NOINLINE void SortColumns(ptrdiff_t begin, ptrdiff_t n) const {
+    ForEachVectors<1, kLanes>(n, [&](auto, ptrdiff_t i) HWY_ATTR {
+      V wires[kCoreHeight];
+      Unrolled<kCoreHeight>([&](auto j) QVP_INLINED { wires[j] = Load(lines_[j + 1] + begin + i); });
+      RunNetwork<Networks::kColumn>(wires);
+      StoreResults<Networks::kColumn>(wires, 0, i);
+      if constexpr (kIsFloat) {
+        hn::StoreU(Load(lines_[0] + begin + i), D(), Row(kListRows) + i);
+        hn::StoreU(Load(lines_[kSide] + begin + i), D(), Row(kListRows + 1) + i);
+      }
+    });
+  }
+
+  template <const auto& kNetwork>
+  HWY_INLINE void StoreResults(const V* wires, int row, ptrdiff_t i) const {
+    Unrolled<kNetwork.results.count>([&](auto k) QVP_INLINED {
+      hn::StoreU(wires[kNetwork.results.wires[k]], D(), Row(row + k) + i);
+    });
+  }
+
+  // Lists of 2^kLog columns, and longer ones.
+  template <int kLog>
+  HWY_INLINE void MergeFrom(ptrdiff_t n) const {
+    if constexpr (kLog < Networks::kLogs) {
+      MergePairs<kLog>(n + (kSide - (1 << kLog)) * context_.channels, (1 << (kLog - 1)) * context_.channels);
+      MergeFrom<kLog + 1>(n);
+    }
+  }
+  template <int kLog>
+  HWY_NOINLINE void MergePairs(ptrdiff_t n, ptrdiff_t distance) const {
+    constexpr int kCount = Networks::kLists[kLog - 1].count, kFrom = FirstRow(kLog - 1), kTo = FirstRow(kLog);
+    ForEachVectors<1, kLanes>(n, [&](auto, ptrdiff_t i) HWY_ATTR {
+      V wires[2 * kCount];
+      Unrolled<kCount>([&](auto k) QVP_INLINED {
+        wires[k] = hn::LoadU(D(), Row(kFrom + k) + i);
+        wires[kCount + k] = hn::LoadU(D(), Row(kFrom + k) + i + distance);
+      });
+      RunNetwork<Networks::template kPair<kLog>>(wires);
+      StoreResults<Networks::template kPair<kLog>>(wires, kTo, i);
+    });
+  }
+
+  // The core's list at one vector of results: the lists that the width's bits tell, beside each other.
+  template <int kLog>
+  HWY_INLINE void LoadLists(V* wires, ptrdiff_t i) const {
+    if constexpr (kLog >= 0) {
+      if constexpr ((kSide >> kLog & 1) != 0) {
+        constexpr int kCount = Networks::kLists[kLog].count, kFrom = FirstRow(kLog);
+        Unrolled<kCount>([&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), Row(kFrom + k) + i); });
+        LoadLists<kLog - 1>(wires + kCount, i + (1 << kLog) * context_.channels);
+      } else {
+        LoadLists<kLog - 1>(wires, i);
+      }
+    }
+  }
+
+  HWY_NOINLINE void Select(ptrdiff_t begin, ptrdiff_t n, E* upper, E* lower) const {
+    const E *const above = kIsFloat ? Row(kListRows) : lines_[0] + begin,
+                   *const below = kIsFloat ? Row(kListRows + 1) : lines_[kSide] + begin;
+    const E* const centres = lines_[kSide / 2] + begin;
+    const E* const nextCentres = lines_[kSide / 2 + 1] + begin;
+    ForEachVectors<1, kLanes>(n, [&](auto, ptrdiff_t i) HWY_ATTR {
+      V wires[kSide * kSide];
+      LoadLists<Networks::kLogs - 1>(wires, i);
+      RunNetwork<Networks::kCore>(wires);
+      const V first = Result(wires, above + i, centres + i);
+      hn::StoreU(Result(wires, below + i, nextCentres + i), D(), lower + i);
+      hn::StoreU(first, D(), upper + i);
+    });
+  }
+
+  HWY_INLINE V Result(const V* core, const E* row, const E* centres) const {
+    constexpr auto& kCore = Networks::kCore.results;
+    constexpr auto& kPlaces = Networks::kRow.results.wires;
+    V wires[kCore.count + kSide];
+    Unrolled<kCore.count>([&](auto k) QVP_INLINED { wires[k] = core[kCore.wires[k]]; });
+    Unrolled<kSide>([&](auto k) QVP_INLINED {
+      wires[kCore.count + k] = hn::LoadU(D(), row + k * context_.channels);
+    });
+    RunNetwork<Networks::kRow>(wires);
+    if constexpr (kSpread == 0) return Ordered(wires[kPlaces[0]]);
+    const V centre = Load(centres + kSide / 2 * context_.channels);
+    const V top = context_.isUpperOdd ? wires[kPlaces[2 * kSpread]] : wires[kPlaces[kSpread > 0 ? 2 * kSpread - 1 : 0]];
+    return Ordered(hn::Max(wires[kPlaces[0]], hn::Min(centre, top)));
+  }
+
+  const Context context_;
+  const E* lines_[kSide + 1];
+};
+
+}  // namespace qvp::filter
