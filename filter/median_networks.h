@@ -37,8 +37,10 @@ struct MedianNetworks {
   // The list of 2^kLog merged columns.
   template <int kLog>
   static constexpr ListShape ShapeOf() {
-    if constexpr (kLog == 0) return {kColumn.results.count, kColumn.results.dropped};
-    else return {kPair<kLog>.results.count, kPair<kLog>.results.dropped};
+    if constexpr (kLog == 0)
+      return {kColumn.results.count, kColumn.results.dropped};
+    else
+      return {kPair<kLog>.results.count, kPair<kLog>.results.dropped};
   }
   template <int kLog>
   static constexpr N kPair = PairNetwork<N>(kShape, ShapeOf<kLog - 1>(), 1 << kLog);
@@ -46,7 +48,8 @@ struct MedianNetworks {
   static constexpr int kLogs = kSide < 4 ? 2 : kSide < 8 ? 3 : 4;  // from 0 on
   static constexpr std::array<ListShape, 8> kLists = []<int... kLog>(std::integer_sequence<int, kLog...>) {
     return std::array<ListShape, 8>{ShapeOf<kLog>()...};
-  }(std::make_integer_sequence<int, kLogs>());
+  }
+  (std::make_integer_sequence<int, kLogs>());
   static constexpr N kCore = CoreNetwork<N>(kShape, kLists.data());
   static constexpr N kRow = RowNetwork<N>(kShape, {kCore.results.count, kCore.results.dropped});
 };
@@ -60,6 +63,35 @@ struct NetworkContext {
 
 inline constexpr ptrdiff_t kNetworkListBytes = 1 << 15;
 
+// Pixels as lanes that have their order, and back.
+template <class T, class V>
+HWY_INLINE V OrderedLanes(V v) {
+  if constexpr (std::is_same_v<T, float>) {
+    const hn::DFromV<V> d;
+    return hn::Xor(v, hn::And(hn::ShiftRight<31>(v), hn::Set(d, 0x7FFFFFFF)));
+  } else {
+    return v;
+  }
+}
+
+// filter(begin, n, upper, lower) for pieces of two rows of results, none of which is shorter than a vector.
+template <ptrdiff_t kMost, ptrdiff_t kLanes, class E, class Filter>
+HWY_INLINE void ForPieces(ptrdiff_t n, E* upper, E* lower, const Filter& filter) {
+  static_assert(kMost >= 2 * kLanes);
+  if (n < kLanes) {
+    E staged[2][kLanes];
+    filter(0, n, staged[0], staged[1]);
+    std::memcpy(lower, staged[1], n * sizeof(E));
+    std::memcpy(upper, staged[0], n * sizeof(E));
+    return;
+  }
+  const ptrdiff_t pieces = (n + kMost - 1) / kMost;
+  for (ptrdiff_t p = 0; p < pieces; ++p) {
+    const ptrdiff_t begin = n * p / pieces, end = n * (p + 1) / pieces;
+    filter(begin, end - begin, upper + begin, lower + begin);
+  }
+}
+
 template <class T, int kSide, int kSpread>
 class NetworkKernel {
  public:
@@ -69,13 +101,11 @@ class NetworkKernel {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const NetworkKernel kernel(*static_cast<const Context*>(context), window);
     E *const upper = reinterpret_cast<E*>(rows.upper[0]), *const lower = reinterpret_cast<E*>(rows.lower[0]);
-    const ptrdiff_t n = window.samples;
-    if (n < kLanes) return kernel.FilterShort(n, upper, lower);
-    const ptrdiff_t pieces = (n + kPiece - 1) / kPiece;
-    for (ptrdiff_t p = 0; p < pieces; ++p) {
-      const ptrdiff_t begin = n * p / pieces;
-      kernel.FilterPiece(begin, n * (p + 1) / pieces - begin, upper + begin, lower + begin);
-    }
+    ForPieces<kPiece, kLanes>(window.samples, upper, lower, [&](ptrdiff_t begin, ptrdiff_t n, E* up, E* low) {
+      kernel.SortColumns(begin, n + (kSide - 1) * kernel.context_.channels);
+      kernel.template MergeFrom<1>(n);
+      kernel.Select(begin, n, up, low);
+    });
   }
 
  private:
@@ -96,32 +126,13 @@ class NetworkKernel {
   static constexpr ptrdiff_t kBesides = (kSide - 1) * 4 + kLanes;
   static constexpr ptrdiff_t kStep = kNetworkListBytes / kRows / 64 * 64 / ptrdiff_t{sizeof(E)},
                              kPiece = std::min<ptrdiff_t>(kStep - kBesides, 2048);
-  static_assert(kPiece >= 2 * kLanes);
 
   NetworkKernel(const Context& context, const Window& window) : context_(context) {
     for (int j = 0; j <= kSide; ++j) lines_[j] = static_cast<const E*>(window.lines[j]);
   }
 
-  static HWY_INLINE V Load(const E* pixels) { return Ordered(hn::LoadU(D(), pixels)); }
-  // Pixels as lanes that have their order, and back.
-  static HWY_INLINE V Ordered(V v) {
-    if constexpr (kIsFloat) return hn::Xor(v, hn::And(hn::ShiftRight<31>(v), hn::Set(D(), 0x7FFFFFFF)));
-    else return v;
-  }
+  static HWY_INLINE V Load(const E* pixels) { return OrderedLanes<T>(hn::LoadU(D(), pixels)); }
   HWY_INLINE E* Row(int row) const { return context_.lists + row * kStep; }
-
-  void FilterShort(ptrdiff_t n, E* upper, E* lower) const {
-    E staged[2][kLanes];
-    FilterPiece(0, n, staged[0], staged[1]);
-    std::memcpy(lower, staged[1], n * sizeof(E));
-    std::memcpy(upper, staged[0], n * sizeof(E));
-  }
-
-  HWY_INLINE void FilterPiece(ptrdiff_t begin, ptrdiff_t n, E* upper, E* lower) const {
-    SortColumns(begin, n + (kSide - 1) * context_.channels);
-    MergeFrom<1>(n);
-    Select(begin, n, upper, lower);
-  }
 
   HWY_NOINLINE void SortColumns(ptrdiff_t begin, ptrdiff_t n) const {
     ForEachVectors<1, kLanes>(n, [&](auto, ptrdiff_t i) HWY_ATTR {
@@ -138,9 +149,8 @@ class NetworkKernel {
 
   template <const auto& kNetwork>
   HWY_INLINE void StoreResults(const V* wires, int row, ptrdiff_t i) const {
-    Unrolled<kNetwork.results.count>([&](auto k) QVP_INLINED {
-      hn::StoreU(wires[kNetwork.results.wires[k]], D(), Row(row + k) + i);
-    });
+    Unrolled<kNetwork.results.count>(
+        [&](auto k) QVP_INLINED { hn::StoreU(wires[kNetwork.results.wires[k]], D(), Row(row + k) + i); });
   }
 
   // Lists of 2^kLog columns, and longer ones.
@@ -180,8 +190,9 @@ class NetworkKernel {
   }
 
   HWY_NOINLINE void Select(ptrdiff_t begin, ptrdiff_t n, E* upper, E* lower) const {
-    const E *const above = kIsFloat ? Row(kListRows) : lines_[0] + begin,
-                   *const below = kIsFloat ? Row(kListRows + 1) : lines_[kSide] + begin;
+    const E *const above = kIsFloat ? Row(kListRows) : lines_[0] + begin, *const below = kIsFloat
+                                                                                             ? Row(kListRows + 1)
+                                                                                             : lines_[kSide] + begin;
     const E* const centres = lines_[kSide / 2] + begin;
     const E* const nextCentres = lines_[kSide / 2 + 1] + begin;
     ForEachVectors<1, kLanes>(n, [&](auto, ptrdiff_t i) HWY_ATTR {
@@ -199,14 +210,12 @@ class NetworkKernel {
     constexpr auto& kPlaces = Networks::kRow.results.wires;
     V wires[kCore.count + kSide];
     Unrolled<kCore.count>([&](auto k) QVP_INLINED { wires[k] = core[kCore.wires[k]]; });
-    Unrolled<kSide>([&](auto k) QVP_INLINED {
-      wires[kCore.count + k] = hn::LoadU(D(), row + k * context_.channels);
-    });
+    Unrolled<kSide>([&](auto k) QVP_INLINED { wires[kCore.count + k] = hn::LoadU(D(), row + k * context_.channels); });
     RunNetwork<Networks::kRow>(wires);
-    if constexpr (kSpread == 0) return Ordered(wires[kPlaces[0]]);
+    if constexpr (kSpread == 0) return OrderedLanes<T>(wires[kPlaces[0]]);
     const V centre = Load(centres + kSide / 2 * context_.channels);
     const V top = context_.isUpperOdd ? wires[kPlaces[2 * kSpread]] : wires[kPlaces[kSpread > 0 ? 2 * kSpread - 1 : 0]];
-    return Ordered(hn::Max(wires[kPlaces[0]], hn::Min(centre, top)));
+    return OrderedLanes<T>(hn::Max(wires[kPlaces[0]], hn::Min(centre, top)));
   }
 
   const Context context_;
