@@ -3,6 +3,7 @@
 // Each pair of pixels has one distance, whichever of both is asked. The distances from a new line to itself and to
 // those above it are kept for as long as both are under the mask.
 #include "base/export.h"
+#include "base/scalar.h"
 #include "filter/median.h"
 #include "filter/unrolled.h"
 #include "filter/window_check.h"
@@ -11,12 +12,13 @@
 namespace qvp::filter {
 namespace {
 
-constexpr int kLongestSide = 7, kColours = 3, kMostOffsets = 2 * kLongestSide - 1;
+constexpr int kLongestSide = 7, kColours = 3;
+constexpr int64_t kVectorCacheBytes = 1 << 18;
 
 // Rows that are kept, all of numbers of one type for each pixel: what has room for a pixel has room for two of them.
 constexpr KeptRows RowsFor(QvpiSize mask) {
   const int offsets = 2 * mask.width - 1;
-  return {mask.height * (kColours + mask.height * offsets) + offsets + 2, 2};
+  return {mask.height * (kColours + mask.height * offsets + offsets) + 2, 2};
 }
 
 // F: 16-bit lanes, which hold the sums of L1 of bytes, or floats, which hold those of L1 of 16-bit numbers.
@@ -51,7 +53,7 @@ class VectorKernel {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const VectorKernel kernel(*static_cast<const Context*>(context), window);
     for (ptrdiff_t l = window.y == 0 ? 0 : kernel.height_ - 1; l < kernel.height_; ++l) kernel.Enter(l);
-    kernel.Choose();
+    kernel.ChooseByWidth();
     kernel.Put(reinterpret_cast<T*>(rows.upper[0]));
   }
 
@@ -67,21 +69,25 @@ class VectorKernel {
         height_(context.mask.height),
         offsets_(2 * width_ - 1),
         results_(window.samples / channels_),
-        pixels_(results_ + width_ - 1) {}
+        pixels_(results_ + width_ - 1) {
+    for (ptrdiff_t l = 0; l < height_; ++l) slots_[l] = (window.y + l) % height_;
+  }
 
   // ---- Rows that are kept. Lines are counted from the uppermost of the mask.
 
   F* Kept(ptrdiff_t row) const { return reinterpret_cast<F*>(window_.kept + row * window_.keptStep); }
-  ptrdiff_t Slot(ptrdiff_t line) const { return (window_.y + line) % height_; }
-  F* Colour(ptrdiff_t line, int c) const { return Kept(Slot(line) * kColours + c); }
-  // The distances from pixels of an upper line, or of the same, to those of a lower one, `dx` to their right.
+  F* Colour(ptrdiff_t line, int c) const { return Kept(slots_[line] * kColours + c); }
+  // The distances from pixels of an upper line to those of a lower one, `dx` to their right, or of the same if they are
+  // to the right.
   F* Distance(ptrdiff_t upper, ptrdiff_t lower, ptrdiff_t dx) const {
-    return Kept(height_ * kColours + (Slot(lower) * height_ + lower - upper) * offsets_ + dx + width_ - 1);
+    return Kept(height_ * kColours + (slots_[lower] * height_ + lower - upper) * offsets_ + dx + width_ - 1);
   }
-  // The sums of the distances from pixels to a column of the mask, `dx` to their right.
-  F* ColumnSum(ptrdiff_t dx) const { return Kept(height_ * (kColours + height_ * offsets_) + dx + width_ - 1); }
-  F* Best() const { return ColumnSum(width_); }
-  F* Choice() const { return ColumnSum(width_ + 1); }
+  // The sums of the distances from pixels of a line to a column of the mask, `dx` to their right.
+  F* ColumnSum(ptrdiff_t line, ptrdiff_t dx) const {
+    return Kept(height_ * (kColours + height_ * offsets_) + line * offsets_ + dx + width_ - 1);
+  }
+  F* Best() const { return ColumnSum(height_, 1 - width_); }
+  F* Choice() const { return ColumnSum(height_, 2 - width_); }
 
   // Vectors at the places [begin, end), and as far beyond as there is room: rows end with a vector's.
   template <class Step>
@@ -92,21 +98,53 @@ class VectorKernel {
   // ---- A line that comes under the mask
 
   void Enter(ptrdiff_t line) const {
-    const auto* const from = static_cast<const T*>(window_.lines[line]);
-    for (int c = 0; c < kColours; ++c) {
-      F* const to = Colour(line, c);
-      for (ptrdiff_t x = 0; x < pixels_; ++x) {
-        T value;
-        std::memcpy(&value, from + x * channels_ + c, sizeof(T));
-        to[x] = static_cast<F>(value);
-      }
-    }
+    channels_ == 3 ? Separate<3>(line) : Separate<4>(line);
     for (ptrdiff_t upper = 0; upper <= line; ++upper) {
-      for (ptrdiff_t dx = 1 - width_; dx < width_; ++dx) Measure(upper, line, dx);
+      for (ptrdiff_t dx = upper == line ? 0 : 1 - width_; dx < width_; ++dx) Measure(upper, line, dx);
     }
   }
 
-  void Measure(ptrdiff_t upper, ptrdiff_t lower, ptrdiff_t dx) const {
+  // Each colour by itself.
+  template <int kChannels>
+  HWY_NOINLINE void Separate(ptrdiff_t line) const {
+    const auto* const from = static_cast<const T*>(window_.lines[line]);
+    F *HWY_RESTRICT const red = Colour(line, 0), *HWY_RESTRICT const green = Colour(line, 1),
+                          *HWY_RESTRICT const blue = Colour(line, 2);
+    const ptrdiff_t n = pixels_;
+    if constexpr (hn::MaxLanes(hn::Rebind<T, D>()) * sizeof(T) >= kBlockBytes) {
+      if (n >= kLanes) return SeparateVectors<kChannels>(from, red, green, blue);
+    }
+    for (ptrdiff_t x = 0; x < n; ++x) {
+      red[x] = static_cast<F>(LoadScalar(from + kChannels * x));
+      green[x] = static_cast<F>(LoadScalar(from + kChannels * x + 1));
+      blue[x] = static_cast<F>(LoadScalar(from + kChannels * x + 2));
+    }
+  }
+
+  template <int kChannels>
+  HWY_INLINE void SeparateVectors(const T* from, F* red, F* green, F* blue) const {
+    const D d;
+    const hn::Rebind<T, D> narrow;
+    ForVectors(0, pixels_, [=](ptrdiff_t x) HWY_ATTR {
+      hn::Vec<decltype(narrow)> r, g, b, alpha;
+      if constexpr (kChannels == 3) hn::LoadInterleaved3(narrow, from + kChannels * x, r, g, b);
+      if constexpr (kChannels == 4) hn::LoadInterleaved4(narrow, from + kChannels * x, r, g, b, alpha);
+      hn::StoreU(Widened(d, r), d, red + x);
+      hn::StoreU(Widened(d, g), d, green + x);
+      hn::StoreU(Widened(d, b), d, blue + x);
+    });
+  }
+  template <class N>
+  static HWY_INLINE V Widened(D d, N v) {
+    if constexpr (std::is_same_v<T, F>)
+      return v;
+    else if constexpr (std::is_same_v<F, float>)
+      return hn::ConvertTo(d, hn::PromoteTo(hn::Rebind<int32_t, D>(), v));
+    else
+      return hn::PromoteTo(d, v);
+  }
+
+  HWY_NOINLINE void Measure(ptrdiff_t upper, ptrdiff_t lower, ptrdiff_t dx) const {
     const D d;
     const F *const a0 = Colour(upper, 0), *const a1 = Colour(upper, 1), *const a2 = Colour(upper, 2);
     const F *const b0 = Colour(lower, 0) + dx, *const b1 = Colour(lower, 1) + dx, *const b2 = Colour(lower, 2) + dx;
@@ -123,55 +161,76 @@ class VectorKernel {
   // ---- The choice
 
   // For the pixels of a line of the mask, from the top down.
-  void SumColumns(ptrdiff_t line) const {
+  template <int kHeight>
+  HWY_NOINLINE void SumColumns(ptrdiff_t line) const {
     for (ptrdiff_t dx = 1 - width_; dx < width_; ++dx) {
-      const F* terms[kLongestSide];
-      for (ptrdiff_t l = 0; l < height_; ++l) {
-        terms[l] = l >= line ? Distance(line, l, dx) : Distance(l, line, -dx) + dx;
+      std::array<const F*, kHeight> terms;
+      for (ptrdiff_t l = 0; l < kHeight; ++l) {
+        const bool isMeasured = l > line || (l == line && dx >= 0);
+        terms[l] = isMeasured ? Distance(line, l, dx) : Distance(l, line, -dx) + dx;
       }
       const D d;
-      const ptrdiff_t height = height_;
-      F* const to = ColumnSum(dx);
-      ForVectors(std::max<ptrdiff_t>(0, -dx), pixels_ - std::max<ptrdiff_t>(0, dx), [&](ptrdiff_t x) HWY_ATTR {
+      F* const to = ColumnSum(line, dx);
+      ForVectors(std::max<ptrdiff_t>(0, -dx), pixels_ - std::max<ptrdiff_t>(0, dx), [=](ptrdiff_t x) HWY_ATTR {
         V sum = hn::LoadU(d, terms[0] + x);
-        for (ptrdiff_t l = 1; l < height; ++l) sum = hn::Add(sum, hn::LoadU(d, terms[l] + x));
+        Unrolled<kHeight - 1>([&](auto l) QVP_INLINED { sum = hn::Add(sum, hn::LoadU(d, terms[l + 1] + x)); });
         hn::StoreU(sum, d, to + x);
       });
     }
   }
+  void SumColumnsByHeight(ptrdiff_t line) const {
+    if (height_ == 1) return SumColumns<1>(line);
+    if (height_ == 3) return SumColumns<3>(line);
+    height_ == 5 ? SumColumns<5>(line) : SumColumns<7>(line);
+  }
 
   // Of the pixel of the mask in a column, for the masks from x on.
-  HWY_INLINE V SumOf(const F* const* columns, ptrdiff_t i, ptrdiff_t x) const {
+  template <int kWidth>
+  using Columns = std::array<const F*, 2 * kWidth - 1>;
+  template <int kWidth>
+  Columns<kWidth> ColumnsOf(ptrdiff_t line) const {
+    Columns<kWidth> columns;
+    for (int k = 0; k < 2 * kWidth - 1; ++k) columns[k] = ColumnSum(line, k + 1 - kWidth);
+    return columns;
+  }
+  template <int kWidth>
+  static HWY_INLINE V SumOf(const Columns<kWidth>& columns, ptrdiff_t i, ptrdiff_t x) {
     const D d;
-    V sum = hn::LoadU(d, columns[-i] + x + i);
-    for (ptrdiff_t k = 1; k < width_; ++k) sum = hn::Add(sum, hn::LoadU(d, columns[k - i] + x + i));
+    const auto term = [&](ptrdiff_t k) QVP_INLINED { return hn::LoadU(d, columns[k - i + kWidth - 1] + x + i); };
+    V sum = term(0);
+    Unrolled<kWidth - 1>([&](auto k) QVP_INLINED { sum = hn::Add(sum, term(k + 1)); });
     return sum;
   }
 
+  void ChooseByWidth() const {
+    if (width_ == 1) return Choose<1>();
+    if (width_ == 3) return Choose<3>();
+    width_ == 5 ? Choose<5>() : Choose<7>();
+  }
+
   // Choices are numbers of pixels of the mask, in the order of rows.
+  template <int kWidth>
   void Choose() const {
     const D d;
-    const ptrdiff_t middle = height_ / 2, centre = width_ / 2;
-    const F* sums[kMostOffsets];
-    for (ptrdiff_t k = 0; k < offsets_; ++k) sums[k] = ColumnSum(k + 1 - width_);
-    const F* const* const columns = sums + width_ - 1;
+    const ptrdiff_t middle = height_ / 2;
     F *const best = Best(), *const choice = Choice();
-    SumColumns(middle);
-    const V first = hn::Set(d, static_cast<F>(middle * width_ + centre));
+    for (ptrdiff_t j = 0; j < height_; ++j) SumColumnsByHeight(j);
+    const auto centres = ColumnsOf<kWidth>(middle);
+    const V first = hn::Set(d, static_cast<F>(middle * kWidth + kWidth / 2));
     ForVectors(0, results_, [&](ptrdiff_t x) HWY_ATTR {
-      hn::StoreU(SumOf(columns, centre, x), d, best + x);
+      hn::StoreU(SumOf<kWidth>(centres, kWidth / 2, x), d, best + x);
       hn::StoreU(first, d, choice + x);
     });
     for (ptrdiff_t j = 0; j < height_; ++j) {
-      SumColumns(j);
+      const auto columns = ColumnsOf<kWidth>(j);
       ForVectors(0, results_, [&](ptrdiff_t x) HWY_ATTR {
         V least = hn::LoadU(d, best + x), chosen = hn::LoadU(d, choice + x);
-        for (ptrdiff_t i = 0; i < width_; ++i) {
-          const V sum = SumOf(columns, i, x);
+        Unrolled<kWidth>([&](auto i) QVP_INLINED {
+          const V sum = SumOf<kWidth>(columns, i, x);
           const auto isLess = hn::Lt(sum, least);
           least = hn::IfThenElse(isLess, sum, least);
-          chosen = hn::IfThenElse(isLess, hn::Set(d, static_cast<F>(j * width_ + i)), chosen);
-        }
+          chosen = hn::IfThenElse(isLess, hn::Set(d, static_cast<F>(j * kWidth + i)), chosen);
+        });
         hn::StoreU(least, d, best + x);
         hn::StoreU(chosen, d, choice + x);
       });
@@ -179,19 +238,20 @@ class VectorKernel {
   }
 
   void Put(T* to) const {
-    const F* const choice = Choice();
-    ptrdiff_t places[kLongestSide * kLongestSide];
-    for (ptrdiff_t k = 0; k < width_ * height_; ++k) places[k] = k % width_ * channels_;
-    const auto width = static_cast<unsigned>(width_);
-    for (ptrdiff_t x = 0; x < results_; ++x, to += channels_) {
-      const auto k = static_cast<unsigned>(choice[x]);
-      const auto* const line = static_cast<const T*>(window_.lines[k / width]);
-      std::memcpy(to, line + x * channels_ + places[k], channels_ * sizeof(T));
+    const F* next = Choice();
+    const T* chosen[kLongestSide * kLongestSide];
+    for (ptrdiff_t k = 0; k < width_ * height_; ++k) {
+      chosen[k] = static_cast<const T*>(window_.lines[k / width_]) + k % width_ * channels_;
+    }
+    const ptrdiff_t n = results_ * channels_;
+    for (ptrdiff_t i = 0; i < n; i += channels_, ++next) {
+      std::memcpy(to + i, chosen[static_cast<unsigned>(*next)] + i, kColours * sizeof(T));
     }
   }
 
   const Window& window_;
   const ptrdiff_t channels_, width_, height_, offsets_, results_, pixels_;
+  ptrdiff_t slots_[kLongestSide];  // of lines
 };
 
 template <class T, class F, bool kIsL2>
@@ -204,7 +264,7 @@ void FilterVectors(const Windows<BitsOf<T>>& windows, QvpiSize mask) {
                           .elementBytes = sizeof(T),
                           .rowsAtOnce = 1,
                           .kept = RowsFor(mask),
-                          .cacheBytes = kSecondCacheBytes});
+                          .cacheBytes = kVectorCacheBytes});
 }
 
 template <class T>
@@ -238,7 +298,7 @@ QvpStatus qvpiFilterMedianVectorBorderGetBufferSize(QvpiSize maskSize, QvpiSize 
   if (dataType == qvp16s) return qvpStatusDataType;
   if (numChannels != 3 && numChannels != 4) return qvpStatusNumChannels;
   const int elementBytes = dataType == qvp8u ? 1 : dataType == qvp16u ? 2 : 4;
-  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, RowsFor(maskSize), kSecondCacheBytes)
+  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, RowsFor(maskSize), kVectorCacheBytes)
       .StoreTo(pBufferSize);
 }
 
