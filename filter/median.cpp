@@ -1,8 +1,7 @@
 // Medians of a rectangle around each pixel: checks, and the choice of a method.
 #include "filter/median.h"
 
-#include "base/export.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 #include "qvpi.h"
 
 namespace qvp::filter {
@@ -22,44 +21,26 @@ void FilterMedian(const MedianCall<T>& call) {
 
 // `weight` has been found to be 1 at least. A centre that counts as often as all values together stays.
 template <class T>
-void FilterCentred(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiSize mask, int weight,
-                   QvpiBorderType border, const T* value, uint8_t* buffer) {
-  const bool isCopy = weight >= mask.width * mask.height;
+void FilterCentred(const WindowCall<T>& on, QvpiSize mask, int weight) {
+  const int n = mask.width * mask.height;
+  const bool isCopy = weight >= n;
   const QvpiSize used = isCopy ? QvpiSize{1, 1} : mask;
-  const ptrdiff_t beside = used.width / 2, beyond = used.height / 2;
-  MedianCall<T> call{WindowsOn(src, roi, border, value, {beside, beyond, beside, beyond}, buffer), used,
-                     isCopy ? MedianRanks{0, 0} : RanksFor(mask.width * mask.height, weight)};
-  call.windows.outputs[0] = AsBytes(dst);
-  FilterMedian(call);
-}
-
-QvpStatus CheckMask(QvpiSize mask) {
-  return IsOddUpTo(kLongestMedianSide, mask) ? qvpStatusNoError : qvpStatusMaskSize;
-}
-
-QvpStatus CheckBorder(QvpiBorderType border) {
-  return IsBorderOf({BorderKind::kReplicate, BorderKind::kConst}, border) ? qvpStatusNoError : qvpStatusBorder;
+  FilterMedian(MedianCall<T>{on.Reaching(ReachAround(used)), used, isCopy ? MedianRanks{0, 0} : RanksFor(n, weight)});
 }
 
 template <class T>
-QvpStatus Median(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiSize mask, QvpiBorderType border,
-                 const T* value, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
-  if (const QvpStatus failed = CheckMask(mask)) return failed;
-  if (const QvpStatus failed = CheckBorder(border)) return failed;
-  FilterCentred(src, dst, roi, mask, 1, border, value, buffer);
-  return qvpStatusNoError;
-}
-
-template <class T>
-QvpStatus MedianCenter(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiSize mask, int weight,
-                       QvpiBorderType border, const T* value, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
-  if (const QvpStatus failed = CheckMask(mask)) return failed;
+QvpStatus MedianCenter(const WindowCall<T>& on, QvpiSize mask, int weight) {
+  if (const QvpStatus failed = on.Check()) return failed;
+  if (!IsOddUpTo(kLongestMedianSide, mask)) return qvpStatusMaskSize;
   if (weight < 1) return qvpStatusWeight;
-  if (const QvpStatus failed = CheckBorder(border)) return failed;
-  FilterCentred(src, dst, roi, mask, weight, border, value, buffer);
+  if (const QvpStatus failed = CheckMedianBorder(on.border)) return failed;
+  FilterCentred(on, mask, weight);
   return qvpStatusNoError;
+}
+
+template <class T>
+QvpStatus Median(const WindowCall<T>& on, QvpiSize mask) {
+  return MedianCenter(on, mask, 1);
 }
 
 // Methods take turns with the mask's size, and each has to find its place in the buffer of a larger one.
@@ -92,20 +73,11 @@ QvpStatus qvpiFilterMedianCenterBorderGetBufferSize(QvpiSize maskSize, QvpiSize 
   return BufferSize(maskSize, roiSize, dataType, numChannels, pBufferSize);
 }
 
-#define MEDIAN(type, layout)                                                                                        \
-  QvpStatus qvpiFilterMedianBorder_##type##_##layout##R(                                                            \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize,        \
-      QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {                                    \
-    return Median<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize,       \
-                             maskSize, borderType, borderValue, pBuffer);                                           \
-  }                                                                                                                 \
-  QvpStatus qvpiFilterMedianCenterBorder_##type##_##layout##R(                                                      \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize,        \
-      int weight, QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {                        \
-    return MedianCenter<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize, \
-                                   maskSize, weight, borderType, borderValue, pBuffer);                             \
-  }
-QVP_EACH_LAYOUT(MEDIAN, 8u)
-QVP_EACH_LAYOUT(MEDIAN, 16u)
-QVP_EACH_LAYOUT(MEDIAN, 16s)
-QVP_EACH_LAYOUT(MEDIAN, 32f)
+#define MEDIANS(type, layout)                                                                           \
+  QVP_WINDOW(Median, type, type, type, layout, Median, (QvpiSize maskSize), (), (maskSize))             \
+  QVP_WINDOW(MedianCenter, type, type, type, layout, MedianCenter, (QvpiSize maskSize, int weight), (), \
+             (maskSize, weight))
+QVP_EACH_LAYOUT(MEDIANS, 8u)
+QVP_EACH_LAYOUT(MEDIANS, 16u)
+QVP_EACH_LAYOUT(MEDIANS, 16s)
+QVP_EACH_LAYOUT(MEDIANS, 32f)

@@ -24,6 +24,14 @@ struct MedianRanks {
   constexpr bool isPlain() const { return low == high; }
 };
 
+constexpr Reach ReachAround(QvpiSize mask) {
+  return {mask.width / 2, mask.height / 2, mask.width / 2, mask.height / 2};
+}
+
+constexpr QvpStatus CheckMedianBorder(QvpiBorderType border) {
+  return CheckBorder(border, {BorderKind::kReplicate, BorderKind::kConst});
+}
+
 // The centre counts `weight` times, fewer than there are values.
 constexpr MedianRanks RanksFor(int n, int weight) {
   const int middle = (n + weight) / 2;

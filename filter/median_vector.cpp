@@ -2,11 +2,10 @@
 //
 // Each pair of pixels has one distance, whichever of both is asked. The distances from a new line to itself and to
 // those above it are kept for as long as both are under the mask.
-#include "base/export.h"
 #include "base/scalar.h"
 #include "filter/median.h"
 #include "filter/unrolled.h"
-#include "filter/window_check.h"
+#include "filter/window_call.h"
 #include "qvpi.h"
 
 namespace qvp::filter {
@@ -268,15 +267,12 @@ void FilterVectors(const Windows<BitsOf<T>>& windows, QvpiSize mask) {
 }
 
 template <class T>
-QvpStatus MedianVector(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiSize mask, QvpNormType norm,
-                       QvpiBorderType border, const T* value, uint8_t* buffer) {
-  if (const QvpStatus failed = CheckWindow(src, dst, roi, border, value, {buffer})) return failed;
+QvpStatus MedianVector(const WindowCall<T>& on, QvpiSize mask, QvpNormType norm) {
+  if (const QvpStatus failed = on.Check()) return failed;
   if (!IsOddUpTo(kLongestSide, mask)) return qvpStatusMaskSize;
   if (norm != qvpNormL1 && norm != qvpNormL2) return qvpStatusNotSupportedMode;
-  if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kConst}, border)) return qvpStatusBorder;
-  const ptrdiff_t beside = mask.width / 2, beyond = mask.height / 2;
-  auto windows = WindowsOn(src, roi, border, value, {beside, beyond, beside, beyond}, buffer);
-  windows.outputs[0] = AsBytes(dst);
+  if (const QvpStatus failed = CheckMedianBorder(on.border)) return failed;
+  const auto windows = on.Reaching(ReachAround(mask));
   if (norm == qvpNormL2) {
     FilterVectors<T, float, true>(windows, mask);
   } else {
@@ -302,14 +298,12 @@ QvpStatus qvpiFilterMedianVectorBorderGetBufferSize(QvpiSize maskSize, QvpiSize 
       .StoreTo(pBufferSize);
 }
 
-#define MEDIAN_VECTOR(type, layout)                                                                                 \
-  QvpStatus qvpiFilterMedianVectorBorder_##type##_##layout##R(                                                      \
-      const Qvp##type* pSrc, int srcStep, Qvp##type* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize,        \
-      QvpNormType normType, QvpiBorderType borderType, const Qvp##type* borderValue, Qvp8u* pBuffer) {              \
-    return MedianVector<Qvp##type>({pSrc, srcStep, Layout::k##layout}, {pDst, dstStep, Layout::k##layout}, roiSize, \
-                                   maskSize, normType, borderType, borderValue, pBuffer);                           \
-  }
-#define MEDIAN_VECTORS(type) MEDIAN_VECTOR(type, C3) MEDIAN_VECTOR(type, AC4)
-MEDIAN_VECTORS(8u)
-MEDIAN_VECTORS(16u)
-MEDIAN_VECTORS(32f)
+#define MEDIAN_VECTOR(type, layout)                                                                               \
+  QVP_WINDOW(MedianVector, type, type, type, layout, MedianVector, (QvpiSize maskSize, QvpNormType normType), (), \
+             (maskSize, normType))
+MEDIAN_VECTOR(8u, C3)
+MEDIAN_VECTOR(8u, AC4)
+MEDIAN_VECTOR(16u, C3)
+MEDIAN_VECTOR(16u, AC4)
+MEDIAN_VECTOR(32f, C3)
+MEDIAN_VECTOR(32f, AC4)
