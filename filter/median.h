@@ -58,8 +58,10 @@ using MedianLane = std::conditional_t<std::is_same_v<T, float>, int32_t, T>;
 constexpr int32_t OrderedBits(int32_t bits) { return bits ^ ((bits >> 31) & 0x7FFFFFFF); }
 
 // The methods take what they need of the work buffer, at any address; the walk has the rest.
-template <class T>
-bool FilterByNetworks(const MedianCall<T>& call);  // false if it is none of theirs
+bool FilterByNetworks(const MedianCall<uint8_t>& call);  // false if it is none of theirs
+bool FilterByNetworks(const MedianCall<uint16_t>& call);
+bool FilterByNetworks(const MedianCall<int16_t>& call);
+bool FilterByNetworks(const MedianCall<float>& call);
 void FilterByColumnCounts(const MedianCall<uint8_t>& call);
 template <class T>
 void FilterBySlidingCounts(const MedianCall<T>& call);

@@ -15,7 +15,8 @@ class SmallestKernel {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const SmallestKernel kernel(*static_cast<const NetworkContext<T>*>(context), window);
     E *const upper = reinterpret_cast<E*>(rows.upper[0]), *const lower = reinterpret_cast<E*>(rows.lower[0]);
-    ForPieces<kPiece, kLanes>(window.samples, upper, lower, [&](ptrdiff_t begin, ptrdiff_t n, E* up, E* low) {
+    const ptrdiff_t most = kStep - 2 * kernel.channels_ - kLanes;
+    ForPieces<kLanes>(window.samples, most, upper, lower, [&](ptrdiff_t begin, ptrdiff_t n, E* up, E* low) {
       kernel.SortColumns(begin, n + 2 * kernel.channels_);
       kernel.Select(kLow, n, low);
       kernel.Select(kUp, n, up);
@@ -27,8 +28,7 @@ class SmallestKernel {
   using V = hn::Vec<D>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   static constexpr int kRows = 6, kUp = 0, kLow = 3;  // of lists: the least, middle and greatest of two rows' columns
-  static constexpr ptrdiff_t kStep = kNetworkListBytes / 2 / kRows / 64 * 64 / ptrdiff_t{sizeof(E)},
-                             kPiece = kStep - 2 * 4 - kLanes;
+  static constexpr ptrdiff_t kStep = ListBytes(3) / 2 / kRows / 64 * 64 / ptrdiff_t{sizeof(E)};
 
   SmallestKernel(const NetworkContext<T>& context, const Window& window)
       : channels_(context.channels), lists_(context.lists), lines_(LinesOf<E, 4>(window.lines)) {}

@@ -16,19 +16,22 @@ HWY_INLINE void RunExchange(V* wires) {
   if constexpr (e.hasLow) wires[e.low] = hn::Min(a, b);
   if constexpr (e.hasHigh) wires[e.high] = hn::Max(a, b);
 }
-template <const auto& kNetwork, class V, int... kAt>
+template <const auto& kNetwork, int kFrom, class V, int... kAt>
 HWY_INLINE void RunExchanges(V* wires, std::integer_sequence<int, kAt...>) {
-  (RunExchange<kNetwork, kAt>(wires), ...);
+  (RunExchange<kNetwork, kFrom + kAt>(wires), ...);
 }
-template <const auto& kNetwork, class V>
+// By parts that compilers take.
+template <const auto& kNetwork, int kFrom = 0, class V>
 HWY_INLINE void RunNetwork(V* wires) {
-  RunExchanges<kNetwork>(wires, std::make_integer_sequence<int, kNetwork.count>());
+  constexpr int kLeft = kNetwork.count - kFrom, kPart = kLeft < 128 ? kLeft : 128;
+  RunExchanges<kNetwork, kFrom>(wires, std::make_integer_sequence<int, kPart>());
+  if constexpr (kPart < kLeft) RunNetwork<kNetwork, kFrom + kPart>(wires);
 }
 
 // All networks of a mask. Those of weighted medians have the places of two weights: kSpread places around the middle.
 template <int kSide, int kSpread>
 struct MedianNetworks {
-  using N = Network<128, 1024>;
+  using N = Network<(kSide > 11 ? 256 : 128), (kSide > 11 ? 4096 : 1024)>;
 
   static constexpr int kAll = kSide * kSide, kMiddle = kAll / 2;
   static constexpr MedianShape kShape{kSide, kSide, {kAll, kMiddle - kSpread, kMiddle + kSpread}};
@@ -61,7 +64,9 @@ struct NetworkContext {
   MedianLane<T>* lists;
 };
 
-inline constexpr ptrdiff_t kNetworkListBytes = 1 << 15;
+// Of the lists of a piece: of few ones in the nearest cache.
+constexpr ptrdiff_t ListBytes(int side) { return side <= 7 ? 1 << 15 : side <= 11 ? 1 << 16 : 1 << 17; }
+inline constexpr int kLongestNetworkSide = 15;
 
 // Pixels as lanes that have their order, and back.
 template <class T, class V>
@@ -74,10 +79,10 @@ HWY_INLINE V OrderedLanes(V v) {
   }
 }
 
-// filter(begin, n, upper, lower) for pieces of two rows of results, none of which is shorter than a vector.
-template <ptrdiff_t kMost, ptrdiff_t kLanes, class E, class Filter>
-HWY_INLINE void ForPieces(ptrdiff_t n, E* upper, E* lower, const Filter& filter) {
-  static_assert(kMost >= 2 * kLanes);
+// filter(begin, n, upper, lower) for pieces of two rows of results, none of which is shorter than a vector: `most` are
+// two at least.
+template <ptrdiff_t kLanes, class E, class Filter>
+HWY_INLINE void ForPieces(ptrdiff_t n, ptrdiff_t most, E* upper, E* lower, const Filter& filter) {
   if (n < kLanes) {
     E staged[2][kLanes];
     filter(0, n, staged[0], staged[1]);
@@ -85,7 +90,7 @@ HWY_INLINE void ForPieces(ptrdiff_t n, E* upper, E* lower, const Filter& filter)
     std::memcpy(upper, staged[0], n * sizeof(E));
     return;
   }
-  const ptrdiff_t pieces = (n + kMost - 1) / kMost;
+  const ptrdiff_t pieces = (n + most - 1) / most;
   for (ptrdiff_t p = 0; p < pieces; ++p) {
     const ptrdiff_t begin = n * p / pieces, end = n * (p + 1) / pieces;
     filter(begin, end - begin, upper + begin, lower + begin);
@@ -101,11 +106,12 @@ class NetworkKernel {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const NetworkKernel kernel(*static_cast<const Context*>(context), window);
     E *const upper = reinterpret_cast<E*>(rows.upper[0]), *const lower = reinterpret_cast<E*>(rows.lower[0]);
-    ForPieces<kPiece, kLanes>(window.samples, upper, lower, [&](ptrdiff_t begin, ptrdiff_t n, E* up, E* low) {
-      kernel.SortColumns(begin, n + (kSide - 1) * kernel.context_.channels);
-      kernel.template MergeFrom<1>(n);
-      kernel.Select(begin, n, up, low);
-    });
+    ForPieces<kLanes>(window.samples, kernel.MostResults(), upper, lower,
+                      [&](ptrdiff_t begin, ptrdiff_t n, E* up, E* low) {
+                        kernel.SortColumns(begin, n + (kSide - 1) * kernel.context_.channels);
+                        kernel.template MergeFrom<1>(n);
+                        kernel.Select(begin, n, up, low);
+                      });
   }
 
  private:
@@ -123,15 +129,16 @@ class NetworkKernel {
     return row;
   }
   static constexpr int kListRows = FirstRow(Networks::kLogs), kRows = kListRows + 2;
-  static constexpr ptrdiff_t kBesides = (kSide - 1) * 4 + kLanes;
-  static constexpr ptrdiff_t kStep = kNetworkListBytes / kRows / 64 * 64 / ptrdiff_t{sizeof(E)},
-                             kPiece = std::min<ptrdiff_t>(kStep - kBesides, 2048);
+  static constexpr ptrdiff_t kStep = ListBytes(kSide) / kRows / 64 * 64 / ptrdiff_t{sizeof(E)};
+  static_assert(kStep >= (kSide - 1) * 4 + 3 * kLanes);
 
   NetworkKernel(const Context& context, const Window& window) : context_(context) {
     for (int j = 0; j <= kSide; ++j) lines_[j] = static_cast<const E*>(window.lines[j]);
   }
 
   static HWY_INLINE V Load(const E* pixels) { return OrderedLanes<T>(hn::LoadU(D(), pixels)); }
+  // Of a piece: lists are longer by what the mask reaches, and by a vector.
+  ptrdiff_t MostResults() const { return kStep - (kSide - 1) * context_.channels - kLanes; }
   HWY_INLINE E* Row(int row) const { return context_.lists + row * kStep; }
 
   HWY_NOINLINE void SortColumns(ptrdiff_t begin, ptrdiff_t n) const {

@@ -37,7 +37,7 @@ Entry* SortByKeys(Entry* entries, Entry* spare, ptrdiff_t n) {
     for (int k = 0; k < kDigits; ++k) ++counts[k][digit(entries[i], k)];
   }
   for (int k = 0; k < kDigits; ++k) {
-    if (counts[k][digit(entries[0], k)] == n) continue;
+    if (counts[k][digit(entries[0], k)] == static_cast<uint32_t>(n)) continue;
     uint32_t next = 0;
     for (uint32_t& count : counts[k]) next += std::exchange(count, next);
     for (ptrdiff_t i = 0; i < n; ++i) spare[counts[k][digit(entries[i], k)]++] = entries[i];
