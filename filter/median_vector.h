@@ -2,6 +2,8 @@
 //
 // Each pair of pixels has one distance, whichever of both is asked. The distances from a new line to itself and to
 // those above it are kept for as long as both are under the mask.
+#pragma once
+
 #include "base/scalar.h"
 #include "filter/median.h"
 #include "filter/unrolled.h"
