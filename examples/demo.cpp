@@ -55,6 +55,7 @@ int main(int argc, char** argv) try {
   demo::AxesFilterSteps(demo);
   demo::ExtremesSteps(demo);
   demo::FixedFilterSteps(demo);
+  demo::MedianSteps(demo);
   demo::SumsFilterSteps(demo);
   demo::DenoiseSteps(demo);
   demo::ResizeSteps(demo);

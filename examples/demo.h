@@ -48,6 +48,7 @@ void FilterSteps(Demo& demo);
 void AxesFilterSteps(Demo& demo);
 void ExtremesSteps(Demo& demo);
 void FixedFilterSteps(Demo& demo);
+void MedianSteps(Demo& demo);
 void SumsFilterSteps(Demo& demo);
 void DenoiseSteps(Demo& demo);
 void ResizeSteps(Demo& demo);

@@ -46,9 +46,10 @@ QvpStatus Median(const WindowCall<T>& on, QvpiSize mask) {
 // Methods take turns with the mask's size, and each has to find its place in the buffer of a larger one.
 ByteCount MedianBytes(QvpiSize mask, int64_t regionWidth, QvpDataType type, int channels) {
   if (type == qvp8u) {
-    return WindowBytes(mask, regionWidth, channels, 1, kColumnCounts, kColumnCacheBytes) + NetworkBytes();
+    return WindowBytes(mask, regionWidth, channels, 1, kColumnCounts, kSecondCacheBytes) + NetworkBytes();
   }
-  const ByteCount walk = WindowBytes(mask, regionWidth, channels, type == qvp32f ? 4 : 2) + NetworkBytes();
+  const ByteCount walk =
+      WindowBytes(mask, regionWidth, channels, type == qvp32f ? 4 : 2, {}, kSecondCacheBytes) + NetworkBytes();
   return type == qvp32f ? std::max(walk.value(), RankBytes(mask).value()) : walk + SlidingBytes();
 }
 

@@ -16,6 +16,19 @@ void FilterByNetwork(const MedianCall<T>& call, bool isUpperOdd = false) {
       {.context = &context, .across = nullptr, .down = Kernel::Down, .elementBytes = sizeof(T), .rowsAtOnce = 2});
 }
 
+template <class T>
+void FilterSmallest(const MedianCall<T>& call) {
+  const SmallestKernel<T> kernel(call.channels());
+  constexpr bool kIsFloat = std::is_same_v<T, float>;  // keys are made once, though they are not where the rows are
+  FilterWindows(call.windows, {.context = &kernel,
+                               .across = kIsFloat ? SmallestKernel<T>::Across : nullptr,
+                               .down = DownBy<SmallestKernel<T>>,
+                               .elementBytes = sizeof(T),
+                               .rowsAtOnce = 2,
+                               .keepsReach = kIsFloat,
+                               .cacheBytes = kSecondCacheBytes});
+}
+
 template <class T, int kSide, int kSpread>
 void FilterSquare(const MedianCall<T>& call) {
   FilterByNetwork<T, NetworkKernel<T, kSide, kSpread>>(call, call.ranks.high == kSide * kSide / 2 + kSpread);
@@ -27,7 +40,7 @@ bool FilterByAnyNetwork(const MedianCall<T>& call) {
   const int side = call.mask.width, spread = side * side / 2 - call.ranks.low;
   if (spread == 0) {
     switch (side) {
-      case 3: return FilterByNetwork<T, SmallestKernel<T>>(call), true;
+      case 3: return FilterSmallest(call), true;
       case 5: return FilterSquare<T, 5, 0>(call), true;
       case 7: return FilterSquare<T, 7, 0>(call), true;
       case 9: return FilterSquare<T, 9, 0>(call), true;
