@@ -28,7 +28,8 @@ HWY_INLINE void RunNetwork(V* wires) {
   if constexpr (kPart < kLeft) RunNetwork<kNetwork, kFrom + kPart>(wires);
 }
 
-// All networks of a mask. Those of weighted medians have the places of two weights: kSpread places around the middle.
+// All networks of a mask. Those of weighted medians have the places that are at most
+// kSpread from the middle.
 template <int kSide, int kSpread>
 struct MedianNetworks {
   using N = Network<(kSide > 11 ? 256 : 128), (kSide > 11 ? 4096 : 1024)>;
@@ -60,7 +61,7 @@ struct MedianNetworks {
 template <class T>
 struct NetworkContext {
   ptrdiff_t channels;
-  bool isUpperOdd;  // of a weighted median, whether the upper place is the last one of the networks
+  int low, high;  // of the networks' results, which are sorted: those that are taken
   MedianLane<T>* lists;
 };
 
@@ -220,9 +221,11 @@ class NetworkKernel {
     Unrolled<kSide>([&](auto k) QVP_INLINED { wires[kCore.count + k] = hn::LoadU(D(), row + k * context_.channels); });
     RunNetwork<Networks::kRow>(wires);
     if constexpr (kSpread == 0) return OrderedLanes<T>(wires[kPlaces[0]]);
+    HWY_ALIGN E sorted[(2 * kSpread + 1) * kLanes];
+    Unrolled<2 * kSpread + 1>([&](auto k) QVP_INLINED { hn::Store(wires[kPlaces[k]], D(), sorted + k * kLanes); });
     const V centre = Load(centres + kSide / 2 * context_.channels);
-    const V top = context_.isUpperOdd ? wires[kPlaces[2 * kSpread]] : wires[kPlaces[kSpread > 0 ? 2 * kSpread - 1 : 0]];
-    return OrderedLanes<T>(hn::Max(wires[kPlaces[0]], hn::Min(centre, top)));
+    const V low = hn::Load(D(), sorted + context_.low * kLanes), high = hn::Load(D(), sorted + context_.high * kLanes);
+    return OrderedLanes<T>(hn::Max(low, hn::Min(centre, high)));
   }
 
   const Context context_;

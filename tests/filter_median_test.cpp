@@ -140,15 +140,21 @@ TEST(FilterMedian, EqualsItsDefinition) {
   }
 }
 
+// Each weight of the smallest masks, and those on both sides of where another network or the counts take over.
 TEST(FilterMedian, WeightedEqualsItsDefinition) {
   constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 5}, {7, 7}, {3, 5}, {9, 9}, {15, 3}, {15, 15}, {1, 31}, {19, 17}};
-  constexpr int kWeights[] = {1, 2, 3, 4, 5, 8, 9, 10, 24, 25, 26, INT32_MAX};
+  constexpr int kWeights[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 23, 24, 25, 26, INT32_MAX};
   int turn = 0;
   for (const Export* function : Functions("FilterMedianCenterBorder")) {
+    const Name name(function->name);
     for (const QvpiSize mask : kMasks) {
       ++turn;
-      Check(*function, {mask, kWeights[turn % std::size(kWeights)]}, RegionOf(turn, Name(function->name), mask),
-            turn / 3);
+      Check(*function, {mask, kWeights[turn * 7 % std::size(kWeights)]}, RegionOf(turn, name, mask), turn / 3);
+    }
+    for (const int weight : kWeights) {
+      ++turn;
+      const int side = 3 + turn % 3 * 2;
+      Check(*function, {{side, side}, weight}, {{1 + turn * 7 % 50, 3}, name.channels, qvpBorderReplicate}, turn / 3);
     }
   }
 }
