@@ -3,7 +3,7 @@
 
 namespace qvp::filter {
 
-ByteCount NetworkBytes() { return ListBytes(kLongestNetworkSide) + kRecordBoundary; }
+ByteCount NetworkBytes() { return kMostListBytes + kRecordBoundary; }
 
 bool FilterByNetworks(const MedianCall<uint8_t>& call) { return FilterByAnyNetwork(call); }
 

@@ -65,9 +65,8 @@ struct NetworkContext {
   MedianLane<T>* lists;
 };
 
-// Of the lists of a piece: of few ones in the nearest cache.
-constexpr ptrdiff_t ListBytes(int side) { return side <= 7 ? 1 << 15 : side <= 11 ? 1 << 16 : 1 << 17; }
-inline constexpr int kLongestNetworkSide = 15;
+// Of the lists of a piece of a row, at most; and what they have as far as their reach allows, for the nearest cache.
+inline constexpr ptrdiff_t kMostListBytes = 1 << 17, kUsualListBytes = 24576;
 
 // Pixels as lanes that have their order, and back.
 template <class T, class V>
@@ -130,8 +129,10 @@ class NetworkKernel {
     return row;
   }
   static constexpr int kListRows = FirstRow(Networks::kLogs), kRows = kListRows + 2;
-  static constexpr ptrdiff_t kStep = ListBytes(kSide) / kRows / 64 * 64 / ptrdiff_t{sizeof(E)};
-  static_assert(kStep >= (kSide - 1) * 4 + 3 * kLanes);
+  static constexpr ptrdiff_t kAlignment = 64 / ptrdiff_t{sizeof(E)}, kFewest = (kSide - 1) * 4 + 3 * kLanes,
+                             kUsual = kUsualListBytes / kRows / ptrdiff_t{sizeof(E)},
+                             kStep = (std::max(kFewest, kUsual) + kAlignment - 1) / kAlignment * kAlignment;
+  static_assert(kRows * kStep * sizeof(E) <= kMostListBytes);
 
   NetworkKernel(const Context& context, const Window& window) : context_(context) {
     for (int j = 0; j <= kSide; ++j) lines_[j] = static_cast<const E*>(window.lines[j]);

@@ -24,7 +24,7 @@ bool FilterSquare(const MedianCall<T>& call) {
   constexpr int kFirst = kSide * kSide / 2 - kSpread;
   auto* const lists = AtBoundary(call.windows.buffer);
   auto windows = call.windows;
-  windows.buffer = lists + ListBytes(kLongestNetworkSide);
+  windows.buffer = lists + kMostListBytes;
   const NetworkContext<T> context{call.channels(), call.ranks.low - kFirst, call.ranks.high - kFirst,
                                   reinterpret_cast<MedianLane<T>*>(lists)};
   FilterWindows(windows, {.context = &context,
