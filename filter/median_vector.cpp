@@ -17,7 +17,7 @@ void FilterVectors(const Windows<BitsOf<T>>& windows, QvpiSize mask) {
                           .elementBytes = sizeof(T),
                           .rowsAtOnce = 1,
                           .kept = VectorRowsFor(mask),
-                          .cacheBytes = kVectorCacheBytes});
+                          .cacheBytes = kSecondCacheBytes});
 }
 
 template <class T>
@@ -48,7 +48,7 @@ QvpStatus qvpiFilterMedianVectorBorderGetBufferSize(QvpiSize maskSize, QvpiSize 
   if (dataType == qvp16s) return qvpStatusDataType;
   if (numChannels != 3 && numChannels != 4) return qvpStatusNumChannels;
   const int elementBytes = dataType == qvp8u ? 1 : dataType == qvp16u ? 2 : 4;
-  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, VectorRowsFor(maskSize), kVectorCacheBytes)
+  return WindowBytes(maskSize, roiSize.width, numChannels, elementBytes, VectorRowsFor(maskSize), kSecondCacheBytes)
       .StoreTo(pBufferSize);
 }
 

@@ -11,7 +11,6 @@
 namespace qvp::filter {
 
 inline constexpr int kLongestVectorSide = 7, kColours = 3;
-inline constexpr int64_t kVectorCacheBytes = 1 << 18;
 
 // Rows that are kept, all of numbers of one type for each pixel: what has room for a pixel has room for two of them.
 constexpr KeptRows VectorRowsFor(QvpiSize mask) {
