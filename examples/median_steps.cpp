@@ -1,4 +1,4 @@
-// Steps of qvpi_filter.h: medians against impulse noise, and the background of a picture.
+// Steps of qvpi_denoise.h: medians against impulse noise, and the background of a picture.
 #include <algorithm>
 #include <vector>
 

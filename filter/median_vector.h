@@ -4,6 +4,7 @@
 // those above it are kept for as long as both are under the mask.
 #pragma once
 
+#include "base/channels.h"
 #include "base/scalar.h"
 #include "filter/median.h"
 #include "filter/unrolled.h"
@@ -123,12 +124,10 @@ class VectorKernel {
     const D d;
     const hn::Rebind<T, D> narrow;
     ForVectors(0, pixels_, [=](ptrdiff_t x) HWY_ATTR {
-      hn::Vec<decltype(narrow)> r, g, b, alpha;
-      if constexpr (kChannels == 3) hn::LoadInterleaved3(narrow, from + kChannels * x, r, g, b);
-      if constexpr (kChannels == 4) hn::LoadInterleaved4(narrow, from + kChannels * x, r, g, b, alpha);
-      hn::StoreU(Widened(d, r), d, red + x);
-      hn::StoreU(Widened(d, g), d, green + x);
-      hn::StoreU(Widened(d, b), d, blue + x);
+      const auto colours = LoadChannels<kChannels>(narrow, from + kChannels * x);
+      hn::StoreU(Widened(d, colours.v[0]), d, red + x);
+      hn::StoreU(Widened(d, colours.v[1]), d, green + x);
+      hn::StoreU(Widened(d, colours.v[2]), d, blue + x);
     });
   }
   template <class N>

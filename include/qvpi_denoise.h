@@ -12,6 +12,238 @@
 extern "C" {
 #endif
 
+/** @name Median: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of median filters.
+ *
+ *  The buffer serves every smaller mask and region too, at any border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the
+ *    above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Median
+ *  @{ */
+/** Takes the median of a rectangle around each pixel, channel by channel: the value in the middle of all values of
+ *  the mask, sorted. It removes impulse noise and dead pixels and keeps edges; a mask larger than the letters leaves
+ *  the background of a scan.
+ *
+ *  Of a mask of w x h pixels, which is centred on the result's, it is the value (w * h - 1) / 2, counted from 0. One
+ *  pixel of 200 among 10 becomes 10; so does a line as wide as a pixel, with 3x3.
+ *
+ *  Pixels are moved, never computed. Floats have a total order here, by which NaN have places, too: NaN with a sign
+ *  .. -inf .. -0, +0 .. +inf .. NaN without; among NaN, those farther from zero in their bits stand farther out.
+ *
+ *  Small masks are sorted by networks (Adams, Fast median filters using separable sorting networks, 2021). Larger
+ *  ones count: 8u takes the same time for all of them (Perreault and Hebert, Median filtering in constant time,
+ *  2007), other types one that grows with the mask's height (Huang, 1979); 32f is sorted first and counted by ranks.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read. AC4 keeps alpha.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255; the mask may be larger than the region
+ *  @param borderType qvpBorderReplicate or qvpBorderConst, with flags of sides in memory, or qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterMedianBorderGetBufferSize() tells for this or a larger
+ *         mask and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Weighted median: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of weighted median filters.
+ *
+ *  The buffer serves every smaller mask and region too, at any border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the
+ *    above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianCenterBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Weighted median
+ *  @{ */
+/** Takes the median of a rectangle around each pixel, in which the pixel itself counts several times, channel by
+ *  channel: noise goes, but thin lines and corners stay (Ko and Lee, Center weighted median filters, 1991).
+ *
+ *  The mask's n = w * h values and weight - 1 more of the centre are sorted; of all n - 1 + weight the result is the
+ *  middle one, or the lower of both in the middle. With m = (n + weight) / 2, rounded down, and X(i) the value i of
+ *  the n, sorted and counted from 1, that is
+ *
+ *  @code
+ *    dst = max(X(m - weight + 1), min(src, X(m)))
+ *  @endcode
+ *
+ *  where a bound whose place is none from 1 to n is left out. A weight of 1 gives the median; from n on the source is
+ *  returned. With 3x3, one pixel of 200 among 10 becomes 10 for weights 1 to 8, and stays from 9 on; a column of 200
+ *  among 10 becomes 10 for weights 1 to 4, and stays from 5 on.
+ *
+ *  Pixels are moved, never computed. Floats have a total order here, by which NaN have places, too: NaN with a sign
+ *  .. -inf .. -0, +0 .. +inf .. NaN without; among NaN, those farther from zero in their bits stand farther out.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read. AC4 keeps alpha.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255; the mask may be larger than the region
+ *  @param weight how often the centre counts: 1 or more
+ *  @param borderType qvpBorderReplicate or qvpBorderConst, with flags of sides in memory, or qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterMedianCenterBorderGetBufferSize() tells for this or a larger
+ *         mask and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusWeight: `weight` is below 1
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianCenterBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianCenterBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, int weight, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Vector median: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of vector median filters.
+ *
+ *  The buffer serves every smaller mask and region too, at any border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 7
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param numChannels channels of a pixel: 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize, qvpStatusDataType, qvpStatusNumChannels: `maskSize`, `dataType`, `numChannels` is none of the
+ *    above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianVectorBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Vector median
+ *  @{ */
+/** Takes that pixel of a rectangle around each one which is the nearest to all others: a median of colours, which
+ *  makes none that were not there (Astola, Haavisto and Neuvo, Vector median filters, 1990).
+ *
+ *  The result is the pixel whose distances to the pixels of the mask have the least sum. With the differences d of
+ *  the three channels, the distance is
+ *
+ *  @code
+ *    qvpNormL1     (|d0| + |d1|) + |d2|
+ *    qvpNormL2     sqrt((d0 * d0 + d1 * d1) + d2 * d2)
+ *  @endcode
+ *
+ *  For integers, L1 is exact. All else is computed in single precision, each operation rounded, and distances are
+ *  added down each column of the mask, then the columns' sums from left to right. The centre is the first choice;
+ *  another pixel replaces it, in the order of rows, if its sum is less than that of the choice. So equal sums leave
+ *  the centre, or else the first one, and a NaN or an infinity in the mask gives its centre.
+ *
+ *  Of three red, three green and three blue pixels, the centre stays. Of the rows (0,60,60) (70,10,0) (70,0,40),
+ *  (0,20,40) (30,30,0) (0,10,0) and (60,40,50) (20,50,60) (30,40,80), L1 takes (0,20,40) and L2 (20,50,60).
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. The destination must not overlap with what is read. AC4 keeps alpha, which does not
+ *  count.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 7; the mask may be larger than the region
+ *  @param normType qvpNormL1 or qvpNormL2
+ *  @param borderType qvpBorderReplicate or qvpBorderConst, with flags of sides in memory, or qvpBorderInMem
+ *  @param borderValue one value for each channel, three for AC4; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiFilterMedianVectorBorderGetBufferSize() tells for this or a larger
+ *         mask and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSrc`, `pDst` or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusNotSupportedMode: `normType` is none of the above
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterMedianVectorBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianVectorBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianVectorBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianVectorBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianVectorBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterMedianVectorBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpNormType normType, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Bilateral filter: sizes
  *  @{ */
 /** Tells the sizes of the record and of the work buffer of a bilateral filter.
