@@ -7,8 +7,21 @@
 namespace qvp::filter {
 namespace {
 
+// By a mask of one pixel.
+template <class T>
+void CopyRow(const void*, const Window& window, const ResultRows& rows) {
+  std::memcpy(rows.upper[0], window.lines[0], window.samples * sizeof(T));
+}
+template <class T>
+void Copy(const MedianCall<T>& call) {
+  FilterWindows(
+      call.windows,
+      {.context = nullptr, .across = nullptr, .down = CopyRow<T>, .elementBytes = sizeof(T), .rowsAtOnce = 1});
+}
+
 template <class T>
 void FilterMedian(const MedianCall<T>& call) {
+  if (call.mask.width * call.mask.height == 1) return Copy(call);
   if (FilterByNetworks(call)) return;
   if constexpr (std::is_same_v<T, float>) {
     FilterByRanks(call);

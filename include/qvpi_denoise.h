@@ -46,9 +46,10 @@ QvpStatus qvpiFilterMedianBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSiz
  *  Pixels are moved, never computed. Floats have a total order here, by which NaN have places, too: NaN with a sign
  *  .. -inf .. -0, +0 .. +inf .. NaN without; among NaN, those farther from zero in their bits stand farther out.
  *
- *  Small masks are sorted by networks (Adams, Fast median filters using separable sorting networks, 2021). Larger
- *  ones count: 8u takes the same time for all of them (Perreault and Hebert, Median filtering in constant time,
- *  2007), other types one that grows with the mask's height (Huang, 1979); 32f is sorted first and counted by ranks.
+ *  Squares up to 15x15 are sorted by networks (Adams, Fast median filters using separable sorting networks, 2021).
+ *  Other masks are counted: 8u takes the same time for all of them (Perreault and Hebert, Median filtering in constant
+ *  time, 2007), the other types one that grows with the mask's height (Huang, 1979); 32f is sorted first and counted by
+ *  ranks.
  *
  *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
  *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
