@@ -1,27 +1,99 @@
 // The Gauss filter: symmetric sums across, then down.
 #include "filter/gauss.h"
 
+#include "base/scalar.h"
 #include "filter/axis_kernels.h"
 #include "filter/window_call.h"
 
 namespace qvp::filter {
 namespace {
 
+constexpr int kMostTerms = 512;
+
+// All taps of a row by twos, as results at even places take them, whose window begins with a pair, and those at odd
+// places, which has one 0 before it: pairs of neighbours serve both as they are.
+struct NeighbourTaps {
+  struct Pair {
+    int32_t even, odd;
+  };
+  std::array<Pair, kMostTerms> pairs;
+
+  NeighbourTaps(const uint8_t* table, ptrdiff_t count) {
+    const auto tap = [=](ptrdiff_t k) {
+      const ptrdiff_t distance = k < count ? count - 1 - k : k - count + 1;
+      return distance < count ? static_cast<uint32_t>(LoadScalar(reinterpret_cast<const int16_t*>(table) + distance))
+                              : 0;
+    };
+    const auto two = [](uint32_t first, uint32_t second) { return static_cast<int32_t>(first | second << 16); };
+    for (ptrdiff_t k = 0; k < count; ++k) {
+      pairs[k] = {two(tap(2 * k), tap(2 * k + 1)), two(tap(2 * k - 1), tap(2 * k))};
+    }
+  }
+};
+
 // Bytes. Rows have kGaussRowBits behind the point, and both sums are rounded.
 struct ByteAxes {
   PairedTaps across, down;
   int channels, acrossShift, downShift;
+  NeighbourTaps neighbours;
 };
 
+// Vectors of them: those of few terms stay in registers.
+template <class D, int kTerms>
+class NeighbourVectors {
+ public:
+  using Ints = hn::Repartition<int32_t, D>;
+  struct Sum {
+    hn::Vec<Ints> even, odd;
+  };
+
+  NeighbourVectors(const NeighbourTaps& taps, ptrdiff_t count) : pairs_(taps.pairs.data()), count_(count) {
+    Unrolled<kTerms>([&](auto p) QVP_INLINED {
+      even_[p] = Vector(pairs_[p].even);
+      odd_[p] = Vector(pairs_[p].odd);
+    });
+  }
+
+  // The sums of kCount vectors: value(p, v) are those that begin 2 p places behind the first.
+  template <int kCount, class Value>
+  HWY_INLINE std::array<Sum, kCount> Sums(int32_t start, const Value& value) const {
+    std::array<Sum, kCount> sums;
+    Unrolled<kCount>([&](auto v) QVP_INLINED { sums[v].even = sums[v].odd = hn::Set(Ints(), start); });
+    const auto add = [&](ptrdiff_t p, auto even, auto odd) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
+        const auto pixels = value(p, v);
+        sums[v].even = hn::Add(sums[v].even, MulAddPairs(pixels, even));
+        sums[v].odd = hn::Add(sums[v].odd, MulAddPairs(pixels, odd));
+      });
+    };
+    if constexpr (kTerms > 0) {
+      Unrolled<kTerms>([&](auto p) QVP_INLINED { add(p, even_[p], odd_[p]); });
+    } else {
+      for (ptrdiff_t p = 0; p < count_; ++p) add(p, Vector(pairs_[p].even), Vector(pairs_[p].odd));
+    }
+    return sums;
+  }
+
+ private:
+  static HWY_INLINE hn::Vec<D> Vector(int32_t pair) { return hn::BitCast(D(), hn::Set(Ints(), pair)); }
+
+  const NeighbourTaps::Pair* pairs_;
+  ptrdiff_t count_;
+  std::array<hn::Vec<D>, kTerms> even_, odd_;
+};
+
+// From lines of 16-bit lanes.
+template <int kTerms>
 struct ByteKernel {
   using D = hn::ScalableTag<int16_t>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
-  static constexpr int kVectors = 2;
+  static constexpr int kVectors = 2, kNeighbourVectors = kTerms > 0 && kTerms < 4 ? 2 : 4;
 
   // Sums rounded and shifted, as 16-bit lanes in order.
   template <int kCount, class Value>
-  static HWY_INLINE std::array<hn::Vec<D>, kCount> Rounded(const PairedTaps& taps, int shift, const Value& value) {
-    const auto sums = SumsOfPairs<true, kCount>(D(), taps, 1 << (shift - 1), value);
+  static HWY_INLINE std::array<hn::Vec<D>, kCount> Rounded(const PairVectors<D, kTerms>& taps, int shift,
+                                                           const Value& value) {
+    const auto sums = SumsOfPairs<true, kCount>(taps, 1 << (shift - 1), value);
     std::array<hn::Vec<D>, kCount> results;
     Unrolled<kCount>([&](auto v) QVP_INLINED {
       results[v] =
@@ -31,25 +103,52 @@ struct ByteKernel {
   }
 
   static void Across(const void* context, const void* source, void* line, ptrdiff_t samples) {
-    const auto axes = *static_cast<const ByteAxes*>(context);
-    const auto* const from = static_cast<const uint8_t*>(source);
+    const auto& axes = *static_cast<const ByteAxes*>(context);
+    const auto* const from = static_cast<const int16_t*>(source);
     auto* const to = static_cast<int16_t*>(line);
+    const int shift = axes.acrossShift;
+    const ptrdiff_t channels = axes.channels;
+    const PairVectors<D, kTerms> taps(axes.across);
     ForEachVectors<kVectors, kLanes>(samples, [&](auto count, ptrdiff_t i) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v)
-                             QVP_INLINED { return LoadWide(D(), from + i + v * kLanes + k * axes.channels); };
-      const auto results = Rounded<count>(axes.across, axes.acrossShift, value);
+                             QVP_INLINED { return hn::LoadU(D(), from + i + v * kLanes + k * channels); };
+      const auto results = Rounded<count>(taps, shift, value);
       Unrolled<count>([&](auto v) QVP_INLINED { hn::StoreU(results[v], D(), to + i + v * kLanes); });
     });
   }
 
+  // Of one channel.
+  static void AcrossNeighbours(const void* context, const void* source, void* line, ptrdiff_t samples) {
+    const auto& axes = *static_cast<const ByteAxes*>(context);
+    const auto* const from = static_cast<const int16_t*>(source);
+    auto* const to = static_cast<int16_t*>(line);
+    const int shift = axes.acrossShift;
+    const ptrdiff_t terms = axes.across.count;
+    const NeighbourVectors<D, kTerms> taps(axes.neighbours, terms);
+    ForEachVectors<kNeighbourVectors, kLanes>(samples, [&](auto count, ptrdiff_t i) HWY_ATTR {
+      const auto value = [&](ptrdiff_t p, auto v) QVP_INLINED { return hn::LoadU(D(), from + i + v * kLanes + 2 * p); };
+      const auto sums = taps.template Sums<count>(1 << (shift - 1), value);
+      Unrolled<count>([&](auto v) QVP_INLINED {
+        const auto even = hn::BitCast(D(), hn::ShiftRightSame(sums[v].even, shift));
+        const auto odd = hn::BitCast(D(), hn::ShiftLeftSame(sums[v].odd, 16 - shift));
+        hn::StoreU(hn::OddEven(odd, even), D(), to + i + v * kLanes);
+      });
+    });
+  }
+
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
-    const auto axes = *static_cast<const ByteAxes*>(context);
-    const auto* const from = reinterpret_cast<const int16_t* const*>(window.lines);
+    const auto& axes = *static_cast<const ByteAxes*>(context);
+    const auto from = LinesOfTerms<int16_t, true, kTerms>(window.lines);
+    const int shift = axes.downShift;
+    const PairVectors<D, kTerms> taps(axes.down);
     MakeRow<kVectors, kLanes>(window.samples, rows.upper[0], [&](auto count, ptrdiff_t i, uint8_t* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(D(), from[k] + i + v * kLanes); };
-      const auto results = Rounded<count>(axes.down, axes.downShift, value);
+      const auto results = Rounded<count>(taps, shift, value);
       if constexpr (count == kVectors) {
-        hn::StoreU(PackedInOrder<uint8_t>(results[0], results[1]), hn::ScalableTag<uint8_t>(), to);
+        Unrolled<kVectors / 2>([&](auto p) QVP_INLINED {
+          hn::StoreU(PackedInOrder<uint8_t>(results[2 * p], results[2 * p + 1]), hn::ScalableTag<uint8_t>(),
+                     to + 2 * p * kLanes);
+        });
       } else {
         const hn::Rebind<uint8_t, D> bytes;
         hn::StoreU(hn::DemoteTo(bytes, results[0]), bytes, to);
@@ -58,25 +157,34 @@ struct ByteKernel {
   }
 };
 
-template <class Bits>
-void FilterBytes(const GaussRecord& r, const Windows<Bits>& windows) {
+void FilterBytes(const GaussRecord& r, const Windows<uint8_t>& windows) {
   const auto pairs = [](const uint8_t* table, int64_t size) {
     return PairedTaps{reinterpret_cast<const int32_t*>(table), static_cast<ptrdiff_t>(GaussRecord::Terms(size))};
   };
-  const ByteAxes axes{pairs(r.Across(), r.width), pairs(r.Down(), r.height), windows.src.channels(),
-                      r.acrossBits - kGaussRowBits, r.downBits + kGaussRowBits};
-  FilterWindows(windows, {&axes, ByteKernel::Across, ByteKernel::Down, sizeof(int16_t), 1});
+  const ByteAxes axes{pairs(r.Across(), r.width), pairs(r.Down(), r.height),
+                      windows.src.channels(),     r.acrossBits - kGaussRowBits,
+                      r.downBits + kGaussRowBits, NeighbourTaps(r.Across(), GaussRecord::Terms(r.width))};
+  const auto across = [&](auto terms) {
+    return windows.src.channels() == 1 ? ByteKernel<terms>::AcrossNeighbours : ByteKernel<terms>::Across;
+  };
+  const auto down = [](auto terms) { return ByteKernel<terms>::Down; };
+  FilterWindows<uint8_t, int16_t>(windows, {.context = &axes,
+                                            .across = ForTerms<kFewTerms>(axes.across.count, across),
+                                            .down = ForTerms<kFewTerms>(axes.down.count, down),
+                                            .elementBytes = sizeof(int16_t),
+                                            .rowsAtOnce = 1});
 }
 
-template <class T, class Bits>
-void FilterFloats(const GaussRecord& r, const Windows<Bits>& windows) {
+// In lines of floats.
+template <class T>
+void FilterFloats(const GaussRecord& r, const Windows<typename LineTypes<T, float>::Pixel>& windows) {
+  using Lines = LineTypes<T, float>;
   const auto axis = [](const uint8_t* table, int64_t size) {
     return AxisOf<float>{reinterpret_cast<const float*>(table), static_cast<ptrdiff_t>(GaussRecord::Terms(size))};
   };
-  using Kernel = LaneKernel<T, T, float, true>;
   const LaneAxes<float> axes{axis(r.Across(), r.width), axis(r.Down(), r.height), windows.src.channels(), qvpRoundNear,
                              1};
-  FilterWindows(windows, {&axes, Kernel::Across, Kernel::Down, sizeof(float), 1});
+  FilterWindows<typename Lines::Pixel, typename Lines::Element>(windows, LaneKernel<float, T, float, true>::For(axes));
 }
 
 template <class T>
@@ -87,10 +195,11 @@ QvpStatus Gauss(const WindowCall<T>& call, const QvpiFilterGaussBorderSpec* spec
   const bool isOurs =
       r.identification == GaussRecord::kIdentification && r.type == kDataTypeOf<T> && r.channels == call.channels();
   if (!isOurs) return qvpStatusContextMatch;
+  using Pixel = typename LineTypes<T, float>::Pixel;
   if constexpr (sizeof(T) == 1) {
-    FilterBytes(r, call.Reaching(r.reach()));
+    FilterBytes(r, call.template Reaching<Pixel>(r.reach()));
   } else {
-    FilterFloats<T>(r, call.Reaching(r.reach()));
+    FilterFloats<T>(r, call.template Reaching<Pixel>(r.reach()));
   }
   return qvpStatusNoError;
 }

@@ -103,7 +103,7 @@ QvpStatus qvpiFilterGaussBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpD
   const int64_t tables = GaussRecord::TableBytes(maskSize.width) + GaussRecord::TableBytes(maskSize.height);
   *pSpecSize = static_cast<int>(tables) + GaussRecord::kHeadBytes + kRecordBoundary;
   const int longest = dataType == qvp8u ? 2 : 4;  // an element of a line
-  return WindowBytes(maskSize, roiSize.width, numChannels, longest).StoreTo(pBufferSize);
+  return WindowBytes(maskSize, roiSize.width, numChannels, longest, {}, LaneCacheBytes(longest)).StoreTo(pBufferSize);
 }
 
 QvpStatus qvpiFilterGaussBorderInit(QvpiSize maskSize, Qvp32f sigmaX, Qvp32f sigmaY, QvpDataType dataType,

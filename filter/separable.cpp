@@ -46,12 +46,14 @@ struct WordKernel {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = reinterpret_cast<const int16_t* const*>(window.lines);
-    const hn::ScalableTag<int16_t> d;
+    using D = hn::ScalableTag<int16_t>;
+    const D d;
     constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
+    const PairVectors<D, 0> taps(axes.downPairs);
     auto* const out = reinterpret_cast<R*>(rows.upper[0]);
     MakeRow<2, kLanes>(window.samples, out, [&](auto count, ptrdiff_t i, R* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(d, from[k] + i + v * kLanes); };
-      const auto sums = SumsOfPairs<false, count>(d, axes.downPairs, axes.quotient.Start(), value);
+      const auto sums = SumsOfPairs<false, count>(taps, axes.quotient.Start(), value);
       Unrolled<count>([&](auto v) QVP_INLINED { StoreWords(Words<R>(axes.quotient, sums[v]), to + v * kLanes); });
     });
   }
@@ -80,9 +82,10 @@ struct IntKernel {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = static_cast<const T*>(source);
     auto* const to = static_cast<int32_t*>(line);
+    const PairVectors<D, 0> taps(axes.acrossPairs);
     for (ptrdiff_t i = 0; i < samples; i += kLanes) {
       const auto value = [&](ptrdiff_t k, auto) QVP_INLINED { return Load(from + i + k * axes.channels); };
-      const auto sums = SumsOfPairs<false, 1>(D(), axes.acrossPairs, axes.acrossStart, value);
+      const auto sums = SumsOfPairs<false, 1>(taps, axes.acrossStart, value);
       hn::StoreU(sums[0].lower, Sums(), to + i);
       hn::StoreU(sums[0].upper, Sums(), to + i + kHalf);
     }
@@ -92,9 +95,10 @@ struct IntKernel {
     const auto axes = *static_cast<const IntegerAxes*>(context);
     const auto* const from = reinterpret_cast<const int32_t* const*>(window.lines);
     const auto start = hn::Set(Sums(), axes.quotient.Start());
+    const TapVectors<Sums, int32_t, 0> taps(axes.down);
     MakeGroups<kLanes>(window.samples, reinterpret_cast<R*>(rows.upper[0]), [&](ptrdiff_t i, R* to) HWY_ATTR {
       const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(Sums(), from[k] + i + v * kHalf); };
-      const auto halves = SumsOfProducts<false, 2>(Sums(), axes.down, value);
+      const auto halves = SumsOfProducts<false, 2>(taps, value);
       const BlockSums<D> sums{hn::Add(start, halves[0]), hn::Add(start, halves[1])};
       StoreWords(Words<R>(axes.quotient, sums), to);
     });
@@ -158,7 +162,7 @@ template <class T, class R, class F, class Bits>
 void FilterInLanes(const SeparableRecord& r, const Windows<Bits>& windows) {
   const LaneAxes<F> axes{AxisIn<F>(r.Across(), r.width), AxisIn<F>(r.Down(), r.height), windows.src.channels(), r.mode,
                          static_cast<double>(r.divisor)};
-  Filter<LaneKernel<T, R, F, false>>(windows, axes, sizeof(F));
+  FilterWindows(windows, LaneKernel<T, R, F, false>::For(axes));
 }
 
 template <class T, class R, class Bits>

@@ -142,7 +142,8 @@ QvpStatus qvpiFilterSeparableBorderGetSize(QvpiSize kernelSize, QvpiSize roiSize
   if (!IsFilteredChannelCount(numChannels)) return qvpStatusNumChannels;
   const QvpStatus spec = RecordBytes(kernelSize).StoreTo(pSpecSize);
   const int longest = kernelType == qvp32f ? 4 : 8;  // an element of a line
-  const QvpStatus buffer = WindowBytes(kernelSize, roiSize.width, numChannels, longest).StoreTo(pBufferSize);
+  const QvpStatus buffer =
+      WindowBytes(kernelSize, roiSize.width, numChannels, longest, {}, LaneCacheBytes(longest)).StoreTo(pBufferSize);
   return spec ? spec : buffer;
 }
 

@@ -31,8 +31,9 @@ struct WindowCall {
   }
   QvpStatus Check() const { return Check(buffer); }
 
-  Windows<BitsOf<T>> Reaching(const Reach& reach) const {
-    auto windows = WindowsOn(src, roi, border, value, reach, buffer);
+  template <class Pixel = BitsOf<T>>
+  Windows<Pixel> Reaching(const Reach& reach) const {
+    auto windows = WindowsAs<Pixel>(src, roi, border, value, reach, buffer);
     windows.outputs[0] = AsBytes(dst);
     return windows;
   }

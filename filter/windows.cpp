@@ -22,7 +22,7 @@ ByteCount BytesOfColumn(int64_t maskHeight, int channels, int elementBytes, cons
 }
 
 // A block of columns with its window.
-template <class T>
+template <class T, class E>
 class Block {
  public:
   // `isNarrow`: rows are in other pages than those before them, where the CPU does not expect what comes next.
@@ -64,7 +64,7 @@ class Block {
       memory += ColourBytes();
     }
     if (kernel_.across) {
-      stage_ = reinterpret_cast<T*>(memory);
+      stage_ = reinterpret_cast<E*>(memory);
       memory += StageBytes();
     }
     window_.lines = pointers_;
@@ -108,7 +108,7 @@ class Block {
     return kernel_.keepsReach ? window_.columns.inside * windows_.src.channels() : samples_;
   }
   int64_t SourceLineBytes(int elementBytes) const { return LineBytes(SourceSamples(), elementBytes).value(); }
-  int64_t StageBytes() const { return source_.isInPlace() ? 0 : SourceLineBytes(sizeof(T)); }
+  int64_t StageBytes() const { return source_.isInPlace() ? 0 : SourceLineBytes(sizeof(E)); }
   int64_t WindowLineBytes() const {
     return kernel_.across ? LineBytes(SamplesAcross(), kernel_.elementBytes).value() : StageBytes();
   }
@@ -147,7 +147,7 @@ class Block {
   // The next line that is in place, and where the next results go.
   void FetchNext() const {
     if (source_.isInPlace() && !kernel_.across) {
-      for (int i = 0; i < kernel_.rowsAtOnce; ++i) Fetch(source_.Line(next_ + i, nullptr), samples_ * sizeof(T));
+      for (int i = 0; i < kernel_.rowsAtOnce; ++i) Fetch(source_.Line(next_ + i, nullptr), samples_ * sizeof(E));
     }
     const Bytes& output = windows_.outputs[0];
     for (int i = 0; i < kernel_.rowsAtOnce && at_[0]; ++i) {
@@ -169,7 +169,7 @@ class Block {
   void Prepare(ptrdiff_t line) {
     for (; line < lines_; ++line, ++next_, room_ = ring_.Next(room_)) {
       if (!kernel_.across) {
-        pointers_[line] = source_.Line(next_, reinterpret_cast<T*>(room_));
+        pointers_[line] = source_.Line(next_, reinterpret_cast<E*>(room_));
         continue;
       }
       kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, SamplesAcross());
@@ -185,11 +185,11 @@ class Block {
   int64_t lines_;
   ptrdiff_t next_;  // row of the next line
   bool isNarrow_;
-  BorderRows<SingleRows<T, T>, T> source_;
+  BorderRows<SingleRows<T, E>, T> source_;
   const void** pointers_ = nullptr;
   RowRing<uint8_t> ring_{};
   uint8_t* room_ = nullptr;                // for the next line
-  T* stage_ = nullptr;                     // where a line of the source is made for `across`
+  E* stage_ = nullptr;                     // where a line of the source is made for `across`
   uint8_t* colours_[2] = {};               // rows of results of images that keep their alpha
   std::array<uint8_t*, kMostOutputs> at_;  // the next rows of results
 };
@@ -207,7 +207,7 @@ bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
                 keptBytes = int64_t{width} * windows.src.channels() * kernel.kept.count * kernel.kept.elementBytes;
   if (width < 4 * edge || lineBytes > kSecondCacheBytes / (MaskHeight(reach) + 1)) return false;
   if (keptBytes > kernel.cacheBytes) return false;
-  Block<T> left(windows, kernel, {0, edge}), middle(windows, kernel, {edge, width - edge}),
+  Block<T, T> left(windows, kernel, {0, edge}), middle(windows, kernel, {edge, width - edge}),
       right(windows, kernel, {width - edge, width});
   const int64_t bytes = left.WorkBytes() + middle.WorkBytes() + right.WorkBytes() + kRecordBoundary;
   const int elementBytes =
@@ -225,7 +225,7 @@ bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
   return true;
 }
 
-template <class T>
+template <class T, class E>
 void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width;
@@ -234,9 +234,9 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const int64_t most = std::max({kernel.cacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
-    Block<T> block(windows, kernel,
-                   {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)},
-                   blocks > 1 && kernel.kept.count > 0);
+    Block<T, E> block(windows, kernel,
+                      {static_cast<ptrdiff_t>(width * b / blocks), static_cast<ptrdiff_t>(width * (b + 1) / blocks)},
+                      blocks > 1 && kernel.kept.count > 0);
     block.Start(AtBoundary(windows.buffer));
     for (ptrdiff_t y = 0; y < windows.roi.height; y += kernel.rowsAtOnce) block.Filter(y);
   }
@@ -259,14 +259,21 @@ ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementB
          kLineSpare;
 }
 
-template <class T>
+template <class T, class E>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel) {
-  if (!kernel.across && !kernel.isBare && FilterInPlace(windows, kernel)) return;
-  FilterBlocks(windows, kernel);
+  if constexpr (std::is_same_v<T, E>) {
+    const bool isWorthEdges = !kernel.across || sizeof(T) == 4;  // those of less are copied sooner than cut in three
+    if (isWorthEdges && !kernel.isBare && FilterInPlace(windows, kernel)) return;
+  }
+  FilterBlocks<T, E>(windows, kernel);
 }
 
-template void FilterWindows(const Windows<uint8_t>&, const WindowKernel&);
-template void FilterWindows(const Windows<uint16_t>&, const WindowKernel&);
-template void FilterWindows(const Windows<uint32_t>&, const WindowKernel&);
+template void FilterWindows<uint8_t>(const Windows<uint8_t>&, const WindowKernel&);
+template void FilterWindows<uint16_t>(const Windows<uint16_t>&, const WindowKernel&);
+template void FilterWindows<uint32_t>(const Windows<uint32_t>&, const WindowKernel&);
+template void FilterWindows<uint8_t, int16_t>(const Windows<uint8_t>&, const WindowKernel&);
+template void FilterWindows<uint8_t, float>(const Windows<uint8_t>&, const WindowKernel&);
+template void FilterWindows<uint16_t, float>(const Windows<uint16_t>&, const WindowKernel&);
+template void FilterWindows<int16_t, float>(const Windows<int16_t>&, const WindowKernel&);
 
 }  // namespace qvp::filter

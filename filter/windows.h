@@ -33,6 +33,12 @@ struct Window {
 // Bytes of the caches that blocks of columns are made for.
 inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 19;
 
+// Lines of floats are read once for two rows of results, for which the second cache is quick enough; the longer the
+// rows, the better are the image's read and written.
+constexpr int64_t LaneCacheBytes(int elementBytes) {
+  return elementBytes == sizeof(float) ? kSecondCacheBytes : kNearestCacheBytes;
+}
+
 struct KeptRows {
   int count = 0, elementBytes = 0;
 };
@@ -69,7 +75,10 @@ struct WindowKernel {
 
 inline constexpr ptrdiff_t kFewestInPlace = 64;
 
-// T is an unsigned integer as long as the elements: pixels are only moved here.
+template <class T>
+using BitsOf = std::conditional_t<sizeof(T) == 1, uint8_t, std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
+
+// T is an unsigned integer as long as the elements, unless lines have others: pixels are only moved here.
 template <class T>
 struct Windows {
   BorderedImage<T> src;
@@ -85,11 +94,25 @@ struct Windows {
 ByteCount WindowBytes(Size mask, int64_t regionWidth, int channels, int elementBytes, KeptRows kept = {},
                       int64_t cacheBytes = kNearestCacheBytes);
 
-template <class T>
+// Lines of the source have elements of E: numbers of a wider type are made of pixels where `across` takes each of them
+// many times.
+template <class T, class E = T>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel);
-extern template void FilterWindows(const Windows<uint8_t>&, const WindowKernel&);
-extern template void FilterWindows(const Windows<uint16_t>&, const WindowKernel&);
-extern template void FilterWindows(const Windows<uint32_t>&, const WindowKernel&);
+extern template void FilterWindows<uint8_t>(const Windows<uint8_t>&, const WindowKernel&);
+extern template void FilterWindows<uint16_t>(const Windows<uint16_t>&, const WindowKernel&);
+extern template void FilterWindows<uint32_t>(const Windows<uint32_t>&, const WindowKernel&);
+extern template void FilterWindows<uint8_t, int16_t>(const Windows<uint8_t>&, const WindowKernel&);
+extern template void FilterWindows<uint8_t, float>(const Windows<uint8_t>&, const WindowKernel&);
+extern template void FilterWindows<uint16_t, float>(const Windows<uint16_t>&, const WindowKernel&);
+extern template void FilterWindows<int16_t, float>(const Windows<int16_t>&, const WindowKernel&);
+
+// The types of a walk over pixels of T with lines of numbers of E: what is so already is moved as bits.
+template <class T, class E>
+struct LineTypes {
+  static constexpr bool kIsMoved = std::is_same_v<T, E>;
+  using Pixel = std::conditional_t<kIsMoved, BitsOf<T>, T>;
+  using Element = std::conditional_t<kIsMoved, BitsOf<T>, E>;
+};
 
 // Two rows of n results, by a kernel that makes those of kVectors vectors at a time, or of one:
 // Run<kCount>(lines, first sample, upper, lower). What the kernel holds is copied, as bytes that are stored might be
@@ -134,15 +157,17 @@ void DownBy(const void* context, const Window& window, const ResultRows& rows) {
 }
 
 // An image as one of unsigned integers.
-template <class T>
-using BitsOf = std::conditional_t<sizeof(T) == 1, uint8_t, std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
-
+// `Pixel` is T, or as long.
+template <class Pixel, class T>
+Windows<Pixel> WindowsAs(const Image<const T>& src, Size roi, QvpiBorderType border, const T* value, const Reach& reach,
+                         uint8_t* buffer) {
+  const Image<const Pixel> image{reinterpret_cast<const Pixel*>(src.data), src.step, src.layout};
+  return {WithBorder(image, roi, border, reinterpret_cast<const Pixel*>(value), reach), roi, reach, {}, buffer};
+}
 template <class T>
 Windows<BitsOf<T>> WindowsOn(const Image<const T>& src, Size roi, QvpiBorderType border, const T* value,
                              const Reach& reach, uint8_t* buffer) {
-  using Bits = BitsOf<T>;
-  const Image<const Bits> image{reinterpret_cast<const Bits*>(src.data), src.step, src.layout};
-  return {WithBorder(image, roi, border, reinterpret_cast<const Bits*>(value), reach), roi, reach, {}, buffer};
+  return WindowsAs<BitsOf<T>>(src, roi, border, value, reach, buffer);
 }
 
 }  // namespace qvp::filter
