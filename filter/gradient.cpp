@@ -45,11 +45,13 @@ struct GradientKernel {
   }
 };
 
-// gx, gy, magnitude and angle, as far as they are wanted.
-template <class D, class R>
+// gx, gy, magnitude and angle, as far as they are wanted. If these are both axes and nothing else, nothing is asked on
+// the way.
+template <class D, class R, bool kIsBothAxes>
 struct VectorSink {
   QvpNormType norm;
   int channels;
+  static constexpr bool kTakesColours = true;
 
   static constexpr int ElementBytes(int output) { return output < 2 ? sizeof(R) : sizeof(float); }
 
@@ -58,9 +60,9 @@ struct VectorSink {
     const hn::Vec<D> axes[2] = {v.x, v.y};
     for (int k = 0; k < 2; ++k) {
       const hn::Vec<D> one[1] = {axes[k]};
-      if (to[k]) StoreLanes<1>(d, one, reinterpret_cast<R*>(to[k]) + i);
+      if (kIsBothAxes || to[k]) StoreLanes<1>(d, one, reinterpret_cast<R*>(to[k]) + i);
     }
-    if (!to[2] && !to[3]) return;
+    if (kIsBothAxes || (!to[2] && !to[3])) return;
     Unrolled<kFloatParts<D>>([&](auto part) QVP_INLINED {
       const hn::Repartition<float, D> floats;
       const auto x = FloatPart<part>(d, v.x), y = FloatPart<part>(d, v.y);
@@ -76,6 +78,7 @@ template <class D, class R>
 struct MagnitudeSink {
   QvpNormType norm;
   static constexpr int channels = 1;
+  static constexpr bool kTakesColours = false;
 
   static constexpr int ElementBytes(int) { return sizeof(R); }
 
@@ -121,7 +124,7 @@ void FilterGradient(const GradientCall<T, R>& call, const Sink& sink) {
     const GradientKernel<Source, Sink> kernel{{call.norm}, sink};
     return FilterWindows(windows, {&kernel, nullptr, kernel.Down, sizeof(T), 2});
   }
-  if constexpr (std::is_same_v<Sink, VectorSink<typename PixelGradients<T, KindX, KindY>::D, R>>) {
+  if constexpr (Sink::kTakesColours) {
     using Source = LargestGradients<T, KindX, KindY>;
     const GradientKernel<Source, Sink> kernel{{call.norm}, sink};
     FilterWindows(windows, {&kernel, Source::Across, kernel.Down, 2 * sizeof(typename Source::Element), 2});
@@ -156,8 +159,13 @@ QvpStatus FilterSobel(const GradientCall<T, R>& call, const Sink& sink) {
   return qvpStatusNoError;
 }
 
+template <class T, class R, bool kIsBothAxes>
+using VectorSinkOf = VectorSink<hn::ScalableTag<FixedLane<T>>, R, kIsBothAxes>;
 template <class T, class R>
-using VectorSinkOf = VectorSink<hn::ScalableTag<FixedLane<T>>, R>;
+bool IsBothAxes(const GradientCall<T, R>& call) {
+  const auto& outputs = call.outputs;
+  return outputs[0].data && outputs[1].data && !outputs[2].data && !outputs[3].data;
+}
 template <class T, class R>
 using MagnitudeSinkOf = MagnitudeSink<hn::ScalableTag<FixedLane<T>>, R>;
 
@@ -165,14 +173,18 @@ template <class T, class R>
 QvpStatus SobelVectors(GradientCall<T, R> call) {
   if (const QvpStatus failed = CheckGradient(call, IsSobelMask(call.mask))) return failed;
   if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
-  return FilterSobel(call, VectorSinkOf<T, R>{call.norm, Channels(call.src.layout)});
+  const int channels = Channels(call.src.layout);
+  return IsBothAxes(call) ? FilterSobel(call, VectorSinkOf<T, R, true>{call.norm, channels})
+                          : FilterSobel(call, VectorSinkOf<T, R, false>{call.norm, channels});
 }
 
 template <class T, class R>
 QvpStatus ScharrVectors(GradientCall<T, R> call) {
   if (const QvpStatus failed = CheckGradient(call, IsMask(call.mask, 3, 3))) return failed;
   if (const QvpStatus failed = CheckFixedBorder(call.mask, &call.border)) return failed;
-  FilterGradient<VectorSinkOf<T, R>, ScharrX3, ScharrY3>(call, {call.norm, Channels(call.src.layout)});
+  const int channels = Channels(call.src.layout);
+  IsBothAxes(call) ? FilterGradient<VectorSinkOf<T, R, true>, ScharrX3, ScharrY3>(call, {call.norm, channels})
+                   : FilterGradient<VectorSinkOf<T, R, false>, ScharrX3, ScharrY3>(call, {call.norm, channels});
   return qvpStatusNoError;
 }
 
