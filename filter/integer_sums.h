@@ -167,10 +167,10 @@ struct IntegerSums {
     }
   }
 
-  // As differences of running totals, unless pixels lie across blocks of 16 bytes.
+  // As differences of running totals. Those of three channels take as long for any lanes, and trees of few do not.
   HWY_NOINLINE void AcrossMany(const L* sums, ptrdiff_t samples, const RowRoom<L>& room, uint8_t* row) const {
     if constexpr (std::is_integral_v<L>) {
-      if (shape.channels != 3) return AcrossByTotals(sums, samples, room.Row(0), row);
+      if (shape.channels != 3 || sizeof(L) == sizeof(int32_t)) return AcrossByTotals(sums, samples, room.Row(0), row);
     }
     PutRow(PartsAcross<L>(across, sums, shape.channels, samples, room), 0, samples, row);
   }
@@ -182,8 +182,10 @@ struct IntegerSums {
   void AcrossByTotals(const L* sums, ptrdiff_t samples, L* totals, uint8_t* row) const {
     const hn::ScalableTag<L> d;
     const ptrdiff_t apart = shape.width * shape.channels;
-    shape.channels == 1 ? AddUp<1>(sums, shape.Columns(samples), totals)
-                        : AddUp<4>(sums, shape.Columns(samples), totals);
+    const ptrdiff_t n = shape.Columns(samples);
+    shape.channels == 1   ? AddUp<1>(sums, n, totals)
+    : shape.channels == 3 ? AddUpThrees(sums, n, totals)
+                          : AddUp<4>(sums, n, totals);
     FinishRow<L>(finish, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
       return Differences<count>(d, totals + i, totals + i + apart);
     });

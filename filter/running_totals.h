@@ -40,4 +40,17 @@ HWY_NOINLINE void AddUp(const E* values, ptrdiff_t n, E* totals) {
   }
 }
 
+// The same of three channels, whose pixels lie across blocks: a pixel at a time, in a vector that has one lane to
+// spare.
+template <class E>
+HWY_NOINLINE void AddUpThrees(const E* values, ptrdiff_t n, E* totals) {
+  const hn::CappedTag<E, 4> d;
+  auto sums = hn::Zero(d);
+  hn::StoreU(sums, d, totals);
+  for (ptrdiff_t i = 0; i < n; i += 3) {
+    sums = hn::Add(sums, hn::LoadU(d, values + i));
+    hn::StoreU(sums, d, totals + 3 + i);
+  }
+}
+
 }  // namespace qvp::filter
