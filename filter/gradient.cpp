@@ -68,7 +68,8 @@ struct VectorSink {
       const auto x = FloatPart<part>(d, v.x), y = FloatPart<part>(d, v.y);
       const ptrdiff_t at = i + part * static_cast<ptrdiff_t>(hn::MaxLanes(floats));
       if (to[2]) hn::StoreU(MagnitudeOf(floats, norm, x, y), floats, reinterpret_cast<float*>(to[2]) + at);
-      if (to[3]) hn::StoreU(AngleOf(floats, x, y), floats, reinterpret_cast<float*>(to[3]) + at);
+      constexpr bool kIsWhole = std::is_integral_v<hn::TFromD<D>>;
+      if (to[3]) hn::StoreU(AngleOf<kIsWhole>(floats, x, y), floats, reinterpret_cast<float*>(to[3]) + at);
     });
   }
 };

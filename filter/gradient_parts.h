@@ -34,18 +34,31 @@ HWY_INLINE V MeasureOf(D d, QvpNormType norm, V x, V y) {
   return norm == qvpNormL2 ? hn::Add(hn::Mul(x, x), hn::Mul(y, y)) : MagnitudeOf(d, norm, x, y);
 }
 
-// The direction, in radians: from the nearest axis, whose tangent is at most 1, by reflections. Of no gradient it is 0.
-template <class D, class V = hn::Vec<D>>
+// A quotient of lengths, at most 1. That of two zeros is 0, of two infinities 1; NaN stays, as it equals nothing. Of
+// whole numbers a zero is divided by 1.
+template <bool kIsWhole, class D, class V = hn::Vec<D>>
+HWY_INLINE V TangentOf(D d, V shorter, V longer) {
+  const V zero = hn::Zero(d), one = hn::Set(d, 1.0f);
+  if constexpr (kIsWhole) {
+    return hn::Div(shorter, hn::Max(longer, one));
+  } else {
+    const V same = hn::IfThenElse(hn::Eq(longer, zero), zero, one);
+    return hn::IfThenElse(hn::Eq(shorter, longer), same, hn::Div(shorter, longer));
+  }
+}
+
+// The direction, in radians: from the nearest axis, whose tangent is at most 1, by reflections. Of no gradient it is 0,
+// whatever the signs of zeros, of which whole numbers have but one.
+template <bool kIsWhole, class D, class V = hn::Vec<D>>
 HWY_INLINE V AngleOf(D d, V x, V y) {
   const V ax = hn::Abs(x), ay = hn::Abs(y), zero = hn::Zero(d);
   const auto isSteep = hn::Gt(ay, ax);
-  const V shorter = hn::IfThenElse(isSteep, ax, ay), longer = hn::IfThenElse(isSteep, ay, ax);
-  // The quotient of two zeros or of two infinities is none. NaN stays, as it equals nothing.
-  const V same = hn::IfThenElse(hn::Eq(longer, zero), zero, hn::Set(d, 1.0f));
-  const V tangent = hn::IfThenElse(hn::Eq(shorter, longer), same, hn::Div(shorter, longer));
-  V angle = ArcTangent(tangent);
+  const V shorter = kIsWhole ? hn::Min(ax, ay) : hn::IfThenElse(isSteep, ax, ay),
+          longer = kIsWhole ? hn::Max(ax, ay) : hn::IfThenElse(isSteep, ay, ax);
+  V angle = ArcTangent(TangentOf<kIsWhole>(d, shorter, longer));
   angle = hn::IfThenElse(isSteep, hn::Sub(hn::Set(d, kHalfPi), angle), angle);
   angle = hn::IfThenElse(hn::Lt(x, zero), hn::Sub(hn::Set(d, kPi), angle), angle);
+  if constexpr (kIsWhole) return hn::CopySignToAbs(angle, y);
   return hn::IfThenElse(hn::Lt(y, zero), hn::Neg(angle), angle);
 }
 
