@@ -9,9 +9,9 @@
 
 namespace qvp::filter {
 
-// Of a block of columns: what sums keep is read and written again for each row, and yet whole rows of the image are
-// worth more than the nearest cache.
-inline constexpr int64_t kSumCacheBytes = kSecondCacheBytes;
+// Of a block of columns: what sums keep is read and written again for each row, so that many blocks would cost more
+// than a larger cache.
+inline constexpr int64_t kSumCacheBytes = 49152;
 
 struct SumShape {
   ptrdiff_t width, height;
