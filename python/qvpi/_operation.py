@@ -1,0 +1,175 @@
+"""One place that maps an operation, the dtype and channels of its arrays, and a mode, to an exported function."""
+import re
+
+import numpy
+
+from . import _threads
+from ._call import empty, key
+from ._errors import Error
+from ._plan import DTYPES, FUNCTIONS, NAMES, NUMBERS, make_call
+from .raw import lib
+
+_TYPE = "8u|8s|16u|16s|32u|32s|32fc|32f|64f"
+_NAME = re.compile(rf"qvpi(?P<operation>\w+?)_(?P<src>{_TYPE})(?P<dst>{_TYPE})?_(?P<layout>(?:A?[CP]\d)+)"
+                   r"(?P<masked>M?)R(?:Sfs|s)?$")
+_DTYPES = {number: numpy.dtype(DTYPES[name]).name for number, name in NAMES.items()}
+_STEPS = (lib.qvpStatusStep, lib.qvpStatusStride, lib.qvpStatusNotEvenStep)
+
+
+def _index():
+    """{operation: [(name, source type, destination type, layout, is masked)]} of what is not in place."""
+    found = {}
+    for name in FUNCTIONS:
+        match = _NAME.match(name)
+        if match:
+            entry = (name, match["src"], match["dst"] or match["src"], match["layout"], bool(match["masked"]))
+            found.setdefault(match["operation"], []).append(entry)
+    return found
+
+
+_EXPORTED = _index()
+
+
+def image(array, copy=False, name="array"):
+    """The array as a plain numpy array of rank 2 or 3, or a TypeError that says what to do."""
+    if not isinstance(array, numpy.ndarray):
+        raise TypeError(f"{name} must be a numpy array, not {type(array).__name__}: pass numpy.asarray(...) of it")
+    if isinstance(array, numpy.ma.MaskedArray):
+        raise TypeError(f"{name} is a masked array: pass its data, and its mask as mask=")
+    array = array.view(numpy.ndarray)
+    if array.ndim not in (2, 3):
+        raise TypeError(f"{name} has the shape {array.shape}, expected (H, W) or (H, W, C)")
+    if array.size == 0:
+        raise Error(lib.qvpStatusSize)
+    if not array.dtype.isnative:
+        raise TypeError(f"{name} has the bytes of its elements swapped: pass {name}.astype(...)")
+    return numpy.ascontiguousarray(array) if copy else array
+
+
+def channels(array):
+    return array.shape[2] if array.ndim == 3 else 1
+
+
+class Operation:
+    """All exported functions of one operation, by the dtype and channels of the first source.
+
+    roles: of the operands, in the order of apply(): sources, destination, values. free: images that may have a size of
+    their own. in_place: the destination may be a source. by_rows: each pixel on its own, so that strips of rows are
+    independent and the destination may be a source. is_pixelwise: each channel of each pixel on its own, so that images
+    of any number of channels can be taken as wide ones of one.
+    """
+
+    def __init__(self, name, roles, free=(), in_place=False, is_pixelwise=False, by_rows=False, masked=False,
+                 alpha=False):
+        self.name, self.roles, self.free, self.masked, self.alpha = name, roles, free, masked, alpha
+        self.is_pixelwise, self.by_rows = is_pixelwise, by_rows or is_pixelwise
+        self.in_place = in_place or self.by_rows
+        self.calls = {}
+        self.names = self._names()
+
+    def _names(self):
+        """{(key of the source, destination type, destination channels): (exported name, layout)}"""
+        names = {}
+        for name, source, destination, layout, masked in _EXPORTED.get(self.name, ()):
+            counts = [int(count) for count in re.findall(r"\d", layout)]
+            if masked == self.masked and ("A" in layout) == self.alpha and "P" not in layout:
+                entry = NUMBERS[source] * 100 + counts[0], NUMBERS[destination], counts[-1]
+                if not names.get(entry, ("",))[0].endswith("Sfs"):  # those with a scale factor can do more
+                    names[entry] = name, layout
+        return names
+
+    def find(self, source_key, dtype=None, count=None):
+        """(call, number of the destination's dtype, its channels), or None.
+
+        Without `dtype`, the destination has the source's if that exists, else the first there is.
+        """
+        wanted = source_key, dtype, count
+        if wanted not in self.calls:
+            matches = [entry for entry in self.names if entry[0] == source_key
+                       and dtype in (None, entry[1]) and count in (None, entry[2])]
+            matches.sort(key=lambda entry: (entry[1] != source_key // 100, entry[2] != source_key % 100))
+            self.calls[wanted] = self._entry(matches[0]) if matches else None
+        return self.calls[wanted]
+
+    def _entry(self, match):
+        name, layout = self.names[match]
+        count = 1 if self.name.startswith("Compare") else match[2]
+        return make_call(name, self.roles, layout, self.free, self.in_place), match[1], count
+
+    def supports(self, dtype, count=1):
+        """Whether there is a function for images of this dtype."""
+        return self.find(numpy.dtype(dtype).num * 100 + count) is not None
+
+    def apply(self, sources, out=None, values=(), dtype=None, count=None, threads=None, copy=False):
+        """Calls the function for these sources; the result is `out`, or a new array."""
+        try:
+            call, number, out_channels = self.calls[key(sources[0]), dtype, count]
+            if copy:
+                raise KeyError
+        except (KeyError, TypeError):
+            return self._prepared(sources, out, values, dtype, count, threads, copy)
+        if out is None:
+            out = empty(sources[0], number, out_channels)
+        try:
+            if threads is None and _threads._state["threads"] == 1:
+                call(*sources, out, *values)
+            else:
+                self._strips(call, (*sources, out, *values), threads)
+        except Error as error:
+            self._again(error, call, sources, out, values)
+        return out
+
+    def _prepared(self, sources, out, values, dtype, count, threads, copy):
+        """The way of the first call with arrays of a kind, and of arrays that need to be looked at."""
+        sources = [image(source, copy) for source in sources]
+        if out is not None:
+            image(out, name="out")
+        if self.find(key(sources[0]), dtype, count) is not None:
+            return self.apply(sources, out, values, dtype, count, threads)
+        if not self.is_pixelwise or sources[0].ndim == 2:
+            raise TypeError(self._complaint(sources[0], dtype))
+        return self._as_one_channel(sources, out, values, dtype, threads)
+
+    def _as_one_channel(self, sources, out, values, dtype, threads):
+        """Images of other numbers of channels, as wide images of one."""
+        found = self.find(key(sources[0]) // 100 * 100 + 1, dtype)
+        if found is None or not all(value is None or numpy.isscalar(value) for value in values):
+            raise TypeError(self._complaint(sources[0], dtype))
+        if out is None:
+            out = empty(sources[0], found[1], channels(sources[0]))
+        elif out.shape != sources[0].shape:
+            raise ValueError(f"out has the shape {out.shape}, expected {sources[0].shape}")
+        flat = [array.reshape(array.shape[0], -1) for array in (*sources, out)]
+        if not numpy.shares_memory(flat[-1], out):
+            raise TypeError("out has gaps within its rows")
+        self.apply(flat[:-1], flat[-1], values, dtype, None, threads)
+        return out
+
+    def _strips(self, call, operands, threads):
+        height = operands[0].shape[0]
+        n = _threads.count(threads) if self.by_rows else 1
+
+        def strip(first, end):
+            call(*(o[first:end] if isinstance(o, numpy.ndarray) and o.ndim > 1 else o for o in operands))
+
+        # Sizes are compared before rows are taken of arrays that have more of them.
+        if any(isinstance(o, numpy.ndarray) and o.ndim > 1 and o.shape[0] != height for o in operands):
+            n = 1
+        _threads.run(strip, _threads.strips(height, n))
+
+    def _again(self, error, call, sources, out, values):
+        """Functions that refuse negative or short row strides get copies."""
+        arrays = (*sources, out)
+        if error.status not in _STEPS or all(array.flags.c_contiguous for array in arrays):
+            raise error
+        result = numpy.ascontiguousarray(out)
+        call(*(numpy.ascontiguousarray(source) for source in sources), result, *values)
+        if result is not out:
+            out[...] = result
+
+    def _complaint(self, array, dtype):
+        wanted = f" to {_DTYPES[dtype]}" if dtype is not None else ""
+        kinds = {f"{_DTYPES[entry[0] // 100]} x {entry[0] % 100}" for entry in self.names
+                 if dtype in (None, entry[1])}
+        return (f"{self.name} is not there for {array.dtype} with {channels(array)} channels{wanted}; it is for: "
+                f"{', '.join(sorted(kinds)) or 'nothing'}")

@@ -1,0 +1,124 @@
+"""How an exported function is called with numpy arrays: a plan made from the parameters of its prototype.
+
+A parameter's role is its name without the p of pointers: pSrc1 and src1Step are both of the role "src1". An operation
+lists the roles in the order in which Python passes them; from them the plan tells what each operand must be, and from
+which operand each parameter is made. Sizes come from the images unless an operation lists them.
+"""
+import re
+import struct
+
+import numpy
+
+from . import _call
+
+# Exported names of element types, and numpy's. Complex integers have no type in numpy.
+DTYPES = {"8u": "u1", "8s": "i1", "16u": "u2", "16s": "i2", "32u": "u4", "32s": "i4", "32f": "f4", "64f": "f8",
+          "32fc": "c8"}
+NUMBERS = {name: numpy.dtype(code).num for name, code in DTYPES.items()}
+NAMES = {number: name for name, number in NUMBERS.items()}
+_C_TYPES = {f"Qvp{name}": number for name, number in NUMBERS.items()} | {
+    "int": NUMBERS["32s"], "double": NUMBERS["64f"], "QvpiPoint": NUMBERS["32s"],
+    "QvpSizeL": numpy.dtype(numpy.intp).num}
+_STRUCTURES = {"QvpiSize": ("P", "z"), "QvpiPoint": ("P", "o"), "QvpiRect": ("Q", "r")}
+
+# What None stands for where a function has such a parameter.
+DEFAULTS = {"scaleFactor": 0, "roundMode": 1, "hint": 1}
+
+WRITTEN, SAME_SIZE, IN_PLACE, OPTIONAL, ANY_FLOAT, UNUSED = 1, 2, 4, 8, 16, 32
+
+FUNCTIONS = {name: (index, parameters) for index, (name, parameters) in enumerate(_call.names())}
+
+
+def role_of(label):
+    """pSrc1 -> src1, pxMap -> xMap, roiSize -> roiSize."""
+    bare = re.sub(r"^p{1,2}(?=[A-Z]|[xy]Map)", "", label)
+    return bare[0].lower() + bare[1:]
+
+
+def channels_of(layout, role):
+    """Channels of an image with this role: C3C1 has three in sources and one elsewhere; masks and maps have one."""
+    if role in ("mask", "xMap", "yMap"):
+        return 1
+    counts = [int(count) for count in re.findall(r"[CP](\d)", layout)] or [1]
+    return counts[0] if role.startswith("src") else counts[-1]
+
+
+class Plan:
+    """Collects the operands and slots of one function."""
+
+    def __init__(self, name, layout, roles, free, in_place):
+        self.index, described = FUNCTIONS[name]
+        self.name, self.layout, self.roles, self.free, self.in_place = name, layout, roles, free, in_place
+        self.parameters = [row.split("|") for row in described.split(";")]
+        self.operands, self.slots = {}, []
+        for position, (kind, label, length) in enumerate(self.parameters):
+            self.slots.append(self.slot(position, kind, label, length))
+
+    def slot(self, position, kind, label, length):
+        """(code, role) of one parameter."""
+        role = role_of(label)
+        if kind.endswith(("*", "]")):
+            self.pointer(position, kind, role, length)
+            return "p", role
+        if label.endswith("Step") and role not in self.roles:
+            return "s", role_of(self.parameters[position - 1][1])
+        if kind in _STRUCTURES and role not in self.roles:
+            return "e" if kind == "QvpiRect" else "z", self.image_for(role)
+        return self.value(kind, role)
+
+    def pointer(self, position, kind, role, length):
+        pointee = kind.removeprefix("const ").removesuffix("*").strip()
+        is_const = kind.startswith("const ")
+        following = self.parameters[position + 1][:2] if position + 1 < len(self.parameters) else ("", "")
+        if following[0] == "int" and following[1].endswith("Step") and pointee in _C_TYPES:
+            self.image(role, _C_TYPES[pointee], is_const)
+        elif is_const and (length or role == "borderValue") and pointee in _C_TYPES:
+            count = int(length) if length else 3 if self.layout.startswith("AC") else channels_of(self.layout, "src")
+            self.operands[role] = ("C", _C_TYPES[pointee], count, ANY_FLOAT)
+        else:
+            self.memory(role, pointee, is_const)
+
+    def image(self, role, number, is_const):
+        channels = 1 if self.name.startswith("qvpiCompare") and role == "dst" else channels_of(self.layout, role)
+        flags = 0 if is_const else WRITTEN | (IN_PLACE if self.in_place else 0)
+        flags |= 0 if role in self.free else SAME_SIZE
+        flags |= OPTIONAL if role in ("gx", "gy", "magnitude", "angle") else 0
+        self.operands[role] = ("I", number, channels, flags)
+
+    def memory(self, role, pointee, is_const):
+        """A buffer, a record (bytes), an array of numbers, or one of pointers."""
+        if "*" in pointee:
+            number = numpy.dtype(numpy.uintp).num
+        else:
+            number = _C_TYPES.get(re.sub(r"\s*\(.*|\[.*", "", pointee), NUMBERS["8u"])
+        self.operands[role] = ("M", number, 0, 0 if is_const else WRITTEN)
+
+    def image_for(self, role):
+        """The image whose size stands for a size that is not passed."""
+        images = [name for name, operand in self.operands.items() if operand[0] == "I"]
+        if role.startswith("src"):
+            return images[0]
+        return "dst" if "dst" in images else next((name for name in images if name not in self.free), images[0])
+
+    def value(self, kind, role):
+        if kind in _STRUCTURES:
+            operand, code = _STRUCTURES[kind]
+            self.operands[role] = (operand, 0, 0, 0)
+            return code, role
+        number = _C_TYPES.get(kind, NUMBERS["32s"])  # enumerations are integers
+        self.operands[role] = ("N", number, DEFAULTS.get(role, -1), ANY_FLOAT if role == "value" else 0)
+        return "f" if number in (NUMBERS["32f"], NUMBERS["64f"]) else "i", role
+
+    def call(self):
+        missing = set(self.operands) - set(self.roles)
+        if missing:
+            raise LookupError(f"{self.name} needs {', '.join(sorted(missing))}")
+        operands = [self.operands.get(role, ("N", 0, 0, UNUSED)) for role in self.roles]
+        packed = b"".join(struct.pack("cbbb", kind.encode(), *numbers) for kind, *numbers in operands)
+        slots = b"".join(struct.pack("cB", code.encode(), self.roles.index(role)) for code, role in self.slots)
+        return _call.Call(self.index, tuple(self.roles), packed, slots)
+
+
+def make_call(name, roles, layout="", free=(), in_place=False):
+    """The call of an exported function whose operands have these roles."""
+    return Plan(name, layout, roles.split(), free, in_place).call()
