@@ -1,9 +1,9 @@
 """qvpIP for numpy: exact image processing at the library's speed."""
-from . import arithmetic, compositing, layout, values
+from . import arithmetic, compositing, filters, layout, statistics, values
 from ._errors import Error, Warning
 from ._threads import get_threads, set_threads
 
-_MODULES = (arithmetic, compositing, layout, values)
+_MODULES = (arithmetic, compositing, filters, layout, statistics, values)
 __all__ = ["Error", "Warning", "get_threads", "info", "set_threads"]
 for _module in _MODULES:
     __all__ += _module.__all__
