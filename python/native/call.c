@@ -132,8 +132,9 @@ static int ImageOf(const Call* self, int i, PyObject* object, Image* image) {
     image->height = PyArray_DIM(a, 0);
     image->width = PyArray_DIM(a, 1);
     image->rowBytes = image->width * ChannelsOf(a) * PyArray_ITEMSIZE(a);
-    // The step of a single row is what numpy likes; some functions want it to be a row's length.
-    image->step = image->height == 1 ? image->rowBytes : PyArray_STRIDE(a, 0);
+    // The stride of a single row may be anything that numpy likes; some functions want it to be a row's length.
+    image->step = PyArray_STRIDE(a, 0);
+    if (image->height == 1 && image->step < image->rowBytes) image->step = image->rowBytes;
     if (image->width > INT_MAX || image->height > INT_MAX || image->step > INT_MAX || image->step < INT_MIN)
         return Fail(self, i, PyExc_ValueError, "is larger than 2147483647 pixels or bytes along one side");
     return 0;

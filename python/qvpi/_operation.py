@@ -1,4 +1,5 @@
 """One place that maps an operation, the dtype and channels of its arrays, and a mode, to an exported function."""
+import operator
 import re
 
 import numpy
@@ -46,8 +47,54 @@ def image(array, copy=False, name="array"):
     return numpy.ascontiguousarray(array) if copy else array
 
 
+def checked_shape(shape, name="shape"):
+    """A shape as a tuple of 2 or 3 integers above 0."""
+    try:
+        numbers = tuple(operator.index(number) for number in shape)
+    except TypeError:
+        raise TypeError(f"{name} must be (H, W) or (H, W, C), not {shape!r}") from None
+    if len(numbers) not in (2, 3):
+        raise ValueError(f"{name} must be (H, W) or (H, W, C), not {shape!r}")
+    if min(numbers) < 1:
+        raise Error(lib.qvpStatusSize)
+    return numbers
+
+
+def checked_tile(tile, shape):
+    """(row, column, height, width) of a part of an image of this shape."""
+    try:
+        row, column, height, width = (operator.index(number) for number in tile)
+    except (TypeError, ValueError):
+        raise TypeError(f"a tile is (row, column, height, width), not {tile!r}") from None
+    if min(row, column) < 0 or min(height, width) < 1 or row + height > shape[0] or column + width > shape[1]:
+        raise ValueError(f"the tile {tile} is not within {tuple(shape[:2])}")
+    return row, column, height, width
+
+
 def channels(array):
     return array.shape[2] if array.ndim == 3 else 1
+
+
+def with_copies(call, sources, outs, values, error):
+    """Calls with copies of what a function refused because of its row strides: negative, zero, or less than a row."""
+    results = [numpy.ascontiguousarray(out) for out in outs]
+    copies = [numpy.ascontiguousarray(source) for source in sources]
+    if all(copy is array for copy, array in zip(results + copies, (*outs, *sources))):
+        raise error
+    call(*copies, *results, *values)
+    for result, out in zip(results, outs):
+        if result is not out:
+            out[...] = result
+
+
+def forgiving(call, sources, outs=(), values=()):
+    """Calls; where a function refuses row strides, once more with copies."""
+    try:
+        call(*sources, *outs, *values)
+    except Error as error:
+        if error.status not in _STEPS:
+            raise
+        with_copies(call, sources, outs, values, error)
 
 
 class Operation:
@@ -116,7 +163,9 @@ class Operation:
             else:
                 self._strips(call, (*sources, out, *values), threads)
         except Error as error:
-            self._again(error, call, sources, out, values)
+            if error.status not in _STEPS:
+                raise
+            with_copies(call, sources, (out,), values, error)
         return out
 
     def _prepared(self, sources, out, values, dtype, count, threads, copy):
@@ -156,16 +205,6 @@ class Operation:
         if any(isinstance(o, numpy.ndarray) and o.ndim > 1 and o.shape[0] != height for o in operands):
             n = 1
         _threads.run(strip, _threads.strips(height, n))
-
-    def _again(self, error, call, sources, out, values):
-        """Functions that refuse negative or short row strides get copies."""
-        arrays = (*sources, out)
-        if error.status not in _STEPS or all(array.flags.c_contiguous for array in arrays):
-            raise error
-        result = numpy.ascontiguousarray(out)
-        call(*(numpy.ascontiguousarray(source) for source in sources), result, *values)
-        if result is not out:
-            out[...] = result
 
     def _complaint(self, array, dtype):
         wanted = f" to {_DTYPES[dtype]}" if dtype is not None else ""

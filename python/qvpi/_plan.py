@@ -51,28 +51,28 @@ class Plan:
         self.name, self.layout, self.roles, self.free, self.in_place = name, layout, roles, free, in_place
         self.parameters = [row.split("|") for row in described.split(";")]
         self.operands, self.slots = {}, []
-        for position, (kind, label, length) in enumerate(self.parameters):
-            self.slots.append(self.slot(position, kind, label, length))
+        for kind, label, length in self.parameters:
+            self.slots.append(self.slot(kind, label, length))
 
-    def slot(self, position, kind, label, length):
+    def slot(self, kind, label, length):
         """(code, role) of one parameter."""
         role = role_of(label)
         if kind.endswith(("*", "]")):
-            self.pointer(position, kind, role, length)
+            self.pointer(kind, role, length)
             return "p", role
         if label.endswith("Step") and role not in self.roles:
-            return "s", role_of(self.parameters[position - 1][1])
+            return "s", label.removesuffix("Step")
         if kind in _STRUCTURES and role not in self.roles:
             return "e" if kind == "QvpiRect" else "z", self.image_for(role)
         return self.value(kind, role)
 
-    def pointer(self, position, kind, role, length):
+    def pointer(self, kind, role, length):
+        """An image has a step of its name."""
         pointee = kind.removeprefix("const ").removesuffix("*").strip()
         is_const = kind.startswith("const ")
-        following = self.parameters[position + 1][:2] if position + 1 < len(self.parameters) else ("", "")
-        if following[0] == "int" and following[1].endswith("Step") and pointee in _C_TYPES:
+        if ["int", f"{role}Step", ""] in self.parameters and pointee in _C_TYPES:
             self.image(role, _C_TYPES[pointee], is_const)
-        elif is_const and (length or role == "borderValue") and pointee in _C_TYPES:
+        elif is_const and (length or role == "borderValue" and self.layout) and pointee in _C_TYPES:
             count = int(length) if length else 3 if self.layout.startswith("AC") else channels_of(self.layout, "src")
             self.operands[role] = ("C", _C_TYPES[pointee], count, ANY_FLOAT)
         else:
@@ -87,10 +87,11 @@ class Plan:
 
     def memory(self, role, pointee, is_const):
         """A buffer, a record (bytes), an array of numbers, or one of pointers."""
-        if "*" in pointee:
+        rows = re.sub(r"\(\*\)\[\d+\]$", "", pointee)  # of matrices
+        if "*" in rows:
             number = numpy.dtype(numpy.uintp).num
         else:
-            number = _C_TYPES.get(re.sub(r"\s*\(.*|\[.*", "", pointee), NUMBERS["8u"])
+            number = _C_TYPES.get(rows, NUMBERS["8u"])
         self.operands[role] = ("M", number, 0, 0 if is_const else WRITTEN)
 
     def image_for(self, role):

@@ -17,6 +17,11 @@ def memory(size):
     return numpy.empty(max(size, 1), numpy.uint8)
 
 
+def addresses(arrays):
+    """An array of the addresses of arrays; whoever uses it keeps these alive."""
+    return numpy.array([array.ctypes.data for array in arrays], numpy.uintp)
+
+
 class Buffers:
     """Work buffers of one size: each call in progress has one of its own, and they are used again."""
 

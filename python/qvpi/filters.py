@@ -18,7 +18,7 @@ import numpy
 
 from . import _threads
 from ._call import empty, key
-from ._operation import Operation, channels, image
+from ._operation import Operation, channels, checked_shape, checked_tile, image
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import ROUNDING, choice
@@ -39,10 +39,10 @@ _LEFT, _RIGHT = lib.qvpBorderInMemLeft, lib.qvpBorderInMemRight
 
 def _pair(size, name="size"):
     """(rows, columns) of a number or a pair."""
-    pair = (size, size) if isinstance(size, int) else tuple(size)
-    if len(pair) != 2 or not all(isinstance(number, int) for number in pair):
+    pair = (size, size) if isinstance(size, int) else size
+    if not isinstance(pair, (tuple, list)) or len(pair) != 2 or not all(isinstance(number, int) for number in pair):
         raise TypeError(f"{name} must be an integer, or a pair (rows, columns)")
-    return pair
+    return tuple(pair)
 
 
 class Filter:
@@ -57,6 +57,7 @@ class Filter:
     record = ()  # (spec,) of filters that have one
 
     def __init__(self, shape, dtype, mask):
+        shape = checked_shape(shape)
         self.dtype, self.mask = numpy.dtype(dtype), mask
         self.shape, self.channels = tuple(shape[:2]), shape[2] if len(shape) == 3 else 1
         self.kind, self.roi = data_type(dtype), (shape[1], shape[0])
@@ -70,7 +71,7 @@ class Filter:
             raise TypeError(self.operation._complaint(numpy.empty((1, 1, self.channels), self.dtype), None))
 
     def __call__(self, a, out=None, *, border="replicate", value=0, tile=None, threads=None, copy=False):
-        if copy or key(a) != self._key:
+        if copy or key(a) != self._key or not _goes_down(a):
             a = self._checked(a, copy)
         if a.shape[0] > self.shape[0] or a.shape[1] > self.shape[1]:
             raise ValueError(f"the image is larger than the filter's shape {self.shape}")
@@ -85,14 +86,18 @@ class Filter:
         if key(a) != self._key:
             raise TypeError(f"the filter is for {self.dtype} with {self.channels} channels, "
                             f"not {a.dtype} with {channels(a)}")
-        return a
+        return a if _goes_down(a) else numpy.ascontiguousarray(a)
 
     def _whole(self, a, out, kind, value, threads):
         call, number, count = self._found
         if out is None:
             out = empty(a, number, count)
-        elif isinstance(out, numpy.ndarray) and numpy.may_share_memory(out, a) and out.shape == a.shape:
-            a = a.copy() if out.ctypes.data == a.ctypes.data else a
+        else:
+            image(out, name="out")
+            if not _goes_down(out):
+                return self._copied(a, out, kind, value, threads)
+            if numpy.may_share_memory(out, a) and out.ctypes.data == a.ctypes.data and out.shape == a.shape:
+                a = a.copy()
         height = a.shape[0]
         parts = [(0, height)]
         if out.shape[:1] == a.shape[:1]:
@@ -108,11 +113,14 @@ class Filter:
             _threads.run(strip, parts)
         return out
 
+    def _copied(self, a, out, kind, value, threads):
+        """The result by way of a new array."""
+        result = self._whole(a, None, kind, value, threads)
+        return _assigned(out, result)
+
     def _tile(self, a, out, kind, value, tile):
         """A part of the result. At the image's edges parts are as large as the mask at least, and then cut."""
-        row, column, height, width = (int(number) for number in tile)
-        if row < 0 or column < 0 or height < 1 or width < 1 or row + height > a.shape[0] or column + width > a.shape[1]:
-            raise ValueError("the tile is not within the image")
+        row, column, height, width = checked_tile(tile, a.shape)
         top, bottom = _enlarged(row, row + height, a.shape[0], self.mask[0])
         left, right = _enlarged(column, column + width, a.shape[1], self.mask[1])
         call, number, count = self._found
@@ -124,16 +132,24 @@ class Filter:
         result = result[row - top:row - top + height, column - left:column - left + width]
         if out is None:
             return numpy.ascontiguousarray(result)
-        image(out, name="out")
-        if out.shape != result.shape or out.dtype != result.dtype:
-            raise ValueError(f"out must be {result.dtype} of shape {result.shape}")
-        out[...] = result
-        return out
+        return _assigned(image(out, name="out"), result)
 
     def _run(self, call, a, out, border, value):
         buffer = self._buffers.take()
         call(a, out, *self.values, border, value, *self.record, buffer)
         self._buffers.give(buffer)
+
+
+def _assigned(out, result):
+    if out.shape != result.shape or out.dtype != result.dtype or not out.flags.writeable:
+        raise ValueError(f"out must be writeable, {result.dtype} of shape {result.shape}")
+    out[...] = result
+    return out
+
+
+def _goes_down(a):
+    """Whether rows follow each other in memory, as filters want it. A copy of a strip would not do: they look around it."""
+    return a.strides[0] >= a.strides[1] * a.shape[1] or a.shape[0] == 1
 
 
 def _enlarged(first, end, length, mask):
@@ -308,9 +324,9 @@ class Gauss(_Recorded):
     operation = _operation("Gauss", "", _Recorded.record_role)
 
     def __init__(self, shape, dtype, sigma=1.0, size=None):
-        rows, columns = (float(sigma),) * 2 if numpy.isscalar(sigma) else sigma
+        rows, columns = numpy.broadcast_to(numpy.asarray(sigma, float), (2,)).tolist()
         if not all(0 < s < 1e6 for s in (rows, columns)):
-            raise ValueError("sigma must be above 0")
+            raise ValueError("sigma must be above 0, a number or (along columns, along rows)")
         mask = [2 * math.ceil(3 * s) + 1 for s in (rows, columns)] if size is None else _pair(size)
         super().__init__(shape, dtype, tuple(mask))
         size = mask[1], mask[0]
@@ -339,7 +355,7 @@ class Filter2D(_Recorded):
         spec, buffer = size_of(_FILTER_SIZE, size, self.roi, self.kind, taps, self.channels, count=2)
         self.record = (memory(spec),)
         init = _FILTER_INIT["16s" if divisor is not None else "64f" if kernel.dtype == "f8" else "32f"]
-        init(kernel, size, *values, self.kind, self.channels, ROUNDING[rounding], *self.record)
+        init(kernel, size, *values, self.kind, self.channels, choice(ROUNDING, rounding, "rounding"), *self.record)
         self.prepare(buffer)
 
 
@@ -359,7 +375,7 @@ class Separable(_Recorded):
         spec, buffer = size_of(_SEPARABLE_SIZE, size, self.roi, self.kind, self.kind, taps, self.channels, count=2)
         self.record = (memory(spec),)
         init = _SEPARABLE_INIT["16s" if divisor is not None else "32f"]
-        init(row, column, size, *values, self.kind, self.kind, self.channels, ROUNDING[rounding], *self.record)
+        init(row, column, size, *values, self.kind, self.kind, self.channels, choice(ROUNDING, rounding, "rounding"), *self.record)
         self.prepare(buffer)
 
 

@@ -6,6 +6,8 @@ import numpy
 
 from ._call import empty, key
 from ._operation import Operation, channels, image
+from ._plan import FUNCTIONS, NAMES, make_call
+from ._records import addresses, cached
 from .arithmetic import choice
 from .raw import lib
 
@@ -67,18 +69,33 @@ def gray_to_color(a, out=None, *, count=3, copy=False):
     return _DUPLICATE.apply((a,), out, (), None, count, None, copy)
 
 
+@cached
+def _planar(dtype, count, is_split):
+    """The call between interleaved and planar pixels."""
+    layout, roles = (f"C{count}P{count}", "src dst dstStep") if is_split else (f"P{count}C{count}", "src srcStep dst")
+    name = f"qvpiCopy_{NAMES.get(dtype.num)}_{layout}R"
+    if name not in FUNCTIONS:
+        raise TypeError(f"there are no planes of {dtype} with {count} channels")
+    return make_call(name, roles, f"C{count}")
+
+
 def split(a, *, copy=False):
     """The 3 or 4 channels of an image as an array of shape (C, H, W)."""
     a = image(a, copy)
     planes = numpy.empty((channels(a), *a.shape[:2]), a.dtype)
-    for channel, plane in enumerate(planes):
-        plane[...] = a[..., channel]
+    _planar(a.dtype, channels(a), True)(a, addresses(planes), planes.strides[1])
     return planes
 
 
 def merge(planes, out=None):
-    """An image of shape (H, W, C) from C images of one shape (H, W), or an array of shape (C, H, W)."""
-    return numpy.stack([image(plane, name="plane") for plane in planes], axis=-1, out=out)
+    """An image of shape (H, W, C) from 3 or 4 images of one shape (H, W), or an array of shape (C, H, W)."""
+    planes = numpy.ascontiguousarray(planes)
+    if planes.ndim != 3 or planes.size == 0:
+        raise ValueError("planes must be images of one shape (H, W)")
+    count, height, width = planes.shape
+    result = numpy.empty((height, width, count), planes.dtype) if out is None else _of_shape(out, (height, width, count))
+    _planar(planes.dtype, count, False)(addresses(planes), planes.strides[1], result)
+    return result
 
 
 def copy_border(a, top, bottom, left, right, out=None, *, border="constant", value=0, copy=False):

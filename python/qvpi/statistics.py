@@ -7,11 +7,11 @@ import numpy
 
 from . import _threads
 from ._call import key
-from ._operation import Operation, channels, image
+from ._operation import Operation, channels, checked_shape, forgiving, image
 from ._plan import make_call
-from ._records import Buffers, cached, memory, size_of
+from ._records import Buffers, addresses, cached, memory, size_of
 from .arithmetic import choice
-from .values import _addresses, _found, data_type
+from .values import _found, data_type
 
 __all__ = ["Histogram", "Moments", "argmax", "argmin", "dot", "histogram", "max", "mean", "min", "min_max", "moments",
            "norm", "sum"]
@@ -39,7 +39,7 @@ def _reduce(operation, sources, copy, dtype=numpy.float64, count=1, values=()):
         sources = [image(a, True) for a in sources]
     a, call = _found(operation, sources[0])
     results = [numpy.zeros(channels(a), dtype if i == 0 else numpy.int32) for i in range(count)]
-    call(*sources, *results, *values)
+    forgiving(call, sources, (), (*results, *values))
     return [_result(result, a) for result in results]
 
 
@@ -71,7 +71,7 @@ def min_max(a, *, copy=False):
     """(least value, greatest value) in one pass."""
     a, call = _found(_MIN_MAX, a, copy)
     least, greatest = (numpy.zeros(channels(a), a.dtype) for _ in range(2))
-    call(a, least, greatest)
+    forgiving(call, (a,), (), (least, greatest))
     return _result(least, a), _result(greatest, a)
 
 
@@ -111,6 +111,7 @@ class Histogram:
     """
 
     def __init__(self, shape, dtype, bins=256, range=(0, 256)):
+        shape = checked_shape(shape)
         self._dtype, self._channels = numpy.dtype(dtype), shape[2] if len(shape) == 3 else 1
         levels = _levels(bins, range)
         self.bins = len(levels) - 1
@@ -118,7 +119,7 @@ class Histogram:
         counts = numpy.full(n, len(levels), numpy.int32)
         spec, buffer = size_of(_HISTOGRAM_SIZE, kind, (shape[1], shape[0]), counts, n, 1, count=2)
         self._spec, self._buffers = memory(spec), Buffers(buffer)
-        _HISTOGRAM_INIT(kind, _addresses([levels] * n), counts, n, self._spec)
+        _HISTOGRAM_INIT(kind, addresses([levels] * n), counts, n, self._spec)
 
     def __call__(self, a, *, threads=None, copy=False):
         """The counts of an image of the object's dtype and channels, of any size."""
@@ -135,7 +136,7 @@ class Histogram:
     def _strip(self, call, a):
         counts = numpy.zeros((self._channels, self.bins), numpy.uint32)
         buffer = self._buffers.take() if self._dtype.kind != "f" else None  # floats need none
-        call(a, _addresses(counts), self._spec, buffer)
+        forgiving(call, (a,), (), (addresses(counts), self._spec, buffer))
         if buffer is not None:
             self._buffers.give(buffer)
         return counts
@@ -182,7 +183,7 @@ class Moments:
         a, call = _found(_MOMENTS, a, copy)
         self._state = memory(size_of(_STATE_SIZE, hint))
         _STATE_INIT(self._state, hint)
-        call(a, self._state)
+        forgiving(call, (a,), (), (self._state,))
 
     def _get(self, call, *operands):
         result = numpy.zeros(1)

@@ -6,8 +6,9 @@ import numpy
 
 from ._call import key
 from ._errors import Error
-from ._operation import Operation, channels, image
+from ._operation import Operation, channels, forgiving, image
 from ._plan import NUMBERS, make_call
+from ._records import addresses
 from .arithmetic import ROUNDING, choice, is_image
 from .raw import lib
 
@@ -149,7 +150,7 @@ def count_in_range(a, low, high, *, copy=False):
     """How many pixels have low <= value <= high, both inclusive: an int, or one for each of 3 channels. uint8, float32."""
     a, call = _found(_COUNT, a, copy)
     counts = numpy.zeros(channels(a), numpy.int32)
-    call(a, counts, low, high)
+    forgiving(call, (a,), (), (counts, low, high))
     return int(counts[0]) if counts.size == 1 else counts
 
 
@@ -157,7 +158,7 @@ def otsu(a, *, copy=False):
     """Otsu's threshold, which best separates dark from bright pixels: to be used with compare(a, '>', t). uint8, (H, W)."""
     a, call = _found(_OTSU, a, copy)
     result = numpy.zeros(1, numpy.uint8)
-    call(a, result)
+    forgiving(call, (a,), (), (result,))
     return int(result[0])
 
 
@@ -170,13 +171,8 @@ def lookup(a, table, out=None, *, threads=None, copy=False):
         raise ValueError(f"the table must be {a.dtype} of shape ({entries},) or (channels, {entries})")
     if channels(a) > 1:
         rows = numpy.broadcast_to(table, (channels(a), entries))
-        table = _addresses(rows)
+        table = addresses(rows)
     return _TABLE.apply((a,), out, (table,), None, None, threads)
-
-
-def _addresses(rows):
-    """An array of the addresses of arrays; whoever uses it keeps these alive."""
-    return numpy.array([row.ctypes.data for row in rows], numpy.uintp)
 
 
 def palette(a, entries, out=None, *, threads=None, copy=False):
@@ -204,7 +200,7 @@ class Curve:
         count, size = numpy.array([points[0].size], numpy.int32), numpy.zeros(1, numpy.int32)
         _LOOKUP_SIZE(kind, way, count, 1, size)
         self._spec = numpy.zeros(int(size[0]), numpy.uint8)
-        _LOOKUP_INIT(kind, way, *(_addresses([array]) for array in points), count, 1, self._spec)
+        _LOOKUP_INIT(kind, way, *(addresses([array]) for array in points), count, 1, self._spec)
 
     def __call__(self, a, out=None, *, threads=None, copy=False):
         return _CURVE.apply((a,), out, (self._spec,), None, None, threads, copy)

@@ -1,0 +1,154 @@
+"""Two-dimensional Fourier transforms in single precision, of any size; powers of two have a faster method.
+
+The spectrum of a real image has its own compact form here, *packed*: as many floats as the image. `norm` is as in
+numpy: 'backward' (1 / N in the inverse), 'forward' (1 / N in the forward transform), 'ortho' (1 / sqrt(N) in both).
+"""
+import numpy
+
+from ._call import key
+from ._operation import Operation, checked_shape, forgiving, image
+from ._plan import make_call
+from ._records import Buffers, cached, memory, size_of
+from .arithmetic import choice
+
+__all__ = ["Fourier", "dft2", "fft2", "idft2", "ifft2", "magnitude", "multiply_packed", "pack", "packed_dft2",
+           "packed_idft2", "phase", "unpack"]
+
+_FLAGS = {"forward": 1, "backward": 2, "ortho": 4}
+_FORMS = {"f": ("R_32f", "RToPack", "PackToR"), "c": ("C_32fc", "CToC", "CToC")}
+_ROLES = "src dst spec buffer"
+_PASSES = {(method, form): tuple(Operation(f"{method}{name}", _ROLES, in_place=True)
+                                 for name in (f"Fwd_{forward}", f"Inv_{inverse}"))
+           for method in ("FFT", "DFT") for form, (_, forward, inverse) in _FORMS.items()}
+
+
+class Fourier:
+    """Transforms of images of one shape and dtype: f = Fourier(a.shape, a.dtype); s = f.forward(a); a = f.inverse(s).
+
+    complex64 of shape (H, W) has complex spectra; float32 of 1, 3 or 4 channels packed ones, of each channel by itself.
+    """
+
+    def __init__(self, shape, dtype, norm="backward", method=None):
+        dtype = numpy.dtype(dtype)
+        if dtype not in (numpy.float32, numpy.complex64):
+            raise TypeError(f"there are transforms of float32 and complex64, not of {dtype}")
+        shape = checked_shape(shape)
+        flag, form = choice(_FLAGS, norm, "norm"), dtype.kind
+        height, width = shape[:2]
+        is_power = all(n > 0 and n & (n - 1) == 0 for n in (height, width))
+        method = method or ("FFT" if is_power else "DFT")
+        sizes = (width.bit_length() - 1, height.bit_length() - 1) if method == "FFT" else ((width, height),)
+        places = "orderX orderY" if method == "FFT" else "roiSize"
+        name = _FORMS[form][0]
+        query = make_call(f"qvpi{method}GetSize_{name}", f"{places} flag hint specSize specBufferSize bufferSize")
+        spec, init, buffer = size_of(query, *sizes, flag, None, count=3)
+        self.shape, self.dtype = tuple(shape), dtype
+        self._spec, self._buffers = memory(spec), Buffers(buffer)
+        make_call(f"qvpi{method}Init_{name}", f"{places} flag hint spec memInit")(*sizes, flag, None, self._spec,
+                                                                                 memory(init))
+        count = shape[2] if len(shape) == 3 else 1
+        self._key = dtype.num * 100 + count
+        self._passes = [operation.find(self._key) for operation in _PASSES[method, form]]
+        if None in self._passes:
+            raise TypeError(f"there are no transforms of {dtype} with {count} channels")
+
+    def forward(self, a, out=None, *, copy=False):
+        """The spectrum. `out` may be the image."""
+        return self._run(self._passes[0][0], a, out, copy)
+
+    def inverse(self, spectrum, out=None, *, copy=False):
+        """The image of a spectrum. `out` may be the spectrum."""
+        return self._run(self._passes[1][0], spectrum, out, copy)
+
+    def _run(self, call, a, out, copy):
+        if copy or key(a) != self._key or a.shape != self.shape:
+            a = image(a, copy)
+            if key(a) != self._key or a.shape != self.shape:
+                raise ValueError(f"the image must be {self.dtype} of shape {self.shape}, not {a.dtype} of {a.shape}")
+        if out is None:
+            out = numpy.empty(self.shape, self.dtype)
+        buffer = self._buffers.take()
+        forgiving(call, (a,), (out,), (self._spec, buffer))
+        self._buffers.give(buffer)
+        return out
+
+
+@cached
+def _fourier(shape, dtype, norm, method):
+    return Fourier(shape, dtype, norm, method)
+
+
+def _transform(a, norm, method, inverse, copy):
+    """The complex spectrum or image of a real or complex image of shape (H, W)."""
+    a = image(a, copy)
+    if a.dtype == numpy.float32 and not inverse and a.ndim == 2:
+        return unpack(_fourier(a.shape, a.dtype, norm, method).forward(a))
+    if a.dtype != numpy.complex64 or a.ndim != 2:
+        raise TypeError(f"expected complex64{'' if inverse else ' or float32'} of shape (H, W), not {a.dtype} of {a.shape}")
+    made = _fourier(a.shape, a.dtype, norm, method)
+    return made.inverse(a) if inverse else made.forward(a)
+
+
+def fft2(a, norm="backward", *, copy=False):
+    """The complex spectrum of a float32 or complex64 image of shape (H, W), as numpy.fft.fft2."""
+    return _transform(a, norm, None, False, copy)
+
+
+def ifft2(a, norm="backward", *, copy=False):
+    """The complex image of a complex64 spectrum of shape (H, W), as numpy.fft.ifft2."""
+    return _transform(a, norm, None, True, copy)
+
+
+def dft2(a, norm="backward", *, copy=False):
+    """fft2 by the method for any size, for powers of two as well."""
+    return _transform(a, norm, "DFT", False, copy)
+
+
+def idft2(a, norm="backward", *, copy=False):
+    """ifft2 by the method for any size, for powers of two as well."""
+    return _transform(a, norm, "DFT", True, copy)
+
+
+def packed_dft2(a, out=None, norm="backward", *, copy=False):
+    """The packed spectrum of a float32 image of 1, 3 or 4 channels."""
+    a = image(a, copy)
+    return _fourier(a.shape, a.dtype, norm, None).forward(a, out)
+
+
+def packed_idft2(spectrum, out=None, norm="backward", *, copy=False):
+    """The float32 image of a packed spectrum."""
+    spectrum = image(spectrum, copy)
+    return _fourier(spectrum.shape, spectrum.dtype, norm, None).inverse(spectrum, out)
+
+
+_MULTIPLY, _MULTIPLY_CONJUGATE = (Operation(name, "src1 src2 dst", in_place=True) for name in ("MulPack", "MulPackConj"))
+_MAGNITUDE, _PHASE = Operation("MagnitudePack", "src dst buffer"), Operation("PhasePack", "src dst")
+_UNPACK, _PACK = Operation("PackToCplxExtend", "src dst"), Operation("CplxExtendToPack", "src dst")
+_MAGNITUDE_SIZE = make_call("qvpiMagnitudePackGetBufferSize_32f", "numChannels roiSize bufferSize")
+
+
+def multiply_packed(a, b, out=None, *, conjugate=False, copy=False):
+    """The product of two packed spectra, a * conj(b) if conjugate: a convolution, or a correlation, of images."""
+    return (_MULTIPLY_CONJUGATE if conjugate else _MULTIPLY).apply((a, b), out, (), None, None, None, copy)
+
+
+def magnitude(packed, out=None, *, copy=False):
+    """|X| of a packed spectrum, at every frequency: float32 of the same shape."""
+    a = image(packed, copy)
+    count = a.shape[2] if a.ndim == 3 else 1
+    return _MAGNITUDE.apply((a,), out, (memory(size_of(_MAGNITUDE_SIZE, count, (a.shape[1], a.shape[0]))),))
+
+
+def phase(packed, out=None, *, copy=False):
+    """The angle of X of a packed spectrum, in radians, at every frequency: float32 of the same shape."""
+    return _PHASE.apply((packed,), out, (), None, None, None, copy)
+
+
+def unpack(packed, out=None, *, copy=False):
+    """The whole complex64 spectrum of a packed one, (H, W)."""
+    return _UNPACK.apply((packed,), out, (), None, None, None, copy)
+
+
+def pack(spectrum, out=None, *, copy=False):
+    """The packed spectrum of a complex64 one that is symmetric, as those of real images are, (H, W)."""
+    return _PACK.apply((spectrum,), out, (), None, None, None, copy)

@@ -1,0 +1,323 @@
+"""Images of another size or shape: resizing, warps, remapping.
+
+Images have the shape (H, W), or (H, W, C) with 3 or 4 channels. Positions are (x, y), x to the right and y down, and
+pixels lie at whole coordinates; sizes are shapes, (H, W). What a function makes is the same to the bit by tiles, on any
+number of threads, and as a whole.
+"""
+import numpy
+
+from . import _threads
+from ._call import key
+from ._operation import Operation, checked_shape, checked_tile, forgiving, image
+from ._plan import NUMBERS, make_call
+from ._records import Buffers, cached, memory, size_of
+from .arithmetic import choice
+from .raw import lib
+from .values import data_type
+
+__all__ = ["Remap", "Resizer", "Warp", "affine_transform", "perspective_transform", "remap", "resize", "rotation",
+           "warp_affine", "warp_perspective", "warp_quad"]
+
+_EDGES = {"replicate": lib.qvpBorderReplicate, "mirror": lib.qvpBorderMirror}
+_OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst, "transparent": lib.qvpBorderTransparent}
+INTERPOLATIONS = {"nearest": lib.qvpInterpolationNearest, "linear": lib.qvpInterpolationLinear,
+                  "cubic": lib.qvpInterpolationCubic, "super": lib.qvpInterpolationSuper,
+                  "lanczos": lib.qvpInterpolationLanczos}
+
+
+class _Mapped:
+    """What makes a destination of one shape from a source of one shape, whole or by tiles."""
+
+    def prepare(self, src_shape, dst_shape, dtype):
+        src_shape, dst_shape = checked_shape(src_shape, "the source's shape"), checked_shape(dst_shape)
+        self.dtype = numpy.dtype(dtype)
+        self.kind = data_type(dtype)
+        self.channels = src_shape[2] if len(src_shape) == 3 else 1
+        self.src_shape = tuple(src_shape)
+        self.dst_shape = tuple(dst_shape[:2]) + self.src_shape[2:]
+        self.src, self.dst = (src_shape[1], src_shape[0]), (dst_shape[1], dst_shape[0])
+        self._key = self.dtype.num * 100 + self.channels
+
+    def find(self, operation):
+        found = operation.find(self._key)
+        if found is None:
+            raise TypeError(operation._complaint(numpy.empty((1, 1, self.channels), self.dtype), None))
+        return found[0]
+
+    def new(self, shape):
+        return numpy.empty(shape, self.dtype)
+
+    def __call__(self, a, out=None, *, tile=None, threads=None, copy=False):
+        """The destination, or its part tile=(row, column, height, width), in `out` or a new array."""
+        if copy or key(a) != self._key or a.shape != self.src_shape:
+            a = self._checked(a, copy)
+        row, column, height, width = (0, 0, *self.dst_shape[:2]) if tile is None else checked_tile(tile, self.dst_shape)
+        shape = (height, width, *self.src_shape[2:])
+        if out is None:
+            out = self.new(shape)
+        elif not isinstance(out, numpy.ndarray) or out.shape != shape:
+            raise ValueError(f"out must be an array of shape {shape}")
+        if threads is None and _threads._state["threads"] == 1:
+            self._run(a, out, column, row)
+            return out
+        parts = _threads.strips(height, _threads.count(threads))
+        _threads.run(lambda first, end: self._run(a, out[first:end], column, row + first), parts)
+        return out
+
+    def _checked(self, a, copy):
+        a = image(a, copy)
+        if key(a) != self._key or a.shape != self.src_shape:
+            raise ValueError(f"the source must be {self.dtype} of shape {self.src_shape}, not {a.dtype} of {a.shape}")
+        return a
+
+
+# ---- resizing
+
+_TAIL = "border borderValue spec buffer"
+_METHODS = {
+    "nearest": Operation("ResizeNearest", "src dst dstOffset spec buffer", free=("src",)),
+    "linear": Operation("ResizeLinear", f"src dst dstOffset {_TAIL}", free=("src",)),
+    "cubic": Operation("ResizeCubic", f"src dst dstOffset {_TAIL}", free=("src",)),
+    "lanczos": Operation("ResizeLanczos", f"src dst dstOffset {_TAIL}", free=("src",)),
+    "super": Operation("ResizeSuper", "src dst dstOffset spec buffer", free=("src",)),
+}
+_ANTIALIASED = Operation("ResizeAntialiasing", f"src dst dstOffset {_TAIL}", free=("src",))
+_RESIZE_ROLES = {"Nearest": "spec", "Linear": "spec", "Super": "spec", "Cubic": "valueB valueC spec initBuf",
+                 "Lanczos": "numLobes spec initBuf", "AntialiasingLinear": "spec initBuf",
+                 "AntialiasingCubic": "valueB valueC spec initBuf", "AntialiasingLanczos": "numLobes spec initBuf"}
+
+
+def _resize_call(name, roles, suffix):
+    return make_call(f"qvpiResize{name}{suffix}", roles)
+
+
+class Resizer(_Mapped):
+    """Resizes images of one shape to another: r = Resizer(a.shape, (h, w), a.dtype, method='lanczos'); r(a).
+
+    method: 'nearest', 'linear', 'cubic' (Mitchell and Netravali's `b` and `c`), 'lanczos' (2 or 3 `lobes`), 'super', the
+    mean over the area of a destination pixel, for reductions. antialias: linear, cubic and Lanczos kernels widened so
+    that every source pixel counts. border: 'replicate' or 'mirror', beyond the source. Centres of pixels: destination
+    column d lies at (d + 0.5) * W_src / W_dst - 0.5. uint8, uint16, int16, float32, and float64 by 'linear'.
+    accurate=True: uint8 in single precision instead of 16-bit weights.
+    """
+
+    def __init__(self, src_shape, dst_shape, dtype, method="linear", antialias=False, *, border="replicate", b=0.0,
+                 c=0.5, lobes=3, accurate=False):
+        self.prepare(src_shape, dst_shape, dtype)
+        interpolation = choice(INTERPOLATIONS, method, "method")
+        antialias = bool(antialias) and method in ("linear", "cubic", "lanczos")
+        self._call = self.find(_ANTIALIASED if antialias else _METHODS[method])
+        code = next(name for name, number in NUMBERS.items() if number == self.dtype.num)
+        size = _resize_call("GetSize", "srcSize dstSize interpolation antialiasing specSize initBufSize", f"_{code}")
+        spec, init = size_of(size, self.src, self.dst, interpolation, int(antialias), count=2)
+        self._spec, self._init = memory(spec), memory(init)
+        self._fill(method, antialias, code, {"valueB": b, "valueC": c, "numLobes": lobes})
+        if accurate and not antialias and method in ("linear", "cubic", "lanczos"):
+            _RESIZE_MODE(lib.qvpAlgHintAccurate, self._spec)
+        buffer = _resize_call("GetBufferSize", "spec dstSize numChannels bufSize", f"_{code}")
+        self._buffers = Buffers(size_of(buffer, self._spec, self.dst, self.channels))
+        self._offset = _resize_call("GetSrcOffset", "spec dstOffset srcOffset", f"_{code}")
+        edge = choice(_EDGES, border, "border")
+        self._edge = () if method in ("nearest", "super") else (edge, None)
+
+    def _fill(self, method, antialias, code, parameters):
+        name = f"{'Antialiasing' if antialias else ''}{method.title()}"
+        roles = _RESIZE_ROLES[name]
+        init = _resize_call(f"{name}Init", f"srcSize dstSize {roles}", "" if antialias else f"_{code}")
+        places = {"spec": self._spec, "initBuf": self._init, **parameters}
+        init(self.src, self.dst, *(places[role] for role in roles.split()))
+
+    def _run(self, a, out, x, y):
+        if x or y:
+            offset = numpy.zeros(2, numpy.int32)
+            self._offset(self._spec, (x, y), offset)
+            a = a[offset[1]:, offset[0]:]
+        buffer = self._buffers.take()
+        self._call(a, out, (x, y), *self._edge, self._spec, buffer)
+        self._buffers.give(buffer)
+
+
+_RESIZE_MODE = make_call("qvpiResizeSetMode", "hint spec")
+
+
+@cached
+def _resizer(src_shape, dst_shape, dtype, method, antialias, options):
+    return Resizer(src_shape, dst_shape, dtype, method, antialias, **dict(options))
+
+
+def resize(a, shape, out=None, *, method="linear", antialias=False, threads=None, copy=False, **options):
+    """The image in another shape, (H, W); see Resizer for the options."""
+    if type(a) is not numpy.ndarray:
+        a = image(a)
+    made = _resizer(a.shape, tuple(shape), a.dtype, method, antialias, tuple(options.items()))
+    return made(a, out, threads=threads, copy=copy)
+
+
+# ---- warps
+
+_WARP_METHODS = ("nearest", "linear", "cubic")
+_WARPS = {(kind, method): Operation(f"Warp{kind}{method.title()}", "src dst dstRoiOffset spec buffer", free=("src",))
+          for kind in ("Affine", "Perspective") for method in _WARP_METHODS}
+_TRANSFORM = "dataType coeffs direction numChannels borderType borderValue smoothEdge spec"
+_WARP_SIZE = {kind: make_call(f"qvpiWarp{kind}GetSize",
+                              "srcSize dstSize dataType coeffs interpolation direction borderType specSize initBufSize")
+              for kind in ("Affine", "Perspective")}
+_CUBIC = " valueB valueC initBuf"
+_WARP_INIT = {(kind, method): make_call(f"qvpiWarp{kind}{method.title()}Init",
+                                        f"srcSize dstSize {_TRANSFORM}{_CUBIC if method == 'cubic' else ''}")
+              for kind, method in _WARPS}
+_WARP_BUFFER = make_call("qvpiWarpGetBufferSize", "spec dstSize bufSize")
+
+
+class Warp(_Mapped):
+    """Warps by a matrix of shape (2, 3), affine, or (3, 3), perspective: w = Warp(a.shape, a.dtype, matrix); w(a).
+
+    The matrix maps source points (x, y, 1) to destination points; inverse=True the other way. method: 'nearest',
+    'linear', 'cubic' (with `b` and `c`). border: 'constant' (`value`), 'replicate', or 'transparent', which leaves
+    pixels of `out` alone that fall outside. smooth: edges blend into what was there. All five dtypes.
+    """
+
+    def __init__(self, shape, dtype, matrix, dst_shape=None, method="linear", *, inverse=False, border="constant",
+                 value=0.0, smooth=False, b=0.0, c=0.5):
+        self.prepare(shape, shape if dst_shape is None else dst_shape, dtype)
+        matrix = numpy.ascontiguousarray(matrix, numpy.float64)
+        if matrix.shape not in ((2, 3), (3, 3)) or not numpy.isfinite(matrix).all():
+            raise ValueError("the matrix must have finite numbers, of shape (2, 3) or (3, 3)")
+        kind = "Affine" if len(matrix) == 2 else "Perspective"
+        if method not in _WARP_METHODS:
+            raise ValueError(f"method must be one of {', '.join(map(repr, _WARP_METHODS))}, not {method!r}")
+        outside, direction = choice(_OUTSIDE, border, "border"), int(bool(inverse))
+        self._call = self.find(_WARPS[kind, method])
+        self._keeps = border == "transparent" or smooth
+        sizes = size_of(_WARP_SIZE[kind], self.src, self.dst, self.kind, matrix, INTERPOLATIONS[method], direction,
+                        outside, count=2)
+        self._spec = memory(sizes[0])
+        values = numpy.ascontiguousarray(numpy.broadcast_to(numpy.asarray(value, numpy.float64), (self.channels,)))
+        cubic = (b, c, memory(sizes[1])) if method == "cubic" else ()
+        _WARP_INIT[kind, method](self.src, self.dst, self.kind, matrix, direction, self.channels, outside, values,
+                                 int(bool(smooth)), self._spec, *cubic)
+        self._buffers = Buffers(size_of(_WARP_BUFFER, self._spec, self.dst))
+
+    def new(self, shape):
+        return numpy.zeros(shape, self.dtype) if self._keeps else numpy.empty(shape, self.dtype)
+
+    def _run(self, a, out, x, y):
+        buffer = self._buffers.take()
+        self._call(a, out, (x, y), self._spec, buffer)
+        self._buffers.give(buffer)
+
+
+@cached
+def _warp(shape, dtype, matrix, rows, dst_shape, method, options):
+    return Warp(shape, dtype, numpy.frombuffer(matrix).reshape(rows, 3), dst_shape, method, **dict(options))
+
+
+def _warped(a, matrix, rows, dst_shape, method, out, threads, copy, options):
+    a = image(a)
+    matrix = numpy.ascontiguousarray(matrix, numpy.float64)
+    if matrix.shape != (rows, 3):
+        raise ValueError(f"the matrix must have the shape ({rows}, 3)")
+    values = {name: tuple(value) if isinstance(value, (list, numpy.ndarray)) else value
+              for name, value in options.items()}
+    made = _warp(a.shape, a.dtype, matrix.tobytes(), rows, dst_shape and tuple(dst_shape), method,
+                 tuple(values.items()))
+    return made(a, out, threads=threads, copy=copy)
+
+
+def warp_affine(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
+    """The image moved by a (2, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
+    return _warped(a, matrix, 2, shape, method, out, threads, copy, options)
+
+
+def warp_perspective(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
+    """The image moved by a (3, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
+    return _warped(a, matrix, 3, shape, method, out, threads, copy, options)
+
+
+def warp_quad(a, src_quad, dst_quad, shape=None, out=None, **options):
+    """Warps so that four source points fall on four destination points; see Warp for the options."""
+    return warp_perspective(a, perspective_transform(src_quad, dst_quad), shape, out, **options)
+
+
+def affine_transform(src, dst):
+    """The (2, 3) matrix that takes three points to three others."""
+    src, dst = numpy.asarray(src, float), numpy.asarray(dst, float)
+    if src.shape != (3, 2) or dst.shape != (3, 2):
+        raise ValueError("three points (x, y) are needed on both sides")
+    points = numpy.hstack([src, numpy.ones((3, 1))])
+    return _solved(points, dst).T
+
+
+def _solved(matrix, right):
+    try:
+        return numpy.linalg.solve(matrix, right)
+    except numpy.linalg.LinAlgError:
+        raise ValueError("the points make no transform: three of them are on a line") from None
+
+
+def perspective_transform(src, dst):
+    """The (3, 3) matrix that takes four points to four others."""
+    src, dst, rows, right = numpy.asarray(src, float), numpy.asarray(dst, float), [], []
+    if src.shape != (4, 2) or dst.shape != (4, 2):
+        raise ValueError("four points (x, y) are needed on both sides")
+    for (x, y), (u, v) in zip(src, dst):
+        rows += [[x, y, 1, 0, 0, 0, -u * x, -u * y], [0, 0, 0, x, y, 1, -v * x, -v * y]]
+        right += [u, v]
+    return numpy.append(_solved(rows, right), 1.0).reshape(3, 3)
+
+
+def rotation(angle, center):
+    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y)."""
+    matrix, shifts = numpy.zeros((2, 3)), numpy.zeros((2, 1))
+    _ROTATE_SHIFT(center[0], center[1], angle, shifts[0], shifts[1])
+    _ROTATE(angle, shifts[0, 0], shifts[1, 0], matrix)
+    return matrix
+
+
+_ROTATE_SHIFT = make_call("qvpiGetRotateShift", "xCenter yCenter angle shiftX shiftY")
+_ROTATE = make_call("qvpiGetRotateTransform", "angle shiftX shiftY coeffs")
+
+
+# ---- remapping
+
+_REMAP = Operation("Remap", "src xMap yMap dst srcRoi interpolation", free=("src",))
+_REMAP_METHODS = INTERPOLATIONS | {"cubic classic": lib.qvpInterpolationCubicClassic}
+_WHOLE = ("nearest", "linear", "cubic", "cubic classic", "lanczos")
+
+
+class Remap:
+    """Each destination pixel from the source point that two maps tell: m = Remap(x, y); m(a).
+
+    x, y: float32 of the destination's shape (float64 for float64 images). method: 'nearest', 'linear', 'cubic', 'cubic
+    classic', 'lanczos'. Pixels whose points are outside the source keep the value that `out` has; in a new array 0.
+    smooth: points up to a pixel outside blend into it.
+    """
+
+    def __init__(self, x, y, method="linear", smooth=False):
+        if method not in _WHOLE:
+            raise ValueError(f"method must be one of {', '.join(map(repr, _WHOLE))}, not {method!r}")
+        self.x, self.y = image(x, name="x"), image(y, name="y")
+        self._method = _REMAP_METHODS[method] | (lib.qvpSmoothEdge if smooth else 0)
+
+    def __call__(self, a, out=None, *, threads=None, copy=False):
+        a = image(a, copy)
+        found = _REMAP.find(key(a))
+        if found is None:
+            raise TypeError(_REMAP._complaint(a, None))
+        if out is None:
+            out = numpy.zeros((*self.x.shape, *a.shape[2:]), a.dtype)
+        image(out, name="out")
+        if out.shape[:2] != self.x.shape or self.x.shape != self.y.shape:
+            raise ValueError("maps and destination must have one shape")
+        roi = 0, 0, a.shape[1], a.shape[0]
+
+        def strip(first, end):
+            forgiving(found[0], (a, self.x[first:end], self.y[first:end]), (out[first:end],), (roi, self._method))
+
+        _threads.run(strip, _threads.strips(out.shape[0], _threads.count(threads)))
+        return out
+
+
+def remap(a, x, y, out=None, *, method="linear", smooth=False, threads=None, copy=False):
+    """The image at the points of two maps; see Remap."""
+    return Remap(x, y, method, smooth)(a, out, threads=threads, copy=copy)

@@ -1,0 +1,181 @@
+"""Filters, resizing, warps and transforms: formulas, tiles, threads, records."""
+import threading
+
+import numpy
+import pytest
+import qvpi
+import scipy.ndimage
+from hypothesis import given, settings
+from hypothesis import strategies as st
+from images import images, layouts, laid_out, random, saturated
+
+settings.register_profile("short", max_examples=15, deadline=None, derandomize=True, database=None)
+settings.load_profile("short")
+
+MODES = {"replicate": "nearest", "mirror": "mirror", "constant": "constant"}
+sizes = st.tuples(st.integers(1, 7), st.integers(1, 7))
+
+
+def by_channel(function, a):
+    """What scipy makes of each channel."""
+    if a.ndim == 2:
+        return function(a.astype(float))
+    return numpy.stack([function(a[..., c].astype(float)) for c in range(a.shape[2])], axis=2)
+
+
+@given(images(count=1, least=8), sizes, st.sampled_from(list(MODES)), layouts)
+def test_rectangles(one, size, border, layout):
+    (a,) = one
+    options = {"mode": MODES[border], "cval": 7}
+    mean = by_channel(lambda c: scipy.ndimage.correlate(c, numpy.ones(size), **options), a) / (size[0] * size[1])
+    out = laid_out(numpy.zeros_like(a), layout)
+    assert qvpi.box(a, size, out, border=border, value=7, threads=2) is out
+    numpy.testing.assert_allclose(out, saturated(mean, a.dtype), rtol=1e-5, atol=2e-3 if a.dtype.kind == "f" else 0)
+    least = by_channel(lambda c: scipy.ndimage.minimum_filter(c, size, **options), a)
+    numpy.testing.assert_array_equal(qvpi.minimum(a, size, border=border, value=7), least)
+    greatest = by_channel(lambda c: scipy.ndimage.maximum_filter(c, size, **options), a)
+    numpy.testing.assert_array_equal(qvpi.maximum(a, size, border=border, value=7), greatest)
+
+
+@given(images(("u1",), count=1, least=6), sizes, st.sampled_from(list(MODES)), st.integers(0, 1 << 20))
+def test_any_kernel(one, size, border, seed):
+    (a,) = one
+    kernel = numpy.random.default_rng(seed).integers(-9, 10, size)
+    turned = kernel[::-1, ::-1]
+    origin = [-1 if n % 2 == 0 else 0 for n in size]  # the library's middle of an even side is the lower one
+    exact = by_channel(lambda c: scipy.ndimage.correlate(c, turned.astype(float), mode=MODES[border], cval=7,
+                                                         origin=origin), a)
+    filtered = qvpi.filter2d(a, kernel, divisor=8, border=border, value=7)
+    numpy.testing.assert_array_equal(filtered, saturated(exact / 8, "u1"))
+    numpy.testing.assert_array_equal(filtered, qvpi.filter2d(a, turned, divisor=8, border=border, value=7, correlate=True))
+
+
+FILTERS = {
+    "Box": (5,), "Minimum": ((3, 5),), "Maximum": ((4, 3),), "SumRow": (7,), "SumColumn": (7,), "Binomial": (5,),
+    "Sharpen": (), "Laplace": (5,), "HighPass": (3,), "Sobel": ("x", 5), "Scharr": ("y",), "Prewitt": ("x",),
+    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
+    "Separable": ([1, 2, 1], [1, 0, 3]), "Erode": (numpy.eye(5),), "Dilate": ([[0, 1, 0], [1, 1, 1]],),
+}
+
+
+@pytest.mark.parametrize("name", FILTERS)
+@given(st.sampled_from(list(MODES)), st.tuples(*[st.integers(0, 59)] * 4), st.sampled_from(["u1", "i2", "f4"]))
+def test_tiles_and_threads_are_the_whole(name, border, corners, dtype):
+    if name == "SobelMagnitude" and border == "mirror":
+        return
+    a = random((61, 60), dtype, 5)
+    made = getattr(qvpi, name)(a.shape, a.dtype, *FILTERS[name])
+    whole = made(a, border=border, value=3)
+    numpy.testing.assert_array_equal(made(a, border=border, value=3, threads=3), whole)
+    (top, bottom), (left, right) = sorted(corners[:2]), sorted(corners[2:])
+    tile = top, left, bottom - top + 1, right - left + 1
+    numpy.testing.assert_array_equal(made(a, tile=tile, border=border, value=3), whole[top:bottom + 1, left:right + 1])
+    if whole.dtype == a.dtype:
+        in_place = a.copy()
+        assert made(in_place, in_place, border=border, value=3) is in_place
+        numpy.testing.assert_array_equal(in_place, whole)
+
+
+def test_gradient():
+    a = (3 * numpy.arange(40) + 4 * numpy.arange(30)[:, None]).astype("f4")
+    x, y, magnitude, angle = (part[1:-1, 1:-1] for part in qvpi.gradient(a, threads=2))
+    assert (x == 24).all() and (y == 32).all() and (magnitude == 40).all()
+    numpy.testing.assert_allclose(angle, numpy.arctan2(32, 24), atol=5e-6)
+
+
+@given(st.sampled_from(["nearest", "linear", "cubic", "lanczos", "super"]), st.booleans(),
+       st.tuples(st.integers(1, 50), st.integers(1, 60)), st.tuples(*[st.integers(0, 49)] * 4),
+       st.sampled_from(["u1", "u2", "i2", "f4"]), layouts, st.sampled_from([(), (3,), (4,)]))
+def test_resize(method, antialias, shape, corners, dtype, layout, rest):
+    a = laid_out(random((50, 60, *rest), dtype, 5), layout)
+    made = qvpi.Resizer(a.shape, shape, a.dtype, method, antialias)
+    whole = made(a)
+    assert whole.shape == (*shape, *rest)
+    numpy.testing.assert_array_equal(made(a, threads=3), whole)
+    numpy.testing.assert_array_equal(qvpi.resize(a, shape, method=method, antialias=antialias), whole)
+    (top, bottom), (left, right) = ([min(n, shape[i] - 1) for n in sorted(corners[2 * i:2 * i + 2])] for i in (0, 1))
+    part = made(a, tile=(top, left, bottom - top + 1, right - left + 1))
+    numpy.testing.assert_array_equal(part, whole[top:bottom + 1, left:right + 1])
+    if method == "nearest":
+        rows, columns = (numpy.ceil((numpy.arange(n) + 0.5) * m / n - 1).astype(int) for n, m in zip(shape, (50, 60)))
+        numpy.testing.assert_array_equal(whole, a[rows][:, columns])
+
+
+@given(st.sampled_from(["nearest", "linear", "cubic"]), st.sampled_from(["constant", "replicate", "transparent"]),
+       st.sampled_from(["u1", "u2", "i2", "f4", "f8"]), st.booleans(), st.floats(-180, 180))
+def test_warps(method, border, dtype, perspective, angle):
+    a = random((50, 60, 3), dtype if dtype != "f8" else "f4", 5).astype(dtype)
+    matrix = qvpi.rotation(angle, (29.5, 24.5))
+    if perspective:
+        matrix = numpy.vstack([matrix, [1e-4, 0, 1]])
+    made = qvpi.Warp(a.shape, a.dtype, matrix, (45, 70), method, border=border, value=9)
+    whole = made(a)
+    numpy.testing.assert_array_equal(made(a, threads=3), whole)
+    numpy.testing.assert_array_equal(made(a, tile=(7, 9, 20, 30)), whole[7:27, 9:39])
+    function = qvpi.warp_perspective if perspective else qvpi.warp_affine
+    numpy.testing.assert_array_equal(function(a, matrix, (45, 70), method=method, border=border, value=9), whole)
+
+
+def test_warp_formulas():
+    a = random((20, 30), "f4", 1)
+    turned = qvpi.warp_affine(a, qvpi.rotation(180, (14.5, 9.5)), method="nearest")
+    numpy.testing.assert_array_equal(turned[1:-1, 1:-1], a[::-1, ::-1][1:-1, 1:-1])
+    moved = qvpi.warp_affine(a, [[1, 0, 2.5], [0, 1, 0]], border="replicate")
+    numpy.testing.assert_allclose(moved[:, 3:], (a[:, :-3] + a[:, 1:-2]) / 2, rtol=1e-6)
+    corners, others = [(0, 0), (29, 0), (29, 19), (0, 19)], [(3, 2), (25, 1), (28, 18), (1, 15)]
+    for matrix, points in ((qvpi.perspective_transform(corners, others), 4), (qvpi.affine_transform(corners[:3], others[:3]), 3)):
+        ends = matrix @ numpy.array([(x, y, 1) for x, y in corners[:points]]).T
+        numpy.testing.assert_allclose((ends[:2] / (ends[2] if points == 4 else 1)).T, others[:points], atol=1e-9)
+    y, x = numpy.mgrid[:20, :30].astype("f4")
+    numpy.testing.assert_array_equal(qvpi.remap(a, x[:, ::-1].copy(), y, threads=2), a[:, ::-1])
+    assert (qvpi.remap(a, x + 100, y) == 0).all()
+
+
+@given(st.tuples(st.integers(1, 40), st.integers(1, 40)), st.sampled_from(["backward", "forward", "ortho"]),
+       st.integers(0, 1 << 20))
+def test_fourier(shape, norm, seed):
+    a = numpy.random.default_rng(seed).standard_normal(shape).astype("f4")
+    expected = numpy.fft.fft2(a, norm=norm)
+    tolerance = {"rtol": 0, "atol": 1e-5 * abs(expected).max()}
+    numpy.testing.assert_allclose(qvpi.fft2(a, norm), expected, **tolerance)
+    numpy.testing.assert_allclose(qvpi.dft2(a.astype("c8"), norm), expected, **tolerance)
+    numpy.testing.assert_allclose(qvpi.ifft2(qvpi.fft2(a, norm), norm), a, atol=1e-4)
+    packed = qvpi.packed_dft2(a, norm=norm)
+    numpy.testing.assert_allclose(qvpi.magnitude(packed), abs(expected), **tolerance)
+    numpy.testing.assert_array_equal(qvpi.pack(qvpi.unpack(packed)), packed)
+    numpy.testing.assert_allclose(qvpi.packed_idft2(packed, norm=norm), a, atol=1e-4)
+
+
+def test_convolution_by_packed_spectra():
+    a, kernel = random((16, 24), "f4", 1), numpy.zeros((16, 24), "f4")
+    kernel[0, :3] = 1, 2, 3
+    product = qvpi.multiply_packed(qvpi.packed_dft2(a), qvpi.packed_dft2(kernel))
+    expected = a + 2 * numpy.roll(a, 1, 1) + 3 * numpy.roll(a, 2, 1)
+    numpy.testing.assert_allclose(qvpi.packed_idft2(product), expected, atol=0.05)
+
+
+def test_hog():
+    a = random((160, 100, 3), "u1", 1)
+    made = qvpi.Hog()
+    both = made(a, [(0, 0), (17, 30)])
+    assert both.shape == (2, 3780)
+    numpy.testing.assert_array_equal(both[1], qvpi.hog(a, [(17, 30)])[0])
+    numpy.testing.assert_allclose((both[0].reshape(-1, 36) ** 2).sum(1), 1, atol=1e-3)
+
+
+def test_threads_share_a_record():
+    """Each call has a buffer of its own."""
+    a = [random((200, 150), "u1", seed) for seed in range(8)]
+    for made in (qvpi.Gauss(a[0].shape, a[0].dtype, 2.0), qvpi.Resizer(a[0].shape, (77, 99), a[0].dtype, "lanczos", True),
+                 qvpi.Histogram(a[0].shape, a[0].dtype), qvpi.Erode(a[0].shape, a[0].dtype, numpy.eye(5))):
+        expected, failures = [made(image) for image in a], []
+
+        def work(i):
+            for _ in range(30):
+                if not numpy.array_equal(made(a[i]), expected[i]):
+                    failures.append(i)
+
+        workers = [threading.Thread(target=work, args=(i,)) for i in range(8)]
+        [worker.start() for worker in workers]
+        [worker.join() for worker in workers]
+        assert not failures
