@@ -134,7 +134,3 @@ get_property(unions GLOBAL PROPERTY QVPI_UNION_BUILDS)
 foreach(code IN LISTS unions)
   qvpi_install_shared_union(${code} ${CMAKE_INSTALL_LIBDIR})
 endforeach()
-
-if(PROJECT_IS_TOP_LEVEL)
-  include(cmake/package.cmake)
-endif()

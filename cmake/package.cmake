@@ -4,9 +4,15 @@ qvpi_install_headers(libqvpi-dev EXCLUDE_FROM_ALL)
 qvpi_install_libraries(64 lib/${QVPI_COMPILER_TARGET} libqvpi10 libqvpi-dev EXCLUDE_FROM_ALL)
 qvpi_install_libraries(32 lib/i386-linux-gnu libqvpig9-10 libqvpi-dev EXCLUDE_FROM_ALL)
 
+# The Python package lies where Debian's Python looks, for its version and machine.
+if(TARGET python)
+  install(DIRECTORY ${QVPI_PYTHON_LIB}/qvpi DESTINATION lib/python3/dist-packages COMPONENT python3-qvpi EXCLUDE_FROM_ALL
+    PATTERN __pycache__ EXCLUDE)
+endif()
+
 # Without a CPU build for it, a package has no files and is not made.
 get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
-list(FILTER CPACK_COMPONENTS_ALL INCLUDE REGEX ^libqvp)
+list(FILTER CPACK_COMPONENTS_ALL INCLUDE REGEX "^(libqvp|python3-qvpi)")
 
 # Every package, named like its component, says what changed and who may do what.
 set(changelog ${PROJECT_BINARY_DIR}/install/changelog.gz)
@@ -57,6 +63,17 @@ install its package too.")
 else()
   set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION "Headers, static archives, and files for CMake and pkg-config.")
 endif()
+
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_NAME python3-qvpi)
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_ARCHITECTURE ${QVPI_DEBIAN_ARCHITECTURE})
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_DEPENDS
+  "libqvpi10 (>= ${PROJECT_VERSION}), ${QVPI_PYTHON_DEPENDS}, python3-numpy, python3-cffi-backend, ${c_library}")
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SUGGESTS "python3-dask, python3-distributed, python3-zarr")
+set(CPACK_DEBIAN_PYTHON3-QVPI_DESCRIPTION
+"The functions over numpy arrays, for Python 3.
+Every exported function too, as the module qvpi.raw.")
+set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SHLIBDEPS OFF)
 
 set(CPACK_PACKAGE_NAME qvpi)
 set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")

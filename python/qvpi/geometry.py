@@ -269,7 +269,8 @@ def perspective_transform(src, dst):
 def rotation(angle, center):
     """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y)."""
     matrix, shifts = numpy.zeros((2, 3)), numpy.zeros((2, 1))
-    _ROTATE_SHIFT(center[0], center[1], angle, shifts[0], shifts[1])
+    x, y = center
+    _ROTATE_SHIFT(x, y, angle, shifts[0], shifts[1])
     _ROTATE(angle, shifts[0, 0], shifts[1, 0], matrix)
     return matrix
 
