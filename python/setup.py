@@ -1,4 +1,4 @@
-"""Builds the two compiled modules: `_raw`, every function by cffi, and `_call`, which calls them with numpy arrays.
+"""Builds the stubs and the two compiled modules: `_raw`, every function by cffi, and `_call`, which calls them with numpy arrays.
 
 QVPI_LIBRARY names the folder of libqvpi.so and libqvpcore.so to link; without it the system's are taken if there are
 any, else the library is built with cmake and put beside the modules, as in wheels.
@@ -25,7 +25,7 @@ def is_installed():
 
 
 class Build(build_ext):
-    """Derives the sources from the headers, and finds or builds the library."""
+    """Derives sources from the headers and stubs from the sources, and finds or builds the library."""
 
     def run(self):
         self.derived = Path(self.build_temp).resolve() / "derived"
@@ -34,6 +34,8 @@ class Build(build_ext):
         self.write_raw()
         self.link(os.environ.get("QVPI_LIBRARY"))
         super().run()
+        package = Path(self.get_ext_fullpath("qvpi._call")).parent
+        subprocess.run([sys.executable, root / "tools" / "derive_stubs.py", here / "qvpi", package], check=True)
 
     def write_raw(self):
         ffi = cffi.FFI()

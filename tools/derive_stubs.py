@@ -1,0 +1,153 @@
+#!/usr/bin/env python3
+"""Derive the type stubs of the Python package from its sources, at build time.
+
+Signatures and doc strings come from the functions and classes that a module exports. A parameter has the same type
+wherever its name occurs, and results are told here where they are no image.
+"""
+import argparse
+import ast
+from pathlib import Path
+
+HEAD = '''from typing import Any, Literal, Sequence, TypeVar
+import numpy
+from numpy.typing import ArrayLike, DTypeLike, NDArray
+
+Image = NDArray[Any]
+Constant = float | Sequence[float]
+Border = Literal["replicate", "mirror", "constant"]
+'''
+BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "premultiplied", "conjugate", "correlate",
+            "columns_first")
+IMAGES = ("a", "x", "y", "planes", "packed", "spectrum", "entries")
+INTEGERS = ("top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride", "count")
+FLOATS = ("factor", "offset", "angle", "tolerance", "alpha_a", "c", "clip")
+WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction")
+TYPES = {
+    **dict.fromkeys(BOOLEANS, "bool"), **dict.fromkeys(IMAGES, "Image"), **dict.fromkeys(INTEGERS, "int"),
+    **dict.fromkeys(FLOATS, "float"), **dict.fromkeys(WORDS, "str"),
+    "b": "Image | Constant", "out": "Image | None", "threads": "int | None", "scale": "int",
+    "rounding": "str | None", "value": "Any", "replace": "Constant | None", "low": "Any", "high": "Any",
+    "mask": "ArrayLike | None", "table": "ArrayLike", "levels": "ArrayLike", "values": "ArrayLike", "order": "Sequence[int]",
+    "size": "Any", "anchor": "Any", "border": "str", "tile": "Sequence[int] | None", "shape": "Sequence[int] | None",
+    "dtype": "DTypeLike", "sigma": "Any", "kernel": "Any", "divisor": "int | None", "row": "ArrayLike",
+    "column": "ArrayLike", "src_shape": "Sequence[int]", "dst_shape": "Sequence[int] | None", "matrix": "ArrayLike",
+    "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike", "center": "Sequence[float]",
+    "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
+    "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
+}
+RESULTS = {
+    **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",
+    "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
+    "moments": "Moments", "gradient": "tuple[Image, Image, Image, Image]", "Gradient": "tuple[Image, Image, Image, Image]",
+    **dict.fromkeys(("spatial", "central", "normalized"), "float"), "__init__": "None", "set_threads": "None",
+    "get_threads": "int", "info": "dict[str, Any]",
+}
+
+
+def parameter(argument, default, owner):
+    kind = TYPES.get(argument.arg, "Any")
+    if argument.arg in ("b", "c") and owner in ("Resizer", "Warp"):
+        kind = "float"
+    if argument.arg == "self":
+        return "self"
+    shown = "" if default is None else f" = {ast.unparse(default)}" if isinstance(default, (ast.Constant, ast.UnaryOp)) \
+        else " = ..."
+    if default is not None and shown == " = None" and "None" not in kind and kind != "Any":
+        kind += " | None"
+    return f"{argument.arg}: {kind}{shown}"
+
+
+def parameters(function, owner):
+    arguments = function.args
+    defaults = [None] * (len(arguments.args) - len(arguments.defaults)) + arguments.defaults
+    shown = [parameter(*pair, owner) for pair in zip(arguments.args, defaults)]
+    if arguments.kwonlyargs:
+        shown += ["*", *(parameter(*pair, owner) for pair in zip(arguments.kwonlyargs, arguments.kw_defaults))]
+    if arguments.kwarg:
+        shown.append(f"**{arguments.kwarg.arg}: Any")
+    return ", ".join(shown)
+
+
+def documented(node, indent):
+    text = ast.get_docstring(node)
+    return f'{indent}"""{text.replace(chr(10), chr(10) + indent).replace(chr(10) + indent + chr(10), chr(10) * 2)}"""\n' \
+        if text else ""
+
+
+def function(node, indent="", owner=""):
+    result = RESULTS.get(owner if node.name == "__call__" else node.name, "Image")
+    body = documented(node, indent + "    ") or f"{indent}    ...\n"
+    return f"{indent}def {node.name}({parameters(node, owner)}) -> {result}:\n{body}"
+
+
+def class_(node, classes):
+    """Methods of base classes of the package are the class's own: bases are no part of the interface."""
+    found = methods(node, classes)
+    text = f"class {node.name}:\n{documented(node, '    ')}"
+    return text + ("".join(function(method, "    ", node.name) for method in found.values()) or "    ...\n")
+
+
+def methods(node, classes):
+    found = {}
+    for base in node.bases:
+        if isinstance(base, ast.Name) and base.id in classes:
+            found.update(methods(classes[base.id], classes))
+    found.update({item.name: item for item in node.body if isinstance(item, ast.FunctionDef)
+                  and (item.name in ("__init__", "__call__") or not item.name.startswith("_"))
+                  and item.name not in ("prepare", "find", "new")})
+    return found
+
+
+def module(file):
+    tree = ast.parse(file.read_text())
+    exported = next((ast.literal_eval(item.value) for item in tree.body if isinstance(item, ast.Assign)
+                     and isinstance(item.targets[0], ast.Name) and item.targets[0].id == "__all__"
+                     and isinstance(item.value, ast.List)), [])
+    classes = {item.name: item for item in tree.body if isinstance(item, ast.ClassDef)}
+    text = ""
+    for item in tree.body:
+        if getattr(item, "name", None) in exported:
+            text += "\n" + (class_(item, classes) if isinstance(item, ast.ClassDef) else function(item))
+    return exported, text
+
+
+ERRORS = '''
+class Error(ValueError):
+    """A call was refused, and nothing was written."""
+    status: int
+    name: str
+    sentence: str
+    function: str
+    def __init__(self, status: int, function: str = "") -> None: ...
+
+class Warning(UserWarning):
+    """A call did its work, and has something to say about it."""
+    status: int
+    name: str
+    sentence: str
+    function: str
+    def __init__(self, status: int, function: str = "") -> None: ...
+
+def set_threads(n: int | None) -> None: ...
+def get_threads() -> int: ...
+def info() -> dict[str, Any]: ...
+__version__: str
+'''
+
+
+def main():
+    options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    options.add_argument("package", type=Path, help="folder of the package's sources")
+    options.add_argument("out", type=Path, help="folder to write __init__.pyi to")
+    options = options.parse_args()
+    text = ""
+    for file in sorted(options.package.glob("[!_]*.py")):
+        if file.stem not in ("raw", "dask"):
+            text += module(file)[1]
+    (options.out / "__init__.pyi").write_text(f"{HEAD}{ERRORS}{text}")
+    (options.out / "raw.pyi").write_text("from typing import Any\nffi: Any\nlib: Any\ndef __getattr__(name: str) -> Any: ...\n")
+    (options.out / "py.typed").write_text("")
+
+
+if __name__ == "__main__":
+    main()
