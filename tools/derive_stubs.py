@@ -18,7 +18,7 @@ Border = Literal["replicate", "mirror", "constant"]
 '''
 BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "premultiplied", "conjugate", "correlate",
             "columns_first")
-IMAGES = ("a", "x", "y", "planes", "packed", "spectrum", "entries")
+IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries")
 INTEGERS = ("top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride", "count")
 FLOATS = ("factor", "offset", "angle", "tolerance", "alpha_a", "c", "clip")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction")
@@ -31,7 +31,7 @@ TYPES = {
     "size": "Any", "anchor": "Any", "border": "str", "tile": "Sequence[int] | None", "shape": "Sequence[int] | None",
     "dtype": "DTypeLike", "sigma": "Any", "kernel": "Any", "divisor": "int | None", "row": "ArrayLike",
     "column": "ArrayLike", "src_shape": "Sequence[int]", "dst_shape": "Sequence[int] | None", "matrix": "ArrayLike",
-    "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike", "center": "Sequence[float]",
+    "origin": "Sequence[int]", "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike", "center": "Sequence[float]",
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
 }
@@ -39,7 +39,7 @@ RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",
     "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
     "moments": "Moments", "gradient": "tuple[Image, Image, Image, Image]", "Gradient": "tuple[Image, Image, Image, Image]",
-    **dict.fromkeys(("spatial", "central", "normalized"), "float"), "__init__": "None", "set_threads": "None",
+    **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]", "__init__": "None", "set_threads": "None",
     "get_threads": "int", "info": "dict[str, Any]",
 }
 

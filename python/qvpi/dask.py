@@ -1,65 +1,150 @@
-"""Images larger than memory: filters, resizing, warps and statistics over dask arrays, chunk by chunk.
+"""Images larger than memory: filters, resizing and statistics over dask arrays, chunk by chunk.
 
-Arrays have the shape (H, W) or (H, W, C), with all channels in each chunk. Results are the same to the bit as those of
-the whole image, but for sums of floats, which are added in another order. Everything is lazy, like dask itself.
+Arrays have the shape (H, W) or (H, W, C). Results are the same to the bit as those of the whole image, but for sums of
+floats, which are added in another order. Everything is lazy, as in dask itself.
 """
+from functools import partial
+
+import dask
 import dask.array
 import numpy
-from dask import delayed
+from dask.array import overlap
 
 from . import filters, geometry, statistics
-from ._operation import checked_shape
-from .statistics import _levels
 
-__all__ = ["apply", "filter", "histogram", "mean", "min_max", "resize", "sum", "warp"]
+__all__ = ["apply", "filter", "histogram", "mean", "min_max", "norm", "resize", "sum"]
 
 
-def _channels_in_one_chunk(a):
+def _image(a):
+    """The array with all channels in each chunk."""
     if not isinstance(a, dask.array.Array) or a.ndim not in (2, 3):
         raise TypeError("expected a dask array of shape (H, W) or (H, W, C)")
     return a.rechunk({2: -1}) if a.ndim == 3 else a
 
 
+def _blocks(function, *arrays, dtype, chunks=None):
+    meta = numpy.empty((0,) * arrays[0].ndim, dtype)
+    return dask.array.map_blocks(function, *arrays, dtype=dtype, meta=meta, chunks=chunks)
+
+
 def apply(function, *arrays, dtype=None, **options):
-    """A function of single pixels, as qvpi.add, over the chunks of arrays of one shape: apply(qvpi.add, a, b, scale=1)."""
-    arrays = [_channels_in_one_chunk(a) for a in arrays]
-    dtype = arrays[0].dtype if dtype is None else dtype
-    return dask.array.map_blocks(lambda *chunks: function(*map(numpy.ascontiguousarray, chunks), **options), *arrays,
-                                 dtype=dtype, meta=numpy.empty((0,) * arrays[0].ndim, dtype))
+    """A function of single pixels over arrays of one shape: apply(qvpi.add, a, b, scale=1)."""
+    arrays = [_image(a) for a in arrays]
+
+    def work(*chunks):
+        return function(*(numpy.ascontiguousarray(chunk) for chunk in chunks), **options)
+
+    return _blocks(work, *arrays, dtype=arrays[0].dtype if dtype is None else dtype)
 
 
 # ---- filters
 
-_EDGES = {"replicate": "nearest", "mirror": None, "constant": None}
+def filter(kind, a, *parameters, border="replicate", value=0):
+    """A filter of qvpi over an image: filter(qvpi.Gauss, a, 2.0, border='mirror').
 
-
-def filter(kind, a, *parameters, border="replicate", value=0, **named):
-    """A filter of qvpi.filters over an image: filter(qvpi.Gauss, a, 2.0, border='mirror').
-
-    A chunk is filtered with as much of its neighbours as the mask reaches. At the edges of the image, where there are
-    no neighbours, the filter's own border applies.
+    A chunk comes with as much of its neighbours as the mask reaches, and gives the result of its own part. At the edges
+    of the image, where there are no neighbours, the border applies.
     """
-    a = _channels_in_one_chunk(a)
-    shape = tuple(max(sizes) for sizes in a.chunks[:2]) + a.shape[2:]
-    probe = kind(shape, a.dtype, *parameters, **named)
-    result = probe(numpy.zeros((1, 1, *a.shape[2:]), a.dtype))
-    depth = {0: 2 * probe.mask[0], 1: 2 * probe.mask[1]}
-
-    def work(chunk, block_info=None):
-        place, whole = block_info[0]["array-location"], block_info[0]["num-chunks"]
-        return _filtered(kind, parameters, named, chunk, depth, border, value, place, whole, block_info)
-
-    return a.map_overlap(work, depth=depth, boundary="none", trim=False, dtype=result.dtype, chunks=a.chunks,
-                         meta=numpy.empty((0,) * a.ndim, result.dtype))
+    a = _image(a)
+    made = kind((1, 1, *a.shape[2:]), a.dtype, *parameters)
+    result = made(numpy.zeros((1, 1, *a.shape[2:]), a.dtype))
+    depth = {axis: 2 * made.mask[axis] for axis in (0, 1)}
+    sizes = {axis: overlap.ensure_minimum_chunksize(min(depth[axis], a.shape[axis]), a.chunks[axis]) for axis in (0, 1)}
+    a = a.rechunk(sizes)
+    work = partial(_filter_chunk, kind, parameters, border, value, depth)
+    with_neighbours = overlap.overlap(a, depth={**depth, **{2: 0 for _ in a.shape[2:]}}, boundary="none")
+    return _blocks(work, with_neighbours, dtype=result.dtype, chunks=a.chunks)
 
 
-def _filtered(kind, parameters, named, chunk, depth, border, value, place, whole, block_info):
-    """The part of a chunk that is its own: what it was enlarged by is left out again."""
-    chunk = numpy.ascontiguousarray(chunk)
-    number = block_info[0]["chunk-location"]
-    first = [depth[axis] if number[axis] > 0 else 0 for axis in (0, 1)]
-    last = [depth[axis] if number[axis] < whole[axis] - 1 else 0 for axis in (0, 1)]
-    size = [chunk.shape[axis] - first[axis] - last[axis] for axis in (0, 1)]
-    made = filters._made(kind, chunk.shape, chunk.dtype, *parameters) if not named else kind(
-        chunk.shape, chunk.dtype, *parameters, **named)
-    return made(chunk, tile=(*first, *size), border=border, value=value)
+def _filter_chunk(kind, parameters, border, value, depth, chunk, block_info=None):
+    place, count = block_info[0]["chunk-location"], block_info[0]["num-chunks"]
+    before = [depth[axis] if place[axis] > 0 else 0 for axis in (0, 1)]
+    after = [depth[axis] if place[axis] < count[axis] - 1 else 0 for axis in (0, 1)]
+    size = [chunk.shape[axis] - before[axis] - after[axis] for axis in (0, 1)]
+    made = filters._made(kind, chunk.shape, chunk.dtype, *parameters)
+    return made(numpy.ascontiguousarray(chunk), tile=(*before, *size), border=border, value=value)
+
+
+# ---- resizing
+
+def resize(a, shape, *, chunks=1024, **options):
+    """The image in another shape, (H, W), in chunks of this size; see qvpi.Resizer for the options.
+
+    Each chunk of the result is made from the part of the source that it needs.
+    """
+    a = _image(a)
+    made = geometry._resizer(a.shape, tuple(shape), a.dtype, *_resizer_arguments(options))
+    edges = dask.array.core.normalize_chunks(chunks, tuple(shape), dtype=a.dtype)
+    rows, top = [], 0
+    for height in edges[0]:
+        row, left = [], 0
+        for width in edges[1]:
+            row.append(_resized_tile(a, made, (top, left, height, width), options))
+            left += width
+        rows.append(dask.array.concatenate(row, axis=1))
+        top += height
+    return dask.array.concatenate(rows, axis=0)
+
+
+def _resizer_arguments(options):
+    rest = {name: value for name, value in options.items() if name not in ("method", "antialias")}
+    return options.get("method", "linear"), options.get("antialias", False), tuple(rest.items())
+
+
+def _resized_tile(a, made, tile, options):
+    row, column, height, width = made.source(tile)
+    part = a[row:row + height, column:column + width]
+    task = dask.delayed(_resize_part)(part, (row, column), tile, a.shape, made.dst_shape[:2], options)
+    return dask.array.from_delayed(task, (*tile[2:], *a.shape[2:]), a.dtype)
+
+
+def _resize_part(part, origin, tile, src_shape, dst_shape, options):
+    made = geometry._resizer(src_shape, dst_shape, part.dtype, *_resizer_arguments(options))
+    return made.tile(numpy.ascontiguousarray(part), origin, tile)
+
+
+# ---- statistics
+
+def _tree(parts, combine):
+    """One result from those of the chunks, in pairs: what is added is always added in the same order."""
+    while len(parts) > 1:
+        parts = [combine(*parts[i:i + 2]) if i + 1 < len(parts) else parts[i] for i in range(0, len(parts), 2)]
+    return parts[0]
+
+
+def _each(function, *arrays):
+    arrays = [_image(a) for a in arrays]
+    chunks = zip(*(a.to_delayed().ravel() for a in arrays))
+    task = dask.delayed(lambda *blocks: function(*(numpy.ascontiguousarray(block) for block in blocks)))
+    return [task(*blocks) for blocks in chunks]
+
+
+def sum(a, *, accurate=False):
+    """The sum of each channel, delayed: exact for integers while it is below 2**53."""
+    return _tree(_each(partial(statistics.sum, accurate=accurate), a), dask.delayed(lambda x, y: x + y))
+
+
+def mean(a, *, accurate=False):
+    """The mean of each channel, delayed."""
+    return dask.delayed(lambda total: total / (a.shape[0] * a.shape[1]))(sum(a, accurate=accurate))
+
+
+def min_max(a):
+    """(least, greatest) of each channel, delayed."""
+    both = dask.delayed(lambda x, y: (numpy.minimum(x[0], y[0]), numpy.maximum(x[1], y[1])))
+    return _tree(_each(statistics.min_max, a), both)
+
+
+def norm(a, b=None, kind="l2"):
+    """qvpi.norm of an image, or of a - b, delayed."""
+    combine = {"inf": numpy.maximum, "l1": lambda x, y: x + y, "l2": numpy.hypot}[kind]
+    arrays = (a,) if b is None else (a, b)
+    return _tree(_each(partial(statistics.norm, kind=kind), *arrays), dask.delayed(combine))
+
+
+def histogram(a, bins=256, range=None):
+    """The counts of qvpi.histogram as uint64, delayed."""
+    def count(block):
+        return statistics.histogram(block, bins, range).astype(numpy.uint64)
+
+    return _tree(_each(count, a), dask.delayed(lambda x, y: x + y))

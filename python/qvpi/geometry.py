@@ -127,16 +127,41 @@ class Resizer(_Mapped):
         places = {"spec": self._spec, "initBuf": self._init, **parameters}
         init(self.src, self.dst, *(places[role] for role in roles.split()))
 
-    def _run(self, a, out, x, y):
+    def source(self, tile):
+        """(row, column, height, width) of what a tile of the destination is made from."""
+        row, column, height, width = checked_tile(tile, self.dst_shape)
+        offset, size, sides = numpy.zeros(2, numpy.int32), numpy.zeros(2, numpy.int32), numpy.zeros(4, numpy.uint32)
+        _SRC_ROI(self._spec, (column, row, width, height), offset, size)
+        _REACH(self._spec, sides)
+        reach = sides.astype(int)
+        first = numpy.maximum(offset - reach[:2], 0)
+        end = numpy.minimum(offset + size + reach[2:], self.src)
+        return int(first[1]), int(first[0]), int(end[1] - first[1]), int(end[0] - first[0])
+
+    def tile(self, part, origin, tile):
+        """A tile of the destination from the part of the source that source(tile) tells, whose place is `origin`."""
+        row, column, height, width = checked_tile(tile, self.dst_shape)
+        part, needed = image(part), self.source(tile)
+        if (part.shape[0] < needed[0] + needed[2] - origin[0] or part.shape[1] < needed[1] + needed[3] - origin[1]
+                or needed[0] < origin[0] or needed[1] < origin[1]):
+            raise ValueError(f"the tile needs the part {needed} of the source")
+        out = self.new((height, width, *self.src_shape[2:]))
+        self._run(part, out, column, row, origin)
+        return out
+
+    def _run(self, a, out, x, y, origin=(0, 0)):
         if x or y:
             offset = numpy.zeros(2, numpy.int32)
             self._offset(self._spec, (x, y), offset)
-            a = a[offset[1]:, offset[0]:]
+            a = a[offset[1] - origin[0]:, offset[0] - origin[1]:]
         buffer = self._buffers.take()
         self._call(a, out, (x, y), *self._edge, self._spec, buffer)
         self._buffers.give(buffer)
 
 
+# The same for every type of records without `_L`.
+_SRC_ROI = _resize_call("GetSrcRoi", "spec dstRoi srcRoiOffset srcRoiSize", "_8u")
+_REACH = _resize_call("GetBorderSize", "spec borderSize", "_8u")
 _RESIZE_MODE = make_call("qvpiResizeSetMode", "hint spec")
 
 
