@@ -54,7 +54,8 @@ class Build(build_ext):
         """Builds the library for every CPU of this machine in one file, and copies it beside the modules."""
         folder = Path(self.build_temp).resolve() / "library"
         code = "any" if os.uname().machine == "x86_64" else "n8"
-        options = ["-DQVPI_TESTS=OFF", f"-DQVPI_CPUS={'v2;v3;v4;any' if code == 'any' else code}"]
+        options = ["-DQVPI_TESTS=OFF", f"-DQVPI_CPUS={'v2;v3;v4;any' if code == 'any' else code}",
+                   "-DCMAKE_BUILD_RPATH_USE_ORIGIN=ON"]  # the copies find each other
         subprocess.run(["cmake", "-S", root, "-B", folder, "-DCMAKE_CXX_COMPILER=clang++", "-DCMAKE_C_COMPILER=clang",
                         *options], check=True)
         subprocess.run(["cmake", "--build", folder, "-j", str(os.cpu_count()), "--target", code], check=True)
