@@ -98,17 +98,17 @@ def methods(node, classes):
     return found
 
 
-def module(file):
-    tree = ast.parse(file.read_text())
+def classes_of(trees):
+    """Classes by name, of all modules: those of the package inherit from each other."""
+    return {item.name: item for tree in trees for item in tree.body if isinstance(item, ast.ClassDef)}
+
+
+def module(tree, classes):
     exported = next((ast.literal_eval(item.value) for item in tree.body if isinstance(item, ast.Assign)
                      and isinstance(item.targets[0], ast.Name) and item.targets[0].id == "__all__"
                      and isinstance(item.value, ast.List)), [])
-    classes = {item.name: item for item in tree.body if isinstance(item, ast.ClassDef)}
-    text = ""
-    for item in tree.body:
-        if getattr(item, "name", None) in exported:
-            text += "\n" + (class_(item, classes) if isinstance(item, ast.ClassDef) else function(item))
-    return exported, text
+    return "".join("\n" + (class_(item, classes) if isinstance(item, ast.ClassDef) else function(item))
+                   for item in tree.body if getattr(item, "name", None) in exported)
 
 
 ERRORS = '''
@@ -140,10 +140,9 @@ def main():
     options.add_argument("package", type=Path, help="folder of the package's sources")
     options.add_argument("out", type=Path, help="folder to write __init__.pyi to")
     options = options.parse_args()
-    text = ""
-    for file in sorted(options.package.glob("[!_]*.py")):
-        if file.stem not in ("raw", "dask"):
-            text += module(file)[1]
+    trees = {file.stem: ast.parse(file.read_text()) for file in sorted(options.package.glob("*.py"))}
+    classes = classes_of(trees.values())
+    text = "".join(module(tree, classes) for name, tree in trees.items() if name not in ("raw", "dask") and name[0] != "_")
     (options.out / "__init__.pyi").write_text(f"{HEAD}{ERRORS}{text}")
     (options.out / "raw.pyi").write_text("from typing import Any\nffi: Any\nlib: Any\ndef __getattr__(name: str) -> Any: ...\n")
     (options.out / "py.typed").write_text("")

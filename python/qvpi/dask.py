@@ -10,7 +10,7 @@ import dask.array
 import numpy
 from dask.array import overlap
 
-from . import filters, geometry, statistics
+from . import _neighbourhood, resizing, statistics
 
 __all__ = ["apply", "filter", "histogram", "mean", "min_max", "norm", "resize", "sum"]
 
@@ -61,7 +61,7 @@ def _filter_chunk(kind, parameters, border, value, depth, chunk, block_info=None
     before = [depth[axis] if place[axis] > 0 else 0 for axis in (0, 1)]
     after = [depth[axis] if place[axis] < count[axis] - 1 else 0 for axis in (0, 1)]
     size = [chunk.shape[axis] - before[axis] - after[axis] for axis in (0, 1)]
-    made = filters._made(kind, chunk.shape, chunk.dtype, *parameters)
+    made = _neighbourhood.made(kind, chunk.shape, chunk.dtype, *parameters)
     return made(numpy.ascontiguousarray(chunk), tile=(*before, *size), border=border, value=value)
 
 
@@ -73,7 +73,7 @@ def resize(a, shape, *, chunks=1024, **options):
     Each chunk of the result is made from the part of the source that it needs.
     """
     a = _image(a)
-    made = geometry._resizer(a.shape, tuple(shape), a.dtype, *_resizer_arguments(options))
+    made = resizing._resizer(a.shape, tuple(shape), a.dtype, *_resizer_arguments(options))
     edges = dask.array.core.normalize_chunks(chunks, tuple(shape), dtype=a.dtype)
     rows, top = [], 0
     for height in edges[0]:
@@ -99,7 +99,7 @@ def _resized_tile(a, made, tile, options):
 
 
 def _resize_part(part, origin, tile, src_shape, dst_shape, options):
-    made = geometry._resizer(src_shape, dst_shape, part.dtype, *_resizer_arguments(options))
+    made = resizing._resizer(src_shape, dst_shape, part.dtype, *_resizer_arguments(options))
     return made.tile(numpy.ascontiguousarray(part), origin, tile)
 
 

@@ -7,7 +7,7 @@ from ._operation import Operation, channels, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
-from .filters import BORDERS
+from ._neighbourhood import BORDERS
 
 __all__ = ["Hog", "hog"]
 

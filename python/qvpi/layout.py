@@ -4,7 +4,7 @@ uint8, uint16, int16, int32, float32, of 1, 3 or 4 channels unless a function sa
 """
 import numpy
 
-from ._call import empty, key
+from ._call import key
 from ._operation import Operation, channels, image
 from ._plan import FUNCTIONS, NAMES, make_call
 from ._records import addresses, cached

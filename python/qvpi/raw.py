@@ -7,7 +7,7 @@
 Functions check nothing but the C types of their arguments; pointers are the caller's to keep alive. Other threads of
 Python run during a call.
 """
-from ._raw import ffi, lib
+from ._raw import ffi, lib  # noqa: F401
 
 
 def __getattr__(name):

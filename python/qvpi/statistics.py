@@ -6,7 +6,6 @@ number for each channel. uint8, uint16, int16, float32. `copy=True` copies what 
 import numpy
 
 from . import _threads
-from ._call import key
 from ._operation import Operation, channels, checked_shape, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, addresses, cached, memory, size_of

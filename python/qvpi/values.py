@@ -5,7 +5,6 @@ Shapes, `out`, `threads` and `copy` are as in qvpi.arithmetic.
 import numpy
 
 from ._call import key
-from ._errors import Error
 from ._operation import Operation, channels, forgiving, image
 from ._plan import NUMBERS, make_call
 from ._records import addresses

@@ -1,0 +1,188 @@
+"""Images of another shape: warps by a matrix, remapping by two maps.
+
+Images have the shape (H, W), or (H, W, C) with 3 or 4 channels. Positions are (x, y), x to the right and y down, and
+pixels lie at whole coordinates; sizes are shapes, (H, W). The result is the same to the bit by tiles, on any number of
+threads, and as a whole.
+"""
+import numpy
+
+from . import _threads
+from ._call import key
+from ._mapped import INTERPOLATIONS, Mapped
+from ._operation import Operation, forgiving, image
+from ._plan import make_call
+from ._records import Buffers, cached, memory, size_of
+from .arithmetic import choice
+from .raw import lib
+
+__all__ = ["Remap", "Warp", "affine_transform", "perspective_transform", "remap", "rotation", "warp_affine",
+           "warp_perspective", "warp_quad"]
+
+_OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst, "transparent": lib.qvpBorderTransparent}
+_WARP_METHODS = ("nearest", "linear", "cubic")
+_WARPS = {(kind, method): Operation(f"Warp{kind}{method.title()}", "src dst dstRoiOffset spec buffer", free=("src",))
+          for kind in ("Affine", "Perspective") for method in _WARP_METHODS}
+_TRANSFORM = "dataType coeffs direction numChannels borderType borderValue smoothEdge spec"
+_WARP_SIZE = {kind: make_call(f"qvpiWarp{kind}GetSize",
+                              "srcSize dstSize dataType coeffs interpolation direction borderType specSize initBufSize")
+              for kind in ("Affine", "Perspective")}
+_CUBIC = " valueB valueC initBuf"
+_WARP_INIT = {(kind, method): make_call(f"qvpiWarp{kind}{method.title()}Init",
+                                        f"srcSize dstSize {_TRANSFORM}{_CUBIC if method == 'cubic' else ''}")
+              for kind, method in _WARPS}
+_WARP_BUFFER = make_call("qvpiWarpGetBufferSize", "spec dstSize bufSize")
+
+
+class Warp(Mapped):
+    """Warps by a matrix of shape (2, 3), affine, or (3, 3), perspective: w = Warp(a.shape, a.dtype, matrix); w(a).
+
+    The matrix maps source points (x, y, 1) to destination points; inverse=True the other way. method: 'nearest',
+    'linear', 'cubic' (with `b` and `c`). border: 'constant' (`value`), 'replicate', or 'transparent', which leaves
+    pixels of `out` alone that fall outside. smooth: edges blend into what was there. All five dtypes.
+    """
+
+    def __init__(self, shape, dtype, matrix, dst_shape=None, method="linear", *, inverse=False, border="constant",
+                 value=0.0, smooth=False, b=0.0, c=0.5):
+        self.prepare(shape, shape if dst_shape is None else dst_shape, dtype)
+        matrix = numpy.ascontiguousarray(matrix, numpy.float64)
+        if matrix.shape not in ((2, 3), (3, 3)) or not numpy.isfinite(matrix).all():
+            raise ValueError("the matrix must have finite numbers, of shape (2, 3) or (3, 3)")
+        kind = "Affine" if len(matrix) == 2 else "Perspective"
+        if method not in _WARP_METHODS:
+            raise ValueError(f"method must be one of {', '.join(map(repr, _WARP_METHODS))}, not {method!r}")
+        outside, direction = choice(_OUTSIDE, border, "border"), int(bool(inverse))
+        self._call = self.find(_WARPS[kind, method])
+        self._keeps = border == "transparent" or smooth
+        sizes = size_of(_WARP_SIZE[kind], self.src, self.dst, self.kind, matrix, INTERPOLATIONS[method], direction,
+                        outside, count=2)
+        self._spec = memory(sizes[0])
+        values = numpy.ascontiguousarray(numpy.broadcast_to(numpy.asarray(value, numpy.float64), (self.channels,)))
+        cubic = (b, c, memory(sizes[1])) if method == "cubic" else ()
+        _WARP_INIT[kind, method](self.src, self.dst, self.kind, matrix, direction, self.channels, outside, values,
+                                 int(bool(smooth)), self._spec, *cubic)
+        self._buffers = Buffers(size_of(_WARP_BUFFER, self._spec, self.dst))
+
+    def new(self, shape):
+        return numpy.zeros(shape, self.dtype) if self._keeps else numpy.empty(shape, self.dtype)
+
+    def _run(self, a, out, x, y):
+        buffer = self._buffers.take()
+        self._call(a, out, (x, y), self._spec, buffer)
+        self._buffers.give(buffer)
+
+
+@cached
+def _warp(shape, dtype, matrix, rows, dst_shape, method, options):
+    return Warp(shape, dtype, numpy.frombuffer(matrix).reshape(rows, 3), dst_shape, method, **dict(options))
+
+
+def _warped(a, matrix, rows, dst_shape, method, out, threads, copy, options):
+    a = image(a)
+    matrix = numpy.ascontiguousarray(matrix, numpy.float64)
+    if matrix.shape != (rows, 3):
+        raise ValueError(f"the matrix must have the shape ({rows}, 3)")
+    values = {name: tuple(value) if isinstance(value, (list, numpy.ndarray)) else value
+              for name, value in options.items()}
+    made = _warp(a.shape, a.dtype, matrix.tobytes(), rows, dst_shape and tuple(dst_shape), method,
+                 tuple(values.items()))
+    return made(a, out, threads=threads, copy=copy)
+
+
+def warp_affine(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
+    """The image moved by a (2, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
+    return _warped(a, matrix, 2, shape, method, out, threads, copy, options)
+
+
+def warp_perspective(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
+    """The image moved by a (3, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
+    return _warped(a, matrix, 3, shape, method, out, threads, copy, options)
+
+
+def warp_quad(a, src_quad, dst_quad, shape=None, out=None, **options):
+    """Warps so that four source points fall on four destination points; see Warp for the options."""
+    return warp_perspective(a, perspective_transform(src_quad, dst_quad), shape, out, **options)
+
+
+def affine_transform(src, dst):
+    """The (2, 3) matrix that takes three points to three others."""
+    src, dst = numpy.asarray(src, float), numpy.asarray(dst, float)
+    if src.shape != (3, 2) or dst.shape != (3, 2):
+        raise ValueError("three points (x, y) are needed on both sides")
+    points = numpy.hstack([src, numpy.ones((3, 1))])
+    return _solved(points, dst).T
+
+
+def _solved(matrix, right):
+    try:
+        return numpy.linalg.solve(matrix, right)
+    except numpy.linalg.LinAlgError:
+        raise ValueError("the points make no transform: three of them are on a line") from None
+
+
+def perspective_transform(src, dst):
+    """The (3, 3) matrix that takes four points to four others."""
+    src, dst, rows, right = numpy.asarray(src, float), numpy.asarray(dst, float), [], []
+    if src.shape != (4, 2) or dst.shape != (4, 2):
+        raise ValueError("four points (x, y) are needed on both sides")
+    for (x, y), (u, v) in zip(src, dst):
+        rows += [[x, y, 1, 0, 0, 0, -u * x, -u * y], [0, 0, 0, x, y, 1, -v * x, -v * y]]
+        right += [u, v]
+    return numpy.append(_solved(rows, right), 1.0).reshape(3, 3)
+
+
+def rotation(angle, center):
+    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y)."""
+    matrix, shifts = numpy.zeros((2, 3)), numpy.zeros((2, 1))
+    x, y = center
+    _ROTATE_SHIFT(x, y, angle, shifts[0], shifts[1])
+    _ROTATE(angle, shifts[0, 0], shifts[1, 0], matrix)
+    return matrix
+
+
+_ROTATE_SHIFT = make_call("qvpiGetRotateShift", "xCenter yCenter angle shiftX shiftY")
+_ROTATE = make_call("qvpiGetRotateTransform", "angle shiftX shiftY coeffs")
+
+
+# ---- remapping
+
+_REMAP = Operation("Remap", "src xMap yMap dst srcRoi interpolation", free=("src",))
+_REMAP_METHODS = INTERPOLATIONS | {"cubic classic": lib.qvpInterpolationCubicClassic}
+_WHOLE = ("nearest", "linear", "cubic", "cubic classic", "lanczos")
+
+
+class Remap:
+    """Each destination pixel from the source point that two maps tell: m = Remap(x, y); m(a).
+
+    x, y: float32 of the destination's shape (float64 for float64 images). method: 'nearest', 'linear', 'cubic', 'cubic
+    classic', 'lanczos'. Pixels whose points are outside the source keep the value that `out` has; in a new array 0.
+    smooth: points up to a pixel outside blend into it.
+    """
+
+    def __init__(self, x, y, method="linear", smooth=False):
+        if method not in _WHOLE:
+            raise ValueError(f"method must be one of {', '.join(map(repr, _WHOLE))}, not {method!r}")
+        self.x, self.y = image(x, name="x"), image(y, name="y")
+        self._method = _REMAP_METHODS[method] | (lib.qvpSmoothEdge if smooth else 0)
+
+    def __call__(self, a, out=None, *, threads=None, copy=False):
+        a = image(a, copy)
+        found = _REMAP.find(key(a))
+        if found is None:
+            raise TypeError(_REMAP._complaint(a, None))
+        if out is None:
+            out = numpy.zeros((*self.x.shape, *a.shape[2:]), a.dtype)
+        image(out, name="out")
+        if out.shape[:2] != self.x.shape or self.x.shape != self.y.shape:
+            raise ValueError("maps and destination must have one shape")
+        roi = 0, 0, a.shape[1], a.shape[0]
+
+        def strip(first, end):
+            forgiving(found[0], (a, self.x[first:end], self.y[first:end]), (out[first:end],), (roi, self._method))
+
+        _threads.run(strip, _threads.strips(out.shape[0], _threads.count(threads)))
+        return out
+
+
+def remap(a, x, y, out=None, *, method="linear", smooth=False, threads=None, copy=False):
+    """The image at the points of two maps; see Remap."""
+    return Remap(x, y, method, smooth)(a, out, threads=threads, copy=copy)
