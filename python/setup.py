@@ -77,7 +77,7 @@ setup(
     ext_modules=[
         # Thousands of wrappers that only convert arguments: optimising them takes a minute and gains nothing.
         extension("_raw", ["derived/raw.c"], "-O0", "-g0", "-U_FORTIFY_SOURCE"),
-        extension("_call", ["native/call.c", "derived/functions.c"], "-O2", "-g0"),
+        extension("_call", ["native/call.c", "native/images.c", "native/numbers.c", "derived/functions.c"], "-O2", "-g0"),
     ],
     cmdclass={"build_ext": Build},
 )

@@ -8,24 +8,24 @@
 
 // One argument of a function; its type tells which field is meant.
 typedef union {
-    const void* pointer;
-    int64_t integer;
-    double real;
-    QvpiSize asQvpiSize;
-    QvpiSizeL asQvpiSizeL;
-    QvpiPoint asQvpiPoint;
-    QvpiPointL asQvpiPointL;
-    QvpiRect asQvpiRect;
-    QvpiRectL asQvpiRectL;
+  const void* pointer;
+  int64_t integer;
+  double real;
+  QvpiSize asQvpiSize;
+  QvpiSizeL asQvpiSizeL;
+  QvpiPoint asQvpiPoint;
+  QvpiPointL asQvpiPointL;
+  QvpiRect asQvpiRect;
+  QvpiRectL asQvpiRectL;
 } Argument;
 
 typedef void (*Code)(void);
 
 typedef struct {
-    const char* name;
-    const char* parameters;  // "type|name|length" of each, with semicolons between
-    Code code;
-    int (*call)(Code code, const Argument* arguments);
+  const char* name;
+  const char* parameters;  // "type|name|length" of each, with semicolons between
+  Code code;
+  int (*call)(Code code, const Argument* arguments);
 } Function;
 
 extern const Function kFunctions[];  // the last has no name
