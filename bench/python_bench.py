@@ -2,7 +2,7 @@
 """What the Python package takes, beside other packages for numpy arrays: calls of 64x64 pixels, and 1920x1080 uint8.
 
 Each row takes the least time of many repetitions, ours and the others' by turns, on one thread; the last rows on all
-cores. `beyond C` is what a call takes more than the same call without Python.
+cores. `raw` is the same call by qvpi.raw with all arguments at hand.
 """
 import argparse
 import os
@@ -41,7 +41,7 @@ def least(functions, seconds):
 
 
 def overhead(seconds):
-    """Calls with results in place, and the same functions called from C as often, by a strip of one row more or less."""
+    """Calls of small images beside qvpi.raw's and numpy's."""
     a, b, out = (generator.integers(0, 256, (64, 64), numpy.uint8) for _ in range(3))
     half = numpy.empty((48, 48), numpy.uint8)
     resizer = qvpi.Resizer(a.shape, half.shape, a.dtype)
@@ -58,8 +58,9 @@ def overhead(seconds):
                 lambda: raw.lib.qvpiAdd_8u_C1RSfs(pointer[0], 64, pointer[1], 64, pointer[2], 64, size, 0)),
         "add, new result": (lambda: qvpi.add(a, b), None),
         "resize, cached record": (lambda: resizer(a, half),
-                                  lambda: raw.lib.qvpiResizeLinear_8u_C1R(pointer[0], 64, pointer[3], 48, offset, half_size,
-                                                                          1, raw.ffi.NULL, spec, buffer)),
+                                  lambda: raw.lib.qvpiResizeLinear_8u_C1R(
+                                      pointer[0], 64, pointer[3], 48, offset, half_size, 1, raw.ffi.NULL, spec,
+                                      buffer)),
     }
     print(f"{'64x64 uint8':34}{'ours us':>10}{'raw us':>10}{'numpy us':>10}")
     numpy_add = least([lambda: numpy.add(a, b, out), empty], seconds)[0]

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""An image of five gigapixels, made, stored, sharpened, measured and reduced chunk by chunk on a cluster of this machine.
+"""An image of five gigapixels, made, stored, sharpened, measured and reduced by chunks on a cluster of this machine.
 
     python3 examples/gigapixel.py --folder /somewhere/with/space
 
-It needs Debian's python3-dask, python3-distributed and python3-zarr. Every worker holds a few chunks at a time, whatever
-the size of the image; what the busiest one had at its peak is told at the end.
+It needs Debian's python3-dask, python3-distributed and python3-zarr. Every worker holds a few chunks at a time,
+whatever the size of the image; what the busiest one had at its peak is told at the end.
 """
 import argparse
 import resource
@@ -60,7 +60,8 @@ def main():
                                       dtype=numpy.uint8, meta=numpy.empty((0, 0), numpy.uint8))
         timed("make and store", image.to_zarr(original, overwrite=True, compute=False))
         image = dask.array.from_zarr(original)
-        timed("sharpen and store", qvpi.dask.filter(qvpi.Sharpen, image).to_zarr(sharpened, overwrite=True, compute=False))
+        image = qvpi.dask.filter(qvpi.Sharpen, image)
+        timed("sharpen and store", image.to_zarr(sharpened, overwrite=True, compute=False))
         image = dask.array.from_zarr(sharpened)
         shape = height * 2000 // width, 2000
         preview = timed("preview", qvpi.dask.resize(image, shape, chunks=100, method="super"))
@@ -68,8 +69,9 @@ def main():
         assert preview.shape == shape and int(counts.sum()) == width * height
         numpy.save(options.folder / "preview.npy", preview)
         memory = client.run(lambda: peak(None)).values()
-        print(f"mean {(counts * numpy.arange(256)).sum() / counts.sum():.3f}, preview {shape[1]} x {shape[0]} with mean "
-              f"{preview.mean():.3f}; at most {max(memory):.0f} MB in a worker")
+        mean = (counts * numpy.arange(256)).sum() / counts.sum()
+        print(f"mean {mean:.3f}, preview {shape[1]} x {shape[0]} with mean {preview.mean():.3f}; at most "
+              f"{max(memory):.0f} MB in a worker")
 
 
 if __name__ == "__main__":

@@ -1,4 +1,4 @@
-"""Builds the stubs and the two compiled modules: `_raw`, every function by cffi, and `_call`, which calls them with numpy arrays.
+"""Builds the stubs and two compiled modules: `_raw`, every function by cffi, and `_call`, which calls with arrays.
 
 QVPI_LIBRARY names the folder of libqvpi.so and libqvpcore.so to link; without it the system's are taken if there are
 any, else the library is built with cmake and put beside the modules, as in wheels.
@@ -35,6 +35,9 @@ class Build(build_ext):
         self.link(os.environ.get("QVPI_LIBRARY"))
         super().run()
         package = Path(self.get_ext_fullpath("qvpi._call")).parent
+        for module in package.glob("*.py"):
+            if not (here / "qvpi" / module.name).exists():
+                module.unlink()  # of a build before it was renamed
         subprocess.run([sys.executable, root / "tools" / "derive_stubs.py", here / "qvpi", package], check=True)
 
     def write_raw(self):
@@ -77,7 +80,8 @@ setup(
     ext_modules=[
         # Thousands of wrappers that only convert arguments: optimising them takes a minute and gains nothing.
         extension("_raw", ["derived/raw.c"], "-O0", "-g0", "-U_FORTIFY_SOURCE"),
-        extension("_call", ["native/call.c", "native/images.c", "native/numbers.c", "derived/functions.c"], "-O2", "-g0"),
+        extension("_call", ["native/call.c", "native/images.c", "native/numbers.c", "derived/functions.c"],
+                  "-O2", "-g0"),
     ],
     cmdclass={"build_ext": Build},
 )

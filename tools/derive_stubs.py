@@ -6,6 +6,7 @@ wherever its name occurs, and results are told here where they are no image.
 """
 import argparse
 import ast
+import textwrap
 from pathlib import Path
 
 HEAD = '''from typing import Any, Literal, Sequence, TypeVar
@@ -27,20 +28,22 @@ TYPES = {
     **dict.fromkeys(FLOATS, "float"), **dict.fromkeys(WORDS, "str"),
     "b": "Image | Constant", "out": "Image | None", "threads": "int | None", "scale": "int",
     "rounding": "str | None", "value": "Any", "replace": "Constant | None", "low": "Any", "high": "Any",
-    "mask": "ArrayLike | None", "table": "ArrayLike", "levels": "ArrayLike", "values": "ArrayLike", "order": "Sequence[int]",
-    "size": "Any", "anchor": "Any", "border": "str", "tile": "Sequence[int] | None", "shape": "Sequence[int] | None",
+    "mask": "ArrayLike | None", "table": "ArrayLike", "levels": "ArrayLike", "values": "ArrayLike",
+    "order": "Sequence[int]", "size": "Any", "anchor": "Any", "border": "str", "tile": "Sequence[int] | None",
+    "shape": "Sequence[int] | None",
     "dtype": "DTypeLike", "sigma": "Any", "kernel": "Any", "divisor": "int | None", "row": "ArrayLike",
     "column": "ArrayLike", "src_shape": "Sequence[int]", "dst_shape": "Sequence[int] | None", "matrix": "ArrayLike",
-    "origin": "Sequence[int]", "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike", "center": "Sequence[float]",
+    "origin": "Sequence[int]", "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike",
+    "center": "Sequence[float]",
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
 }
 RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",
     "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
-    "moments": "Moments", "gradient": "tuple[Image, Image, Image, Image]", "Gradient": "tuple[Image, Image, Image, Image]",
-    **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]", "__init__": "None", "set_threads": "None",
-    "get_threads": "int", "info": "dict[str, Any]",
+    "moments": "Moments", **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
+    **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]",
+    "__init__": "None",
 }
 
 
@@ -50,8 +53,8 @@ def parameter(argument, default, owner):
         kind = "float"
     if argument.arg == "self":
         return "self"
-    shown = "" if default is None else f" = {ast.unparse(default)}" if isinstance(default, (ast.Constant, ast.UnaryOp)) \
-        else " = ..."
+    is_plain = isinstance(default, (ast.Constant, ast.UnaryOp))
+    shown = "" if default is None else f" = {ast.unparse(default)}" if is_plain else " = ..."
     if default is not None and shown == " = None" and "None" not in kind and kind != "Any":
         kind += " | None"
     return f"{argument.arg}: {kind}{shown}"
@@ -70,8 +73,9 @@ def parameters(function, owner):
 
 def documented(node, indent):
     text = ast.get_docstring(node)
-    return f'{indent}"""{text.replace(chr(10), chr(10) + indent).replace(chr(10) + indent + chr(10), chr(10) * 2)}"""\n' \
-        if text else ""
+    if not text:
+        return ""
+    return textwrap.indent(f'"""{text}\n"""' if "\n" in text else f'"""{text}"""', indent) + "\n"
 
 
 def function(node, indent="", owner=""):
@@ -133,6 +137,11 @@ def get_threads() -> int: ...
 def info() -> dict[str, Any]: ...
 __version__: str
 '''
+RAW = """from typing import Any
+ffi: Any
+lib: Any
+def __getattr__(name: str) -> Any: ...
+"""
 
 
 def main():
@@ -142,9 +151,10 @@ def main():
     options = options.parse_args()
     trees = {file.stem: ast.parse(file.read_text()) for file in sorted(options.package.glob("*.py"))}
     classes = classes_of(trees.values())
-    text = "".join(module(tree, classes) for name, tree in trees.items() if name not in ("raw", "dask") and name[0] != "_")
+    public = [tree for name, tree in trees.items() if name not in ("raw", "dask") and name[0] != "_"]
+    text = "".join(module(tree, classes) for tree in public)
     (options.out / "__init__.pyi").write_text(f"{HEAD}{ERRORS}{text}")
-    (options.out / "raw.pyi").write_text("from typing import Any\nffi: Any\nlib: Any\ndef __getattr__(name: str) -> Any: ...\n")
+    (options.out / "raw.pyi").write_text(RAW)
     (options.out / "py.typed").write_text("")
 
 

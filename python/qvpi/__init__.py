@@ -4,8 +4,8 @@
     small = qvpi.resize(image, (270, 480), method="lanczos", antialias=True)
 
 Images are arrays of shape (H, W) or (H, W, C). Slices, negative and padded row strides are passed as they are; what has
-gaps within its rows is refused, or copied with copy=True. Functions have `out=` for results and, where rows or tiles are
-independent, `threads=`; classes keep what takes preparation. A call that is refused raises Error, a ValueError, or
+gaps within its rows is refused, or copied with copy=True. Functions have `out=` for results and, where rows or tiles
+are independent, `threads=`; classes keep what takes preparation. A call that is refused raises Error, a ValueError, or
 TypeError, and writes nothing.
 """
 from . import (arithmetic, compositing, features, filters, fourier, kernels, layout, raw, resizing, statistics, values,

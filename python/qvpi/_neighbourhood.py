@@ -132,7 +132,7 @@ def _assigned(out, result):
 
 
 def _goes_down(a):
-    """Whether rows follow each other in memory, as filters want it. A copy of a strip would not do: they look around it."""
+    """Whether rows follow each other in memory, as filters want it: a copy of a strip would lack what is around it."""
     return a.strides[0] >= a.strides[1] * a.shape[1] or a.shape[0] == 1
 
 

@@ -11,8 +11,8 @@ from ._operation import Operation
 
 ROUNDING = {None: None, "zero": 0, "near": 1, "financial": 2}
 
-__all__ = ["abs", "add", "bitwise_and", "bitwise_not", "bitwise_or", "bitwise_xor", "divide", "exp", "left_shift", "log",
-           "multiply", "multiply_full_scale", "right_shift", "sqrt", "square", "subtract"]
+__all__ = ["abs", "add", "bitwise_and", "bitwise_not", "bitwise_or", "bitwise_xor", "divide", "exp", "left_shift",
+           "log", "multiply", "multiply_full_scale", "right_shift", "sqrt", "square", "subtract"]
 
 
 def choice(options, value, name):

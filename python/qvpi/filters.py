@@ -2,8 +2,8 @@
 
 Images have the shape (H, W), or (H, W, C) with 3 or 4 channels; results have the same shape. What lies outside of the
 image is told by `border`: 'replicate' (the nearest edge pixel), 'mirror' (reflection at the edge pixel, which is not
-repeated), 'constant' (`value`, a number or one for each channel). Integers are rounded to the nearest, ties to even, and
-saturated.
+repeated), 'constant' (`value`, a number or one for each channel). Integers are rounded to the nearest, ties to even,
+and saturated.
 
     f = qvpi.Gauss(image.shape, image.dtype, sigma=2)      the record is made once
     f(image)                                               the whole image
@@ -43,7 +43,7 @@ class _Rectangle(Filter):
 
 
 class Box(_Rectangle):
-    """The mean under a rectangle of `size`, (rows, columns), whose pixel `anchor` lies on the result: the middle at first.
+    """The mean under a rectangle of `size`, (rows, columns), whose pixel `anchor`, at first the middle, is the result's.
 
     Sums of integers are exact. uint8, uint16, int16, float32.
     """
@@ -125,7 +125,8 @@ class HighPass(_Fixed):
 
 
 def _directions(name, directions):
-    return {direction: operation_of(name + direction.title() if name == "Roberts" else name + direction.upper(), "maskSize")
+    """{direction: operation}: SobelXX, but RobertsDown."""
+    return {direction: operation_of(name + (direction.title() if name == "Roberts" else direction.upper()), "maskSize")
             for direction in directions}
 
 
@@ -136,7 +137,7 @@ class _Directed(_Fixed):
 
 
 class Sobel(_Directed):
-    """Sobel's derivatives 'x', 'y', 'xx', 'yy', 'xy', size 3 or 5: uint8 to int16, others to float32. 1 or 3 channels."""
+    """Sobel's derivatives 'x', 'y', 'xx', 'yy', 'xy', size 3 or 5: uint8 to int16, else to float32. 1 or 3 channels."""
 
     operations = _directions("Sobel", ("x", "y", "xx", "yy", "xy"))
 

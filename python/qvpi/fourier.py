@@ -84,7 +84,8 @@ def _transform(a, norm, method, inverse, copy):
     if a.dtype == numpy.float32 and not inverse and a.ndim == 2:
         return unpack(_fourier(a.shape, a.dtype, norm, method).forward(a))
     if a.dtype != numpy.complex64 or a.ndim != 2:
-        raise TypeError(f"expected complex64{'' if inverse else ' or float32'} of shape (H, W), not {a.dtype} of {a.shape}")
+        wanted = "complex64" if inverse else "complex64 or float32"
+        raise TypeError(f"expected {wanted} of shape (H, W), not {a.dtype} of {a.shape}")
     made = _fourier(a.shape, a.dtype, norm, method)
     return made.inverse(a) if inverse else made.forward(a)
 
@@ -121,7 +122,8 @@ def packed_idft2(spectrum, out=None, norm="backward", *, copy=False):
     return _fourier(spectrum.shape, spectrum.dtype, norm, None).inverse(spectrum, out)
 
 
-_MULTIPLY, _MULTIPLY_CONJUGATE = (Operation(name, "src1 src2 dst", in_place=True) for name in ("MulPack", "MulPackConj"))
+_MULTIPLY = Operation("MulPack", "src1 src2 dst", in_place=True)
+_MULTIPLY_CONJUGATE = Operation("MulPackConj", "src1 src2 dst", in_place=True)
 _MAGNITUDE, _PHASE = Operation("MagnitudePack", "src dst buffer"), Operation("PhasePack", "src dst")
 _UNPACK, _PACK = Operation("PackToCplxExtend", "src dst"), Operation("CplxExtendToPack", "src dst")
 _MAGNITUDE_SIZE = make_call("qvpiMagnitudePackGetBufferSize_32f", "numChannels roiSize bufferSize")

@@ -38,8 +38,8 @@ class Gauss(_Recorded):
 class Filter2D(_Recorded):
     """Convolution with any kernel, which convolution turns; correlate=True turns it once more, for a correlation.
 
-    kernel: 2-D; of integers with a `divisor`, or of floats. rounding: 'near', 'zero', 'financial'. uint8, uint16, int16,
-    float32, and float64 of one channel.
+    kernel: 2-D; of integers with a `divisor`, or of floats. rounding: 'near', 'zero', 'financial'. uint8, uint16,
+    int16, float32, and float64 of one channel.
     """
 
     operation = operation_of("", "", _Recorded.record_role)
@@ -74,7 +74,8 @@ class Separable(_Recorded):
         spec, buffer = size_of(_SEPARABLE_SIZE, size, self.roi, self.kind, self.kind, taps, self.channels, count=2)
         self.record = (memory(spec),)
         init = _SEPARABLE_INIT["16s" if divisor is not None else "32f"]
-        init(row, column, size, *values, self.kind, self.kind, self.channels, choice(ROUNDING, rounding, "rounding"), *self.record)
+        how = choice(ROUNDING, rounding, "rounding")
+        init(row, column, size, *values, self.kind, self.kind, self.channels, how, *self.record)
         self.prepare(buffer)
 
 

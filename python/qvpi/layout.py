@@ -32,7 +32,7 @@ _AXES = {0: lib.qvpAxisHorizontal, 1: lib.qvpAxisVertical, None: lib.qvpAxisBoth
 
 
 def copy_to(a, out=None, *, mask=None, threads=None, copy=False):
-    """The pixels of `a` in `out`, or in a new image; with mask=, uint8 or bool of shape (H, W), where it is not zero."""
+    """The pixels of `a` in `out`, or a new image; with mask=, of uint8 or bool and shape (H, W), where it is not 0."""
     if mask is None:
         return _COPY.apply((a,), out, (), None, None, threads, copy)
     if out is None:
@@ -93,7 +93,8 @@ def merge(planes, out=None):
     if planes.ndim != 3 or planes.size == 0:
         raise ValueError("planes must be images of one shape (H, W)")
     count, height, width = planes.shape
-    result = numpy.empty((height, width, count), planes.dtype) if out is None else _of_shape(out, (height, width, count))
+    shape = height, width, count
+    result = numpy.empty(shape, planes.dtype) if out is None else _of_shape(out, shape)
     _planar(planes.dtype, count, False)(addresses(planes), planes.strides[1], result)
     return result
 

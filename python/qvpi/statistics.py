@@ -152,7 +152,8 @@ def _levels(bins, range):
     return levels
 
 
-_HISTOGRAM_SIZE = make_call("qvpiHistogramGetBufferSize", "dataType roiSize nLevels numChannels uniform specSize bufferSize")
+_HISTOGRAM_SIZE = make_call("qvpiHistogramGetBufferSize",
+                            "dataType roiSize nLevels numChannels uniform specSize bufferSize")
 _HISTOGRAM_INIT = make_call("qvpiHistogramInit", "dataType levels nLevels numChannels spec")
 
 
@@ -208,7 +209,8 @@ class Moments:
         return result
 
 
-_STATE_SIZE, _STATE_INIT = make_call("qvpiMomentGetStateSize_64f", "hint size"), make_call("qvpiMomentInit_64f", "state hint")
+_STATE_SIZE = make_call("qvpiMomentGetStateSize_64f", "hint size")
+_STATE_INIT = make_call("qvpiMomentInit_64f", "state hint")
 _SPATIAL = make_call("qvpiGetSpatialMoment_64f", "state mOrd nOrd nChannel roiOffset value")
 _CENTRAL = make_call("qvpiGetCentralMoment_64f", "state mOrd nOrd nChannel value")
 _NORMALIZED = make_call("qvpiGetNormalizedCentralMoment_64f", "state mOrd nOrd nChannel value")

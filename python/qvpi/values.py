@@ -11,8 +11,8 @@ from ._records import addresses
 from .arithmetic import ROUNDING, choice, is_image
 from .raw import lib
 
-__all__ = ["Curve", "clip", "compare", "convert", "count_in_range", "curve", "equal_within", "lookup", "otsu", "palette",
-           "scale", "scale_range", "threshold", "where"]
+__all__ = ["Curve", "clip", "compare", "convert", "count_in_range", "curve", "equal_within", "lookup", "otsu",
+           "palette", "scale", "scale_range", "threshold", "where"]
 
 RELATIONS = {"<": lib.qvpCmpLess, "<=": lib.qvpCmpLessEq, "==": lib.qvpCmpEq, ">=": lib.qvpCmpGreaterEq,
              ">": lib.qvpCmpGreater}
@@ -85,7 +85,7 @@ def scale_range(a, dtype, out=None, *, low=None, high=None, threads=None, copy=F
 def threshold(a, value, out=None, *, mode=">", replace=None, threads=None, copy=False):
     """Pixels above (mode '>') or below ('<') `value` become `replace`, or `value` itself; the others stay.
 
-    value, replace: a number, or one for each channel. uint8, uint16, int16, float32. For images of 0 and 255 see compare.
+    value, replace: a number, or one for each channel. uint8, uint16, int16, float32. compare makes images of 0 and 255.
     """
     relation = choice({">": lib.qvpCmpGreater, "<": lib.qvpCmpLess}, mode, "mode")
     if replace is None:
@@ -146,7 +146,10 @@ def _found(operation, a, copy=False):
 
 
 def count_in_range(a, low, high, *, copy=False):
-    """How many pixels have low <= value <= high, both inclusive: an int, or one for each of 3 channels. uint8, float32."""
+    """How many pixels have low <= value <= high, both inclusive: an int, or one for each of 3 channels.
+
+    uint8, float32.
+    """
     a, call = _found(_COUNT, a, copy)
     counts = numpy.zeros(channels(a), numpy.int32)
     forgiving(call, (a,), (), (counts, low, high))
@@ -154,7 +157,7 @@ def count_in_range(a, low, high, *, copy=False):
 
 
 def otsu(a, *, copy=False):
-    """Otsu's threshold, which best separates dark from bright pixels: to be used with compare(a, '>', t). uint8, (H, W)."""
+    """Otsu's threshold, which best separates dark from bright pixels, for compare(a, '>', t). uint8, (H, W)."""
     a, call = _found(_OTSU, a, copy)
     result = numpy.zeros(1, numpy.uint8)
     forgiving(call, (a,), (), (result,))
@@ -162,7 +165,7 @@ def otsu(a, *, copy=False):
 
 
 def lookup(a, table, out=None, *, threads=None, copy=False):
-    """table[a]: a table of 256 uint8 or 65536 uint16 entries, of the image's dtype, or one row of them for each channel."""
+    """table[a]: a table of 256 uint8 or 65536 uint16 entries, of the image's dtype, or a row for each channel."""
     a = image(a, copy)
     table = numpy.ascontiguousarray(table)
     entries = 256 if a.dtype == numpy.uint8 else 65536
@@ -175,7 +178,7 @@ def lookup(a, table, out=None, *, threads=None, copy=False):
 
 
 def palette(a, entries, out=None, *, threads=None, copy=False):
-    """entries[a mod n], of n = 2**k entries: shape (n,), or (n, 3) or (n, 4) for colours. a: uint8 or uint16, (H, W)."""
+    """entries[a mod n] of n = 2**k entries, shape (n,), or (n, 3) or (n, 4) for colours. a: uint8 or uint16, (H, W)."""
     entries = numpy.ascontiguousarray(entries)
     bits = len(entries).bit_length() - 1 if entries.ndim in (1, 2) else 0
     if bits < 1 or len(entries) != 1 << bits:

@@ -18,7 +18,8 @@ from .raw import lib
 __all__ = ["Remap", "Warp", "affine_transform", "perspective_transform", "remap", "rotation", "warp_affine",
            "warp_perspective", "warp_quad"]
 
-_OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst, "transparent": lib.qvpBorderTransparent}
+_OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst,
+            "transparent": lib.qvpBorderTransparent}
 _WARP_METHODS = ("nearest", "linear", "cubic")
 _WARPS = {(kind, method): Operation(f"Warp{kind}{method.title()}", "src dst dstRoiOffset spec buffer", free=("src",))
           for kind in ("Affine", "Perspective") for method in _WARP_METHODS}

@@ -47,13 +47,15 @@ def test_any_kernel(one, size, border, seed):
                                                          origin=origin), a)
     filtered = qvpi.filter2d(a, kernel, divisor=8, border=border, value=7)
     numpy.testing.assert_array_equal(filtered, saturated(exact / 8, "u1"))
-    numpy.testing.assert_array_equal(filtered, qvpi.filter2d(a, turned, divisor=8, border=border, value=7, correlate=True))
+    correlated = qvpi.filter2d(a, turned, divisor=8, border=border, value=7, correlate=True)
+    numpy.testing.assert_array_equal(filtered, correlated)
 
 
 FILTERS = {
     "Box": (5,), "Minimum": ((3, 5),), "Maximum": ((4, 3),), "SumRow": (7,), "SumColumn": (7,), "Binomial": (5,),
     "Sharpen": (), "Laplace": (5,), "HighPass": (3,), "Sobel": ("x", 5), "Scharr": ("y",), "Prewitt": ("x",),
-    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
+    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,),
+    "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
     "Separable": ([1, 2, 1], [1, 0, 3]), "Erode": (numpy.eye(5),), "Dilate": ([[0, 1, 0], [1, 1, 1]],),
 }
 
@@ -123,7 +125,8 @@ def test_warp_formulas():
     moved = qvpi.warp_affine(a, [[1, 0, 2.5], [0, 1, 0]], border="replicate")
     numpy.testing.assert_allclose(moved[:, 3:], (a[:, :-3] + a[:, 1:-2]) / 2, rtol=1e-6)
     corners, others = [(0, 0), (29, 0), (29, 19), (0, 19)], [(3, 2), (25, 1), (28, 18), (1, 15)]
-    for matrix, points in ((qvpi.perspective_transform(corners, others), 4), (qvpi.affine_transform(corners[:3], others[:3]), 3)):
+    for matrix, points in ((qvpi.perspective_transform(corners, others), 4),
+                           (qvpi.affine_transform(corners[:3], others[:3]), 3)):
         ends = matrix @ numpy.array([(x, y, 1) for x, y in corners[:points]]).T
         numpy.testing.assert_allclose((ends[:2] / (ends[2] if points == 4 else 1)).T, others[:points], atol=1e-9)
     y, x = numpy.mgrid[:20, :30].astype("f4")
@@ -166,8 +169,9 @@ def test_hog():
 def test_threads_share_a_record():
     """Each call has a buffer of its own."""
     a = [random((200, 150), "u1", seed) for seed in range(8)]
-    for made in (qvpi.Gauss(a[0].shape, a[0].dtype, 2.0), qvpi.Resizer(a[0].shape, (77, 99), a[0].dtype, "lanczos", True),
-                 qvpi.Histogram(a[0].shape, a[0].dtype), qvpi.Erode(a[0].shape, a[0].dtype, numpy.eye(5))):
+    kind = a[0].shape, a[0].dtype
+    for made in (qvpi.Gauss(*kind, 2.0), qvpi.Resizer(a[0].shape, (77, 99), a[0].dtype, "lanczos", True),
+                 qvpi.Histogram(*kind), qvpi.Erode(*kind, numpy.eye(5))):
         expected, failures = [made(image) for image in a], []
 
         def work(i):

@@ -88,8 +88,9 @@ ARRAYS = [A, A[..., 0].copy(), A[::-1], A[:, ::2], A.astype("f4"), A[:0], A.T, A
           numpy.zeros((1, 1), "i2"), numpy.zeros((5, 4, 9), "u1"), numpy.zeros((4, 4), "i8"), numpy.array("x")]
 garbage = st.one_of(
     st.sampled_from(ARRAYS).map(lambda a: a.copy(order="K") if isinstance(a, numpy.ndarray) else a),
-    st.none(), st.booleans(), st.integers(-3, 9), st.integers(), st.floats(), st.text(max_size=3), st.binary(max_size=3),
-    st.sampled_from(["replicate", "linear", "<", "x", "l2", "u1", object(), numpy.uint8, (3, 3), (2, 40), [1, 2, 3]]),
+    st.none(), st.booleans(), st.integers(-3, 9), st.integers(), st.floats(), st.text(max_size=3),
+    st.binary(max_size=3), st.sampled_from(["replicate", "linear", "<", "x", "l2", "u1", object(), numpy.uint8, (3, 3), (2, 40),
+                                          [1, 2, 3]]),
     st.lists(st.integers(-5, 300), max_size=4), st.lists(st.floats(), max_size=4).map(tuple))
 FUNCTIONS = sorted(name for name in qvpi.__all__
                    if callable(getattr(qvpi, name)) and name not in ("Error", "Warning", "set_threads"))

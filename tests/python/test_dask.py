@@ -25,7 +25,8 @@ def test_areas(chunks, rest):
             filtered = chunked.filter(kind, lazy, *parameters, border=border, value=9)
             whole = kind(a.shape, a.dtype, *parameters)(a, border=border, value=9)
             numpy.testing.assert_array_equal(filtered.compute(), whole)
-    for method, antialias in (("linear", False), ("cubic", True), ("super", False), ("nearest", False), ("lanczos", True)):
+    for method, antialias in (("linear", False), ("cubic", True), ("super", False), ("nearest", False),
+                              ("lanczos", True)):
         for shape in ((37, 41), (150, 99)):
             if method != "super" or shape[0] < 90:
                 resized = chunked.resize(lazy, shape, chunks=23, method=method, antialias=antialias)

@@ -43,6 +43,7 @@ def test_stubs(tmp_path):
                        "qvpi.Resizer(a.shape, (2, 2), a.dtype, 'cubic')(a, tile=(0, 0, 1, 1))\n"
                        "qvpi.add('x', 3)  # type: ignore[arg-type]\n")
     folder = Path(qvpi.__file__).parent
-    result = subprocess.run(["mypy", "--strict", f"--cache-dir={tmp_path}", folder / "__init__.pyi", program],
-                            env=os.environ | {"MYPYPATH": str(folder.parent)}, capture_output=True, text=True, cwd=tmp_path)
+    command = ["mypy", "--strict", f"--cache-dir={tmp_path}", folder / "__init__.pyi", program]
+    result = subprocess.run(command, capture_output=True, text=True, cwd=tmp_path,
+                            env=os.environ | {"MYPYPATH": str(folder.parent)})
     assert result.returncode == 0, result.stdout
