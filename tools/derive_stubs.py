@@ -20,8 +20,10 @@ Border = Literal["replicate", "mirror", "constant"]
 BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "premultiplied", "conjugate", "correlate",
             "columns_first")
 IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries")
-INTEGERS = ("top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride", "count")
-FLOATS = ("factor", "offset", "angle", "tolerance", "alpha_a", "c", "clip")
+INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
+            "count")
+FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
+          "angle", "tolerance", "alpha_a", "c", "clip")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction")
 TYPES = {
     **dict.fromkeys(BOOLEANS, "bool"), **dict.fromkeys(IMAGES, "Image"), **dict.fromkeys(INTEGERS, "int"),

@@ -3,7 +3,7 @@ import numpy
 
 from . import _threads
 from ._call import key
-from ._operation import checked_shape, checked_tile, image
+from ._operation import checked_shape, checked_tile, image, refuse_overlap
 from .raw import lib
 from .values import data_type
 
@@ -44,9 +44,10 @@ class Mapped:
             out = self.new(shape)
         elif not isinstance(out, numpy.ndarray) or out.shape != shape:
             raise ValueError(f"out must be an array of shape {shape}")
-        if threads is None and _threads._state["threads"] == 1:
+        if threads is None and tile is None and _threads._state["threads"] == 1:
             self._run(a, out, column, row)
             return out
+        refuse_overlap(out, (a,))
         parts = _threads.strips(height, _threads.count(threads))
         _threads.run(lambda first, end: self._run(a, out[first:end], column, row + first), parts)
         return out

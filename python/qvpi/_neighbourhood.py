@@ -3,7 +3,7 @@ import numpy
 
 from . import _threads
 from ._call import empty, key
-from ._operation import Operation, channels, checked_shape, checked_tile, image
+from ._operation import Operation, channels, checked_shape, checked_tile, image, refuse_overlap
 from ._records import Buffers, cached
 from .arithmetic import choice
 from .raw import lib
@@ -12,6 +12,7 @@ from .values import data_type
 ROLES = "borderType borderValue buffer"
 QUERY = "maskSize roiSize dataType numChannels bufferSize"
 BORDERS = {"replicate": lib.qvpBorderReplicate, "mirror": lib.qvpBorderMirror, "constant": lib.qvpBorderConst}
+NORMS = {"l1": lib.qvpNormL1, "l2": lib.qvpNormL2, "inf": lib.qvpNormInf}
 TOP, BOTTOM = lib.qvpBorderInMemTop, lib.qvpBorderInMemBottom
 LEFT, RIGHT = lib.qvpBorderInMemLeft, lib.qvpBorderInMemRight
 
@@ -94,6 +95,7 @@ class Filter:
         if len(parts) == 1:
             self._run(call, a, out, kind, value)
         else:
+            refuse_overlap(out, (a,))
             _threads.run(strip, parts)
         return out
 

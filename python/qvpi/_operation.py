@@ -72,7 +72,17 @@ def checked_tile(tile, shape):
 
 
 def channels(array):
+    """How many numbers a pixel has."""
     return array.shape[2] if array.ndim == 3 else 1
+
+
+def refuse_overlap(out, sources, in_place=False):
+    """What a call looks for in its operands, of whole images before they are cut: results over what is yet to be read."""
+    for source in sources:
+        if numpy.may_share_memory(out, source):
+            is_same = out.ctypes.data == source.ctypes.data and out.strides == source.strides
+            if not (in_place and is_same) and numpy.shares_memory(out, source):
+                raise ValueError("out overlaps with another array of the call")
 
 
 def with_copies(call, sources, outs, values, error):
@@ -143,10 +153,6 @@ class Operation:
         count = 1 if self.name.startswith("Compare") else match[2]
         return make_call(name, self.roles, layout, self.free, self.in_place), match[1], count
 
-    def supports(self, dtype, count=1):
-        """Whether there is a function for images of this dtype."""
-        return self.find(numpy.dtype(dtype).num * 100 + count) is not None
-
     def apply(self, sources, out=None, values=(), dtype=None, count=None, threads=None, copy=False):
         """Calls the function for these sources; the result is `out`, or a new array."""
         try:
@@ -161,7 +167,7 @@ class Operation:
             if threads is None and _threads._state["threads"] == 1:
                 call(*sources, out, *values)
             else:
-                self._strips(call, (*sources, out, *values), threads)
+                self._strips(call, (*sources, out), values, threads)
         except Error as error:
             if error.status not in _STEPS:
                 raise
@@ -194,16 +200,19 @@ class Operation:
         self.apply(flat[:-1], flat[-1], values, dtype, None, threads)
         return out
 
-    def _strips(self, call, operands, threads):
-        height = operands[0].shape[0]
+    def _strips(self, call, images, values, threads):
+        """By strips of rows, if what is wrong with the whole images would be wrong with each strip."""
+        height = images[0].shape[0]
         n = _threads.count(threads) if self.by_rows else 1
+        masks, values = (values, ()) if self.masked else ((), values)
+        if n == 1 or any(getattr(a, "shape", ())[:1] != (height,) for a in (*images, *masks)):
+            call(*images, *masks, *values)
+            return
+        refuse_overlap(images[-1], (*images[:-1], *masks), self.in_place)
 
         def strip(first, end):
-            call(*(o[first:end] if isinstance(o, numpy.ndarray) and o.ndim > 1 else o for o in operands))
+            call(*(a[first:end] for a in images), *(mask[first:end] for mask in masks), *values)
 
-        # Sizes are compared before rows are taken of arrays that have more of them.
-        if any(isinstance(o, numpy.ndarray) and o.ndim > 1 and o.shape[0] != height for o in operands):
-            n = 1
         _threads.run(strip, _threads.strips(height, n))
 
     def _complaint(self, array, dtype):

@@ -16,19 +16,16 @@ import numpy
 
 from . import _threads
 from ._call import empty
-from ._neighbourhood import BORDERS, BOTTOM, QUERY, ROLES, TOP, Filter, apply, made, operation_of, pair_of
+from ._neighbourhood import BORDERS, BOTTOM, NORMS, QUERY, ROLES, TOP, Filter, apply, made, operation_of, pair_of
 from ._operation import Operation, image
 from ._plan import make_call
 from ._records import size_of
 from .arithmetic import choice
-from .raw import lib
 
 __all__ = ["Binomial", "Box", "Gradient", "HighPass", "Laplace", "Maximum", "Minimum", "Prewitt", "Roberts", "Scharr",
            "Sharpen", "Sobel", "SobelMagnitude", "SumColumn", "SumRow", "binomial", "box", "gradient", "high_pass",
            "laplace", "maximum", "minimum", "prewitt", "roberts", "scharr", "sharpen", "sobel", "sobel_magnitude",
            "sum_column", "sum_row"]
-
-NORMS = {"l1": lib.qvpNormL1, "l2": lib.qvpNormL2, "inf": lib.qvpNormInf}
 
 
 # ---- rectangles
@@ -43,7 +40,7 @@ class _Rectangle(Filter):
 
 
 class Box(_Rectangle):
-    """The mean under a rectangle of `size`, (rows, columns), whose pixel `anchor`, at first the middle, is the result's.
+    """The mean under a rectangle of `size`, (rows, columns), of which `anchor`, at first the middle, is the result's.
 
     Sums of integers are exact. uint8, uint16, int16, float32.
     """

@@ -38,8 +38,8 @@ class Resizer(Mapped):
 
     method: 'nearest', 'linear', 'cubic' (Mitchell and Netravali's `b` and `c`), 'lanczos' (2 or 3 `lobes`), 'super',
     the mean over the area of a destination pixel, for reductions. antialias: linear, cubic and Lanczos kernels widened
-    so that every source pixel counts. border: 'replicate' or 'mirror', beyond the source. Centres of pixels: destination
-    column d lies at (d + 0.5) * W_src / W_dst - 0.5. uint8, uint16, int16, float32, and float64 by 'linear'.
+    so that every source pixel counts. border: 'replicate' or 'mirror', beyond the source. Centres of pixels:
+    destination column d lies at (d + 0.5) * W_src / W_dst - 0.5. uint8, uint16, int16, float32, float64 by 'linear'.
     accurate=True: uint8 in single precision instead of 16-bit weights.
     """
 

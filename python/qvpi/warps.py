@@ -9,7 +9,7 @@ import numpy
 from . import _threads
 from ._call import key
 from ._mapped import INTERPOLATIONS, Mapped
-from ._operation import Operation, forgiving, image
+from ._operation import Operation, forgiving, image, refuse_overlap
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
@@ -175,6 +175,7 @@ class Remap:
         image(out, name="out")
         if out.shape[:2] != self.x.shape or self.x.shape != self.y.shape:
             raise ValueError("maps and destination must have one shape")
+        refuse_overlap(out, (a, self.x, self.y))
         roi = 0, 0, a.shape[1], a.shape[0]
 
         def strip(first, end):

@@ -54,7 +54,7 @@ def test_any_kernel(one, size, border, seed):
 FILTERS = {
     "Box": (5,), "Minimum": ((3, 5),), "Maximum": ((4, 3),), "SumRow": (7,), "SumColumn": (7,), "Binomial": (5,),
     "Sharpen": (), "Laplace": (5,), "HighPass": (3,), "Sobel": ("x", 5), "Scharr": ("y",), "Prewitt": ("x",),
-    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,),
+    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Bilateral": (30.0,),
     "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
     "Separable": ([1, 2, 1], [1, 0, 3]), "Erode": (numpy.eye(5),), "Dilate": ([[0, 1, 0], [1, 1, 1]],),
 }
@@ -155,6 +155,14 @@ def test_convolution_by_packed_spectra():
     product = qvpi.multiply_packed(qvpi.packed_dft2(a), qvpi.packed_dft2(kernel))
     expected = a + 2 * numpy.roll(a, 1, 1) + 3 * numpy.roll(a, 2, 1)
     numpy.testing.assert_allclose(qvpi.packed_idft2(product), expected, atol=0.05)
+
+
+def test_smoothing_that_keeps_edges():
+    steps = numpy.array([[0, 0, 100, 100, 100]] * 5, "f4")
+    smooth = qvpi.bilateral(steps, 100, 1.0, radius=1)
+    numpy.testing.assert_allclose(smooth[2], [0, 12, 88, 100, 100], atol=0.5)
+    row = numpy.array([[100, 104, 100, 200, 204, 200]], "u1")
+    numpy.testing.assert_array_equal(qvpi.least_squares(row), [[104, 104, 104, 199, 199, 199]])
 
 
 def test_hog():

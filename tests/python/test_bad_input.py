@@ -16,6 +16,7 @@ settings.register_profile("short", max_examples=12, deadline=None, derandomize=T
 settings.load_profile("short")
 
 A = random((20, 30, 3), "u1", 1)
+LONG = random((400, 8), "u1", 2)
 REFUSED = (TypeError, ValueError, OverflowError, MemoryError)
 
 
@@ -43,6 +44,8 @@ REFUSED = (TypeError, ValueError, OverflowError, MemoryError)
     (lambda: qvpi.box(A, 3, border="wrap"), ValueError, "'replicate'"),
     (lambda: qvpi.box(A, (3, 1 << 40)), ValueError, "2147483647"),
     (lambda: qvpi.maximum(A[5:15], 3, A[8:18]), ValueError, "overlaps"),
+    (lambda: qvpi.add(LONG[100:], LONG[:-100], LONG[100:], threads=4), ValueError, "overlaps"),
+    (lambda: qvpi.box(LONG[:-100], 3, LONG[100:], threads=4), ValueError, "overlaps"),
     (lambda: qvpi.Box((10, 10, 3), "u1")(A), ValueError, "larger"),
     (lambda: qvpi.Box(A.shape, "u1")(A, tile=(15, 0, 6, 1)), ValueError, "tile"),
     (lambda: qvpi.gauss(A, numpy.nan), ValueError, "sigma"),
@@ -89,8 +92,8 @@ ARRAYS = [A, A[..., 0].copy(), A[::-1], A[:, ::2], A.astype("f4"), A[:0], A.T, A
 garbage = st.one_of(
     st.sampled_from(ARRAYS).map(lambda a: a.copy(order="K") if isinstance(a, numpy.ndarray) else a),
     st.none(), st.booleans(), st.integers(-3, 9), st.integers(), st.floats(), st.text(max_size=3),
-    st.binary(max_size=3), st.sampled_from(["replicate", "linear", "<", "x", "l2", "u1", object(), numpy.uint8, (3, 3), (2, 40),
-                                          [1, 2, 3]]),
+    st.binary(max_size=3), st.sampled_from(["replicate", "linear", "<", "x", "l2", "u1", object(), numpy.uint8, (3, 3),
+                                          (2, 40), [1, 2, 3]]),
     st.lists(st.integers(-5, 300), max_size=4), st.lists(st.floats(), max_size=4).map(tuple))
 FUNCTIONS = sorted(name for name in qvpi.__all__
                    if callable(getattr(qvpi, name)) and name not in ("Error", "Warning", "set_threads"))

@@ -86,7 +86,8 @@ def test_tables(one, seed):
     numpy.testing.assert_array_equal(qvpi.lookup(a, table), table[a])
     gray = a if a.ndim == 2 else numpy.ascontiguousarray(a[..., 0])
     colors = numpy.stack([table, table ^ 1, table ^ 2], axis=1)
-    numpy.testing.assert_array_equal(qvpi.palette(gray, colors), colors[gray])
+    for threads in (1, 3):
+        numpy.testing.assert_array_equal(qvpi.palette(gray, colors, threads=threads), colors[gray])
     numpy.testing.assert_array_equal(qvpi.curve(a, [0, 255], [255, 0]), 255 - a)
 
 
@@ -117,6 +118,15 @@ def test_channels():
     assert (qvpi.fill(a, (1, 2, 3)) == (1, 2, 3)).all()
     mask = numpy.arange(11) % 2 * numpy.ones((9, 1)) != 0
     assert (qvpi.fill(a, 9, mask=mask)[:, 1::2] == 9).all() and (a[:, ::2] == (1, 2, 3)).all()
+
+
+def test_what_is_no_image_is_not_cut_into_strips():
+    """A palette with as many entries as the image has rows; a mask, which is cut."""
+    a, colors = random((256, 40), "u1", 1), random((256, 3), "u1", 2)
+    numpy.testing.assert_array_equal(qvpi.palette(a, colors, threads=4), colors[a])
+    mask, out = a > 99, numpy.zeros_like(a)
+    qvpi.copy_to(a, out, mask=mask, threads=4)
+    numpy.testing.assert_array_equal(out, numpy.where(mask, a, 0))
 
 
 def test_any_number_of_channels_where_they_are_independent():

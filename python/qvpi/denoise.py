@@ -1,0 +1,87 @@
+"""Smoothing that keeps edges; see qvpi.filters for what filters share."""
+import numpy
+
+from ._call import key
+from ._neighbourhood import NORMS, Filter, apply, made, operation_of
+from ._operation import Operation, channels, checked_shape, forgiving, image
+from ._plan import make_call
+from ._records import Buffers, memory, size_of
+from .arithmetic import choice
+from .values import data_type
+
+__all__ = ["Bilateral", "LeastSquares", "bilateral", "least_squares"]
+
+
+class Bilateral(Filter):
+    """Each pixel the mean of a disc, in which pixels count by nearness and likeness (Tomasi, Manduchi 1998).
+
+    sigma_range, sigma_space: standard deviations of the weights, in pixel values and in pixels; radius: 1 to 127, two
+    sigma_space at first. norm: how differences of colours make one, 'l1' or 'l2'. uint8, uint16, float32.
+    """
+
+    operation = operation_of("Bilateral", "", "borderType borderValue spec buffer")
+
+    def __init__(self, shape, dtype, sigma_range, sigma_space=2.0, radius=None, norm="l2"):
+        if radius is None:
+            radius = min(127, max(1, round(2 * sigma_space)))
+        if not isinstance(radius, int):
+            raise TypeError("radius must be an integer")
+        super().__init__(shape, dtype, (2 * radius + 1, 2 * radius + 1))
+        spec, buffer = size_of(_BILATERAL_SIZE, radius, self.roi, self.kind, self.channels, count=2)
+        self.record = (memory(spec),)
+        _BILATERAL_INIT(radius, choice(NORMS, norm, "norm"), sigma_range, sigma_space, self.kind, self.channels,
+                        *self.record)
+        self.prepare(buffer)
+
+
+class LeastSquares:
+    """Smooths everywhere but across edges, without halos (Liu, Zhang, Huang, Yang 2020); what it takes away is detail.
+
+    strength: 0 or more; power: of the penalty of gradients, above 0 to 2; eps: gradients whose square is below it, of
+    values between 0 and 1, are smoothed as with the power 2. All of an image at once. uint8, uint16, float32, of 1 or 3
+    channels.
+    """
+
+    def __init__(self, shape, dtype, strength=1.0, power=0.8, eps=1e-4, iterations=4):
+        self.shape, self.dtype = checked_shape(shape), numpy.dtype(dtype)
+        count, size = self.shape[2] if len(self.shape) == 3 else 1, (self.shape[1], self.shape[0])
+        self._key = self.dtype.num * 100 + count
+        found = _LEAST_SQUARES.find(self._key)
+        if found is None:
+            raise TypeError(_LEAST_SQUARES._complaint(numpy.empty((1, 1, count), self.dtype), None))
+        self._call, kind = found[0], data_type(dtype)
+        spec, buffer = size_of(_LEAST_SQUARES_SIZE, size, kind, count, count=2)
+        self._spec, self._buffers = memory(spec), Buffers(buffer)
+        _LEAST_SQUARES_INIT(size, strength, power, eps, iterations, kind, count, self._spec)
+
+    def __call__(self, a, out=None, *, copy=False):
+        a = image(a, copy)
+        if key(a) != self._key or a.shape != self.shape:
+            raise ValueError(f"the image must be {self.dtype} of shape {self.shape}, not {a.dtype} of {a.shape} with "
+                             f"{channels(a)} channels")
+        out = numpy.empty(a.shape, a.dtype) if out is None else out
+        buffer = self._buffers.take()
+        forgiving(self._call, (a,), (image(out, name="out"),), (self._spec, buffer))
+        self._buffers.give(buffer)
+        return out
+
+
+_BILATERAL_SIZE = make_call("qvpiFilterBilateralBorderGetSize",
+                            "radius roiSize dataType numChannels specSize bufferSize")
+_BILATERAL_INIT = make_call("qvpiFilterBilateralBorderInit",
+                            "radius normType sigmaRange sigmaSpace dataType numChannels spec")
+_LEAST_SQUARES = Operation("FilterLeastSquares", "src dst spec buffer")
+_LEAST_SQUARES_SIZE = make_call("qvpiFilterLeastSquaresGetSize", "roiSize dataType numChannels specSize bufferSize")
+_LEAST_SQUARES_INIT = make_call("qvpiFilterLeastSquaresInit",
+                                "roiSize lambda power eps numIterations dataType numChannels spec")
+
+
+def bilateral(a, sigma_range, sigma_space=2.0, out=None, *, radius=None, norm="l2", **options):
+    """See Bilateral; options are border, value, threads, copy, as of every filter."""
+    return apply(Bilateral, a, (sigma_range, sigma_space, radius, norm), out, options)
+
+
+def least_squares(a, strength=1.0, out=None, *, power=0.8, eps=1e-4, iterations=4, copy=False):
+    """See LeastSquares."""
+    a = image(a, copy)
+    return made(LeastSquares, a.shape, a.dtype, strength, power, eps, iterations)(a, out)
