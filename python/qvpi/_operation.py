@@ -77,7 +77,7 @@ def channels(array):
 
 
 def refuse_overlap(out, sources, in_place=False):
-    """What a call looks for in its operands, of whole images before they are cut: results over what is yet to be read."""
+    """What a call looks for in its operands, of whole images before they are cut: results over what is not read yet."""
     for source in sources:
         if numpy.may_share_memory(out, source):
             is_same = out.ctypes.data == source.ctypes.data and out.strides == source.strides
