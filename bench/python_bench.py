@@ -123,11 +123,12 @@ def rows_of(channels):
 
 def compare(title, rows, seconds, only):
     packages = ["ours", "cv2", "Pillow", "skimage", "scipy", "numpy"]
-    print(f"\n{title:34}" + "".join(f"{package + ' ms':>12}" for package in packages))
+    rows = {name: calls for name, calls in rows.items() if only.search(f"{title} {name}")}
+    if rows:
+        print(f"\n{title:34}" + "".join(f"{package + ' ms':>12}" for package in packages))
     for name, calls in rows.items():
-        if only.search(f"{title} {name}"):
-            times = dict(zip(calls, least(list(calls.values()), seconds)))
-            print(f"{name:34}" + "".join(f"{times[p] / 1000:12.3f}" if p in times else f"{'':12}" for p in packages))
+        times = dict(zip(calls, least(list(calls.values()), seconds)))
+        print(f"{name:34}" + "".join(f"{times[p] / 1000:12.3f}" if p in times else f"{'':12}" for p in packages))
 
 
 def main():

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Derive the type stubs of the Python package from its sources, at build time.
+"""Derive the type stubs of the Python package from its sources, at build time; with --pages its manual, python.md.
 
 Signatures and doc strings come from the functions and classes that a module exports. A parameter has the same type
 wherever its name occurs, and results are told here where they are no image.
@@ -109,12 +109,27 @@ def classes_of(trees):
     return {item.name: item for tree in trees for item in tree.body if isinstance(item, ast.ClassDef)}
 
 
+def exported(tree):
+    """The functions and classes of a module's __all__, in the order of the source."""
+    names = next((ast.literal_eval(item.value) for item in tree.body if isinstance(item, ast.Assign)
+                  and isinstance(item.targets[0], ast.Name) and item.targets[0].id == "__all__"
+                  and isinstance(item.value, ast.List)), [])
+    return [item for item in tree.body if getattr(item, "name", None) in names]
+
+
 def module(tree, classes):
-    exported = next((ast.literal_eval(item.value) for item in tree.body if isinstance(item, ast.Assign)
-                     and isinstance(item.targets[0], ast.Name) and item.targets[0].id == "__all__"
-                     and isinstance(item.value, ast.List)), [])
     return "".join("\n" + (class_(item, classes) if isinstance(item, ast.ClassDef) else function(item))
-                   for item in tree.body if getattr(item, "name", None) in exported)
+                   for item in exported(tree))
+
+
+def page(name, tree, classes):
+    """A section of the manual: the module's text, then each name with its parameters and its text."""
+    text = f"## qvpi.{name}\n\n{ast.get_docstring(tree)}\n"
+    for item in exported(tree):
+        found = methods(item, classes) if isinstance(item, ast.ClassDef) else {"__init__": item}
+        shown = parameters(found["__init__"], item.name).removeprefix("self, ") if "__init__" in found else ""
+        text += f"\n### {item.name}\n\n```python\n{item.name}({shown})\n```\n\n{ast.get_docstring(item)}\n"
+    return text
 
 
 ERRORS = '''
@@ -149,12 +164,17 @@ def __getattr__(name: str) -> Any: ...
 def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument("package", type=Path, help="folder of the package's sources")
-    options.add_argument("out", type=Path, help="folder to write __init__.pyi to")
+    options.add_argument("out", type=Path, help="folder to write to")
+    options.add_argument("--pages", action="store_true", help="write python.md instead of stubs")
     options = options.parse_args()
     trees = {file.stem: ast.parse(file.read_text()) for file in sorted(options.package.glob("*.py"))}
     classes = classes_of(trees.values())
-    public = [tree for name, tree in trees.items() if name not in ("raw", "dask") and name[0] != "_"]
-    text = "".join(module(tree, classes) for tree in public)
+    public = {name: tree for name, tree in trees.items() if name != "raw" and name[0] != "_"}
+    if options.pages:
+        pages = [page(name, tree, classes) for name, tree in public.items()]
+        (options.out / "python.md").write_text("\n".join(["# The Python package qvpi\n", *pages]))
+        return
+    text = "".join(module(tree, classes) for name, tree in public.items() if name != "dask")
     (options.out / "__init__.pyi").write_text(f"{HEAD}{ERRORS}{text}")
     (options.out / "raw.pyi").write_text(RAW)
     (options.out / "py.typed").write_text("")
