@@ -209,11 +209,12 @@ class Operation:
             call(*images, *masks, *values)
             return
         refuse_overlap(images[-1], (*images[:-1], *masks), self.in_place)
+        least = _threads.LEAST_BYTES // (images[0].nbytes // height)
 
         def strip(first, end):
             call(*(a[first:end] for a in images), *(mask[first:end] for mask in masks), *values)
 
-        _threads.run(strip, _threads.strips(height, n))
+        _threads.run(strip, _threads.strips(height, n, least))
 
     def _complaint(self, array, dtype):
         wanted = f" to {_DTYPES[dtype]}" if dtype is not None else ""

@@ -3,6 +3,8 @@ import os
 from concurrent.futures import ThreadPoolExecutor
 from functools import lru_cache
 
+LEAST_BYTES = 1 << 20  # of an image in a strip of an operation of single pixels: less is done before a thread has begun
+
 _state = {"threads": 1}
 
 

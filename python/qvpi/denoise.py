@@ -2,14 +2,14 @@
 import numpy
 
 from ._call import key
-from ._neighbourhood import NORMS, Filter, apply, made, operation_of
+from ._neighbourhood import NORMS, QUERY, Filter, apply, made, operation_of, pair_of
 from ._operation import Operation, channels, checked_shape, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, memory, size_of
 from .arithmetic import choice
 from .values import data_type
 
-__all__ = ["Bilateral", "LeastSquares", "bilateral", "least_squares"]
+__all__ = ["Bilateral", "LeastSquares", "Wiener", "bilateral", "least_squares", "wiener"]
 
 
 class Bilateral(Filter):
@@ -32,6 +32,21 @@ class Bilateral(Filter):
         _BILATERAL_INIT(radius, choice(NORMS, norm, "norm"), sigma_range, sigma_space, self.kind, self.channels,
                         *self.record)
         self.prepare(buffer)
+
+
+class Wiener(Filter):
+    """Removes noise of a known variance: where a mask sees no more than that, a pixel becomes the mean (Lim 1990).
+
+    noise: the variance of pixels between 0 and 1, a number or one for each channel: of a standard deviation of 10
+    levels of 8 bits (10 / 255) ** 2. size: odd, 1 to 255. uint8, uint16, int16, float32.
+    """
+
+    operation = operation_of("Wiener", "maskSize noise")
+
+    def __init__(self, shape, dtype, noise, size=3):
+        super().__init__(shape, dtype, pair_of(size))
+        self.values = (self.mask[1], self.mask[0]), noise
+        self.prepare(size_of(_WIENER_SIZE, self.values[0], self.roi, self.kind, self.channels))
 
 
 class LeastSquares:
@@ -66,6 +81,7 @@ class LeastSquares:
         return out
 
 
+_WIENER_SIZE = make_call("qvpiFilterWienerBorderGetBufferSize", QUERY)
 _BILATERAL_SIZE = make_call("qvpiFilterBilateralBorderGetSize",
                             "radius roiSize dataType numChannels specSize bufferSize")
 _BILATERAL_INIT = make_call("qvpiFilterBilateralBorderInit",
@@ -79,6 +95,11 @@ _LEAST_SQUARES_INIT = make_call("qvpiFilterLeastSquaresInit",
 def bilateral(a, sigma_range, sigma_space=2.0, out=None, *, radius=None, norm="l2", **options):
     """See Bilateral; options are border, value, threads, copy, as of every filter."""
     return apply(Bilateral, a, (sigma_range, sigma_space, radius, norm), out, options)
+
+
+def wiener(a, noise, size=3, out=None, **options):
+    """See Wiener."""
+    return apply(Wiener, a, (noise, size), out, options)
 
 
 def least_squares(a, strength=1.0, out=None, *, power=0.8, eps=1e-4, iterations=4, copy=False):

@@ -54,7 +54,7 @@ def test_any_kernel(one, size, border, seed):
 FILTERS = {
     "Box": (5,), "Minimum": ((3, 5),), "Maximum": ((4, 3),), "SumRow": (7,), "SumColumn": (7,), "Binomial": (5,),
     "Sharpen": (), "Laplace": (5,), "HighPass": (3,), "Sobel": ("x", 5), "Scharr": ("y",), "Prewitt": ("x",),
-    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Bilateral": (30.0,),
+    "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Bilateral": (30.0,), "Wiener": (0.01, 5),
     "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
     "Separable": ([1, 2, 1], [1, 0, 3]), "Erode": (numpy.eye(5),), "Dilate": ([[0, 1, 0], [1, 1, 1]],),
 }
@@ -161,6 +161,9 @@ def test_smoothing_that_keeps_edges():
     steps = numpy.array([[0, 0, 100, 100, 100]] * 5, "f4")
     smooth = qvpi.bilateral(steps, 100, 1.0, radius=1)
     numpy.testing.assert_allclose(smooth[2], [0, 12, 88, 100, 100], atol=0.5)
+    dot = numpy.full((5, 5), 10, "u1")
+    dot[2, 2] = 200
+    assert qvpi.wiener(dot, 0.01)[2, 1:3].tolist() == [14, 169]
     row = numpy.array([[100, 104, 100, 200, 204, 200]], "u1")
     numpy.testing.assert_array_equal(qvpi.least_squares(row), [[104, 104, 104, 199, 199, 199]])
 
