@@ -32,7 +32,7 @@ class Hog:
             "nbins": bins, "sigma": cell if sigma is None else sigma, "l2thresh": clip,
             "winSize": {"width": window[1], "height": window[0]}})
         packed = numpy.frombuffer(raw.ffi.buffer(config), numpy.uint8)
-        self.window = tuple(window)
+        self.window, self._block = tuple(window), (2 * cell, stride)
         self._spec = memory(size_of(_SIZE, packed))
         _INIT(packed, self._spec)
         self.size = size_of(_DESCRIPTOR, self._spec) // 4  # told in bytes
@@ -57,13 +57,17 @@ class Hog:
         return result
 
     def _points(self, a, places):
-        """(x, y) of windows, of which none lies outside: these would be skipped."""
+        """(x, y) of windows, of which none lies outside: these would be skipped.
+
+        Outside is also what is right of or below the last whole block.
+        """
         places = numpy.asarray(places)
         if places.ndim != 2 or places.shape[1] != 2 or len(places) == 0 or places.dtype.kind not in "iu":
             raise ValueError("places must be pairs of integers, (row, column)")
-        ends = places + self.window
-        if (places < 0).any() or (ends > a.shape[:2]).any():
-            raise ValueError(f"a window of {self.window} is not within the image of {a.shape[:2]}")
+        block, stride = self._block
+        whole = [(n - block) // stride * stride + block for n in a.shape[:2]]
+        if (places < 0).any() or (places + self.window > whole).any():
+            raise ValueError(f"a window of {self.window} is not within the whole blocks of the image, {tuple(whole)}")
         return numpy.ascontiguousarray(places[:, ::-1], numpy.int32)
 
 

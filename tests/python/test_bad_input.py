@@ -12,7 +12,7 @@ from hypothesis import given, settings
 from hypothesis import strategies as st
 from images import random
 
-settings.register_profile("short", max_examples=12, deadline=None, derandomize=True, database=None)
+settings.register_profile("short", max_examples=8, deadline=None, derandomize=True, database=None)
 settings.load_profile("short")
 
 A = random((20, 30, 3), "u1", 1)
