@@ -9,7 +9,53 @@ from ._records import Buffers, memory, size_of
 from .arithmetic import choice
 from .values import data_type
 
-__all__ = ["Bilateral", "LeastSquares", "Wiener", "bilateral", "least_squares", "wiener"]
+__all__ = ["Bilateral", "LeastSquares", "Median", "MedianCenter", "MedianVector", "Wiener", "bilateral",
+           "least_squares", "median", "median_center", "median_vector", "wiener"]
+
+
+class _Median(Filter):
+    query = "MedianCenter"
+
+    def __init__(self, shape, dtype, size, *values):
+        super().__init__(shape, dtype, pair_of(size))
+        self.values = (self.mask[1], self.mask[0]), *values
+        query = make_call(f"qvpiFilter{self.query}BorderGetBufferSize", QUERY)
+        self.prepare(size_of(query, self.values[0], self.roi, self.kind, self.channels))
+
+
+class Median(_Median):
+    """The median under a mask, channel by channel. Floats are in the order of numbers, NaN beyond the infinities.
+
+    size: odd, 1 to 255. border: not 'mirror'. uint8, uint16, int16, float32.
+    """
+
+    operation = operation_of("Median", "maskSize")
+
+    def __init__(self, shape, dtype, size=3):
+        super().__init__(shape, dtype, size)
+
+
+class MedianCenter(_Median):
+    """The median with the middle pixel counted `weight` times, which keeps lines (Ko, Lee 1991); else as Median."""
+
+    operation = operation_of("MedianCenter", "maskSize weight")
+
+    def __init__(self, shape, dtype, size=3, weight=3):
+        super().__init__(shape, dtype, size, weight)
+
+
+class MedianVector(_Median):
+    """That pixel of a mask whose colour is nearest to all others (Astola, Haavisto, Neuvo 1990).
+
+    size: odd, 1 to 7. norm: of differences of colours, 'l1' or 'l2'. border: not 'mirror'. uint8, uint16, float32 of 3
+    channels.
+    """
+
+    operation = operation_of("MedianVector", "maskSize normType")
+    query = "MedianVector"
+
+    def __init__(self, shape, dtype, size=3, norm="l1"):
+        super().__init__(shape, dtype, size, choice(NORMS, norm, "norm"))
 
 
 class Bilateral(Filter):
@@ -90,6 +136,21 @@ _LEAST_SQUARES = Operation("FilterLeastSquares", "src dst spec buffer")
 _LEAST_SQUARES_SIZE = make_call("qvpiFilterLeastSquaresGetSize", "roiSize dataType numChannels specSize bufferSize")
 _LEAST_SQUARES_INIT = make_call("qvpiFilterLeastSquaresInit",
                                 "roiSize lambda power eps numIterations dataType numChannels spec")
+
+
+def median(a, size=3, out=None, **options):
+    """See Median; options are border, value, threads, copy, as of every filter."""
+    return apply(Median, a, (size,), out, options)
+
+
+def median_center(a, size=3, weight=3, out=None, **options):
+    """See MedianCenter."""
+    return apply(MedianCenter, a, (size, weight), out, options)
+
+
+def median_vector(a, size=3, out=None, *, norm="l1", **options):
+    """See MedianVector."""
+    return apply(MedianVector, a, (size, norm), out, options)
 
 
 def bilateral(a, sigma_range, sigma_space=2.0, out=None, *, radius=None, norm="l2", **options):
