@@ -48,7 +48,9 @@ BorderedImage<T> WithBorder(const Image<const T>& image, Size roi, QvpiBorderTyp
                             const Reach& reach) {
   BorderedImage<T> bordered{image, KindOf(border), EffectiveColumns(border, roi.width, reach.left, reach.right),
                             EffectiveRows(border, roi.height, reach.above, reach.below)};
-  if (bordered.kind == BorderKind::kConst) std::memcpy(bordered.constant, constant, image.PixelBytes());
+  if (bordered.kind == BorderKind::kConst) {  // of alpha that is kept there is none
+    std::memcpy(bordered.constant, constant, ProcessedChannels(image.layout) * image.elementBytes);
+  }
   return bordered;
 }
 

@@ -1,5 +1,6 @@
 // Parameters of arithmetic, shifts, conversions and scaling.
 #include "tests/support/lessons.h"
+#include "tests/support/name.h"
 
 namespace test {
 namespace {
@@ -34,7 +35,7 @@ bool ShiftLesson(Scene& scene, size_t place, Argument& argument) {
   argument = scene.Constants(type, Count);
   if (scene.roi().width % 2 == 0) return true;
   auto* const counts = static_cast<Qvp32u*>(const_cast<void*>(argument.pointer));
-  std::fill(counts + 1, counts + 4, counts[0]);
+  std::fill(counts + 1, counts + Name(scene.function().name).written, counts[0]);
   return true;
 }
 

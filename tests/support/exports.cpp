@@ -6,6 +6,7 @@
 
 #include "tests/support/calls.h"
 #include "tests/support/lessons.h"
+#include "tests/support/name.h"
 
 namespace test {
 namespace {
@@ -239,8 +240,10 @@ const void* Scene::ImageFor(size_t place, Value value) {
 
 Argument Scene::Constants(std::string_view type, Value value) {
   const Element& element = *PointedAt(type);
-  uint8_t* const constants = Input(kLargestPixel);
-  for (int i = 0; i < kLargestPixel; i += element.bytes) element.write(constants + i, value(element, random_));
+  const Name name(function_.name);
+  const int bytes = name.layout.empty() ? kLargestPixel : name.written * element.bytes;
+  uint8_t* const constants = Input(bytes);
+  for (int i = 0; i < bytes; i += element.bytes) element.write(constants + i, value(element, random_));
   return {constants, element.read(constants)};
 }
 
