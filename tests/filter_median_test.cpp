@@ -233,7 +233,9 @@ void CheckVectors(const Export& function, const Manner& manner, const Region& r,
         << function.name << " norm " << manner.norm << " mask " << manner.mask.width << 'x' << manner.mask.height
         << " border " << r.border << " at " << x << ',' << y;
     const uint8_t* const alpha = before.At(x * r.channels, y) + 3 * bytes;
-    if (r.channels == 4) ASSERT_EQ(std::memcmp(result + 3 * bytes, alpha, bytes), 0) << function.name;
+    if (r.channels == 4) {
+      ASSERT_EQ(std::memcmp(result + 3 * bytes, alpha, bytes), 0) << function.name;
+    }
   }
 }
 

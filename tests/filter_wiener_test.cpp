@@ -39,10 +39,11 @@ Real Expected(const Name& name, QvpiSize mask, double noise, const auto& pixel) 
   };
   double s1, deviation;
   if (name.From().isInteger) {
-    const __int128 exact = sum(__int128(), [](__int128 p) { return p; });
+    // Modulo 2^64, which holds the difference.
+    const int64_t exact = sum(int64_t(), [](int64_t p) { return p; });
+    const uint64_t squares = sum(int64_t(), [](int64_t p) { return p * p; }), square = exact * uint64_t(exact);
     s1 = static_cast<double>(exact);
-    deviation = static_cast<double>(static_cast<__int128>(n) * sum(__int128(), [](__int128 p) { return p * p; }) -
-                                    exact * exact);
+    deviation = static_cast<double>(static_cast<uint64_t>(n) * squares - square);
   } else {
     s1 = sum(double(), [](double p) { return p; });
     deviation = Product(n, sum(double(), [](double p) { return Product(p, p); })) - Product(s1, s1);
