@@ -212,7 +212,8 @@ class VectorKernel {
     F *const best = Best(), *const choice = Choice();
     for (ptrdiff_t j = 0; j < height_; ++j) SumColumnsByHeight(j);
     const auto centres = ColumnsOf<kWidth>(middle);
-    const V first = hn::Set(d, static_cast<F>(middle * kWidth + kWidth / 2));
+    const auto centre = middle * kWidth + kWidth / 2;
+    const V first = hn::Set(d, static_cast<F>(centre));
     ForVectors(0, results_, [&](ptrdiff_t x) HWY_ATTR {
       hn::StoreU(SumOf<kWidth>(centres, kWidth / 2, x), d, best + x);
       hn::StoreU(first, d, choice + x);
