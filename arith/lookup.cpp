@@ -66,7 +66,7 @@ void Map(const Record& record, const Image<const T>& src, const Image<T>& dst, S
 template <class T>
 QvpStatus LookUp(const Image<const T>& src, const Image<T>& dst, Size roi, const QvpiLookupSpec* spec) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {src, dst}, {spec})) return failed;
-  const Record& record = *RecordOf(spec);
+  const Record& record = *RecordIn<Record>(spec);
   if (record.tag != kTag || record.type != DataTypeOf<T>()) return qvpStatusContextMatch;
   if (record.channels != 1 && record.channels != ProcessedChannels(dst.layout)) return qvpStatusContextMatch;
   Map(record, src, dst, roi);

@@ -180,7 +180,7 @@ QvpStatus qvpiLookupGetSize(QvpDataType dataType, QvpiLookupMethod method, const
 
 QvpStatus qvpiLookupInit(QvpDataType dataType, QvpiLookupMethod method, const Qvp32f* const pLevels[],
                          const Qvp32f* const pValues[], const int nLevels[], int numChannels, QvpiLookupSpec* pSpec) {
-  Record* const record = pSpec ? RecordOf(pSpec) : nullptr;
+  Record* const record = RecordIn<Record>(pSpec);
   return InitRecord(record, kTag, [&] {
     if (!pLevels || !pValues || !nLevels || !pSpec) return +qvpStatusNullPointer;
     const Arguments arguments{pLevels, pValues, nLevels};

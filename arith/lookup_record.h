@@ -33,13 +33,6 @@ struct Record {
 };
 static_assert(sizeof(Record) <= kHeaderBytes && offsetof(Record, offsets) == 8 * sizeof(uint32_t));
 
-template <class Spec>
-auto* RecordOf(Spec* spec) {
-  using Byte = std::conditional_t<std::is_const_v<Spec>, const uint8_t, uint8_t>;
-  using Of = std::conditional_t<std::is_const_v<Spec>, const Record, Record>;
-  return reinterpret_cast<Of*>(AtBoundary(reinterpret_cast<Byte*>(spec)));
-}
-
 // Words of an entry for floats: the level x, then the value y of steps; or the level, 1 / (distance to the next), and
 // the coefficients c0, c1 (c2, c3) of the curve by u, which goes from 0 to 1 up to the next level.
 constexpr int EntryWords(QvpiLookupMethod method) {

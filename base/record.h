@@ -20,6 +20,13 @@ T* AtBoundary(T* p) {
   return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + (-reinterpret_cast<uintptr_t>(p) & (kRecordBoundary - 1)));
 }
 
+// The record in memory of its public type; null where that is null.
+template <class Record, class Spec>
+auto* RecordIn(Spec* spec) {
+  using Of = std::conditional_t<std::is_const_v<Spec>, const Record, Record>;
+  return reinterpret_cast<Of*>(AtBoundary(spec));
+}
+
 // Makes a record: fill() checks all arguments, writes all but the identification, and tells the status. The word that
 // identifies the record is cleared first and written last, so that what a refused or unfinished Init leaves is no
 // record to anyone, whichever check failed. Without a record, a null pointer, fill() is to say so.
@@ -30,6 +37,14 @@ QvpStatus InitRecord(void* identification, uint32_t tag, const Fill& fill) {
   const QvpStatus status = fill();
   if (identification && status >= 0) put(tag);
   return status;
+}
+
+// The same in memory of a record's public type: fill(record). A null pointer is what is refused first.
+template <class Record, class Spec, class Fill>
+QvpStatus InitRecordIn(Spec* spec, const Fill& fill) {
+  Record* const record = RecordIn<Record>(spec);
+  return InitRecord(record ? &record->identification : nullptr, Record::kIdentification,
+                    [&]() -> QvpStatus { return record ? fill(*record) : qvpStatusNullPointer; });
 }
 
 // A count of bytes that remembers when it has left 64 bits, so that no size ever wraps.

@@ -42,17 +42,12 @@ void FilterPixels(const Windows<BitsOf<T>>& windows, const BilateralRecord& reco
 
 template <class T>
 QvpStatus FilterBilateral(const WindowCall<T>& call, const QvpiFilterBilateralBorderSpec* spec) {
-  if (const QvpStatus failed = call.Check(spec)) return failed;
-  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
-  const BilateralRecord& r = *BilateralRecord::At(spec);
-  const bool isOurs =
-      r.identification == BilateralRecord::kIdentification && r.type == kDataTypeOf<T> && r.channels == call.channels();
-  if (!isOurs) return qvpStatusContextMatch;
-  const auto windows = call.Reaching(r.reach());
-  if (r.channels == 1) FilterPixels<T, 1>(windows, r);
-  if (r.channels == 3) FilterPixels<T, 3>(windows, r);
-  if (r.channels == 4) FilterPixels<T, 4>(windows, r);
-  return qvpStatusNoError;
+  return FilterByRecord<BilateralRecord>(call, spec, [&](const BilateralRecord& r) {
+    const auto windows = call.Reaching(r.reach());
+    if (r.channels == 1) FilterPixels<T, 1>(windows, r);
+    if (r.channels == 3) FilterPixels<T, 3>(windows, r);
+    if (r.channels == 4) FilterPixels<T, 4>(windows, r);
+  });
 }
 
 }  // namespace

@@ -43,19 +43,14 @@ struct BilateralRecord {
   static int64_t TableBytes(QvpDataType type) { return type == qvp8u ? kDifferences * int64_t{sizeof(float)} : 0; }
 
   bool HasTable() const { return type == qvp8u && (channels == 1 || norm == qvpNormL1); }
+  // Images of one type, and of so many channels.
+  bool IsFor(QvpDataType src, QvpDataType, int count) const { return type == src && channels == count; }
   Reach reach() const { return {radius, radius, radius, radius}; }
   // Of differences, then of offsets: the middle row's from the nearest on, then row by row.
   float* Table() { return reinterpret_cast<float*>(reinterpret_cast<uint8_t*>(this) + kHeadBytes); }
   float* Space() { return Table() + TableBytes(type) / sizeof(float); }
   const float* Table() const { return const_cast<BilateralRecord*>(this)->Table(); }
   const float* Space() const { return const_cast<BilateralRecord*>(this)->Space(); }
-
-  static BilateralRecord* At(QvpiFilterBilateralBorderSpec* p) {
-    return reinterpret_cast<BilateralRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(p)));
-  }
-  static const BilateralRecord* At(const QvpiFilterBilateralBorderSpec* p) {
-    return reinterpret_cast<const BilateralRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
-  }
 };
 static_assert(sizeof(BilateralRecord) <= BilateralRecord::kHeadBytes);
 

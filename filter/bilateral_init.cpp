@@ -65,19 +65,17 @@ QvpStatus qvpiFilterBilateralBorderGetSize(int radius, QvpiSize roiSize, QvpData
 
 QvpStatus qvpiFilterBilateralBorderInit(int radius, QvpNormType normType, Qvp32f sigmaRange, Qvp32f sigmaSpace,
                                         QvpDataType dataType, int numChannels, QvpiFilterBilateralBorderSpec* pSpec) {
-  BilateralRecord* const record = pSpec ? BilateralRecord::At(pSpec) : nullptr;
-  return InitRecord(record, BilateralRecord::kIdentification, [&]() -> QvpStatus {
-    if (!record) return qvpStatusNullPointer;
+  return InitRecordIn<BilateralRecord>(pSpec, [&](BilateralRecord& record) -> QvpStatus {
     if (const QvpStatus failed = CheckDisc(radius, dataType, numChannels)) return failed;
     if (normType != qvpNormL1 && normType != qvpNormL2) return qvpStatusNotSupportedMode;
     if (!(sigmaRange > 0) || !(sigmaSpace > 0)) return qvpStatusBadArgument;
-    record->type = dataType;
-    record->channels = numChannels;
-    record->radius = radius;
-    record->norm = normType;
-    record->falloff = Falloff(sigmaRange);
-    FillSpace(Falloff(sigmaSpace), *record);
-    if (record->HasTable()) FillTable(*record);
+    record.type = dataType;
+    record.channels = numChannels;
+    record.radius = radius;
+    record.norm = normType;
+    record.falloff = Falloff(sigmaRange);
+    FillSpace(Falloff(sigmaSpace), record);
+    if (record.HasTable()) FillTable(record);
     return qvpStatusNoError;
   });
 }

@@ -176,7 +176,7 @@ QvpStatus General(const WindowCall<T>& call, const QvpiFilterBorderSpec* spec) {
   if (const QvpStatus failed = call.CheckPointersAndSize(spec)) return failed;
   if (const QvpStatus failed = CheckSteps(call)) return failed;
   if (const QvpStatus failed = CheckBorder(border)) return failed;
-  const FilterRecord& record = *FilterRecord::At(spec);
+  const FilterRecord& record = *RecordIn<FilterRecord>(spec);
   if (!record.IsReady()) return qvpStatusContextMatch;
   FilterByKind<T>(record, {WithBorder(src, roi, border, value, record.reach()), dst, roi, buffer});
   return qvpStatusNoError;

@@ -36,11 +36,6 @@ struct FilterRecord {
   static constexpr uint32_t kIdentification = 0x46427264;
   static constexpr int kHeadBytes = 128, kModeMask = 3;
 
-  static FilterRecord* At(QvpiFilterBorderSpec* p) { return reinterpret_cast<FilterRecord*>(AtBoundary(Bytes(p))); }
-  static const FilterRecord* At(const QvpiFilterBorderSpec* p) {
-    return reinterpret_cast<const FilterRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
-  }
-
   bool IsReady() const { return identification == kIdentification; }
 
   QvpiSize size() const { return {width, height}; }
@@ -60,9 +55,6 @@ struct FilterRecord {
   ptrdiff_t PairsOfRows() const { return height / 2 + 1; }
   int32_t* PairsAt() { return reinterpret_cast<int32_t*>(Floats()); }
   const int32_t* PairsAt() const { return const_cast<FilterRecord*>(this)->PairsAt(); }
-
- private:
-  static uint8_t* Bytes(QvpiFilterBorderSpec* p) { return reinterpret_cast<uint8_t*>(p); }
 };
 static_assert(sizeof(FilterRecord) <= FilterRecord::kHeadBytes);
 

@@ -220,7 +220,7 @@ QvpStatus FillFromDoubles(const FilterRequest& request, FilterRecord* record) {
 // fill(record) checks and writes; a null pointer stays one.
 template <class Fill>
 QvpStatus Init(QvpiFilterBorderSpec* spec, const Fill& fill) {
-  FilterRecord* const record = spec ? FilterRecord::At(spec) : nullptr;
+  FilterRecord* const record = RecordIn<FilterRecord>(spec);
   return InitRecord(record ? &record->identification : nullptr, FilterRecord::kIdentification,
                     [&] { return fill(record); });
 }
@@ -265,7 +265,7 @@ QvpStatus qvpiFilterBorderInit_64f(const Qvp64f* pKernel, QvpiSize kernelSize, Q
 
 QvpStatus qvpiFilterBorderSetMode(QvpHintAlgorithm hint, int offset, QvpiFilterBorderSpec* pSpec) {
   if (!pSpec) return qvpStatusNullPointer;
-  FilterRecord& record = *FilterRecord::At(pSpec);
+  FilterRecord& record = *RecordIn<FilterRecord>(pSpec);
   if (!record.IsReady()) return qvpStatusContextMatch;
   const bool takesOffset =
       record.kind == FilterKind::kInt8u || record.kind == FilterKind::k8u || record.kind == FilterKind::k16u;

@@ -122,19 +122,14 @@ void FilterFloats(const GaussRecord& r, const Windows<typename LineTypes<T, floa
 
 template <class T>
 QvpStatus Gauss(const WindowCall<T>& call, const QvpiFilterGaussBorderSpec* spec) {
-  if (const QvpStatus failed = call.Check(spec)) return failed;
-  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
-  const GaussRecord& r = *GaussRecord::At(spec);
-  const bool isOurs =
-      r.identification == GaussRecord::kIdentification && r.type == kDataTypeOf<T> && r.channels == call.channels();
-  if (!isOurs) return qvpStatusContextMatch;
-  using Pixel = typename LineTypes<T, float>::Pixel;
-  if constexpr (sizeof(T) == 1) {
-    FilterBytes(r, call.template Reaching<Pixel>(r.reach()));
-  } else {
-    FilterFloats<T>(r, call.template Reaching<Pixel>(r.reach()));
-  }
-  return qvpStatusNoError;
+  return FilterByRecord<GaussRecord>(call, spec, [&](const GaussRecord& r) {
+    const auto windows = call.template Reaching<typename LineTypes<T, float>::Pixel>(r.reach());
+    if constexpr (sizeof(T) == 1) {
+      FilterBytes(r, windows);
+    } else {
+      FilterFloats<T>(r, windows);
+    }
+  });
 }
 
 }  // namespace

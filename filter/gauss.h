@@ -21,18 +21,13 @@ struct GaussRecord {
     return (Terms(size) * int64_t{sizeof(float)} + kRecordBoundary - 1) / kRecordBoundary * kRecordBoundary;
   }
 
+  // Images of one type, and of so many channels.
+  bool IsFor(QvpDataType src, QvpDataType, int count) const { return type == src && channels == count; }
   Reach reach() const { return {width / 2, height / 2, width / 2, height / 2}; }
   uint8_t* Across() { return reinterpret_cast<uint8_t*>(this) + kHeadBytes; }
   uint8_t* Down() { return Across() + TableBytes(width); }
   const uint8_t* Across() const { return const_cast<GaussRecord*>(this)->Across(); }
   const uint8_t* Down() const { return const_cast<GaussRecord*>(this)->Down(); }
-
-  static GaussRecord* At(QvpiFilterGaussBorderSpec* p) {
-    return reinterpret_cast<GaussRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(p)));
-  }
-  static const GaussRecord* At(const QvpiFilterGaussBorderSpec* p) {
-    return reinterpret_cast<const GaussRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
-  }
 };
 static_assert(sizeof(GaussRecord) <= GaussRecord::kHeadBytes);
 

@@ -108,12 +108,10 @@ QvpStatus qvpiFilterGaussBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpD
 
 QvpStatus qvpiFilterGaussBorderInit(QvpiSize maskSize, Qvp32f sigmaX, Qvp32f sigmaY, QvpDataType dataType,
                                     int numChannels, QvpiFilterGaussBorderSpec* pSpec) {
-  GaussRecord* const record = pSpec ? GaussRecord::At(pSpec) : nullptr;
-  return InitRecord(record, GaussRecord::kIdentification, [&]() -> QvpStatus {
-    if (!record) return qvpStatusNullPointer;
+  return InitRecordIn<GaussRecord>(pSpec, [&](GaussRecord& record) -> QvpStatus {
     if (const QvpStatus failed = CheckMask(maskSize, dataType, numChannels)) return failed;
     if (!IsSigma(sigmaX) || !IsSigma(sigmaY)) return qvpStatusBadArgument;
-    Fill(maskSize, sigmaX, sigmaY, dataType, numChannels, *record);
+    Fill(maskSize, sigmaX, sigmaY, dataType, numChannels, record);
     return qvpStatusNoError;
   });
 }

@@ -152,7 +152,7 @@ template <class T>
 QvpStatus LeastSquares(const Image<const T>& src, const Image<T>& dst, const QvpiFilterLeastSquaresSpec* spec,
                        uint8_t* buffer) {
   if (!src.data || !dst.data || !spec || !buffer) return qvpStatusNullPointer;
-  const LeastSquaresRecord& r = *LeastSquaresRecord::At(spec);
+  const LeastSquaresRecord& r = *RecordIn<LeastSquaresRecord>(spec);
   const bool isOurs = r.identification == LeastSquaresRecord::kIdentification && r.type == kDataTypeOf<T> &&
                       r.channels == Channels(src.layout);
   if (!isOurs) return qvpStatusContextMatch;

@@ -30,13 +30,6 @@ struct LeastSquaresRecord {
   const dct::DctPlan& Plan() const {
     return *reinterpret_cast<const dct::DctPlan*>(const_cast<LeastSquaresRecord*>(this)->PlanBytes());
   }
-
-  static LeastSquaresRecord* At(QvpiFilterLeastSquaresSpec* p) {
-    return reinterpret_cast<LeastSquaresRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(p)));
-  }
-  static const LeastSquaresRecord* At(const QvpiFilterLeastSquaresSpec* p) {
-    return reinterpret_cast<const LeastSquaresRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
-  }
 };
 static_assert(sizeof(LeastSquaresRecord) <= LeastSquaresRecord::kHeadBytes);
 

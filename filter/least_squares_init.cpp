@@ -54,28 +54,26 @@ QvpStatus qvpiFilterLeastSquaresGetSize(QvpiSize roiSize, QvpDataType dataType, 
 
 QvpStatus qvpiFilterLeastSquaresInit(QvpiSize roiSize, Qvp32f lambda, Qvp32f power, Qvp32f eps, int numIterations,
                                      QvpDataType dataType, int numChannels, QvpiFilterLeastSquaresSpec* pSpec) {
-  LeastSquaresRecord* const record = pSpec ? LeastSquaresRecord::At(pSpec) : nullptr;
-  return InitRecord(record, LeastSquaresRecord::kIdentification, [&]() -> QvpStatus {
+  return InitRecordIn<LeastSquaresRecord>(pSpec, [&](LeastSquaresRecord& record) -> QvpStatus {
     constexpr float kMost = std::numeric_limits<float>::max();
-    if (!record) return qvpStatusNullPointer;
     if (const QvpStatus failed = CheckImage(roiSize, dataType, numChannels)) return failed;
     if (!(lambda >= 0 && lambda <= kMost) || !(power > 0 && power <= 2)) return qvpStatusBadArgument;
     if (!(eps >= 1e-20f && eps <= kMost)) return qvpStatusEps;
     if (numIterations < 1 || numIterations > 100) return qvpStatusBadArgument;
     const double beta = power * Power(eps, power / 2.0 - 1) * lambda / 2;
     if (!(beta <= kLargestBeta)) return qvpStatusBadArgument;
-    *record = {0,
-               dataType,
-               numChannels,
-               roiSize.width,
-               roiSize.height,
-               numIterations,
-               static_cast<float>(beta),
-               static_cast<float>(static_cast<double>(lambda) * power / 2),
-               static_cast<float>(power / 2.0 - 1),
-               eps};
-    FillEigenvalues(record->beta, *record);
-    dct::WriteDct(dct::LayOutDct(roiSize.width), record->PlanBytes());
+    record = {0,
+              dataType,
+              numChannels,
+              roiSize.width,
+              roiSize.height,
+              numIterations,
+              static_cast<float>(beta),
+              static_cast<float>(static_cast<double>(lambda) * power / 2),
+              static_cast<float>(power / 2.0 - 1),
+              eps};
+    FillEigenvalues(record.beta, record);
+    dct::WriteDct(dct::LayOutDct(roiSize.width), record.PlanBytes());
     return qvpStatusNoError;
   });
 }

@@ -206,13 +206,10 @@ void FilterChords(Windows<BitsOf<T>> windows, const MorphologyRecord& record) {
 
 template <class Op, class T>
 QvpStatus Morph(const WindowCall<T>& call, const QvpiFilterMorphologyBorderSpec* spec) {
-  if (const QvpStatus failed = call.Check(spec)) return failed;
-  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
-  const MorphologyRecord& r = *MorphologyRecord::At(spec);
-  if (r.identification != MorphologyRecord::kIdentification) return qvpStatusContextMatch;
-  const auto windows = call.Reaching(r.reach());
-  r.isFull ? FilterRectangles<Op, T>(windows, r.width, r.height) : FilterChords<Op, T>(windows, r);
-  return qvpStatusNoError;
+  return FilterByRecord<MorphologyRecord>(call, spec, [&](const MorphologyRecord& r) {
+    const auto windows = call.Reaching(r.reach());
+    r.isFull ? FilterRectangles<Op, T>(windows, r.width, r.height) : FilterChords<Op, T>(windows, r);
+  });
 }
 
 }  // namespace

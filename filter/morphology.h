@@ -49,19 +49,14 @@ struct MorphologyRecord {
     return chords * int64_t{sizeof(Chord)} + kHeadBytes + kRecordBoundary;
   }
 
+  // A mask serves all images.
+  static bool IsFor(QvpDataType, QvpDataType, int) { return true; }
   Reach reach() const { return {anchorX, anchorY, width - 1 - anchorX, height - 1 - anchorY}; }
   uint8_t* Table() { return reinterpret_cast<uint8_t*>(this) + kHeadBytes; }
   Chord* Chords() { return reinterpret_cast<Chord*>(Table()); }
   SpanUse* Uses() { return reinterpret_cast<SpanUse*>(Table()); }
   const Chord* Chords() const { return const_cast<MorphologyRecord*>(this)->Chords(); }
   const SpanUse* Uses() const { return const_cast<MorphologyRecord*>(this)->Uses(); }
-
-  static MorphologyRecord* At(QvpiFilterMorphologyBorderSpec* p) {
-    return reinterpret_cast<MorphologyRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(p)));
-  }
-  static const MorphologyRecord* At(const QvpiFilterMorphologyBorderSpec* p) {
-    return reinterpret_cast<const MorphologyRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
-  }
 };
 static_assert(sizeof(MorphologyRecord) <= MorphologyRecord::kHeadBytes);
 static_assert(sizeof(Chord) == 2 * sizeof(SpanUse), "a chord is used by two rows");

@@ -165,15 +165,14 @@ QvpStatus qvpiFilterMorphologyBorderGetSize(QvpiSize maskSize, QvpiSize roiSize,
 
 QvpStatus qvpiFilterMorphologyBorderInit(const Qvp8u* pMask, QvpiSize maskSize, QvpiPoint anchor,
                                          QvpiFilterMorphologyBorderSpec* pSpec) {
-  MorphologyRecord* const record = pSpec ? MorphologyRecord::At(pSpec) : nullptr;
-  return InitRecord(record, MorphologyRecord::kIdentification, [&]() -> QvpStatus {
-    if (!pMask || !record) return qvpStatusNullPointer;
+  return InitRecordIn<MorphologyRecord>(pSpec, [&](MorphologyRecord& record) -> QvpStatus {
+    if (!pMask) return qvpStatusNullPointer;
     if (!IsExtremeMask(maskSize)) return qvpStatusMaskSize;
     if (!IsAnchor(maskSize, anchor)) return qvpStatusAnchor;
     if (IsEmpty(pMask, maskSize)) return qvpStatusBadArgument;
     int bytes;
     if (const QvpStatus failed = MorphologyRecord::Bytes(maskSize).StoreTo(&bytes)) return failed;
-    Fill(pMask, maskSize, anchor, *record);
+    Fill(pMask, maskSize, anchor, record);
     return qvpStatusNoError;
   });
 }

@@ -196,14 +196,8 @@ void FilterByForm(const SeparableRecord& r, const Windows<Bits>& windows) {
 
 template <class T, class R>
 QvpStatus Separable(const WindowCall<T, R>& call, const QvpiFilterSeparableBorderSpec* spec) {
-  if (const QvpStatus failed = call.Check(spec)) return failed;
-  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
-  const SeparableRecord& r = *SeparableRecord::At(spec);
-  const bool isOurs = r.identification == SeparableRecord::kIdentification && r.srcType == kDataTypeOf<T> &&
-                      r.dstType == kDataTypeOf<R> && r.channels == call.channels();
-  if (!isOurs) return qvpStatusContextMatch;
-  FilterByForm<T, R>(r, call.Reaching(r.reach()));
-  return qvpStatusNoError;
+  return FilterByRecord<SeparableRecord>(
+      call, spec, [&](const SeparableRecord& r) { FilterByForm<T, R>(r, call.Reaching(r.reach())); });
 }
 
 }  // namespace

@@ -36,6 +36,9 @@ struct SeparableRecord {
   }
   static constexpr int64_t TableBytes(int64_t taps) { return 2 * ArrayBytes(taps); }
 
+  bool IsFor(QvpDataType src, QvpDataType dst, int count) const {
+    return srcType == src && dstType == dst && channels == count;
+  }
   // Pixels to the left and above; an even side reaches one further right, or below.
   Reach reach() const { return {(width - 1) / 2, (height - 1) / 2, width / 2, height / 2}; }
 
@@ -50,13 +53,6 @@ struct SeparableRecord {
   }
   static const int32_t* PairsIn(const uint8_t* table, int64_t taps) {
     return reinterpret_cast<const int32_t*>(table + ArrayBytes(taps));
-  }
-
-  static SeparableRecord* At(QvpiFilterSeparableBorderSpec* p) {
-    return reinterpret_cast<SeparableRecord*>(AtBoundary(reinterpret_cast<uint8_t*>(p)));
-  }
-  static const SeparableRecord* At(const QvpiFilterSeparableBorderSpec* p) {
-    return reinterpret_cast<const SeparableRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(p)));
   }
 };
 static_assert(sizeof(SeparableRecord) <= SeparableRecord::kHeadBytes);

@@ -150,17 +150,14 @@ QvpStatus qvpiFilterSeparableBorderGetSize(QvpiSize kernelSize, QvpiSize roiSize
 QvpStatus qvpiFilterSeparableBorderInit_16s(const Qvp16s* pRowKernel, const Qvp16s* pColumnKernel, QvpiSize kernelSize,
                                             int divisor, QvpDataType srcType, QvpDataType dstType, int numChannels,
                                             QvpRoundMode roundMode, QvpiFilterSeparableBorderSpec* pSpec) {
-  SeparableRecord* const record = pSpec ? SeparableRecord::At(pSpec) : nullptr;
   const Request request{pRowKernel, pColumnKernel, kernelSize, srcType, dstType, qvp16s, numChannels, roundMode};
-  return InitRecord(record, SeparableRecord::kIdentification,
-                    [&] { return !record ? qvpStatusNullPointer : FillIntegers(request, divisor, *record); });
+  return InitRecordIn<SeparableRecord>(pSpec,
+                                       [&](SeparableRecord& record) { return FillIntegers(request, divisor, record); });
 }
 
 QvpStatus qvpiFilterSeparableBorderInit_32f(const Qvp32f* pRowKernel, const Qvp32f* pColumnKernel, QvpiSize kernelSize,
                                             QvpDataType srcType, QvpDataType dstType, int numChannels,
                                             QvpRoundMode roundMode, QvpiFilterSeparableBorderSpec* pSpec) {
-  SeparableRecord* const record = pSpec ? SeparableRecord::At(pSpec) : nullptr;
   const Request request{pRowKernel, pColumnKernel, kernelSize, srcType, dstType, qvp32f, numChannels, roundMode};
-  return InitRecord(record, SeparableRecord::kIdentification,
-                    [&] { return !record ? qvpStatusNullPointer : FillFloats(request, *record); });
+  return InitRecordIn<SeparableRecord>(pSpec, [&](SeparableRecord& record) { return FillFloats(request, record); });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/export.h"
+#include "base/record.h"
 #include "filter/window_check.h"
 #include "filter/windows.h"
 
@@ -38,6 +39,18 @@ struct WindowCall {
     return windows;
   }
 };
+
+// The checks of a filter whose records tell whether they are for images of these types, and run(record).
+template <class Record, class T, class R, class Spec, class Run>
+QvpStatus FilterByRecord(const WindowCall<T, R>& call, const Spec* spec, const Run& run) {
+  if (const QvpStatus failed = call.Check(spec)) return failed;
+  if (const QvpStatus failed = CheckBorder(call.border)) return failed;
+  const Record& record = *RecordIn<Record>(spec);
+  if (record.identification != Record::kIdentification) return qvpStatusContextMatch;
+  if (!record.IsFor(kDataTypeOf<T>, kDataTypeOf<R>, call.channels())) return qvpStatusContextMatch;
+  run(record);
+  return qvpStatusNoError;
+}
 
 }  // namespace qvp::filter
 
