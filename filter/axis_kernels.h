@@ -40,7 +40,7 @@ HWY_INLINE void SumAcross(const T* source, const AxisOf<Tap>& axis, ptrdiff_t ch
 template <class E, bool kIsFolded, int kTerms>
 HWY_INLINE auto LinesOfTerms(const void* const* lines) {
   if constexpr (kTerms == 0) return reinterpret_cast<const E* const*>(lines);
-  if constexpr (kTerms > 0) return LinesOf < E, kIsFolded ? 2 * kTerms - 1 : kTerms > (lines);
+  if constexpr (kTerms > 0) return LinesOf<E, (kIsFolded ? 2 * kTerms - 1 : kTerms)>(lines);
 }
 
 // T to R, by lanes of floats or doubles. Integers are rounded by the mode; doubles are divided first.

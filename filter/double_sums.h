@@ -50,8 +50,8 @@ class DoubleSums {
     return (kPlanes + TreeAcross(mask.width).levels()) * DoubleRowBytes(mask, regionWidth, channels);
   }
   // Of the walk.
-  static ByteCount WalkBytes(QvpiSize mask, int64_t regionWidth, int channels) {
-    return WindowBytes(mask, regionWidth, channels, kLineBytes, Kept(mask), kSecondCacheBytes);
+  static ByteCount WalkBytes(QvpiSize mask, int64_t regionWidth, int channels, int64_t cacheBytes = kSecondCacheBytes) {
+    return WindowBytes(mask, regionWidth, channels, kLineBytes, Kept(mask), cacheBytes);
   }
 
  private:

@@ -1,6 +1,8 @@
 // The record of the Gauss filter.
 #pragma once
 
+#include <limits>
+
 #include "base/record.h"
 #include "filter/windows.h"
 
@@ -21,6 +23,9 @@ struct GaussRecord {
     return (Terms(size) * int64_t{sizeof(float)} + kRecordBoundary - 1) / kRecordBoundary * kRecordBoundary;
   }
 
+  // Of a record with its tables.
+  static int64_t Bytes(QvpiSize mask) { return kHeadBytes + TableBytes(mask.width) + TableBytes(mask.height); }
+
   // Images of one type, and of so many channels.
   bool IsFor(QvpDataType src, QvpDataType, int count) const { return type == src && channels == count; }
   Reach reach() const { return {width / 2, height / 2, width / 2, height / 2}; }
@@ -30,6 +35,11 @@ struct GaussRecord {
   const uint8_t* Down() const { return const_cast<GaussRecord*>(this)->Down(); }
 };
 static_assert(sizeof(GaussRecord) <= GaussRecord::kHeadBytes);
+
+inline bool IsGaussSigma(float sigma) { return sigma > 0 && sigma <= std::numeric_limits<float>::max(); }
+
+// All but the identification.
+void FillGauss(QvpiSize mask, float sigmaX, float sigmaY, QvpDataType type, int channels, GaussRecord& record);
 
 // Bits of filtered rows behind the point: they are at most 255 * 2^6, so that two fit 16 bits.
 inline constexpr int kGaussRowBits = 6;

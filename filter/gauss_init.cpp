@@ -66,15 +66,15 @@ void StoreFloats(const Weights& weights, uint8_t* table) {
   }
 }
 
-bool IsSigma(float sigma) { return sigma > 0 && sigma <= std::numeric_limits<float>::max(); }
-
 QvpStatus CheckMask(QvpiSize mask, QvpDataType type, int channels) {
   if (!IsMask(mask)) return qvpStatusMaskSize;
   if (!IsFilteredType(type)) return qvpStatusDataType;
   return IsFilteredChannelCount(channels) ? qvpStatusNoError : qvpStatusNumChannels;
 }
 
-void Fill(QvpiSize mask, float sigmaX, float sigmaY, QvpDataType type, int channels, GaussRecord& record) {
+}  // namespace
+
+void FillGauss(QvpiSize mask, float sigmaX, float sigmaY, QvpDataType type, int channels, GaussRecord& record) {
   record.type = type;
   record.channels = channels;
   record.width = mask.width;
@@ -89,7 +89,6 @@ void Fill(QvpiSize mask, float sigmaX, float sigmaY, QvpDataType type, int chann
   }
 }
 
-}  // namespace
 }  // namespace qvp::filter
 
 using namespace qvp;
@@ -100,8 +99,7 @@ QvpStatus qvpiFilterGaussBorderGetSize(QvpiSize maskSize, QvpiSize roiSize, QvpD
   if (!pSpecSize || !pBufferSize) return qvpStatusNullPointer;
   if (roiSize.width < 1 || roiSize.height < 1) return qvpStatusSize;
   if (const QvpStatus failed = CheckMask(maskSize, dataType, numChannels)) return failed;
-  const int64_t tables = GaussRecord::TableBytes(maskSize.width) + GaussRecord::TableBytes(maskSize.height);
-  *pSpecSize = static_cast<int>(tables) + GaussRecord::kHeadBytes + kRecordBoundary;
+  *pSpecSize = static_cast<int>(GaussRecord::Bytes(maskSize)) + kRecordBoundary;
   const int longest = dataType == qvp8u ? 2 : 4;  // an element of a line
   return WindowBytes(maskSize, roiSize.width, numChannels, longest, {}, LaneCacheBytes(longest)).StoreTo(pBufferSize);
 }
@@ -110,8 +108,8 @@ QvpStatus qvpiFilterGaussBorderInit(QvpiSize maskSize, Qvp32f sigmaX, Qvp32f sig
                                     int numChannels, QvpiFilterGaussBorderSpec* pSpec) {
   return InitRecordIn<GaussRecord>(pSpec, [&](GaussRecord& record) -> QvpStatus {
     if (const QvpStatus failed = CheckMask(maskSize, dataType, numChannels)) return failed;
-    if (!IsSigma(sigmaX) || !IsSigma(sigmaY)) return qvpStatusBadArgument;
-    Fill(maskSize, sigmaX, sigmaY, dataType, numChannels, record);
+    if (!IsGaussSigma(sigmaX) || !IsGaussSigma(sigmaY)) return qvpStatusBadArgument;
+    FillGauss(maskSize, sigmaX, sigmaY, dataType, numChannels, record);
     return qvpStatusNoError;
   });
 }

@@ -141,7 +141,14 @@ struct IntegerSums {
   static void Down(const void* context, const Window& window, const ResultRows& rows) {
     const auto& kernel = *static_cast<const IntegerSums*>(context);
     kernel.columns(kernel.shape, window);
-    kernel.Across({window.kept, window.keptStep}, window.samples, rows);
+    const auto row = [&](ptrdiff_t k) {
+      const ptrdiff_t middle = (kernel.shape.width - 1) / 2 * kernel.shape.channels;
+      return static_cast<const T*>(window.lines[(kernel.shape.height - 1) / 2 + k]) + middle;
+    };
+    const RowRoom<L> kept{window.kept, window.keptStep};
+    kernel.Across(FinishOver(kernel.finish, row(0)), kept, SumRows::kUpper, window.samples, rows.upper[0]);
+    if (rows.lower[0] == rows.upper[0]) return;
+    kernel.Across(FinishOver(kernel.finish, row(1)), kept, SumRows::kLower, window.samples, rows.lower[0]);
   }
 
   WindowKernel AsKernel() const {
@@ -155,38 +162,26 @@ struct IntegerSums {
   }
 
  private:
-  void Across(const RowRoom<L>& kept, ptrdiff_t samples, const ResultRows& rows) const {
-    const bool isSingle = rows.lower[0] == rows.upper[0];
-    if (across.levels() == 0) {  // both rows of sums have the same parts
-      const auto parts = PartsAcross<L>(across, kept.Row(SumRows::kUpper), shape.channels, samples, kept);
-      PutRow(parts, 0, samples, rows.upper[0]);
-      if (!isSingle) PutRow(parts, kept.Row(SumRows::kLower) - kept.Row(SumRows::kUpper), samples, rows.lower[0]);
-    } else {
-      AcrossMany(kept.Row(SumRows::kUpper), samples, kept.From(SumRows::kLevels), rows.upper[0]);
-      if (!isSingle) AcrossMany(kept.Row(SumRows::kLower), samples, kept.From(SumRows::kLevels), rows.lower[0]);
-    }
-  }
-
-  // As differences of running totals. Those of three channels take as long for any lanes, and trees of few do not.
-  HWY_NOINLINE void AcrossMany(const L* sums, ptrdiff_t samples, const RowRoom<L>& room, uint8_t* row) const {
+  // As differences of running totals if there are many. Those of three channels take as long for any lanes, and trees
+  // of few do not.
+  HWY_NOINLINE void Across(const Finish& of, const RowRoom<L>& kept, ptrdiff_t sums, ptrdiff_t samples,
+                           uint8_t* row) const {
+    const RowRoom<L> room = kept.From(SumRows::kLevels);
     if constexpr (std::is_integral_v<L>) {
-      if (shape.channels != 3 || sizeof(L) == sizeof(int32_t)) return AcrossByTotals(sums, samples, room.Row(0), row);
+      const bool isMany = across.levels() > 0;
+      if (isMany && (shape.channels != 3 || sizeof(L) == sizeof(int32_t)))
+        return AcrossByTotals(of, kept.Row(sums), samples, room.Row(0), row);
     }
-    PutRow(PartsAcross<L>(across, sums, shape.channels, samples, room), 0, samples, row);
+    FinishRow<L>(of, PartsAcross<L>(across, kept.Row(sums), shape.channels, samples, room), samples, row);
   }
-  HWY_NOINLINE void PutRow(const TreeParts<L>& parts, ptrdiff_t first, ptrdiff_t samples, uint8_t* row) const {
-    FinishRow<L>(finish, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
-      return TreeSums<count>(hn::ScalableTag<L>(), parts, first + i);
-    });
-  }
-  void AcrossByTotals(const L* sums, ptrdiff_t samples, L* totals, uint8_t* row) const {
+  void AcrossByTotals(const Finish& of, const L* sums, ptrdiff_t samples, L* totals, uint8_t* row) const {
     const hn::ScalableTag<L> d;
     const ptrdiff_t apart = shape.width * shape.channels;
     const ptrdiff_t n = shape.Columns(samples);
     shape.channels == 1   ? AddUp<1>(sums, n, totals)
     : shape.channels == 3 ? AddUpThrees(sums, n, totals)
                           : AddUp<4>(sums, n, totals);
-    FinishRow<L>(finish, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
+    FinishRow<L>(of, samples, row, [&](auto count, ptrdiff_t i) QVP_INLINED {
       return Differences<count>(d, totals + i, totals + i + apart);
     });
   }

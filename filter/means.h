@@ -77,7 +77,7 @@ struct ByteMeans {
   explicit ByteMeans(int64_t n) : mean(static_cast<uint32_t>(n)) {}
 
   template <int kCount, class D>
-  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, uint8_t* to) const {
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, ptrdiff_t, uint8_t* to) const {
     std::array<hn::Vec<D>, kCount> means;
     Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = mean.template Of<kIsOdd>(d, sums[v]); });
     StoreNarrow<uint8_t, kCount>(d, means, to);
@@ -102,7 +102,7 @@ struct IntegerMeans {
   explicit IntegerMeans(int64_t count) : n(static_cast<int32_t>(count)), reciprocal(1 / static_cast<float>(count)) {}
 
   template <int kCount, class D>
-  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, T* to) const {
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, ptrdiff_t, T* to) const {
     std::array<hn::Vec<D>, kCount> means;
     Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = Mean(d, sums[v]); });
     StoreNarrow<T, kCount>(d, means, to);
@@ -131,7 +131,7 @@ struct DoubleMeans {
   double n;
 
   template <int kCount, class D>
-  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, T* to) const {
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, ptrdiff_t, T* to) const {
     std::array<hn::Vec<D>, kCount> means;
     Unrolled<kCount>([&](auto v) QVP_INLINED { means[v] = hn::Round(hn::Div(sums[v], hn::Set(d, n))); });
     StoreNarrow<T, kCount>(d, means, to);
@@ -145,7 +145,7 @@ struct FloatMeans {
   float n;
 
   template <int kCount, class D>
-  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, float* to) const {
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, ptrdiff_t, float* to) const {
     Unrolled<kCount>([&](auto v)
                          QVP_INLINED { hn::StoreU(hn::Div(sums[v], hn::Set(d, n)), d, to + v * hn::MaxLanes(d)); });
   }

@@ -2,7 +2,8 @@
 //
 //   Finish::Result                       the type of results
 //   Finish::kVectors                     vectors of sums that it takes at a time
-//   finish.Store<kCount>(d, sums, to)    stores the results of so many vectors, or of one
+//   finish.Store<kCount>(d, sums, i, to) stores the results of so many vectors, or of one, from result i of a row on
+//   finish.Over(pixels)                  if there is one: the finish of a row of results that lie over these pixels
 #pragma once
 
 #include "filter/sum_tree.h"
@@ -29,7 +30,17 @@ HWY_INLINE void FinishRow(const Finish& shared, ptrdiff_t n, uint8_t* row, const
   const Finish finish = shared;
   MakeRow<Finish::kVectors, ptrdiff_t{hn::MaxLanes(d)}>(
       n, reinterpret_cast<Result*>(row),
-      [&](auto count, ptrdiff_t i, Result* to) QVP_INLINED { finish.template Store<count>(d, sums(count, i), to); });
+      [&](auto count, ptrdiff_t i, Result* to) QVP_INLINED { finish.template Store<count>(d, sums(count, i), i, to); });
+}
+
+// The finish of a row, if it looks at pixels.
+template <class Finish>
+Finish FinishOver(const Finish& finish, [[maybe_unused]] const void* pixels) {
+  if constexpr (requires { finish.Over(pixels); }) {
+    return finish.Over(pixels);
+  } else {
+    return finish;
+  }
 }
 
 template <class E, class Finish>

@@ -10,7 +10,7 @@ struct AsFloats {
   static constexpr int kVectors = 4;
 
   template <int kCount, class D>
-  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, float* to) const {
+  HWY_INLINE void Store(D d, const std::array<hn::Vec<D>, kCount>& sums, ptrdiff_t, float* to) const {
     Unrolled<kCount>([&](auto v) QVP_INLINED { Put(d, sums[v], to + v * ptrdiff_t{hn::MaxLanes(D())}); });
   }
 

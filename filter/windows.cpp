@@ -79,11 +79,11 @@ class Block {
 
   // The rows of results from y on, after those above.
   void Filter(ptrdiff_t y) {
+    window_.y = y;
     if (y > 0) Advance();
     const bool isSingle = y + kernel_.rowsAtOnce > windows_.roi.height || kernel_.rowsAtOnce == 1;
     const ResultRows rows = NextRows(isSingle);
     if (isNarrow_) FetchNext();
-    window_.y = y;
     if (!KeepsAlpha(windows_.outputs[0].layout)) return kernel_.down(kernel_.context, window_, rows);
     ResultRows colours{};
     colours.upper[0] = colours_[0];
@@ -172,9 +172,25 @@ class Block {
         pointers_[line] = source_.Line(next_, reinterpret_cast<E*>(room_));
         continue;
       }
-      kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, SamplesAcross());
       pointers_[line] = room_;
+      if (windows_.isInPlace && HasResults(next_)) {
+        CopyLine(line);
+      } else {
+        kernel_.across(kernel_.context, source_.Line(next_, stage_), room_, SamplesAcross());
+      }
     }
+  }
+
+  // Whether the row that stands for row y has been overwritten.
+  bool HasResults(ptrdiff_t y) const {
+    const ptrdiff_t row = BorderPosition(windows_.src.kind, y, windows_.src.rows);
+    return row >= 0 && row < window_.y;
+  }
+  // From the line of the row that stands for it. Above a border that reflects it is in the window, as the reflection of
+  // a row below the last results is no farther above them; the line behind a single last row is not used.
+  void CopyLine(ptrdiff_t line) {
+    const ptrdiff_t row = BorderPosition(windows_.src.kind, next_, windows_.src.rows), from = line - (next_ - row);
+    if (from >= 0) std::memcpy(room_, pointers_[from], WindowLineBytes());
   }
 
   const Windows<T>& windows_;
@@ -200,7 +216,7 @@ int64_t MaskHeight(const Reach& reach) { return reach.above + reach.below + 1; }
 // Lines of the source are its rows but for the columns that reach the border. False if they would not stay in the
 // second-level cache, or the work buffer is too small for both edges together.
 template <class T>
-bool FilterInPlace(const Windows<T>& windows, const WindowKernel& kernel) {
+bool FilterRowsThemselves(const Windows<T>& windows, const WindowKernel& kernel) {
   const Reach& reach = windows.reach;
   const ptrdiff_t width = windows.roi.width, edge = std::max<ptrdiff_t>(kFewestInPlace, MaskWidth(reach));
   const int64_t lineBytes = int64_t{width} * windows.src.image.PixelBytes(),
@@ -231,7 +247,8 @@ void FilterBlocks(const Windows<T>& windows, const WindowKernel& kernel) {
   const ptrdiff_t width = windows.roi.width;
   const int64_t columnBytes =
       BytesOfColumn(MaskHeight(reach), windows.src.channels(), kernel.elementBytes, kernel.kept).value();
-  const int64_t most = std::max({kernel.cacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
+  const int64_t fitting = std::max({kernel.cacheBytes / columnBytes, 4 * MaskWidth(reach), kFewestColumns});
+  const int64_t most = windows.isInPlace ? int64_t{width} : fitting;  // a block would read results of the one before it
   const int64_t blocks = (width + most - 1) / most;
   for (int64_t b = 0; b < blocks; ++b) {
     Block<T, E> block(windows, kernel,
@@ -263,7 +280,7 @@ template <class T, class E>
 void FilterWindows(const Windows<T>& windows, const WindowKernel& kernel) {
   if constexpr (std::is_same_v<T, E>) {
     const bool isWorthEdges = !kernel.across || sizeof(T) == 4;  // those of less are copied sooner than cut in three
-    if (isWorthEdges && !kernel.isBare && FilterInPlace(windows, kernel)) return;
+    if (isWorthEdges && !kernel.isBare && !windows.isInPlace && FilterRowsThemselves(windows, kernel)) return;
   }
   FilterBlocks<T, E>(windows, kernel);
 }

@@ -32,6 +32,8 @@ struct Window {
 
 // Bytes of the caches that blocks of columns are made for.
 inline constexpr int64_t kNearestCacheBytes = 16384, kSecondCacheBytes = 1 << 19;
+// One block has all columns.
+inline constexpr int64_t kWholeRows = int64_t{1} << 60;
 
 // Lines of floats are read once for two rows of results, for which the second cache is quick enough; the longer the
 // rows, the better are the image's read and written.
@@ -86,6 +88,10 @@ struct Windows {
   Reach reach;
   std::array<Bytes, kMostOutputs> outputs;  // an AC4 image keeps its alpha
   uint8_t* buffer;
+
+  // The results take the place of the source. The filter makes lines of its own of each row, which stay in the window
+  // where the image has results already.
+  bool isInPlace = false;
 };
 
 // Bytes of the work buffer for regions up to a width, from any address on; they grow with each argument.

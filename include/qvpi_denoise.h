@@ -1,5 +1,5 @@
 /** @file qvpi_denoise.h
- *  Filters that remove noise and keep edges.
+ *  Filters that remove noise and keep edges, and thresholds by what is around each pixel.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -529,6 +529,152 @@ QvpStatus qvpiFilterWienerBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f
 QvpStatus qvpiFilterWienerBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiFilterWienerBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[4], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiFilterWienerBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Threshold by the mean around each pixel: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of qvpiThresholdLocalBoxBorder.
+ *
+ *  The buffer serves smaller masks, too, and all borders, also in place. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask: odd, 1 to 1023
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 1023
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiThresholdLocalBoxBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int* pBufferSize);
+/** @} */
+
+/** @name Threshold by the mean around each pixel
+ *  @{ */
+/** Compares each pixel with the mean under a mask around it: for scans, labels and cells under uneven light.
+ *
+ *  @code
+ *    dst = src > mean - delta ? valueGT : valueLE
+ *  @endcode
+ *
+ *  A mask should be a few times as large as what is looked for; `delta` keeps noise on even ground from being taken for
+ *  it: with the ground in `valueGT`, dark marks are those more than `delta` below their surroundings.
+ *
+ *  Nothing is rounded for integers: n * src - sum > -n * delta is decided exactly, with the sum of the n pixels under the
+ *  mask. Floats are compared in double precision, (n * src) > sum - n * delta, with sums along rows, then down columns, in
+ *  the order that qvpiFilterBoxBorder has; where a NaN is under the mask, the result is `valueLE`. Under a mask of 3x1 with
+ *  replicated edges, delta 0.1, 10 20 30 40 50 60 gives valueLE at first and valueGT for all others.
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. In place, which keeps what it needs of the source in the buffer, neighbouring tiles of one
+ *  image would read each other's results. Otherwise the destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask: odd, 1 to 1023; its middle is at the pixel
+ *  @param delta what a pixel may be below the mean; finite
+ *  @param valueGT,valueLE results for pixels above their threshold, and for all others
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue the value beyond the image; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiThresholdLocalBoxBorderGetBufferSize() tells for this or a larger mask
+ *         and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusBadArgument: `delta` is not finite
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiThresholdLocalBoxBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp8u valueGT, Qvp8u valueLE, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalBoxBorder_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp8u valueGT, Qvp8u valueLE, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalBoxBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp16u valueGT, Qvp16u valueLE, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalBoxBorder_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp16u valueGT, Qvp16u valueLE, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalBoxBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp32f valueGT, Qvp32f valueLE, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalBoxBorder_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f delta, Qvp32f valueGT, Qvp32f valueLE, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Threshold by the Gauss mean around each pixel: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of qvpiThresholdLocalGaussBorder.
+ *
+ *  The buffer serves smaller masks, too, and all sigmas and borders, also in place. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask: odd, 1 to 1023
+ *  @param roiSize size of the region in pixels; the buffer serves smaller regions too
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 1023
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiThresholdLocalGaussBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int* pBufferSize);
+/** @} */
+
+/** @name Threshold by the Gauss mean around each pixel
+ *  @{ */
+/** Compares each pixel with the mean around it, in which near pixels count for more: for scans, labels and cells under
+ *  uneven light whose shadows have edges.
+ *
+ *  @code
+ *    dst = src > mean - delta ? valueGT : valueLE
+ *    mean = sum of w(i) * w(j) * src(x + i, y + j),  w(i) proportional to exp(-i^2 / (2 * sigma^2)), sum of all w is 1
+ *  @endcode
+ *
+ *  The mean is that of qvpiFilterGaussBorder with the same sigma on both axes, without its last rounding. For bytes the
+ *  weights have 14 to 17 bits, so that w(0) fits 15, and filtered rows are rounded to 1/64; the mean is within 0.01 of the
+ *  exact one on pictures, and within 0.2 for the worst of images. Nothing is rounded after
+ *  that. 16-bit numbers and floats are weighed and compared as floats, src > mean - delta; where a NaN
+ *  is under the mask, the result is `valueLE`. 200 among 10 has a mean of 61.779 under a mask of 3x3 with a sigma of 0.8.
+ *
+ *  A mask of 3 * sigma to either side holds nearly all weight. `delta` keeps noise on even ground from being taken for a
+ *  mark, as for qvpiThresholdLocalBoxBorder().
+ *
+ *  Pixels outside of the region are what the border type says: memory on the sides whose flag is set, as far as the
+ *  mask reaches; the kind is applied outside of the region so enlarged. Tiles that are joined by these flags give the
+ *  bits of the whole image. In place, which keeps what it needs of the source in the buffer, neighbouring tiles of one
+ *  image would read each other's results. Otherwise the destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source, at the first pixel of the region
+ *  @param pDst,dstStep destination
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask: odd, 1 to 1023; its middle is at the pixel
+ *  @param sigma of the Gauss function, in pixels; above 0 and finite
+ *  @param delta what a pixel may be below the mean; finite
+ *  @param valueGT,valueLE results for pixels above their threshold, and for all others
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with flags of sides in memory, or
+ *         qvpBorderInMem
+ *  @param borderValue the value beyond the image; read for qvpBorderConst only
+ *  @param pBuffer work buffer of the size that qvpiThresholdLocalGaussBorderGetBufferSize() tells for this or a larger mask
+ *         and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null, or `borderValue` for qvpBorderConst
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusBadArgument: `sigma` is not above 0 or not finite, or `delta` is not finite
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiThresholdLocalGaussBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp8u valueGT, Qvp8u valueLE, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalGaussBorder_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp8u valueGT, Qvp8u valueLE, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalGaussBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp16u valueGT, Qvp16u valueLE, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalGaussBorder_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp16u valueGT, Qvp16u valueLE, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalGaussBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp32f valueGT, Qvp32f valueLE, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiThresholdLocalGaussBorder_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f sigma, Qvp32f delta, Qvp32f valueGT, Qvp32f valueLE, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 /** @} */
 
 #ifdef __cplusplus

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "tests/support/bordered.h"
+#include "tests/support/gauss.h"
 
 namespace {
 using test::Block;
@@ -223,67 +224,20 @@ Prepared PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& nam
   return prepared;
 }
 
-// From the middle on.
-std::vector<double> Weights(int size, double sigma) {
-  std::vector<double> w;
-  double sum = 0;
-  for (int d = 0; d <= size / 2; ++d) w.push_back(std::exp(-d * double(d) / (2 * sigma * sigma)));
-  for (int d = size / 2; d > 0; --d) sum += w[d];
-  const double all = w[0] + 2 * sum;
-  for (double& v : w) v /= all;
-  return w;
-}
-
-struct WholeTaps {
-  int bits;
-  std::vector<int64_t> taps;
-};
-WholeTaps WholeWeights(int size, double sigma) {
-  const std::vector<double> w = Weights(size, sigma);
-  for (int bits = 17;; --bits) {
-    std::vector<int64_t> q(w.size());
-    double error = 0;
-    q[0] = 1 << bits;
-    for (size_t d = w.size() - 1; d > 0; --d) {
-      const double v = w[d] * (1 << bits) + error;
-      q[d] = std::llrint(v);
-      error = v - q[d];
-      q[0] -= 2 * q[d];
-    }
-    if (q[0] <= 32767) return {bits, q};
-  }
-}
-
-template <class F, class Tap, class Value>
-F FoldedSum(const std::vector<Tap>& taps, const Value& value) {
-  volatile F sum = static_cast<F>(taps[0]) * static_cast<F>(value(0));
-  for (int d = 1; d < static_cast<int>(taps.size()); ++d) {
-    const volatile F pair = static_cast<F>(value(d)) + static_cast<F>(value(-d));
-    const volatile F product = static_cast<F>(taps[d]) * pair;
-    sum = sum + product;
-  }
-  return sum;
-}
-
 void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigmaY, const Region& r) {
   const Name name(function.name);
   const Element& element = name.From();
-  const WholeTaps across = WholeWeights(mask.width, sigmaX), down = WholeWeights(mask.height, sigmaY);
+  const test::WholeTaps across = test::WholeWeights(mask.width, sigmaX), down = test::WholeWeights(mask.height, sigmaY);
   const auto floats = [](const std::vector<double>& w) { return std::vector<float>(w.begin(), w.end()); };
-  const std::vector<float> x = floats(Weights(mask.width, sigmaX)), y = floats(Weights(mask.height, sigmaY));
+  const std::vector<float> x = floats(test::Weights(mask.width, sigmaX)),
+                           y = floats(test::Weights(mask.height, sigmaY));
   const Bordered scene(element, test::ReachOf(mask), r);
   const Prepared prepared = PrepareGauss(mask, sigmaX, sigmaY, name, r.size);
   const auto expected = [&](const auto& pixel) -> Real {
     if (element.bytes == 1) {
-      const auto row = [&](int j) {
-        const auto sum = FoldedSum<int64_t>(across.taps, [&](int i) { return pixel(i, j); });
-        return (sum + (int64_t{1} << (across.bits - 7))) >> (across.bits - 6);
-      };
-      return (FoldedSum<int64_t>(down.taps, row) + (int64_t{1} << (down.bits + 5))) >> (down.bits + 6);
+      return (test::SumOfBytes(across, down, pixel) + (int64_t{1} << (down.bits + 5))) >> (down.bits + 6);
     }
-    const float sum =
-        FoldedSum<float>(y, [&](int j) { return FoldedSum<float>(x, [&](int i) { return pixel(i, j); }); });
-    return test::Converted(element, sum);
+    return test::Converted(element, test::SumOfFloats(x, y, pixel));
   };
   test::ExpectWindows(function, scene, FilterAll(function, scene, prepared), expected, test::Shown(mask));
 }
@@ -302,9 +256,9 @@ TEST(FilterGauss, EveryMemberEqualsItsFormula) {
 }
 
 TEST(FilterGauss, KnownWeightsAndPictures) {
-  EXPECT_EQ(WholeWeights(3, 0.8f).taps, (std::vector<int64_t>{17106, 7831}));
-  EXPECT_EQ(WholeWeights(5, 1.1f).taps, (std::vector<int64_t>{24218, 16021, 4638}));
-  const WholeTaps wide = WholeWeights(15, 2.5);
+  EXPECT_EQ(test::WholeWeights(3, 0.8f).taps, (std::vector<int64_t>{17106, 7831}));
+  EXPECT_EQ(test::WholeWeights(5, 1.1f).taps, (std::vector<int64_t>{24218, 16021, 4638}));
+  const test::WholeTaps wide = test::WholeWeights(15, 2.5);
   EXPECT_EQ(wide.bits, 17);
   EXPECT_EQ(wide.taps[0], 20970);
   const Export& function = FunctionNamed("qvpiFilterGaussBorder_8u_C1R");

@@ -1,0 +1,245 @@
+// Thresholds by local means against their definition.
+#include <cmath>
+
+#include "tests/support/bordered.h"
+#include "tests/support/gauss.h"
+
+namespace {
+using test::Bordered;
+using test::Export;
+using test::Name;
+using test::Part;
+using test::Prepared;
+using test::Real;
+
+// A sigma of 0 stands for the mean under a box.
+struct Demand {
+  QvpiSize mask;
+  float delta, sigma = 0;
+  Real above = 200, others = 7;
+
+  std::string name(const std::string& end) const {
+    return std::string("qvpiThresholdLocal") + (sigma > 0 ? "Gauss" : "Box") + "Border_" + end;
+  }
+};
+
+Prepared Buffer(const Name& name, const Demand& demand, QvpiSize roi) {
+  const QvpiSize mask = demand.mask;
+  int bytes = 0;
+  const auto query =
+      demand.sigma > 0 ? qvpiThresholdLocalGaussBorderGetBufferSize : qvpiThresholdLocalBoxBorderGetBufferSize;
+  EXPECT_EQ(query(mask, roi, name.From().code, &bytes), 0);
+  EXPECT_LE(bytes, 192LL * (mask.height + 4) * (roi.width + mask.width) + (1 << 20));
+  return Prepared(bytes);
+}
+
+QvpStatus Apply(const Export& function, const Bordered& scene, const Demand& demand, const Part& part,
+                const test::Argument& dst) {
+  return test::Filter(function, scene, part, Buffer(Name(function.name), demand, part.size),
+                      {{"pDst", dst},
+                       {"pSrcDst", {scene.At(part.x, part.y), scene.image.step()}},
+                       {"maskSize", demand.mask},
+                       {"sigma", demand.sigma},
+                       {"delta", demand.delta},
+                       {"valueGT", static_cast<double>(demand.above)},
+                       {"valueLE", static_cast<double>(demand.others)}});
+}
+
+// Exact for integers; sums of floats in double, in the order of the tree.
+bool IsAboveBoxMean(bool isInteger, const Demand& demand, const auto& pixel) {
+  const QvpiSize m = demand.mask;
+  const double n = double(m.width) * m.height;
+  const auto at = [&](int i, int j) { return pixel(i - m.width / 2, j - m.height / 2); };
+  if (isInteger) {
+    int64_t sum = 0;
+    for (int j = 0; j < m.height; ++j) {
+      for (int i = 0; i < m.width; ++i) sum += static_cast<int64_t>(at(i, j));
+    }
+    return n * static_cast<Real>(pixel(0, 0)) - sum > -n * static_cast<Real>(demand.delta);
+  }
+  const double sum = test::TreeSum<double>(m.height, [&](int j) {
+    return test::TreeSum<double>(m.width, [&](int i) { return static_cast<double>(at(i, j)); });
+  });
+  const volatile double bound = sum - n * demand.delta, product = n * static_cast<double>(pixel(0, 0));
+  return product > bound;
+}
+
+// Of bytes exact after the rounding of rows; else in floats.
+bool IsAboveGaussMean(bool isByte, const Demand& demand, const auto& pixel) {
+  if (isByte) {
+    const test::WholeTaps down = test::WholeWeights(demand.mask.height, demand.sigma);
+    const int64_t sum = test::SumOfBytes(test::WholeWeights(demand.mask.width, demand.sigma), down, pixel);
+    const int64_t unit = int64_t{1} << (down.bits + 6);
+    return static_cast<Real>(unit * static_cast<int64_t>(pixel(0, 0)) - sum) > -static_cast<Real>(demand.delta) * unit;
+  }
+  const auto weights = [&](int side) {
+    const std::vector<double> exact = test::Weights(side, demand.sigma);
+    return std::vector<float>(exact.begin(), exact.end());
+  };
+  const volatile float mean = test::SumOfFloats(weights(demand.mask.width), weights(demand.mask.height), pixel);
+  const volatile float bound = mean - demand.delta;
+  return static_cast<float>(pixel(0, 0)) > bound;
+}
+
+void Check(const std::string& types, const Demand& demand, const Bordered& scene) {
+  const Export& function = test::FunctionNamed(demand.name(types + "_C1R"));
+  const Export& inPlace = test::FunctionNamed(demand.name(types + "_C1IR"));
+  const Name name(function.name);
+  const QvpiSize size = scene.region.size;
+  test::ExpectWindows(
+      function, scene,
+      [&](const test::Argument& dst) { return Apply(function, scene, demand, test::WholeOf(scene), dst); },
+      [&](const auto& pixel) {
+        const bool isAbove = demand.sigma > 0 ? IsAboveGaussMean(types == "8u", demand, pixel)
+                                              : IsAboveBoxMean(name.From().isInteger, demand, pixel);
+        return isAbove ? demand.above : demand.others;
+      },
+      test::Shown(demand.mask) + " delta " + std::to_string(demand.delta));
+  const test::Samples out(name.To(), size.width, size.height, 0);
+  ASSERT_EQ(Apply(function, scene, demand, test::WholeOf(scene), out), 0);
+  ASSERT_EQ(Apply(inPlace, scene, demand, test::WholeOf(scene), {}), 0);
+  for (int i = 0; i < size.width * size.height; ++i) {
+    const int x = i % size.width, y = i / size.width;
+    ASSERT_EQ(scene.element().read(scene.At(x, y)), out(x, y))
+        << inPlace.name << " mask " << test::Shown(demand.mask) << " border " << scene.region.border << " at " << x
+        << ',' << y;
+  }
+}
+
+TEST(LocalThreshold, EveryMemberEqualsItsDefinition) {
+  constexpr QvpiSize kMasks[] = {{1, 1}, {3, 3}, {5, 3}, {1, 9}, {15, 1}, {15, 17}, {17, 15}, {7, 31}, {31, 7}};
+  constexpr float kDeltas[] = {0, 0.1f, -0.1f, 3, -3, 1000, -1000, 1e30f, -1e30f};
+  constexpr float kSigmas[] = {0, 0.3f, 1.5f, 30};
+  int turn = 0;
+  for (const char* const types : {"8u", "16u", "32f"}) {
+    for (const QvpiSize mask : kMasks) {
+      for (int i = 0; i < 18; ++i) {
+        ++turn;
+        test::Region r = test::RegionOf(turn, 1);
+        if (mask.width * mask.height > 50) r.size.width = std::min(r.size.width, 60);
+        Bordered scene(test::ElementOf(types), test::ReachOf(mask), r);
+        if (turn % 2) {  // close to the mean
+          scene.image.Fill([&](int x, int y) { return 100 + (x * 7 + y * 5) % 11 / 4; });
+        } else if (types == std::string("32f") && turn % 4 == 0) {
+          test::Random random(turn);
+          scene.image.Fill([&](int, int) {
+            return random.Next() % 50 ? Real(random.Next() % 100) : EdgeValue(scene.element(), random);
+          });
+        }
+        Check(types, {mask, kDeltas[(turn + turn / 9) % 9], kSigmas[(turn / 2 + turn / 8) % 4]}, scene);
+      }
+    }
+  }
+}
+
+// Sums and bounds at the ends of the lanes; masks that are larger than the image.
+TEST(LocalThreshold, LargeMasks) {
+  for (const auto& [types, high] : {std::pair{"8u", 255}, {"16u", 65535}}) {
+    for (const QvpiSize mask : {QvpiSize{255, 1}, {1, 257}, {181, 181}, {183, 181}, {301, 99}}) {
+      for (int pattern = 0; pattern < 3; ++pattern) {
+        Bordered scene(test::ElementOf(types), {}, {{9, 4}, 1, pattern == 2 ? qvpBorderMirror : qvpBorderReplicate});
+        scene.image.Fill([&, h = high](int x, int y) {
+          return pattern == 0 ? h : (x + y) % 2 ? h : pattern == 1 ? 0 : h - 1;
+        });
+        constexpr float kDeltas[] = {0, 0.00001f, -40000};
+        Check(types, {mask, kDeltas[pattern]}, scene);
+        if (mask.width > 200) Check(types, {mask, kDeltas[pattern], 60}, scene);
+      }
+    }
+  }
+}
+
+TEST(LocalThreshold, KnownValues) {
+  const auto filtered = [](const Demand& demand, int width, auto value) {
+    Bordered scene(test::ElementOf("8u"), {}, {{width, 1}, 1, qvpBorderReplicate});
+    scene.image.Fill([&](int x, int) { return value(x); });
+    const test::Samples dst(test::ElementOf("8u"), width, 1, 0);
+    EXPECT_EQ(Apply(test::FunctionNamed(demand.name("8u_C1R")), scene, demand, test::WholeOf(scene), dst), 0);
+    std::vector<int> values;
+    for (int x = 0; x < width; ++x) values.push_back(dst(x, 0) > 0);
+    return values;
+  };
+  const auto rising = [&](float delta) {
+    return filtered({{3, 1}, delta, 0, 255, 0}, 6, [](int x) { return 10 + 10 * x; });
+  };
+  EXPECT_EQ(rising(0), (std::vector<int>{0, 0, 0, 0, 0, 1}));
+  EXPECT_EQ(rising(0.1f), (std::vector<int>{0, 1, 1, 1, 1, 1}));
+  EXPECT_EQ(rising(-3), (std::vector<int>{0, 0, 0, 0, 0, 1}));
+  for (const float sigma : {0.0f, 2.0f}) {
+    const auto even = [&](float delta) { return filtered({{5, 3}, delta, sigma, 255, 0}, 1, [](int) { return 77; }); };
+    EXPECT_EQ(even(0), std::vector<int>{0});
+    EXPECT_EQ(even(0.1f), std::vector<int>{1});
+    EXPECT_EQ(even(-0.1f), std::vector<int>{0});
+  }
+  const auto peak = [&](float delta) {  // the weights are 0.2389 and 0.5221
+    return filtered({{3, 1}, delta, 0.8f, 255, 0}, 3, [](int x) { return x == 1 ? 200 : 10; });
+  };
+  EXPECT_EQ(peak(45.3f), (std::vector<int>{0, 1, 0}));  // means of 55.4 and 109.2
+  EXPECT_EQ(peak(45.5f), (std::vector<int>{1, 1, 1}));
+  EXPECT_EQ(peak(-90.7f), (std::vector<int>{0, 1, 0}));
+  EXPECT_EQ(peak(-90.9f), (std::vector<int>{0, 0, 0}));
+}
+
+TEST(LocalThreshold, TilesEqualTheWhole) {
+  for (const auto& [types, sigma] : {std::pair{"8u", 0.0f}, {"32f", 0.0f}, {"8u", 3.0f}, {"16u", 3.0f}}) {
+    const Demand demand{{21, 19}, 2.5f, sigma};
+    const Export& function = test::FunctionNamed(demand.name(types + std::string("_C1R")));
+    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+      const Bordered scene(test::ElementOf(types), {}, {{1500, 50}, 1, kind});
+      test::ExpectTilesEqualTheWhole(scene, {70, 25}, [&](const Part& part, const test::Argument& dst) {
+        return Apply(function, scene, demand, part, dst);
+      });
+    }
+  }
+}
+
+TEST(LocalThreshold, QueriesRefuseInTheDocumentedOrder) {
+  for (const auto query : {qvpiThresholdLocalBoxBorderGetBufferSize, qvpiThresholdLocalGaussBorderGetBufferSize}) {
+    int bytes = 1;
+    EXPECT_EQ(query({}, {}, 0, nullptr), qvpStatusNullPointer);
+    EXPECT_EQ(query({}, {1, 0}, 0, &bytes), qvpStatusSize);
+    EXPECT_EQ(query({3, 1025}, {1, 1}, 99, &bytes), qvpStatusMaskSize);
+    EXPECT_EQ(query({2, 3}, {1, 1}, 0, &bytes), qvpStatusMaskSize);
+    EXPECT_EQ(query({1023, 1023}, {1, 1}, qvp16s, &bytes), qvpStatusDataType);
+    EXPECT_EQ(query({1023, 1023}, {INT_MAX, 1}, qvp32f, &bytes), qvpStatusSizeOverflow);
+    for (const int type : {qvp8u, qvp16u, qvp32f}) {
+      int before = 0;
+      for (int side = 1; side <= 1023; side += side < 60 ? 2 : 58) {
+        ASSERT_EQ(query({side, side}, {3000, 10}, type, &bytes), 0);
+        EXPECT_LE(std::exchange(before, bytes), bytes) << side;
+      }
+    }
+  }
+}
+
+TEST(LocalThreshold, RefusesInTheDocumentedOrder) {
+  const test::Block work(1 << 20);
+  Qvp8u pixels[64] = {}, out[64];
+  const auto gauss = [&](int step, QvpiSize roi, QvpiSize mask, float sigma, float delta, int border) {
+    return qvpiThresholdLocalGaussBorder_8u_C1R(pixels, 8, out, step, roi, mask, sigma, delta, 1, 2, border, nullptr,
+                                                work.data());
+  };
+  const auto box = [&](int step, QvpiSize roi, QvpiSize mask, float, float delta, int border) {
+    return qvpiThresholdLocalBoxBorder_8u_C1R(pixels, 8, out, step, roi, mask, delta, 1, 2, border, nullptr,
+                                              work.data());
+  };
+  const auto check = [](const auto& threshold) {
+    EXPECT_EQ(threshold(0, {}, {}, 1, NAN, qvpBorderConst), qvpStatusNullPointer);
+    EXPECT_EQ(threshold(0, {}, {}, 1, NAN, 99), qvpStatusSize);
+    EXPECT_EQ(threshold(7, {8, 2}, {}, 1, NAN, 99), qvpStatusStep);
+    EXPECT_EQ(threshold(8, {8, 2}, {4, 3}, 1, NAN, 99), qvpStatusMaskSize);
+    EXPECT_EQ(threshold(8, {8, 2}, {3, 3}, 1, NAN, 99), qvpStatusBadArgument);
+    EXPECT_EQ(threshold(8, {8, 2}, {3, 3}, 1, INFINITY, 99), qvpStatusBadArgument);
+    EXPECT_EQ(threshold(8, {8, 2}, {3, 3}, 1, 1, qvpBorderReplicateAlt), qvpStatusBorder);
+    EXPECT_EQ(threshold(8, {8, 2}, {3, 3}, 1, 1, qvpBorderMirror), 0);
+  };
+  check(box);
+  check(gauss);
+  for (const float sigma : {0.0f, -1.0f, NAN, INFINITY}) {
+    EXPECT_EQ(gauss(8, {8, 2}, {3, 3}, sigma, 1, 99), qvpStatusBadArgument) << sigma;
+  }
+  EXPECT_EQ(qvpiThresholdLocalBoxBorder_8u_C1IR(nullptr, 8, {}, {}, 1, 1, 2, 1, nullptr, work.data()),
+            qvpStatusNullPointer);
+}
+
+}  // namespace
