@@ -51,6 +51,48 @@ void AddWiener(const std::string& name, QvpiSize size, int side, Call call, doub
          atLeast}}});
 }
 
+// The peer rounds means first. It takes one side for both axes, and for Gauss the sigma that it finds from the side.
+template <class Call>
+void AddLocalThreshold(const std::string& name, QvpiSize size, int side, bool isGauss, Call call, double atLeast) {
+  const Image<uint8_t> a = Scene<uint8_t>(size, 1), b(size, 1);
+  int bytes;
+  Require((isGauss ? qvpiThresholdLocalGaussBorderGetBufferSize : qvpiThresholdLocalBoxBorderGetBufferSize)(
+      {side, side}, size, qvp8u, &bytes));
+  const auto buffer = Pixels<Qvp8u>(bytes);
+  const int method = isGauss ? cv::ADAPTIVE_THRESH_GAUSSIAN_C : cv::ADAPTIVE_THRESH_MEAN_C;
+  Add({Name(name, size),
+       {a.bytes(), b.bytes()},
+       [=] {
+         Require(call(a, b, size, QvpiSize{side, side}, buffer.get()));
+       },
+       {{"OpenCV adaptiveThreshold",
+         [=] { cv::adaptiveThreshold(a.mat, b.mat, 255, method, cv::THRESH_BINARY, side, 3); }, atLeast}}});
+}
+
+void AddLocalThresholds() {
+  using Bytes = Image<uint8_t>;
+  const auto box = [](const Bytes& a, const Bytes& b, QvpiSize size, QvpiSize mask, Qvp8u* buffer) {
+    return qvpiThresholdLocalBoxBorder_8u_C1R(a.data(), a.step, b.data(), b.step, size, mask, 3, 255, 0, kBorder,
+                                              nullptr, buffer);
+  };
+  const auto inPlace = [](const Bytes&, const Bytes& b, QvpiSize size, QvpiSize mask, Qvp8u* buffer) {
+    return qvpiThresholdLocalBoxBorder_8u_C1IR(b.data(), b.step, size, mask, 3, 255, 0, kBorder, nullptr, buffer);
+  };
+  const auto gauss = [](const Bytes& a, const Bytes& b, QvpiSize size, QvpiSize mask, Qvp8u* buffer) {
+    const float sigma = 0.3f * (static_cast<float>(mask.width - 1) * 0.5f - 1) + 0.8f;
+    return qvpiThresholdLocalGaussBorder_8u_C1R(a.data(), a.step, b.data(), b.step, size, mask, sigma, 3, 255, 0,
+                                                kBorder, nullptr, buffer);
+  };
+  for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
+    AddLocalThreshold("local threshold box 15 8u C1", size, 15, false, box, size.width == kHd.width ? 2.2 : 2);
+    AddLocalThreshold("local threshold Gauss 11 8u C1", size, 11, true, gauss, size.width == kHd.width ? 2.2 : 1);
+  }
+  AddLocalThreshold("local threshold box 3 8u C1", kHd, 3, false, box, 2.5);
+  AddLocalThreshold("local threshold box 51 8u C1", kHd, 51, false, box, 1.6);
+  AddLocalThreshold("local threshold box 15 8u C1, in place", kHd, 15, false, inPlace, 1);
+  AddLocalThreshold("local threshold Gauss 51 8u C1", kHd, 51, true, gauss, 3);
+}
+
 // The peer makes the cosine transforms of as many iterations alone.
 void AddLeastSquares(QvpiSize size, double atLeast) {
   constexpr int kIterations = 4;
@@ -81,6 +123,7 @@ void AddLeastSquares(QvpiSize size, double atLeast) {
 
 const bool kRegistered = [] {
   cv::setNumThreads(1);
+  AddLocalThresholds();
   for (const QvpiSize size : {kTile, kVga, kHd}) {
     AddLeastSquares(size, 0);
     AddWiener<uint8_t>("Wiener 5x5 8u C1", size, 5, qvpiFilterWienerBorder_8u_C1R, 3);

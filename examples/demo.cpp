@@ -58,6 +58,7 @@ int main(int argc, char** argv) try {
   demo::MedianSteps(demo);
   demo::SumsFilterSteps(demo);
   demo::DenoiseSteps(demo);
+  demo::PageSteps(demo);
   demo::ResizeSteps(demo);
   demo::WarpSteps(demo);
   demo::StatsSteps(demo);

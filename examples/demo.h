@@ -51,6 +51,7 @@ void FixedFilterSteps(Demo& demo);
 void MedianSteps(Demo& demo);
 void SumsFilterSteps(Demo& demo);
 void DenoiseSteps(Demo& demo);
+void PageSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
 void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);

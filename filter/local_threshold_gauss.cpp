@@ -138,7 +138,7 @@ struct FloatThreshold : GaussThreshold<LaneAxes<float>, T> {
 };
 
 template <class T>
-void FilterByRecord(const LocalThreshold<T>& call, const GaussRecord& record, uint8_t* work) {
+void FilterByWeights(const LocalThreshold<T>& call, const GaussRecord& record, uint8_t* work) {
   using Threshold = std::conditional_t<sizeof(T) == 1, ByteThreshold, FloatThreshold<T>>;
   using Lines = LineTypes<T, LaneOf<T>>;
   const Threshold threshold(call, record);
@@ -161,7 +161,7 @@ QvpStatus ThresholdByGauss(const LocalThreshold<T>& call, float sigma) {
   if (const QvpStatus failed = call.CheckLast()) return failed;
   auto& record = *reinterpret_cast<GaussRecord*>(AtBoundary(call.on.buffer));
   FillGauss(call.mask, sigma, sigma, kDataTypeOf<T>, 1, record);
-  FilterByRecord(call, record, reinterpret_cast<uint8_t*>(&record) + GaussRecord::Bytes(call.mask));
+  FilterByWeights(call, record, reinterpret_cast<uint8_t*>(&record) + GaussRecord::Bytes(call.mask));
   return qvpStatusNoError;
 }
 

@@ -1,16 +1,16 @@
-"""Smoothing that keeps edges; see qvpi.filters for what filters share."""
+"""Smoothing that keeps edges, and thresholds by what is around; see qvpi.filters for what filters share."""
 import numpy
 
 from ._call import key
-from ._neighbourhood import NORMS, QUERY, Filter, apply, made, operation_of, pair_of
+from ._neighbourhood import NORMS, QUERY, ROLES, Filter, apply, made, operation_of, pair_of
 from ._operation import Operation, channels, checked_shape, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, memory, size_of
 from .arithmetic import choice
 from .values import data_type
 
-__all__ = ["Bilateral", "LeastSquares", "Median", "MedianCenter", "MedianVector", "Wiener", "bilateral",
-           "least_squares", "median", "median_center", "median_vector", "wiener"]
+__all__ = ["Bilateral", "LeastSquares", "LocalThreshold", "Median", "MedianCenter", "MedianVector", "Wiener",
+           "bilateral", "least_squares", "local_threshold", "median", "median_center", "median_vector", "wiener"]
 
 
 class _Median(Filter):
@@ -95,6 +95,24 @@ class Wiener(Filter):
         self.prepare(size_of(_WIENER_SIZE, self.values[0], self.roi, self.kind, self.channels))
 
 
+class LocalThreshold(Filter):
+    """`above` where a pixel is above the mean under a mask less `delta`, else `others`: scans under uneven light.
+
+    size: odd, 1 to 1023. sigma: of Gauss weights; None: all weigh the same. above: the largest value of the dtype at
+    first, 1 of floats. uint8, uint16, float32 of 1 channel.
+    """
+
+    def __init__(self, shape, dtype, size, delta=0.0, above=None, others=0, sigma=None):
+        super().__init__(shape, dtype, pair_of(size))
+        kind = "Box" if sigma is None else "Gauss"
+        if above is None:
+            above = numpy.iinfo(self.dtype).max if self.dtype.kind in "iu" else 1
+        weights = () if sigma is None else (sigma,)
+        self.values = (self.mask[1], self.mask[0]), *weights, delta, above, others
+        self.operation = _LOCAL_THRESHOLDS[kind]
+        self.prepare(size_of(_LOCAL_THRESHOLD_SIZES[kind], self.values[0], self.roi, self.kind))
+
+
 class LeastSquares:
     """Smooths everywhere but across edges, without halos (Liu, Zhang, Huang, Yang 2020); what it takes away is detail.
 
@@ -127,6 +145,12 @@ class LeastSquares:
         return out
 
 
+_LOCAL_THRESHOLDS = {
+    kind: Operation(f"ThresholdLocal{kind}Border", f"src dst maskSize {sigma}delta valueGT valueLE {ROLES}")
+    for kind, sigma in (("Box", ""), ("Gauss", "sigma "))}
+_LOCAL_THRESHOLD_SIZES = {
+    kind: make_call(f"qvpiThresholdLocal{kind}BorderGetBufferSize", "maskSize roiSize dataType bufferSize")
+    for kind in _LOCAL_THRESHOLDS}
 _WIENER_SIZE = make_call("qvpiFilterWienerBorderGetBufferSize", QUERY)
 _BILATERAL_SIZE = make_call("qvpiFilterBilateralBorderGetSize",
                             "radius roiSize dataType numChannels specSize bufferSize")
@@ -161,6 +185,11 @@ def bilateral(a, sigma_range, sigma_space=2.0, out=None, *, radius=None, norm="l
 def wiener(a, noise, size=3, out=None, **options):
     """See Wiener."""
     return apply(Wiener, a, (noise, size), out, options)
+
+
+def local_threshold(a, size, delta=0.0, out=None, *, above=None, others=0, sigma=None, **options):
+    """See LocalThreshold."""
+    return apply(LocalThreshold, a, (size, delta, above, others, sigma), out, options)
 
 
 def least_squares(a, strength=1.0, out=None, *, power=0.8, eps=1e-4, iterations=4, copy=False):

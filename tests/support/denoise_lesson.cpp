@@ -27,6 +27,11 @@ Disc DiscOf(const Scene& scene) {
   return disc;
 }
 
+QvpiSize MaskOf(const Scene& scene) {
+  constexpr QvpiSize kMasks[] = {{3, 3}, {5, 5}, {1, 1}, {7, 3}, {1, 9}, {15, 5}};
+  return kMasks[scene.choices().Next() % std::size(kMasks)];
+}
+
 }  // namespace
 
 bool BilateralLesson(Scene& scene, size_t place, Argument& argument) {
@@ -98,10 +103,9 @@ bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument) {
 }
 
 bool WienerLesson(Scene& scene, size_t place, Argument& argument) {
-  constexpr QvpiSize kMasks[] = {{3, 3}, {5, 5}, {1, 1}, {7, 3}, {1, 9}, {15, 5}};
   constexpr float kNoises[] = {0.01f, 0, 0.3f, 0.0001f};
   const auto& [type, name] = scene.function().parameters[place];
-  const QvpiSize mask = kMasks[scene.choices().Next() % std::size(kMasks)];
+  const QvpiSize mask = MaskOf(scene);
   const Disc about = DiscOf(scene);
   if (name == "maskSize") {
     argument = mask;
@@ -116,6 +120,32 @@ bool WienerLesson(Scene& scene, size_t place, Argument& argument) {
     if (qvpiFilterWienerBorderGetBufferSize(mask, scene.roi(), about.type, about.channels, &size)) {
       throw std::runtime_error("qvpiFilterWienerBorderGetBufferSize");
     }
+    argument = {scene.Input(size)};
+  } else {
+    return WindowLesson(scene, place, argument);
+  }
+  return true;
+}
+
+bool LocalThresholdLesson(Scene& scene, size_t place, Argument& argument) {
+  constexpr float kDeltas[] = {0, 2.5f, -3, 1e30f}, kSigmas[] = {1.5f, 0.3f, 1e-20f, 40};
+  const auto& [type, name] = scene.function().parameters[place];
+  const QvpiSize mask = MaskOf(scene);
+  if (name == "maskSize") {
+    argument = mask;
+  } else if (name == "valueGT" || name == "valueLE") {
+    argument = scene.Constants(type);
+  } else if (name == "delta") {
+    argument = kDeltas[scene.random().Next() % std::size(kDeltas)];
+  } else if (name == "sigma") {
+    argument = kSigmas[scene.random().Next() % std::size(kSigmas)];
+  } else if (name == "dataType") {
+    argument = DiscOf(scene).type;
+  } else if (name == "pBuffer") {
+    const auto query =
+        scene.Has("Gauss") ? qvpiThresholdLocalGaussBorderGetBufferSize : qvpiThresholdLocalBoxBorderGetBufferSize;
+    int size = 0;
+    if (query(mask, scene.roi(), DiscOf(scene).type, &size)) throw std::runtime_error("qvpiThresholdLocal");
     argument = {scene.Input(size)};
   } else {
     return WindowLesson(scene, place, argument);

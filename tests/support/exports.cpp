@@ -81,6 +81,7 @@ constexpr struct {
     {"qvpiSum", ReductionLesson},
     {"qvpiSwapChannels", OrderLesson},
     {"qvpiThreshold", ThresholdLesson},
+    {"qvpiThresholdLocal", LocalThresholdLesson},
     {"qvpiTranspose", TurnLesson},
     {"qvpiWarp", WarpLesson},
 };

@@ -26,9 +26,10 @@ QvpiBorderType BorderOf(const Scene& scene) {
   return kKinds[random.Next() % kinds] | static_cast<int>(random.Next() & qvpBorderInMem);
 }
 
-const void* Source(Scene& scene, std::string_view type) {
+const void* Source(Scene& scene, std::string_view type, bool isInPlace) {
   const int step = SourceStep(scene.roi()), height = scene.roi().height + 2 * kMargin;
-  uint8_t* const image = scene.Input(size_t{1} * step * height);
+  const size_t bytes = size_t{1} * step * height;
+  uint8_t* const image = isInPlace ? scene.Output(bytes) : scene.Input(bytes);
   scene.FillRows(*PointedAt(type), image, step, height, scene.Mostly());
   return image + kMargin * step + kMargin * 32;
 }
@@ -56,9 +57,9 @@ int BufferSize(const Scene& scene) {
 
 bool WindowLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
-  if (name == "pSrc") {
-    argument = {Source(scene, type)};
-  } else if (name == "srcStep") {
+  if (name == "pSrc" || name == "pSrcDst") {
+    argument = {Source(scene, type, name == "pSrcDst")};
+  } else if (name == "srcStep" || name == "srcDstStep") {
     argument = SourceStep(scene.roi());
   } else if (name == "pDst" || name == "pGx" || name == "pGy" || name == "pMagnitude" || name == "pAngle") {
     argument = {Output(scene, place, type)};
