@@ -13,15 +13,15 @@ constexpr QvpiSize kPage{480, 320};
 
 // Lines of text on paper, which is multiplied by what light falls on it.
 Grey ShadowedPage() {
-  static constexpr const char* kLines[] = {"Each pixel is compared with", "the mean of its surroundings,",
-                                           "less a small number, so that", "ink stays ink in the shadow",
-                                           "and paper stays paper."};
+  static constexpr const char* kLines[] = {"Each pixel is compared with the", "mean of its surroundings, less a",
+                                           "small number, so that ink stays", "ink in the shadow, and paper",
+                                           "stays paper in both."};
   const Font font(QVP_DEMO_FONT);
   Grey page(kPage);
   Require(qvpiSet_8u_C1R(240, page.data(), page.step(), kPage));
   int top = 24;
   for (const char* const text : kLines) {
-    const Grey line = font.Line(text, {40, 50, 240}, kPage.width - 24);
+    const Grey line = font.Line(text, {28, 50, 240}, kPage.width - 24);
     const QvpiSize size{line.size().width, std::min(line.size().height, kPage.height - top)};
     Require(qvpiCopy_8u_C1R(line.data(), line.step(), page.At(24, top), page.step(), size));
     top += 56;
