@@ -17,16 +17,25 @@ Vertex Edge(const Quadrangle& q, int i) {
   return {b.x - a.x, b.y - a.y};
 }
 
+// Of the edges that meet at the corner behind the i-th: below 0 where they turn left, 0 where that cannot be told.
+double CrossBehind(const Quadrangle& quad, int i) {
+  const Vertex a = Edge(quad, i), b = Edge(quad, (i + 1) % 4);
+  const double cross = a.x * b.y - a.y * b.x;
+  return std::fabs(cross) > kRelative * Length(a) * Length(b) && std::isfinite(cross) ? cross : 0;
+}
+
 }  // namespace
 
+int FlatCornersOf(const Quadrangle& quad) {
+  int flat = 0;
+  for (int i = 0; i < 4; ++i) flat += CrossBehind(quad, i) == 0;
+  return flat;
+}
+
 Shape ShapeOf(const Quadrangle& quad) {
+  if (FlatCornersOf(quad) > 0) return Shape::kDegenerate;
   int left = 0;
-  for (int i = 0; i < 4; ++i) {
-    const Vertex a = Edge(quad, i), b = Edge(quad, (i + 1) % 4);
-    const double cross = a.x * b.y - a.y * b.x;
-    if (!(std::fabs(cross) > kRelative * Length(a) * Length(b)) || !std::isfinite(cross)) return Shape::kDegenerate;
-    left += cross < 0;
-  }
+  for (int i = 0; i < 4; ++i) left += CrossBehind(quad, i) < 0;
   return left == 0 || left == 4 ? Shape::kConvex : Shape::kNotConvex;
 }
 

@@ -31,6 +31,9 @@ enum class Shape { kConvex, kNotConvex, kDegenerate };
 // By the cross products of edges that follow each other, relative to their lengths. What is no number is degenerate.
 Shape ShapeOf(const Quadrangle& quad);
 
+// How many corners have edges whose cross product is not above 1e-10 of these edges' lengths.
+int FlatCornersOf(const Quadrangle& quad);
+
 // A 3x3 matrix for points in homogeneous coordinates.
 struct Projection {
   double c[3][3];
