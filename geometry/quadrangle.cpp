@@ -39,6 +39,32 @@ Shape ShapeOf(const Quadrangle& quad) {
   return left == 0 || left == 4 ? Shape::kConvex : Shape::kNotConvex;
 }
 
+bool IsTurnedOver(const Quadrangle& quad) { return CrossBehind(quad, 0) < 0; }
+
+Quadrangle BilinearMap::operator()(const Quadrangle& quad) const {
+  Quadrangle mapped;
+  for (int i = 0; i < 4; ++i) mapped.at[i] = (*this)(quad.at[i]);
+  return mapped;
+}
+
+bool BilinearMap::IsFinite() const {
+  return std::all_of(&c[0][0], &c[0][0] + 8, [](double x) { return std::isfinite(x); });
+}
+
+BilinearMap BilinearTo(const Quadrangle& quad) {
+  const auto rowOf = [&](double Vertex::*axis, double(&row)[4]) {
+    const auto at = [&](int i) { return quad.at[i].*axis; };
+    row[0] = at(0) - at(1) + at(2) - at(3);
+    row[1] = at(1) - at(0);
+    row[2] = at(3) - at(0);
+    row[3] = at(0);
+  };
+  BilinearMap map;
+  rowOf(&Vertex::x, map.c[0]);
+  rowOf(&Vertex::y, map.c[1]);
+  return map;
+}
+
 bool Projection::IsFinite() const {
   return std::all_of(&c[0][0], &c[0][0] + 9, [](double x) { return std::isfinite(x); });
 }

@@ -1,6 +1,8 @@
 // Quadrangles and the transforms between them.
 #pragma once
 
+#include <cstring>
+
 #include "qvptypes.h"
 
 namespace qvp::warp {
@@ -33,6 +35,28 @@ Shape ShapeOf(const Quadrangle& quad);
 
 // How many corners have edges whose cross product is not above 1e-10 of these edges' lengths.
 int FlatCornersOf(const Quadrangle& quad);
+
+// Whether a convex quadrangle goes around the other way than its name of corners tells.
+bool IsTurnedOver(const Quadrangle& quad);
+
+// A bilinear map of the plane, linear along rows and along columns: c0 x y + c1 x + c2 y + c3.
+struct BilinearMap {
+  double c[2][4];
+
+  BilinearMap() = default;
+  explicit BilinearMap(const double (*coeffs)[4]) { std::memcpy(c, coeffs, sizeof(c)); }
+
+  Vertex operator()(Vertex p) const {
+    const double xy = p.x * p.y;
+    return {c[0][0] * xy + c[0][1] * p.x + c[0][2] * p.y + c[0][3],
+            c[1][0] * xy + c[1][1] * p.x + c[1][2] * p.y + c[1][3]};
+  }
+  Quadrangle operator()(const Quadrangle& quad) const;
+  bool IsFinite() const;
+};
+
+// The map of the square (0, 0), (1, 0), (1, 1), (0, 1) to a quadrangle.
+BilinearMap BilinearTo(const Quadrangle& quad);
 
 // A 3x3 matrix for points in homogeneous coordinates.
 struct Projection {

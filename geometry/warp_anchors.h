@@ -16,8 +16,10 @@ class AnchorSteps {
  public:
   static constexpr int kColumns = 2 * kAnchorColumns;
 
-  explicit AnchorSteps(const Record& record) {
-    const double au = record.c[0][0], av = record.c[1][0];
+  // For lines of these slopes.
+  void Set(double au, double av) {
+    if (au_ == au && av_ == av) return;
+    au_ = au, av_ = av;
     isShort_ = std::fabs(au) <= kSteepest && std::fabs(av) <= kSteepest;
     for (int i = 0; isShort_ && i < kColumns; ++i) {
       u[i] = Rounded(au * (i % kAnchorColumns));
@@ -36,14 +38,9 @@ class AnchorSteps {
   static constexpr double kSteepest = 4;
   static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kUnits)); }
 
-  bool isShort_;
+  double au_ = NAN, av_ = NAN;
+  bool isShort_ = false;
 };
-
-// The box without its rim, where rounding may lead a point out of it.
-inline PointBox SafeBox(const PointBox& box) {
-  constexpr double kRim = 1.0 / (1 << 20);
-  return {{box.u.low + kRim, box.u.high - kRim}, {box.v.low + kRim, box.v.high - kRim}};
-}
 
 // The anchors of a block. Low halves of words count.
 struct Anchors {
@@ -67,6 +64,7 @@ struct Anchors {
 // Interior points of a row.
 struct AnchoredPoints {
   using Coordinate = double;
+  static constexpr bool kAreAllWritten = true;
   Line u, v;  // in units
   const AnchorSteps* steps;
   ptrdiff_t column;

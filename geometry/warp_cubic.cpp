@@ -1,4 +1,4 @@
-// Affine and perspective warps by cubic interpolation.
+// Warps by cubic interpolation: affine and perspective ones, and the loops of all.
 #include "base/export.h"
 #include "geometry/warp_call.h"
 

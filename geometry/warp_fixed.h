@@ -2,7 +2,6 @@
 #pragma once
 
 #include "geometry/warp_lines.h"
-#include "geometry/warp_record.h"
 
 namespace qvp::warp {
 
@@ -16,16 +15,19 @@ class FixedSteps {
   static constexpr int32_t kOne = 1 << kBits, kTolerance = 2;
 
   // For blocks of up to n points.
-  FixedSteps(const Record& record, ptrdiff_t n) : au_(record.c[0][0]), av_(record.c[1][0]) {
-    if (!IsShort(au_) || !IsShort(av_)) return;
-    isUsable_ = true;
-    for (int i = 0; i < std::min<ptrdiff_t>(Padded(n), kBlock); ++i) {
-      u_[i] = Rounded(au_ * i);
-      v_[i] = Rounded(av_ * i);
-    }
-  }
+  explicit FixedSteps(ptrdiff_t n) : count_(std::min<ptrdiff_t>(Padded(n), kBlock)) {}
 
-  bool IsUsable() const { return isUsable_; }
+  // For lines of these slopes. False if they are too steep.
+  bool Set(double au, double av) {
+    if (au_ == au && av_ == av) return isUsable_;
+    au_ = au, av_ = av;
+    isUsable_ = IsShort(au) && IsShort(av);
+    for (int i = 0; isUsable_ && i < count_; ++i) {
+      u_[i] = Rounded(au * i);
+      v_[i] = Rounded(av * i);
+    }
+    return isUsable_;
+  }
 
   // Offsets of n interior points from (u, v) on, or false.
   template <int kPixelBytes>
@@ -54,7 +56,8 @@ class FixedSteps {
   // it.
   static int32_t Start(double fraction) { return Rounded(fraction) + kOne / 2 + kTolerance; }
 
-  double au_, av_;
+  ptrdiff_t count_;
+  double au_ = NAN, av_ = NAN;
   bool isUsable_ = false;
   int32_t u_[kBlock], v_[kBlock];
 };

@@ -1,4 +1,4 @@
-// Affine and perspective warps by linear interpolation.
+// Warps by linear interpolation: affine and perspective ones, and the loops of all.
 #include "base/export.h"
 #include "geometry/warp_call.h"
 

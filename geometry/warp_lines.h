@@ -19,8 +19,11 @@ struct Span {
 struct Line {
   double a, b, c;
 
-  Line(const double (&coefficients)[3], ptrdiff_t y)
-      : a(coefficients[0]), b(coefficients[1] * static_cast<double>(y)), c(coefficients[2]) {}
+  // Of row y. The twist of a bilinear function turns the line from row to row; affine ones have 0.
+  Line(const double (&coefficients)[3], double twist, ptrdiff_t y)
+      : a(twist * static_cast<double>(y) + coefficients[0]),
+        b(coefficients[1] * static_cast<double>(y)),
+        c(coefficients[2]) {}
 
   double At(double x) const { return a * x + b + c; }
 

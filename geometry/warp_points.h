@@ -2,18 +2,23 @@
 #pragma once
 
 #include "geometry/warp_fixed.h"
+#include "geometry/warp_record.h"
 
 namespace qvp::warp {
 
 struct AffinePoints {
   using Coordinate = double;
+  static constexpr bool kAreAllWritten = true;
   Line u, v;
   Columns columns;
   const FixedSteps* steps = nullptr;
 
   // A row whose column 0 is destination column `x`.
   AffinePoints(const Record& record, ptrdiff_t x, ptrdiff_t y, const FixedSteps* fixedSteps = nullptr)
-      : u(record.c[0], y), v(record.c[1], y), columns{static_cast<double>(x)}, steps(fixedSteps) {}
+      : u(record.c[0], record.twist[0], y),
+        v(record.c[1], record.twist[1], y),
+        columns{static_cast<double>(x)},
+        steps(fixedSteps) {}
 
   template <int kPixelBytes>
   bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
@@ -39,13 +44,23 @@ struct AffinePoints {
   }
 };
 
+template <class D>
+HWY_INLINE hn::Mask<D> IsIn(D d, const Interval& interval, hn::Vec<D> x) {
+  return hn::And(hn::Ge(x, hn::Set(d, interval.low)), hn::Le(x, hn::Set(d, interval.high)));
+}
+template <class D>
+HWY_INLINE hn::Mask<D> IsIn(D d, const PointBox& box, hn::Vec<D> x, hn::Vec<D> y) {
+  return hn::And(IsIn(d, box.u, x), IsIn(d, box.v, y));
+}
+
 // Near and at the horizon there is no coordinate, but NaN.
 struct PerspectivePoints {
   using Coordinate = double;
+  static constexpr bool kAreAllWritten = true;
   AffinePoints affine;
   Line w;
 
-  PerspectivePoints(const Record& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], y) {}
+  PerspectivePoints(const Record& record, ptrdiff_t x, ptrdiff_t y) : affine(record, x, y), w(record.c[2], 0, y) {}
 
   template <int kPixelBytes>
   bool PlaceNearest(ptrdiff_t, int32_t, int32_t*) const {
@@ -119,28 +134,35 @@ struct PerspectivePoints {
     x = hn::Div(x, divisor);
     y = hn::Div(y, divisor);
   }
+
+  // By a common quotient.
+  template <bool kIsTested, class D>
+  HWY_INLINE hn::Mask<D> LoadQuick(D d, ptrdiff_t i, const PointBox& box, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    affine.Load(d, i, x, y);
+    const auto factor = hn::Div(hn::Set(d, 1.0), kIsTested ? Divisor(d, i) : Depth(d, i));
+    x = hn::Mul(x, factor);
+    y = hn::Mul(y, factor);
+    return IsIn(d, box, x, y);
+  }
 };
 
-// The same for interpolation in single precision. Points of a box have their coordinates by a common quotient, which
-// doubles their rounding; what is outside of it, or at its rim, is told by exact ones. Unless points are tested, all
-// are in the box.
-template <bool kIsTested>
-struct QuotientPoints {
+// The same for interpolation in single precision. Points of a box have coordinates by a quicker way that takes fewer
+// divisions, at the price of a rounding more; what is outside of it, or at its rim, is told by exact ones. Unless
+// points are tested, all are in the box.
+template <class Points, bool kIsTested>
+struct QuickPoints {
   using Coordinate = double;
-  PerspectivePoints points;
+  static constexpr bool kAreAllWritten = Points::kAreAllWritten;
+  Points points;
   const PointBox* box;
 
   ptrdiff_t MostAtOnce() const { return kBlock; }
-  QuotientPoints From(ptrdiff_t x) const { return {points.From(x), box}; }
+  QuickPoints From(ptrdiff_t x) const { return {points.From(x), box}; }
 
   template <class D>
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
-    points.affine.Load(d, i, x, y);
-    const auto factor = hn::Div(hn::Set(d, 1.0), kIsTested ? points.Divisor(d, i) : points.Depth(d, i));
-    x = hn::Mul(x, factor);
-    y = hn::Mul(y, factor);
+    const auto isIn = points.template LoadQuick<kIsTested>(d, i, *box, x, y);
     if constexpr (kIsTested) {
-      const auto isIn = hn::And(IsIn(d, box->u, x), IsIn(d, box->v, y));
       if (hn::AllTrue(d, isIn)) return;
       hn::Vec<D> exactX, exactY;
       points.Load(d, i, exactX, exactY);
@@ -148,15 +170,12 @@ struct QuotientPoints {
       y = hn::IfThenElse(isIn, y, exactY);
     }
   }
-
- private:
-  template <class D>
-  HWY_INLINE static hn::Mask<D> IsIn(D d, const Interval& interval, hn::Vec<D> x) {
-    return hn::And(hn::Ge(x, hn::Set(d, interval.low)), hn::Le(x, hn::Set(d, interval.high)));
-  }
 };
 
-// Coordinates of n points, and copies of the last one up to Padded(n).
+// Room for vectors from any point of a block on.
+inline constexpr ptrdiff_t kSpare = 16;
+
+// Coordinates of n points, and copies of the last one up to Padded(n) and as many more.
 template <class Points>
 void StoreCoordinates(const Points& points, ptrdiff_t n, double* u, double* v) {
   const hn::ScalableTag<double> d;
@@ -166,8 +185,8 @@ void StoreCoordinates(const Points& points, ptrdiff_t n, double* u, double* v) {
     hn::StoreU(x, d, u + i);
     hn::StoreU(y, d, v + i);
   }
-  std::fill(u + n, u + Padded(n), u[n - 1]);
-  std::fill(v + n, v + Padded(n), v[n - 1]);
+  std::fill(u + n, u + Padded(n) + kSpare, u[n - 1]);
+  std::fill(v + n, v + Padded(n) + kSpare, v[n - 1]);
 }
 
 }  // namespace qvp::warp

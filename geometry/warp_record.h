@@ -3,6 +3,7 @@
 
 #include "base/image.h"
 #include "base/record.h"
+#include "geometry/quadrangle.h"
 
 namespace qvp::warp {
 
@@ -10,7 +11,7 @@ namespace qvp::warp {
 // first word.
 enum class Form : uint32_t { kPlain = 0x4B617394, kWide = 0x4B617395 };
 
-enum class Kind : int32_t { kAffine, kPerspective };
+enum class Kind : int32_t { kAffine, kPerspective, kBilinear, kBilinearBack, kBilinearQuad };
 
 inline constexpr int64_t kRecordBytes = 512, kLongestSide = 0x1FFFFFF;
 
@@ -22,13 +23,15 @@ struct Record {
   int32_t channels;
   QvpiBorderType border;
   int32_t isSmooth;
-  int32_t isShift;  // by whole pixels: shiftX, shiftY from destination to source
-  int32_t shiftX, shiftY;
+  int32_t isShift;  // by whole pixels: an affine transform, whatever the kind
   int32_t sourceWidth, sourceHeight, width, height;
-  double c[3][3];
-  double quad[4][2];  // of the source in the destination, moved into it
   double borderValue[4];
   double cubicB, cubicC;
+  double c[3][3];      // destination to source: affine, perspective, or bilinear but for the twist
+  double twist[2];     // of xy, bilinear
+  BilinearMap solved;  // to the destination, from the source or a square, where points come by its inverse ...
+  double side;  // ... which is -1 where it turns over; the rows of the map and the destination are turned over then
+  BilinearMap toSource;  // from that square
 };
 static_assert(sizeof(Record) <= kRecordBytes);
 

@@ -25,10 +25,11 @@ struct Setup {
   Size src, dst;
   QvpDataType type;
   QvpiInterpolationType interpolation;
+  bool takesDoubles = true;
 
   QvpStatus CheckSizesAndType() const {
     if (std::min({src.width, src.height, dst.width, dst.height}) < 1) return qvpStatusSize;
-    return IsKnownType(type) ? qvpStatusNoError : qvpStatusDataType;
+    return IsKnownType(type) && (takesDoubles || type != qvp64f) ? qvpStatusNoError : qvpStatusDataType;
   }
   // Interpolation needs two pixels an axis.
   QvpStatus CheckLengths() const {
@@ -45,6 +46,12 @@ inline QvpStatus CheckDirection(QvpiWarpDirection direction) {
 
 inline QvpStatus CheckQuads(const Quadrangle& src, const Quadrangle& dst) {
   return ShapeOf(src) == Shape::kConvex && ShapeOf(dst) == Shape::kConvex ? qvpStatusNoError : qvpStatusQuad;
+}
+
+// The centres of an image's corner pixels. One pixel counts as two.
+inline Quadrangle CornersOf(Size size) {
+  return {0, 0, static_cast<double>(std::max<ptrdiff_t>(size.width - 1, 1)),
+          static_cast<double>(std::max<ptrdiff_t>(size.height - 1, 1))};
 }
 
 // A transform by its coefficients, with any factor that a perspective has in common removed.

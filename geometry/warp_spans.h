@@ -40,6 +40,12 @@ inline Span SpanOf(const AffinePoints& points, const PointBox& box, ptrdiff_t n)
   return {first, std::max(first, std::min(a.end, b.end))};
 }
 
+// The box without its rim, where rounding may lead a point out of it.
+inline constexpr double kSafeRim = 1.0 / (1 << 20);
+inline PointBox SafeBox(const PointBox& box) {
+  return {{box.u.low + kSafeRim, box.u.high - kSafeRim}, {box.v.low + kSafeRim, box.v.high - kSafeRim}};
+}
+
 // The columns that need not be tested, among those that may take something from the image.
 struct Spans {
   Span touching, inside;
@@ -53,6 +59,13 @@ inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low
 }
 
 template <int kTaps, class T>
+PointBox TouchingBox(const Task<T>& task) {
+  const Area& area = task.area;
+  return {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+          TouchingOf(area, kTaps, area.rows, area.top, area.bottom)};
+}
+
+template <int kTaps, class T>
 Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& points, ptrdiff_t n) {
   const Area& area = task.area;
   const double begin = points.columns.first, last = begin + static_cast<double>(n - 1);
@@ -60,10 +73,7 @@ Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& po
   Spans spans{{0, n}, {n, n}};
   if (!(ends - ends == 0)) return spans;
   if (area.isBounded || area.kind == BorderKind::kConst) {
-    spans.touching = SpanOf(points,
-                            {TouchingOf(area, kTaps, area.columns, area.left, area.right),
-                             TouchingOf(area, kTaps, area.rows, area.top, area.bottom)},
-                            n);
+    spans.touching = SpanOf(points, TouchingBox<kTaps>(task), n);
   }
   const Span inside = SpanOf(points, inner, n);
   spans.inside = inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};

@@ -23,11 +23,7 @@ struct Perspective {
 };
 struct Bilinear {
   const double (*c)[4];
-  Vertex operator()(Vertex p) const {
-    const double xy = p.x * p.y;
-    return {c[0][0] * xy + c[0][1] * p.x + c[0][2] * p.y + c[0][3],
-            c[1][0] * xy + c[1][1] * p.x + c[1][2] * p.y + c[1][3]};
-  }
+  Vertex operator()(Vertex p) const { return BilinearMap(c)(p); }
 };
 
 Quadrangle CornersOf(QvpiRect r) {

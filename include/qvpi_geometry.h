@@ -1312,6 +1312,398 @@ QvpStatus qvpiWarpPerspectiveCubic_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp6
 QvpStatus qvpiWarpPerspectiveCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Warp: size of the record, bilinear
+ *  @{ */
+/** Bytes of a warp record and of the Init buffer, as qvpiWarpAffineGetSize().
+ *
+ *  A bilinear map takes the corners of a rectangle to those of any convex quadrangle, and is linear along rows and
+ *  along columns: equal steps on an edge stay equal. It corrects keystone, and is the cell of meshes and morphs.
+ *  Records are made by qvpiWarpBilinearNearestInit(), qvpiWarpBilinearLinearInit() or qvpiWarpBilinearCubicInit(); a
+ *  record knows its method, so that one function serves all three. Coefficients are those of
+ *  qvpiGetBilinearTransform(),
+ *
+ *      x' = c00 * x * y + c01 * x + c02 * y + c03,  y' = c10 * x * y + c11 * x + c12 * y + c13
+ *
+ *  Methods, borders, tiles and errors are those of qvpiWarpAffineGetSize(); what is new is the source point (u, v) of
+ *  destination pixel (X, Y), in double precision, each operation rounded, in the order of the brackets:
+ *
+ *  **Backward**, by qvpiWarpBilinearBack_8u_C1R() and its kin:
+ *
+ *      u = ((c00 * Y + c01) * X + c02 * Y) + c03,  v = ((c10 * Y + c11) * X + c12 * Y) + c13
+ *
+ *  **Forward**, by qvpiWarpBilinear_8u_C1R() and its kin: the inverse, on the image's side of the fold that every
+ *  bilinear map but an affine one has somewhere. With a and b the rows of the coefficients, b and Y negated where the
+ *  map turns the image over, D = a1 * b2 - a2 * b1, A = a0 * b2 - a2 * b0 and A' = a0 * b1 - a1 * b0,
+ *
+ *      p = X - a3,  q = Y - b3,  B = (D - q * a0) + p * b0,  B' = B - (D + D)
+ *      C = p * b1 - q * a1,  C' = p * b2 - q * a2,  R = sqrt(B * B - (4 * A) * C)
+ *      v = B >= 0 ? (-2 * C) / (B + R) : (R - B) / (2 * A)
+ *      u = B' <= 0 ? (2 * C') / (R - B') : (R + B') / (-2 * A')
+ *
+ *  R is the Jacobian. Beyond the fold it is NaN, and the point lies outside (replicate gives pixel (0, 0)). A
+ *  coordinate up to 1e-6 outside of [0, srcWidth - 1] or [0, srcHeight - 1] becomes the bound, as rounding would lose
+ *  rows of pixels at the edge. u and v are within 1e-8 pixel of the exact ones for quadrangles up to 4000 pixels that
+ *  have no angle below 0.001.
+ *
+ *  For example, {-40 / 9801.0, 1, 20 / 99.0, 0; 0, 0, 1, 0} takes the corners of a 100x100 image to (0, 0), (99, 0),
+ *  (79, 99) and (20, 99); forward, destination (50, 60) takes source (50.1621, 60).
+ *
+ *  A transform that only moves by whole pixels copies them, whatever the method: c00 = c10 = 0, the rest the unit
+ *  matrix and whole shifts. With c00 = c10 = 0, backward, nearest and 64f give the bits of
+ *  qvpiWarpAffineNearest_8u_C1R() and its kin.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients
+ *  @param interpolation nearest, linear or cubic
+ *  @param direction what the coefficients map
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pSpecSize,pInitBufSize receive bytes
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
+ *          `_L`: 64f, too. qvpStatusInterpolation: not nearest, linear or cubic. qvpStatusWarpDirection: another
+ *          direction. qvpStatusCoefficient: a coefficient is no finite number; forward: the source's corner pixels go
+ *          to a degenerate quadrangle, one with a corner whose edges have a cross product of at most 1e-10 of their
+ *          lengths; backward: the destination's go to one degenerate at all four corners. qvpStatusQuad: forward, the
+ *          source's go to one that is not convex. qvpStatusBorder: another border. qvpStatusSize: a source length of 1
+ *          with linear or cubic. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearGetSize(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiWarpBilinearGetSize_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Warp: size of the record, bilinear, quadrangles
+ *  @{ */
+/** Bytes of a warp record and of the Init buffer, as qvpiWarpAffineGetSize().
+ *
+ *  The warp takes quadrangle S of the source to quadrangle T of the destination, corner i to corner i, bilinearly: (s,
+ *  t) is the point of the square (0, 0), (1, 0), (1, 1), (0, 1) that goes to destination pixel (X, Y) when the square's
+ *  corners go to T0, T1, T2, T3, and the source point is that of S for it. In double precision, (s, t) solves T by the
+ *  formula of qvpiWarpBilinearGetSize() for the coefficients {T0 - T1 + T2 - T3, T1 - T0, T3 - T0, T0}. Pixels with
+ *  -1e-9 <= s, t <= 1 + 1e-9 are written, **and no others, whatever the border**: quadrangles can be laid into a
+ *  picture, and meshes of them leave no gap. Then s and t move into [0, 1], and
+ *
+ *      u = ((e0 * t + e1) * s + e2 * t) + e3
+ *
+ *  with e from S as the coefficients from T, v likewise; both move to the image's edge if they are up to 1e-6 outside.
+ *  The border applies outside of the source image, and pixels around S may weigh in. Quadrangles of opposite senses
+ *  mirror.
+ *
+ *  For example, S (10, 5), (69, 5), (79, 49), (0, 49) and T (0, 0), (79, 0), (79, 49), (0, 49): destination (40, 20)
+ *  takes source (39.92508, 22.95918).
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param srcQuad,dstQuad corners, each quadrangle in an order that goes around; corner i goes to corner i
+ *  @param interpolation nearest, linear or cubic
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pSpecSize,pInitBufSize receive bytes
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType: not 8u, 16u, 16s, 32f or 64f;
+ *          `_L`: 64f, too. qvpStatusInterpolation: not nearest, linear or cubic. qvpStatusQuad: a quadrangle that is
+ *          degenerate, with a corner whose edges have a cross product of at most 1e-10 of their lengths, or not convex.
+ *          qvpStatusBorder: another border. qvpStatusSize: a source length of 1 with linear or cubic.
+ *          qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearQuadGetSize(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, QvpiInterpolationType interpolation, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiWarpBilinearQuadGetSize_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, QvpiInterpolationType interpolation, QvpiBorderType borderType, QvpSizeL* pSpecSize, QvpSizeL* pInitBufSize);
+/** @} */
+
+/** @name Warp: bilinear, nearest, Init
+ *  @{ */
+/** Makes a record for a bilinear warp by the nearest pixel; see qvpiWarpBilinearGetSize(). A source or destination
+ *  length of 1 counts as 2 in the checks of the quadrangle.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients of x' and of y', of x y, x, y and 1
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusWarpDirection: another direction.
+ *          qvpStatusCoefficient: a coefficient is no finite number; forward: the source's corner pixels go to a
+ *          degenerate quadrangle, one with a corner whose edges have a cross product of at most 1e-10 of their lengths;
+ *          backward: the destination's go to one degenerate at all four corners. qvpStatusQuad: forward, the source's
+ *          go to one that is not convex. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels:
+ *          not 1, 3 or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSizeOverflow: a
+ *          length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearNearestInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpBilinearNearestInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: bilinear, linear, Init
+ *  @{ */
+/** Makes a record for a bilinear warp by linear interpolation; see qvpiWarpBilinearGetSize(). A source or destination
+ *  length of 1 counts as 2 in the checks of the quadrangle.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients of x' and of y', of x y, x, y and 1
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusWarpDirection: another direction.
+ *          qvpStatusCoefficient: a coefficient is no finite number; forward: the source's corner pixels go to a
+ *          degenerate quadrangle, one with a corner whose edges have a cross product of at most 1e-10 of their lengths;
+ *          backward: the destination's go to one degenerate at all four corners. qvpStatusQuad: forward, the source's
+ *          go to one that is not convex. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels:
+ *          not 1, 3 or 4. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source
+ *          length of 1. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearLinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpBilinearLinearInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: bilinear, cubic, Init
+ *  @{ */
+/** Makes a record for a bilinear warp by cubic interpolation; see qvpiWarpBilinearGetSize(). A source or destination
+ *  length of 1 counts as 2 in the checks of the quadrangle.
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param coeffs coefficients of x' and of y', of x y, x, y and 1
+ *  @param direction what the coefficients map
+ *  @param numChannels channels of a pixel
+ *  @param valueB,valueC B and C, finite
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusWarpDirection: another direction.
+ *          qvpStatusCoefficient: a coefficient is no finite number; forward: the source's corner pixels go to a
+ *          degenerate quadrangle, one with a corner whose edges have a cross product of at most 1e-10 of their lengths;
+ *          backward: the destination's go to one degenerate at all four corners. qvpStatusQuad: forward, the source's
+ *          go to one that is not convex. qvpStatusNullPointer: a constant border without value. qvpStatusNumChannels:
+ *          not 1, 3 or 4. qvpStatusBadArgument: B or C is not finite. qvpStatusNotSupportedMode: smoothEdge with
+ *          replicate or constant. qvpStatusSize: a source length of 1. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearCubicInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiWarpBilinearCubicInit_L(QvpiSizeL srcSize, QvpiSizeL dstSize, QvpDataType dataType, const double coeffs[2][4], QvpiWarpDirection direction, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Warp: bilinear, quadrangles, nearest, Init
+ *  @{ */
+/** Makes a record for a bilinear warp of one quadrangle to another by the nearest pixel; see
+ *  qvpiWarpBilinearQuadGetSize().
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param srcQuad,dstQuad corners, each quadrangle in an order that goes around; corner i goes to corner i
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusQuad: a quadrangle that is degenerate, with a corner
+ *          whose edges have a cross product of at most 1e-10 of their lengths, or not convex. qvpStatusNullPointer: a
+ *          constant border without value. qvpStatusNumChannels: not 1, 3 or 4. qvpStatusNotSupportedMode: smoothEdge
+ *          with replicate or constant. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearQuadNearestInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpBilinearQuadNearestInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: bilinear, quadrangles, linear, Init
+ *  @{ */
+/** Makes a record for a bilinear warp of one quadrangle to another by linear interpolation; see
+ *  qvpiWarpBilinearQuadGetSize().
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param srcQuad,dstQuad corners, each quadrangle in an order that goes around; corner i goes to corner i
+ *  @param numChannels channels of a pixel
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusQuad: a quadrangle that is degenerate, with a corner
+ *          whose edges have a cross product of at most 1e-10 of their lengths, or not convex. qvpStatusNullPointer: a
+ *          constant border without value. qvpStatusNumChannels: not 1, 3 or 4. qvpStatusNotSupportedMode: smoothEdge
+ *          with replicate or constant. qvpStatusSize: a source length of 1. qvpStatusSizeOverflow: a length above
+ *          33554431.
+ */
+QvpStatus qvpiWarpBilinearQuadLinearInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+QvpStatus qvpiWarpBilinearQuadLinearInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec);
+/** @} */
+
+/** @name Warp: bilinear, quadrangles, cubic, Init
+ *  @{ */
+/** Makes a record for a bilinear warp of one quadrangle to another by cubic interpolation; see
+ *  qvpiWarpBilinearQuadGetSize().
+ *
+ *  @param srcSize,dstSize sizes of source and destination
+ *  @param dataType type of the samples
+ *  @param srcQuad,dstQuad corners, each quadrangle in an order that goes around; corner i goes to corner i
+ *  @param numChannels channels of a pixel
+ *  @param valueB,valueC B and C, finite
+ *  @param borderType replicate, constant or transparent, with any sides in memory, or qvpBorderInMem
+ *  @param pBorderValue constant border: a value for each channel; else not used, may be null
+ *  @param smoothEdge not 0: a point up to one pixel outside, dx across and dy down, gives a * S + (1 - a) * old with a
+ *         = (1 - dx) * (1 - dy), the value S at the edge, not rounded, and the old pixel; the sum is rounded once
+ *  @param pSpec record
+ *  @param pInitBuf Init buffer
+ *  @return qvpStatusBorder: another border. qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusDataType:
+ *          not 8u, 16u, 16s, 32f or 64f; `_L`: 64f, too. qvpStatusQuad: a quadrangle that is degenerate, with a corner
+ *          whose edges have a cross product of at most 1e-10 of their lengths, or not convex. qvpStatusNullPointer: a
+ *          constant border without value. qvpStatusNumChannels: not 1, 3 or 4. qvpStatusBadArgument: B or C is not
+ *          finite. qvpStatusNotSupportedMode: smoothEdge with replicate or constant. qvpStatusSize: a source length of
+ *          1. qvpStatusSizeOverflow: a length above 33554431.
+ */
+QvpStatus qvpiWarpBilinearQuadCubicInit(QvpiSize srcSize, const double srcQuad[4][2], QvpiSize dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiWarpBilinearQuadCubicInit_L(QvpiSizeL srcSize, const double srcQuad[4][2], QvpiSizeL dstSize, const double dstQuad[4][2], QvpDataType dataType, int numChannels, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, int smoothEdge, QvpiWarpSpec* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Warp: bilinear
+ *  @{ */
+/** Warps by the inverse of a bilinear map, from a record of direction qvpWarpForward; see qvpiWarpBilinearGetSize().
+ *  Not in place. Linear 8u takes about twice the time of an affine warp: a root and a division for each pixel.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a length
+ *          of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the element
+ *          size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record of
+ *          another transform, type or number of channels. Warning qvpStatusSizeWarning: the tile reached over the
+ *          destination; the part inside was done.
+ */
+QvpStatus qvpiWarpBilinear_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinear_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: bilinear, backward
+ *  @{ */
+/** Warps by a bilinear map from destination to source, from a record of direction qvpWarpBackward; see
+ *  qvpiWarpBilinearGetSize(). Not in place.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a length
+ *          of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the element
+ *          size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record of
+ *          another transform, type or number of channels. Warning qvpStatusSizeWarning: the tile reached over the
+ *          destination; the part inside was done.
+ */
+QvpStatus qvpiWarpBilinearBack_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearBack_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Warp: bilinear, quadrangles
+ *  @{ */
+/** Warps one quadrangle to another bilinearly; see qvpiWarpBilinearQuadGetSize(). Only pixels of the destination's
+ *  quadrangle are written, and cost follows its area. Not in place.
+ *
+ *  @param pSrc,srcStep source, at its first pixel
+ *  @param pDst,dstStep destination tile
+ *  @param dstRoiOffset,dstRoiSize place and size of the tile in the destination; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return qvpStatusContextMatch: not a record of these functions. qvpStatusNullPointer. qvpStatusNoOperation: a length
+ *          of the tile is 0. qvpStatusSize: a length below 1. qvpStatusStep: a step that is no multiple of the element
+ *          size. qvpStatusOutOfRange: `dstRoiOffset` outside the destination. qvpStatusContextMatch: a record of
+ *          another transform, type or number of channels. Warning qvpStatusSizeWarning: the tile reached over the
+ *          destination; the part inside was done.
+ */
+QvpStatus qvpiWarpBilinearQuad_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_8u_C1R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_8u_C3R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_8u_C4R_L(const Qvp8u* pSrc, QvpSizeL srcStep, Qvp8u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C1R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C3R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16u_C4R_L(const Qvp16u* pSrc, QvpSizeL srcStep, Qvp16u* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C1R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C3R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_16s_C4R_L(const Qvp16s* pSrc, QvpSizeL srcStep, Qvp16s* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C1R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C3R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_32f_C4R_L(const Qvp32f* pSrc, QvpSizeL srcStep, Qvp32f* pDst, QvpSizeL dstStep, QvpiPointL dstRoiOffset, QvpiSizeL dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_64f_C1R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_64f_C3R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWarpBilinearQuad_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f* pDst, int dstStep, QvpiPoint dstRoiOffset, QvpiSize dstRoiSize, const QvpiWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Warp: quadrangle of a rectangle, affine
  *  @{ */
 /** Where the centres of a rectangle's corner pixels go:

@@ -1,0 +1,67 @@
+// Rows of warps: blocks of points that are sampled.
+#pragma once
+
+#include "geometry/sampler.h"
+#include "geometry/warp_spans.h"
+
+namespace qvp::warp {
+
+// ---- Rows
+
+// Sample, for the points among n that are there at all.
+template <int kTaps, class T>
+void SampleRuns(const Task<T>& task, const double* u, const double* v, ptrdiff_t n, T* dst) {
+  const auto isThere = [&](ptrdiff_t i) { return u[i] == u[i]; };
+  for (ptrdiff_t first = 0, end; first < n; first = end) {
+    while (first < n && !isThere(first)) ++first;
+    for (end = first; end < n && isThere(end);) ++end;
+    if (first < end) {
+      Sample<kTaps>(task, u + first, v + first, end - first, dst + first * Channels(task.src.layout));
+    }
+  }
+}
+
+// Points that need a test.
+template <int kTaps, class T, class Points>
+void SampleTested(const Task<T>& task, const Points& points, ptrdiff_t first, ptrdiff_t end, T* row) {
+  const int channels = Channels(task.src.layout);
+  double u[kBlock + kSpare], v[kBlock + kSpare];
+  for (ptrdiff_t x = first; x < end; x += kBlock) {
+    const ptrdiff_t n = std::min<ptrdiff_t>(end - x, kBlock);
+    StoreCoordinates(points.From(x), n, u, v);
+    if constexpr (Points::kAreAllWritten) {
+      Sample<kTaps>(task, u, v, n, row + x * channels);
+    } else {
+      SampleRuns<kTaps>(task, u, v, n, row + x * channels);
+    }
+  }
+}
+
+// Interior points.
+template <int kTaps, class T, class Points>
+void SampleInterior(const Task<T>& task, const Points& points, const Span& span, T* row) {
+  for (ptrdiff_t x = span.first, n; x < span.end; x += n) {
+    const auto from = points.From(x);
+    n = std::min<ptrdiff_t>(span.end - x, from.MostAtOnce());
+    SampleInside<kTaps>(task, from, n, row + x * Channels(task.src.layout));
+  }
+}
+
+// A row of pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those inside are at
+// `innerPoints`, wherever a tile begins.
+template <int kTaps, class T, class Points, class InnerPoints>
+void WarpRow(const Task<T>& task, const Spans& spans, const Points& points, const InnerPoints& innerPoints,
+             ptrdiff_t width, T* row) {
+  const int channels = Channels(task.src.layout);
+  FillBeyond(task, spans.touching.first, row);
+  SampleTested<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
+  if (task.interior.u.IsEmpty()) {
+    SampleTested<kTaps>(task, innerPoints, spans.inside.first, spans.inside.end, row);
+  } else {
+    SampleInterior<kTaps>(task, innerPoints, spans.inside, row);
+  }
+  SampleTested<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
+  FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
+}
+
+}  // namespace qvp::warp

@@ -1,0 +1,182 @@
+// Tiles of warps, row by row, and what is sampled for them.
+#pragma once
+
+#include "geometry/warp_anchors.h"
+#include "geometry/warp_outline.h"
+#include "geometry/warp_rows.h"
+
+namespace qvp::warp {
+
+template <class T>
+struct Call {
+  Image<const T> src;
+  Image<T> dst;
+  ptrdiff_t x, y;  // of the tile's first pixel
+  Size size;
+  const QvpiWarpSpec* spec;
+  const uint8_t* buffer;
+  Kind kind;
+  Form form;
+};
+
+// ---- What is sampled
+
+// How far a method reads over the sides that are in memory.
+constexpr int ReachOf(QvpiInterpolationType interpolation) { return TapsOf(interpolation) / 2; }
+
+// The kind applies outside of the image enlarged by its sides in memory. Where it is transparent, or none, points of
+// the enlarged image have a value.
+inline Area AreaOf(const Record& record) {
+  const int reach = ReachOf(record.interpolation);
+  const BorderKind kind = KindOf(record.border);
+  Area area;
+  area.columns = EffectiveColumns(record.border, record.sourceWidth, reach, reach);
+  area.rows = EffectiveRows(record.border, record.sourceHeight, reach, reach);
+  area.kind = kind == BorderKind::kConst ? BorderKind::kConst : BorderKind::kReplicate;
+  area.isBounded = kind == BorderKind::kTransparent || kind == BorderKind::kInMemory;
+  area.isSmooth = record.isSmooth != 0;
+  area.SetBounds(area.columns, area.rows);
+  return area;
+}
+
+template <int kTaps, class T>
+Task<T> TaskOf(const Call<T>& call, const Record& record) {
+  Task<T> task{call.src, AreaOf(record), {}, {record.cubicB, record.cubicC}, record.isShift != 0, {}};
+  for (int i = 0; i < 4; ++i) task.constant[i] = ToElement<T>(record.borderValue[i]);
+  task.SetInterior(kTaps);
+  return task;
+}
+
+// ---- Tiles
+
+// Points are in double precision where nothing else would be exact.
+template <int kTaps, class T>
+constexpr bool kIsExact = kTaps == 1 || std::is_same_v<T, double>;
+
+// Affine transforms, and bilinear ones to the source, which are affine on each row.
+template <int kTaps, class T>
+void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
+  Task<T> task = TaskOf<kTaps>(call, record);
+  const PointBox inner = SafeBox(task.InnerBox(kTaps));
+  const bool isPlaced = kTaps == 1 && !task.isShift;
+  FixedSteps fixedSteps(isPlaced ? size.width : 0);
+  AnchorSteps anchorSteps;
+  const double middle = static_cast<double>(call.x + size.width / 2);
+  const auto down = [&](int i) { return (record.twist[i] * middle + record.c[i][1]) * kRowsAhead; };
+  task.FetchAhead(down(0), down(1));
+  for (ptrdiff_t y = 0; y < size.height; ++y) {
+    T* row = call.dst.Row(y);
+    AffinePoints points(record, call.x, call.y + y);
+    const Spans spans = SpansOf<kTaps>(task, inner, points, size.width);
+    if constexpr (kIsExact<kTaps, T>) {
+      if (isPlaced && fixedSteps.Set(points.u.a, points.v.a)) points.steps = &fixedSteps;
+      WarpRow<kTaps>(task, spans, points, points, size.width, row);
+    } else {
+      anchorSteps.Set(points.u.a, points.v.a);
+      if (anchorSteps.IsUsableFor(points, record.width)) {
+        WarpRow<kTaps>(task, spans, points, AnchoredPoints(points, anchorSteps, call.x), size.width, row);
+      } else {
+        SampleTested<kTaps>(task, points, 0, size.width, row);
+      }
+    }
+  }
+}
+
+// From a point of a row to the one that many rows below it.
+template <class T>
+void FetchBelow(Task<T>& task, const Record& record, const PerspectivePoints& points, ptrdiff_t x, ptrdiff_t y) {
+  const PerspectivePoints below(record, static_cast<ptrdiff_t>(points.affine.columns.first), y + kRowsAhead);
+  const auto here = points.At(x), there = below.At(x);
+  task.FetchAhead(there[0] - here[0], there[1] - here[1]);
+}
+
+// A row by points that take some roundings more inside of a box, where they need not be exact.
+template <int kTaps, class T, class Points>
+void WarpQuickly(const Task<T>& task, const Spans& spans, const PointBox& box, const Points& points, ptrdiff_t width,
+                 T* row) {
+  if constexpr (kIsExact<kTaps, T>) {
+    WarpRow<kTaps>(task, spans, points, points, width, row);
+  } else {
+    const QuickPoints<Points, false> interior{points, &box};
+    const QuickPoints<Points, true> tested{points, &box};
+    WarpRow<kTaps>(task, spans, tested, interior, width, row);
+  }
+}
+
+// The columns of a perspective that are all in the inner box; any may touch the image.
+inline Spans SpansOf(const PerspectivePoints& points, const PointBox& inner, ptrdiff_t width) {
+  const Span inside = points.Inside(inner, width);
+  const bool isInside =
+      inside.first < inside.end && points.From(inside.first).AreAllIn(inner, inside.end - inside.first);
+  return {{0, width}, isInside ? inside : Span{width, width}};
+}
+
+template <int kTaps, class T>
+void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
+  Task<T> task = TaskOf<kTaps>(call, record);
+  const PointBox inner = SafeBox(task.InnerBox(kTaps));
+  for (ptrdiff_t y = 0; y < size.height; ++y) {
+    const PerspectivePoints points(record, call.x, call.y + y);
+    FetchBelow(task, record, points, size.width / 2, call.y + y);
+    WarpQuickly<kTaps>(task, SpansOf(points, inner, size.width), inner, points, size.width, call.dst.Row(y));
+  }
+}
+
+// The box within the image proper, beyond which points may move to its edge.
+inline PointBox WithinImage(const PointBox& box, const Record& record) {
+  const double right = record.sourceWidth - 1.0, bottom = record.sourceHeight - 1.0;
+  return {{std::max(box.u.low, 0.0), std::min(box.u.high, right)},
+          {std::max(box.v.low, 0.0), std::min(box.v.high, bottom)}};
+}
+
+inline PointBox WithRim(const PointBox& box, double rim) {
+  return {{box.u.low - rim, box.u.high + rim}, {box.v.low - rim, box.v.high + rim}};
+}
+
+template <int kTaps, class T>
+void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
+  constexpr double kRim = 1.0 / (1 << 10);  // more than the tolerance at the edge
+  const Task<T> task = TaskOf<kTaps>(call, record);
+  const PointBox inner = SafeBox(WithinImage(task.InnerBox(kTaps), record));
+  const Outlines outlines(record, WithRim(TouchingBox<kTaps>(task), kRim), kRim, inner);
+  const bool isBeyondKnown = IsBeyondKnown(task.area);
+  for (ptrdiff_t y = 0; y < size.height; ++y) {
+    Spans spans = outlines.At(call.x, call.y + y, size.width);
+    if (!isBeyondKnown) spans.touching = {0, size.width};
+    WarpQuickly<kTaps>(task, spans, inner, BilinearPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
+  }
+}
+
+// Only the quadrangle is written.
+template <int kTaps, class T>
+void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) {
+  constexpr double kRim = 10 * QuadPoints::kTolerance;
+  constexpr PointBox kSquare{{0, 1}, {0, 1}};
+  const Task<T> task = TaskOf<kTaps>(call, record);
+  const PointBox inner = SafeBox(kSquare);
+  const Outlines outlines(record, WithRim(kSquare, kRim), kRim, {});
+  for (ptrdiff_t y = 0; y < size.height; ++y) {
+    const Span written = outlines.At(call.x, call.y + y, size.width).touching;
+    const QuadPoints points(record, call.x, call.y + y);
+    if constexpr (kIsExact<kTaps, T>) {
+      SampleTested<kTaps>(task, points, written.first, written.end, call.dst.Row(y));
+    } else {
+      SampleTested<kTaps>(task, QuickPoints<QuadPoints, true>{points, &inner}, written.first, written.end,
+                          call.dst.Row(y));
+    }
+  }
+}
+
+// Whole pixels are moved as the nearest ones, whatever the method.
+template <int kTaps, class T>
+void WarpTile(const Call<T>& call, const Record& record, Size size) {
+  if (record.isShift) return WarpAffineTile<1>(call, record, size);
+  switch (record.kind) {
+    case Kind::kPerspective: return WarpPerspectiveTile<kTaps>(call, record, size);
+    case Kind::kBilinear: return WarpBilinearTile<kTaps>(call, record, size);
+    case Kind::kBilinearQuad: return WarpBilinearQuadTile<kTaps>(call, record, size);
+    default: return WarpAffineTile<kTaps>(call, record, size);
+  }
+}
+
+}  // namespace qvp::warp
