@@ -32,10 +32,15 @@ template <class T>
 void FillBeyond(const Task<T>& task, ptrdiff_t n, T* dst) {
   if (task.area.isBounded || n <= 0) return;
   auto* bytes = reinterpret_cast<uint8_t*>(dst);
-  const ptrdiff_t all = n * task.src.PixelBytes();
-  ptrdiff_t done = task.src.PixelBytes();
-  std::memcpy(bytes, task.constant, done);
-  for (; done < all; done += std::min(done, all - done)) std::memcpy(bytes + done, bytes, std::min(done, all - done));
+  const ptrdiff_t pixel = task.src.PixelBytes(), all = n * pixel;
+  if (pixel == 1) {
+    std::memset(bytes, static_cast<int>(task.constant[0]), all);
+    return;
+  }
+  std::memcpy(bytes, task.constant, pixel);
+  for (ptrdiff_t done = pixel; done < all; done += std::min(done, all - done)) {
+    std::memcpy(bytes + done, bytes, std::min(done, all - done));
+  }
 }
 
 template <class C>

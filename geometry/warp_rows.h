@@ -48,12 +48,12 @@ void SampleInterior(const Task<T>& task, const Points& points, const Span& span,
 }
 
 // A row of pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those inside are at
-// `innerPoints`, wherever a tile begins.
+// `innerPoints`, wherever a tile begins. Pixels beyond a quadrangle are left alone.
 template <int kTaps, class T, class Points, class InnerPoints>
 void WarpRow(const Task<T>& task, const Spans& spans, const Points& points, const InnerPoints& innerPoints,
              ptrdiff_t width, T* row) {
   const int channels = Channels(task.src.layout);
-  FillBeyond(task, spans.touching.first, row);
+  if constexpr (Points::kAreAllWritten) FillBeyond(task, spans.touching.first, row);
   SampleTested<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
   if (task.interior.u.IsEmpty()) {
     SampleTested<kTaps>(task, innerPoints, spans.inside.first, spans.inside.end, row);
@@ -61,7 +61,9 @@ void WarpRow(const Task<T>& task, const Spans& spans, const Points& points, cons
     SampleInterior<kTaps>(task, innerPoints, spans.inside, row);
   }
   SampleTested<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
-  FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
+  if constexpr (Points::kAreAllWritten) {
+    FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
+  }
 }
 
 }  // namespace qvp::warp

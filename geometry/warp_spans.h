@@ -21,17 +21,20 @@ ptrdiff_t FirstWith(ptrdiff_t n, double guess, const Property& has) {
   return open.first;
 }
 
-// The columns of n, counted from column `x`, whose coordinates lie in the interval. The line is finite there.
+// The columns of n, counted from column `x`, whose coordinates lie in the interval. The line is finite there. Its ends
+// tell which bounds it crosses at all.
 inline Span SpanOf(const Line& line, const Interval& interval, double x, ptrdiff_t n) {
-  const bool isRising = line.a >= 0;
-  const double enter = isRising ? interval.low : interval.high, leave = isRising ? interval.high : interval.low;
-  const auto guess = [&](double value) { return (value - line.b - line.c) / line.a - x; };
-  const auto at = [&](ptrdiff_t i) { return line.At(x + static_cast<double>(i)); };
-  const ptrdiff_t first =
-      FirstWith(n, guess(enter), [&](ptrdiff_t i) { return isRising ? at(i) >= enter : at(i) <= enter; });
-  const ptrdiff_t end =
-      FirstWith(n, guess(leave), [&](ptrdiff_t i) { return isRising ? at(i) > leave : at(i) < leave; });
-  return {first, std::max(first, end)};
+  const double sign = line.a >= 0 ? 1 : -1;
+  const double enter = line.a >= 0 ? interval.low : -interval.high, leave = line.a >= 0 ? interval.high : -interval.low;
+  const auto guess = [&](double value) { return (value * sign - line.b - line.c) / line.a - x; };
+  const auto at = [&](ptrdiff_t i) { return sign * line.At(x + static_cast<double>(i)); };
+  const double begin = at(0), last = at(n - 1);
+  Span span{0, n};
+  if (begin < enter)
+    span.first = last < enter ? n : FirstWith(n, guess(enter), [&](ptrdiff_t i) { return at(i) >= enter; });
+  if (last > leave)
+    span.end = begin > leave ? 0 : FirstWith(n, guess(leave), [&](ptrdiff_t i) { return at(i) > leave; });
+  return {span.first, std::max(span.first, span.end)};
 }
 
 inline Span SpanOf(const AffinePoints& points, const PointBox& box, ptrdiff_t n) {

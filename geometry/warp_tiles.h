@@ -147,23 +147,33 @@ void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   }
 }
 
+// A part of the square between two quadrangles whose points have all taps, if one is found: the image of a part is
+// convex, so that its corners tell.
+inline PointBox InnerSquare(const BilinearMap& toSource, const PointBox& inner) {
+  constexpr double kFar = 1 << 24;  // where rounding would lead points out of the box
+  const auto isIn = [&](Vertex p) { return inner.u.Contains(p.x) && inner.v.Contains(p.y); };
+  const Quadrangle source = toSource(Quadrangle(0, 0, 1, 1));
+  if (!std::all_of(source.at, source.at + 4, [](Vertex p) { return Interval{-kFar, kFar}.Contains(p.x + p.y); })) {
+    return {};
+  }
+  for (double inset = kSafeRim; inset < 0.25; inset = 2 * inset + 1.0 / 4096) {
+    const Quadrangle part = toSource(Quadrangle(inset, inset, 1 - inset, 1 - inset));
+    if (std::all_of(part.at, part.at + 4, isIn)) return {{inset, 1 - inset}, {inset, 1 - inset}};
+  }
+  return {};
+}
+
 // Only the quadrangle is written.
 template <int kTaps, class T>
 void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) {
   constexpr double kRim = 10 * QuadPoints::kTolerance;
   constexpr PointBox kSquare{{0, 1}, {0, 1}};
   const Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox inner = SafeBox(kSquare);
-  const Outlines outlines(record, WithRim(kSquare, kRim), kRim, {});
+  const PointBox quick = SafeBox(kSquare), inner = InnerSquare(record.toSource, SafeBox(task.InnerBox(kTaps)));
+  const Outlines outlines(record, WithRim(kSquare, kRim), kRim, inner);
   for (ptrdiff_t y = 0; y < size.height; ++y) {
-    const Span written = outlines.At(call.x, call.y + y, size.width).touching;
-    const QuadPoints points(record, call.x, call.y + y);
-    if constexpr (kIsExact<kTaps, T>) {
-      SampleTested<kTaps>(task, points, written.first, written.end, call.dst.Row(y));
-    } else {
-      SampleTested<kTaps>(task, QuickPoints<QuadPoints, true>{points, &inner}, written.first, written.end,
-                          call.dst.Row(y));
-    }
+    const Spans spans = outlines.At(call.x, call.y + y, size.width);
+    WarpQuickly<kTaps>(task, spans, quick, QuadPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
   }
 }
 

@@ -11,13 +11,24 @@ constexpr double kMatrices[][3][3] = {{{0.9, 0.3, -1.5}, {-0.25, 1.1, 1.25}, {0.
                                       {{-0.5, 0, 30.25}, {0, 0.5, 0.5}, {0, 0.004, 1}},
                                       {{3.98, 0.01, -7}, {0.02, 2, 0}, {-0.02, 0.001, 1}},
                                       {{0.1, 4.5, 1}, {0.3, -0.2, 3}, {0.01, 0.03, 0.5}}};
-constexpr double kBilinear[2][4] = {{0.01, 0.9, 0.3, -1.5}, {0.02, -0.25, 1.1, 1.25}};
-constexpr double kFrom[4][2] = {{0, 0}, {5, 1}, {6, 6}, {-1, 4}}, kTo[4][2] = {{1, 0}, {30, 1}, {36, 4}, {2, 5}};
+// They do not fold, whatever the size of an image.
+constexpr double kBilinear[][2][4] = {{{0.001, 0.9, 0.3, -1.5}, {-0.0005, -0.25, 1.1, 1.25}},
+                                      {{0, 1, 0, 3}, {0, 0, 1, -2}},
+                                      {{0.0005, -2, 0.1, 40}, {0.0008, 0.2, 1.5, -3}},
+                                      {{0, 0.5, 0.01, 2}, {0, 0.001, 3, -9}}};
+constexpr double kQuads[][4][2] = {{{0, 0}, {6, 0}, {6, 6}, {0, 6}},
+                                   {{1, 0}, {30, 1}, {36, 4}, {2, 5}},
+                                   {{-20, -9}, {70, -4}, {90, 40}, {-3, 30}},
+                                   {{3, 9}, {5, -2}, {3.5, -3}, {1, 4}}};
+constexpr double kQuad[4][2] = {{0, 0}, {5, 1}, {6, 6}, {-1, 4}};
 constexpr double kValue[4] = {7.5, 80, 200, 33};
 
 // Each scene has a transform, a border and a method of its own.
 struct Manner {
   const double (*matrix)[3];
+  const double (*bilinear)[4];
+  const double (*from)[2];
+  const double (*to)[2];
   int direction, border, isSmooth;
   double b, c;
   int interpolation;
@@ -30,11 +41,13 @@ Manner MannerOf(const Scene& scene) {
   Random random = scene.choices();
   const auto any = [&](const auto& list) -> const auto& { return list[random.Next() % std::size(list)]; };
   const auto matrix = any(kMatrices);
+  const auto bilinear = any(kBilinear);
+  const auto from = any(kQuads), to = any(kQuads);
   const int kind = any(kKinds), sides = random.Next() % 2 ? static_cast<int>(random.Next() & qvpBorderInMem) : 0;
   const bool isSmooth = kind == qvpBorderTransparent && random.Next() % 2;
   const auto& cubic = any(kCubic);
-  return {matrix,   random.Next() % 3 == 0 ? qvpWarpForward : qvpWarpBackward, kind | sides, isSmooth, cubic[0],
-          cubic[1], any(kMethods) | (random.Next() % 2 ? qvpSmoothEdge : 0)};
+  return {matrix,       bilinear, from,     to,       random.Next() % 3 == 0 ? qvpWarpForward : qvpWarpBackward,
+          kind | sides, isSmooth, cubic[0], cubic[1], any(kMethods) | (random.Next() % 2 ? qvpSmoothEdge : 0)};
 }
 
 // A record for the call, made by the Init that belongs to the function's name.
@@ -46,17 +59,31 @@ QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   const QvpDataType type = isCall ? name.From().code : +qvp32f;
   const int channels = isCall ? name.channels : 1;
   const Manner m = MannerOf(scene);
+  const int direction = Has(scene, "Back") ? qvpWarpBackward : qvpWarpForward;
   Qvp8u buffer[64];
 #define INIT(Kind, Method, ...)                                                                                   \
   (IsWide(scene)                                                                                                  \
        ? qvpiWarp##Kind##Method##Init_L(sl, dl, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL) \
        : qvpiWarp##Kind##Method##Init(s, d, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL))
+#define INIT_BILINEAR(Method, ...)                                                                                   \
+  (Has(scene, "Quad")                                                                                                \
+       ? IsWide(scene)                                                                                               \
+             ? qvpiWarpBilinearQuad##Method##Init_L(sl, m.from, dl, m.to, type, channels, __VA_ARGS__ spec OPTIONAL) \
+             : qvpiWarpBilinearQuad##Method##Init(s, m.from, d, m.to, type, channels, __VA_ARGS__ spec OPTIONAL)     \
+   : IsWide(scene)                                                                                                   \
+       ? qvpiWarpBilinear##Method##Init_L(sl, dl, type, m.bilinear, direction, channels, __VA_ARGS__ spec OPTIONAL)  \
+       : qvpiWarpBilinear##Method##Init(s, d, type, m.bilinear, direction, channels, __VA_ARGS__ spec OPTIONAL))
 #define BORDER m.border, kValue, m.isSmooth,
 #define OPTIONAL , buffer
   if (Has(scene, "AffineCubic")) return INIT(Affine, Cubic, m.b, m.c, BORDER);
   if (Has(scene, "PerspectiveCubic")) return INIT(Perspective, Cubic, m.b, m.c, BORDER);
+  if (Has(scene, "Bilinear") && m.interpolation == qvpInterpolationCubic) {
+    return INIT_BILINEAR(Cubic, m.b, m.c, BORDER);
+  }
 #undef OPTIONAL
 #define OPTIONAL
+  if (Has(scene, "Bilinear") && m.interpolation == qvpInterpolationNearest) return INIT_BILINEAR(Nearest, BORDER);
+  if (Has(scene, "Bilinear")) return INIT_BILINEAR(Linear, BORDER);
   if (Has(scene, "AffineNearest")) return INIT(Affine, Nearest, BORDER);
   if (Has(scene, "PerspectiveNearest")) return INIT(Perspective, Nearest, BORDER);
   if (Has(scene, "PerspectiveLinear")) return INIT(Perspective, Linear, BORDER);
@@ -110,9 +137,9 @@ bool TransformLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (!type.starts_with("const")) {
     argument = {scene.Output(128)};
   } else if (name == "quad") {
-    argument = {kFrom};
+    argument = {kQuad};
   } else {
-    argument = {Has(scene, "Bilinear") ? &kBilinear[0][0] : &MannerOf(scene).matrix[0][0]};
+    argument = {Has(scene, "Bilinear") ? &kBilinear[0][0][0] : &MannerOf(scene).matrix[0][0]};
   }
   return true;
 }
@@ -134,7 +161,8 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "direction") {
     argument = m.direction;
   } else if (name == "dataType") {
-    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f, qvp64f});
+    const bool hasDoubles = !Has(scene, "Bilinear") || !IsWide(scene);
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f, hasDoubles ? +qvp64f : +qvp32f});
   } else if (name == "numChannels") {
     argument = 3;
   } else if (name == "smoothEdge") {
@@ -142,9 +170,9 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "valueB" || name == "valueC") {
     argument = name == "valueB" ? m.b : m.c;
   } else if (name == "srcQuad" || name == "dstQuad") {
-    argument = {name == "srcQuad" ? kFrom : kTo};
+    argument = {name == "srcQuad" ? m.from : m.to};
   } else if (name == "coeffs") {
-    argument = {m.matrix};
+    argument = {Has(scene, "Bilinear") ? &m.bilinear[0][0] : &m.matrix[0][0]};
   } else if (name.ends_with("Size") && type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};
   } else if (name == "pBuffer" || name == "pInitBuf") {
