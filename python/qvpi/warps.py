@@ -15,51 +15,61 @@ from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
 from .raw import lib
 
-__all__ = ["Remap", "Warp", "affine_transform", "perspective_transform", "remap", "rotation", "warp_affine",
-           "warp_perspective", "warp_quad"]
+__all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotation",
+           "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
 
 _OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst,
             "transparent": lib.qvpBorderTransparent}
 _WARP_METHODS = ("nearest", "linear", "cubic")
-_WARPS = {(kind, method): Operation(f"Warp{kind}{method.title()}", "src dst dstRoiOffset spec buffer", free=("src",))
+# The family of functions, by the shape of what describes the transform: coefficients or two quadrangles.
+_KINDS = {(2, 3): "Affine", (3, 3): "Perspective", (2, 4): "Bilinear", (2, 4, 2): "BilinearQuad"}
+_CALL = "src dst dstRoiOffset spec buffer"
+_WARPS = {(kind, method): Operation(f"Warp{kind}{method.title()}", _CALL, free=("src",))
           for kind in ("Affine", "Perspective") for method in _WARP_METHODS}
-_TRANSFORM = "dataType coeffs direction numChannels borderType borderValue smoothEdge spec"
-_WARP_SIZE = {kind: make_call(f"qvpiWarp{kind}GetSize",
-                              "srcSize dstSize dataType coeffs interpolation direction borderType specSize initBufSize")
-              for kind in ("Affine", "Perspective")}
+_ANY_METHOD = {kind: Operation(f"Warp{kind}", _CALL, free=("src",))
+               for kind in ("Bilinear", "BilinearBack", "BilinearQuad")}
+_GEOMETRY = {kind: "srcQuad dstQuad" if kind == "BilinearQuad" else "coeffs direction" for kind in _KINDS.values()}
+_WARP_SIZE = {kind: make_call(f"qvpiWarp{kind}GetSize", "srcSize dstSize dataType "
+                              f"{given} interpolation borderType specSize initBufSize")
+              for kind, given in _GEOMETRY.items()}
+_OPTIONS = "numChannels borderType borderValue smoothEdge spec"
 _CUBIC = " valueB valueC initBuf"
-_WARP_INIT = {(kind, method): make_call(f"qvpiWarp{kind}{method.title()}Init",
-                                        f"srcSize dstSize {_TRANSFORM}{_CUBIC if method == 'cubic' else ''}")
-              for kind, method in _WARPS}
+_WARP_INIT = {(kind, method): make_call(f"qvpiWarp{kind}{method.title()}Init", f"srcSize dstSize dataType {given} "
+                                        f"{_OPTIONS}{_CUBIC if method == 'cubic' else ''}")
+              for kind, given in _GEOMETRY.items() for method in _WARP_METHODS}
 _WARP_BUFFER = make_call("qvpiWarpGetBufferSize", "spec dstSize bufSize")
 
 
 class Warp(Mapped):
-    """Warps by a matrix of shape (2, 3), affine, or (3, 3), perspective: w = Warp(a.shape, a.dtype, matrix); w(a).
+    """Warps by a matrix: w = Warp(a.shape, a.dtype, matrix); w(a).
 
-    The matrix maps source points (x, y, 1) to destination points; inverse=True the other way. method: 'nearest',
-    'linear', 'cubic' (with `b` and `c`). border: 'constant' (`value`), 'replicate', or 'transparent', which leaves
-    pixels of `out` alone that fall outside. smooth: edges blend into what was there. All five dtypes.
+    The matrix maps source points (x, y) to destination points; inverse=True the other way. Its shape tells what it is:
+    (2, 3) affine, (3, 3) perspective, (2, 4) bilinear, of x y, x, y and 1; (2, 4, 2) the corners of a quadrangle of the
+    source and of one of the destination, which is all that is written. method: 'nearest', 'linear', 'cubic' (with `b`
+    and `c`). border: 'constant' (`value`), 'replicate', or 'transparent', which leaves pixels of `out` alone that fall
+    outside. smooth: edges blend into what was there. All five dtypes.
     """
 
     def __init__(self, shape, dtype, matrix, dst_shape=None, method="linear", *, inverse=False, border="constant",
                  value=0.0, smooth=False, b=0.0, c=0.5):
         self.prepare(shape, shape if dst_shape is None else dst_shape, dtype)
         matrix = numpy.ascontiguousarray(matrix, numpy.float64)
-        if matrix.shape not in ((2, 3), (3, 3)) or not numpy.isfinite(matrix).all():
-            raise ValueError("the matrix must have finite numbers, of shape (2, 3) or (3, 3)")
-        kind = "Affine" if len(matrix) == 2 else "Perspective"
+        if matrix.shape not in _KINDS or not numpy.isfinite(matrix).all():
+            raise ValueError("the matrix must have finite numbers, of shape (2, 3), (3, 3), (2, 4) or (2, 4, 2)")
+        kind = _KINDS[matrix.shape]
         if method not in _WARP_METHODS:
             raise ValueError(f"method must be one of {', '.join(map(repr, _WARP_METHODS))}, not {method!r}")
         outside, direction = choice(_OUTSIDE, border, "border"), int(bool(inverse))
-        self._call = self.find(_WARPS[kind, method])
-        self._keeps = border == "transparent" or smooth
-        sizes = size_of(_WARP_SIZE[kind], self.src, self.dst, self.kind, matrix, INTERPOLATIONS[method], direction,
-                        outside, count=2)
+        back = "Back" if inverse and kind == "Bilinear" else ""
+        self._call = self.find(_WARPS.get((kind, method)) or _ANY_METHOD[kind + back])
+        self._keeps = border == "transparent" or smooth or kind == "BilinearQuad"
+        given = tuple(matrix) if kind == "BilinearQuad" else (matrix, direction)
+        sizes = size_of(_WARP_SIZE[kind], self.src, self.dst, self.kind, *given, INTERPOLATIONS[method], outside,
+                        count=2)
         self._spec = memory(sizes[0])
         values = numpy.ascontiguousarray(numpy.broadcast_to(numpy.asarray(value, numpy.float64), (self.channels,)))
         cubic = (b, c, memory(sizes[1])) if method == "cubic" else ()
-        _WARP_INIT[kind, method](self.src, self.dst, self.kind, matrix, direction, self.channels, outside, values,
+        _WARP_INIT[kind, method](self.src, self.dst, self.kind, *given, self.channels, outside, values,
                                  int(bool(smooth)), self._spec, *cubic)
         self._buffers = Buffers(size_of(_WARP_BUFFER, self._spec, self.dst))
 
@@ -73,35 +83,61 @@ class Warp(Mapped):
 
 
 @cached
-def _warp(shape, dtype, matrix, rows, dst_shape, method, options):
-    return Warp(shape, dtype, numpy.frombuffer(matrix).reshape(rows, 3), dst_shape, method, **dict(options))
+def _warp(shape, dtype, matrix, matrix_shape, dst_shape, method, options):
+    return Warp(shape, dtype, numpy.frombuffer(matrix).reshape(matrix_shape), dst_shape, method, **dict(options))
 
 
-def _warped(a, matrix, rows, dst_shape, method, out, threads, copy, options):
+def _warped(a, matrix, matrix_shape, dst_shape, method, out, threads, copy, options):
     a = image(a)
     matrix = numpy.ascontiguousarray(matrix, numpy.float64)
-    if matrix.shape != (rows, 3):
-        raise ValueError(f"the matrix must have the shape ({rows}, 3)")
+    if matrix.shape != matrix_shape:
+        raise ValueError(f"the matrix must have the shape {matrix_shape}")
     values = {name: tuple(value) if isinstance(value, (list, numpy.ndarray)) else value
               for name, value in options.items()}
-    made = _warp(a.shape, a.dtype, matrix.tobytes(), rows, dst_shape and tuple(dst_shape), method,
+    made = _warp(a.shape, a.dtype, matrix.tobytes(), matrix_shape, dst_shape and tuple(dst_shape), method,
                  tuple(values.items()))
     return made(a, out, threads=threads, copy=copy)
 
 
 def warp_affine(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
     """The image moved by a (2, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
-    return _warped(a, matrix, 2, shape, method, out, threads, copy, options)
+    return _warped(a, matrix, (2, 3), shape, method, out, threads, copy, options)
 
 
 def warp_perspective(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
     """The image moved by a (3, 3) matrix from source to destination points, into an image of `shape`; see Warp."""
-    return _warped(a, matrix, 3, shape, method, out, threads, copy, options)
+    return _warped(a, matrix, (3, 3), shape, method, out, threads, copy, options)
 
 
 def warp_quad(a, src_quad, dst_quad, shape=None, out=None, **options):
     """Warps so that four source points fall on four destination points; see Warp for the options."""
     return warp_perspective(a, perspective_transform(src_quad, dst_quad), shape, out, **options)
+
+
+def warp_bilinear(a, matrix, shape=None, out=None, *, method="linear", threads=None, copy=False, **options):
+    """The image moved by a (2, 4) matrix from source to destination points, into an image of `shape`; see Warp."""
+    return _warped(a, matrix, (2, 4), shape, method, out, threads, copy, options)
+
+
+def warp_bilinear_quad(a, src_quad, dst_quad, shape=None, out=None, *, method="linear", threads=None, copy=False,
+                       **options):
+    """A quadrangle of the image, laid bilinearly into one of `out`, or of a new black image; see Warp.
+
+    Corners are (x, y), around each quadrangle. Meshes of quadrangles leave no gap.
+    """
+    if out is not None and shape is None:
+        shape = numpy.shape(out)[:2]
+    return _warped(a, (src_quad, dst_quad), (2, 4, 2), shape, method, out, threads, copy, options)
+
+
+def bilinear_transform(shape, quad):
+    """The (2, 4) matrix that takes the corners of an image of `shape` to four points, clockwise from the top left."""
+    matrix = numpy.zeros((2, 4))
+    _BILINEAR((0, 0, shape[1], shape[0]), numpy.ascontiguousarray(quad, float), matrix)
+    return matrix
+
+
+_BILINEAR = make_call("qvpiGetBilinearTransform", "srcRoi quad coeffs")
 
 
 def affine_transform(src, dst):

@@ -120,6 +120,30 @@ def test_warps(method, border, dtype, perspective, angle):
     numpy.testing.assert_array_equal(function(a, matrix, (45, 70), method=method, border=border, value=9), whole)
 
 
+@given(st.sampled_from(["nearest", "linear", "cubic"]), st.sampled_from(["u1", "i2", "f4", "f8"]), st.booleans())
+def test_bilinear_warps(method, dtype, inverse):
+    a = random((50, 60, 3), dtype if dtype != "f8" else "f4", 5).astype(dtype)
+    matrix = qvpi.bilinear_transform(a.shape, [(3, 2), (55, -4), (58, 47), (1, 41)])
+    quads = [[(5, 4), (50, 2), (55, 40), (2, 45)], [(3, 2), (60, -4), (69, 40), (1, 41)]]
+    for transform in (matrix, quads):
+        made = qvpi.Warp(a.shape, a.dtype, transform, (45, 70), method, inverse=inverse)
+        whole = made(a)
+        numpy.testing.assert_array_equal(made(a, threads=3), whole)
+        numpy.testing.assert_array_equal(made(a, tile=(7, 9, 20, 30)), whole[7:27, 9:39])
+    out = numpy.full_like(whole, 7)
+    qvpi.warp_bilinear_quad(a, *quads, out=out, method=method)
+    numpy.testing.assert_array_equal(out[whole != 0], whole[whole != 0])
+    assert (out[44] == 7).all()
+
+
+def test_bilinear_formulas():
+    a = random((20, 30), "f8", 1)
+    corners = [(0, 0), (29, 0), (29, 19), (0, 19)]
+    matrix = qvpi.bilinear_transform(a.shape, [corners[1], corners[0], corners[3], corners[2]])
+    numpy.testing.assert_array_equal(qvpi.warp_bilinear(a, matrix), a[:, ::-1])
+    numpy.testing.assert_allclose(qvpi.warp_bilinear_quad(a, corners, corners), a, atol=1e-9)
+
+
 def test_warp_formulas():
     a = random((20, 30), "f4", 1)
     turned = qvpi.warp_affine(a, qvpi.rotation(180, (14.5, 9.5)), method="nearest")
