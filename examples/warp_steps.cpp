@@ -1,5 +1,6 @@
 // Warps and remap of qvpi_geometry.h: the picture turned, tilted and seen through a lens, and what borders look like.
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "examples/demo.h"
@@ -95,6 +96,91 @@ void Tilt(Demo& demo) {
   demo.Show("A quadrangle in perspective", result);
 }
 
+using Corners = double[4][2];
+
+// The way a bilinear map takes the corners, or back.
+void Keystone(Demo& demo, const std::string& caption, const Rgb& from, const Corners& to, QvpiWarpDirection direction,
+              Rgb& result) {
+  const QvpiSize size = from.size();
+  double coeffs[2][4];
+  Require(qvpiGetBilinearTransform({0, 0, size.width, size.height}, to, coeffs));
+  Warper warper(size);
+  Require(qvpiWarpBilinearLinearInit(size, size, qvp8u, coeffs, direction, kChannels, qvpBorderConst, kDark, 0,
+                                     warper.spec()));
+  const auto warp = [&](auto function) {
+    return [&, function] {
+      return function(from.data(), from.step(), result.data(), result.step(), {0, 0}, size, warper.spec(),
+                      warper.buffer());
+    };
+  };
+  if (direction == qvpWarpForward) {
+    demo.Time(size, 3, "qvpiWarpBilinear_8u_C3R", warp(qvpiWarpBilinear_8u_C3R));
+  } else {
+    demo.Time(size, 3, "qvpiWarpBilinearBack_8u_C3R", warp(qvpiWarpBilinearBack_8u_C3R));
+  }
+  demo.Show(caption, result);
+}
+
+// What a projector above the screen makes of the picture, and the picture again.
+void KeystoneAndBack(Demo& demo) {
+  const QvpiSize size = demo.photo().size();
+  const double w = size.width - 1, h = size.height - 1;
+  const Corners to = {{0.15 * w, 0}, {0.85 * w, 0}, {w, h}, {0, h}};
+  Rgb keystone(size), back(size);
+  Keystone(demo, "Bilinear: keystone", demo.photo(), to, qvpWarpForward, keystone);
+  Keystone(demo, "The keystone undone", keystone, to, qvpWarpBackward, back);
+}
+
+// Lays a quadrangle of the picture into another one of the result.
+QvpStatus Lay(const Rgb& photo, const Corners& from, const Corners& to, Warper& warper, Rgb& result) {
+  const QvpiSize size = photo.size();
+  Require(qvpiWarpBilinearQuadLinearInit(size, from, size, to, qvp8u, kChannels, qvpBorderReplicate, nullptr, 0,
+                                         warper.spec()));
+  return qvpiWarpBilinearQuad_8u_C3R(photo.data(), photo.step(), result.data(), result.step(), {0, 0}, size,
+                                     warper.spec(), warper.buffer());
+}
+
+// Only the quadrangle is written.
+void Poster(Demo& demo) {
+  const Rgb& photo = demo.photo();
+  const QvpiSize size = photo.size();
+  const double w = size.width - 1, h = size.height - 1;
+  const Corners from = {{0, 0}, {w, 0}, {w, h}, {0, h}};
+  const Corners to = {{0.3 * w, 0.05 * h}, {0.95 * w, 0.25 * h}, {0.75 * w, 0.95 * h}, {0.1 * w, 0.7 * h}};
+  Warper warper(size);
+  Rgb result = Chequered(size);
+  demo.Time(size, 3, "qvpiWarpBilinearQuad_8u_C3R", [&] { return Lay(photo, from, to, warper, result); });
+  demo.Show("Bilinear: a tilted poster", result);
+}
+
+// A mesh of 8 by 8 cells whose corners wave.
+void Mesh(Demo& demo) {
+  constexpr int kCells = 8;
+  const Rgb& photo = demo.photo();
+  const QvpiSize size = photo.size();
+  const double w = size.width - 1, h = size.height - 1;
+  const auto place = [&](int i, int j, double strength, double(&corner)[2]) {
+    corner[0] = w * i / kCells + strength * w * std::sin(j * 1.2) * (i % kCells != 0);
+    corner[1] = h * j / kCells + strength * h * std::sin(i * 1.2) * (j % kCells != 0);
+  };
+  const auto cell = [&](int i, int j, double strength, Corners& corners) {
+    for (int k = 0; k < 4; ++k) place(i + (k == 1 || k == 2), j + (k >= 2), strength, corners[k]);
+  };
+  Warper warper(size);
+  Rgb result = Chequered(size);
+  demo.Time(size, 3, "qvpiWarpBilinearQuad_8u_C3R", [&] {
+    QvpStatus status = qvpStatusNoError;
+    for (int k = 0; status == qvpStatusNoError && k < kCells * kCells; ++k) {
+      Corners from, to;
+      cell(k % kCells, k / kCells, 0, from);
+      cell(k % kCells, k / kCells, 0.03, to);
+      status = Lay(photo, from, to, warper, result);
+    }
+    return status;
+  });
+  demo.Show("A waving mesh of 8x8 quadrangles", result);
+}
+
 // A lens that magnifies its middle: what is seen at distance r from it lies at r (1 - k (1 - r^2)).
 void Lens(Demo& demo) {
   const Rgb& photo = demo.photo();
@@ -128,6 +214,9 @@ void WarpSteps(Demo& demo) {
   Turn(demo, "Turned: transparent", qvpBorderTransparent, 0);
   Turn(demo, "Turned: smooth edge", qvpBorderTransparent, 1);
   Tilt(demo);
+  KeystoneAndBack(demo);
+  Poster(demo);
+  Mesh(demo);
   Lens(demo);
 }
 
