@@ -62,6 +62,16 @@ BorderPoint Locate(const Area& area, double u, double v) {
   return point;
 }
 
+// The channels of a pixel, by few instructions: a call would take longer than all else of a point.
+template <class T>
+HWY_INLINE void CopyPixel(T* to, const T* from, int channels) {
+  switch (channels) {
+    case 1: std::memcpy(to, from, sizeof(T)); break;
+    case 3: std::memcpy(to, from, 3 * sizeof(T)); break;
+    default: std::memcpy(to, from, 4 * sizeof(T)); break;
+  }
+}
+
 // The taps of a point at the border: tap k of row r goes to patch + (r * kTaps + k) * channels.
 template <int kTaps, class T>
 void FetchPatch(const Task<T>& task, const BorderPoint& point, T* patch) {
@@ -75,7 +85,7 @@ void FetchPatch(const Task<T>& task, const BorderPoint& point, T* patch) {
     const T* row = y == kOutside ? nullptr : task.src.Row(y);
     for (int k = 0; k < kTaps; ++k, patch += channels) {
       const bool isConstant = row == nullptr || columns[k] == kOutside;
-      std::memcpy(patch, isConstant ? task.constant : row + columns[k] * channels, channels * sizeof(T));
+      CopyPixel(patch, isConstant ? task.constant : row + columns[k] * channels, channels);
     }
   }
 }
@@ -142,7 +152,7 @@ void StorePoint(const Task<T>& task, const BorderPoint& point, const T* first, p
   }
   T value[4];
   ValueOf<kTaps>(task, point, bytes, step, value);
-  std::memcpy(dst, value, written * sizeof(T));
+  CopyPixel(dst, value, written);
 }
 
 // A point by its taps, in the image where all are in it and in copies otherwise.
@@ -165,14 +175,14 @@ void SamplePoint(const Task<T>& task, double u, double v, T* dst) {
   if (point.origin == Origin::kNone) return;
   const int written = ProcessedChannels(task.src.layout);
   if (point.origin == Origin::kConstant) {
-    std::memcpy(dst, task.constant, written * sizeof(T));
+    CopyPixel(dst, task.constant, written);
   } else if constexpr (kTaps > 1) {
     SampleTaps<kTaps>(task, point, task.interior.u.Contains(u) && task.interior.v.Contains(v), dst);
   } else {
     T value[4];
     FetchPatch<1>(task, point, value);
     if (point.share < 1) return StoreMixed(value, point.share, written, dst);
-    std::memcpy(dst, value, written * sizeof(T));
+    CopyPixel(dst, value, written);
   }
 }
 

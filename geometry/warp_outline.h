@@ -36,6 +36,15 @@ class Outline {
     for (int i = 0; i < 4; ++i) edges_[i] = Edge(quad.at[i], quad.at[(i + 1) % 4]);
   }
 
+  // From the topmost corner to the lowest one.
+  Interval Rows() const {
+    Interval rows{INFINITY, -INFINITY};
+    for (const Edge& edge : edges_) {
+      rows = {std::min(rows.low, edge.origin.y), std::max(rows.high, edge.origin.y)};
+    }
+    return rows;
+  }
+
   // What lies inside on a row of the plane.
   Interval At(double y) const {
     Interval inside{-INFINITY, INFINITY};
@@ -67,8 +76,8 @@ class Outline {
   Edge edges_[4];
 };
 
-// The columns of n, counted from column `x`, that lie in an interval.
-inline Span ColumnsIn(const Interval& interval, double x, ptrdiff_t n) {
+// The places of n, counted from `x`, that lie in an interval.
+inline Span PlacesIn(const Interval& interval, double x, ptrdiff_t n) {
   const double first = std::max(interval.low - x, 0.0), last = std::min(interval.high - x, static_cast<double>(n - 1));
   if (!(first <= last)) return {n, n};
   const auto begin = static_cast<ptrdiff_t>(first);
@@ -85,12 +94,19 @@ class Outlines {
     isInnerKnown_ = !inner.u.IsEmpty() && !inner.v.IsEmpty() && RoundingIn(inner, record.solved) < kSafeRim / 2;
   }
 
+  // The rows of n, from row y on, that may be touched at all.
+  Span Rows(ptrdiff_t y, ptrdiff_t n) const {
+    const Interval rows = outer_.Rows();
+    const Interval turned = side_ < 0 ? Interval{-rows.high, -rows.low} : rows;
+    return isOuterKnown_ ? PlacesIn(turned, static_cast<double>(y), n) : Span{0, n};
+  }
+
   // Of n columns from `x` on in row y.
   Spans At(ptrdiff_t x, ptrdiff_t y, ptrdiff_t n) const {
     const double row = side_ * static_cast<double>(y), column = static_cast<double>(x);
     Spans spans{{0, n}, {n, n}};
-    if (isOuterKnown_) spans.touching = ColumnsIn(outer_.At(row), column, n);
-    const Span inside = isInnerKnown_ ? ColumnsIn(inner_.At(row), column, n) : Span{n, n};
+    if (isOuterKnown_) spans.touching = PlacesIn(outer_.At(row), column, n);
+    const Span inside = isInnerKnown_ ? PlacesIn(inner_.At(row), column, n) : Span{n, n};
     const bool isPart = inside.first >= spans.touching.first && inside.end <= spans.touching.end;
     spans.inside = isPart && inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};
     return spans;

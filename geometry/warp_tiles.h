@@ -171,7 +171,8 @@ void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) 
   const Task<T> task = TaskOf<kTaps>(call, record);
   const PointBox quick = SafeBox(kSquare), inner = InnerSquare(record.toSource, SafeBox(task.InnerBox(kTaps)));
   const Outlines outlines(record, WithRim(kSquare, kRim), kRim, inner);
-  for (ptrdiff_t y = 0; y < size.height; ++y) {
+  const Span rows = outlines.Rows(call.y, size.height);
+  for (ptrdiff_t y = rows.first; y < rows.end; ++y) {
     const Spans spans = outlines.At(call.x, call.y + y, size.width);
     WarpQuickly<kTaps>(task, spans, quick, QuadPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
   }
