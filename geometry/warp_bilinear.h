@@ -15,16 +15,17 @@ namespace qvp::warp {
 // Of the two ways to write a root, that without a difference of like numbers is taken. Beyond the fold R is NaN.
 class InverseRow {
  public:
-  // `map` does not turn over; `y` is the row, or -y where `map` was turned over.
+  // `map` does not turn over; `y` is the row, or -y where `map` was turned over. Factors of 2 change no digit, so that
+  // they stand where they cost nothing.
   InverseRow(const BilinearMap& map, double y) : a3_(map.c[0][3]) {
     const auto &a = map.c[0], &b = map.c[1];
     const double q = y - b[3], det = a[1] * b[2] - a[2] * b[1];
     const double ofV = a[0] * b[2] - a[2] * b[0], ofU = a[0] * b[1] - a[1] * b[0];
-    for (int i = 0; i < 3; ++i) b_[i] = b[i];
+    b0_ = b[0], minusTwoB1_ = -2 * b[1], twoB2_ = 2 * b[2];
     first_ = det - q * a[0];
-    qa1_ = q * a[1], qa2_ = q * a[2];
+    minusTwoQA1_ = -2 * (q * a[1]), twoQA2_ = 2 * (q * a[2]);
     twoDet_ = det + det;
-    fourA_ = 4 * ofV, twoA_ = 2 * ofV, minusTwoA_ = -2 * ofU;
+    twoA_ = 2 * ofV, minusTwoAU_ = -2 * ofU;
   }
 
   // Coordinates as quotients.
@@ -35,19 +36,16 @@ class InverseRow {
 
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE Quotients<V> At(D d, V x) const {
-    const auto p = hn::Sub(x, hn::Set(d, a3_));
-    const auto linear = hn::Add(hn::Set(d, first_), hn::Mul(p, hn::Set(d, b_[0])));
+    const auto p = hn::Sub(x, hn::Set(d, a3_)), twoA = hn::Set(d, twoA_);
+    const auto linear = hn::Add(hn::Set(d, first_), hn::Mul(p, hn::Set(d, b0_)));
     const auto linearU = hn::Sub(linear, hn::Set(d, twoDet_));
-    const auto constant = hn::Sub(hn::Mul(p, hn::Set(d, b_[1])), hn::Set(d, qa1_));
-    const auto constantU = hn::Sub(hn::Mul(p, hn::Set(d, b_[2])), hn::Set(d, qa2_));
-    const auto root = hn::Sqrt(hn::Sub(hn::Mul(linear, linear), hn::Mul(hn::Set(d, fourA_), constant)));
+    const auto minusTwoC = hn::Sub(hn::Mul(p, hn::Set(d, minusTwoB1_)), hn::Set(d, minusTwoQA1_));
+    const auto twoCU = hn::Sub(hn::Mul(p, hn::Set(d, twoB2_)), hn::Set(d, twoQA2_));
+    const auto root = hn::Sqrt(hn::Add(hn::Mul(linear, linear), hn::Mul(twoA, minusTwoC)));
     const auto sum = hn::Add(root, hn::Abs(linear)), sumU = hn::Add(root, hn::Abs(linearU));
     const auto isRising = hn::Ge(linear, hn::Zero(d)), isRisingU = hn::Le(linearU, hn::Zero(d));
-    const auto two = hn::Set(d, 2.0);
-    return {hn::IfThenElse(isRisingU, hn::Mul(constantU, two), sumU),
-            hn::IfThenElse(isRisingU, sumU, hn::Set(d, minusTwoA_)),
-            hn::IfThenElse(isRising, hn::Neg(hn::Mul(constant, two)), sum),
-            hn::IfThenElse(isRising, sum, hn::Set(d, twoA_))};
+    return {hn::IfThenElse(isRisingU, twoCU, sumU), hn::IfThenElse(isRisingU, sumU, hn::Set(d, minusTwoAU_)),
+            hn::IfThenElse(isRising, minusTwoC, sum), hn::IfThenElse(isRising, sum, twoA)};
   }
 
   template <class D>
@@ -67,7 +65,7 @@ class InverseRow {
   }
 
  private:
-  double a3_, b_[3], first_, qa1_, qa2_, twoDet_, fourA_, twoA_, minusTwoA_;
+  double a3_, b0_, minusTwoB1_, twoB2_, first_, minusTwoQA1_, twoQA2_, twoDet_, twoA_, minusTwoAU_;
 };
 
 // A point up to this far outside of the image lies on its edge: rounding would lose whole rows of edge pixels.
@@ -160,16 +158,18 @@ struct QuadPoints {
     square.row.Solve(d, square.columns.Load(d, i), s, t);
     const auto isWritten = IsIn(d, kWritten, s, t);
     FromSquare(d, hn::Min(hn::Max(s, zero), one), hn::Min(hn::Max(t, zero), one), x, y);
+    square.last.MoveToEdge(d, x, y);
     x = hn::IfThenElse(isWritten, x, hn::NaN(d));
     y = hn::IfThenElse(isWritten, y, hn::NaN(d));
   }
 
-  // The box is part of the square.
+  // The box is part of the square. Points that are not tested are within the image, so that none moves to its edge.
   template <bool kIsTested, class D>
   HWY_INLINE hn::Mask<D> LoadQuick(D d, ptrdiff_t i, const PointBox& box, hn::Vec<D>& x, hn::Vec<D>& y) const {
     hn::Vec<D> s, t;
     square.row.SolveAtOnce(d, square.columns.Load(d, i), s, t);
     FromSquare(d, s, t, x, y);
+    if constexpr (kIsTested) square.last.MoveToEdge(d, x, y);
     return IsIn(d, box, s, t);
   }
 
@@ -182,7 +182,6 @@ struct QuadPoints {
     };
     x = at(toSource->c[0]);
     y = at(toSource->c[1]);
-    square.last.MoveToEdge(d, x, y);
   }
 };
 

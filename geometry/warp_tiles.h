@@ -152,10 +152,8 @@ void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
 inline PointBox InnerSquare(const BilinearMap& toSource, const PointBox& inner) {
   constexpr double kFar = 1 << 24;  // where rounding would lead points out of the box
   const auto isIn = [&](Vertex p) { return inner.u.Contains(p.x) && inner.v.Contains(p.y); };
-  const Quadrangle source = toSource(Quadrangle(0, 0, 1, 1));
-  if (!std::all_of(source.at, source.at + 4, [](Vertex p) { return Interval{-kFar, kFar}.Contains(p.x + p.y); })) {
-    return {};
-  }
+  const auto isNear = [&](double x) { return std::fabs(x) < kFar; };
+  if (!std::all_of(&toSource.c[0][0], &toSource.c[0][0] + 8, isNear)) return {};
   for (double inset = kSafeRim; inset < 0.25; inset = 2 * inset + 1.0 / 4096) {
     const Quadrangle part = toSource(Quadrangle(inset, inset, 1 - inset, 1 - inset));
     if (std::all_of(part.at, part.at + 4, isIn)) return {{inset, 1 - inset}, {inset, 1 - inset}};
@@ -169,7 +167,8 @@ void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) 
   constexpr double kRim = 10 * QuadPoints::kTolerance;
   constexpr PointBox kSquare{{0, 1}, {0, 1}};
   const Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox quick = SafeBox(kSquare), inner = InnerSquare(record.toSource, SafeBox(task.InnerBox(kTaps)));
+  const PointBox quick = SafeBox(kSquare), within = SafeBox(WithinImage(task.InnerBox(kTaps), record));
+  const PointBox inner = InnerSquare(record.toSource, within);
   const Outlines outlines(record, WithRim(kSquare, kRim), kRim, inner);
   const Span rows = outlines.Rows(call.y, size.height);
   for (ptrdiff_t y = rows.first; y < rows.end; ++y) {

@@ -103,7 +103,9 @@ class Warp {
                    : Args(Cubic, rule.b, rule.c, border, ), room.data())
     status = m.kind == Kind::kQuad ? INIT(QUADS) : INIT(COEFFS);
     int bytes = 0;
-    if (status == 0) EXPECT_EQ(qvpiWarpGetBufferSize(spec(), dst, &bytes), 0);
+    if (status == 0) {
+      EXPECT_EQ(qvpiWarpGetBufferSize(spec(), dst, &bytes), 0);
+    }
     EXPECT_LE(static_cast<size_t>(bytes), buffer_.size());
   }
 
