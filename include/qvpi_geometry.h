@@ -1342,7 +1342,7 @@ QvpStatus qvpiWarpPerspectiveCubic_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcSte
  *
  *  R is the Jacobian. Beyond the fold it is NaN, and the point lies outside (replicate gives pixel (0, 0)). A
  *  coordinate up to 1e-6 outside of [0, srcWidth - 1] or [0, srcHeight - 1] becomes the bound, as rounding would lose
- *  rows of pixels at the edge. u and v are within 1e-8 pixel of the exact ones for quadrangles up to 4000 pixels that
+ *  rows of pixels at the edge. u and v are within 2e-8 pixel of the exact ones for quadrangles up to 4000 pixels that
  *  have no angle below 0.001.
  *
  *  For example, {-40 / 9801.0, 1, 20 / 99.0, 0; 0, 0, 1, 0} takes the corners of a 100x100 image to (0, 0), (99, 0),
