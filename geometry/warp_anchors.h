@@ -21,10 +21,7 @@ class AnchorSteps {
     if (au_ == au && av_ == av) return;
     au_ = au, av_ = av;
     isShort_ = std::fabs(au) <= kSteepest && std::fabs(av) <= kSteepest;
-    for (int i = 0; isShort_ && i < kColumns; ++i) {
-      u[i] = Rounded(au * (i % kAnchorColumns));
-      v[i] = Rounded(av * (i % kAnchorColumns));
-    }
+    if (isShort_) Fill(au, u), Fill(av, v);
   }
 
   // Whether a row of the destination can be placed by anchors. No matter which part of it is computed.
@@ -36,6 +33,9 @@ class AnchorSteps {
 
  private:
   static constexpr double kSteepest = 4;
+  static void Fill(double a, int32_t (&steps)[kColumns]) {
+    for (int i = 0; i < kAnchorColumns; ++i) steps[i] = steps[i + kAnchorColumns] = Rounded(a * i);
+  }
   static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kUnits)); }
 
   double au_ = NAN, av_ = NAN;

@@ -15,17 +15,14 @@ class FixedSteps {
   static constexpr int32_t kOne = 1 << kBits, kTolerance = 2;
 
   // For blocks of up to n points.
-  explicit FixedSteps(ptrdiff_t n) : count_(std::min<ptrdiff_t>(Padded(n), kBlock)) {}
+  explicit FixedSteps(ptrdiff_t n) : count_(static_cast<int>(std::min<ptrdiff_t>(Padded(n), kBlock))) {}
 
   // For lines of these slopes. False if they are too steep.
   bool Set(double au, double av) {
     if (au_ == au && av_ == av) return isUsable_;
     au_ = au, av_ = av;
     isUsable_ = IsShort(au) && IsShort(av);
-    for (int i = 0; isUsable_ && i < count_; ++i) {
-      u_[i] = Rounded(au * i);
-      v_[i] = Rounded(av * i);
-    }
+    if (isUsable_) Fill(au, count_, u_), Fill(av, count_, v_);
     return isUsable_;
   }
 
@@ -50,13 +47,16 @@ class FixedSteps {
  private:
   // Whether the longest block stays within 31 bits.
   static bool IsShort(double a) { return a >= -16 && a <= 16; }
+  static void Fill(double a, int n, int32_t* steps) {
+    for (int i = 0; i < n; ++i) steps[i] = Rounded(a * i);
+  }
   static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kOne)); }
   static int32_t WholeBelowOf(double x) { return static_cast<int32_t>(x + 1) - 1; }  // of interior points, from -1 on
   // Half a pixel on, so that the pixel is the whole number below, and by the tolerance, so that it is on one side of
   // it.
   static int32_t Start(double fraction) { return Rounded(fraction) + kOne / 2 + kTolerance; }
 
-  ptrdiff_t count_;
+  int count_;
   double au_ = NAN, av_ = NAN;
   bool isUsable_ = false;
   int32_t u_[kBlock], v_[kBlock];
