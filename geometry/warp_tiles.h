@@ -61,8 +61,10 @@ void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
   const bool isPlaced = kTaps == 1 && !task.isShift;
   FixedSteps fixedSteps(isPlaced ? size.width : 0);
   AnchorSteps anchorSteps;
-  const double middle = static_cast<double>(call.x + size.width / 2);
-  const auto down = [&](int i) { return (record.twist[i] * middle + record.c[i][1]) * kRowsAhead; };
+  const ptrdiff_t middle = call.x + size.width / 2;
+  const auto down = [&](int i) {
+    return (record.twist[i] * static_cast<double>(middle) + record.c[i][1]) * kRowsAhead;
+  };
   task.FetchAhead(down(0), down(1));
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     T* row = call.dst.Row(y);
