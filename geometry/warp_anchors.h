@@ -64,7 +64,7 @@ struct Anchors {
 // Interior points of a row.
 struct AnchoredPoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = true;
+  static constexpr bool kAreAllWritten = true, kIsLong = false;
   Line u, v;  // in units
   const AnchorSteps* steps;
   ptrdiff_t column;

@@ -90,7 +90,7 @@ struct LastPixel {
 
 struct BilinearPoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = true;
+  static constexpr bool kAreAllWritten = true, kIsLong = true;
   InverseRow row;
   LastPixel last;
   Columns columns;
@@ -130,7 +130,7 @@ struct BilinearPoints {
 // Points of a quadrangle in another one. Elsewhere there is no coordinate, but NaN, and pixels are left alone.
 struct QuadPoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = false;
+  static constexpr bool kAreAllWritten = false, kIsLong = true;
   static constexpr double kTolerance = 1e-9;  // of the square between the quadrangles
   BilinearPoints square;                      // points of it
   const BilinearMap* toSource;

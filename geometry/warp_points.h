@@ -8,7 +8,7 @@ namespace qvp::warp {
 
 struct AffinePoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = true;
+  static constexpr bool kAreAllWritten = true, kIsLong = false;
   Line u, v;
   Columns columns;
   const FixedSteps* steps = nullptr;
@@ -56,7 +56,7 @@ HWY_INLINE hn::Mask<D> IsIn(D d, const PointBox& box, hn::Vec<D> x, hn::Vec<D> y
 // Near and at the horizon there is no coordinate, but NaN.
 struct PerspectivePoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = true;
+  static constexpr bool kAreAllWritten = true, kIsLong = false;
   AffinePoints affine;
   Line w;
 
@@ -152,7 +152,7 @@ struct PerspectivePoints {
 template <class Points, bool kIsTested>
 struct QuickPoints {
   using Coordinate = double;
-  static constexpr bool kAreAllWritten = Points::kAreAllWritten;
+  static constexpr bool kAreAllWritten = Points::kAreAllWritten, kIsLong = Points::kIsLong;
   Points points;
   const PointBox* box;
 

@@ -37,13 +37,21 @@ void SampleTested(const Task<T>& task, const Points& points, ptrdiff_t first, pt
   }
 }
 
-// Interior points.
+// Interior points. Where a point takes a long chain of steps, a loop of its own makes them: a CPU overlaps few turns of
+// a longer one.
 template <int kTaps, class T, class Points>
 void SampleInterior(const Task<T>& task, const Points& points, const Span& span, T* row) {
   for (ptrdiff_t x = span.first, n; x < span.end; x += n) {
     const auto from = points.From(x);
     n = std::min<ptrdiff_t>(span.end - x, from.MostAtOnce());
-    SampleInside<kTaps>(task, from, n, row + x * Channels(task.src.layout));
+    T* const to = row + x * Channels(task.src.layout);
+    if constexpr (Points::kIsLong) {
+      double u[kBlock + kSpare], v[kBlock + kSpare];
+      StoreCoordinates(from, n, u, v);
+      SampleInside<kTaps>(task, PointArray<double>{u, v}, n, to);
+    } else {
+      SampleInside<kTaps>(task, from, n, to);
+    }
   }
 }
 
