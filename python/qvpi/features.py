@@ -3,11 +3,11 @@ import numpy
 
 from . import raw
 from ._call import key
+from ._neighbourhood import BORDERS, pair_of
 from ._operation import Operation, channels, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
-from ._neighbourhood import BORDERS
 
 __all__ = ["Hog", "hog"]
 
@@ -27,12 +27,13 @@ class Hog:
     """
 
     def __init__(self, window=(128, 64), cell=8, stride=8, bins=9, sigma=None, clip=0.2, columns_first=False):
+        rows, columns = pair_of(window, "window")
         config = raw.ffi.new("QvpiHOGConfig*", {
             "cvCompatible": int(columns_first), "cellSize": cell, "blockSize": 2 * cell, "blockStride": stride,
             "nbins": bins, "sigma": cell if sigma is None else sigma, "l2thresh": clip,
-            "winSize": {"width": window[1], "height": window[0]}})
+            "winSize": {"width": columns, "height": rows}})
         packed = numpy.frombuffer(raw.ffi.buffer(config), numpy.uint8)
-        self.window, self._block = tuple(window), (2 * cell, stride)
+        self.window, self._block = (rows, columns), (2 * cell, stride)
         self._spec = memory(size_of(_SIZE, packed))
         _INIT(packed, self._spec)
         self.size = size_of(_DESCRIPTOR, self._spec) // 4  # told in bytes
