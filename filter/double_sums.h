@@ -7,12 +7,10 @@
 //   family.Of(i, v, sums)                 results from result i of a row on, of pixels and of their sums
 #pragma once
 
+#include "filter/exact_differences.h"
 #include "filter/float_sums.h"
 
 namespace qvp::filter {
-
-using DoubleLanes = hn::ScalableTag<double>;
-using DoubleVector = hn::Vec<DoubleLanes>;
 
 // Rows of memory that are used while a line is made: the quantities, and levels of their sums.
 inline ByteCount DoubleRowBytes(QvpiSize mask, int64_t regionWidth, int channels) {

@@ -2,6 +2,7 @@
 // of the noise.
 #include "base/export.h"
 #include "filter/double_sums.h"
+#include "filter/exact_differences.h"
 #include "filter/window_call.h"
 
 namespace qvp::filter {
@@ -15,39 +16,13 @@ constexpr int kLongestSide = 255;
 constexpr bool IsSide(int n) { return n >= 1 && n <= kLongestSide && n % 2 == 1; }
 constexpr bool IsMask(QvpiSize mask) { return IsSide(mask.width) && IsSide(mask.height); }
 
-// Whole numbers below 2^52, from doubles.
-HWY_INLINE hn::Vec<hn::Repartition<uint64_t, D>> Whole(V v) {
-  const hn::Repartition<uint64_t, D> words;
-  return hn::And(hn::BitCast(words, hn::Add(v, hn::Set(D(), 0x1p52))), hn::Set(words, (uint64_t{1} << 52) - 1));
-}
-
-// A whole number below 2^63 as a double: its halves are exact, so that their sum is rounded once.
-HWY_INLINE V Rounded(hn::Vec<hn::Repartition<uint64_t, D>> whole) {
-  const hn::Repartition<uint64_t, D> words;
-  const auto as = [=](auto half, double unit) QVP_INLINED {
-    const V offset = hn::Set(D(), unit);
-    return hn::Sub(hn::BitCast(D(), hn::Or(half, hn::BitCast(words, offset))), offset);
-  };
-  const auto lower = hn::And(whole, hn::Set(words, 0xFFFFFFFF));
-  return hn::Add(as(hn::ShiftRight<32>(whole), 0x1p84), as(lower, 0x1p52));
-}
-
 // n^2 times the variance, n s2 - s1^2. That of bytes is exact in doubles; the products of sums of 16-bit numbers leave
 // them, and are whole numbers modulo 2^64, which hold the difference.
 template <class T>
 HWY_INLINE V Deviation(double n, V s1, V s2) {
-  if constexpr (sizeof(T) != 2) {
-    return hn::Sub(hn::Mul(hn::Set(D(), n), s2), hn::Mul(s1, s1));
-  } else {
-    const hn::Repartition<uint64_t, D> words;
-    const hn::Repartition<uint32_t, D> halves;
-    const auto square = hn::BitCast(halves, Whole(hn::Abs(s1)));
-    const auto count = hn::BitCast(halves, hn::Set(words, static_cast<uint64_t>(n))),
-               sum = hn::BitCast(halves, Whole(s2));
-    const auto upper = hn::MulEven(hn::BitCast(halves, hn::ShiftRight<32>(hn::BitCast(words, sum))), count);
-    const auto product = hn::Add(hn::MulEven(sum, count), hn::ShiftLeft<32>(upper));
-    return Rounded(hn::Sub(product, hn::MulEven(square, square)));
-  }
+  if constexpr (sizeof(T) != 2) return RealDifference(n, s2, s1, s1);
+  const V magnitude = hn::Abs(s1);
+  return Rounded(WholeDifference(n, s2, magnitude, magnitude));
 }
 
 // What the filter sums, and what becomes of it: (s1 + (n p - s1) g) / n with g = (d - noise) / d, or 0.
