@@ -531,6 +531,170 @@ QvpStatus qvpiFilterWienerBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f
 QvpStatus qvpiFilterWienerBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, const Qvp32f noise[3], QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Guided filter: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of guided filters.
+ *
+ *  The buffer serves every smaller mask and region too, at any border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 255
+ *  - qvpStatusDataType, qvpStatusNumChannels: `dataType`, `numChannels` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGuidedBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Guided filter
+ *  @{ */
+/** Filters an image so that its edges are those of a guide (He, Sun, Tang, Guided image filtering, 2013), channel by
+ *  channel: for mattes, haze and depth, whose edges are to follow a photograph; with the image as its own guide, to
+ *  take away noise and small details and keep edges.
+ *
+ *  In the mask around each pixel the source p is described as a line over the guide I, a * I + b, by least squares that
+ *  eps keeps flat. The result is the mean of what all masks that cover a pixel make of it. With sums over a mask of n
+ *  pixels:
+ *
+ *  @code
+ *    a   = A / (B + e), or 0 unless B + e > 0,  A = n * sum(I p) - sum(I) * sum(p),  B = n * sum(I I) - sum(I)^2
+ *    b   = (sum(p) - a * sum(I)) / n,           e = eps * (unit * n)^2
+ *    dst = (sum(a) * I + sum(b)) / n
+ *  @endcode
+ *
+ *  `unit` is 255 for 8u, 65535 for 16u and 1 for 32f, so that one eps serves all types: where the guide's variance is
+ *  far above eps * unit^2, edges stay, where it is far below, the result is the mean of means. A step of 0 0 0 0 100
+ *  100 100 100 100 by itself, 3x1, replicated, stays for eps 0.0001, becomes 0 0 3 8 92 97 100 100 100 for 0.01 and 0 0
+ *  11 32 68 89 100 100 100 for 1. A constant source passes unchanged for any eps above 0.
+ *
+ *  A and B of integers are exact. The rest is double precision, but for 8u a and b, their sums and dst are single, b
+ *  from the a so rounded. Sums of reals are those of rows, then of columns, each in the order that qvpiFilterBoxBorder
+ *  has. Integers are rounded to the nearest, ties to even. 8u differs from results in double precision by less than
+ *  0.0001 before they are rounded, by 0.003 for eps of 0. Within width - 1 columns and height - 1 rows of a NaN or an
+ *  infinity, in either image, results are not finite.
+ *
+ *  Time grows with the logarithm of the mask's sides. A guide that is the source, by pointer and step, saves time and
+ *  changes nothing. AC4 keeps alpha.
+ *
+ *  Pixels outside of the region are what the border type says, of both images: memory on the sides whose flag is set,
+ *  as far as width - 1 columns and height - 1 rows of the mask, twice its reach; the kind is applied outside of the
+ *  region so enlarged. Functions beyond the region are made of these pixels. Tiles that are joined by these flags give
+ *  the bits of the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source p, at the first pixel of the region
+ *  @param pGuide,guideStep guide I, of the same type and layout; may be the source
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255; the mask may be larger than the region
+ *  @param eps variance of the guide that counts as little, over unit^2: 0 or more, finite
+ *  @param borderType qvpBorderReplicate or qvpBorderMirror, with flags of sides in memory, or qvpBorderInMem
+ *  @param pBuffer work buffer of the size that qvpiFilterGuidedBorderGetBufferSize() tells for this or a larger mask
+ *         and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusEps: `eps` is negative, infinite or NaN
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGuidedBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, const Qvp8u* pGuide, int guideStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, const Qvp8u* pGuide, int guideStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_8u_C4R(const Qvp8u* pSrc, int srcStep, const Qvp8u* pGuide, int guideStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_8u_AC4R(const Qvp8u* pSrc, int srcStep, const Qvp8u* pGuide, int guideStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, const Qvp16u* pGuide, int guideStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, const Qvp16u* pGuide, int guideStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_16u_C4R(const Qvp16u* pSrc, int srcStep, const Qvp16u* pGuide, int guideStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_16u_AC4R(const Qvp16u* pSrc, int srcStep, const Qvp16u* pGuide, int guideStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, const Qvp32f* pGuide, int guideStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_32f_C3R(const Qvp32f* pSrc, int srcStep, const Qvp32f* pGuide, int guideStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_32f_C4R(const Qvp32f* pSrc, int srcStep, const Qvp32f* pGuide, int guideStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedBorder_32f_AC4R(const Qvp32f* pSrc, int srcStep, const Qvp32f* pGuide, int guideStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Guided filter by colours: work buffer
+ *  @{ */
+/** Tells the size of the work buffer of filters that are guided by colours.
+ *
+ *  The buffer serves every smaller mask and region too, at any border. It may begin anywhere.
+ *
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255
+ *  @param roiSize size of the region in pixels
+ *  @param dataType type of the images: qvp8u, qvp16u or qvp32f
+ *  @param pBufferSize size in bytes; 0 if it cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusMaskSize: a side of `maskSize` is even, below 1 or above 255
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGuidedColorBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int* pBufferSize);
+/** @} */
+
+/** @name Guided filter by colours
+ *  @{ */
+/** Filters an image of one channel so that its edges are those of a guide of three: what differs by hue alone is an
+ *  edge, too (He, Sun, Tang, Guided image filtering, 2013). For coarse masks and depths of a photograph.
+ *
+ *  In the mask around each pixel the source p is described by a linear function of the guide's I1, I2, I3, by least
+ *  squares that eps keeps flat; the result is the mean of what all masks that cover a pixel make of it. With sums over
+ *  a mask of n pixels, e = eps * (unit * n)^2, `unit` 255 for 8u, 65535 for 16u, 1 for 32f:
+ *
+ *  @code
+ *    mij = n * sum(Ii Ij) - sum(Ii) * sum(Ij), with e added to m11, m22, m33;  vi = n * sum(Ii p) - sum(Ii) * sum(p)
+ *
+ *    d1  = m11             l21 = m12 / d1     l31 = m13 / d1
+ *    d2  = m22 - l21 m12   t   = m23 - l31 m12   l32 = t / d2
+ *    d3  = (m33 - l31 m13) - l32 t
+ *    z2  = v2 - l21 v1     z3  = (v3 - l31 v1) - l32 z2
+ *    a3  = z3 / d3         a2  = z2 / d2 - l32 a3     a1 = (v1 / d1 - l21 a2) - l31 a3
+ *
+ *    b   = (((sum(p) - a1 sum(I1)) - a2 sum(I2)) - a3 sum(I3)) / n
+ *    dst = (((sum(a1) I1 + sum(a2) I2) + sum(a3) I3) + sum(b)) / n
+ *  @endcode
+ *
+ *  where a quotient is 0 unless its divisor is above 0. Precision, order of sums, rounding, what is not finite, and
+ *  times are those of qvpiFilterGuidedBorder; a1, a2 and a3 of 8u are rounded to single precision once all are known. A
+ *  constant source passes unchanged for any eps above 0.
+ *
+ *  Pixels outside of the region are what the border type says, of both images: memory on the sides whose flag is set,
+ *  as far as width - 1 columns and height - 1 rows of the mask, twice its reach; the kind is applied outside of the
+ *  region so enlarged. Functions beyond the region are made of these pixels. Tiles that are joined by these flags give
+ *  the bits of the whole image. The destination must not overlap with what is read.
+ *
+ *  @param pSrc,srcStep source p, at the first pixel of the region
+ *  @param pGuide,guideStep guide I, of the same type with three channels
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region in pixels
+ *  @param maskSize sides of the mask in pixels: odd, 1 to 255; the mask may be larger than the region
+ *  @param eps variance of the guide that counts as little, over unit^2: 0 or more, finite
+ *  @param borderType qvpBorderReplicate or qvpBorderMirror, with flags of sides in memory, or qvpBorderInMem
+ *  @param pBuffer work buffer of the size that qvpiFilterGuidedColorBorderGetBufferSize() tells for this or a larger
+ *         mask and region
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is shorter than its row of the region
+ *  - qvpStatusMaskSize: `maskSize` is none of the above
+ *  - qvpStatusEps: `eps` is negative, infinite or NaN
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterGuidedColorBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, const Qvp8u* pGuide, int guideStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedColorBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, const Qvp16u* pGuide, int guideStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+QvpStatus qvpiFilterGuidedColorBorder_32f_C1R(const Qvp32f* pSrc, int srcStep, const Qvp32f* pGuide, int guideStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, Qvp32f eps, QvpiBorderType borderType, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Threshold by the mean around each pixel: work buffer
  *  @{ */
 /** Tells the size of the work buffer of qvpiThresholdLocalBoxBorder.

@@ -54,7 +54,7 @@ bool IsRegion(const Scene& scene, const std::vector<Argument>& arguments, ptrdif
   const auto& [type, name] = function.parameters[picture.place];
   const test::Name parts(function.name);
   const bool isDestination = name == "pDst", isInPlace = name == "pSrcDst";
-  const bool isSource = name.starts_with("pSrc") && !isInPlace;
+  const bool isSource = (name.starts_with("pSrc") && !isInPlace) || name == "pGuide";
   const int top = function.Find("topBorderHeight"), left = function.Find("leftBorderWidth");
   const bool isFramed = isInPlace && top >= 0 && left >= 0;  // the pointer is at what lies in the frame
   const int size = SizeFor(function, isFramed ? "pDst" : name);

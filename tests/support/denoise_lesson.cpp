@@ -153,4 +153,41 @@ bool LocalThresholdLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+bool GuidedLesson(Scene& scene, size_t place, Argument& argument) {
+  // Twice the reach is within what lies around images.
+  constexpr QvpiSize kMasks[] = {{3, 3}, {5, 5}, {1, 1}, {7, 3}, {1, 9}, {9, 5}};
+  constexpr float kEps[] = {0.01f, 0, 1, 0.0001f};
+  const std::string_view name = scene.function().parameters[place].name;
+  Random random = scene.choices();
+  const QvpiSize mask = kMasks[random.Next() % std::size(kMasks)];
+  const Disc about = DiscOf(scene);
+  if (name == "pGuide") {
+    return WindowLesson(scene, 0, argument);
+  } else if (name == "guideStep") {
+    return WindowLesson(scene, 1, argument);
+  } else if (name == "maskSize") {
+    argument = mask;
+  } else if (name == "eps") {
+    argument = kEps[random.Next() % std::size(kEps)];
+  } else if (name == "borderType") {
+    const bool isMirror = random.Next() % 2;
+    argument = (isMirror ? qvpBorderMirror : qvpBorderReplicate) | static_cast<int>(random.Next() & qvpBorderInMem);
+  } else if (name == "pBuffer") {
+    int size = 0;
+    if (scene.Has("Color")
+            ? qvpiFilterGuidedColorBorderGetBufferSize(mask, scene.roi(), about.type, &size)
+            : qvpiFilterGuidedBorderGetBufferSize(mask, scene.roi(), about.type, about.channels, &size)) {
+      throw std::runtime_error("the size of a guided filter's work buffer");
+    }
+    argument = {scene.Input(size)};
+  } else if (name == "dataType") {
+    argument = about.type;
+  } else if (name == "numChannels") {
+    argument = about.channels;
+  } else {
+    return WindowLesson(scene, place, argument);
+  }
+  return true;
+}
+
 }  // namespace test

@@ -42,6 +42,7 @@ constexpr struct {
     {"qvpiFilterDilate", ExtremesLesson},
     {"qvpiFilterErode", ExtremesLesson},
     {"qvpiFilterGauss", GaussLesson},
+    {"qvpiFilterGuided", GuidedLesson},
     {"qvpiFilterLeastSquares", LeastSquaresLesson},
     {"qvpiFilterMax", ExtremesLesson},
     {"qvpiFilterMedian", MedianLesson},
