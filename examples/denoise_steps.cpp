@@ -1,4 +1,6 @@
-// Steps of qvpi_denoise.h: a grainy photograph, smoothed, and a photograph with less detail and with more.
+// Steps of qvpi_denoise.h: a grainy photograph, smoothed; one with less detail and with more; a mask that follows its
+// edges.
+#include <algorithm>
 #include <vector>
 
 #include "examples/demo.h"
@@ -51,6 +53,41 @@ void Wiener(Demo& demo, const Rgb& grainy) {
   demo.Show("Grain taken away by Wiener", result);
 }
 
+// Where the photograph is bright, in squares: the middle pixel of each decides.
+Grey CoarseMask(const Rgb& photo) {
+  constexpr int kSide = 24;
+  Grey mask(photo.size());
+  for (int y = 0; y < photo.size().height; ++y) {
+    for (int x = 0; x < photo.size().width; ++x) {
+      const auto middle = [](int i, int n) { return std::min(i / kSide * kSide + kSide / 2, n - 1); };
+      const Qvp8u* const pixel = photo.At(middle(x, photo.size().width), middle(y, photo.size().height));
+      *mask.At(x, y) = pixel[0] + pixel[1] + pixel[2] > 3 * 128 ? 255 : 0;
+    }
+  }
+  return mask;
+}
+
+void Guided(Demo& demo, const Rgb& grainy) {
+  const QvpiSize size = grainy.size(), small{9, 9}, large{61, 61};
+  int bufferSize, colorBufferSize;
+  Require(qvpiFilterGuidedBorderGetBufferSize(small, size, qvp8u, 3, &bufferSize));
+  Require(qvpiFilterGuidedColorBorderGetBufferSize(large, size, qvp8u, &colorBufferSize));
+  std::vector<Qvp8u> buffer(std::max(bufferSize, colorBufferSize));
+  Rgb result(size);
+  demo.Time(size, 3 + 3,
+            CALL(qvpiFilterGuidedBorder_8u_C3R, grainy.data(), grainy.step(), grainy.data(), grainy.step(),
+                 result.data(), result.step(), size, small, 0.01f, qvpBorderReplicate, buffer.data()));
+  demo.Show("Grain taken away, guided by itself", result);
+  const Rgb& photo = demo.photo();
+  const Grey coarse = CoarseMask(photo);
+  Grey fine(size);
+  demo.Show("A coarse mask", coarse);
+  demo.Time(size, 1 + 3 + 1,
+            CALL(qvpiFilterGuidedColorBorder_8u_C1R, coarse.data(), coarse.step(), photo.data(), photo.step(),
+                 fine.data(), fine.step(), size, large, 1e-4f, qvpBorderReplicate, buffer.data()));
+  demo.Show("The mask, guided by the colours", fine);
+}
+
 // The photograph with three times the detail that the filter takes away: 3 p - 2 u.
 void Detail(Demo& demo) {
   const Rgb& photo = demo.photo();
@@ -80,6 +117,7 @@ void DenoiseSteps(Demo& demo) {
   const Rgb grainy = Grainy(demo.photo());
   Bilateral(demo, grainy);
   Wiener(demo, grainy);
+  Guided(demo, grainy);
   Detail(demo);
 }
 

@@ -17,9 +17,9 @@ TOP, BOTTOM = lib.qvpBorderInMemTop, lib.qvpBorderInMemBottom
 LEFT, RIGHT = lib.qvpBorderInMemLeft, lib.qvpBorderInMemRight
 
 
-def operation_of(name, values="", roles=ROLES):
+def operation_of(name, values="", roles=ROLES, images="src dst"):
     """The operation of a filter whose functions take these values between the images and the border."""
-    return Operation(f"Filter{name}Border", f"src dst {values} {roles}")
+    return Operation(f"Filter{name}Border", f"{images} {values} {roles}")
 
 
 def pair_of(size, name="size"):
@@ -58,31 +58,36 @@ class Filter:
     def __call__(self, a, out=None, *, border="replicate", value=0, tile=None, threads=None, copy=False):
         if copy or key(a) != self._key or not _goes_down(a):
             a = self._checked(a, copy)
+        return self._filtered((a,), out, border, value, tile, threads)
+
+    def _filtered(self, sources, out, border, value, tile, threads):
+        """Of images of one size, which are ready for calls. The first one is what is filtered."""
+        a = sources[0]
         if a.shape[0] > self.shape[0] or a.shape[1] > self.shape[1]:
             raise ValueError(f"the image is larger than the filter's shape {self.shape}")
         kind = choice(BORDERS, border, "border")
         value = value if border == "constant" else None
         if tile is not None:
-            return self._tile(a, out, kind, value, tile)
-        return self._whole(a, out, kind, value, threads)
+            return self._tile(sources, out, kind, value, tile)
+        return self._whole(sources, out, kind, value, threads)
 
     def _checked(self, a, copy):
         a = image(a, copy)
         if key(a) != self._key:
             raise TypeError(f"the filter is for {self.dtype} with {self.channels} channels, "
                             f"not {a.dtype} with {channels(a)}")
-        return a if _goes_down(a) else numpy.ascontiguousarray(a)
+        return contiguous_down(a)
 
-    def _whole(self, a, out, kind, value, threads):
+    def _whole(self, sources, out, kind, value, threads):
         call, number, count = self._found
+        a = sources[0]
         if out is None:
             out = empty(a, number, count)
         else:
             image(out, name="out")
             if not _goes_down(out):
-                return self._copied(a, out, kind, value, threads)
-            if numpy.may_share_memory(out, a) and out.ctypes.data == a.ctypes.data and out.shape == a.shape:
-                a = a.copy()
+                return self._copied(sources, out, kind, value, threads)
+            sources = tuple(s.copy() if _is_same(out, s) else s for s in sources)
         height = a.shape[0]
         parts = [(0, height)]
         if out.shape[:1] == a.shape[:1]:
@@ -90,40 +95,45 @@ class Filter:
 
         def strip(first, end):
             flags = kind | (TOP if first else 0) | (BOTTOM if end < height else 0)
-            self._run(call, a[first:end], out[first:end], flags, value)
+            self._run(call, [source[first:end] for source in sources], out[first:end], flags, value)
 
         if len(parts) == 1:
-            self._run(call, a, out, kind, value)
+            self._run(call, sources, out, kind, value)
         else:
-            refuse_overlap(out, (a,))
+            refuse_overlap(out, sources)
             _threads.run(strip, parts)
         return out
 
-    def _copied(self, a, out, kind, value, threads):
+    def _copied(self, sources, out, kind, value, threads):
         """The result by way of a new array."""
-        result = self._whole(a, None, kind, value, threads)
+        result = self._whole(sources, None, kind, value, threads)
         return _assigned(out, result)
 
-    def _tile(self, a, out, kind, value, tile):
+    def _tile(self, sources, out, kind, value, tile):
         """A part of the result. At the image's edges parts are as large as the mask at least, and then cut."""
+        a = sources[0]
         row, column, height, width = checked_tile(tile, a.shape)
         top, bottom = _enlarged(row, row + height, a.shape[0], self.mask[0])
         left, right = _enlarged(column, column + width, a.shape[1], self.mask[1])
         call, number, count = self._found
-        part = a[top:bottom, left:right]
-        result = empty(part, number, count)
+        parts = [source[top:bottom, left:right] for source in sources]
+        result = empty(parts[0], number, count)
         kind |= (TOP if top else 0) | (BOTTOM if bottom < a.shape[0] else 0)
         kind |= (LEFT if left else 0) | (RIGHT if right < a.shape[1] else 0)
-        self._run(call, part, result, kind, value)
+        self._run(call, parts, result, kind, value)
         result = result[row - top:row - top + height, column - left:column - left + width]
         if out is None:
             return numpy.ascontiguousarray(result)
         return _assigned(image(out, name="out"), result)
 
-    def _run(self, call, a, out, border, value):
+    def _run(self, call, sources, out, border, value):
         buffer = self._buffers.take()
-        call(a, out, *self.values, border, value, *self.record, buffer)
+        call(*sources, out, *self.values, border, value, *self.record, buffer)
         self._buffers.give(buffer)
+
+
+def _is_same(out, a):
+    return numpy.may_share_memory(out, a) and out.ctypes.data == a.ctypes.data and out.shape == a.shape
 
 
 def _assigned(out, result):
@@ -136,6 +146,10 @@ def _assigned(out, result):
 def _goes_down(a):
     """Whether rows follow each other in memory, as filters want it: a copy of a strip would lack what is around it."""
     return a.strides[0] >= a.strides[1] * a.shape[1] or a.shape[0] == 1
+
+
+def contiguous_down(a):
+    return a if _goes_down(a) else numpy.ascontiguousarray(a)
 
 
 def _enlarged(first, end, length, mask):

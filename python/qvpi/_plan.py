@@ -22,6 +22,9 @@ _C_TYPES = {f"Qvp{name}": number for name, number in NUMBERS.items()} | {
     "QvpSizeL": numpy.dtype(numpy.intp).num}
 _STRUCTURES = {"QvpiSize": ("P", "z"), "QvpiPoint": ("P", "o"), "QvpiRect": ("Q", "r")}
 
+# Channels of images that the layout does not tell, by the beginning of a name and the role.
+UNLIKE_THEIR_LAYOUT = {("qvpiCompare", "dst"): 1, ("qvpiFilterGuidedColor", "guide"): 3}
+
 # What None stands for where a function has such a parameter.
 DEFAULTS = {"scaleFactor": 0, "roundMode": 1, "hint": 1}
 
@@ -80,7 +83,9 @@ class Plan:
             self.memory(role, pointee, is_const)
 
     def image(self, role, number, is_const):
-        channels = 1 if self.name.startswith("qvpiCompare") and role == "dst" else channels_of(self.layout, role)
+        channels = channels_of(self.layout, role)
+        for (prefix, other), count in UNLIKE_THEIR_LAYOUT.items():
+            channels = count if self.name.startswith(prefix) and role == other else channels
         flags = 0 if is_const else WRITTEN | (IN_PLACE if self.in_place else 0)
         flags |= 0 if role in self.free else SAME_SIZE
         flags |= OPTIONAL if role in ("gx", "gy", "magnitude", "angle") else 0

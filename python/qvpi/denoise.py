@@ -2,15 +2,16 @@
 import numpy
 
 from ._call import key
-from ._neighbourhood import NORMS, QUERY, ROLES, Filter, apply, made, operation_of, pair_of
+from ._neighbourhood import NORMS, QUERY, ROLES, Filter, apply, contiguous_down, made, operation_of, pair_of
 from ._operation import Operation, channels, checked_shape, forgiving, image
 from ._plan import make_call
 from ._records import Buffers, memory, size_of
 from .arithmetic import choice
 from .values import data_type
 
-__all__ = ["Bilateral", "LeastSquares", "LocalThreshold", "Median", "MedianCenter", "MedianVector", "Wiener",
-           "bilateral", "least_squares", "local_threshold", "median", "median_center", "median_vector", "wiener"]
+__all__ = ["Bilateral", "Guided", "LeastSquares", "LocalThreshold", "Median", "MedianCenter", "MedianVector", "Wiener",
+           "bilateral", "guided", "least_squares", "local_threshold", "median", "median_center", "median_vector",
+           "wiener"]
 
 
 class _Median(Filter):
@@ -113,6 +114,32 @@ class LocalThreshold(Filter):
         self.prepare(size_of(_LOCAL_THRESHOLD_SIZES[kind], self.values[0], self.roi, self.kind))
 
 
+class Guided(Filter):
+    """Edges are those of a guide: by itself an image keeps its own, and loses noise (He, Sun, Tang 2013).
+
+    size: odd, 1 to 255. eps: variance of the guide, of values between 0 and 1, below which there is no edge. colors:
+    the image has one channel, its guide three; else the guide is an image like it. border: not 'constant'. uint8,
+    uint16, float32.
+    """
+
+    def __init__(self, shape, dtype, size=9, eps=0.001, colors=False):
+        height, width = pair_of(size)
+        super().__init__(shape, dtype, (2 * height - 1, 2 * width - 1))
+        self.values = (width, height), eps
+        self.operation = _GUIDED_BY_COLORS if colors else _GUIDED
+        self.guides = 3 if colors else self.channels
+        parameters = (self.values[0], self.roi, self.kind) + (() if colors else (self.channels,))
+        self.prepare(size_of(_GUIDED_BY_COLORS_SIZE if colors else _GUIDED_SIZE, *parameters))
+
+    def __call__(self, a, out=None, *, guide=None, border="replicate", tile=None, threads=None, copy=False, value=0):
+        a = self._checked(a, copy)
+        guide = a if guide is None else image(guide, copy, "guide")
+        if guide.dtype != self.dtype or channels(guide) != self.guides or guide.shape[:2] != a.shape[:2]:
+            raise ValueError(f"the guide must be {self.dtype} of {a.shape[:2]} with {self.guides} channels, not "
+                             f"{guide.dtype} of {guide.shape[:2]} with {channels(guide)}")
+        return self._filtered((a, contiguous_down(guide)), out, border, value, tile, threads)
+
+
 class LeastSquares:
     """Smooths everywhere but across edges, without halos (Liu, Zhang, Huang, Yang 2020); what it takes away is detail.
 
@@ -151,6 +178,10 @@ _LOCAL_THRESHOLDS = {
 _LOCAL_THRESHOLD_SIZES = {
     kind: make_call(f"qvpiThresholdLocal{kind}BorderGetBufferSize", "maskSize roiSize dataType bufferSize")
     for kind in _LOCAL_THRESHOLDS}
+_GUIDED = operation_of("Guided", "maskSize eps", images="src guide dst")
+_GUIDED_BY_COLORS = operation_of("GuidedColor", "maskSize eps", images="src guide dst")
+_GUIDED_SIZE = make_call("qvpiFilterGuidedBorderGetBufferSize", QUERY)
+_GUIDED_BY_COLORS_SIZE = make_call("qvpiFilterGuidedColorBorderGetBufferSize", "maskSize roiSize dataType bufferSize")
 _WIENER_SIZE = make_call("qvpiFilterWienerBorderGetBufferSize", QUERY)
 _BILATERAL_SIZE = make_call("qvpiFilterBilateralBorderGetSize",
                             "radius roiSize dataType numChannels specSize bufferSize")
@@ -190,6 +221,14 @@ def wiener(a, noise, size=3, out=None, **options):
 def local_threshold(a, size, delta=0.0, out=None, *, above=None, others=0, sigma=None, **options):
     """See LocalThreshold."""
     return apply(LocalThreshold, a, (size, delta, above, others, sigma), out, options)
+
+
+def guided(a, guide=None, size=9, eps=0.001, out=None, **options):
+    """See Guided; without a guide the image is its own. The guide of an image of one channel may have three."""
+    a = image(a)
+    guide = a if guide is None else image(guide, name="guide")
+    colors = channels(a) == 1 and channels(guide) == 3
+    return made(Guided, a.shape, a.dtype, size, eps, colors)(a, out, guide=guide, **options)
 
 
 def least_squares(a, strength=1.0, out=None, *, power=0.8, eps=1e-4, iterations=4, copy=False):

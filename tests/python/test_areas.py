@@ -55,7 +55,7 @@ FILTERS = {
     "Box": (5,), "Minimum": ((3, 5),), "Maximum": ((4, 3),), "SumRow": (7,), "SumColumn": (7,), "Binomial": (5,),
     "Sharpen": (), "Laplace": (5,), "HighPass": (3,), "Sobel": ("x", 5), "Scharr": ("y",), "Prewitt": ("x",),
     "Roberts": ("down", 2), "SobelMagnitude": (), "Gauss": (1.5,), "Bilateral": (30.0,), "Wiener": (0.01, 5),
-    "Median": (5,), "MedianCenter": ((3, 5), 4), "LocalThreshold": ((5, 3), 1.5),
+    "Median": (5,), "Guided": (5, 0.01), "MedianCenter": ((3, 5), 4), "LocalThreshold": ((5, 3), 1.5),
     "Filter2D": (numpy.arange(20.0).reshape(4, 5) / 190,),
     "Separable": ([1, 2, 1], [1, 0, 3]), "Erode": (numpy.eye(5),), "Dilate": ([[0, 1, 0], [1, 1, 1]],),
 }
@@ -64,8 +64,8 @@ FILTERS = {
 @pytest.mark.parametrize("name", FILTERS)
 @given(st.sampled_from(list(MODES)), st.tuples(*[st.integers(0, 59)] * 4), st.sampled_from(["u1", "i2", "f4"]))
 def test_tiles_and_threads_are_the_whole(name, border, corners, dtype):
-    unmirrored, without_int16 = ("SobelMagnitude", "Median", "MedianCenter"), ("Bilateral", "LocalThreshold")
-    if border == "mirror" and name in unmirrored or dtype == "i2" and name in without_int16:
+    lacking = {"SobelMagnitude": "mirror", "Median": "mirror", "MedianCenter": "mirror", "Guided": "constant"}
+    if border == lacking.get(name) or dtype == "i2" and name in ("Bilateral", "Guided", "LocalThreshold"):
         return  # there are none
     a = random((61, 60), dtype, 5)
     made = getattr(qvpi, name)(a.shape, a.dtype, *FILTERS[name])
@@ -78,6 +78,21 @@ def test_tiles_and_threads_are_the_whole(name, border, corners, dtype):
         in_place = a.copy()
         assert made(in_place, in_place, border=border, value=3) is in_place
         numpy.testing.assert_array_equal(in_place, whole)
+
+
+@pytest.mark.parametrize("dtype", ["u1", "u2", "f4"])
+def test_guides(dtype):
+    a, guide, colors = random((61, 60), dtype, 5), random((61, 60), dtype, 6), random((61, 60, 3), dtype, 7)
+    numpy.testing.assert_array_equal(qvpi.guided(a, size=5), qvpi.guided(a, a.copy(), 5))
+    for other in (guide, colors):
+        whole = qvpi.guided(a, other, (5, 3), 0.01)
+        numpy.testing.assert_array_equal(qvpi.guided(a, other, (5, 3), 0.01, threads=3), whole)
+        numpy.testing.assert_array_equal(qvpi.guided(a, other, (5, 3), 0.01, tile=(9, 0, 40, 33)), whole[9:49, :33])
+        flat = numpy.zeros_like(other)  # the mean of the means
+        means = scipy.ndimage.uniform_filter(scipy.ndimage.uniform_filter(a.astype(float), 3), 3)
+        numpy.testing.assert_allclose(qvpi.guided(a, flat, 3)[2:-2, 2:-2], means[2:-2, 2:-2], rtol=1e-5, atol=0.51)
+    with pytest.raises(ValueError, match="guide"):
+        qvpi.guided(a, guide[1:])
 
 
 def test_gradient():
