@@ -89,6 +89,13 @@ void FourierSteps(Demo& demo) {
             CALL(qvpiDFTFwd_RToPack_32f_C1R, green.data(), green.step(), spectrum.data(), spectrum.step(),
                  transform.spec(), transform.buffer()));
   demo.Show("Spectrum, log of the magnitude", LogMagnitude(demo, spectrum));
+  Plane faded(size), fadedSpectrum(size);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiApplyWindow_32f_C1R, green.data(), green.step(), faded.data(), faded.step(), size, qvpWindowHann));
+  demo.Show("Faded to its edges", Rounded(faded));
+  Require(qvpiDFTFwd_RToPack_32f_C1R(faded.data(), faded.step(), fadedSpectrum.data(), fadedSpectrum.step(),
+                                     transform.spec(), transform.buffer()));
+  demo.Show("Its spectrum: no cross of the edges", LogMagnitude(demo, fadedSpectrum));
   const Plane lowPass = LowPass(size, 24);
   demo.Time(size, 4 + 4 + 4,
             CALL(qvpiMulPack_32f_C1R, lowPass.data(), lowPass.step(), spectrum.data(), spectrum.step(), passed.data(),

@@ -1,5 +1,5 @@
 /** @file qvpi_transform.h
- *  Two-dimensional Fourier transforms and operations on their packed spectra.
+ *  Two-dimensional Fourier transforms, operations on their packed spectra, and windows.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *
@@ -535,6 +535,79 @@ QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiCplxExtendToPack_32fc32f_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Window functions
+ *  @{ */
+/** Multiplies an image by a window, which fades it towards its edges: so that spectra do not show the jump from one edge
+ *  to the opposite one, and phase correlation does not find it.
+ *
+ *  The weight of pixel (x, y) is w(y) * w(x), with, for place n of N, M = N - 1, or M = N with qvpWindowPeriodic:
+ *
+ *  @code
+ *    qvpWindowBartlett   2 n / M up to the middle, then 2 - 2 n / M
+ *    qvpWindowHann       0.5 - 0.5 cos(2 pi n / M)
+ *    qvpWindowHamming    0.54 - 0.46 cos(2 pi n / M)
+ *    qvpWindowBlackman   0.42 - 0.5 cos(2 pi n / M) + 0.08 cos(4 pi n / M), at least 0
+ *  @endcode
+ *
+ *  A side of one pixel has the weight 1. Windows are symmetric; with the flag they lack the last place, as a transform
+ *  wants it whose image repeats. Weights are made in double precision and rounded to floats, within a float's unit in the
+ *  last place of the formula; their product and its product with the pixel are rounded to floats, integers to the nearest,
+ *  ties to even. 255 255 255 255 255 in one row becomes 0 128 255 128 0 by Hann's.
+ *
+ *  Each channel is weighed alike. Source and destination may be the same image, else they must not overlap.
+ *
+ *  @param pSrc,srcStep source
+ *  @param pDst,dstStep destination
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the image, and of the window
+ *  @param window one of the above, alone or with the flag qvpWindowPeriodic
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNotSupportedMode: `window` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiApplyWindow_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C3IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C3IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_16s_C4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
+QvpStatus qvpiApplyWindow_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiWindow window);
+
+/** Writes the weights of a window, w(y) * w(x), as qvpiApplyWindow() multiplies by them.
+ *
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the window
+ *  @param window as for qvpiApplyWindow()
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pDst` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: `dstStep` is below 1
+ *  - qvpStatusNotSupportedMode: `window` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiSetWindow_32f_C1R(Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiWindow window);
 /** @} */
 
 #ifdef __cplusplus

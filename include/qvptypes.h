@@ -174,6 +174,16 @@ enum {
     qvpCmpGreater = 4,   /**< greater than */
 };
 
+/** How a window fades towards the edges; see qvpiApplyWindow(). */
+typedef int QvpiWindow;
+enum {
+    qvpWindowBartlett = 0,    /**< linear */
+    qvpWindowHann = 1,        /**< a raised cosine */
+    qvpWindowHamming = 2,     /**< a raised cosine that ends above 0 */
+    qvpWindowBlackman = 3,    /**< of two cosines, narrower */
+    qvpWindowPeriodic = 0x10, /**< a flag: without the last place, where the first one comes again */
+};
+
 /** How the derivatives of a gradient make one magnitude, or the differences of colours one distance. */
 typedef int QvpNormType;
 enum {

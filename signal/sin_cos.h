@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
+
+#include "base/simd.h"
 
 namespace qvp {
 
@@ -36,6 +39,45 @@ inline SinCos SinCosOfTurn(int64_t k, int64_t n) {
     return {other.cos, other.sin};
   }
   return SinCosOfSmall(static_cast<double>(k) / static_cast<double>(n));
+}
+
+// Of |x| <= pi / 4, by the power series of double lanes, to a part in 2^52.
+template <class V>
+HWY_INLINE V CosOfSmall(V x) {
+  const hn::DFromV<V> d;
+  constexpr double kTerms[] = {1 / 20922789888000.0, -1 / 87178291200.0, 1 / 479001600.0, -1 / 3628800.0,
+                               1 / 40320.0,          -1 / 720.0,         1 / 24.0,        -1 / 2.0};
+  const V x2 = hn::Mul(x, x);
+  V sum = hn::Set(d, kTerms[0]);
+  for (size_t i = 1; i < std::size(kTerms); ++i) sum = hn::Add(hn::Mul(sum, x2), hn::Set(d, kTerms[i]));
+  return hn::Add(hn::Mul(sum, x2), hn::Set(d, 1.0));
+}
+template <class V>
+HWY_INLINE V SinOfSmall(V x) {
+  const hn::DFromV<V> d;
+  constexpr double kTerms[] = {-1 / 1307674368000.0, 1 / 6227020800.0, -1 / 39916800.0, 1 / 362880.0,
+                               -1 / 5040.0,          1 / 120.0,        -1 / 6.0};
+  const V x2 = hn::Mul(x, x);
+  V sum = hn::Set(d, kTerms[0]);
+  for (size_t i = 1; i < std::size(kTerms); ++i) sum = hn::Add(hn::Mul(sum, x2), hn::Set(d, kTerms[i]));
+  return hn::Add(hn::Mul(hn::Mul(sum, x2), x), x);
+}
+
+// cos(2 pi k / n) of double lanes that hold whole numbers, 0 <= k <= n < 2^50, n > 0. The same reduction: k becomes its
+// distance to the nearer end, then to a quarter of a turn where that is nearer.
+template <class V>
+HWY_INLINE V CosOfTurn(V k, V n) {
+  const hn::DFromV<V> d;
+  constexpr double kPi = 0x1.921fb54442d18p+1;
+  const V half = hn::Min(k, hn::Sub(n, k)), twice = hn::Add(half, half), four = hn::Add(twice, twice);  // twice <= n
+  const auto isBeyondQuarter = hn::Gt(four, n);
+  const V folded = hn::IfThenElse(isBeyondQuarter, hn::Sub(n, twice), twice);  // pi folded / n is up to pi / 2
+  const V left = hn::Sub(n, hn::Add(folded, folded));                          // pi left / 2n from there
+  const auto isNearQuarter = hn::Lt(left, folded);
+  const V part = hn::IfThenElse(isNearQuarter, hn::Mul(left, hn::Set(d, 0.5)), folded);
+  const V x = hn::Mul(hn::Div(part, n), hn::Set(d, kPi));
+  const V cos = hn::IfThenElse(isNearQuarter, SinOfSmall(x), CosOfSmall(x));
+  return hn::IfThenElse(isBeyondQuarter, hn::Neg(cos), cos);
 }
 
 }  // namespace qvp

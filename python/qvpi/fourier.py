@@ -11,8 +11,8 @@ from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
 
-__all__ = ["Fourier", "dft2", "fft2", "idft2", "ifft2", "magnitude", "multiply_packed", "pack", "packed_dft2",
-           "packed_idft2", "phase", "unpack"]
+__all__ = ["Fourier", "apply_window", "dft2", "fft2", "idft2", "ifft2", "magnitude", "multiply_packed", "pack", "packed_dft2",
+           "packed_idft2", "phase", "unpack", "window"]
 
 _FLAGS = {"forward": 1, "backward": 2, "ortho": 4}
 _FORMS = {"f": ("R_32f", "RToPack", "PackToR"), "c": ("C_32fc", "CToC", "CToC")}
@@ -154,3 +154,27 @@ def unpack(packed, out=None, *, copy=False):
 def pack(spectrum, out=None, *, copy=False):
     """The packed spectrum of a complex64 one that is symmetric, as those of real images are, (H, W)."""
     return _PACK.apply((spectrum,), out, (), None, None, None, copy)
+
+
+_WINDOWS = {"bartlett": 0, "hann": 1, "hamming": 2, "blackman": 3}
+_APPLY_WINDOW = Operation("ApplyWindow", "src dst window", in_place=True)
+_SET_WINDOW = make_call("qvpiSetWindow_32f_C1R", "dst window")
+
+
+def _selector(kind, periodic):
+    return choice(_WINDOWS, kind, "kind") | (0x10 if periodic else 0)
+
+
+def window(shape, kind="hann", *, periodic=False):
+    """The weights of a window, (H, W) of float32: the product of one of its columns and one of its rows.
+
+    kind: 'bartlett', 'hann', 'hamming', 'blackman'. periodic: without the last place, as transforms want it.
+    """
+    out = numpy.empty(checked_shape(shape)[:2], numpy.float32)
+    _SET_WINDOW(out, _selector(kind, periodic))
+    return out
+
+
+def apply_window(a, kind="hann", out=None, *, periodic=False, copy=False):
+    """The image times a window, so that its spectrum does not show its edges. uint8, uint16, int16, float32."""
+    return _APPLY_WINDOW.apply((a,), out, (_selector(kind, periodic),), None, None, None, copy)

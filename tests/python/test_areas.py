@@ -190,6 +190,18 @@ def test_fourier(shape, norm, seed):
     numpy.testing.assert_allclose(qvpi.packed_idft2(packed, norm=norm), a, atol=1e-4)
 
 
+@pytest.mark.parametrize("kind, weights", [("bartlett", numpy.bartlett), ("hann", numpy.hanning),
+                                           ("hamming", numpy.hamming), ("blackman", numpy.blackman)])
+def test_windows(kind, weights):
+    exact = numpy.outer(weights(40), weights(51))
+    numpy.testing.assert_allclose(qvpi.window((40, 51), kind), exact, atol=2e-7)
+    a = random((40, 51, 3), "u1", 4)
+    close = numpy.abs(qvpi.apply_window(a, kind) - exact[..., None] * a) <= 0.5001
+    assert close.all()
+    longer = numpy.outer(weights(41), weights(52))[:-1, :-1]
+    numpy.testing.assert_allclose(qvpi.window((40, 51), kind, periodic=True), longer, atol=2e-7)
+
+
 def test_convolution_by_packed_spectra():
     a, kernel = random((16, 24), "f4", 1), numpy.zeros((16, 24), "f4")
     kernel[0, :3] = 1, 2, 3

@@ -18,6 +18,7 @@ constexpr struct {
   std::string_view prefix;
   Lesson lesson;
 } kLessons[] = {
+    {"qvpiApplyWindow", WindowFunctionLesson},
     {"qvpiBinToGray", ScaleLesson},
     {"qvpiColorKey", CompositeLesson},
     {"qvpiCompare", ThresholdLesson},
@@ -78,6 +79,7 @@ constexpr struct {
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
     {"qvpiScale", ScaleLesson},
+    {"qvpiSetWindow", WindowFunctionLesson},
     {"qvpiShift", ShiftLesson},
     {"qvpiSum", ReductionLesson},
     {"qvpiSwapChannels", OrderLesson},

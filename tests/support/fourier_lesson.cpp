@@ -86,4 +86,10 @@ bool FourierLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+bool WindowFunctionLesson(Scene& scene, size_t place, Argument& argument) {
+  if (scene.function().parameters[place].name != "window") return false;
+  argument = scene.Any({0, 1, 2, 3}) | scene.Any({0, int{qvpWindowPeriodic}});
+  return true;
+}
+
 }  // namespace test

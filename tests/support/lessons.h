@@ -37,6 +37,7 @@ bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument);
 bool WienerLesson(Scene& scene, size_t place, Argument& argument);
+bool WindowFunctionLesson(Scene& scene, size_t place, Argument& argument);
 bool WindowLesson(Scene& scene, size_t place, Argument& argument);
 
 }  // namespace test
