@@ -78,6 +78,27 @@ Grey Rounded(const Plane& plane) {
   return picture;
 }
 
+// By blocks whose coefficients are kept as multiples of a step that grows with the frequency.
+void ShowBlocks(Demo& demo, const Grey& picture, int strength) {
+  const QvpiSize size = picture.size();
+  Qvp16u quantizer[64];
+  for (int i = 0; i < 64; ++i) quantizer[i] = static_cast<Qvp16u>(strength * (1 + i / 8 + i % 8));
+  Image<qvpiMalloc_16s_C1, 1> coefficients({(size.width + 7) / 8 * 64, (size.height + 7) / 8});
+  Grey result(size);
+  demo.Time(size, 1 + 2,
+            CALL(qvpiDCTBlocksQuantFwd_8u16s_C1R, picture.data(), picture.step(), coefficients.data(),
+                 coefficients.step(), size, quantizer));
+  int kept = 0;
+  for (int y = 0; y < coefficients.size().height; ++y) {
+    for (int x = 0; x < coefficients.size().width; ++x) kept += *coefficients.At(x, y) != 0;
+  }
+  demo.Time(size, 2 + 1,
+            CALL(qvpiDCTBlocksQuantInv_16s8u_C1R, coefficients.data(), coefficients.step(), result.data(),
+                 result.step(), size, quantizer));
+  const int percent = 100 * kept / (size.width * size.height);
+  demo.Show("From " + std::to_string(percent) + " % of its coefficients", result);
+}
+
 }  // namespace
 
 void FourierSteps(Demo& demo) {
@@ -103,6 +124,7 @@ void FourierSteps(Demo& demo) {
   Require(qvpiDFTInv_PackToR_32f_C1R(passed.data(), passed.step(), back.data(), back.step(), transform.spec(),
                                      transform.buffer()));
   demo.Show("Without its high frequencies", Rounded(back));
+  for (const int strength : {4, 16, 48}) ShowBlocks(demo, Rounded(green), strength);
 }
 
 }  // namespace demo

@@ -3,6 +3,8 @@
 The spectrum of a real image has its own compact form here, *packed*: as many floats as the image. `norm` is as in
 numpy: 'backward' (1 / N in the inverse), 'forward' (1 / N in the forward transform), 'ortho' (1 / sqrt(N) in both).
 """
+import functools
+
 import numpy
 
 from ._call import key
@@ -11,8 +13,8 @@ from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
 
-__all__ = ["Fourier", "apply_window", "dft2", "fft2", "idft2", "ifft2", "magnitude", "multiply_packed", "pack", "packed_dft2",
-           "packed_idft2", "phase", "unpack", "window"]
+__all__ = ["Fourier", "apply_window", "dct_blocks", "dft2", "fft2", "idct_blocks", "idft2", "ifft2",
+           "magnitude", "multiply_packed", "pack", "packed_dft2", "packed_idft2", "phase", "unpack", "window"]
 
 _FLAGS = {"forward": 1, "backward": 2, "ortho": 4}
 _FORMS = {"f": ("R_32f", "RToPack", "PackToR"), "c": ("C_32fc", "CToC", "CToC")}
@@ -178,3 +180,58 @@ def window(shape, kind="hann", *, periodic=False):
 def apply_window(a, kind="hann", out=None, *, periodic=False, copy=False):
     """The image times a window, so that its spectrum does not show its edges. uint8, uint16, int16, float32."""
     return _APPLY_WINDOW.apply((a,), out, (_selector(kind, periodic),), None, None, None, copy)
+
+
+_PIXELS, _QUANTISED = {"u1": "8u16s", "i2": "16s", "f4": "32f"}, {"u1": "16s8u", "i2": "16s", "f4": "32f"}
+
+
+@functools.lru_cache
+def _blocks_call(name, roles):
+    return make_call(name, roles, "C1", ("src", "dst"))
+
+
+def _blocks(direction, types, quantizer, images, size):
+    name, roles, values = f"qvpiDCTBlocks{direction}_{types}_C1R", "src dst roiSize", (size,)
+    if quantizer is not None:
+        steps = numpy.asarray(quantizer)
+        if steps.shape != (8, 8) or steps.dtype.kind not in "iu" or not 0 <= steps.min() <= steps.max() <= 65535:
+            raise ValueError("quantizer must be 8 x 8 integers from 0 to 65535")
+        name, roles = name.replace("Blocks", "BlocksQuant"), roles + " quantizer"
+        values = size, numpy.ascontiguousarray(steps, numpy.uint16).reshape(64)
+    _blocks_call(name, roles)(*images, *values)
+
+
+def _code(dtype):
+    dtype = numpy.dtype(dtype)
+    code = dtype.str[1:]
+    if code not in _PIXELS or not dtype.isnative:
+        raise TypeError(f"there are transforms of blocks of uint8, int16 and float32, not of {dtype}")
+    return code
+
+
+def dct_blocks(a, quantizer=None, *, copy=False):
+    """The cosine transforms of blocks of 8 x 8 pixels, (ceil(H / 8), ceil(W / 8), 8, 8): one block at each place.
+
+    a: (H, W) of uint8, taken as a - 128, or int16: int16 coefficients; or float32. The last row and column are repeated
+    up to a whole block. quantizer: 8 x 8 integers that coefficients are divided by; not of float32.
+    """
+    a = image(a, copy)
+    code = _code(a.dtype)
+    if a.ndim != 2 or quantizer is not None and code == "f4":
+        raise TypeError("expected an image of shape (H, W), of integers with a quantizer")
+    height, width = a.shape
+    out = numpy.empty((-(-height // 8), -(-width // 8) * 64), numpy.float32 if code == "f4" else numpy.int16)
+    _blocks("Fwd", _PIXELS[code], quantizer, (a, out), (width, height))
+    return out.reshape(out.shape[0], -1, 8, 8)
+
+
+def idct_blocks(blocks, shape, dtype="uint8", quantizer=None):
+    """The image, (H, W) = shape, of what dct_blocks makes of it."""
+    code = _code(dtype)
+    blocks = numpy.ascontiguousarray(blocks, numpy.float32 if code == "f4" else numpy.int16)
+    height, width = checked_shape(shape)[:2]
+    if blocks.shape != (-(-height // 8), -(-width // 8), 8, 8) or quantizer is not None and code == "f4":
+        raise ValueError(f"expected blocks of an image of {height} x {width}, of integers with a quantizer")
+    out = numpy.empty((height, width), dtype)
+    _blocks("Inv", _QUANTISED[code], quantizer, (blocks.reshape(blocks.shape[0], -1), out), (width, height))
+    return out

@@ -4,6 +4,7 @@ import threading
 import numpy
 import pytest
 import qvpi
+import scipy.fft
 import scipy.ndimage
 from hypothesis import given, settings
 from hypothesis import strategies as st
@@ -200,6 +201,24 @@ def test_windows(kind, weights):
     assert close.all()
     longer = numpy.outer(weights(41), weights(52))[:-1, :-1]
     numpy.testing.assert_allclose(qvpi.window((40, 51), kind, periodic=True), longer, atol=2e-7)
+
+
+def test_cosine_transforms_of_blocks():
+    a = random((41, 50), "u1", 6)
+    padded = numpy.pad(a, ((0, 7), (0, 6)), "edge").astype(float) - 128
+    blocks = padded.reshape(6, 8, 7, 8).swapaxes(1, 2)
+    exact = scipy.fft.dctn(blocks, 2, axes=(-2, -1), norm="ortho")
+    transformed = qvpi.dct_blocks(a)
+    assert numpy.abs(transformed - exact).max() <= 0.5001
+    assert numpy.abs(qvpi.idct_blocks(transformed, a.shape).astype(int) - a).max() <= 1
+    steps = numpy.arange(1, 65).reshape(8, 8)
+    coarse = qvpi.dct_blocks(a, steps)
+    assert numpy.abs(coarse - exact / steps).max() <= 0.5001
+    restored = scipy.fft.idctn(coarse * steps.astype(float), 2, axes=(-2, -1), norm="ortho")
+    exact = numpy.clip(restored.swapaxes(1, 2).reshape(48, 56)[:41, :50] + 128, 0, 255)
+    assert numpy.abs(qvpi.idct_blocks(coarse, a.shape, quantizer=steps) - exact).max() <= 0.51
+    floats = a.astype("f4")
+    numpy.testing.assert_allclose(qvpi.idct_blocks(qvpi.dct_blocks(floats), a.shape, "f4"), floats, atol=1e-3)
 
 
 def test_convolution_by_packed_spectra():

@@ -30,6 +30,7 @@ constexpr struct {
     {"qvpiCopyWrapBorder", CopyBorderLesson},
     {"qvpiCountInRange", ThresholdLesson},
     {"qvpiCplxExtendToPack", FourierLesson},
+    {"qvpiDCTBlocks", DctBlocksLesson},
     {"qvpiDFT", FourierLesson},
     {"qvpiDiv", DivisionLesson},
     {"qvpiDotProd", ReductionLesson},

@@ -86,6 +86,28 @@ bool FourierLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+// Coefficients are an image of their own size; pixels are as everywhere.
+bool DctBlocksLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  const bool isForward = scene.Has("Fwd");
+  const int across = (scene.roi().width + 7) / 8, height = (scene.roi().height + 7) / 8, step = across * 256 + 20;
+  if (name == "quantizer") {
+    auto* const steps = reinterpret_cast<uint16_t*>(scene.Input(64 * sizeof(uint16_t)));
+    for (int i = 0; i < 64; ++i) steps[i] = static_cast<uint16_t>(1 + scene.random().Next() % (i % 5 ? 99 : 65535));
+    argument = {steps};
+  } else if (name == (isForward ? "dstStep" : "srcStep")) {
+    argument = step;
+  } else if (name == (isForward ? "pDst" : "pSrc")) {
+    const size_t bytes = size_t{1} * step * height;
+    uint8_t* const image = isForward ? scene.Output(bytes) : scene.Input(bytes);
+    scene.FillRows(*PointedAt(type), image, step, height);
+    argument = {image};
+  } else {
+    return false;
+  }
+  return true;
+}
+
 bool WindowFunctionLesson(Scene& scene, size_t place, Argument& argument) {
   if (scene.function().parameters[place].name != "window") return false;
   argument = scene.Any({0, 1, 2, 3}) | scene.Any({0, int{qvpWindowPeriodic}});

@@ -8,6 +8,7 @@ namespace test {
 bool BilateralLesson(Scene& scene, size_t place, Argument& argument);
 bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
 bool CopyBorderLesson(Scene& scene, size_t place, Argument& argument);
+bool DctBlocksLesson(Scene& scene, size_t place, Argument& argument);
 bool DivisionLesson(Scene& scene, size_t place, Argument& argument);
 bool ExtremesLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
