@@ -1,4 +1,6 @@
-// Mirror and transpose.
+// Mirror, transpose and turns by quarters.
+#include <libyuv.h>
+
 #include <opencv2/imgproc.hpp>
 
 #include "bench/image.h"
@@ -49,6 +51,35 @@ void Transpositions() {
   Transposition<uint16_t>("transpose 16u C3", kHd, 3, 0, qvpiTranspose_16u_C3R);
 }
 
-const bool added = (Mirrors(kTile, false), Mirrors(kVga, false), Mirrors(kHd, true), Transpositions(), true);
+// Clockwise.
+template <class T, class Call>
+void QuarterTurn(const char* name, QvpiSize size, int channels, double atLeast, Call call) {
+  const QvpiSize turned{size.height, size.width};
+  const Image<T> a(size, channels), b(turned, channels);
+  std::vector<Peer> peers = {{"OpenCV rotate", [=] { cv::rotate(a.mat, b.mat, cv::ROTATE_90_CLOCKWISE); }, atLeast}};
+  if constexpr (sizeof(T) == 1) {
+    const auto plane = [=] { libyuv::RotatePlane90(a.data(), a.step, b.data(), b.step, size.width, size.height); };
+    if (channels == 1) peers.push_back({"libyuv RotatePlane90", plane, atLeast > 0 ? 1.1 : 0});
+  }
+  Add({Name(name, size),
+       {a.bytes(), b.bytes()},
+       [=] { Require(call(a.data(), a.step, b.data(), b.step, size, -1)); },
+       std::move(peers)});
+}
+
+void QuarterTurns() {
+  for (const QvpiSize size : {kTile, kVga, kHd, kLarge, QvpiSize{8192, 6144}}) {
+    const bool isAsked = size.width == kHd.width;
+    QuarterTurn<uint8_t>("quarter turn 8u C1", size, 1, isAsked ? 2.5 : 0, qvpiRotateQuarter_8u_C1R);
+    QuarterTurn<uint8_t>("quarter turn 8u C3", size, 3, isAsked ? 1.8 : 0, qvpiRotateQuarter_8u_C3R);
+    QuarterTurn<float>("quarter turn 32f C1", size, 1, isAsked ? 2 : 0, qvpiRotateQuarter_32f_C1R);
+  }
+  for (const QvpiSize size : kSmallest) {
+    QuarterTurn<uint8_t>("quarter turn 8u C1", size, 1, 0, qvpiRotateQuarter_8u_C1R);
+  }
+}
+
+const bool added =
+    (Mirrors(kTile, false), Mirrors(kVga, false), Mirrors(kHd, true), Transpositions(), QuarterTurns(), true);
 
 }  // namespace

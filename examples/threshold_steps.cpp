@@ -1,4 +1,4 @@
-// Steps of thresholds, comparisons, mirrors and transpositions.
+// Steps of thresholds, comparisons, mirrors, transpositions and turns by quarters.
 #include <algorithm>
 #include <cstring>
 
@@ -53,12 +53,28 @@ void Orientations(Demo& demo) {
   demo.Show("The eight orientations", sheet);
 }
 
+// The whole photograph as cameras held in each of the four ways see it.
+void QuarterTurns(Demo& demo) {
+  const Rgb& photo = demo.photo();
+  const QvpiSize upright = photo.size(), sideways{upright.height, upright.width};
+  Rgb sheet({2 * (upright.width + upright.height), std::max(upright.width, upright.height)}), turned(sideways);
+  const Qvp8u ground[] = {255, 255, 255};
+  Require(qvpiSet_8u_C3R(ground, sheet.data(), sheet.step(), sheet.size()));
+  for (int turns = 0, x = 0; turns < 4; x += turns % 2 ? sideways.width : upright.width, ++turns) {
+    Require(qvpiRotateQuarter_8u_C3R(photo.data(), photo.step(), sheet.At(x, 0), sheet.step(), photo.size(), turns));
+  }
+  demo.Time(photo.size(), 3 + 3,
+            CALL(qvpiRotateQuarter_8u_C3R, photo.data(), photo.step(), turned.data(), turned.step(), photo.size(), 1));
+  demo.Show("Turned by 0 to 3 quarters", sheet);
+}
+
 }  // namespace
 
 void ThresholdSteps(Demo& demo) {
   OtsuMask(demo);
   Posterise(demo);
   Orientations(demo);
+  QuarterTurns(demo);
 }
 
 }  // namespace demo

@@ -1,4 +1,6 @@
 // Mirrors: rows, columns or both reversed, or rows and columns exchanged.
+#include "geometry/mirror.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -86,12 +88,6 @@ void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end
 }
 
 ConstBytes Constant(const Bytes& image) { return {image.data, image.step, image.layout, image.elementBytes}; }
-
-// The same pixels with the rows from the last to the first.
-template <class T>
-Image<T> Upended(const Image<T>& image, ptrdiff_t height) {
-  return {image.Row(height - 1), -image.step, image.layout, image.elementBytes};
-}
 
 void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi, Store store) {
   if (KeepsAlpha(dst.layout)) return MoveChannels(src, dst, roi, {{0, 1, 2, kKeepChannel}});
@@ -191,9 +187,16 @@ struct ByteRange {
         end(reinterpret_cast<uintptr_t>(image.Row(size.height - 1)) + image.RowBytes(size.width)) {}
 };
 
-// Whether two images share bytes. Neighbouring regions of one frame, which interleave row by row, do not: with equal
-// steps their columns are compared, row by row of the frame.
-bool Overlap(const ConstBytes& a, Size aSize, const ConstBytes& b, Size bSize) {
+// The same image, from its lowest row in memory on.
+ConstBytes FromLowestRow(const ConstBytes& image, Size size) {
+  return image.step < 0 ? Upended(image, size.height) : image;
+}
+
+}  // namespace
+
+// With equal steps the columns of the images are compared, row by row of the frame that both lie in.
+bool Overlap(const ConstBytes& image, Size aSize, const ConstBytes& other, Size bSize) {
+  const ConstBytes a = FromLowestRow(image, aSize), b = FromLowestRow(other, bSize);
   const ByteRange first(a, aSize), second(b, bSize);
   if (first.end <= second.begin || second.end <= first.begin) return false;
   if (a.step != b.step) return true;
@@ -204,6 +207,13 @@ bool Overlap(const ConstBytes& a, Size aSize, const ConstBytes& b, Size bSize) {
   const ptrdiff_t column = static_cast<ptrdiff_t>(distance % static_cast<uintptr_t>(a.step));
   return column < earlier || column + later > a.step;
 }
+
+void ReverseBothAxes(const ConstBytes& src, const Bytes& dst, Size roi) {
+  const bool isInPlace = src.data == dst.data && src.step == dst.step;
+  isInPlace ? SwapRows(dst, roi, true) : ReverseRows(Upended(src, roi.height), dst, roi);
+}
+
+namespace {
 
 QvpStatus MirrorDiagonal(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis flip) {
   if (const QvpStatus failed = Validate<kPointers, kSteps, kSize>(roi, {src, dst})) return failed;
@@ -230,7 +240,7 @@ QvpStatus Mirror(const ConstBytes& src, const Bytes& dst, Size roi, QvpiAxis fli
       CopyRows(Upended(src, roi.height), dst, roi, isLarge ? Store::kStreaming : Store::kOrdinary);
       break;
     case qvpAxisVertical: ReverseRows(src, dst, roi); break;
-    case qvpAxisBoth: ReverseRows(Upended(src, roi.height), dst, roi); break;
+    case qvpAxisBoth: ReverseBothAxes(src, dst, roi); break;
     default: return qvpStatusMirrorFlip;
   }
   return qvpStatusNoError;

@@ -172,15 +172,17 @@ void Transpose(const ConstBytes& src, const Bytes& dst, Size size) {
 }
 
 // Images beyond the caches, in whole blocks and lines: turned into a buffer of lines, which leave for memory at once.
+// Blocks follow each other along rows of the source, whose lines are asked for a block ahead: no CPU guesses them.
 template <int kBytes>
 void TransposeLarge(const ConstBytes& src, const Bytes& dst, Size size) {
-  constexpr ptrdiff_t kColumns = 16, kRowBytes = kBlockSide * kBytes;
+  constexpr ptrdiff_t kColumns = kBytes <= 4 ? kBlockSide : 16, kRowBytes = kBlockSide * kBytes;
   alignas(kStreamedLine) uint8_t lines[kColumns * kRowBytes];
   const Bytes buffer{lines, kRowBytes, dst.layout, dst.elementBytes};
   const Wide d;
-  for (ptrdiff_t x = 0; x < size.width; x += kColumns) {
-    for (ptrdiff_t y = 0; y < size.height; y += kBlockSide) {
+  for (ptrdiff_t y = 0; y < size.height; y += kBlockSide) {
+    for (ptrdiff_t x = 0; x < size.width; x += kColumns) {
       const ConstBytes part{src.Row(y) + x * kBytes, src.step, src.layout, src.elementBytes};
+      if (x + kColumns < size.width) Prefetch(src, y, kBlockSide, (x + kColumns) * kBytes, kColumns * kBytes);
       Transpose<kBytes, false>(part, buffer, Size(kColumns, kBlockSide));
       for (ptrdiff_t i = 0; i < kColumns; ++i) {
         uint8_t* to = dst.Row(x + i) + y * kBytes;

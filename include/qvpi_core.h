@@ -32,7 +32,7 @@
  *    any, not checked                      Copy, Set, Dup; Add, Sub, Mul, MulScale, Abs, Sqr, Sqrt, Ln, Exp, with
  *                                          constants too; Convert, Scale, BinToGray, GrayToBin; Compare; Sum, Mean,
  *                                          Min, Max, MinMax, MinIndx, MaxIndx; Transpose, Mirror
- *    any but 0                             SwapChannels; DotProd, where 0 gives qvpStatusSize
+ *    any but 0                             SwapChannels, RotateQuarter; DotProd, where 0 gives qvpStatusSize
  *    1 or more                             Div, DivC, Div_Round, ScaleC, Threshold, CountInRange; And, Or, Xor, Not,
  *                                          ShiftLeftC, ShiftRightC, with constants too; LookupTable, Lookup,
  *                                          Palette; Norm; FFT, DFT, packed spectra; copies with a border; Remap;

@@ -1,5 +1,5 @@
 /** @file qvpi_geometry.h
- *  Resize, warps, remap, mirror and transpose.
+ *  Resize, warps, remap, mirror, transpose and turns by quarters.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -2049,6 +2049,52 @@ QvpStatus qvpiTranspose_32s_C4IR(Qvp32s* pSrcDst, int srcDstStep, QvpiSize roiSi
 QvpStatus qvpiTranspose_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
 QvpStatus qvpiTranspose_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Turn by quarters
+ *  @{ */
+/** Turns an image of W x H pixels by quarters of a full turn, counter-clockwise on the screen, bits only. Photographs
+ *  of cameras held sideways come upright in one pass.
+ *
+ *  @code
+ *    turns modulo 4    destination
+ *    0                 W x H   dst(x, y) = src(x, y)
+ *    1                 H x W   dst(x, y) = src(W - 1 - y, x)            counter-clockwise
+ *    2                 W x H   dst(x, y) = src(W - 1 - x, H - 1 - y)    upside down
+ *    3                 H x W   dst(x, y) = src(y, H - 1 - x)            clockwise
+ *  @endcode
+ *
+ *  One turn of {0 1 2; 3 4 5} gives {2 5; 1 4; 0 3}. Negative numbers turn clockwise: -1 is 3. AC4 keeps the alpha of
+ *  the destination. With an even number of turns the source may be the destination, with the same step. Steps may be
+ *  negative.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize size of the source in pixels
+ *  @param turns quarters of a turn: any number
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is 0
+ *  - qvpStatusNotSupportedMode: an odd number of turns, and the images overlap. Regions side by side in one frame do not
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiRotateQuarter_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int turns);
+QvpStatus qvpiRotateQuarter_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int turns);
 /** @} */
 
 #ifdef __cplusplus

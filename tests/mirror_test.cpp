@@ -1,4 +1,4 @@
-// Mirrors and transpositions.
+// Mirrors, transpositions and turns by quarters.
 #include "tests/support/name.h"
 
 namespace {
@@ -17,12 +17,22 @@ std::pair<int, int> SourceOf(int axis, int x, int y, int w, int h) {
   }
 }
 
-// `axis` is qvpAxis45 for transpositions.
+// The same for turns by quarters, counter-clockwise.
+std::pair<int, int> SourceOfTurn(int turns, int x, int y, int w, int h) {
+  switch ((turns % 4 + 4) % 4) {
+    case 0: return {x, y};
+    case 1: return {w - 1 - y, x};
+    case 2: return {w - 1 - x, h - 1 - y};
+    default: return {y, h - 1 - x};
+  }
+}
+
+// `axis` is qvpAxis45 for transpositions. Of turns it is their number.
 void Check(const Export& function, int w, int h, int axis, int gap) {
   const Name name(function.name);
   const int element = name.type == "32fc" ? 8 : name.From().bytes, pixel = element * name.channels,
             written = element * name.written;
-  const bool turned = axis >= qvpAxis45;
+  const bool isTurn = function.Has("turns"), turned = isTurn ? axis % 2 != 0 : axis >= qvpAxis45;
   const int dstWidth = turned ? h : w, dstHeight = turned ? w : h;
   test::Image<uint8_t> src(w * pixel, h, gap), dst(dstWidth * pixel, dstHeight, gap + 3, test::Guard::kBefore);
   test::Image<uint8_t> both(src);
@@ -34,7 +44,7 @@ void Check(const Export& function, int w, int h, int axis, int gap) {
   ASSERT_EQ(function.call(arguments.data()), qvpStatusNoError) << function.name << ' ' << w << 'x' << h << ' ' << axis;
   for (int y = 0; y < dstHeight; ++y) {
     for (int x = 0; x < dstWidth; ++x) {
-      const auto [fromX, fromY] = SourceOf(axis, x, y, w, h);
+      const auto [fromX, fromY] = (isTurn ? SourceOfTurn : SourceOf)(axis, x, y, w, h);
       for (int b = 0; b < pixel; ++b) {
         const uint8_t kept = name.inPlace ? src(x * pixel + b, y) : before(x * pixel + b, y);
         ASSERT_EQ(out(x * pixel + b, y), b < written ? src(fromX * pixel + b, fromY) : kept)
@@ -67,6 +77,54 @@ TEST(Transpose, MovesEveryPixelOfEveryMember) {
   }
 }
 
+TEST(RotateQuarter, MovesEveryPixelOfEveryMember) {
+  for (const Export* function : test::FunctionsOf({"RotateQuarter"})) {
+    for (int w = 1; w <= 70; w += 1 + w / 5) {
+      for (int h = 1; h <= 70; h += 1 + h / 5) Check(*function, w, h, (w + h) % 2 ? 1 : -1, w % 3);
+    }
+    for (int turns = -5; turns <= 5; ++turns) Check(*function, 37, 70, turns, 1);
+    Check(*function, 300, 130, 3, 5);
+  }
+}
+
+TEST(RotateQuarter, TurnsInPlaceByHalfAndTakesRowsUpwards) {
+  constexpr int kWidth = 19, kHeight = 6;
+  const QvpiSize roi{kWidth, kHeight};
+  test::Image<uint8_t> image(3 * kWidth, kHeight, 2), turned(3 * kHeight, kWidth, 5);
+  const test::Image<uint8_t> before(image);
+  const int step = image.step();
+  ASSERT_EQ(qvpiRotateQuarter_8u_C3R(image.data(), step, image.data(), step, roi, -2), qvpStatusNoError);
+  ASSERT_EQ(qvpiRotateQuarter_8u_C3R(image.data(), step, image.data(), step, roi, 4), qvpStatusNoError);
+  const uint8_t* const last = image.data() + (kHeight - 1) * step;
+  ASSERT_EQ(qvpiRotateQuarter_8u_C3R(last, -step, turned.data(), turned.step(), roi, 1), qvpStatusNoError);
+  for (int y = 0; y < kHeight; ++y) {
+    for (int x = 0; x < 3 * kWidth; ++x) {
+      const int pixel = kWidth - 1 - x / 3, channel = x % 3;
+      ASSERT_EQ(image(x, y), before(3 * pixel + channel, kHeight - 1 - y));
+      ASSERT_EQ(turned(3 * y + channel, pixel), image(x, kHeight - 1 - y));
+    }
+  }
+}
+
+TEST(RotateQuarter, ChecksInOrderAndTellsOverlap) {
+  uint8_t frame[128] = {};
+  const QvpiSize roi{2, 3};
+  const auto at = [&](ptrdiff_t src, int srcStep, ptrdiff_t dst, int dstStep, int turns) {
+    return qvpiRotateQuarter_8u_C1R(frame + src, srcStep, frame + dst, dstStep, roi, turns);
+  };
+  EXPECT_EQ(qvpiRotateQuarter_8u_C1R(frame, 0, frame, 8, {0, 3}, 1), qvpStatusSize);
+  EXPECT_EQ(at(32, 0, 32, 8, 1), qvpStatusStep);
+  EXPECT_EQ(at(32, 8, 34, 0, 2), qvpStatusStep);
+  EXPECT_EQ(at(32, 8, 32, 8, 1), qvpStatusNotSupportedMode);
+  EXPECT_EQ(at(32, 8, 34, 8, 1), qvpStatusNoError);           // side by side
+  EXPECT_EQ(at(32, 8, 33, 8, 3), qvpStatusNotSupportedMode);  // a shared column
+  EXPECT_EQ(at(48, -8, 34, 8, 1), qvpStatusNoError);          // the same, upwards
+  EXPECT_EQ(at(48, -8, 42, -8, -1), qvpStatusNoError);
+  EXPECT_EQ(at(48, -8, 33, 8, 1), qvpStatusNotSupportedMode);
+  EXPECT_EQ(at(32, 8, 56, -8, 1), qvpStatusNotSupportedMode);  // its upper row
+  EXPECT_EQ(at(32, 8, 64, -8, 1), qvpStatusNoError);
+}
+
 // Beyond the caches, and in whole blocks, rows are streamed.
 TEST(Transpose, MovesLargeImages) {
   constexpr int kWidth = 8192, kHeight = 4096;
@@ -77,6 +135,10 @@ TEST(Transpose, MovesLargeImages) {
   ASSERT_EQ(qvpiTranspose_8u_C1R(src, kWidth, dst, kHeight, {kWidth, kHeight}), qvpStatusNoError);
   for (int y = 0; y < kHeight; ++y) {
     for (int x = 0; x < kWidth; ++x) ASSERT_EQ(dst[x * kHeight + y], src[y * kWidth + x]) << x << ',' << y;
+  }
+  ASSERT_EQ(qvpiRotateQuarter_8u_C1R(src, kWidth, dst, kHeight, {kWidth, kHeight}, 1), qvpStatusNoError);
+  for (int y = 0; y < kHeight; ++y) {
+    for (int x = 0; x < kWidth; ++x) ASSERT_EQ(dst[(kWidth - 1 - x) * kHeight + y], src[y * kWidth + x]);
   }
 }
 

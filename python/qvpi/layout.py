@@ -22,6 +22,7 @@ _SWAP = Operation("SwapChannels", "src dst dstOrder val", by_rows=True)
 _DUPLICATE = Operation("Dup", "src dst")
 _MIRROR = Operation("Mirror", "src dst roiSize flip", free=("src", "dst"), in_place=True)
 _TRANSPOSE = Operation("Transpose", "src dst roiSize", free=("src", "dst"), in_place=True)
+_QUARTERS = Operation("RotateQuarter", "src dst roiSize turns", free=("src", "dst"), in_place=True)
 _BORDERS = {
     "constant": Operation("CopyConstBorder", "src dst topBorderHeight leftBorderWidth value", free=("src",)),
     "replicate": Operation("CopyReplicateBorder", "src dst topBorderHeight leftBorderWidth value", free=("src",)),
@@ -137,11 +138,11 @@ def transpose(a, out=None, *, copy=False):
     return _TRANSPOSE.apply((a,), result, ((a.shape[1], a.shape[0]),))
 
 
-def rot90(a, k=1, *, copy=False):
+def rot90(a, k=1, out=None, *, copy=False):
     """Turned by k quarters counter-clockwise, as numpy.rot90."""
-    k %= 4
-    if k == 0:
-        return copy_to(a, copy=copy)
-    if k == 2:
-        return flip(a, copy=copy)
-    return flip(transpose(a, copy=copy), 0 if k == 1 else 1)
+    a = image(a, copy)
+    shape = (a.shape[1], a.shape[0], *a.shape[2:]) if k % 2 else a.shape
+    result = numpy.empty(shape, a.dtype) if out is None else _of_shape(out, shape)
+    views = [array.view(numpy.float32) if array.dtype == numpy.int32 else array for array in (a, result)]
+    _QUARTERS.apply(views[:1], views[1], ((a.shape[1], a.shape[0]), k % 4))  # only bits move
+    return result

@@ -37,7 +37,8 @@ bool ReadsBeyond(const Export& function) {
 }
 
 bool IsTurned(const Scene& scene, const std::vector<Argument>& arguments) {
-  const int flip = scene.function().Find("flip");
+  const int flip = scene.function().Find("flip"), turns = scene.function().Find("turns");
+  if (turns >= 0) return int{arguments[turns].number} % 2 != 0;
   return scene.Has("Transpose") || (flip >= 0 && int{arguments[flip].number} >= qvpAxis45);
 }
 

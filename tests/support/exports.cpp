@@ -79,6 +79,7 @@ constexpr struct {
     {"qvpiPhasePack", FourierLesson},
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
+    {"qvpiRotateQuarter", TurnLesson},
     {"qvpiScale", ScaleLesson},
     {"qvpiSetWindow", WindowFunctionLesson},
     {"qvpiShift", ShiftLesson},

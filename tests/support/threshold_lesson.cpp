@@ -1,4 +1,4 @@
-// Parameters of thresholds, comparisons, counts, mirrors and transpositions.
+// Parameters of thresholds, comparisons, counts, mirrors, transpositions and turns.
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
 
@@ -15,9 +15,11 @@ Real UpperBound(const Element& element, Random& random) {
   return std::min(element.Stored(bounds[random.Next() % (element.isInteger ? 4 : 5)]), element.highest);
 }
 
-// The axis of a mirror or transposition, and the size that it makes of the region's.
+// Quarters of a turn, the axis of a mirror or transposition, and the size that it makes of the region's.
+int TurnsOf(const Scene& scene) { return static_cast<int>(scene.choices().Next() % 8) - 3; }
 int AxisOf(const Scene& scene) {
   if (scene.Has("Transpose")) return qvpAxis45;
+  if (scene.Has("RotateQuarter")) return TurnsOf(scene) % 2 != 0 ? qvpAxis45 : qvpAxisBoth;
   return static_cast<int>(scene.choices().Next() % (scene.function().Has("pDst") ? 5 : 3));  // squares in place
 }
 QvpiSize TurnedSize(const Scene& scene) {
@@ -55,6 +57,8 @@ bool TurnLesson(Scene& scene, size_t place, Argument& argument) {
   const bool inPlace = !scene.function().Has("pDst");
   if (name == "flip") {
     argument = AxisOf(scene);
+  } else if (name == "turns") {
+    argument = TurnsOf(scene);
   } else if (name == "pDst") {
     argument = {scene.Output(size_t{1} * TurnedStep(scene) * TurnedSize(scene).height)};
   } else if (name == "dstStep") {
