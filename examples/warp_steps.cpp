@@ -24,13 +24,14 @@ Matrix Rotation(QvpiSize size, double degrees) {
   return m;
 }
 
-// A record and its buffers, of the sizes that the library asks for, for images of one size.
+// A record and its buffers, of the sizes that the library asks for.
 class Warper {
  public:
-  explicit Warper(QvpiSize size) : size_(size) {
+  explicit Warper(QvpiSize size) : Warper(size, size) {}
+  Warper(QvpiSize from, QvpiSize to) : size_(to) {
     int record = 0, initBuffer = 0;
-    const Matrix m = Rotation(size, 10);
-    Require(qvpiWarpAffineGetSize(size, size, qvp8u, m.c, qvpInterpolationCubic, qvpWarpForward, qvpBorderReplicate,
+    const Matrix m = Rotation(from, 10);
+    Require(qvpiWarpAffineGetSize(from, to, qvp8u, m.c, qvpInterpolationCubic, qvpWarpForward, qvpBorderReplicate,
                                   &record, &initBuffer));
     record_.resize(record);
     buffer_.resize(initBuffer);
@@ -77,6 +78,28 @@ void Turn(Demo& demo, const std::string& caption, QvpiBorderType border, int isS
                                         warper.spec(), warper.buffer()));
   }
   demo.Show(caption, result);
+}
+
+// The whole picture on a canvas that holds it, and what of that has its pixels only.
+void TurnWhole(Demo& demo) {
+  const Rgb& photo = demo.photo();
+  QvpiSize size;
+  QvpiRect inside;
+  Matrix m;
+  double x = 0, y = 0;
+  Require(qvpiGetRotateFit(photo.size(), 10, &size, &x, &y));
+  Require(qvpiGetRotateInside(photo.size(), 10, &inside));
+  Require(qvpiGetRotateTransform(10, x, y, m.c));
+  Warper warper(photo.size(), size);
+  Require(qvpiWarpAffineLinearInit(photo.size(), size, qvp8u, m.c, qvpWarpForward, kChannels, qvpBorderConst, kDark, 0,
+                                   warper.spec()));
+  Rgb canvas(size), part({inside.width, inside.height});
+  demo.Time(size, 3,
+            CALL(qvpiWarpAffineLinear_8u_C3R, photo.data(), photo.step(), canvas.data(), canvas.step(), {0, 0}, size,
+                 warper.spec(), warper.buffer()));
+  demo.Show("The whole, turned by 10 degrees", canvas);
+  Require(qvpiCopy_8u_C3R(canvas.At(inside.x, inside.y), canvas.step(), part.data(), part.step(), part.size()));
+  demo.Show("Cropped to what is inside", part);
 }
 
 // The picture as a poster on a wall that one looks along.
@@ -213,6 +236,7 @@ void WarpSteps(Demo& demo) {
   Turn(demo, "Turned: constant", qvpBorderConst, 0);
   Turn(demo, "Turned: transparent", qvpBorderTransparent, 0);
   Turn(demo, "Turned: smooth edge", qvpBorderTransparent, 1);
+  TurnWhole(demo);
   Tilt(demo);
   KeystoneAndBack(demo);
   Poster(demo);

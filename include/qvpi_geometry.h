@@ -1835,6 +1835,34 @@ QvpStatus qvpiGetBilinearBound(QvpiRect srcRoi, double bound[2][2], const double
 QvpStatus qvpiGetBilinearTransform(QvpiRect srcRoi, const double quad[4][2], double coeffs[2][4]);
 /** @} */
 
+/** @name Warp: transform between quadrangles, affine
+ *  @{ */
+/** Coefficients that take the corners 0, 1 and 3 of one quadrangle to those of another, and points between them in
+ *  proportion: landmarks of one picture to those of another. The corners 2 follow from the others.
+ *
+ *  @param srcQuad,dstQuad corners; each goes to that of its number
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusQuad: a coordinate is no finite number, of the corners 2 too.
+ *          qvpStatusCoefficient: the three corners of a quadrangle lie on a line (the cross product of the edges that
+ *          meet in corner 0 is not above 1e-10 times their lengths), or a coefficient is no finite number.
+ */
+QvpStatus qvpiGetAffineQuadTransform(const double srcQuad[4][2], const double dstQuad[4][2], double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: transform between quadrangles, perspective
+ *  @{ */
+/** Coefficients that take the corners of one convex quadrangle to those of another, with c22 = 1: a page in a photograph
+ *  to an upright rectangle.
+ *
+ *  @param srcQuad,dstQuad corners, in an order that goes around; each goes to that of its number
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusQuad: a coordinate is no finite number, or a quadrangle is degenerate or not
+ *          convex. qvpStatusCoefficient: c22 would be 0, as (0, 0) goes to infinity, or a coefficient is no finite
+ *          number.
+ */
+QvpStatus qvpiGetPerspectiveQuadTransform(const double srcQuad[4][2], const double dstQuad[4][2], double coeffs[3][3]);
+/** @} */
+
 /** @name Warp: shift of a rotation
  *  @{ */
 /** The shift that makes a rotation by qvpiGetRotateTransform() turn about a centre: ((1 - cos) * xCenter - sin *
@@ -1858,6 +1886,96 @@ QvpStatus qvpiGetRotateShift(double xCenter, double yCenter, double angle, doubl
  *  @return qvpStatusNullPointer. qvpStatusCoefficient: an argument is no finite number.
  */
 QvpStatus qvpiGetRotateTransform(double angle, double shiftX, double shiftY, double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: transform of a rotation with a scale
+ *  @{ */
+/** The coefficients of a rotation by an angle and a scale that takes one point to another, as the centre of an image to
+ *  that of a canvas:
+ *
+ *  @code
+ *    {m00, m01, xDst - (m00 * xSrc + m01 * ySrc);  m10, m11, yDst - (m10 * xSrc + m11 * ySrc)}
+ *    m = scale * {cos, sin; -sin, cos}
+ *  @endcode
+ *
+ *  @param xSrc,ySrc point of the source
+ *  @param xDst,yDst where it goes
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param scale factor of all lengths
+ *  @param coeffs receives the coefficients
+ *  @return qvpStatusNullPointer. qvpStatusCoefficient: a point or the angle is no finite number. qvpStatusResizeFactor:
+ *          the scale is no finite number above 0.
+ */
+QvpStatus qvpiGetRotateScaleTransform(double xSrc, double ySrc, double xDst, double yDst, double angle, double scale, double coeffs[2][3]);
+/** @} */
+
+/** @name Warp: quadrangle of a rectangle, rotation
+ *  @{ */
+/** qvpiGetAffineQuad() for the coefficients of qvpiGetRotateTransform().
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param quad receives the corners, clockwise from the one of the top left pixel
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param shiftX,shiftY shift
+ *  @return qvpStatusNullPointer. qvpStatusSize: x or y negative, or a length below 1. qvpStatusCoefficient: the angle or
+ *          the shift is no finite number; nothing is written. qvpStatusCoefficient: the rectangle is one pixel wide or
+ *          high, and the quadrangle has no area; it is written all the same.
+ */
+QvpStatus qvpiGetRotateQuad(QvpiRect srcRoi, double quad[4][2], double angle, double shiftX, double shiftY);
+/** @} */
+
+/** @name Warp: bound of a rectangle, rotation
+ *  @{ */
+/** The box around the quadrangle of qvpiGetRotateQuad().
+ *
+ *  @param srcRoi rectangle of pixels
+ *  @param bound receives the least x and y, and the greatest
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param shiftX,shiftY shift
+ *  @return as qvpiGetRotateQuad(); where a quadrangle without area is written, so is its bound.
+ */
+QvpStatus qvpiGetRotateBound(QvpiRect srcRoi, double bound[2][2], double angle, double shiftX, double shiftY);
+/** @} */
+
+/** @name Warp: canvas of a turned image
+ *  @{ */
+/** The size of a canvas that holds a whole turned image, and the shift for qvpiGetRotateTransform() that puts the
+ *  image's centre into the canvas's:
+ *
+ *  @code
+ *    width  = ceil((W - 1) * |cos| + (H - 1) * |sin| - 1e-9) + 1
+ *    height = ceil((W - 1) * |sin| + (H - 1) * |cos| - 1e-9) + 1
+ *    shiftX = (width - 1) / 2 - (cos * cx + sin * cy),   cx = (W - 1) / 2
+ *    shiftY = (height - 1) / 2 - (cos * cy - sin * cx),  cy = (H - 1) / 2
+ *  @endcode
+ *
+ *  1920 x 1080 pixels turned by 10 degrees need 2079 x 1397, and a shift by (0.39376913, 333.31164372).
+ *
+ *  @param srcSize size of the image, W x H
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param pDstSize receives the size of the canvas
+ *  @param pShiftX,pShiftY receive the shift
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusCoefficient: the angle is no finite number.
+ *          qvpStatusSizeOverflow: a length of the canvas above 2147483647.
+ */
+QvpStatus qvpiGetRotateFit(QvpiSize srcSize, double angle, QvpiSize* pDstSize, double* pShiftX, double* pShiftY);
+/** @} */
+
+/** @name Warp: what a turned image fills of its canvas
+ *  @{ */
+/** The largest rectangle about the centre of the canvas of qvpiGetRotateFit() that has only pixels of the turned image.
+ *  A photograph whose horizon was levelled is cropped to it.
+ *
+ *  Of 1920 x 1080 pixels turned by 10 degrees it is {134, 310, 1811, 777}.
+ *
+ *  @param srcSize size of the image
+ *  @param angle degrees, positive for counter-clockwise as one sees the image. Multiples of 90 are exact
+ *  @param pRoi receives the rectangle, in the canvas
+ *  @return qvpStatusNullPointer. qvpStatusSize: a length below 1. qvpStatusCoefficient: the angle is no finite number.
+ *          qvpStatusSizeOverflow: a length of the canvas above 2147483647. qvpStatusRect: there is no pixel inside, as
+ *          in 3 x 2 pixels turned by 30 degrees.
+ */
+QvpStatus qvpiGetRotateInside(QvpiSize srcSize, double angle, QvpiRect* pRoi);
 /** @} */
 
 /** @name Remap

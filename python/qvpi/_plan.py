@@ -18,7 +18,7 @@ NUMBERS = {name: numpy.dtype(code).num for name, code in DTYPES.items()}
 NAMES = {number: name for name, number in NUMBERS.items()}
 _C_TYPES = {f"Qvp{name}": number for name, number in NUMBERS.items()} | {
     "int": NUMBERS["32s"], "double": NUMBERS["64f"], "QvpiPoint": NUMBERS["32s"],
-    "QvpiSize": NUMBERS["32s"], "QvpiBorderSize": NUMBERS["32u"],
+    "QvpiSize": NUMBERS["32s"], "QvpiRect": NUMBERS["32s"], "QvpiBorderSize": NUMBERS["32u"],
     "QvpSizeL": numpy.dtype(numpy.intp).num}
 _STRUCTURES = {"QvpiSize": ("P", "z"), "QvpiPoint": ("P", "o"), "QvpiRect": ("Q", "r")}
 

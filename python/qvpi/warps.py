@@ -17,6 +17,8 @@ from .raw import lib
 
 __all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotation",
            "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
+__all__ = ["Remap", "Warp", "affine_transform", "perspective_transform", "remap", "rotate", "rotation",
+           "warp_affine", "warp_perspective", "warp_quad"]
 
 _OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst,
             "transparent": lib.qvpBorderTransparent}
@@ -173,10 +175,60 @@ def rotation(angle, center):
     x, y = center
     _ROTATE_SHIFT(x, y, angle, shifts[0], shifts[1])
     _ROTATE(angle, shifts[0, 0], shifts[1, 0], matrix)
+def _transform(call, src, dst, points, rows):
+    src, dst = (numpy.asarray(corners, float) for corners in (src, dst))
+    if src.shape != (points, 2) or dst.shape != (points, 2):
+        raise ValueError(f"{'three' if points == 3 else 'four'} points (x, y) are needed on both sides")
+    order = [0, 1, 1, 2] if points == 3 else [0, 1, 2, 3]  # the affine form takes the corners 0, 1 and 3
+    matrix = numpy.zeros((rows, 3))
+    call(src[order], dst[order], matrix)
     return matrix
 
 
-_ROTATE_SHIFT = make_call("qvpiGetRotateShift", "xCenter yCenter angle shiftX shiftY")
+def affine_transform(src, dst):
+    """The (2, 3) matrix that takes three points to three others."""
+    return _transform(_AFFINE_QUAD, src, dst, 3, 2)
+
+
+def perspective_transform(src, dst):
+    """The (3, 3) matrix that takes the corners of a convex quadrangle to those of another."""
+    return _transform(_PERSPECTIVE_QUAD, src, dst, 4, 3)
+
+
+def rotation(angle, center, scale=1.0, to=None):
+    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y), and scales.
+
+    to: where the center goes, if it does not stay.
+    """
+    matrix = numpy.zeros((2, 3))
+    _ROTATE_SCALE(*center, *(center if to is None else to), angle, scale, matrix)
+    return matrix
+
+
+def rotate(a, angle, out=None, *, fit="canvas", method="linear", threads=None, copy=False, **options):
+    """The whole image turned by `angle` degrees counter-clockwise; see Warp for the options.
+
+    fit: 'canvas', just large enough for all corners; 'inside', what of it has pixels of the image only.
+    """
+    a = image(a, copy)
+    size, roi, shift = numpy.zeros(2, numpy.int32), numpy.zeros(4, numpy.int32), numpy.zeros((2, 1))
+    _ROTATE_FIT((a.shape[1], a.shape[0]), angle, size, shift[0], shift[1])
+    if fit == "inside":
+        _ROTATE_INSIDE((a.shape[1], a.shape[0]), angle, roi)
+    elif fit == "canvas":
+        roi[2:] = size
+    else:
+        raise ValueError(f"fit must be one of 'canvas', 'inside', not {fit!r}")
+    matrix = numpy.zeros((2, 3))
+    _ROTATE(angle, shift[0, 0] - roi[0], shift[1, 0] - roi[1], matrix)
+    return warp_affine(a, matrix, (int(roi[3]), int(roi[2])), out, method=method, threads=threads, **options)
+
+
+_AFFINE_QUAD = make_call("qvpiGetAffineQuadTransform", "srcQuad dstQuad coeffs")
+_PERSPECTIVE_QUAD = make_call("qvpiGetPerspectiveQuadTransform", "srcQuad dstQuad coeffs")
+_ROTATE_SCALE = make_call("qvpiGetRotateScaleTransform", "xSrc ySrc xDst yDst angle scale coeffs")
+_ROTATE_FIT = make_call("qvpiGetRotateFit", "srcSize angle dstSize shiftX shiftY")
+_ROTATE_INSIDE = make_call("qvpiGetRotateInside", "srcSize angle roi")
 _ROTATE = make_call("qvpiGetRotateTransform", "angle shiftX shiftY coeffs")
 
 

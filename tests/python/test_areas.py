@@ -171,6 +171,12 @@ def test_warp_formulas():
                            (qvpi.affine_transform(corners[:3], others[:3]), 3)):
         ends = matrix @ numpy.array([(x, y, 1) for x, y in corners[:points]]).T
         numpy.testing.assert_allclose((ends[:2] / (ends[2] if points == 4 else 1)).T, others[:points], atol=1e-9)
+    matrix = qvpi.rotation(30, (3, 4), 2, to=(5, 7))
+    numpy.testing.assert_allclose(matrix @ (3, 4, 1), (5, 7))
+    numpy.testing.assert_allclose(numpy.linalg.det(matrix[:, :2]), 4)
+    numpy.testing.assert_array_equal(qvpi.rotate(a, 90, method="nearest"), numpy.rot90(a))
+    canvas, inside = qvpi.rotate(numpy.ones_like(a), 10), qvpi.rotate(numpy.ones_like(a), 10, fit="inside")
+    assert canvas.shape == (25, 33) and (inside > 0.99).all() and inside.size > 150
     y, x = numpy.mgrid[:20, :30].astype("f4")
     numpy.testing.assert_array_equal(qvpi.remap(a, x[:, ::-1].copy(), y, threads=2), a[:, ::-1])
     assert (qvpi.remap(a, x + 100, y) == 0).all()

@@ -130,6 +130,10 @@ bool TransformLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   if (name == "srcRoi") {
     argument = {nullptr, 1, 1, 5, scene.roi().height + 3};
+  } else if (name == "srcSize") {
+    argument = SourceSize(scene);
+  } else if (name == "srcQuad" || name == "dstQuad") {
+    argument = {name == "srcQuad" ? kFrom : kTo};
   } else if (name == "angle") {
     argument = scene.random().Next() % 100000 * 0.01 - 300;
   } else if (!type.ends_with("*") && !type.ends_with("]")) {
