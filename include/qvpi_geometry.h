@@ -656,6 +656,45 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f
 QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Decimate 4:2:0 frames
+ *  @{ */
+/** Frames of a simple fraction of their size, exactly: each sample is the mean of what it covers. For previews and
+ *  pyramids; no record is needed.
+ *
+ *  A frame has a plane of luma and chroma of half its samples on both axes, (n + 1) / 2 of n: as a plane of pairs (P2) or
+ *  as two planes (P3), in any order. Pointers and steps are arrays with an entry for each plane. A fraction of M to N
+ *  makes M samples of N, on both axes of every plane. Sample j covers [j N / M, (j + 1) N / M), and is S / (N N) of the
+ *  sum S with weights in units of 1 / M, to the nearest; halves go up:
+ *
+ *  @code
+ *    result = (2 S + N N) div (2 N N)
+ *  @endcode
+ *
+ *  10 20 30 40 50 60 in all rows becomes 13 27 43 57 by 2 of 3, and 10 20 30 40 becomes 13 25 38 by 3 of 4.
+ *
+ *  n luma samples of the destination are made of L = ceil(n N / M) of the source, and chroma of (L + 1) / 2. With n odd
+ *  the last chroma sample may cover up to 4 more: there the last of these counts again, and nothing beyond is read. So
+ *  1080 rows by 3 of 8 become 405, of 540 rows of chroma.
+ *
+ *  Steps may be negative. Source and destination must not overlap.
+ *
+ *  @param pSrc,srcStep source planes
+ *  @param pDst,dstStep destination planes
+ *  @param dstSize size of the destination's luma
+ *  @param fraction one of the values of QvpiDecimateFraction
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an array or a plane is null
+ *  - qvpStatusSize: a length below 1
+ *  - qvpStatusStep: 16u, and a step that is no multiple of 2
+ *  - qvpStatusDecimateFraction: another fraction
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDecimate420_8u_P2R(const Qvp8u* const pSrc[2], const int srcStep[2], Qvp8u* const pDst[2], const int dstStep[2], QvpiSize dstSize, QvpiDecimateFraction fraction);
+QvpStatus qvpiDecimate420_8u_P3R(const Qvp8u* const pSrc[3], const int srcStep[3], Qvp8u* const pDst[3], const int dstStep[3], QvpiSize dstSize, QvpiDecimateFraction fraction);
+QvpStatus qvpiDecimate420_16u_P2R(const Qvp16u* const pSrc[2], const int srcStep[2], Qvp16u* const pDst[2], const int dstStep[2], QvpiSize dstSize, QvpiDecimateFraction fraction);
+QvpStatus qvpiDecimate420_16u_P3R(const Qvp16u* const pSrc[3], const int srcStep[3], Qvp16u* const pDst[3], const int dstStep[3], QvpiSize dstSize, QvpiDecimateFraction fraction);
+/** @} */
+
 /** @name Warp: size of the record, affine
  *  @{ */
 /** Bytes of a warp record and of the Init buffer: 576 and 64.

@@ -239,6 +239,33 @@ enum {
     qvpAxis45 = 3,         /**< rows become columns */
     qvpAxis135 = 4,        /**< rows become columns, and both change places */
 };
+
+/** Where the chroma samples of a frame lie, of which there is one to two columns of luma, and in 4:2:0 to two rows. */
+typedef int QvpiChromaSite;
+enum {
+    qvpChromaCentre = 0,  /**< between luma samples on both axes: JPEG, MPEG-1 */
+    qvpChromaLeft = 1,    /**< on every other column, between rows: most video */
+    qvpChromaTopLeft = 2, /**< on every other column and row: video for large screens */
+};
+
+/** Where luma lies in packed 4:2:2. */
+typedef int QvpiLumaPlace;
+enum {
+    qvpLumaFirst = 0,  /**< Y U Y V */
+    qvpLumaSecond = 1, /**< U Y V Y */
+};
+
+/** How many samples of each axis a decimation leaves. */
+typedef int QvpiDecimateFraction;
+enum {
+    qvpDecimate1of2 = 0x12, /**< half */
+    qvpDecimate1of3 = 0x13, /**< a third */
+    qvpDecimate1of4 = 0x14, /**< a quarter */
+    qvpDecimate1of8 = 0x18, /**< an eighth */
+    qvpDecimate2of3 = 0x23, /**< two thirds */
+    qvpDecimate3of4 = 0x34, /**< three quarters */
+    qvpDecimate3of8 = 0x38, /**< three eighths */
+};
 /** @} */
 
 /** Configuration of the histogram of oriented gradients; see qvpiHOGGetSize(). */

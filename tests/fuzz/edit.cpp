@@ -87,7 +87,7 @@ const Element* NumbersOf(std::string_view type) {
 void EditNumbers(const Scene& scene, size_t place, Argument& argument, Choices& choices, const Zone& spare) {
   const auto& [type, name] = scene.function().parameters[place];
   const Element* const element = NumbersOf(type);
-  if (!element || !argument.pointer) return;
+  if (!element || !argument.pointer || name.ends_with("Step")) return;  // steps of planes fit what is in memory
   const auto pieces = scene.Pieces();
   const Scene::Piece* const piece = PieceAt(pieces, argument.pointer);
   const size_t bytes = piece ? piece->size : CountOf(type) * element->bytes;

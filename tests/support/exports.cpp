@@ -32,6 +32,7 @@ constexpr struct {
     {"qvpiCplxExtendToPack", FourierLesson},
     {"qvpiDCTBlocks", DctBlocksLesson},
     {"qvpiDFT", FourierLesson},
+    {"qvpiDecimate420", FrameLesson},
     {"qvpiDiv", DivisionLesson},
     {"qvpiDotProd", ReductionLesson},
     {"qvpiDotProdCol", WeightedRowsLesson},

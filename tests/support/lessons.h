@@ -14,6 +14,7 @@ bool ExtremesLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool FourierLesson(Scene& scene, size_t place, Argument& argument);
+bool FrameLesson(Scene& scene, size_t place, Argument& argument);
 bool GaussLesson(Scene& scene, size_t place, Argument& argument);
 bool GuidedLesson(Scene& scene, size_t place, Argument& argument);
 bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
