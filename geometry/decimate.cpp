@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "base/export.h"
-#include "geometry/decimate_kernel.h"
+#include "geometry/decimate_row.h"
 
 namespace qvp::decimate {
 namespace {
@@ -24,14 +24,13 @@ ptrdiff_t SamplesOf(ptrdiff_t n) {
 
 template <class T, int kChannels, class R>
 void DecimatePlane(const Plane& plane) {
-  using K = Kernel<T, kChannels, R>;
   for (ptrdiff_t y = 0; y < plane.results.height; y += R::kTo) {
-    typename K::Rows rows;
+    Rows<R> rows;
     const ptrdiff_t top = R::First(y), last = plane.samples.height - 1;
     for (int i = 0; i < R::kFrom; ++i) rows.from[i] = plane.src + std::min(top + i, last) * plane.srcStep;
     rows.results = static_cast<int>(std::min<ptrdiff_t>(R::kTo, plane.results.height - y));
     for (int i = 0; i < rows.results; ++i) rows.to[i] = plane.dst + (y + i) * plane.dstStep;
-    K::Row(rows, plane.results.width, plane.samples.width);
+    Row<T, kChannels, R>{rows, plane.results.width, plane.samples.width * kChannels * ptrdiff_t{sizeof(T)}}.Run();
   }
 }
 

@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "base/blocks.h"
+#include "base/pack.h"
 #include "base/pairs.h"
 #include "geometry/decimate_taps.h"
 
@@ -20,20 +21,18 @@ HWY_INLINE void Unrolled(const Body& body) {
 }
 
 // Sums of both axes as lanes twice as wide. Words are taken less 32768, as products in pairs are of signed ones.
-template <class T, class R>
+template <class T, class R, class D>
 struct Sums {
   static constexpr bool kIsByte = sizeof(T) == 1;
   using Wide = std::conditional_t<kIsByte, int16_t, int32_t>;
-  using DBytes = hn::CappedTag<uint8_t, 2 * kBlockBytes>;
-  using D = hn::Repartition<Wide, DBytes>;
-  using V = hn::Vec<D>;
-  using VBytes = hn::Vec<DBytes>;
+  using DWide = hn::Repartition<Wide, D>;
+  using V = hn::Vec<DWide>;
 
-  static HWY_INLINE V InPairs(VBytes samples, VBytes weights) {
+  static HWY_INLINE V InPairs(hn::Vec<D> samples, hn::Vec<D> weights) {
     if constexpr (kIsByte) {
-      return MulAddPairs(samples, hn::BitCast(hn::RebindToSigned<DBytes>(), weights));
+      return MulAddPairs(samples, hn::BitCast(hn::RebindToSigned<D>(), weights));
     } else {
-      const hn::Repartition<int16_t, DBytes> d;
+      const hn::Repartition<int16_t, D> d;
       return MulAddPairs(hn::Xor(hn::BitCast(d, samples), hn::Set(d, INT16_MIN)), hn::BitCast(d, weights));
     }
   }
@@ -47,7 +46,7 @@ struct Sums {
 
   // (2 S + kSum) div (2 kSum): halves go up.
   static HWY_INLINE V Rounded(V sum) {
-    const D d;
+    const DWide d;
     const Wide bias = kIsByte ? 0 : R::kSum * (1 << (kIsByte ? 0 : 15));
     const auto v = hn::Add(sum, hn::Set(d, static_cast<Wide>(bias + R::kSum / 2)));
     if constexpr (R::kSum == 4) return hn::ShiftRight<2>(v);
@@ -58,13 +57,13 @@ struct Sums {
 
   // floor(v / 9), below 2^15 and 2^20: the reciprocal, rounded up in the last of 16 or 32 bits, adds less than 1 / 9.
   static HWY_INLINE V Ninth(V v) {
-    const D d;
-    const hn::RebindToUnsigned<D> du;
+    const DWide d;
+    const hn::RebindToUnsigned<DWide> du;
     const auto u = hn::BitCast(du, v);
     if constexpr (kIsByte) {
       return hn::BitCast(d, hn::MulHigh(u, hn::Set(du, uint16_t{7282})));
     } else {
-      const hn::Repartition<uint64_t, D> wide;
+      const hn::Repartition<uint64_t, DWide> wide;
       const auto ninth = hn::Set(du, 477218589u);
       const auto odd = hn::BitCast(du, hn::ShiftRight<32>(hn::BitCast(wide, u)));
       return hn::BitCast(d, hn::OddEven(hn::BitCast(du, hn::MulEven(odd, ninth)),
@@ -73,40 +72,64 @@ struct Sums {
   }
 };
 
-// A row of results from kFrom rows: kTo rows of results.
-template <class T, int kChannels, class R>
+// The rows that one period of results is made of.
+template <class R>
+struct Rows {
+  const uint8_t* from[R::kFrom];
+  uint8_t* to[R::kTo];
+  int results;  // rows of them
+};
+
+// What a vector of D makes of the rows: kTo rows of results from kFrom rows. Vectors begin in one of kCycle places of
+// a period.
+template <class T, int kChannels, class R, class D>
 struct Kernel {
   using K = Taps<T, kChannels, R>;
-  using S = Sums<T, R>;
+  using S = Sums<T, R, D>;
   using V = typename S::V;
-  using D = typename S::DBytes;
-  static constexpr int kBlocks = kBlocksOf<D>, kResults = kBlocks * K::kResults;  // of a vector
-  static constexpr int kResultBytes = K::kResults * K::kUnit;
-  // Bytes that a vector of results is made of, from its first sample on.
-  static constexpr ptrdiff_t BytesRead(ptrdiff_t first) {
-    const ptrdiff_t last = R::First(first + kResults - K::kResults) - R::First(first) + 2 * (R::kPairs - 1);
-    return last * K::kUnit + kBlockBytes;
+  static constexpr int kBlocks = kBlocksOf<D>, kResults = kBlocks * K::kResults, kResultBytes = K::kResults * K::kUnit;
+  // Vectors of which all lanes are results are narrowed two at a time, as a group.
+  static constexpr int kGroup = 2 * kResultBytes == kBlockBytes ? 2 : 1;
+  // Places in a period where vectors, and groups, begin.
+  static constexpr int kCycle = K::kPhases / std::gcd(K::kPhases, kBlocks);
+  static constexpr int kGroupCycle = K::kPhases / std::gcd(K::kPhases, kBlocks* kGroup);
+
+  // From the first sample of the vector to where a load begins.
+  static constexpr int Offset(int place, int block, int pair) {
+    const int start = place * kResults % R::kTo;
+    return static_cast<int>(R::First(start + block * K::kResults) - R::First(start) + 2 * pair) * K::kUnit;
+  }
+  // What a group reads, from its first sample on.
+  static constexpr int BytesRead(int place) { return Offset(place, kGroup * kBlocks - 1, R::kPairs - 1) + kBlockBytes; }
+
+  // The samples of one pair for each result. Loads that would end behind the row end with it: their places move by as
+  // much.
+  template <int kPlace, int kPair, bool kAtEnd>
+  static HWY_INLINE hn::Vec<D> Pair(const uint8_t* row, ptrdiff_t left) {
+    const D d;
+    const hn::Full128<uint8_t> block;
+    constexpr int kTable = kPlace * kBlocks % K::kPhases * kBlockBytes;
+    const auto beyond = [&](auto b) { return std::max<ptrdiff_t>(0, Offset(kPlace, b, kPair) + kBlockBytes - left); };
+    if constexpr (!kAtEnd && K::kIsInOrder) return hn::LoadU(d, row);
+    const auto samples = FromBlocks(d, [&](int b) QVP_INLINED {
+      return hn::LoadU(block, row + Offset(kPlace, b, kPair) - (kAtEnd ? beyond(b) : 0));
+    });
+    auto places = hn::LoadU(d, K::kTables.places[kPair] + kTable);
+    if constexpr (kAtEnd) {
+      places = hn::Add(
+          places, FromBlocks(d, [&](int b) QVP_INLINED { return hn::Set(block, static_cast<uint8_t>(beyond(b))); }));
+    }
+    return hn::TableLookupBytesOr0(samples, places);
   }
 
-  struct Rows {
-    const uint8_t* from[R::kFrom];
-    uint8_t* to[R::kTo];
-    int results;  // rows of them
-  };
-
-  // The sums along one row. `at` is the first result's place in its row, of which `row` begins with the first sample.
-  static HWY_INLINE V Along(const uint8_t* row, ptrdiff_t at) {
+  template <int kPlace, bool kAtEnd>
+  static HWY_INLINE V Along(const uint8_t* row, ptrdiff_t left) {
     const D d;
-    const ptrdiff_t phase = at / K::kResults % K::kPhases * kBlockBytes;
+    constexpr int kTable = kPlace * kBlocks % K::kPhases * kBlockBytes;
     V sum;
     Unrolled<R::kPairs>([&](auto pair) QVP_INLINED {
-      const auto samples = FromBlocks(d, [&](int block) QVP_INLINED {
-        const ptrdiff_t unit = R::First(at + block * K::kResults) - R::First(at) + 2 * pair;
-        return hn::LoadU(hn::Full128<uint8_t>(), row + unit * K::kUnit);
-      });
-      const auto places = hn::LoadU(d, K::kTables.places[pair] + phase);
-      const auto weights = hn::LoadU(d, K::kTables.weights[pair] + phase);
-      const V product = S::InPairs(hn::TableLookupBytesOr0(samples, places), weights);
+      const auto weights = hn::LoadU(d, K::kTables.weights[pair] + kTable);
+      const V product = S::InPairs(Pair<kPlace, pair, kAtEnd>(row, left), weights);
       if constexpr (pair == 0) sum = product;
       if constexpr (pair != 0) sum = hn::Add(sum, product);
     });
@@ -114,21 +137,22 @@ struct Kernel {
   }
 
   static HWY_INLINE void Put(V sum, uint8_t* to) {
-    const hn::Rebind<T, typename S::D> narrow;
+    const hn::Rebind<T, typename S::DWide> narrow;
     const hn::Half<D> d;
     const auto bytes = hn::BitCast(d, hn::DemoteTo(narrow, S::Rounded(sum)));
-    if constexpr (2 * kResultBytes == kBlockBytes) return hn::StoreU(bytes, d, to);
-    HWY_ALIGN uint8_t all[kBlocks * kBlockBytes / 2];
-    hn::Store(bytes, d, all);
-    for (int b = 0; b < kBlocks; ++b) std::memcpy(to + b * kResultBytes, all + b * kBlockBytes / 2, kResultBytes);
+    if constexpr (2 * kResultBytes == kBlockBytes) {
+      hn::StoreU(bytes, d, to);
+    } else {
+      HWY_ALIGN uint8_t all[kBlocks * kBlockBytes / 2];
+      hn::Store(bytes, d, all);
+      for (int b = 0; b < kBlocks; ++b) std::memcpy(to + b * kResultBytes, all + b * kBlockBytes / 2, kResultBytes);
+    }
   }
 
-  // One vector of results of each row, where `from` tells the bytes of each row from the first sample on.
-  template <class From, class To>
-  static HWY_INLINE void Vector(int results, ptrdiff_t at, const From& from, const To& to) {
-    V sums[R::kTo];
+  template <int kPlace, bool kAtEnd, class From>
+  static HWY_INLINE void SumsOf(const From& from, ptrdiff_t left, V (&sums)[R::kTo]) {
     Unrolled<R::kFrom>([&](auto row) QVP_INLINED {
-      const V along = Along(from(row), at);
+      const V along = Along<kPlace, kAtEnd>(from(row), left);
       Unrolled<R::kTo>([&](auto result) QVP_INLINED {
         constexpr int kWeight = R::Weight(result, row);
         if constexpr (kWeight > 0) {
@@ -137,36 +161,33 @@ struct Kernel {
         }
       });
     });
+  }
+
+  // One vector of results of each row. `from` tells where its first sample lies, of which `left` bytes of the row are
+  // left, and `to` the results' places.
+  template <int kPlace, bool kAtEnd, class From, class To>
+  static HWY_INLINE void Vector(int results, const From& from, ptrdiff_t left, const To& to) {
+    V sums[R::kTo];
+    SumsOf<kPlace, kAtEnd>(from, left, sums);
     Unrolled<R::kTo>([&](auto result) QVP_INLINED {
       if (result < results) Put(sums[result], to(result));
     });
   }
 
-  // The last results of a row, whose samples and places are staged. The last sample counts again where they end.
-  static HWY_NOINLINE void Staged(const Rows& rows, ptrdiff_t at, ptrdiff_t width, ptrdiff_t n) {
-    constexpr ptrdiff_t kRowBytes = 96, kAgain = 4;
-    alignas(kBlockBytes) uint8_t from[R::kFrom][kRowBytes] = {}, to[R::kTo][2 * kBlockBytes];
-    const ptrdiff_t first = R::First(at), units = std::min<ptrdiff_t>(width - first, kRowBytes / K::kUnit - kAgain);
-    for (int i = 0; i < R::kFrom; ++i) {
-      std::memcpy(from[i], rows.from[i] + first * K::kUnit, units * K::kUnit);
-      uint8_t* const end = from[i] + units * K::kUnit;
-      for (int again = 0; again < kAgain; ++again) std::memcpy(end + again * K::kUnit, end - K::kUnit, K::kUnit);
+  // The same for a group.
+  template <int kPlace, class From, class To>
+  static HWY_INLINE void Group(int results, const From& from, const To& to) {
+    if constexpr (kGroup == 1) return Vector<kPlace, false>(results, from, 0, to);
+    if constexpr (kGroup == 2) {
+      constexpr int kFirst = 2 * kPlace, kNext = Offset(kFirst, kBlocks, 0);
+      V lower[R::kTo], upper[R::kTo];
+      SumsOf<kFirst, false>(from, 0, lower);
+      SumsOf<kFirst + 1, false>([&](int row) QVP_INLINED { return from(row) + kNext; }, 0, upper);
+      Unrolled<R::kTo>([&](auto result) QVP_INLINED {
+        const auto packed = PackedInOrder<T>(S::Rounded(lower[result]), S::Rounded(upper[result]));
+        if (result < results) hn::StoreU(hn::BitCast(D(), packed), D(), to(result));
+      });
     }
-    Vector(
-        rows.results, at, [&](int i) QVP_INLINED { return from[i]; }, [&](int i) QVP_INLINED { return to[i]; });
-    for (int i = 0; i < rows.results; ++i) std::memcpy(rows.to[i] + at * K::kUnit, to[i], n * K::kUnit);
-  }
-
-  // `results` of a row from `width` samples.
-  static void Row(const Rows& rows, ptrdiff_t results, ptrdiff_t width) {
-    ptrdiff_t at = 0;
-    for (; at + kResults <= results && R::First(at) * K::kUnit + BytesRead(at) <= width * K::kUnit; at += kResults) {
-      const ptrdiff_t first = R::First(at) * K::kUnit;
-      Vector(
-          rows.results, at, [&](int i) QVP_INLINED { return rows.from[i] + first; },
-          [&](int i) QVP_INLINED { return rows.to[i] + at * K::kUnit; });
-    }
-    for (; at < results; at += kResults) Staged(rows, at, width, std::min<ptrdiff_t>(kResults, results - at));
   }
 };
 

@@ -47,6 +47,9 @@ struct Taps {
   }();
   static constexpr int kPhases = R::kTo / std::gcd(kResults, R::kTo);
 
+  // The samples of a block follow each other in pairs.
+  static constexpr bool kIsInOrder = kChannels == 1 && R::kFrom == 2;
+
   // One more phase than there are, so that those of two blocks lie side by side.
   struct Tables {
     alignas(2 * kBlockBytes) uint8_t places[R::kPairs][(kPhases + 1) * kBlockBytes];
