@@ -60,6 +60,7 @@ int main(int argc, char** argv) try {
   demo::DenoiseSteps(demo);
   demo::PageSteps(demo);
   demo::ResizeSteps(demo);
+  demo::FrameSteps(demo);
   demo::WarpSteps(demo);
   demo::StatsSteps(demo);
   demo::HogSteps(demo);

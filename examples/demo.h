@@ -53,6 +53,7 @@ void SumsFilterSteps(Demo& demo);
 void DenoiseSteps(Demo& demo);
 void PageSteps(Demo& demo);
 void ResizeSteps(Demo& demo);
+void FrameSteps(Demo& demo);
 void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);
 void HogSteps(Demo& demo);

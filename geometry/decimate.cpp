@@ -22,14 +22,18 @@ ptrdiff_t SamplesOf(ptrdiff_t n) {
   return static_cast<ptrdiff_t>((static_cast<int64_t>(n) * R::kFrom + R::kTo - 1) / R::kTo);
 }
 
+// Rows are walked with constant counts, as loops of unknown ones would take longer than short rows; those below the
+// plane repeat its last one.
 template <class T, int kChannels, class R>
-void DecimatePlane(const Plane& plane) {
-  for (ptrdiff_t y = 0; y < plane.results.height; y += R::kTo) {
+void DecimatePlane(const Plane& described) {
+  const Plane plane = described;
+  const ptrdiff_t last = plane.samples.height - 1, lastResult = plane.results.height - 1;
+  for (ptrdiff_t y = 0; y <= lastResult; y += R::kTo) {
     Rows<R> rows;
-    const ptrdiff_t top = R::First(y), last = plane.samples.height - 1;
-    for (int i = 0; i < R::kFrom; ++i) rows.from[i] = plane.src + std::min(top + i, last) * plane.srcStep;
-    rows.results = static_cast<int>(std::min<ptrdiff_t>(R::kTo, plane.results.height - y));
-    for (int i = 0; i < rows.results; ++i) rows.to[i] = plane.dst + (y + i) * plane.dstStep;
+    const ptrdiff_t top = R::First(y);
+    Unrolled<R::kFrom>([&](auto i) QVP_INLINED { rows.from[i] = plane.src + std::min(top + i, last) * plane.srcStep; });
+    Unrolled<R::kTo>([&](auto i) QVP_INLINED { rows.to[i] = plane.dst + std::min(y + i, lastResult) * plane.dstStep; });
+    rows.results = static_cast<int>(std::min<ptrdiff_t>(R::kTo, lastResult + 1 - y));
     Row<T, kChannels, R>{rows, plane.results.width, plane.samples.width * kChannels * ptrdiff_t{sizeof(T)}}.Run();
   }
 }

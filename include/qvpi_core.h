@@ -40,7 +40,7 @@
  *                                          place
  *    at least a row                        Histogram, ComputeThreshold_Otsu; FilterBorder's destination; Moments,
  *                                          which return qvpStatusStride for steps from 1 on
- *    multiples of an element, of any sign  Resize, Warp
+ *    multiples of an element, of any sign  Resize, Decimate420, Warp
  *  @endcode
  */
 #ifndef QVPI_CORE_H

@@ -1,5 +1,5 @@
 /** @file qvpi_geometry.h
- *  Resize, warps, remap, mirror, transpose and turns by quarters.
+ *  Resize, decimation of 4:2:0 frames, warps, remap, mirror, transpose and turns by quarters.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */

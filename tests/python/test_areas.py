@@ -257,6 +257,22 @@ def test_smoothing_that_keeps_edges():
     numpy.testing.assert_array_equal(qvpi.least_squares(row), [[104, 104, 104, 199, 199, 199]])
 
 
+def test_frames():
+    """Decimation by whole numbers is a mean of squares; halves go up."""
+    for dtype, pairs in (("u1", True), ("u2", False)):
+        luma, chroma = random((48, 80), dtype, 1), [random((24, 40), dtype, seed) for seed in (2, 3)]
+        frame = (luma, numpy.dstack(chroma)) if pairs else (luma, *chroma)
+        for n in (2, 4, 8):
+            small = qvpi.decimate_frame(frame, f"1/{n}")
+            for plane, result in zip(frame, small):
+                rows, columns = result.shape[:2]
+                sums = plane.reshape(rows, n, columns, n, -1).astype(int).sum((1, 3)).reshape(result.shape)
+                numpy.testing.assert_array_equal(result, (2 * sums + n * n) // (2 * n * n))
+    assert [plane.shape for plane in qvpi.decimate_frame(frame, "3/8")] == [(18, 30), (9, 15), (9, 15)]
+    with pytest.raises(ValueError, match="expected"):
+        qvpi.decimate_frame((luma, *chroma[:1], chroma[1][1:]), "1/2")
+
+
 def test_hog():
     a = random((160, 100, 3), "u1", 1)
     made = qvpi.Hog()
