@@ -2,40 +2,15 @@
 #include <algorithm>
 
 #include "base/export.h"
-#include "geometry/decimate_row.h"
+#include "geometry/decimate_plane.h"
 
 namespace qvp::decimate {
 namespace {
-
-// A plane of `results` samples and the part of its source that counts.
-struct Plane {
-  const uint8_t* src;
-  ptrdiff_t srcStep;
-  uint8_t* dst;
-  ptrdiff_t dstStep;
-  Size results, samples;
-};
 
 // Samples that n results are made of.
 template <class R>
 ptrdiff_t SamplesOf(ptrdiff_t n) {
   return static_cast<ptrdiff_t>((static_cast<int64_t>(n) * R::kFrom + R::kTo - 1) / R::kTo);
-}
-
-// Rows are walked with constant counts, as loops of unknown ones would take longer than short rows; those below the
-// plane repeat its last one.
-template <class T, int kChannels, class R>
-void DecimatePlane(const Plane& described) {
-  const Plane plane = described;
-  const ptrdiff_t last = plane.samples.height - 1, lastResult = plane.results.height - 1;
-  for (ptrdiff_t y = 0; y <= lastResult; y += R::kTo) {
-    Rows<R> rows;
-    const ptrdiff_t top = R::First(y);
-    Unrolled<R::kFrom>([&](auto i) QVP_INLINED { rows.from[i] = plane.src + std::min(top + i, last) * plane.srcStep; });
-    Unrolled<R::kTo>([&](auto i) QVP_INLINED { rows.to[i] = plane.dst + std::min(y + i, lastResult) * plane.dstStep; });
-    rows.results = static_cast<int>(std::min<ptrdiff_t>(R::kTo, lastResult + 1 - y));
-    Row<T, kChannels, R>{rows, plane.results.width, plane.samples.width * kChannels * ptrdiff_t{sizeof(T)}}.Run();
-  }
 }
 
 // Chroma has half of the luma's samples on both axes, and one more where that is odd.
@@ -51,7 +26,7 @@ void DecimateFrame(const T* const* src, const int* srcStep, T* const* dst, const
                       dstStep[i],
                       i == 0 ? luma : Halved(luma),
                       i == 0 ? samples : Halved(samples)};
-    i > 0 && kPlanes == 2 ? DecimatePlane<T, 2, R>(plane) : DecimatePlane<T, 1, R>(plane);
+    i > 0 && kPlanes == 2 ? Decimation<T, 2, R>(plane).Run() : Decimation<T, 1, R>(plane).Run();
   }
 }
 
