@@ -55,6 +55,20 @@ struct Planes {
   }
 };
 
+// The definition, for sample x of row y of a plane; `unit` samples make a pixel.
+template <class T>
+int64_t Expected(const Planes<T>& src, size_t plane, const Fraction& f, int x, int y, int unit, Lengths across,
+                 Lengths down) {
+  int64_t sum = 0;
+  for (const auto& [column, weight] : WeightsOf(f, x / unit, across.from)) {
+    for (const auto& [row, factor] : WeightsOf(f, y, down.from)) {
+      sum += weight * factor * src(plane, column * unit + x % unit, row);
+    }
+  }
+  const int all = f.from * f.from;
+  return (2 * sum + all) / (2 * all);
+}
+
 enum class Values { kRandom, kHighest };
 
 template <class T>
@@ -76,14 +90,8 @@ void Check(const Export& function, int planes, const Fraction& f, QvpiSize size,
     const Lengths across = LengthsOf(f, size.width, i > 0), down = LengthsOf(f, size.height, i > 0);
     const int unit = planes == 2 && i == 1 ? 2 : 1;
     for (int y = 0; y < down.to; ++y) {
-      const auto rows = WeightsOf(f, y, down.from);
       for (int x = 0; x < across.to * unit; ++x) {
-        int64_t sum = 0;
-        for (const auto& [column, weight] : WeightsOf(f, x / unit, across.from)) {
-          for (const auto& [row, factor] : rows) sum += weight * factor * src(i, column * unit + x % unit, row);
-        }
-        const int all = f.from * f.from;
-        ASSERT_EQ(dst(i, x, y), (2 * sum + all) / (2 * all))
+        ASSERT_EQ(dst(i, x, y), Expected(src, i, f, x, y, unit, across, down))
             << function.name << ' ' << f.to << " of " << f.from << ", " << size.width << 'x' << size.height
             << ", plane " << i << " at " << x << ',' << y;
       }
@@ -121,7 +129,7 @@ TEST(Decimate, DividesEverySumByNine) {
 }
 
 TEST(Decimate, GivesTheValuesOfItsText) {
-  const auto row = [](std::vector<Qvp16u> values, int fraction, std::vector<Qvp16u> expected) {
+  const auto row = [](const std::vector<Qvp16u>& values, int fraction, const std::vector<Qvp16u>& expected) {
     std::vector<Qvp16u> src, dst(expected.size());
     for (int y = 0; y < 4; ++y) src.insert(src.end(), values.begin(), values.end());
     Qvp16u u[64] = {}, v[64] = {}, toU[64], toV[64];

@@ -604,7 +604,8 @@ TEST(Transforms, TakeQuadranglesToQuadrangles) {
       const double x = from[i][0], y = from[i][1], w = perspective[2][0] * x + perspective[2][1] * y + 1;
       for (int k = 0; k < 2; ++k) {
         EXPECT_NEAR((perspective[k][0] * x + perspective[k][1] * y + perspective[k][2]) / w, to[i][k], 1e-8) << n;
-        if (i != 2) EXPECT_NEAR(affine[k][0] * x + affine[k][1] * y + affine[k][2], to[i][k], 1e-10) << n;
+        const double mapped = affine[k][0] * x + affine[k][1] * y + affine[k][2];
+        EXPECT_NEAR(mapped, i == 2 ? mapped : to[i][k], 1e-10) << n;
       }
     }
   }
