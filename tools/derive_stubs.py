@@ -24,7 +24,7 @@ INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "chan
             "count")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
           "angle", "tolerance", "alpha_a", "c", "clip")
-WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction")
+WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction", "fit", "fraction")
 TYPES = {
     **dict.fromkeys(BOOLEANS, "bool"), **dict.fromkeys(IMAGES, "Image"), **dict.fromkeys(INTEGERS, "int"),
     **dict.fromkeys(FLOATS, "float"), **dict.fromkeys(WORDS, "str"),
@@ -36,7 +36,7 @@ TYPES = {
     "dtype": "DTypeLike", "sigma": "Any", "kernel": "Any", "divisor": "int | None", "row": "ArrayLike",
     "column": "ArrayLike", "src_shape": "Sequence[int]", "dst_shape": "Sequence[int] | None", "matrix": "ArrayLike",
     "origin": "Sequence[int]", "src": "ArrayLike", "dst": "ArrayLike", "src_quad": "ArrayLike", "dst_quad": "ArrayLike",
-    "center": "Sequence[float]",
+    "center": "Sequence[float]", "to": "Sequence[float] | None", "frame": "Sequence[Image]",
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
 }
@@ -45,7 +45,7 @@ RESULTS = {
     "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
     "moments": "Moments", **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
     **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]",
-    "__init__": "None",
+    "__init__": "None", "decimate_frame": "tuple[Image, ...]",
 }
 
 

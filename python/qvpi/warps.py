@@ -195,13 +195,13 @@ def perspective_transform(src, dst):
     return _transform(_PERSPECTIVE_QUAD, src, dst, 4, 3)
 
 
-def rotation(angle, center, scale=1.0, to=None):
-    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y), and scales.
+def rotation(angle, center, factor=1.0, to=None):
+    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y), and scales by `factor`.
 
     to: where the center goes, if it does not stay.
     """
     matrix = numpy.zeros((2, 3))
-    _ROTATE_SCALE(*center, *(center if to is None else to), angle, scale, matrix)
+    _ROTATE_SCALE(*center, *(center if to is None else to), angle, factor, matrix)
     return matrix
 
 
