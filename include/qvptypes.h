@@ -240,21 +240,6 @@ enum {
     qvpAxis135 = 4,        /**< rows become columns, and both change places */
 };
 
-/** Where the chroma samples of a frame lie, of which there is one to two columns of luma, and in 4:2:0 to two rows. */
-typedef int QvpiChromaSite;
-enum {
-    qvpChromaCentre = 0,  /**< between luma samples on both axes: JPEG, MPEG-1 */
-    qvpChromaLeft = 1,    /**< on every other column, between rows: most video */
-    qvpChromaTopLeft = 2, /**< on every other column and row: video for large screens */
-};
-
-/** Where luma lies in packed 4:2:2. */
-typedef int QvpiLumaPlace;
-enum {
-    qvpLumaFirst = 0,  /**< Y U Y V */
-    qvpLumaSecond = 1, /**< U Y V Y */
-};
-
 /** How many samples of each axis a decimation leaves. */
 typedef int QvpiDecimateFraction;
 enum {
