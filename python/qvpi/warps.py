@@ -15,10 +15,8 @@ from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
 from .raw import lib
 
-__all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotation",
-           "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
-__all__ = ["Remap", "Warp", "affine_transform", "perspective_transform", "remap", "rotate", "rotation",
-           "warp_affine", "warp_perspective", "warp_quad"]
+__all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotate",
+           "rotation", "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
 
 _OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst,
             "transparent": lib.qvpBorderTransparent}
@@ -142,39 +140,6 @@ def bilinear_transform(shape, quad):
 _BILINEAR = make_call("qvpiGetBilinearTransform", "srcRoi quad coeffs")
 
 
-def affine_transform(src, dst):
-    """The (2, 3) matrix that takes three points to three others."""
-    src, dst = numpy.asarray(src, float), numpy.asarray(dst, float)
-    if src.shape != (3, 2) or dst.shape != (3, 2):
-        raise ValueError("three points (x, y) are needed on both sides")
-    points = numpy.hstack([src, numpy.ones((3, 1))])
-    return _solved(points, dst).T
-
-
-def _solved(matrix, right):
-    try:
-        return numpy.linalg.solve(matrix, right)
-    except numpy.linalg.LinAlgError:
-        raise ValueError("the points make no transform: three of them are on a line") from None
-
-
-def perspective_transform(src, dst):
-    """The (3, 3) matrix that takes four points to four others."""
-    src, dst, rows, right = numpy.asarray(src, float), numpy.asarray(dst, float), [], []
-    if src.shape != (4, 2) or dst.shape != (4, 2):
-        raise ValueError("four points (x, y) are needed on both sides")
-    for (x, y), (u, v) in zip(src, dst):
-        rows += [[x, y, 1, 0, 0, 0, -u * x, -u * y], [0, 0, 0, x, y, 1, -v * x, -v * y]]
-        right += [u, v]
-    return numpy.append(_solved(rows, right), 1.0).reshape(3, 3)
-
-
-def rotation(angle, center):
-    """The (2, 3) matrix that turns by `angle` degrees counter-clockwise about `center`, (x, y)."""
-    matrix, shifts = numpy.zeros((2, 3)), numpy.zeros((2, 1))
-    x, y = center
-    _ROTATE_SHIFT(x, y, angle, shifts[0], shifts[1])
-    _ROTATE(angle, shifts[0, 0], shifts[1, 0], matrix)
 def _transform(call, src, dst, points, rows):
     src, dst = (numpy.asarray(corners, float) for corners in (src, dst))
     if src.shape != (points, 2) or dst.shape != (points, 2):

@@ -18,7 +18,7 @@ bool IsAny(std::string_view text, std::initializer_list<std::string_view> list) 
 // Whole numbers that say nothing about memory; all others may tell how much there is.
 bool IsFree(std::string_view name) {
   return IsAny(name, {"scaleFactor", "flag", "flags", "weight", "divisor", "offset", "mOrd", "nOrd", "nChannel",
-                      "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation", "eps"});
+                      "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation", "eps", "turns"});
 }
 
 Number AnyInteger(Choices& choices) {
