@@ -133,7 +133,7 @@ bool TransformLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "srcSize") {
     argument = SourceSize(scene);
   } else if (name == "srcQuad" || name == "dstQuad") {
-    argument = {name == "srcQuad" ? kFrom : kTo};
+    argument = {name == "srcQuad" ? MannerOf(scene).from : MannerOf(scene).to};
   } else if (name == "angle") {
     argument = scene.random().Next() % 100000 * 0.01 - 300;
   } else if (!type.ends_with("*") && !type.ends_with("]")) {
