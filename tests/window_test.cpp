@@ -61,7 +61,8 @@ TEST(Window, EveryMemberMultipliesByTheWeights) {
     const Name name(function->name);
     const Element& element = name.From();
     for (const QvpiSize size : {QvpiSize{1, 1}, {5, 3}, {70, 66}, {131, 2}, {2100, 2}}) {
-      const QvpiWindow window = kWindows[++turn % 4] | turn / 4 % 2 * qvpWindowPeriodic;
+      ++turn;
+      const QvpiWindow window = kWindows[turn % 4] | turn / 4 % 2 * qvpWindowPeriodic;
       const std::vector<float> across = Weights(window, size.width), down = Weights(window, size.height);
       const bool isInPlace = !function->Has("pDst");
       test::Random random(turn);
