@@ -99,8 +99,10 @@ struct Kernel {
     const int start = place * kResults % R::kTo;
     return static_cast<int>(R::First(start + block * K::kResults) - R::First(start) + 2 * pair) * K::kUnit;
   }
-  // What a group reads, from its first sample on.
-  static constexpr int BytesRead(int place) { return Offset(place, kGroup * kBlocks - 1, R::kPairs - 1) + kBlockBytes; }
+  // What a group reads, from its first sample on; places of groups are counted by groups.
+  static constexpr int BytesRead(int place) {
+    return Offset(kGroup * place, kGroup * kBlocks - 1, R::kPairs - 1) + kBlockBytes;
+  }
 
   // The samples of one pair for each result. Loads that would end behind the row end with it: their places move by as
   // much.

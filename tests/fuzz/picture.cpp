@@ -42,6 +42,11 @@ bool IsTurned(const Scene& scene, const std::vector<Argument>& arguments) {
   return scene.Has("Transpose") || (flip >= 0 && int{arguments[flip].number} >= qvpAxis45);
 }
 
+// Whether an image has the coefficients of blocks of 8 x 8 pixels, each block's 64 in a row.
+bool HoldsBlocks(const Scene& scene, bool isDestination) {
+  return scene.Has("DCTBlocks") && isDestination == scene.Has("Fwd");
+}
+
 // Bytes of a row: pixels of the width, or bits from an offset on.
 ptrdiff_t RowBytes(ptrdiff_t width, ptrdiff_t pixel, const Scene& scene, const std::vector<Argument>& arguments,
                    bool isDestination) {
@@ -64,6 +69,10 @@ bool IsRegion(const Scene& scene, const std::vector<Argument>& arguments, ptrdif
   ptrdiff_t width = std::max<ptrdiff_t>(1, arguments[size].number);
   picture.rows = std::max<ptrdiff_t>(1, arguments[size].second);
   if (isDestination && IsTurned(scene, arguments)) std::swap(width, picture.rows);
+  if (HoldsBlocks(scene, isDestination)) {
+    width = (width + 7) / 8 * 64;
+    picture.rows = (picture.rows + 7) / 8;
+  }
   const int channels = isSource || isDestination || isInPlace ? ChannelsOf(parts.layout, isDestination) : 1;
   const bool isComplex = type.find("fc") != std::string_view::npos || type.find("sc") != std::string_view::npos;
   const ptrdiff_t pixel = channels * picture.element->bytes * (isComplex ? 2 : 1);

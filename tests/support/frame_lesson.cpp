@@ -24,7 +24,8 @@ const void* Steps(Scene& scene, int width, int more) {
 const void* Planes(Scene& scene, size_t place, QvpiSize size, int more) {
   const bool isOutput = scene.function().parameters[place].name == "pDst";
   const Element& element = *PointedAt(scene.function().parameters[place].type);
-  auto* const planes = reinterpret_cast<const void**>(scene.Input(kPlanes * sizeof(void*)));
+  auto* const planes =
+      reinterpret_cast<const void**>(scene.Input(kPlanes * sizeof(uint64_t)));  // of one size everywhere
   for (int i = 0; i < Name(scene.function().name).written; ++i) {
     const ptrdiff_t step = StepOfPlane(size.width, i, more);
     uint8_t* const plane = isOutput ? scene.Output(step * size.height) : scene.Input(step * size.height);
