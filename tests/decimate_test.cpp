@@ -117,7 +117,7 @@ TEST(Decimate, IsTheMeanOfWhatEachSampleCovers) {
 // Sums of nine samples, each of them, above and below every tie.
 TEST(Decimate, DividesEverySumByNine) {
   constexpr int kSums = 9 * 255 + 1;
-  std::vector<uint8_t> src(3 * 3 * kSums), chroma(2 * 3 * kSums), dst(kSums), other(2 * kSums);
+  std::vector<uint8_t> src(3 * 3 * kSums), chroma(2 * 3 * kSums + 3), dst(kSums), other(2 * kSums);
   for (int sum = 0; sum < kSums; ++sum) {
     for (int i = 0; i < 9; ++i) src[i / 3 * 3 * kSums + sum * 3 + i % 3] = (sum + i) / 9;
   }

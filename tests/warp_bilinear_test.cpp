@@ -1,4 +1,5 @@
 // Bilinear warps against the formulas of their points in double precision.
+#include <cstring>
 #include <numeric>
 #include <vector>
 
@@ -185,8 +186,8 @@ Map Forward(const double (&to)[4][2], QvpiSize src = kSource) {
 }
 Map Quad(const double (&from)[4][2], const double (&to)[4][2]) {
   Map m{Kind::kQuad, {}, {}, {}};
-  std::copy(from[0], from[0] + 8, m.from[0]);
-  std::copy(to[0], to[0] + 8, m.to[0]);
+  std::memcpy(m.from, from, sizeof(m.from));
+  std::memcpy(m.to, to, sizeof(m.to));
   return m;
 }
 
