@@ -27,6 +27,10 @@ struct BorderPoint {
   double x = 0, y = 0, share = 1;
 };
 
+// As kernels have it, who subtract a floor with its sign: -0 is 0 behind -0, not -0 behind 0. The weight of the next
+// pixel would have the sign, and a sum of zeros take it.
+inline double FractionBehind(double x, int64_t whole) { return x - static_cast<double>(whole) + 0.0; }
+
 // The nearest number of [low, high]; not a number gives the lower one.
 inline double Clamped(double x, double low, double high) { return x >= low ? x <= high ? x : high : low; }
 
@@ -54,8 +58,8 @@ BorderPoint Locate(const Area& area, double u, double v) {
   const int64_t column = PixelOf<kTaps>(x), row = PixelOf<kTaps>(y);
   point.column = column - kTapsBefore(kTaps);
   point.row = row - kTapsBefore(kTaps);
-  point.x = x - static_cast<double>(column);
-  point.y = y - static_cast<double>(row);
+  point.x = FractionBehind(x, column);
+  point.y = FractionBehind(y, row);
   const bool isConstant = area.kind == BorderKind::kConst && (AreAllOutside(point.column, kTaps, area.columns) ||
                                                               AreAllOutside(point.row, kTaps, area.rows));
   point.origin = isConstant ? Origin::kConstant : Origin::kTaps;

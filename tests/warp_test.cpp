@@ -533,6 +533,22 @@ TEST(Remap, KeepsAlphaAndDowngradesForSmallSources) {
   }
 }
 
+// A coordinate of -0 is 0: with a next weight of -0 the zero would be +0. Points of a row run by vectors or, beside one
+// that is outside, one by one.
+TEST(Remap, ZerosHaveTheSameSignWhateverIsBesideThem) {
+  const float src[8][8] = {{-0.0f, -5}, {-0.0f, -5}};
+  for (int outside = -1; outside < 40; ++outside) {
+    float u[40], v[40] = {}, dst[40];
+    std::fill(u, u + 40, -0.0f);
+    std::fill(dst, dst + 40, 1.0f);
+    if (outside >= 0) u[outside] = -9;
+    ASSERT_EQ(qvpiRemap_32f_C1R(src[0], {8, 8}, sizeof(src[0]), {0, 0, 8, 8}, u, sizeof(u), v, sizeof(v), dst,
+                                sizeof(dst), {40, 1}, qvpInterpolationLinear),
+              0);
+    for (int i = 0; i < 40; ++i) EXPECT_EQ(std::signbit(dst[i]), i != outside) << i << ", outside " << outside;
+  }
+}
+
 TEST(Remap, RefusesInOrder) {
   uint8_t pixel[4] = {};
   float map[4] = {};
