@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/record.h"
-#include "signal/dct.h"
+#include "signal/dft.h"
 
 namespace qvp::filter {
 
@@ -27,8 +27,14 @@ struct LeastSquaresRecord {
   double* Eigenvalues() { return reinterpret_cast<double*>(reinterpret_cast<uint8_t*>(this) + kHeadBytes); }
   const double* Eigenvalues() const { return const_cast<LeastSquaresRecord*>(this)->Eigenvalues(); }
   uint8_t* PlanBytes() { return reinterpret_cast<uint8_t*>(Eigenvalues()) + TableBytes(width); }
-  const dct::DctPlan& Plan() const {
-    return *reinterpret_cast<const dct::DctPlan*>(const_cast<LeastSquaresRecord*>(this)->PlanBytes());
+  const dft::DftPlan& Plan() const {
+    return *reinterpret_cast<const dft::DftPlan*>(const_cast<LeastSquaresRecord*>(this)->PlanBytes());
+  }
+  // Of the cosine transform of rows.
+  static dft::DftPlan PlanFor(int64_t width) {
+    dft::DftPlan plan = dft::LayOutDft(width, dft::DftKind::kCosine);
+    plan.scale[1] = static_cast<float>(1 / static_cast<double>(width));
+    return plan;
   }
 };
 static_assert(sizeof(LeastSquaresRecord) <= LeastSquaresRecord::kHeadBytes);

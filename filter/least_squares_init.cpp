@@ -44,10 +44,10 @@ QvpStatus qvpiFilterLeastSquaresGetSize(QvpiSize roiSize, QvpDataType dataType, 
                                         int* pBufferSize) {
   if (!pSpecSize || !pBufferSize) return qvpStatusNullPointer;
   if (const QvpStatus failed = CheckImage(roiSize, dataType, numChannels)) return failed;
-  const dct::DctPlan plan = dct::LayOutDct(roiSize.width);
+  const dft::DftPlan plan = LeastSquaresRecord::PlanFor(roiSize.width);
   const ByteCount spec = ByteCount(LeastSquaresRecord::kHeadBytes) + LeastSquaresRecord::TableBytes(roiSize.width) +
                          plan.bytes + kRecordBoundary;
-  const LeastSquaresLayout layout(roiSize.width, roiSize.height, dft::LayOutDft(roiSize.width, dft::DftKind::kReal));
+  const LeastSquaresLayout layout(roiSize.width, roiSize.height, plan);
   const QvpStatus ofSpec = spec.StoreTo(pSpecSize), ofBuffer = layout.bytes().StoreTo(pBufferSize);
   return ofSpec ? ofSpec : ofBuffer;
 }
@@ -73,7 +73,7 @@ QvpStatus qvpiFilterLeastSquaresInit(QvpiSize roiSize, Qvp32f lambda, Qvp32f pow
               static_cast<float>(power / 2.0 - 1),
               eps};
     FillEigenvalues(record.beta, record);
-    dct::WriteDct(dct::LayOutDct(roiSize.width), record.PlanBytes());
+    dft::WriteDft(LeastSquaresRecord::PlanFor(roiSize.width), record.PlanBytes());
     return qvpStatusNoError;
   });
 }

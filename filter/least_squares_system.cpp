@@ -16,7 +16,7 @@ using D = hn::ScalableTag<float>;
 
 LeastSquaresSystem::LeastSquaresSystem(const LeastSquaresRecord& record, uint8_t* buffer)
     : record_(record), width_(record.width), height_(record.height) {
-  const LeastSquaresLayout layout(width_, height_, record.Plan().Dft());
+  const LeastSquaresLayout layout(width_, height_, record.Plan());
   uint8_t* const first = AtBoundary(buffer);
   v_ = reinterpret_cast<float*>(first);
   pivots_ = reinterpret_cast<float*>(first + layout.plane.value());
@@ -50,7 +50,7 @@ void LeastSquaresSystem::TransformRows(dft::Direction direction, ptrdiff_t y, in
   dft::DftLines<float> rows{{}, sizeof(float), count};
   dft::DftLines<const float> sources{{}, sizeof(float), count};
   for (int i = 0; i < count; ++i) sources.at[i] = rows.at[i] = Row(y + i);
-  dft::TransformLines(record_.Plan().Dft(), direction, sources, rows, block_);
+  dft::TransformLines(record_.Plan(), direction, sources, rows, block_);
 }
 
 void LeastSquaresSystem::AddAbove(const float* above, const float* pivots, float* row) const {
@@ -70,16 +70,9 @@ void LeastSquaresSystem::AddBelow(const float* below, const float* pivots, float
 }
 
 void LeastSquaresSystem::Eliminate(ptrdiff_t y, int count) const {
-  const dct::DctPlan& plan = record_.Plan();
-  for (int i = 0; i < count; ++i) {
-    std::memcpy(Scratch(), Row(y + i), width_ * sizeof(float));
-    dct::Reorder(plan, Scratch(), Row(y + i));
-  }
   TransformRows(dft::Direction::kForward, y, count);
   for (int i = 0; i < count; ++i) {
     float *const row = Row(y + i), *const pivots = pivots_ + (y + i) * width_;
-    std::memcpy(Scratch(), row, width_ * sizeof(float));
-    dct::Turn(plan, Scratch(), row);
     if (y + i > 0) {
       AddAbove(Row(y + i - 1), pivots, row);
     } else {
@@ -91,21 +84,12 @@ void LeastSquaresSystem::Eliminate(ptrdiff_t y, int count) const {
 }
 
 void LeastSquaresSystem::SubstituteRows(ptrdiff_t y, int count) const {
-  const dct::DctPlan& plan = record_.Plan();
   for (int i = count - 1; i >= 0; --i) {
     if (y + i + 1 == height_) continue;
     AddBelow(i + 1 < count ? Row(y + i + 1) : kept_, pivots_ + (y + i) * width_, Row(y + i));
   }
   std::memcpy(kept_, Row(y), width_ * sizeof(float));
-  for (int i = 0; i < count; ++i) {
-    std::memcpy(Scratch(), Row(y + i), width_ * sizeof(float));
-    dct::TurnBack(plan, Scratch(), Row(y + i));
-  }
   TransformRows(dft::Direction::kInverse, y, count);
-  for (int i = 0; i < count; ++i) {
-    std::memcpy(Scratch(), Row(y + i), width_ * sizeof(float));
-    dct::Restore(plan, Scratch(), Row(y + i));
-  }
 }
 
 void LeastSquaresSystem::Substitute() const {

@@ -17,7 +17,7 @@ class LeastSquaresSystem {
   float* Kept() const { return kept_; }
 
   // Lines that are transformed together.
-  int RowsAtOnce() const { return record_.Plan().Dft().Lines(); }
+  int RowsAtOnce() const { return record_.Plan().Lines(); }
 
   void Clear() const;
   // Takes `count` rows of r, from row y on, one after the other downward; then solves, from below upward.

@@ -1,6 +1,6 @@
 /** @file qvpi_transform.h
- *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of
- *  blocks, and windows.
+ *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of images and of blocks, and
+ *  windows.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *
@@ -536,6 +536,101 @@ QvpStatus qvpiPackToCplxExtend_32f32fc_C1R(const Qvp32f* pSrc, int srcStep, Qvp3
  *  - qvpStatusNoError: the result is written
  */
 QvpStatus qvpiCplxExtendToPack_32fc32f_C1R(const Qvp32fc* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize);
+/** @} */
+
+/** @name Cosine transform: sizes and record
+ *  @{ */
+/** Tells the sizes of what a cosine transform needs: a record, memory for its initialisation, and a work buffer.
+ *
+ *  Every size has 64 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param roiSize size of the images
+ *  @param flag normalisation: 1, 2, 4 or 8; see qvpiDCTFwd_32f_C1R()
+ *  @param hint ignored
+ *  @param pSpecSize size of the record in bytes
+ *  @param pSpecBufferSize size in bytes of memory that the initialisation needs: 0
+ *  @param pBufferSize size in bytes of the work buffer of each call
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an output pointer is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is above 2147483647; it is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDCTGetSize_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/** Makes the record of cosine transforms of images of one size. It holds no pointers, any number of threads may use it.
+ *
+ *  @param roiSize size of the images
+ *  @param flag normalisation: 1, 2, 4 or 8
+ *  @param hint ignored
+ *  @param pSpec the record, of the size that qvpiDCTGetSize_32f() tells
+ *  @param pMemInit ignored, may be null
+ *  @return, in the order of the checks; a record whose initialisation fails is refused by every transform:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusFftFlag: the flag is none of 1, 2, 4 and 8
+ *  - qvpStatusSizeOverflow: a size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDCTInit_32f(QvpiSize roiSize, int flag, QvpHintAlgorithm hint, QvpiDCTSpec_32f* pSpec, Qvp8u* pMemInit);
+/** @} */
+
+/** @name Cosine transform
+ *  @{ */
+/** Cosine transforms of images, forward (type II) and inverse (type III), of any size: for compression, and for linear
+ *  systems whose images reflect at their edges.
+ *
+ *  Of a line of N numbers, along rows and then down columns, and back in the opposite order:
+ *
+ *  @code
+ *    forward   X(u) = a(u) * sum over n of x(n) * cos(pi * (2 n + 1) * u / (2 N))
+ *    inverse   x(n) = b(0) * X(0) + sum over u >= 1 of b(u) * X(u) * cos(pi * (2 n + 1) * u / (2 N))
+ *  @endcode
+ *
+ *  | flag | a(0)      | a(u)      | b(0)      | b(u)      |
+ *  |------|-----------|-----------|-----------|-----------|
+ *  | 1    | 1/N       | 1/N       | 1         | 2         |
+ *  | 2    | 1         | 1         | 1/N       | 2/N       |
+ *  | 4    | sqrt(1/N) | sqrt(2/N) | sqrt(1/N) | sqrt(2/N) |
+ *  | 8    | 1         | 1         | 1         | 2         |
+ *
+ *  There and back gives the image, with flag 8 width times height of it; flag 4 keeps sums of squares. Single precision:
+ *  the rms error is at most 4 * 2^-24 * log2(2 * width * height) of the rms of the result. Each channel is an image of
+ *  its own; one with a NaN or an infinity is not finite anywhere. AC4 keeps the destination's alpha. By Fourier transforms
+ *  of the same length (Makhoul 1980); lengths whose prime factors are small are quicker.
+ *
+ *  Source and destination may be the same image, else they must not overlap.
+ *
+ *  @param pSrc,srcStep source
+ *  @param pDst,dstStep destination
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param pSpec record from qvpiDCTInit_32f()
+ *  @param pBuffer work buffer of the size that qvpiDCTGetSize_32f() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusContextMatch: `pSpec` is no such record
+ *  - qvpStatusNullPointer: an image is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNullPointer: `pBuffer` is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDCTFwd_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTFwd_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDCTInv_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, const QvpiDCTSpec_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
 /** @name Cosine transform of blocks

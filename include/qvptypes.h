@@ -284,6 +284,7 @@ typedef struct QvpiMomentState_64f QvpiMomentState_64f;   /**< moments */
 typedef struct QvpiFFTSpec_R_32f QvpiFFTSpec_R_32f;       /**< Fourier transform of real images, powers of two */
 typedef struct QvpiFFTSpec_C_32fc QvpiFFTSpec_C_32fc;     /**< Fourier transform of complex images, powers of two */
 typedef struct QvpiDFTSpec_R_32f QvpiDFTSpec_R_32f;       /**< Fourier transform of real images, any size */
+typedef struct QvpiDCTSpec_32f QvpiDCTSpec_32f;           /**< cosine transform of images */
 typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform of complex images, any size */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 /** @} */

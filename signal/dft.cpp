@@ -3,19 +3,36 @@
 
 #include <algorithm>
 
+#include "signal/dft_cosine.h"
 #include "signal/dft_ends.h"
-#include "signal/dft_real.h"
 
 namespace qvp::dft {
 namespace {
 
 // ---- Floats of lines to rows of lanes and back. A map gives the row of lanes of each float of a line.
 
+// Whether the lines are neighbouring columns, whose floats are the lanes of vectors in memory.
+template <class T>
+bool AreNeighbours(const DftLines<T>& lines) {
+  for (int l = 1; l < kDftLines; ++l) {
+    if (l >= lines.count || lines.at[l] != lines.at[0] + l) return false;
+  }
+  return true;
+}
+
 template <int kLines, class Map>
 void Gather(const DftLines<const float>& lines, ptrdiff_t first, ptrdiff_t end, const Map& rowOf, float* block) {
   ptrdiff_t i = first;
   const ptrdiff_t stride = lines.stride;
   if constexpr (kLines == kDftLines) {
+    if (AreNeighbours(lines)) {
+      for (; i < end; ++i) {
+        for (int l = 0; l < kDftLines; l += kLanes) {
+          hn::StoreU(hn::LoadU(Lanes(), At(lines.at[l], i * stride)), Lanes(), block + rowOf(i) * kLines + l);
+        }
+      }
+      return;
+    }
     const float* from[kDftLines];
     FillUp(lines, from);
     for (; i + kTile <= end; i += kTile) {
@@ -40,6 +57,15 @@ void Scatter(const float* block, float scale, const DftLines<float>& lines, ptrd
   const ptrdiff_t stride = lines.stride;
   if constexpr (kLines == kDftLines) {
     const V factor = hn::Set(Lanes(), scale);
+    if (AreNeighbours(lines)) {
+      for (; i < end; ++i) {
+        for (int l = 0; l < kDftLines; l += kLanes) {
+          const V v = hn::LoadU(Lanes(), block + rowOf(i) * kLines + l);
+          hn::StoreU(hn::Mul(v, factor), Lanes(), At(lines.at[l], i * stride));
+        }
+      }
+      return;
+    }
     float* to[kDftLines];
     FillUp(lines, to);
     for (; i + kTile <= end; i += kTile) {
@@ -138,14 +164,51 @@ void Run(const DftPlan& plan, Direction direction, Passes passes, float* block) 
 // ---- Lines.
 
 template <int kLines>
+void ClearImaginary(int64_t numbers, float* block) {
+  for (int64_t i = 0; i < numbers; ++i) std::memset(block + (2 * i + 1) * kLines, 0, kLines * sizeof(float));
+}
+
+// Numbers in the order that is transformed, or cosines.
+template <int kLines>
+void GatherForCosines(const DftPlan& plan, Direction direction, const DftLines<const float>& src, float* block) {
+  const auto n = static_cast<ptrdiff_t>(plan.length);
+  if (direction == Direction::kInverse) {
+    const auto rowOf = [n](ptrdiff_t k) { return RowOfCosine(k, n, [](ptrdiff_t j) { return j; }); };
+    return Gather<kLines>(src, 0, n, rowOf, block);
+  }
+  const ptrdiff_t rows = n % 2 == 0 ? 1 : 2;  // of a number of the line
+  Gather<kLines>(
+      src, 0, n, [=](ptrdiff_t i) { return rows * OrderOf(i, n); }, block);
+  if (n % 2 != 0) ClearImaginary<kLines>(n, block);
+}
+
+template <int kLines>
+void ScatterCosines(const DftPlan& plan, Direction direction, const float* block, const DftLines<float>& dst) {
+  const int32_t* const places = Table<int32_t>(plan, plan.places);
+  const float scale = plan.scale[direction == Direction::kInverse];
+  const auto n = static_cast<ptrdiff_t>(plan.length);
+  const auto placeOf = [places](ptrdiff_t j) { return static_cast<ptrdiff_t>(places[j]); };
+  if (direction == Direction::kForward) {
+    const auto rowOf = [=](ptrdiff_t k) { return RowOfCosine(k, n, placeOf); };
+    return Scatter<kLines>(block, scale, dst, 0, n, rowOf);
+  }
+  const auto rowOf = [=](ptrdiff_t i) {
+    const ptrdiff_t j = OrderOf(i, n);
+    return n % 2 == 0 ? 2 * placeOf(j / 2) + j % 2 : 2 * placeOf(j);
+  };
+  Scatter<kLines>(block, scale, dst, 0, n, rowOf);
+}
+
+template <int kLines>
 void GatherLines(const DftPlan& plan, Direction direction, const DftLines<const float>& src, float* block) {
   const auto inOrder = [](ptrdiff_t i) { return i; };
   const auto realPart = [](ptrdiff_t i) { return 2 * i; };
   if (plan.kind == DftKind::kComplex) return Gather<kLines>(src, 0, 2 * plan.length, inOrder, block);
+  if (plan.kind == DftKind::kCosine) return GatherForCosines<kLines>(plan, direction, src, block);
   if (direction == Direction::kInverse) return GatherPacked<kLines>(plan, src, block);
   if (plan.length % 2 == 0) return Gather<kLines>(src, 0, plan.length, inOrder, block);
   Gather<kLines>(src, 0, plan.length, realPart, block);
-  for (int64_t i = 0; i < plan.length; ++i) std::memset(block + (2 * i + 1) * kLines, 0, kLines * sizeof(float));
+  ClearImaginary<kLines>(plan.length, block);
 }
 
 template <int kLines>
@@ -155,6 +218,7 @@ void ScatterLines(const DftPlan& plan, Direction direction, const float* block, 
   const auto parts = [places](ptrdiff_t i) { return 2 * static_cast<ptrdiff_t>(places[i / 2]) + i % 2; };
   const auto realPart = [places](ptrdiff_t i) { return 2 * static_cast<ptrdiff_t>(places[i]); };
   if (plan.kind == DftKind::kComplex) return Scatter<kLines>(block, scale, dst, 0, 2 * plan.length, parts);
+  if (plan.kind == DftKind::kCosine) return ScatterCosines<kLines>(plan, direction, block, dst);
   if (direction == Direction::kForward) return ScatterPacked<kLines>(plan, scale, block, dst);
   if (plan.length % 2 == 0) return Scatter<kLines>(block, scale, dst, 0, plan.length, parts);
   Scatter<kLines>(block, scale, dst, 0, plan.length, realPart);
@@ -167,6 +231,7 @@ constexpr int64_t kLongLine = 1024;
 // Whether the first pass can read the lines, and whether the last one can write them: packed spectra are no numbers in
 // order.
 Passes LinePassesInBlock(const DftPlan& plan, Direction direction, ptrdiff_t srcStride, ptrdiff_t dstStride) {
+  if (plan.kind == DftKind::kCosine) return {};
   const bool isReal = plan.kind == DftKind::kReal, isForward = direction == Direction::kForward;
   const bool isInOrder = plan.kind == DftKind::kComplex || plan.length % 2 == 0;
   return {!isInOrder || (isReal && !isForward) || !HasLineEnds(plan, srcStride),
@@ -191,18 +256,21 @@ void LastPassOfLines(const DftPlan& plan, float* block, const DftLines<float>& d
 template <Direction kDirection, int kLines>
 void TransformLinesOf(const DftPlan& plan, const DftLines<const float>& src, const DftLines<float>& dst, float* block) {
   constexpr bool kForward = kDirection == Direction::kForward;
-  const bool isReal = plan.kind == DftKind::kReal, isHalved = plan.complexLength != plan.length;
+  const bool isReal = plan.kind != DftKind::kComplex, isHalved = plan.complexLength != plan.length;
+  const bool isCosine = plan.kind == DftKind::kCosine;
   const Passes passes = LinePassesInBlock(plan, kDirection, src.stride, dst.stride);
   if (passes.withFirst) {
     GatherLines<kLines>(plan, kDirection, src, block);
   } else {
     FirstPassOfLines<kDirection>(plan, src, block);
   }
+  if (isCosine && !kForward) TurnSpectrum<Direction::kInverse, kLines>(plan, block);
   if (isReal && !kForward) {
     isHalved ? ConvertHalved<Direction::kInverse, kLines>(plan, block) : Mirror<kLines>(plan, block);
   }
   Run<kLines>(plan, kDirection, passes, block);
   if (isHalved && kForward) ConvertHalved<Direction::kForward, kLines>(plan, block);
+  if (isCosine && kForward) TurnSpectrum<Direction::kForward, kLines>(plan, block);
   if (!passes.withLast) return LastPassOfLines<kDirection>(plan, block, dst);
   ScatterLines<kLines>(plan, kDirection, block, dst);
 }

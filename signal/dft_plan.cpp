@@ -104,7 +104,8 @@ DftPlan LayOutDft(int64_t length, DftKind kind) {
   DftPlan plan{};
   plan.length = length;
   plan.kind = kind;
-  plan.complexLength = kind == DftKind::kReal && length % 2 == 0 ? length / 2 : length;
+  plan.complexLength = kind != DftKind::kComplex && length % 2 == 0 ? length / 2 : length;
+  plan.scale[0] = plan.scale[1] = plan.ofMean[0] = plan.ofMean[1] = 1;
   if (!Factorise(plan.complexLength, plan)) {
     plan.chirpLength = 1;
     while (plan.chirpLength < 2 * plan.complexLength - 1) plan.chirpLength *= 2;
@@ -120,6 +121,7 @@ DftPlan LayOutDft(int64_t length, DftKind kind) {
   place(plan.places, plan.complexLength * int64_t{sizeof(int32_t)});
   place(plan.twiddles, TwiddleCount(plan) * kPairBytes);
   place(plan.realTwiddles, isHalved ? (plan.complexLength / 2 + 1) * kPairBytes : 0);
+  place(plan.cosines, kind == DftKind::kCosine ? (length / 2 + 1) * kPairBytes : 0);
   place(plan.primes, PrimeCount(plan) * kPairBytes);
   place(plan.chirp, chirpPairs * kPairBytes);
   place(plan.chirpSpectrum, plan.chirpLength * kPairBytes);
@@ -133,6 +135,10 @@ void WriteDft(const DftPlan& plan, uint8_t* to) {
   if (plan.complexLength != plan.length) {
     float* pairs = reinterpret_cast<float*>(to + plan.realTwiddles);
     for (int64_t k = 0; k <= plan.complexLength / 2; ++k) WritePair(pairs + 2 * k, SinCosOfTurn(k, plan.length));
+  }
+  if (plan.kind == DftKind::kCosine) {
+    float* pairs = reinterpret_cast<float*>(to + plan.cosines);
+    for (int64_t k = 0; k <= plan.length / 2; ++k) WritePair(pairs + 2 * k, SinCosOfTurn(k, 4 * plan.length));
   }
   if (plan.chirpLength) WriteChirp(plan, to);
 }
