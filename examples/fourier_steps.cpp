@@ -78,6 +78,25 @@ Grey Rounded(const Plane& plane) {
   return picture;
 }
 
+// From the lowest 1/64 of its cosines, which a clipped image shows.
+void ShowLowCosines(Demo& demo, const Plane& image) {
+  const QvpiSize size = image.size();
+  int specBytes, initBytes, bufferBytes;
+  Require(qvpiDCTGetSize_32f(size, 2, 0, &specBytes, &initBytes, &bufferBytes));
+  std::vector<Qvp8u> record(specBytes), buffer(bufferBytes);
+  auto* const spec = reinterpret_cast<QvpiDCTSpec_32f*>(record.data());
+  Require(qvpiDCTInit_32f(size, 2, 0, spec, nullptr));
+  Plane cosines(size), low(size);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiDCTFwd_32f_C1R, image.data(), image.step(), cosines.data(), cosines.step(), spec, buffer.data()));
+  Require(qvpiSet_32f_C1R(0, low.data(), low.step(), size));
+  const QvpiSize kept{(size.width + 7) / 8, (size.height + 7) / 8};
+  Require(qvpiCopy_32f_C1R(cosines.data(), cosines.step(), low.data(), low.step(), kept));
+  demo.Time(size, 4 + 4,
+            CALL(qvpiDCTInv_32f_C1R, low.data(), low.step(), cosines.data(), cosines.step(), spec, buffer.data()));
+  demo.Show("From the lowest 1/64 of its cosines", Rounded(cosines));
+}
+
 // By blocks whose coefficients are kept as multiples of a step that grows with the frequency.
 void ShowBlocks(Demo& demo, const Grey& picture, int strength) {
   const QvpiSize size = picture.size();
@@ -124,6 +143,7 @@ void FourierSteps(Demo& demo) {
   Require(qvpiDFTInv_PackToR_32f_C1R(passed.data(), passed.step(), back.data(), back.step(), transform.spec(),
                                      transform.buffer()));
   demo.Show("Without its high frequencies", Rounded(back));
+  ShowLowCosines(demo, green);
   for (const int strength : {4, 16, 48}) ShowBlocks(demo, Rounded(green), strength);
 }
 

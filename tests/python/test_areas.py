@@ -209,6 +209,17 @@ def test_windows(kind, weights):
     numpy.testing.assert_allclose(qvpi.window((40, 51), kind, periodic=True), longer, atol=2e-7)
 
 
+@given(st.sampled_from(["ortho", "backward", "forward", "none"]), st.tuples(st.integers(1, 40), st.integers(1, 40)))
+def test_cosine_transforms(norm, shape):
+    a = random((*shape, 3), "f4", 8) % 1
+    transformed = qvpi.dct2(a, norm=norm)
+    exact = scipy.fft.dctn(a.astype(float), 2, axes=(0, 1), norm="ortho" if norm == "ortho" else None)
+    factor = {"ortho": 1, "backward": 0.25, "none": 0.25, "forward": 0.25 / (shape[0] * shape[1])}[norm]
+    numpy.testing.assert_allclose(transformed, exact * factor, atol=4e-6 * abs(exact * factor).max())
+    back = qvpi.idct2(transformed, norm=norm) / (shape[0] * shape[1] if norm == "none" else 1)
+    numpy.testing.assert_allclose(back, a, atol=1e-5)
+
+
 def test_cosine_transforms_of_blocks():
     a = random((41, 50), "u1", 6)
     padded = numpy.pad(a, ((0, 7), (0, 6)), "edge").astype(float) - 128

@@ -30,6 +30,7 @@ constexpr struct {
     {"qvpiCopyWrapBorder", CopyBorderLesson},
     {"qvpiCountInRange", ThresholdLesson},
     {"qvpiCplxExtendToPack", FourierLesson},
+    {"qvpiDCT", FourierLesson},
     {"qvpiDCTBlocks", DctBlocksLesson},
     {"qvpiDFT", FourierLesson},
     {"qvpiDecimate420", FrameLesson},

@@ -1,4 +1,4 @@
-// Parameters of the Fourier transforms and of packed spectra.
+// Parameters of the Fourier and cosine transforms, of packed spectra and windows.
 #include "tests/support/lessons.h"
 
 namespace test {
@@ -29,8 +29,10 @@ Sizes SizesFor(const Scene& scene) {
   if (scene.Has("FFT")) {
     (scene.Has("32fc") ? qvpiFFTGetSize_C_32fc : qvpiFFTGetSize_R_32f)(x, y, flag, 0, &s.spec, &s.init, &s.buffer);
   } else {
-    (scene.Has("32fc") ? qvpiDFTGetSize_C_32fc : qvpiDFTGetSize_R_32f)(scene.roi(), flag, 0, &s.spec, &s.init,
-                                                                       &s.buffer);
+    const auto query = scene.Has("DCT")    ? qvpiDCTGetSize_32f
+                       : scene.Has("32fc") ? qvpiDFTGetSize_C_32fc
+                                           : qvpiDFTGetSize_R_32f;
+    query(scene.roi(), flag, 0, &s.spec, &s.init, &s.buffer);
   }
   return s;
 }
@@ -42,6 +44,8 @@ const void* SpecFor(Scene& scene) {
     qvpiFFTInit_C_32fc(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
   } else if (scene.Has("FFT")) {
     qvpiFFTInit_R_32f(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_R_32f*>(spec), nullptr);
+  } else if (scene.Has("DCT")) {
+    qvpiDCTInit_32f(scene.roi(), flag, 0, reinterpret_cast<QvpiDCTSpec_32f*>(spec), nullptr);
   } else if (scene.Has("32fc")) {
     qvpiDFTInit_C_32fc(scene.roi(), flag, 0, reinterpret_cast<QvpiDFTSpec_C_32fc*>(spec), nullptr);
   } else {
