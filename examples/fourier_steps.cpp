@@ -78,7 +78,7 @@ Grey Rounded(const Plane& plane) {
   return picture;
 }
 
-// From the lowest 1/64 of its cosines, which a clipped image shows.
+// From the lowest eighth of its cosines on either axis.
 void ShowLowCosines(Demo& demo, const Plane& image) {
   const QvpiSize size = image.size();
   int specBytes, initBytes, bufferBytes;
