@@ -148,6 +148,10 @@ class Operation:
             self.calls[wanted] = self._entry(matches[0]) if matches else None
         return self.calls[wanted]
 
+    def name_for(self, source_key):
+        """The exported name of the function for the source's dtype and channels whose destination has the same."""
+        return self.names[source_key, *divmod(source_key, 100)][0]
+
     def _entry(self, match):
         name, layout = self.names[match]
         count = 1 if self.name.startswith("Compare") else match[2]

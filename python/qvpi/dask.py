@@ -1,4 +1,4 @@
-"""Images larger than memory: filters, resizing and statistics over dask arrays, chunk by chunk.
+"""Images larger than memory: filters, resizing, warps and statistics over dask arrays, chunk by chunk.
 
 Arrays have the shape (H, W) or (H, W, C). Results are the same to the bit as those of the whole image, but for sums of
 floats, which are added in another order. Everything is lazy, as in dask itself.
@@ -10,9 +10,10 @@ import dask.array
 import numpy
 from dask.array import overlap
 
-from . import _neighbourhood, resizing, statistics
+from . import _neighbourhood, resizing, statistics, warps
 
-__all__ = ["apply", "filter", "histogram", "mean", "min_max", "norm", "resize", "sum"]
+__all__ = ["apply", "filter", "histogram", "mean", "min_max", "norm", "resize", "sum", "warp_affine",
+           "warp_perspective"]
 
 
 def _image(a):
@@ -65,42 +66,61 @@ def _filter_chunk(kind, parameters, border, value, depth, chunk, block_info=None
     return made(numpy.ascontiguousarray(chunk), tile=(*before, *size), border=border, value=value)
 
 
-# ---- resizing
+# ---- resizing and warps
 
-def resize(a, shape, *, chunks=1024, **options):
+def resize(a, shape, *, chunks=1024, method="linear", antialias=False, **options):
     """The image in another shape, (H, W), in chunks of this size; see qvpi.Resizer for the options.
 
     Each chunk of the result is made from the part of the source that it needs.
     """
     a = _image(a)
-    made = resizing._resizer(a.shape, tuple(shape), a.dtype, *_resizer_arguments(options))
-    edges = dask.array.core.normalize_chunks(chunks, tuple(shape), dtype=a.dtype)
+    make = partial(resizing._resizer, a.shape, tuple(shape), a.dtype, method, antialias, tuple(options.items()))
+    return _mapped(a, make, chunks)
+
+
+def warp_affine(a, matrix, shape=None, *, chunks=1024, method="linear", **options):
+    """The image moved by a (2, 3) matrix, in chunks of this size; see qvpi.Warp for the options.
+
+    Each chunk of the result is made from the part of the source that it needs: where the matrix turns or shrinks, that
+    is larger than the chunk.
+    """
+    return _warped(a, matrix, (2, 3), shape, chunks, method, options)
+
+
+def warp_perspective(a, matrix, shape=None, *, chunks=1024, method="linear", **options):
+    """The image moved by a (3, 3) matrix, in chunks of this size; see warp_affine."""
+    return _warped(a, matrix, (3, 3), shape, chunks, method, options)
+
+
+def _warped(a, matrix, matrix_shape, shape, chunks, method, options):
+    a = _image(a)
+    return _mapped(a, warps._maker(a.shape, a.dtype, matrix, matrix_shape, shape, method, options), chunks)
+
+
+def _mapped(a, make, chunks):
+    """The destination of what make() makes, in chunks."""
+    made = make()
+    edges = dask.array.core.normalize_chunks(chunks, made.dst_shape[:2], dtype=a.dtype)
     rows, top = [], 0
     for height in edges[0]:
         row, left = [], 0
         for width in edges[1]:
-            row.append(_resized_tile(a, made, (top, left, height, width), options))
+            row.append(_mapped_tile(a, made, make, (top, left, height, width)))
             left += width
         rows.append(dask.array.concatenate(row, axis=1))
         top += height
     return dask.array.concatenate(rows, axis=0)
 
 
-def _resizer_arguments(options):
-    rest = {name: value for name, value in options.items() if name not in ("method", "antialias")}
-    return options.get("method", "linear"), options.get("antialias", False), tuple(rest.items())
-
-
-def _resized_tile(a, made, tile, options):
+def _mapped_tile(a, made, make, tile):
     row, column, height, width = made.source(tile)
     part = a[row:row + height, column:column + width]
-    task = dask.delayed(_resize_part)(part, (row, column), tile, a.shape, made.dst_shape[:2], options)
+    task = dask.delayed(_map_part)(part, (row, column), tile, make)
     return dask.array.from_delayed(task, (*tile[2:], *a.shape[2:]), a.dtype)
 
 
-def _resize_part(part, origin, tile, src_shape, dst_shape, options):
-    made = resizing._resizer(src_shape, dst_shape, part.dtype, *_resizer_arguments(options))
-    return made.tile(numpy.ascontiguousarray(part), origin, tile)
+def _map_part(part, origin, tile, make):
+    return make().tile(numpy.ascontiguousarray(part), origin, tile)
 
 
 # ---- statistics

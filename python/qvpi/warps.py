@@ -4,16 +4,19 @@ Images have the shape (H, W), or (H, W, C) with 3 or 4 channels. Positions are (
 pixels lie at whole coordinates; sizes are shapes, (H, W). The result is the same to the bit by tiles, on any number of
 threads, and as a whole.
 """
+from functools import partial
+
 import numpy
 
 from . import _threads
 from ._call import key
+from ._errors import Error
 from ._mapped import INTERPOLATIONS, Mapped
-from ._operation import Operation, forgiving, image, refuse_overlap
+from ._operation import Operation, checked_tile, forgiving, image, refuse_overlap
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
-from .raw import lib
+from .raw import ffi, lib
 
 __all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotate",
            "rotation", "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
@@ -61,7 +64,9 @@ class Warp(Mapped):
             raise ValueError(f"method must be one of {', '.join(map(repr, _WARP_METHODS))}, not {method!r}")
         outside, direction = choice(_OUTSIDE, border, "border"), int(bool(inverse))
         back = "Back" if inverse and kind == "Bilinear" else ""
-        self._call = self.find(_WARPS.get((kind, method)) or _ANY_METHOD[kind + back])
+        operation = _WARPS.get((kind, method)) or _ANY_METHOD[kind + back]
+        self._call = self.find(operation)
+        self._name = operation.name_for(self._key)
         self._keeps = border == "transparent" or smooth or kind == "BilinearQuad"
         given = tuple(matrix) if kind == "BilinearQuad" else (matrix, direction)
         sizes = size_of(_WARP_SIZE[kind], self.src, self.dst, self.kind, *given, INTERPOLATIONS[method], outside,
@@ -72,6 +77,48 @@ class Warp(Mapped):
         _WARP_INIT[kind, method](self.src, self.dst, self.kind, *given, self.channels, outside, values,
                                  int(bool(smooth)), self._spec, *cubic)
         self._buffers = Buffers(size_of(_WARP_BUFFER, self._spec, self.dst))
+        self._to_source = _back(matrix, inverse) if kind in ("Affine", "Perspective") else None
+
+    def source(self, tile):
+        """(row, column, height, width) of what a tile of the destination is made from, of an affine warp or a
+        perspective: a part of the source, around where the corners of the tile come from.
+        """
+        if self._to_source is None:
+            raise TypeError("only for matrices of shape (2, 3) and (3, 3)")
+        row, column, height, width = checked_tile(tile, self.dst_shape)
+        right = column + width + _VECTOR  # kernels place points by whole vectors
+        corners = numpy.array([(x, y, 1.0) for x in (column, right) for y in (row, row + height)])
+        points = corners @ self._to_source.T
+        if points[:, 2].min() <= 0 <= points[:, 2].max():
+            return (0, 0, *self.src_shape[:2])  # a line of the tile comes from infinity
+        places = (points[:, :2] / points[:, 2:])[:, ::-1]
+        limits = numpy.array(self.src_shape[:2])
+        first = numpy.clip(numpy.floor(places.min(0)) - _REACH, 0, limits - 1).astype(int)
+        end = numpy.clip(numpy.ceil(places.max(0)) + _REACH, first + 1, limits).astype(int)
+        return (*first.tolist(), *(end - first).tolist())
+
+    def tile(self, part, origin, tile):
+        """A tile of the destination from the part of the source that source(tile) tells, whose place is `origin`."""
+        row, column, height, width = checked_tile(tile, self.dst_shape)
+        part, needed = numpy.ascontiguousarray(image(part)), self.source(tile)
+        if (part.shape[0] < needed[0] + needed[2] - origin[0] or part.shape[1] < needed[1] + needed[3] - origin[1]
+                or needed[0] < origin[0] or needed[1] < origin[1]):
+            raise ValueError(f"the tile needs the part {needed} of the source")
+        out = self.new((height, width, *self.src_shape[2:]))
+        self._run_on_part(part, origin, out, (column, row))
+        return out
+
+    def _run_on_part(self, part, origin, out, place):
+        """As _run, with the address where the whole source would begin if there were more of it than the part."""
+        row, pixel = part.strides[:2]
+        begin = part.ctypes.data - origin[0] * row - origin[1] * pixel
+        buffer = self._buffers.take()
+        src, dst, spec, work = (ffi.cast("void*", address) for address in
+                                (begin, out.ctypes.data, self._spec.ctypes.data, buffer.ctypes.data))
+        status = getattr(lib, self._name)(src, row, dst, out.strides[0], place, out.shape[1::-1], spec, work)
+        self._buffers.give(buffer)
+        if status < 0:
+            raise Error(status, self._name)
 
     def new(self, shape):
         return numpy.zeros(shape, self.dtype) if self._keeps else numpy.empty(shape, self.dtype)
@@ -82,20 +129,35 @@ class Warp(Mapped):
         self._buffers.give(buffer)
 
 
+# Pixels that taps and loads of whole words may take around a point, and points that a kernel may place at once.
+_REACH, _VECTOR = 8, 64
+
+
+def _back(matrix, inverse):
+    """The (3, 3) matrix from destination to source points."""
+    square = matrix if matrix.shape == (3, 3) else numpy.vstack([matrix, (0, 0, 1)])
+    return square if inverse else numpy.linalg.inv(square)
+
+
 @cached
 def _warp(shape, dtype, matrix, matrix_shape, dst_shape, method, options):
     return Warp(shape, dtype, numpy.frombuffer(matrix).reshape(matrix_shape), dst_shape, method, **dict(options))
 
 
-def _warped(a, matrix, matrix_shape, dst_shape, method, out, threads, copy, options):
-    a = image(a)
+def _maker(shape, dtype, matrix, matrix_shape, dst_shape, method, options):
+    """Makes a Warp, or takes the one that was made for the same arguments."""
     matrix = numpy.ascontiguousarray(matrix, numpy.float64)
     if matrix.shape != matrix_shape:
         raise ValueError(f"the matrix must have the shape {matrix_shape}")
     values = {name: tuple(value) if isinstance(value, (list, numpy.ndarray)) else value
               for name, value in options.items()}
-    made = _warp(a.shape, a.dtype, matrix.tobytes(), matrix_shape, dst_shape and tuple(dst_shape), method,
-                 tuple(values.items()))
+    return partial(_warp, shape, dtype, matrix.tobytes(), matrix_shape, dst_shape and tuple(dst_shape), method,
+                   tuple(values.items()))
+
+
+def _warped(a, matrix, matrix_shape, dst_shape, method, out, threads, copy, options):
+    a = image(a)
+    made = _maker(a.shape, a.dtype, matrix, matrix_shape, dst_shape, method, options)()
     return made(a, out, threads=threads, copy=copy)
 
 

@@ -34,6 +34,26 @@ def test_areas(chunks, rest):
                 numpy.testing.assert_array_equal(resized.compute(), whole)
 
 
+def test_warps():
+    a = random((120, 150, 3), "u1", 1)
+    lazy = dask.from_array(a, chunks=(50, 60, 3))
+    tilted = qvpi.perspective_transform([(0, 0), (149, 0), (149, 119), (0, 119)],
+                                        [(20, 5), (140, -10), (160, 130), (5, 100)])
+    for method in ("nearest", "linear", "cubic"):
+        for border in ("constant", "replicate"):
+            options = {"method": method, "border": border, "chunks": 37}
+            for matrix in (qvpi.rotation(30, (70, 60), 0.8), [[1, 0, 7], [0, 1, -3]], [[0.3, 0, 0], [0, 3, -90]]):
+                warped = chunked.warp_affine(lazy, matrix, (101, 170), value=7, **options)
+                whole = qvpi.warp_affine(a, matrix, (101, 170), method=method, border=border, value=7)
+                numpy.testing.assert_array_equal(warped.compute(), whole)
+            warped = chunked.warp_perspective(lazy, tilted, **options)
+            numpy.testing.assert_array_equal(warped.compute(),
+                                             qvpi.warp_perspective(a, tilted, method=method, border=border))
+    grey = random((300, 280), "f4", 2)
+    warped = chunked.warp_affine(dask.from_array(grey, chunks=100), qvpi.rotation(-100, (140, 150)), chunks=64)
+    numpy.testing.assert_array_equal(warped.compute(), qvpi.warp_affine(grey, qvpi.rotation(-100, (140, 150))))
+
+
 def test_pixels_and_statistics():
     a, b = random((60, 70, 3), "u2", 1), random((60, 70, 3), "u2", 2)
     x, y = (dask.from_array(image, chunks=(23, 31, 3)) for image in (a, b))
