@@ -2,6 +2,7 @@
 #pragma once
 
 #include "geometry/resize_area_parts.h"
+#include "geometry/resize_split.h"
 
 namespace qvp::resize {
 
@@ -13,6 +14,17 @@ inline bool IsNear(const ResizeRecord& record) {
   return !record.IsShifted() && std::max(record.columns.taps, record.rows.taps) <= kMostNear;
 }
 
+// Two channels, one after the other.
+template <class Columns>
+bool AveragePairs(const Columns& columns, const typename Columns::Sum* sums, typename Columns::Mean* means) {
+  typename Columns::Sum planes[2][kStripFloats / 2];
+  typename Columns::Mean halves[2][Columns::kMost];
+  SplitPairs(sums, columns.pixels() + Columns::kBehind, planes[0], planes[1]);
+  const bool areFinite[] = {columns.Average(planes[0], 1, halves[0]), columns.Average(planes[1], 1, halves[1])};
+  JoinPairs(halves[0], halves[1], columns.columns(), means);
+  return areFinite[0] && areFinite[1];
+}
+
 // The averages of a row of a strip to dst. False where not all are finite.
 template <class Columns, class T>
 bool AverageRowOf(const Columns& columns, const typename Columns::Sum* sums, int channels, T* dst) {
@@ -21,7 +33,7 @@ bool AverageRowOf(const Columns& columns, const typename Columns::Sum* sums, int
     return columns.Average(sums, channels, dst);
   } else {
     Mean means[4 * Columns::kMost];
-    const bool areFinite = columns.Average(sums, channels, means);
+    const bool areFinite = channels == 2 ? AveragePairs(columns, sums, means) : columns.Average(sums, channels, means);
     MapRow<false>(
         hn::ScalableTag<Mean>(), dst, columns.columns() * channels, [](auto v) { return v; },
         static_cast<const Mean*>(means));

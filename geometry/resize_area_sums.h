@@ -122,6 +122,7 @@ void AverageRow(const ResizeCall<T>& call, const ResizeAxis& rows, const Tile& t
 template <class S, class T>
 auto AverageRowFor(Layout layout) {
   if (layout == Layout::kC1) return AverageRow<S, 1, T>;
+  if (layout == Layout::kC2) return AverageRow<S, 2, T>;
   return layout == Layout::kC3 ? AverageRow<S, 3, T> : AverageRow<S, 4, T>;
 }
 

@@ -37,11 +37,11 @@ class AreaColumns {
         pairs_((record.columns.taps + 1) / 2),
         scale_(static_cast<float>(1.0 / (record.columns.p * record.rows.p))) {
     FillWeights(record.columns);
-    channels_ == 1 ? PlanSingles() : PlanPixels();
+    channels_ <= 2 ? PlanSamples() : PlanPixels();
   }
 
   // The fewest columns that there are vectors for.
-  static ptrdiff_t Fewest(int channels) { return channels == 1 ? 2 * kLanes : kPixels; }
+  static ptrdiff_t Fewest(int channels) { return channels <= 2 ? 2 * kLanes / channels : kPixels; }
   // Source pixels of the tile, and samples of a row of sums with what vectors touch behind them.
   ptrdiff_t Pixels() const { return static_cast<ptrdiff_t>((int64_t{begin_ + columns_} * p_ + q_ - 1) / q_) - origin_; }
   int64_t RowSamples() const { return (int64_t{Pixels()} + 2 * pairs_ + 1) * channels_ + kBlockBytes; }
@@ -80,25 +80,29 @@ class AreaColumns {
     return {at % q_, (at / q_ * p_ - origin_) * channels_ * ptrdiff_t{sizeof(uint16_t)}};
   }
 
-  // The parts of two successive pixels in one number.
+  // The parts of two successive pixels in one number; of two channels for each.
   void FillWeights(const ResizeAxis& axis) {
+    const ptrdiff_t each = channels_ == 2 ? 2 : 1;
     for (ptrdiff_t k = 0; k < pairs_; ++k) {
       for (ptrdiff_t j = 0; j < q_ + 2 * kLanes; ++j) {
         const int64_t second = 2 * k + 1 < axis.taps ? Overlap(axis, j, 2 * k + 1) : 0;
-        weights_[k * kPlaces + j] = static_cast<int32_t>(Overlap(axis, j, 2 * k) | second << 16);
+        const auto parts = static_cast<int32_t>(Overlap(axis, j, 2 * k) | second << 16);
+        std::fill_n(weights_ + (k * kPlaces + j) * each, each, parts);
       }
     }
   }
 
-  // One channel: the shuffles of a vector of columns, for each place of its first one.
-  void PlanSingles() {
-    const GatherShape shape{4, 1, sizeof(uint16_t), 1, sizeof(uint16_t)};
+  // One or two channels: the shuffles of a vector of samples, for each place of its first one.
+  void PlanSamples() {
+    constexpr int kBytes = sizeof(uint16_t);
+    const auto channels = static_cast<int>(channels_);
+    const GatherShape shape{4, channels, channels * kBytes, 1, kBytes};
     loads_ = LoadsFor(shape, p_, q_);
     for (ptrdiff_t j = 0; j < q_; ++j) {
-      Gather(
-          shape, loads_, kLanes, INT32_MAX,
-          [this, j](ptrdiff_t s) { return (j + s) * p_ / q_ * ptrdiff_t{sizeof(uint16_t)}; }, masks_ + j * kGatherBytes,
-          offsets_ + j * loads_ * kGatherBlocks);
+      const auto place = [this, j](ptrdiff_t s) {
+        return ((j + s / channels_) * p_ / q_ * channels_ + s % channels_) * ptrdiff_t{kBytes};
+      };
+      Gather(shape, loads_, kLanes, INT32_MAX, place, masks_ + j * kGatherBytes, offsets_ + j * loads_ * kGatherBlocks);
     }
   }
 
@@ -128,42 +132,46 @@ class AreaColumns {
   void AverageBy(const uint16_t* sums, uint8_t* dst) const {
     if (channels_ == 4) return AveragePixels<kPairs, 4>(sums, dst);
     if (channels_ == 3) return AveragePixels<kPairs, 3>(sums, dst);
-    if (loads_ == 1) return AverageSingles<kPairs, 1>(sums, dst);
-    if (loads_ == 2) return AverageSingles<kPairs, 2>(sums, dst);
-    AverageSingles<kPairs, 4>(sums, dst);
+    channels_ == 2 ? AverageSamples<kPairs, 2>(sums, dst) : AverageSamples<kPairs, 1>(sums, dst);
+  }
+  template <int kPairs, int kChannels>
+  void AverageSamples(const uint16_t* sums, uint8_t* dst) const {
+    if (loads_ == 1) return AverageGathered<kPairs, kChannels, 1>(sums, dst);
+    if (loads_ == 2) return AverageGathered<kPairs, kChannels, 2>(sums, dst);
+    AverageGathered<kPairs, kChannels, 4>(sums, dst);
   }
 
-  template <int kPairs, int kLoads>
-  static HWY_INLINE hn::Vec<Wide> Singles(const Tables& tables, const uint8_t* row, Place place) {
+  template <int kPairs, int kChannels, int kLoads>
+  static HWY_INLINE hn::Vec<Wide> Gathered(const Tables& tables, const uint8_t* row, Place place) {
     const auto shuffle = hn::LoadU(GatherTag(), tables.masks + place.phase * kGatherBytes);
     const int32_t* offsets = tables.offsets + place.phase * kLoads * kGatherBlocks;
     auto sum = hn::Zero(Wide());
     for (ptrdiff_t k = 0; k < (kPairs ? kPairs : tables.pairs); ++k) {
-      const auto samples = GatherVector<kLoads>(row + place.source + 4 * k, offsets, shuffle);
-      const auto w = hn::LoadU(Wide(), tables.weights + k * kPlaces + place.phase);
+      const auto samples = GatherVector<kLoads>(row + place.source + 4 * kChannels * k, offsets, shuffle);
+      const auto w = hn::LoadU(Wide(), tables.weights + (k * kPlaces + place.phase) * kChannels);
       sum = hn::Add(sum, MulAddPairs(hn::BitCast(Words(), samples), hn::BitCast(Words(), w)));
     }
     return tables.Averages(sum);
   }
 
-  template <int kPairs, int kLoads>
-  void AverageSingles(const uint16_t* sums, uint8_t* dst) const {
+  template <int kPairs, int kChannels, int kLoads>
+  void AverageGathered(const uint16_t* sums, uint8_t* dst) const {
     const Tables tables = Locals();
-    const Walk walk = By(kLanes);
+    const Walk walk = By(kLanes / kChannels);
     const auto* row = reinterpret_cast<const uint8_t*>(sums);
     const auto store = [=](Place place, Place next, uint8_t* out) HWY_ATTR {
-      const auto lower = Singles<kPairs, kLoads>(tables, row, place);
-      const auto upper = Singles<kPairs, kLoads>(tables, row, next);
+      const auto lower = Gathered<kPairs, kChannels, kLoads>(tables, row, place);
+      const auto upper = Gathered<kPairs, kChannels, kLoads>(tables, row, next);
       hn::StoreU(Bytes(PackedInOrder<int16_t>(lower, upper)), hn::Rebind<uint8_t, Words>(), out);
     };
-    const ptrdiff_t last = columns_ - 2 * kLanes;
+    const ptrdiff_t last = columns_ * kChannels - 2 * kLanes;
     Place place = PlaceOf(0);
     for (ptrdiff_t x = 0; x < last; x += 2 * kLanes) {
       const Place next = walk.Next(place);
       store(place, next, dst + x);
       place = walk.Next(next);
     }
-    const Place end = PlaceOf(last);
+    const Place end = PlaceOf(last / kChannels);
     store(end, walk.Next(end), dst + last);
   }
 
@@ -229,7 +237,7 @@ class AreaColumns {
   ptrdiff_t p_, q_, begin_, columns_, origin_, channels_, pairs_;
   float scale_;
   int loads_ = 0;
-  int32_t weights_[kMostAreaPairs * kPlaces];
+  int32_t weights_[kMostAreaPairs * kPlaces * 2];
   int32_t offsets_[kMostAreaParts * 4 * kGatherBlocks];
   uint8_t masks_[kMostAreaParts * kGatherBytes];
 };

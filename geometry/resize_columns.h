@@ -33,7 +33,7 @@ struct ColumnPlan {
       while (to - t.from >= 4 && t.first[to - 4] + kPickedFrom > end) --to;
       return;
     }
-    const ptrdiff_t read = nc == 1 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
+    const ptrdiff_t read = nc <= 2 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);
     if (nc == 3) to = std::min(to, t.length - 1);  // four samples are written for three
     while (to > t.from && t.first[to - 1] + read > end) --to;
   }
@@ -108,11 +108,12 @@ void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* 
                     float* out) {
   if (begin >= end) return;
   const bool areMany = plan.taps.count > kBlockTaps;
-  const auto filter = plan.channels == 1 ? areMany ? FilterEach<1, true, T, Weights> : FilterEach<1, false, T, Weights>
-                      : plan.channels == 3
-                          ? areMany ? FilterEach<3, true, T, Weights> : FilterEach<3, false, T, Weights>
-                      : areMany ? FilterEach<4, true, T, Weights>
-                                : FilterEach<4, false, T, Weights>;
+  const auto filter =
+      plan.channels == 1   ? areMany ? FilterEach<1, true, T, Weights> : FilterEach<1, false, T, Weights>
+        : plan.channels == 2 ? areMany ? FilterEach<2, true, T, Weights> : FilterEach<2, false, T, Weights>
+        : plan.channels == 3 ? areMany ? FilterEach<3, true, T, Weights> : FilterEach<3, false, T, Weights>
+        : areMany ? FilterEach<4, true, T, Weights>
+                           : FilterEach<4, false, T, Weights>;
   filter(plan, weights, row, begin, end, out);
 }
 

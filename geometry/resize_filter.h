@@ -3,6 +3,7 @@
 #pragma once
 
 #include "geometry/resize_combine.h"
+#include "geometry/resize_pairs.h"
 #include "geometry/resize_pixels.h"
 #include "geometry/resize_singles.h"
 
@@ -16,6 +17,9 @@ void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std:
     if (plan.arePicked) return PickAcross<kRows>(plan, weights, rows, out);
   }
   if (plan.channels == 1) return FilterSinglesAcross(plan, weights, rows, out);
+  if constexpr (kHasPairs<T>) {
+    if (plan.channels == 2) return FilterPairsAcross(plan, weights, rows, out);
+  }
   using TwoBlocks = hn::CappedTag<float, 8>;
   if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8) {
     return FilterPixelsAcross(TwoBlocks(), plan, weights, rows.data(), out.data());
@@ -23,14 +27,20 @@ void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std:
   for (size_t i = 0; i < kRows; ++i) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
 }
 
+// Whether there are as many columns as FilterVectors takes at least.
+template <class T>
+bool HasVectors(const ColumnPlan<T>& plan) {
+  if (plan.channels > 2) return true;
+  if (plan.channels == 2 && !kHasPairs<T>) return false;
+  return plan.to - plan.taps.from >= ptrdiff_t{hn::MaxLanes(hn::CappedTag<float, 8>())};
+}
+
 // Source rows, across.
 template <size_t kRows, class T, class Weights>
 void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
                   const std::array<float*, kRows>& out) {
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::CappedTag<float, 8>());
-  const Taps& taps = plan.taps;
-  const bool hasVectors = plan.channels != 1 || plan.to - taps.from >= kLanes;
-  const ptrdiff_t done = hasVectors ? plan.to : taps.from;
+  const bool hasVectors = HasVectors(plan);
+  const ptrdiff_t done = hasVectors ? plan.to : plan.taps.from;
   if (hasVectors) FilterVectors(plan, weights, rows, out);
   for (size_t i = 0; i < kRows; ++i) FilterEnds(plan, weights, done, rows[i], out[i]);
 }
@@ -62,7 +72,7 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const auto place = [&](ptrdiff_t p) { return ring.Row(p); };
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
     if constexpr (hn::MaxLanes(hn::CappedTag<float, 8>()) == 8) {
-      const bool byFours = channels > 1 && AreStaged<T>(plan.taps);
+      const bool byFours = channels > 2 && AreStaged<T>(plan.taps);
       for (; byFours && position + 4 <= end; position += 4) {
         const ptrdiff_t p = position;
         FilterFourAcross(plan, across, std::array{source(p), source(p + 1), source(p + 2), source(p + 3)},

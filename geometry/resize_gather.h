@@ -22,10 +22,10 @@ struct GatherShape {
 };
 
 // The most samples that the first taps of some successive outputs can lie apart. From channel c on, output i is of
-// channel (c + i) mod channels of the pixel (c + i) / channels further. Four channels begin with the first one.
+// channel (c + i) mod channels of the pixel (c + i) / channels further. Two and four channels begin with the first one.
 inline int64_t SpanOf(int outputs, int channels, int64_t p, int64_t q) {
   int64_t span = channels - 1;
-  for (int c = 0; c < (channels == 4 ? 1 : channels); ++c) {
+  for (int c = 0; c < (channels % 2 == 0 ? 1 : channels); ++c) {
     for (int end = c + std::max(0, outputs - channels); end < c + outputs; ++end) {
       const int pixels = end / channels;
       span = std::max(span, (pixels * p + q - 1) / q * channels + end % channels - c);

@@ -5,6 +5,7 @@
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_fixed.h"
+#include "geometry/resize_passes.h"
 
 namespace qvp::resize {
 namespace {
@@ -42,6 +43,7 @@ class LinearColumns : public FixedColumns {
     doubled_ = reinterpret_cast<int16_t*>(room);
     auto* offsets = reinterpret_cast<int32_t*>(room + 2 * bytes);
     if (nc == 1) Plan<1>(shape, loads, room + bytes, offsets);
+    if (nc == 2) Plan<2>(shape, loads, room + bytes, offsets);
     if (nc == 3) Plan<3>(shape, loads, room + bytes, offsets);
     if (nc == 4) Plan<4>(shape, loads, room + bytes, offsets);
   }
@@ -252,8 +254,10 @@ bool IsSameSize(const ResizeRecord& record) {
   return record.columns.p == record.columns.q && record.rows.p == record.rows.q;
 }
 
+}  // namespace
+
 template <class T>
-void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+void LinearTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if (IsSameSize(record)) return CopyTile(call, tile);
   if constexpr (sizeof(T) == sizeof(double))
     return ResizeDouble(call, record, tile);
@@ -264,6 +268,11 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
     ResizeFloat(call, record, tile);
   }
 }
+
+template void LinearTile(const ResizeCall<uint8_t>&, const ResizeRecord&, const Tile&);
+template void LinearTile(const ResizeCall<uint16_t>&, const ResizeRecord&, const Tile&);
+
+namespace {
 
 // The `_L` form knows replication only.
 bool IsBorder(QvpiBorderType border, ResizeForm form) {
@@ -276,7 +285,7 @@ QvpStatus Linear(ResizeCall<T> call, QvpiBorderType border) {
   if (KindOf(border) == BorderKind::kReplicateAlt) border = (border & ~0xF) | qvpBorderReplicate;
   if (!IsBorder(border, call.form)) return qvpStatusBorder;
   call.border = border;
-  return RunResize(call, {qvpInterpolationLinear, false, false, sizeof(T) != sizeof(double)}, ResizeTile<T>);
+  return RunResize(call, {qvpInterpolationLinear, false, false, sizeof(T) != sizeof(double)}, LinearTile<T>);
 }
 
 }  // namespace

@@ -42,20 +42,13 @@ constexpr int64_t FloorOfQuotient(int64_t a, int64_t b) { return a / b - (a % b 
 
 struct ResizeAxis {
   int32_t source, destination;  // lengths
-  int32_t p, q;                 // source : destination in lowest terms
+  int32_t p, q;                 // the ratio in lowest terms: source : destination, for chroma that of the luma
   uint32_t indexAt, indexAtHigh;
   int32_t taps;  // for each destination position
   uint32_t weightsAt, weightsAtHigh;
   int32_t leading, trailing;  // positions whose taps reach over the first or the last pixel
   int32_t certainTaps;        // taps from this one on have weight 0 at some positions, and are not read there
 
-  // Centres of pixels fall on each other: where destination position d lies in the source.
-  double Coordinate(ptrdiff_t d) const { return (static_cast<double>(d) + 0.5) * p / q - 0.5; }
-  // How far destination position d lies behind source position i: rounded once, wherever on the axis that is.
-  double Distance(ptrdiff_t d, ptrdiff_t i) const {
-    const int64_t of2q = (2 * static_cast<int64_t>(d) + 1) * p - (2 * static_cast<int64_t>(i) + 1) * q;
-    return static_cast<double>(of2q) / static_cast<double>(2 * static_cast<int64_t>(q));
-  }
   // The source position at the same fraction of the axis.
   ptrdiff_t Offset(ptrdiff_t d) const { return static_cast<ptrdiff_t>(static_cast<int64_t>(d) * p / q); }
   // The nearest source position; of two equally near ones the lower.
@@ -79,15 +72,32 @@ struct ResizeRecord {
   float b, c;  // of the cubic
   uint32_t reserved;
   uint32_t lobes;
-  uint32_t shift[4];  // two doubles: x and y
-  uint32_t spare;
+  uint32_t shift[4];     // two doubles: x and y
+  uint8_t isCosited[2];  // columns, rows: not 0 where chroma lies on luma samples
+  uint8_t isClipped;     // not 0 where the area of the last position reaches over the edge
+  uint8_t spare;
+
+  // Position 0 of source and of destination lies 1 / Parts pixels behind the beginning: in the middle of its pixel, or
+  // for chroma that lies on every other luma sample, in the middle of that.
+  int Parts(const ResizeAxis& axis) const { return isCosited[&axis == &columns ? 0 : 1] ? 4 : 2; }
+  // Where destination position d lies in the source.
+  double Coordinate(const ResizeAxis& axis, ptrdiff_t d) const {
+    const double origin = 1.0 / Parts(axis);
+    return (static_cast<double>(d) + origin) * axis.p / axis.q - origin;
+  }
+  // How far destination position d lies behind source position i: rounded once, wherever on the axis that is.
+  double Distance(const ResizeAxis& axis, ptrdiff_t d, ptrdiff_t i) const {
+    const int64_t parts = Parts(axis), unit = parts * axis.q;
+    const int64_t units = (parts * d + 1) * axis.p - (parts * i + 1) * axis.q;
+    return static_cast<double>(units) / static_cast<double>(unit);
+  }
 
   double Shift(int axis) const {
     double value;
     std::memcpy(&value, shift + 2 * axis, sizeof(value));
     return value;
   }
-  bool IsShifted() const { return Shift(0) != 0 || Shift(1) != 0; }
+  bool IsShifted() const { return isClipped || Shift(0) != 0 || Shift(1) != 0; }
 
   const int32_t* Index(const ResizeAxis& axis) const { return At<int32_t>(axis.indexAt, axis.indexAtHigh); }
   template <class W>

@@ -1,21 +1,16 @@
 // Resize: sizes of the record and of the work buffer, and which source pixels a tile reads.
+#include "geometry/resize_sizes.h"
+
 #include <algorithm>
 #include <numeric>
 #include <type_traits>
 
 #include "base/export.h"
-#include "geometry/resize_record.h"
 
 namespace qvp::resize {
 namespace {
 
-constexpr int64_t kSpare = 64, kLimit = 0x7FFFFFFF, kWideLengthLimit = 0x2000000;
-
-template <class Out>
-QvpStatus StoreSize(ByteCount bytes, Out* out) {
-  if (sizeof(Out) == sizeof(int32_t) && bytes.value() >= kLimit) bytes = ByteCount(INT64_MAX);
-  return bytes.StoreTo(out);
-}
+constexpr int64_t kSpare = 64, kWideLengthLimit = 0x2000000;
 
 bool IsAnyZero(Size a, Size b) { return a.width == 0 || a.height == 0 || b.width == 0 || b.height == 0; }
 ptrdiff_t Shortest(Size a, Size b) { return std::min(std::min(a.width, a.height), std::min(b.width, b.height)); }
@@ -57,24 +52,47 @@ ByteCount TapTables(QvpiInterpolationType interpolation, bool isAntialiasing, in
   return ByteCount(4) * (1 + (isAntialiasing ? 3 : 1) * taps) * PlaneOf(destination);
 }
 
-ByteCount SuperTables(ptrdiff_t source, ptrdiff_t destination) {
+ByteCount AreaTables(ptrdiff_t source, ptrdiff_t destination) {
   const ptrdiff_t g = std::gcd(source, destination);
-  const TableBytes bytes = resize::SuperTables(source / g, destination / g);
+  const TableBytes bytes = SuperTables(source / g, destination / g);
   return bytes.index + bytes.weights;
 }
 
-// The tables of both axes, the header and what the alignment of tables and record takes.
+}  // namespace
+
 ByteCount RecordBytes(QvpDataType type, QvpiInterpolationType interpolation, bool isAntialiasing, Size src, Size dst) {
   const ByteCount positions = ByteCount(PlaneOf(dst.width)) + PlaneOf(dst.height);
   if (interpolation == qvpInterpolationNearest) return ByteCount(4) * positions + 260 + kSpare;
   if (interpolation == qvpInterpolationSuper) {
-    return SuperTables(src.width, dst.width) + SuperTables(src.height, dst.height) + 256 + 68;
+    return AreaTables(src.width, dst.width) + AreaTables(src.height, dst.height) + 256 + 68;
   }
   if (type == qvp64f) return ByteCount(12) * positions + 256 + kSpare;
   if (interpolation == qvpInterpolationLinear && !isAntialiasing) return ByteCount(8) * positions + 260 + kSpare;
   return TapTables(interpolation, isAntialiasing, src.width, dst.width) +
          TapTables(interpolation, isAntialiasing, src.height, dst.height) + 260 + kSpare;
 }
+
+ByteCount WorkBytes(const ResizeRecord& record, int64_t width, int64_t height, int channels) {
+  const auto rounded = [](ByteCount n) { return n.RoundedTo(kTableAlignment); };
+  const int64_t rows = record.interpolation == qvpInterpolationNearest ? 0
+                       : record.interpolation == qvpInterpolationSuper ? 2
+                                                                       : 2 * int64_t{record.tapPairsDown};
+  return rounded(ByteCount(4) * height) + rounded(ByteCount(4) * width) +
+         ByteCount(rows) * rounded(ByteCount(4) * channels * width) + kSpare;
+}
+
+ptrdiff_t SourceEnd(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t end) {
+  if (record.interpolation == qvpInterpolationSuper) {
+    const double shift = record.Shift(&axis == &record.columns ? 0 : 1);
+    if (shift != 0) return EndOf(CoveredBy(axis, static_cast<double>(end - 1), 1, shift));
+    return static_cast<ptrdiff_t>((static_cast<int64_t>(end) * axis.p + axis.q - 1) / axis.q);
+  }
+  if (end == axis.destination) return axis.source;
+  const bool isNearest = record.interpolation == qvpInterpolationNearest;
+  return 1 + (isNearest ? axis.Nearest(end - 1) : FloorOf(record.Coordinate(axis, end - 1)));
+}
+
+namespace {
 
 template <class Out>
 QvpStatus GetSize(Size src, Size dst, QvpDataType type, QvpiInterpolationType interpolation, bool isAntialiasing,
@@ -91,15 +109,6 @@ QvpStatus GetSize(Size src, Size dst, QvpDataType type, QvpiInterpolationType in
   const QvpStatus failed = StoreSize(bytes, recordSize);
   *initSize = failed ? 0 : kSpare;
   return failed ? failed : isAntialiasing && isIgnored ? qvpStatusAntialiasIgnored : qvpStatusNoError;
-}
-
-ByteCount WorkBytes(const ResizeRecord& record, int64_t width, int64_t height, int channels) {
-  const auto rounded = [](ByteCount n) { return n.RoundedTo(kTableAlignment); };
-  const int64_t rows = record.interpolation == qvpInterpolationNearest ? 0
-                       : record.interpolation == qvpInterpolationSuper ? 2
-                                                                       : 2 * int64_t{record.tapPairsDown};
-  return rounded(ByteCount(4) * height) + rounded(ByteCount(4) * width) +
-         ByteCount(rows) * rounded(ByteCount(4) * channels * width) + kSpare;
 }
 
 template <class Out>
@@ -140,18 +149,6 @@ QvpStatus GetSrcOffset(const QvpiResizeSpec* spec, Point offset, OutPoint* srcOf
   if (!IsInside(*record, offset)) return qvpStatusOutOfRange;
   Store(SourceOffset(*record, offset), srcOffset);
   return qvpStatusNoError;
-}
-
-// The source position behind the last one that a tile's last destination position belongs to.
-ptrdiff_t SourceEnd(const ResizeRecord& record, const ResizeAxis& axis, ptrdiff_t end) {
-  if (record.interpolation == qvpInterpolationSuper) {
-    const double shift = record.Shift(&axis == &record.columns ? 0 : 1);
-    if (shift != 0) return EndOf(CoveredBy(axis, static_cast<double>(end - 1), 1, shift));
-    return static_cast<ptrdiff_t>((static_cast<int64_t>(end) * axis.p + axis.q - 1) / axis.q);
-  }
-  if (end == axis.destination) return axis.source;
-  const bool isNearest = record.interpolation == qvpInterpolationNearest;
-  return 1 + (isNearest ? axis.Nearest(end - 1) : FloorOf(axis.Coordinate(end - 1)));
 }
 
 template <class OutPoint, class OutSize>

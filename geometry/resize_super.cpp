@@ -7,6 +7,7 @@
 #include "geometry/resize_area_strips.h"
 #include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
+#include "geometry/resize_passes.h"
 
 namespace qvp::resize {
 namespace {
@@ -103,6 +104,27 @@ void StoreQuotients(const float* sums, int area, T* dst, ptrdiff_t n) {
       d, dst, n, [=](auto v) HWY_ATTR { return hn::Div(v, divisor); }, sums);
 }
 
+// Sums of two channels across, one after the other; the averages of both need as much memory again behind them.
+class PairSums {
+ public:
+  // What taps of weight 0 may read behind the sums is 0.
+  void Clear() { std::memset(planes_, 0, sizeof(planes_)); }
+
+  void Filter(const ColumnPlan<float>& plan, const TapPlanes<float>& weights, const float* sums, ptrdiff_t pixels,
+              float* averages) {
+    const ptrdiff_t n = plan.taps.length;
+    float* const halves[] = {averages + 2 * n, averages + 3 * n};
+    SplitPairs(sums, pixels, planes_[0], planes_[1]);
+    for (int i = 0; i < 2; ++i) {
+      FilterAcross(plan, weights, std::array<const float*, 1>{planes_[i]}, std::array{halves[i]});
+    }
+    JoinPairs(halves[0], halves[1], n, averages);
+  }
+
+ private:
+  float planes_[2][kStripFloats / 2 + 16];
+};
+
 template <class T>
 void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Strip& strip,
                  const Period& across, const Period& down) {
@@ -116,7 +138,9 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   taps.to = strip.columns;
   taps.count = across.taps;
   taps.certain = across.taps;  // the zeros behind the sums need no other care
-  const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels);
+  const ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels == 2 ? 1 : channels);
+  PairSums pairs;
+  if (channels == 2) pairs.Clear();
   const TapPlanes<float> weights{strip.weights, strip.columns};
   const auto area = static_cast<int>(across.p * down.p);
   for (ptrdiff_t y = 0; y < tile.height; ++y) {
@@ -124,7 +148,11 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
     const auto weight = [&](int k) { return down.At(k, tile.y + y); };
     const Image<const T> rows{row, call.src.step, call.src.layout};
     SumDown(d, rows, down.Count(tile.y + y), weight, strip.pixels * channels, sums);
-    FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{averages});
+    if (channels == 2) {
+      pairs.Filter(plan, weights, sums, strip.pixels, averages);
+    } else {
+      FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{averages});
+    }
     StoreQuotients(averages, area, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels);
   }
 }
@@ -212,8 +240,10 @@ bool ResizeStrips(const ResizeCall<T>& call, const ResizeRecord& record, const T
   return true;
 }
 
+}  // namespace
+
 template <class T>
-void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+void AreaTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if constexpr (sizeof(T) == 1) {
     if (IsHalf(record) && call.src.layout == Layout::kC1) return Halve(call, tile);
     if (AreAreasWhole(record) && ResizeWhole(call, record, tile)) return;
@@ -226,9 +256,14 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   AverageAreas(call, record, tile);
 }
 
+template void AreaTile(const ResizeCall<uint8_t>&, const ResizeRecord&, const Tile&);
+template void AreaTile(const ResizeCall<uint16_t>&, const ResizeRecord&, const Tile&);
+
+namespace {
+
 template <class T>
 QvpStatus Super(const ResizeCall<T>& call) {
-  return RunResize(call, {qvpInterpolationSuper, false, true, true}, ResizeTile<T>);
+  return RunResize(call, {qvpInterpolationSuper, false, true, true}, AreaTile<T>);
 }
 
 }  // namespace

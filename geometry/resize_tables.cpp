@@ -5,6 +5,8 @@
 #include <cstring>
 #include <numeric>
 
+#include "geometry/resize_tap_weights.h"
+
 namespace qvp::resize {
 namespace {
 
@@ -31,6 +33,8 @@ class Tables {
     uint32_t low, high;
     return Take<W>(count, &low, &high);
   }
+  // Those of header and tables.
+  int64_t bytes() const { return next_; }
 
  private:
   uint8_t* base_;
@@ -48,11 +52,11 @@ void CountBorders(ResizeAxis& axis, ptrdiff_t first, ptrdiff_t taps) {
   axis.trailing += first + taps > axis.source;
 }
 
-void FillLinearIndex(ResizeAxis& axis, Tables& tables) {
+void FillLinearIndex(const ResizeRecord& record, ResizeAxis& axis, Tables& tables) {
   int32_t* index = tables.TakeIndex(axis, axis.destination);
   axis.taps = axis.certainTaps = 2;
   for (ptrdiff_t d = 0; d < axis.destination; ++d) {
-    const ptrdiff_t first = FloorOf(axis.Coordinate(d));
+    const ptrdiff_t first = FloorOf(record.Coordinate(axis, d));
     index[d] = static_cast<int32_t>(first);
     CountBorders(axis, first, 2);
   }
@@ -64,11 +68,12 @@ int16_t FixedFraction(double x) {
 }
 
 // Rows have the weight of the lower one; columns pairs for the left and the right one.
-void FillFixedWeights(ResizeAxis& axis, bool isPairs, Tables& tables) {
+void FillFixedWeights(const ResizeRecord& record, ResizeAxis& axis, Tables& tables) {
+  const bool isPairs = &axis == &record.columns;
   const ptrdiff_t n = axis.destination;
   auto* w = tables.TakeWeights<int16_t>(axis, isPairs ? 2 * n : n);
   for (ptrdiff_t d = 0; d < n; ++d) {
-    const int16_t second = FixedFraction(axis.Coordinate(d));
+    const int16_t second = FixedFraction(record.Coordinate(axis, d));
     if (isPairs) *w++ = static_cast<int16_t>(kFixedOne - second);
     *w++ = second;
   }
@@ -78,49 +83,26 @@ template <class W>
 void FillFractions(const ResizeRecord& record, ResizeAxis& axis, Tables& tables) {
   const int32_t* first = record.Index(axis);
   auto* w = tables.TakeWeights<W>(axis, axis.destination);
-  for (ptrdiff_t d = 0; d < axis.destination; ++d) w[d] = static_cast<W>(axis.Distance(d, first[d]));
+  for (ptrdiff_t d = 0; d < axis.destination; ++d) w[d] = static_cast<W>(record.Distance(axis, d, first[d]));
 }
 
 void FillLinear(ResizeRecord& record, WeightKind kind, Tables& tables) {
-  FillLinearIndex(record.rows, tables);
-  FillLinearIndex(record.columns, tables);
+  FillLinearIndex(record, record.rows, tables);
+  FillLinearIndex(record, record.columns, tables);
   for (ResizeAxis* axis : {&record.rows, &record.columns}) {
-    if (kind == WeightKind::kFixed) FillFixedWeights(*axis, axis == &record.columns, tables);
+    if (kind == WeightKind::kFixed) FillFixedWeights(record, *axis, tables);
     if (kind == WeightKind::kFloat) FillFractions<float>(record, *axis, tables);
     if (kind == WeightKind::kDouble) FillFractions<double>(record, *axis, tables);
   }
 }
 
-// The taps of position d: the source pixels that are nearer than `reach` pixels, widened by the ratio when
-// antialiasing. In whole units of 1 / (2 q) pixels, so that pixels exactly at the reach, of weight 0, are never taken.
-struct Support {
-  ptrdiff_t first, count;
-
-  Support(const ResizeAxis& axis, const Method& method, ptrdiff_t d) {
-    const int64_t p = axis.p, q = axis.q, centre = (2 * static_cast<int64_t>(d) + 1) * p - q;
-    const int reach = method.Kernel().Reach();
-    if (!method.isAntialiasing) {
-      first = FloorOf(axis.Coordinate(d)) - (reach - 1);
-      count = 2 * reach;
-      return;
-    }
-    const int64_t half = 2 * reach * std::max(p, q);
-    first = static_cast<ptrdiff_t>(FloorOfQuotient(centre - half, 2 * q) + 1);
-    count = static_cast<ptrdiff_t>(-FloorOfQuotient(-centre - half, 2 * q)) - first;
-  }
-};
-
-double ScaleOf(const ResizeAxis& axis, const Method& method) {
-  return method.isAntialiasing && axis.p > axis.q ? static_cast<double>(axis.p) / axis.q : 1.0;
-}
-
 // Most and fewest taps of any position, and the positions that need a border.
-void FillTapIndex(ResizeAxis& axis, const Method& method, Tables& tables) {
+void FillTapIndex(const ResizeRecord& record, ResizeAxis& axis, const Method& method, Tables& tables) {
   int32_t* index = tables.TakeIndex(axis, axis.destination);
   axis.taps = 0;
   axis.certainTaps = INT32_MAX;
   for (ptrdiff_t d = 0; d < axis.destination; ++d) {
-    const Support support(axis, method, d);
+    const Support support(record, axis, method, d);
     index[d] = static_cast<int32_t>(support.first);
     axis.taps = std::max(axis.taps, static_cast<int32_t>(support.count));
     axis.certainTaps = std::min(axis.certainTaps, static_cast<int32_t>(support.count));
@@ -128,39 +110,13 @@ void FillTapIndex(ResizeAxis& axis, const Method& method, Tables& tables) {
   }
 }
 
-// Weights of position d, divided by their sum where the kernel does not itself sum to 1.
-class TapWeights {
- public:
-  TapWeights(const ResizeAxis& axis, const Method& method, ptrdiff_t d)
-      : axis_(axis), kernel_(method.Kernel()), scale_(ScaleOf(axis, method)), d_(d), support_(axis, method, d) {
-    if (!method.isAntialiasing && method.interpolation == qvpInterpolationCubic) return;
-    double sum = 0;
-    for (int k = 0; k < support_.count; ++k) sum += Unscaled(k);
-    sum_ = sum;
-  }
-  double At(int k) const { return k < support_.count ? Unscaled(k) / sum_ : 0; }
-
- private:
-  double Unscaled(int k) const {
-    const double distance = axis_.Distance(d_, support_.first + k);
-    return kernel_.At((distance < 0 ? -distance : distance) / scale_);
-  }
-
-  const ResizeAxis& axis_;
-  InterpolationKernel kernel_;
-  double scale_;
-  ptrdiff_t d_;
-  Support support_;
-  double sum_ = 1;
-};
-
 // A plane of weights for each tap; antialiasing records have a second table, in double.
-bool FillFloatTaps(ResizeAxis& axis, const Method& method, Tables& tables) {
+bool FillFloatTaps(const ResizeRecord& record, ResizeAxis& axis, const Method& method, Tables& tables) {
   const ptrdiff_t plane = PlaneOf(axis.destination);
   auto* weights = tables.TakeWeights<float>(axis, plane * axis.taps);
   double* precise = method.isAntialiasing ? tables.TakeNext<double>(plane * axis.taps) : nullptr;
   for (ptrdiff_t d = 0; d < axis.destination; ++d) {
-    const TapWeights taps(axis, method, d);
+    const TapWeights taps(record, axis, method, d);
     for (int k = 0; k < axis.taps; ++k) {
       const double weight = taps.At(k);
       weights[k * plane + d] = static_cast<float>(weight);
@@ -190,22 +146,22 @@ bool FixTaps(const TapWeights& taps, int count, int (&fixed)[kMostFixedTaps]) {
 }
 
 // A plane for each pair of taps.
-bool FillFixedTaps(ResizeAxis& axis, const Method& method, Tables& tables) {
+bool FillFixedTaps(const ResizeRecord& record, ResizeAxis& axis, const Method& method, Tables& tables) {
   const ptrdiff_t plane = PlaneOf(axis.destination);
   auto* weights = tables.TakeWeights<int16_t>(axis, plane * axis.taps);
   for (ptrdiff_t d = 0; d < axis.destination; ++d) {
     int fixed[kMostFixedTaps];
-    if (!FixTaps(TapWeights(axis, method, d), axis.taps, fixed)) return false;
+    if (!FixTaps(TapWeights(record, axis, method, d), axis.taps, fixed)) return false;
     for (int k = 0; k < axis.taps; ++k) weights[k / 2 * 2 * plane + 2 * d + k % 2] = static_cast<int16_t>(fixed[k]);
   }
   return true;
 }
 
 bool FillTaps(ResizeRecord& record, const Method& method, Tables& tables) {
-  FillTapIndex(record.rows, method, tables);
-  FillTapIndex(record.columns, method, tables);
+  FillTapIndex(record, record.rows, method, tables);
+  FillTapIndex(record, record.columns, method, tables);
   const auto fill = method.weights == WeightKind::kFixed ? FillFixedTaps : FillFloatTaps;
-  return fill(record.rows, method, tables) && fill(record.columns, method, tables);
+  return fill(record, record.rows, method, tables) && fill(record, record.columns, method, tables);
 }
 
 // One period: destination position j covers [j p, (j + 1) p) in units of 1 / q source pixels.
@@ -222,8 +178,7 @@ void FillSuper(ResizeAxis& axis, Tables& tables) {
   }
 }
 
-bool FillTables(ResizeRecord& record, const Method& method) {
-  Tables tables(record);
+bool FillTables(ResizeRecord& record, const Method& method, Tables& tables) {
   if (method.HasPlainTaps()) return FillTaps(record, method, tables);
   switch (method.interpolation) {
     case qvpInterpolationNearest:
@@ -239,13 +194,15 @@ bool FillTables(ResizeRecord& record, const Method& method) {
   return true;
 }
 
-void SetLengths(ResizeAxis& axis, ptrdiff_t source, ptrdiff_t destination) {
-  axis.source = static_cast<int32_t>(source);
-  axis.destination = static_cast<int32_t>(destination);
-  const int32_t g = std::gcd(axis.source, axis.destination);
-  axis.p = axis.source / g;
-  axis.q = axis.destination / g;
+void SetLengths(ResizeAxis& axis, const AxisLengths& lengths) {
+  axis.source = static_cast<int32_t>(lengths.source);
+  axis.destination = static_cast<int32_t>(lengths.destination);
+  const ptrdiff_t g = std::gcd(lengths.from, lengths.to);
+  axis.p = static_cast<int32_t>(lengths.from / g);
+  axis.q = static_cast<int32_t>(lengths.to / g);
 }
+
+bool IsClipped(const ResizeAxis& axis) { return int64_t{axis.destination} * axis.p > int64_t{axis.source} * axis.q; }
 
 int32_t TapPairs(const Method& method, const ResizeAxis& axis) {
   if (method.interpolation == qvpInterpolationNearest || method.interpolation == qvpInterpolationSuper) return 0;
@@ -260,10 +217,13 @@ uint32_t BorderOf(const Method& method, const ResizeAxis& axis) {
   return static_cast<uint32_t>(-FloorOf(-reach));
 }
 
-void FillHeader(ResizeRecord& record, Size src, Size dst, const Method& method) {
+void FillHeader(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, const Method& method) {
   std::memset(&record, 0, sizeof(record));
-  SetLengths(record.rows, src.height, dst.height);
-  SetLengths(record.columns, src.width, dst.width);
+  SetLengths(record.rows, rows);
+  SetLengths(record.columns, columns);
+  record.isCosited[0] = columns.isCosited;
+  record.isCosited[1] = rows.isCosited;
+  record.isClipped = IsClipped(record.columns) || IsClipped(record.rows);
   record.weights = method.weights;
   record.interpolation = method.interpolation;
   record.tapPairsAcross = TapPairs(method, record.columns);
@@ -285,12 +245,15 @@ void FillHeader(ResizeRecord& record, Size src, Size dst, const Method& method) 
 
 }  // namespace
 
-void FillRecord(ResizeRecord& record, Size src, Size dst, Method method) {
-  FillHeader(record, src, dst, method);
-  if (FillTables(record, method)) return;
+int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method) {
+  FillHeader(record, columns, rows, method);
+  Tables tables(record);
+  if (FillTables(record, method, tables)) return tables.bytes();
   method.weights = WeightKind::kFloat;
-  FillHeader(record, src, dst, method);
-  FillTables(record, method);
+  FillHeader(record, columns, rows, method);
+  Tables floats(record);
+  FillTables(record, method, floats);
+  return floats.bytes();
 }
 
 }  // namespace qvp::resize

@@ -21,7 +21,26 @@ struct Method {
   }
 };
 
-// Fills all of a record but its tag. Fixed-point weights that do not fit 16 bits become floating-point ones.
-void FillRecord(ResizeRecord& record, Size src, Size dst, Method method);
+// Lengths of an axis, and those whose ratio it is resized by: for chroma the luma's, of which its own may be rounded.
+struct AxisLengths {
+  ptrdiff_t source, destination, from, to;
+  bool isCosited = false;  // chroma that lies on luma samples
+
+  AxisLengths(ptrdiff_t n, ptrdiff_t m) : source(n), destination(m), from(n), to(m) {}
+  // Half of a luma axis.
+  AxisLengths(const AxisLengths& luma, bool isOnLuma)
+      : source((luma.source + 1) / 2),
+        destination((luma.destination + 1) / 2),
+        from(luma.source),
+        to(luma.destination),
+        isCosited(isOnLuma) {}
+};
+
+// Fills all of a record but its tag, and tells its bytes. Fixed-point weights that do not fit 16 bits become
+// floating-point ones.
+int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method);
+inline int64_t FillRecord(ResizeRecord& record, Size src, Size dst, const Method& method) {
+  return FillRecord(record, AxisLengths(src.width, dst.width), AxisLengths(src.height, dst.height), method);
+}
 
 }  // namespace qvp::resize

@@ -3,6 +3,7 @@
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_fixed.h"
+#include "geometry/resize_passes.h"
 
 namespace qvp::resize {
 namespace {
@@ -35,6 +36,7 @@ class TapColumns : public FixedColumns {
   template <int kLoads>
   void FilterVectors(const RowPair& rows, int16_t* out) const {
     if (channels == 1) return FilterChannels<kLoads, 1>(rows, out);
+    if (channels == 2) return FilterChannels<kLoads, 2>(rows, out);
     if (channels == 3) return FilterChannels<kLoads, 3>(rows, out);
     FilterChannels<kLoads, 4>(rows, out);
   }
@@ -42,6 +44,7 @@ class TapColumns : public FixedColumns {
   void FilterOneByOne(const RowPair& rows, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
     if (begin >= end) return;
     if (channels == 1) return FilterEach<1>(rows, begin, end, out);
+    if (channels == 2) return FilterEach<2>(rows, begin, end, out);
     if (channels == 3) return FilterEach<3>(rows, begin, end, out);
     FilterEach<4>(rows, begin, end, out);
   }
@@ -222,9 +225,11 @@ void ResizeFloat(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   }
 }
 
+}  // namespace
+
 // Only linear and antialiasing functions take doubles, and of these only the latter come here.
 template <class T>
-void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+void TapTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if constexpr (sizeof(T) == sizeof(double)) {
     ResizeFloat(call, record, tile, DoubleWeights);
   } else if (record.weights != WeightKind::kFixed) {
@@ -236,13 +241,18 @@ void ResizeTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   }
 }
 
+template void TapTile(const ResizeCall<uint8_t>&, const ResizeRecord&, const Tile&);
+template void TapTile(const ResizeCall<uint16_t>&, const ResizeRecord&, const Tile&);
+
+namespace {
+
 template <class T>
 QvpStatus Resize(ResizeCall<T> call, QvpiBorderType border, const ResizeDemand& demand) {
   if (!IsBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kReplicateAlt}, border)) {
     return qvpStatusBorder;
   }
   call.border = border;
-  return RunResize(call, demand, ResizeTile<T>);
+  return RunResize(call, demand, TapTile<T>);
 }
 
 template <class T>

@@ -656,6 +656,310 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R(const Qvp64f* pSrc, int srcStep, Qvp64f
 QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep, Qvp64f* pDst, QvpSizeL dstStep, QvpiPointL dstOffset, QvpiSizeL dstSize, QvpiBorderType border, const Qvp64f* pBorderValue, const QvpiResizeSpec* pSpec, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Resize frames: size of the destination
+ *  @{ */
+/** The size of a frame by a factor on each axis: the nearest even length where chroma is halved, which is 2 or more, and
+ *  not above the source's where the factor is at most 1; else the nearest length of 1 or more. Halves go up.
+ *
+ *  1920x1080 by 0.6 is 1152x648, and a width of 1918 by 0.5 is 960. Other sizes of the destination serve as well: this
+ *  one has a ratio near the factors, and whole pairs.
+ *
+ *  @param srcSize size of the luma
+ *  @param xFactor,yFactor destination length by source length
+ *  @param pDstSize receives the size of the luma
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pDstSize` is null
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusResizeFactor: a factor that is not finite or not above 0
+ *  - qvpStatusSizeOverflow: a length above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetDstSize(QvpiSize srcSize, double xFactor, double yFactor, QvpiSize* pDstSize);
+QvpStatus qvpiResize422GetDstSize(QvpiSize srcSize, double xFactor, double yFactor, QvpiSize* pDstSize);
+/** @} */
+
+/** @name Resize frames: size of the record
+ *  @{ */
+/** Bytes of the record of a resize of frames whose chroma is subsampled, and of the Init buffer.
+ *
+ *  The steps are those of qvpiResizeGetSize_8u(): GetSize, an Init, GetBufferSize, calls for the frame or for tiles.
+ *  Records and buffers may begin at any address; threads share a record, but not a buffer. All sizes and places are in
+ *  luma pixels. A frame is
+ *
+ *  @code
+ *    4:2:0 P2   a plane of luma, and a plane of pairs of chroma of half its columns and rows
+ *    4:2:0 P3   a plane of luma, and two such planes of chroma
+ *    4:2:2 C2   one plane, of two pixels in four elements: Y U Y V or U Y V Y. Chroma has half of the columns
+ *  @endcode
+ *
+ *  with chroma in any order. 4:2:0 frames may have odd lengths n: their chroma has (n + 1) / 2 samples. 4:2:2 frames have
+ *  even widths. 16-bit samples count in all their bits, so that 10 bits may be the high or the low ones.
+ *
+ *  **Coordinates.** Destination sample d lies at
+ *
+ *  @code
+ *    x = (d + o) * srcLength / dstLength - o
+ *  @endcode
+ *
+ *  in its source plane, with the lengths of the luma, for chroma too: the ratio of its own, rounded lengths would
+ *  move it by up to half a pixel. o is 0.5 for luma and for chroma between its luma pixels, and 0.25 for chroma that lies
+ *  on every other luma pixel: the site tells which. A wrong site moves the colours of a resized frame against its luma,
+ *  by |1 - srcLength / dstLength| / 4 source samples, which coloured edges show. 100 110 120 130 from 8 columns to 6,
+ *  linear:
+ *
+ *  @code
+ *    site               o of columns, rows    x                   chroma
+ *    qvpChromaCentre    0.5, 0.5              0.167 1.5 2.833     101.67 115 128.33
+ *    qvpChromaLeft      0.25, 0.5             0.083 1.417 2.75    100.83 114.17 127.5
+ *    qvpChromaTopLeft   0.25, 0.25            as Left
+ *  @endcode
+ *
+ *  Everything else is as for images, plane by plane in the pixels of the plane: qvpiResizeLinear_8u_C1R() and its like
+ *  tell taps, rounding and borders. So luma has the bits that these functions give, and chroma too where its site is
+ *  qvpChromaCentre and the lengths are even. A frame of the same size is copied.
+ *
+ *  **Limits.** Each source plane needs 2 samples on each axis for linear, 4 for Lanczos with 2 lobes and 6 with 3. For
+ *  super-sampling the destination must not be larger.
+ *
+ *  **Tiles.** `dstOffset` of a tile is even on the axes on which chroma is halved. Source pointers are at the pixel that
+ *  GetSrcOffset tells, those of chroma at half of it. Every even tiling gives the bits of the whole.
+ *
+ *  A record has 128 + 2 R bytes, R those of a record of qvpiResizeGetSize_8u(). The Init buffer has 64.
+ *
+ *  @param srcSize,dstSize sizes of the luma
+ *  @param dataType qvp8u or qvp16u
+ *  @param interpolation qvpInterpolationLinear, qvpInterpolationSuper or qvpInterpolationLanczos
+ *  @param antialiasing there is none here: anything but 0 gives the same sizes and a warning
+ *  @param pSpecSize,pInitBufSize receive bytes; 0 when these cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusNoOperation: a length is 0; nothing is written
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusDataType: another type
+ *  - qvpStatusInterpolation: another method
+ *  - qvpStatusSize: a source that is too small (Lanczos: for 2 lobes), or a destination that is too large
+ *  - qvpStatusSizeOverflow: 2147483647 bytes or more
+ *  - qvpStatusAntialiasIgnored: `antialiasing` is not 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetSize(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+QvpStatus qvpiResize422GetSize(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiInterpolationType interpolation, Qvp32u antialiasing, int* pSpecSize, int* pInitBufSize);
+/** @} */
+
+/** @name Resize frames: Inits
+ *  @{ */
+/** Makes a record of a resize of frames; see qvpiResize420GetSize().
+ *
+ *  @param srcSize,dstSize sizes of the luma
+ *  @param dataType type of the samples: qvp8u or qvp16u
+ *  @param numLobes Lanczos: 2 or 3
+ *  @param site where chroma lies
+ *  @param lumaPlace 4:2:2: qvpLumaFirst or qvpLumaSecond
+ *  @param pSpec receives the record
+ *  @param pInitBuf Lanczos: the Init buffer, not read and not written
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusNoOperation: a length is 0; nothing is written
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusDataType: another type
+ *  - qvpStatusNotSupportedMode: not 2 or 3 lobes
+ *  - qvpStatusSize: a source that is too small, or a destination that is too large
+ *  - qvpStatusNotSupportedMode: another site
+ *  - qvpStatusChannelOrder: another place
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420LinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiChromaSite site, QvpiResizeChromaSpec* pSpec);
+QvpStatus qvpiResize422LinearInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiChromaSite site, QvpiLumaPlace lumaPlace, QvpiResizeChromaSpec* pSpec);
+QvpStatus qvpiResize420LanczosInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiChromaSite site, QvpiResizeChromaSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResize422LanczosInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, Qvp32u numLobes, QvpiChromaSite site, QvpiLumaPlace lumaPlace, QvpiResizeChromaSpec* pSpec, Qvp8u* pInitBuf);
+QvpStatus qvpiResize420SuperInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiChromaSite site, QvpiResizeChromaSpec* pSpec);
+QvpStatus qvpiResize422SuperInit(QvpiSize srcSize, QvpiSize dstSize, QvpDataType dataType, QvpiChromaSite site, QvpiLumaPlace lumaPlace, QvpiResizeChromaSpec* pSpec);
+/** @} */
+
+/** @name Resize frames: size of the work buffer
+ *  @{ */
+/** Bytes of the buffer for a call.
+ *
+ *  @param pSpec record
+ *  @param dstSize luma size of the largest tile; what is beyond the destination does not count
+ *  @param pBufSize receives bytes; 0 when these cannot be represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusSizeOverflow: 2147483647 bytes or more
+ *  - qvpStatusSizeWarning: `dstSize` is larger than the destination
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetBufferSize(const QvpiResizeChromaSpec* pSpec, QvpiSize dstSize, int* pBufSize);
+QvpStatus qvpiResize422GetBufferSize(const QvpiResizeChromaSpec* pSpec, QvpiSize dstSize, int* pBufSize);
+/** @} */
+
+/** @name Resize frames: border
+ *  @{ */
+/** How far a method reads around the source rectangle of a tile, in luma pixels: 1 for linear, 2 or 3 for Lanczos with as
+ *  many lobes, twice as many on the axes on which chroma is halved; 0 for super-sampling.
+ *
+ *  @param pSpec record
+ *  @param pBorderSize receives the widths
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetBorderSize(const QvpiResizeChromaSpec* pSpec, QvpiBorderSize* pBorderSize);
+QvpStatus qvpiResize422GetBorderSize(const QvpiResizeChromaSpec* pSpec, QvpiBorderSize* pBorderSize);
+/** @} */
+
+/** @name Resize frames: source pointer of a tile
+ *  @{ */
+/** The luma pixel that a call takes as its pointer; on axes on which chroma is halved it is even, and the pointers of chroma
+ *  are at half of it. It is floor(d * srcLength / dstLength), made even there by going down; for super-sampling twice
+ *  the first chroma sample that is covered.
+ *
+ *  @param pSpec record
+ *  @param dstOffset first pixel of the tile
+ *  @param pSrcOffset receives the place
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusOutOfRange: outside the destination
+ *  - qvpStatusMisalignedOffset: odd on an axis on which chroma is halved
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetSrcOffset(const QvpiResizeChromaSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+QvpStatus qvpiResize422GetSrcOffset(const QvpiResizeChromaSpec* pSpec, QvpiPoint dstOffset, QvpiPoint* pSrcOffset);
+/** @} */
+
+/** @name Resize frames: source rectangle of a tile
+ *  @{ */
+/** The core of what a tile reads, of luma and chroma: from the pixel of GetSrcOffset to the end of what either needs,
+ *  rounded up to whole pairs or the end of the frame. See qvpiResizeGetSrcRoi_8u() for what is read around it.
+ *
+ *  @param pSpec record
+ *  @param dstRoi the tile; clipped to the destination
+ *  @param pSrcRoiOffset,pSrcRoiSize receive the rectangle, in luma pixels
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusOutOfRange: the tile begins outside the destination
+ *  - qvpStatusMisalignedOffset: it begins at an odd place on an axis on which chroma is halved
+ *  - qvpStatusSizeWarning: it was clipped
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420GetSrcRoi(const QvpiResizeChromaSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+QvpStatus qvpiResize422GetSrcRoi(const QvpiResizeChromaSpec* pSpec, QvpiRect dstRoi, QvpiPoint* pSrcRoiOffset, QvpiSize* pSrcRoiSize);
+/** @} */
+
+/** @name Resize frames: linear
+ *  @{ */
+/** Resizes a frame by linear interpolation; see qvpiResize420GetSize() for frames and coordinates. Each sample is that of
+ *  qvpiResizeLinear_8u_C1R() or qvpiResizeLinear_16u_C1R() on its plane. Luma 0 10 20 ... 70 to 6 columns becomes, before
+ *  rounding, 1.67 15 28.33 41.67 55 68.33.
+ *
+ *  Borders apply to each plane in its own pixels: sides that are in memory are so around luma and chroma. Steps may be
+ *  negative. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
+ *         their steps
+ *  @param pDst,dstStep destination tile, likewise
+ *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
+ *  @param border qvpBorderReplicate, qvpBorderReplicateAlt or qvpBorderMirror, with any sides in memory, or
+ *         qvpBorderInMem
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return, in the order of the checks:
+ *  - qvpStatusBorder: another border
+ *  - qvpStatusNullPointer: an array, a plane, the record or the buffer is null
+ *  - qvpStatusNoOperation: a length of `dstSize` is 0
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusStep: 16u, and a step that is no multiple of 2
+ *  - qvpStatusOutOfRange: `dstOffset` outside the destination
+ *  - qvpStatusMisalignedOffset: `dstOffset` odd on an axis on which chroma is halved
+ *  - qvpStatusContextMatch: a record for another type or another method
+ *  - qvpStatusSizeWarning: the tile reached over the destination; the part inside was done
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420Linear_8u_P2R(const Qvp8u* const pSrc[2], const int srcStep[2], Qvp8u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Linear_8u_P3R(const Qvp8u* const pSrc[3], const int srcStep[3], Qvp8u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Linear_16u_P2R(const Qvp16u* const pSrc[2], const int srcStep[2], Qvp16u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Linear_16u_P3R(const Qvp16u* const pSrc[3], const int srcStep[3], Qvp16u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Linear_8u_C2R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Linear_16u_C2R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize frames: Lanczos
+ *  @{ */
+/** Resizes a frame by Lanczos interpolation, which is sharper and may overshoot; see qvpiResize420GetSize() for frames and
+ *  coordinates. Each sample is that of qvpiResizeLanczos_8u_C1R() or qvpiResizeLanczos_16u_C1R() on its plane.
+ *
+ *  Borders apply to each plane in its own pixels: sides that are in memory are so around luma and chroma. Steps may be
+ *  negative. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
+ *         their steps
+ *  @param pDst,dstStep destination tile, likewise
+ *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
+ *  @param border qvpBorderReplicate, qvpBorderReplicateAlt or qvpBorderMirror, with any sides in memory, or
+ *         qvpBorderInMem
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return, in the order of the checks:
+ *  - qvpStatusBorder: another border
+ *  - qvpStatusNullPointer: an array, a plane, the record or the buffer is null
+ *  - qvpStatusNoOperation: a length of `dstSize` is 0
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusStep: 16u, and a step that is no multiple of 2
+ *  - qvpStatusOutOfRange: `dstOffset` outside the destination
+ *  - qvpStatusMisalignedOffset: `dstOffset` odd on an axis on which chroma is halved
+ *  - qvpStatusContextMatch: a record for another type or another method
+ *  - qvpStatusSizeWarning: the tile reached over the destination; the part inside was done
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420Lanczos_8u_P2R(const Qvp8u* const pSrc[2], const int srcStep[2], Qvp8u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Lanczos_8u_P3R(const Qvp8u* const pSrc[3], const int srcStep[3], Qvp8u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Lanczos_16u_P2R(const Qvp16u* const pSrc[2], const int srcStep[2], Qvp16u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Lanczos_16u_P3R(const Qvp16u* const pSrc[3], const int srcStep[3], Qvp16u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Lanczos_8u_C2R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Lanczos_16u_C2R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, QvpiBorderType border, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Resize frames: super-sampling
+ *  @{ */
+/** Reduces a frame: each sample is the mean over the area that it covers in its plane, as qvpiResizeSuper_8u_C1R() takes it
+ *  with r = srcLength / dstLength; see qvpiResize420GetSize() for frames. Chroma sample d covers [(d - m) r, (d + 1 - m)
+ *  r), with m = 0 where it lies between the luma pixels and m = (1 - 1 / r) / 4 where it lies on every other, as far as that
+ *  is in the plane. Steps may be negative. Not in place.
+ *
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
+ *         their steps
+ *  @param pDst,dstStep destination tile, likewise
+ *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
+ *  @param pSpec record
+ *  @param pBuffer work buffer
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an array, a plane, the record or the buffer is null
+ *  - qvpStatusNoOperation: a length of `dstSize` is 0
+ *  - qvpStatusContextMatch: not a record of these frames
+ *  - qvpStatusSize: a length below 1, or 4:2:2 of odd width
+ *  - qvpStatusStep: 16u, and a step that is no multiple of 2
+ *  - qvpStatusOutOfRange: `dstOffset` outside the destination
+ *  - qvpStatusMisalignedOffset: `dstOffset` odd on an axis on which chroma is halved
+ *  - qvpStatusContextMatch: a record for another type or another method
+ *  - qvpStatusSizeWarning: the tile reached over the destination; the part inside was done
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiResize420Super_8u_P2R(const Qvp8u* const pSrc[2], const int srcStep[2], Qvp8u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Super_8u_P3R(const Qvp8u* const pSrc[3], const int srcStep[3], Qvp8u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Super_16u_P2R(const Qvp16u* const pSrc[2], const int srcStep[2], Qvp16u* const pDst[2], const int dstStep[2], QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize420Super_16u_P3R(const Qvp16u* const pSrc[3], const int srcStep[3], Qvp16u* const pDst[3], const int dstStep[3], QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Super_8u_C2R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiResize422Super_16u_C2R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiPoint dstOffset, QvpiSize dstSize, const QvpiResizeChromaSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Decimate 4:2:0 frames
  *  @{ */
 /** Frames of a simple fraction of their size, exactly: each sample is the mean of what it covers. For previews and

@@ -240,6 +240,21 @@ enum {
     qvpAxis135 = 4,        /**< rows become columns, and both change places */
 };
 
+/** Where chroma samples of a video frame lie, seen from the luma samples. */
+typedef int QvpiChromaSite;
+enum {
+    qvpChromaCentre = 0,  /**< between the luma samples on both axes: JPEG, MPEG-1 */
+    qvpChromaLeft = 1,    /**< in even luma columns, between the rows: most video */
+    qvpChromaTopLeft = 2, /**< in even luma columns and, where rows are halved, even rows: UHD */
+};
+
+/** The order of luma and chroma in packed 4:2:2 pixels. */
+typedef int QvpiLumaPlace;
+enum {
+    qvpLumaFirst = 0,  /**< Y U Y V */
+    qvpLumaSecond = 1, /**< U Y V Y */
+};
+
 /** How many samples of each axis a decimation leaves. */
 typedef int QvpiDecimateFraction;
 enum {
@@ -277,6 +292,7 @@ typedef struct QvpiFilterGaussBorderSpec QvpiFilterGaussBorderSpec; /**< Gauss f
 typedef struct QvpiFilterBilateralBorderSpec QvpiFilterBilateralBorderSpec; /**< bilateral filter */
 typedef struct QvpiFilterLeastSquaresSpec QvpiFilterLeastSquaresSpec; /**< iterative least-squares filter */
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
+typedef struct QvpiResizeChromaSpec QvpiResizeChromaSpec; /**< resize of chroma-subsampled frames */
 typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
 typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */
 typedef struct QvpiLookupSpec QvpiLookupSpec;             /**< look-up through levels */

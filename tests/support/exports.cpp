@@ -81,6 +81,8 @@ constexpr struct {
     {"qvpiPhasePack", FourierLesson},
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
+    {"qvpiResize420", FrameResizeLesson},
+    {"qvpiResize422", FrameResizeLesson},
     {"qvpiRotateQuarter", TurnLesson},
     {"qvpiScale", ScaleLesson},
     {"qvpiSetWindow", WindowFunctionLesson},

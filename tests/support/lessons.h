@@ -15,6 +15,7 @@ bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterLesson(Scene& scene, size_t place, Argument& argument);
 bool FourierLesson(Scene& scene, size_t place, Argument& argument);
 bool FrameLesson(Scene& scene, size_t place, Argument& argument);
+bool FrameResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool GaussLesson(Scene& scene, size_t place, Argument& argument);
 bool GuidedLesson(Scene& scene, size_t place, Argument& argument);
 bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
