@@ -5,6 +5,7 @@
 #include "base/lanes.h"
 #include "base/scalar.h"
 #include "geometry/frame_call.h"
+#include "geometry/frame_packed_linear.h"
 #include "geometry/frame_plane.h"
 
 namespace qvp::resize {
@@ -49,8 +50,23 @@ struct Packed {
     for (ptrdiff_t y = 0; y < size.height; ++y) TakeChroma(pairs.Row(y), record.lumaPlace, size.width, part.Row(y));
   }
 
+  bool IsLinearOfBytes(Size size) const {
+    const bool isCopy =
+        record.Luma().columns.p == record.Luma().columns.q && record.Luma().rows.p == record.Luma().rows.q;
+    return sizeof(T) == 1 && record.interpolation == qvpInterpolationLinear && size.width >= kFewestPackedColumns &&
+           !isCopy;
+  }
+
   void ResizeAll(Size size) const {
     const Point given = FrameSource(record, call.offset);
+    if constexpr (sizeof(T) == 1) {
+      if (IsLinearOfBytes(size)) {
+        Image<const T> from{src, srcStep, Layout::kC2};
+        from.data = from.Row(-given.y) - 2 * given.x;
+        return PackedLinear{record, call.border, from, call.buffer}.Resize(call.offset, size,
+                                                                           {dst, dstStep, Layout::kC2});
+      }
+    }
     const ptrdiff_t columns = std::min(size.width, kPartColumns);
     const ptrdiff_t rows = kPartBytes / (2 * ptrdiff_t{sizeof(T)} * columns);
     for (ptrdiff_t y = 0; y < size.height; y += rows) {

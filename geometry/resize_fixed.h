@@ -21,7 +21,6 @@ struct FixedColumns {
 
   // Samples of the columns with all taps in the image.
   ptrdiff_t InnerSamples() const { return (taps.to - taps.from) * channels; }
-  const uint8_t* Pixel(const uint8_t* row, ptrdiff_t position) const { return row + edge(position) * channels; }
 };
 
 // Filters one row, or two at once, which share what is loaded for each vector of columns.

@@ -1,122 +1,18 @@
 // Resize by linear interpolation: in 16-bit lanes for 8-bit pixels and weights in units of 1/16384, else in floating
 // point.
-#include <hwy/cache_control.h>
-
 #include "base/export.h"
 #include "base/map.h"
-#include "geometry/resize_fixed.h"
+#include "geometry/resize_linear_columns.h"
 #include "geometry/resize_passes.h"
 
 namespace qvp::resize {
 namespace {
 
-// h = (l (16384 - w) + r w + 128) >> 8, with 6 bits of fraction: 0 to 64 * 255. It is 64 l + ((r - l) w + 128 >> 8),
-// and the second term is the rounded high half of 64 (r - l) times 2 w.
-int16_t Across(int l, int r, int w) { return static_cast<int16_t>((l * (kFixedOne - w) + r * w + 128) >> 8); }
-
-// out = (h0 (16384 - w) + h1 w + 2^19) >> 20 is (h0 + ((h1 - h0) w >> 14) + 32) >> 6. The inner term is the high half
-// of 2 (h1 - h0) times 2 w, and the outer one the rounded high half of twice its sum times 256.
 void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
   const hn::ScalableTag<int16_t> d;
-  const auto w = hn::Set(d, static_cast<int16_t>(2 * weight)), down = hn::Set(d, 512);
-  StoreBytes(d, dst, samples, [=](ptrdiff_t i) HWY_ATTR {
-    const auto h0 = hn::LoadU(d, upper + i), step = hn::Sub(hn::LoadU(d, lower + i), h0);
-    return hn::MulFixedPoint15(hn::Add(hn::MulHigh(hn::Add(step, step), w), h0), down);
-  });
+  const auto w = hn::Set(d, static_cast<int16_t>(2 * weight));
+  StoreBytes(d, dst, samples, [=](ptrdiff_t i) HWY_ATTR { return BlendDown(d, upper + i, lower + i, w); });
 }
-
-class LinearColumns : public FixedColumns {
- public:
-  // `room` is for the shuffles and weights: 4 bytes for each sample and each column.
-  LinearColumns(const ResizeRecord& record, const Tile& tile, const ResizeCall<uint8_t>& call, bool isStrip,
-                uint8_t* room)
-      : FixedColumns(record, tile, call.border, Channels(call.src.layout)),
-        weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x) {
-    const int nc = channels;
-    const ptrdiff_t pixels = taps.first[tile.width - 1] - ptrdiff_t{taps.first[0]};
-    const ResizeAxis& down = record.rows;
-    if (isStrip || pixels * nc <= kLongestFetched) ahead_ = std::max(2, down.p / down.q) * call.src.step;
-    const GatherShape shape{2, nc, nc};
-    const int loads = FewestLoadsFor(shape, record.columns.p, record.columns.q);
-    if (loads == 0 || InnerSamples() < 1) return;
-    const ptrdiff_t bytes = Gather::Vectors(shape, InnerSamples()) * kGatherBytes;
-    doubled_ = reinterpret_cast<int16_t*>(room);
-    auto* offsets = reinterpret_cast<int32_t*>(room + 2 * bytes);
-    if (nc == 1) Plan<1>(shape, loads, room + bytes, offsets);
-    if (nc == 2) Plan<2>(shape, loads, room + bytes, offsets);
-    if (nc == 3) Plan<3>(shape, loads, room + bytes, offsets);
-    if (nc == 4) Plan<4>(shape, loads, room + bytes, offsets);
-  }
-
-  template <int kLoads, size_t kRows>
-  HWY_NOINLINE void FilterVectors(std::array<const uint8_t*, kRows> rows, std::array<int16_t*, kRows> out) const {
-    const hn::Repartition<int8_t, GatherTag> d8;
-    const hn::Repartition<int16_t, GatherTag> d16;
-    const auto left = hn::BitCast(d8, hn::Set(d16, 64)), step = hn::BitCast(d8, hn::Set(d16, 0x40C0));  // -64, 64
-    const uint8_t* mask = gather.masks();
-    const int32_t* offsets = gather.offsets();
-    const int16_t* weight = doubled_;
-    const ptrdiff_t ahead = ahead_;
-    for (int16_t*& row : out) row += taps.from * channels;
-    const auto filter = [&](ptrdiff_t at) HWY_ATTR {
-      const auto w = hn::LoadU(d16, weight);
-      const auto shuffle = hn::LoadU(GatherTag(), mask);
-      hn::Vec<decltype(d16)> h[kRows];
-      for (size_t i = 0; i < kRows; ++i) {
-        const auto pairs = GatherVector<kLoads>(rows[i], offsets, shuffle);
-        if (ahead != 0) hwy::Prefetch(rows[i] + ahead + offsets[0]);
-        h[i] = hn::Add(MulAddPairs(pairs, left), hn::MulFixedPoint15(MulAddPairs(pairs, step), w));
-      }
-      for (size_t i = 0; i < kRows; ++i) hn::StoreU(h[i], d16, out[i] + at);
-    };
-    const ptrdiff_t last = InnerSamples() - kSamples;
-    for (ptrdiff_t at = 0; at < last; at += kSamples) {
-      filter(at);
-      mask += kGatherBytes;
-      offsets += OffsetsOfVector(kLoads);
-      weight += kSamples;
-    }
-    filter(last);
-  }
-
-  template <size_t kRows>
-  void FilterOneByOne(const std::array<const uint8_t*, kRows>& rows, ptrdiff_t begin, ptrdiff_t end,
-                      const std::array<int16_t*, kRows>& out) const {
-    for (ptrdiff_t x = begin; x < end; ++x) {
-      for (size_t i = 0; i < kRows; ++i) {
-        const uint8_t* l = Pixel(rows[i], taps.first[x]);
-        const uint8_t* r = Pixel(rows[i], taps.first[x] + ptrdiff_t{1});
-        for (int c = 0; c < channels; ++c) out[i][x * channels + c] = Across(l[c], r[c], weights_[2 * x + 1]);
-      }
-    }
-  }
-
- private:
-  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
-  // Rows of up to a page of memory, and pieces of rows, end before the CPU has noticed where to read on: those that are
-  // filtered next are asked for early. Longer rows only get slower by that.
-  static constexpr ptrdiff_t kLongestFetched = 4096;
-
-  template <int kChannels>
-  void Plan(const GatherShape& shape, int loads, uint8_t* masks, int32_t* offsets) {
-    const ptrdiff_t samples = InnerSamples(), end = (taps.first[taps.to - 1] + ptrdiff_t{2}) * kChannels;
-    const int32_t* first = taps.first + taps.from;
-    const int16_t* second = weights_ + 2 * taps.from + 1;
-    gather = Gather(
-        shape, loads, samples, end,
-        [=](ptrdiff_t s) { return first[s / kChannels] * ptrdiff_t{kChannels} + s % kChannels; }, masks, offsets);
-    for (ptrdiff_t v = 0; v < gather.count(); ++v) {
-      const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);
-      for (ptrdiff_t s = 0; s < kSamples; ++s) {
-        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[(start + s) / kChannels * 2]);
-      }
-    }
-  }
-
-  const int16_t* weights_;
-  int16_t* doubled_ = nullptr;
-  ptrdiff_t ahead_ = 0;
-};
 
 // The columns [begin, end) of a tile.
 void ResizeStrip(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& whole, ptrdiff_t begin,
@@ -128,7 +24,7 @@ void ResizeStrip(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const ptrdiff_t samples = tile.width * channels, step = RowFloats(samples);
   auto* rows = reinterpret_cast<int16_t*>(AtBoundary(call.buffer));
   auto* room = reinterpret_cast<uint8_t*>(rows + 2 * step);
-  const LinearColumns columns(record, tile, call, tile.width < whole.width, room);
+  const LinearColumns columns(record, tile, call.border, PixelsOf(channels), AheadOf(call, record, tile, whole), room);
   const Taps rowTaps(record, record.rows, tile.y, tile.height);
   const int16_t* weights = record.Weights<int16_t>(record.rows) + tile.y;
   const RowRing<int16_t> ring{rows, step, 2};
@@ -145,10 +41,6 @@ void ResizeStrip(const ResizeCall<uint8_t>& call, const ResizeRecord& record, co
   const auto needs = [&](ptrdiff_t y) { return Extent{rowTaps.first[y], rowTaps.first[y] + ptrdiff_t{2}}; };
   WalkDown(tile.height, needs, filter, blend);
 }
-
-// A sample of the destination takes about 12 bytes of filtered rows, shuffles, weights and source. Wide tiles go in
-// strips, for which these stay in a first-level cache of 48 KiB.
-constexpr ptrdiff_t kMostSamples = 3500;
 
 void ResizeFixed(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
