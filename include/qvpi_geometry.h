@@ -1,5 +1,5 @@
 /** @file qvpi_geometry.h
- *  Resize, decimation of 4:2:0 frames, warps, remap, mirror, transpose and turns by quarters.
+ *  Resize, also of video frames, decimation of 4:2:0 frames, warps, remap, mirror, transpose and turns by quarters.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -658,8 +658,8 @@ QvpStatus qvpiResizeAntialiasing_64f_C4R_L(const Qvp64f* pSrc, QvpSizeL srcStep,
 
 /** @name Resize frames: size of the destination
  *  @{ */
-/** The size of a frame by a factor on each axis: the nearest even length where chroma is halved, which is 2 or more, and
- *  not above the source's where the factor is at most 1; else the nearest length of 1 or more. Halves go up.
+/** The size of a frame by a factor on each axis: the nearest even length where chroma is halved, which is 2 or more,
+ *  and not above the source's where the factor is at most 1; else the nearest length of 1 or more. Halves go up.
  *
  *  1920x1080 by 0.6 is 1152x648, and a width of 1918 by 0.5 is 960. Other sizes of the destination serve as well: this
  *  one has a ratio near the factors, and whole pairs.
@@ -692,8 +692,8 @@ QvpStatus qvpiResize422GetDstSize(QvpiSize srcSize, double xFactor, double yFact
  *    4:2:2 C2   one plane, of two pixels in four elements: Y U Y V or U Y V Y. Chroma has half of the columns
  *  @endcode
  *
- *  with chroma in any order. 4:2:0 frames may have odd lengths n: their chroma has (n + 1) / 2 samples. 4:2:2 frames have
- *  even widths. 16-bit samples count in all their bits, so that 10 bits may be the high or the low ones.
+ *  with chroma in any order. 4:2:0 frames may have odd lengths n: their chroma has (n + 1) / 2 samples. 4:2:2 frames
+ *  have even widths. 16-bit samples count in all their bits, so that 10 bits may be the high or the low ones.
  *
  *  **Coordinates.** Destination sample d lies at
  *
@@ -702,10 +702,10 @@ QvpStatus qvpiResize422GetDstSize(QvpiSize srcSize, double xFactor, double yFact
  *  @endcode
  *
  *  in its source plane, with the lengths of the luma, for chroma too: the ratio of its own, rounded lengths would
- *  move it by up to half a pixel. o is 0.5 for luma and for chroma between its luma pixels, and 0.25 for chroma that lies
- *  on every other luma pixel: the site tells which. A wrong site moves the colours of a resized frame against its luma,
- *  by |1 - srcLength / dstLength| / 4 source samples, which coloured edges show. 100 110 120 130 from 8 columns to 6,
- *  linear:
+ *  move it by up to half a pixel. o is 0.5 for luma and for chroma between its luma pixels, and 0.25 for chroma that
+ *  lies on every other luma pixel: the site tells which. A wrong site moves the colours of a resized frame against its
+ *  luma, by |1 - srcLength / dstLength| / 4 source samples, which coloured edges show. 100 110 120 130 from 8 columns
+ *  to 6, linear:
  *
  *  @code
  *    site               o of columns, rows    x                   chroma
@@ -721,8 +721,8 @@ QvpStatus qvpiResize422GetDstSize(QvpiSize srcSize, double xFactor, double yFact
  *  **Limits.** Each source plane needs 2 samples on each axis for linear, 4 for Lanczos with 2 lobes and 6 with 3. For
  *  super-sampling the destination must not be larger.
  *
- *  **Tiles.** `dstOffset` of a tile is even on the axes on which chroma is halved. Source pointers are at the pixel that
- *  GetSrcOffset tells, those of chroma at half of it. Every even tiling gives the bits of the whole.
+ *  **Tiles.** `dstOffset` of a tile is even on the axes on which chroma is halved. Source pointers are at the pixel
+ *  that GetSrcOffset tells, those of chroma at half of it. Every even tiling gives the bits of the whole.
  *
  *  A record has 128 + 2 R bytes, R those of a record of qvpiResizeGetSize_8u(). The Init buffer has 64.
  *
@@ -797,8 +797,8 @@ QvpStatus qvpiResize422GetBufferSize(const QvpiResizeChromaSpec* pSpec, QvpiSize
 
 /** @name Resize frames: border
  *  @{ */
-/** How far a method reads around the source rectangle of a tile, in luma pixels: 1 for linear, 2 or 3 for Lanczos with as
- *  many lobes, twice as many on the axes on which chroma is halved; 0 for super-sampling.
+/** How far a method reads around the source rectangle of a tile, in luma pixels: 1 for linear, 2 or 3 for Lanczos with
+ *  as many lobes, twice as many on the axes on which chroma is halved; 0 for super-sampling.
  *
  *  @param pSpec record
  *  @param pBorderSize receives the widths
@@ -813,9 +813,9 @@ QvpStatus qvpiResize422GetBorderSize(const QvpiResizeChromaSpec* pSpec, QvpiBord
 
 /** @name Resize frames: source pointer of a tile
  *  @{ */
-/** The luma pixel that a call takes as its pointer; on axes on which chroma is halved it is even, and the pointers of chroma
- *  are at half of it. It is floor(d * srcLength / dstLength), made even there by going down; for super-sampling twice
- *  the first chroma sample that is covered.
+/** The luma pixel that a call takes as its pointer; on axes on which chroma is halved it is even, and the pointers of
+ *  chroma are at half of it. It is floor(d * srcLength / dstLength), made even there by going down; for super-sampling
+ *  twice the first chroma sample that is covered.
  *
  *  @param pSpec record
  *  @param dstOffset first pixel of the tile
@@ -854,15 +854,15 @@ QvpStatus qvpiResize422GetSrcRoi(const QvpiResizeChromaSpec* pSpec, QvpiRect dst
 
 /** @name Resize frames: linear
  *  @{ */
-/** Resizes a frame by linear interpolation; see qvpiResize420GetSize() for frames and coordinates. Each sample is that of
- *  qvpiResizeLinear_8u_C1R() or qvpiResizeLinear_16u_C1R() on its plane. Luma 0 10 20 ... 70 to 6 columns becomes, before
- *  rounding, 1.67 15 28.33 41.67 55 68.33.
+/** Resizes a frame by linear interpolation; see qvpiResize420GetSize() for frames and coordinates. Each sample is that
+ *  of qvpiResizeLinear_8u_C1R() or qvpiResizeLinear_16u_C1R() on its plane. Luma 0 10 20 ... 70 to 6 columns becomes,
+ *  before rounding, 1.67 15 28.33 41.67 55 68.33.
  *
  *  Borders apply to each plane in its own pixels: sides that are in memory are so around luma and chroma. Steps may be
  *  negative. Not in place.
  *
- *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
- *         their steps
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one
+ *         of their steps
  *  @param pDst,dstStep destination tile, likewise
  *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
  *  @param border qvpBorderReplicate, qvpBorderReplicateAlt or qvpBorderMirror, with any sides in memory, or
@@ -892,14 +892,14 @@ QvpStatus qvpiResize422Linear_16u_C2R(const Qvp16u* pSrc, int srcStep, Qvp16u* p
 
 /** @name Resize frames: Lanczos
  *  @{ */
-/** Resizes a frame by Lanczos interpolation, which is sharper and may overshoot; see qvpiResize420GetSize() for frames and
- *  coordinates. Each sample is that of qvpiResizeLanczos_8u_C1R() or qvpiResizeLanczos_16u_C1R() on its plane.
+/** Resizes a frame by Lanczos interpolation, which is sharper and may overshoot; see qvpiResize420GetSize() for frames
+ *  and coordinates. Each sample is that of qvpiResizeLanczos_8u_C1R() or qvpiResizeLanczos_16u_C1R() on its plane.
  *
  *  Borders apply to each plane in its own pixels: sides that are in memory are so around luma and chroma. Steps may be
  *  negative. Not in place.
  *
- *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
- *         their steps
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one
+ *         of their steps
  *  @param pDst,dstStep destination tile, likewise
  *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
  *  @param border qvpBorderReplicate, qvpBorderReplicateAlt or qvpBorderMirror, with any sides in memory, or
@@ -929,13 +929,13 @@ QvpStatus qvpiResize422Lanczos_16u_C2R(const Qvp16u* pSrc, int srcStep, Qvp16u* 
 
 /** @name Resize frames: super-sampling
  *  @{ */
-/** Reduces a frame: each sample is the mean over the area that it covers in its plane, as qvpiResizeSuper_8u_C1R() takes it
- *  with r = srcLength / dstLength; see qvpiResize420GetSize() for frames. Chroma sample d covers [(d - m) r, (d + 1 - m)
- *  r), with m = 0 where it lies between the luma pixels and m = (1 - 1 / r) / 4 where it lies on every other, as far as that
- *  is in the plane. Steps may be negative. Not in place.
+/** Reduces a frame: each sample is the mean over the area that it covers in its plane, as qvpiResizeSuper_8u_C1R()
+ *  takes it with r = srcLength / dstLength; see qvpiResize420GetSize() for frames. Chroma sample d covers [(d - m) r,
+ *  (d + 1 - m) r), with m = 0 where it lies between the luma pixels and m = (1 - 1 / r) / 4 where it lies on every
+ *  other, as far as that is in the plane. Steps may be negative. Not in place.
  *
- *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one of
- *         their steps
+ *  @param pSrc,srcStep source, at the pixel that GetSrcOffset tells for the tile; of 4:2:0 an array of planes and one
+ *         of their steps
  *  @param pDst,dstStep destination tile, likewise
  *  @param dstOffset,dstSize place and size of the tile in the destination's luma; clipped to it
  *  @param pSpec record
