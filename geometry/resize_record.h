@@ -97,6 +97,8 @@ struct ResizeRecord {
     std::memcpy(&value, shift + 2 * axis, sizeof(value));
     return value;
   }
+  // Areas that are those of the axes' periods but at the edges of the plane, or begin a part of a pixel earlier.
+  bool IsOfChroma() const { return isCosited[0] || isCosited[1] || isClipped; }
   bool IsShifted() const { return isClipped || Shift(0) != 0 || Shift(1) != 0; }
 
   const int32_t* Index(const ResizeAxis& axis) const { return At<int32_t>(axis.indexAt, axis.indexAtHigh); }
@@ -124,6 +126,26 @@ inline int64_t Overlap(const ResizeAxis& axis, int64_t j, int64_t k) {
   const int64_t begin = std::max(j * p, at * q), end = std::min((j + 1) * p, (at + 1) * q);
   return std::max<int64_t>(end - begin, 0);
 }
+
+// The area of destination position j on an axis of a frame, in units of 1 / (Units q) pixels: it has Units p of them.
+// That of chroma on luma samples begins (p - q) / 4 q pixels earlier than that of other samples.
+struct FrameArea {
+  int64_t units, begin, end, first;  // `first` is the pixel that it begins in, -1 before the plane
+
+  FrameArea(const ResizeRecord& record, const ResizeAxis& axis, int64_t j) : units(UnitsOf(record, axis)) {
+    begin = units * j * axis.p - (units == 4 ? axis.p - axis.q : 0);
+    end = begin + units * axis.p;
+    first = FloorOfQuotient(begin, units * axis.q);
+  }
+  static int64_t UnitsOf(const ResizeRecord& record, const ResizeAxis& axis) { return record.Parts(axis) == 4 ? 4 : 1; }
+
+  int64_t Pixels(const ResizeAxis& axis) const { return -FloorOfQuotient(-end, units * axis.q) - first; }
+  // What it covers of its pixel k.
+  int64_t Overlap(const ResizeAxis& axis, int64_t k) const {
+    const int64_t pixel = units * axis.q, at = (first + k) * pixel;
+    return std::max<int64_t>(std::min(end, at + pixel) - std::max(begin, at), 0);
+  }
+};
 
 inline const ResizeRecord* RecordOf(const QvpiResizeSpec* spec) {
   return reinterpret_cast<const ResizeRecord*>(AtBoundary(reinterpret_cast<const uint8_t*>(spec)));

@@ -164,16 +164,18 @@ bool FillTaps(ResizeRecord& record, const Method& method, Tables& tables) {
   return fill(record, record.rows, method, tables) && fill(record, record.columns, method, tables);
 }
 
-// One period: destination position j covers [j p, (j + 1) p) in units of 1 / q source pixels.
-void FillSuper(ResizeAxis& axis, Tables& tables) {
-  const int64_t p = axis.p, q = axis.q;
-  axis.taps = axis.certainTaps = static_cast<int32_t>(p / q + std::min<int64_t>(p % q, 2));
+// One period: destination position j covers [j p, (j + 1) p) in units of 1 / q source pixels. On a grid that begins
+// earlier areas may have the most pixels that there is room for.
+void FillSuper(const ResizeRecord& record, ResizeAxis& axis, Tables& tables) {
+  const int64_t p = axis.p, q = axis.q, most = record.IsOfChroma() ? 2 : std::min<int64_t>(p % q, 2);
+  axis.taps = axis.certainTaps = static_cast<int32_t>(p / q + most);
   int32_t* index = tables.TakeIndex(axis, q);
   auto* weights = tables.TakeWeights<float>(axis, q * (p / q + 2));
   for (int64_t j = 0; j < q; ++j) {
-    index[j] = static_cast<int32_t>(j * p / q);
+    const FrameArea area(record, axis, j);
+    index[j] = static_cast<int32_t>(area.first);
     for (int64_t k = 0; k < axis.taps; ++k) {
-      weights[k * q + j] = static_cast<float>(Overlap(axis, j, k));
+      weights[k * q + j] = static_cast<float>(area.Overlap(axis, k));
     }
   }
 }
@@ -187,8 +189,8 @@ bool FillTables(ResizeRecord& record, const Method& method, Tables& tables) {
       break;
     case qvpInterpolationLinear: FillLinear(record, method.weights, tables); break;
     default:
-      FillSuper(record.rows, tables);
-      FillSuper(record.columns, tables);
+      FillSuper(record, record.rows, tables);
+      FillSuper(record, record.columns, tables);
       break;
   }
   return true;
