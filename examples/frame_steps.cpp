@@ -1,5 +1,7 @@
 // Frames with subsampled chroma: the picture as 4:2:0, as video and JPEG files have it.
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "examples/demo.h"
 
@@ -71,11 +73,79 @@ void Decimations(Demo& demo, const Frame& frame) {
   }
 }
 
+// A record and a work buffer for frames of bytes.
+class FrameResizer {
+ public:
+  FrameResizer(QvpiSize from, QvpiSize to, int method, int site) {
+    int record = 0, initBuffer = 0, buffer = 0;
+    Require(qvpiResize420GetSize(from, to, qvp8u, method, 0, &record, &initBuffer));
+    record_.resize(record);
+    std::vector<Qvp8u> temporary(initBuffer);
+    if (method == qvpInterpolationLinear) Require(qvpiResize420LinearInit(from, to, qvp8u, site, spec()));
+    if (method == qvpInterpolationSuper) Require(qvpiResize420SuperInit(from, to, qvp8u, site, spec()));
+    if (method == qvpInterpolationLanczos) {
+      Require(qvpiResize420LanczosInit(from, to, qvp8u, 3, site, spec(), temporary.data()));
+    }
+    Require(qvpiResize420GetBufferSize(spec(), to, &buffer));
+    buffer_.resize(buffer);
+  }
+
+  QvpiResizeChromaSpec* spec() { return reinterpret_cast<QvpiResizeChromaSpec*>(record_.data()); }
+  Qvp8u* buffer() { return buffer_.data(); }
+
+ private:
+  std::vector<Qvp8u> record_, buffer_;
+};
+
+void Resizes(Demo& demo, const Frame& frame) {
+  const QvpiSize all = frame.y.size();
+  QvpiSize size{};
+  Require(qvpiResize420GetDstSize(all, 0.3, 0.3, &size));
+  const Frame small(size);
+  FrameResizer linear(all, size, qvpInterpolationLinear, qvpChromaTopLeft);
+  demo.Time(size, 1,
+            CALL(qvpiResize420Linear_8u_P3R, frame.from, frame.step, small.to, small.step, {0, 0}, size,
+                 qvpBorderReplicate, linear.spec(), linear.buffer()));
+  demo.Show("4:2:0 to 0.3, linear", PhotoOf(small));
+  FrameResizer lanczos(all, size, qvpInterpolationLanczos, qvpChromaTopLeft);
+  demo.Time(size, 1,
+            CALL(qvpiResize420Lanczos_8u_P3R, frame.from, frame.step, small.to, small.step, {0, 0}, size,
+                 qvpBorderReplicate, lanczos.spec(), lanczos.buffer()));
+  demo.Show("4:2:0 to 0.3, Lanczos", PhotoOf(small));
+  FrameResizer super(all, size, qvpInterpolationSuper, qvpChromaTopLeft);
+  demo.Time(size, 1,
+            CALL(qvpiResize420Super_8u_P3R, frame.from, frame.step, small.to, small.step, {0, 0}, size, super.spec(),
+                 super.buffer()));
+  demo.Show("4:2:0 to 0.3, means", PhotoOf(small));
+}
+
+// A detail, four times as large: colours move against luma where the site is not the frame's.
+void Sites(Demo& demo, const Frame& frame) {
+  const QvpiSize all = frame.y.size(), part{all.width / 8 * 2, all.height / 8 * 2};
+  const QvpiSize size{4 * part.width, 4 * part.height};
+  if (part.width < 4 || part.height < 4) return;
+  const Qvp8u* const from[] = {frame.y.At(all.width / 4 * 2 - part.width, part.height),
+                               frame.u.At(all.width / 4 - part.width / 2, part.height / 2),
+                               frame.v.At(all.width / 4 - part.width / 2, part.height / 2)};
+  for (const auto& [caption, site] : {std::pair{"Four times, chroma left", qvpChromaLeft},
+                                      std::pair{"Four times, chroma centred", qvpChromaCentre}}) {
+    const Frame large(size);
+    FrameResizer resizer(part, size, qvpInterpolationLinear, site);
+    demo.Time(size, 1,
+              CALL(qvpiResize420Linear_8u_P3R, from, frame.step, large.to, large.step, {0, 0}, size, qvpBorderReplicate,
+                   resizer.spec(), resizer.buffer()));
+    demo.Show(caption, PhotoOf(large));
+  }
+}
+
 }  // namespace
 
 void FrameSteps(Demo& demo) {
   if (demo.photo().size().width < 16 || demo.photo().size().height < 16) return;
-  Decimations(demo, FrameOf(demo.photo()));
+  const Frame frame = FrameOf(demo.photo());
+  Decimations(demo, frame);
+  Resizes(demo, frame);
+  Sites(demo, frame);
 }
 
 }  // namespace demo

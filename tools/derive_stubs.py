@@ -45,7 +45,7 @@ RESULTS = {
     "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
     "moments": "Moments", **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
     **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]",
-    "__init__": "None", "decimate_frame": "tuple[Image, ...]",
+    "__init__": "None", **dict.fromkeys(("decimate_frame", "resize_frame"), "tuple[Image, ...]"),
 }
 
 
