@@ -1,4 +1,5 @@
-// The passes of a mixed-radix transform, in place, over complex numbers whose lanes are independent lines.
+// The passes of a mixed-radix transform, in place, over complex numbers whose lanes are independent lines, of floats or
+// of doubles.
 //
 // A pass of factor p works on pieces of p m numbers. Downward (decimation in frequency; Gentleman and Sande, 1966)
 //   y[k m + j] = w^(j k) sum over q of x[q m + j] v^(q k),   w = e^(-2 pi i / (p m)), v = e^(-2 pi i / p),
@@ -39,9 +40,15 @@ HWY_INLINE Complex<V> PlusI(Complex<V> a, Complex<V> b) {
   return {hn::Sub(a.re, b.im), hn::Add(a.im, b.re)};
 }
 
+// A constant of a butterfly, rounded to the lanes' type.
+template <class D>
+HWY_INLINE hn::Vec<D> Constant(D d, double value) {
+  return hn::Set(d, static_cast<hn::TFromD<D>>(value));
+}
+
 // The same factor for all lanes.
 template <class D>
-HWY_INLINE Complex<hn::Vec<D>> Factor(D d, const float* pair) {
+HWY_INLINE Complex<hn::Vec<D>> Factor(D d, const hn::TFromD<D>* pair) {
   return {hn::Set(d, pair[0]), hn::Set(d, pair[1])};
 }
 
@@ -65,8 +72,8 @@ struct Butterfly<3> {
   template <class V>
   HWY_INLINE static void Apply(Complex<V>* x) {
     const hn::DFromV<V> d;
-    const Complex<V> sum = x[1] + x[2], turned = hn::Set(d, 0x1.bb67aep-1f) * (x[1] - x[2]);
-    const Complex<V> rest = x[0] - hn::Set(d, 0.5f) * sum;
+    const Complex<V> sum = x[1] + x[2], turned = Constant(d, 0x1.bb67ae8584caap-1) * (x[1] - x[2]);
+    const Complex<V> rest = x[0] - Constant(d, 0.5) * sum;
     x[0] = x[0] + sum;
     x[1] = MinusI(rest, turned);
     x[2] = PlusI(rest, turned);
@@ -90,8 +97,8 @@ struct Butterfly<5> {
   template <class V>
   HWY_INLINE static void Apply(Complex<V>* x) {
     const hn::DFromV<V> d;
-    const V cos1 = hn::Set(d, 0x1.3c6ef4p-2f), cos2 = hn::Set(d, -0x1.9e377ap-1f);
-    const V sin1 = hn::Set(d, 0x1.e6f0e2p-1f), sin2 = hn::Set(d, 0x1.2cf23p-1f);
+    const V cos1 = Constant(d, 0x1.3c6ef372fe95p-2), cos2 = Constant(d, -0x1.9e3779b97f4a8p-1);
+    const V sin1 = Constant(d, 0x1.e6f0e134454ffp-1), sin2 = Constant(d, 0x1.2cf2304755a5ep-1);
     const Complex<V> a = x[1] + x[4], b = x[1] - x[4], c = x[2] + x[3], e = x[2] - x[3], first = x[0];
     const Complex<V> even1 = first + (cos1 * a + cos2 * c), even2 = first + (cos2 * a + cos1 * c);
     const Complex<V> odd1 = sin1 * b + sin2 * e, odd2 = sin2 * b - sin1 * e;
@@ -109,7 +116,7 @@ struct Butterfly<8> {
   template <class V>
   HWY_INLINE static void Apply(Complex<V>* x) {
     const hn::DFromV<V> d;
-    const V root = hn::Set(d, 0x1.6a09e6p-1f);
+    const V root = Constant(d, 0x1.6a09e667f3bcdp-1);
     Complex<V> even[] = {x[0], x[2], x[4], x[6]}, odd[] = {x[1], x[3], x[5], x[7]};
     Butterfly<4>::Apply(even);
     Butterfly<4>::Apply(odd);
@@ -128,7 +135,7 @@ struct Butterfly<8> {
 
 // Any odd p: the sums and the differences of numbers k and p - k go with cosines and with sines.
 template <class V>
-HWY_INLINE void ApplyPrime(Complex<V>* x, int p, const float* pairs) {
+HWY_INLINE void ApplyPrime(Complex<V>* x, int p, const hn::TFromV<V>* pairs) {
   const hn::DFromV<V> d;
   Complex<V> y[kLargestFactor];
   y[0] = x[0];
@@ -155,24 +162,23 @@ HWY_INLINE void ApplyPrime(Complex<V>* x, int p, const float* pairs) {
 enum class Order { kDown, kUp };
 
 template <class D, class V = hn::Vec<D>>
-HWY_INLINE void MultiplyByTwiddles(D d, int p, const float* pairs, Complex<V>* x) {
+HWY_INLINE void MultiplyByTwiddles(D d, int p, const hn::TFromD<D>* pairs, Complex<V>* x) {
   for (int k = 1; k < p; ++k) x[k] = x[k] * Factor(d, pairs + 2 * (k - 1));
 }
 
 // A pass over all of the block. kFactor is 0 for a prime that is only known at run time.
-template <int kFactor, Order kOrder, bool kHasTwiddles, int kLines>
-void Pass(float* block, Planes planes, int64_t length, int64_t m, int factor, const float* twiddles,
-          const float* primes) {
-  const hn::CappedTag<float, kLines> d;
+template <int kFactor, Order kOrder, bool kHasTwiddles, int kLines, class F = float>
+void Pass(F* block, Planes planes, int64_t length, int64_t m, int factor, const F* twiddles, const F* primes) {
+  const hn::CappedTag<F, kLines> d;
   using V = hn::Vec<decltype(d)>;
   constexpr int kMost = kFactor ? kFactor : kLargestFactor;
   const int p = kFactor ? kFactor : factor;
   const ptrdiff_t number = 2 * kLines, distance = m * number, toRe = planes.re * kLines, toIm = planes.im * kLines;
-  for (float *piece = block, *end = block + length * number; piece < end; piece += p * distance) {
-    const float* pairs = twiddles;
-    for (float* at = piece; at < piece + distance; at += number, pairs += 2 * (p - 1)) {
+  for (F *piece = block, *end = block + length * number; piece < end; piece += p * distance) {
+    const F* pairs = twiddles;
+    for (F* at = piece; at < piece + distance; at += number, pairs += 2 * (p - 1)) {
       for (ptrdiff_t lane = 0; lane < kLines; lane += static_cast<ptrdiff_t>(hn::Lanes(d))) {
-        float *const re = at + toRe + lane, *const im = at + toIm + lane;
+        F *const re = at + toRe + lane, *const im = at + toIm + lane;
         Complex<V> x[kMost];
         for (int k = 0; k < p; ++k) x[k] = {hn::LoadU(d, re + k * distance), hn::LoadU(d, im + k * distance)};
         if constexpr (kHasTwiddles && kOrder == Order::kUp) MultiplyByTwiddles(d, p, pairs, x);
