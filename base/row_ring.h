@@ -111,16 +111,21 @@ class RowWindow {
 };
 
 // Windows on regions up to a width, for a kernel of so many columns: the region is walked in blocks of columns whose
-// lines stay in the nearest cache.
+// lines stay in a cache.
 class WindowPlan {
  public:
-  // `lines` of the window, with elements of up to `elementBytes`.
-  WindowPlan(int64_t kernelWidth, int64_t lines, int channels, int64_t regionWidth, int elementBytes = 8)
+  // Samples of all lines of a block that stay in the nearest cache.
+  static constexpr int64_t kNearestSamples = 4096;
+
+  // `lines` of the window, with elements of up to `elementBytes`, and about `samples` in all lines of a block.
+  WindowPlan(int64_t kernelWidth, int64_t lines, int channels, int64_t regionWidth, int elementBytes = 8,
+             int64_t samples = kNearestSamples)
       : kernelWidth_(kernelWidth),
         lines_(lines),
         regionWidth_(regionWidth),
         channels_(channels),
         elementBytes_(elementBytes),
+        samples_(samples),
         mostColumns_(std::min(regionWidth, BlockColumns())) {}
 
   // What windows on all blocks take, one after the other, from any address on.
@@ -143,14 +148,11 @@ class WindowPlan {
 
  private:
   // So many that the columns that blocks have in common do not count.
-  int64_t BlockColumns() const {
-    constexpr int64_t kCacheSamples = 4096;
-    return std::max({kCacheSamples / (lines_ * channels_), 4 * kernelWidth_, int64_t{64}});
-  }
+  int64_t BlockColumns() const { return std::max({samples_ / (lines_ * channels_), 4 * kernelWidth_, int64_t{64}}); }
 
   int64_t kernelWidth_, lines_, regionWidth_;
   int channels_, elementBytes_;
-  int64_t mostColumns_;
+  int64_t samples_, mostColumns_;
 };
 
 }  // namespace qvp

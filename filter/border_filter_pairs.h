@@ -41,6 +41,9 @@ class PairKernel {
         width_(record.width),
         channels_(channels),
         sums_(sums) {}
+  // The same of pairs that are in no record, for one channel.
+  PairKernel(const int32_t* pairs, Size kernel, const Sums& sums)
+      : pairs_(pairs), lines_(kernel.height / 2 + 1), width_(kernel.width), channels_(1), sums_(sums) {}
 
   template <int kCount>
   HWY_INLINE void Run(const typename Form::Element* const* lines, ptrdiff_t at, T* upper, T* lower) const {

@@ -25,6 +25,15 @@ class RealKernel {
         mode_(record.mode()),
         offset_(static_cast<F>(record.offset) * static_cast<F>(record.divisor)),
         divisor_(static_cast<F>(record.divisor)) {}
+  // Without a record. The samples that a row of coefficients is for are `step` apart; -1 takes them from right to left.
+  RealKernel(const F* coefficients, Size kernel, ptrdiff_t step)
+      : coefficients_(coefficients),
+        width_(kernel.width),
+        height_(kernel.height),
+        channels_(step),
+        mode_(qvpRoundNear),
+        offset_(0),
+        divisor_(1) {}
 
   template <int kCount>
   HWY_INLINE void Run(const F* const* lines, ptrdiff_t at, T* upper, T* lower) const {

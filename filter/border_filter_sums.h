@@ -38,6 +38,7 @@ class WordSums {
 
   WordSums(const FilterRecord& record, SumRange range, int64_t offset)
       : quotient_(record, range.Largest()), start(static_cast<int32_t>(offset) + quotient_.Start()) {}
+  explicit WordSums(const IntegerQuotient& quotient) : quotient_(quotient), start(quotient_.Start()) {}
 
   template <int kCount, class V>
   HWY_INLINE void Store(const V (&sums)[kCount], T* to) const {

@@ -1,6 +1,6 @@
 /** @file qvpi_transform.h
- *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of images and of blocks, and
- *  windows.
+ *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of images and of blocks,
+ *  convolutions, and windows.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *
@@ -680,6 +680,108 @@ QvpStatus qvpiDCTBlocksQuantFwd_8u16s_C1R(const Qvp8u* pSrc, int srcStep, Qvp16s
 QvpStatus qvpiDCTBlocksQuantFwd_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const Qvp16u quantizer[64]);
 QvpStatus qvpiDCTBlocksQuantInv_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u quantizer[64]);
 QvpStatus qvpiDCTBlocksQuantInv_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const Qvp16u quantizer[64]);
+/** @} */
+
+/** @name Convolution
+ *  @{ */
+/** Tells the size of the work buffer of the convolution of two images, for any of its shapes.
+ *
+ *  The size has 63 bytes to spare, so memory of any alignment will do. It is exactly what calls with the same sizes,
+ *  type, channels and method may use.
+ *
+ *  @param src1Size size of the first image
+ *  @param src2Size size of the second image
+ *  @param dataType qvp8u, qvp16s or qvp32f
+ *  @param numChannels 1, 3 or 4
+ *  @param method as the convolution is given
+ *  @param pBufferSize size of the work buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a side is below 1
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusNumChannels: `numChannels` is none of the above
+ *  - qvpStatusAlgType: `method` is none of the QvpiMethod ones
+ *  - qvpStatusSizeOverflow: the buffer, or a side of the full convolution, would be above 2147483647; the size is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvolveGetBufferSize(QvpiSize src1Size, QvpiSize src2Size, QvpDataType dataType, int numChannels, QvpiMethod method, int* pBufferSize);
+
+/** Convolves two images: the second one, a measured kernel, an aperture, a pattern, spreads every pixel of the first.
+ *
+ *  With a and b the images, W1 x H1 and W2 x H2, and zeros around both,
+ *
+ *  @code
+ *    full(x, y) = sum over j < H2, i < W2 of a(x - i, y - j) * b(i, j)
+ *  @endcode
+ *
+ *  of which the destination has
+ *
+ *  | function        | pixels                       | from (x, y) on                     |
+ *  |-----------------|------------------------------|------------------------------------|
+ *  | qvpiConvolveFull  | W1 + W2 - 1 x H1 + H2 - 1  | (0, 0): all that is not zero       |
+ *  | qvpiConvolveSame  | W1 x H1                    | ((W2 - 1) / 2, (H2 - 1) / 2), whole division |
+ *  | qvpiConvolveValid | W1 - W2 + 1 x H1 - H2 + 1  | (W2 - 1, H2 - 1): where b lies within a |
+ *
+ *  Each channel is convolved with the same channel of the other image. Rows 1 2 3 and 4 5 6 with 1 2 and 3 4 become
+ *  1 4 7 6, 7 23 33 24 and 12 31 38 24, of which "same" has 1 4 7 and 7 23 33, "valid" 23 33.
+ *
+ *  Integers: the exact sum is divided by `divisor`, of either sign, rounded to the nearest, ties to even, and saturated.
+ *  Every method gives the same bits. By 2, the rows above become 0 2 4 3, 4 12 16 12 and 6 16 19 12.
+ *
+ *  Floats, qvpMethodDirect: products are added to +0 one by one, in single precision without fused operations, j and
+ *  within it i ascending. qvpMethodFourier: tiles of the image of more pixels are multiplied by the other image as
+ *  spectra in single precision. With |a| the root of the sum of the squares of the pixels of a tile, |b| that of all of
+ *  the other image, the root mean square of the errors is at most 2^-23 |a| |b|, the largest 10 * 2^-24 |a| |b|. A NaN
+ *  or an infinity spoils all results of its tile; by the sum, those that it goes into. Whether one in b meets the zeros
+ *  around a is not promised.
+ *
+ *  qvpMethodAuto takes Fourier transforms if the image of fewer pixels has more than 120 (32f) or 200 (8u, 16s) of
+ *  them, and sums otherwise; the same on all machines.
+ *
+ *  The destination must not overlap with a source; the sources may be one image.
+ *
+ *  @param pSrc1,src1Step,src1Size first image, its size in pixels
+ *  @param pSrc2,src2Step,src2Size second image, its size in pixels
+ *  @param pDst,dstStep destination, of the size above
+ *  @param divisor of integers: any but 0
+ *  @param method qvpMethodAuto, qvpMethodDirect or qvpMethodFourier
+ *  @param pBuffer work buffer of the size that qvpiConvolveGetBufferSize() tells for the same images and method
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null
+ *  - qvpStatusSize: a side is below 1; a side of the full convolution is above 2147483647; qvpiConvolveValid: a side of
+ *    the second image is above the first one's
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusDivisor: `divisor` is 0
+ *  - qvpStatusAlgType: `method` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiConvolveFull_8u_C1R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_8u_C3R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_8u_C4R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_16s_C1R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_16s_C3R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_16s_C4R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_32f_C1R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_32f_C3R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveFull_32f_C4R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_8u_C1R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_8u_C3R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_8u_C4R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_16s_C1R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_16s_C3R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_16s_C4R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_32f_C1R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_32f_C3R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveSame_32f_C4R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_8u_C1R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_8u_C3R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_8u_C4R(const Qvp8u* pSrc1, int src1Step, QvpiSize src1Size, const Qvp8u* pSrc2, int src2Step, QvpiSize src2Size, Qvp8u* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_16s_C1R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_16s_C3R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_16s_C4R(const Qvp16s* pSrc1, int src1Step, QvpiSize src1Size, const Qvp16s* pSrc2, int src2Step, QvpiSize src2Size, Qvp16s* pDst, int dstStep, int divisor, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_32f_C1R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_32f_C3R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiConvolveValid_32f_C4R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
 /** @} */
 
 /** @name Window functions

@@ -174,6 +174,14 @@ enum {
     qvpCmpGreater = 4,   /**< greater than */
 };
 
+/** How the sums of products of two images are computed. */
+typedef int QvpiMethod;
+enum {
+    qvpMethodAuto = 0,    /**< the way that is expected to be faster; each function tells its rule */
+    qvpMethodDirect = 1,  /**< product by product */
+    qvpMethodFourier = 2, /**< by Fourier transforms, whose time hardly depends on the smaller image */
+};
+
 /** How a window fades towards the edges; see qvpiApplyWindow(). */
 typedef int QvpiWindow;
 enum {

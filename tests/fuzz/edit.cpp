@@ -57,9 +57,12 @@ Number AnySelector(std::string_view type, Number present, Choices& choices) {
   return (int{any} & ~qvpBorderInMem) | (int{present} & qvpBorderInMem);
 }
 
-void EditSize(Argument& size, bool isFree, Choices& choices) {
+// Whether a work buffer is for the sizes that it was asked for alone: smaller images may need more.
+bool HasBufferOfItsSizes(const Scene& scene) { return scene.Has("Convolve"); }
+
+void EditSize(const Scene& scene, Argument& size, bool isFree, Choices& choices) {
   Number& side = choices.In(0, 1) ? size.second : size.number;
-  side = isFree ? AnyInteger(choices) : AtMost(side, choices);
+  side = isFree ? AnyInteger(choices) : AtMost(HasBufferOfItsSizes(scene) ? 0 : int64_t{side}, choices);
 }
 
 // An offset beyond the destination is refused, unless it may be any.
@@ -134,7 +137,7 @@ void EditArgument(const Scene& scene, std::vector<Argument>& arguments, Choices&
   if (IsPointer(type)) {
     EditPointer(scene, place, argument, choices, spare);
   } else if (type.starts_with("QvpiSize")) {
-    EditSize(argument, isQuery, choices);
+    EditSize(scene, argument, isQuery, choices);
   } else if (type.starts_with("QvpiPoint")) {
     EditPoint(argument, isQuery || IsAny(name, {"roiOffset", "dstRoiOffset"}), choices);
   } else if (type.starts_with("QvpiRect")) {

@@ -25,6 +25,8 @@ int SizeFor(const Export& function, std::string_view image) {
   static constexpr Names kOfSource{"srcRoiSize", "srcSize", "roiSize"}, kInPlace{"roiSize", "roiSize", "roiSize"},
       kOfDestination{"dstRoiSize", "dstSize", "roiSize"};
   const Names& names = isSource ? kOfSource : isInPlace ? kInPlace : kOfDestination;
+  const std::string itsOwn = 's' + std::string(image.substr(std::min<size_t>(image.size(), 2))) + "Size";  // src1Size
+  if (const int place = function.Find(itsOwn); isSource && place >= 0) return place;
   for (const char* name : names) {
     if (const int place = function.Find(name); place >= 0) return place;
   }

@@ -24,6 +24,7 @@ constexpr struct {
     {"qvpiCompare", ThresholdLesson},
     {"qvpiComposite", CompositeLesson},
     {"qvpiComputeThreshold", ThresholdLesson},
+    {"qvpiConvolve", ConvolveLesson},
     {"qvpiCopyConstBorder", CopyBorderLesson},
     {"qvpiCopyMirrorBorder", CopyBorderLesson},
     {"qvpiCopyReplicateBorder", CopyBorderLesson},

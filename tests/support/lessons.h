@@ -7,6 +7,7 @@ namespace test {
 
 bool BilateralLesson(Scene& scene, size_t place, Argument& argument);
 bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
+bool ConvolveLesson(Scene& scene, size_t place, Argument& argument);
 bool CopyBorderLesson(Scene& scene, size_t place, Argument& argument);
 bool DctBlocksLesson(Scene& scene, size_t place, Argument& argument);
 bool DivisionLesson(Scene& scene, size_t place, Argument& argument);
