@@ -97,6 +97,25 @@ void ShowLowCosines(Demo& demo, const Plane& image) {
   demo.Show("From the lowest 1/64 of its cosines", Rounded(cosines));
 }
 
+// As a lens out of focus draws it: each point as a disc.
+void ShowOutOfFocus(Demo& demo, const Plane& image) {
+  constexpr int kSide = 15;
+  const QvpiSize size = image.size(), side{kSide, kSide};
+  Plane disc(side), blurred(size);
+  int area = 0, bufferBytes;
+  const auto isInside = [](int x, int y) { return 4 * ((x - 7) * (x - 7) + (y - 7) * (y - 7)) <= kSide * kSide; };
+  for (int i = 0; i < kSide * kSide; ++i) area += isInside(i % kSide, i / kSide);
+  for (int i = 0; i < kSide * kSide; ++i) {
+    *disc.At(i % kSide, i / kSide) = isInside(i % kSide, i / kSide) ? 1.0f / static_cast<float>(area) : 0.0f;
+  }
+  Require(qvpiConvolveGetBufferSize(size, side, qvp32f, 1, qvpMethodAuto, &bufferBytes));
+  std::vector<Qvp8u> buffer(bufferBytes);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiConvolveSame_32f_C1R, image.data(), image.step(), size, disc.data(), disc.step(), side,
+                 blurred.data(), blurred.step(), qvpMethodAuto, buffer.data()));
+  demo.Show("Convolved with a disc of 15 pixels", Rounded(blurred));
+}
+
 // By blocks whose coefficients are kept as multiples of a step that grows with the frequency.
 void ShowBlocks(Demo& demo, const Grey& picture, int strength) {
   const QvpiSize size = picture.size();
@@ -143,6 +162,7 @@ void FourierSteps(Demo& demo) {
   Require(qvpiDFTInv_PackToR_32f_C1R(passed.data(), passed.step(), back.data(), back.step(), transform.spec(),
                                      transform.buffer()));
   demo.Show("Without its high frequencies", Rounded(back));
+  ShowOutOfFocus(demo, green);
   ShowLowCosines(demo, green);
   for (const int strength : {4, 16, 48}) ShowBlocks(demo, Rounded(green), strength);
 }
