@@ -103,6 +103,8 @@ class Plan:
     def image_for(self, role):
         """The image whose size stands for a size that is not passed."""
         images = [name for name, operand in self.operands.items() if operand[0] == "I"]
+        if role.removesuffix("Size") in images:
+            return role.removesuffix("Size")
         if role.startswith("src"):
             return images[0]
         return "dst" if "dst" in images else next((name for name in images if name not in self.free), images[0])

@@ -209,6 +209,35 @@ def test_windows(kind, weights):
     numpy.testing.assert_allclose(qvpi.window((40, 51), kind, periodic=True), longer, atol=2e-7)
 
 
+def full_convolution(a, b):
+    """By its sum, channel by channel, of arrays with one more axis."""
+    full = numpy.zeros([n + k - 1 for n, k in zip(a.shape[:2], b.shape[:2])] + [a.shape[2]])
+    for y, x in numpy.ndindex(b.shape[:2]):
+        full[y:y + a.shape[0], x:x + a.shape[1]] += a.astype(float) * b[y, x]
+    return full
+
+
+@pytest.mark.parametrize("dtype", ["u1", "i2", "f4"])
+@pytest.mark.parametrize("method", ["auto", "direct", "fourier"])
+@pytest.mark.parametrize("channels", [1, 3, 4])
+def test_convolutions(dtype, method, channels):
+    a, b = random((21, 30, channels), dtype, 1), random((6, 9, channels), dtype, 2)
+    divisor = 1 if dtype == "f4" else 1000
+    full = full_convolution(a, b) / divisor
+    parts = {"full": full, "same": full[2:23, 4:34], "valid": full[5:21, 8:30]}
+    for shape, exact in parts.items():
+        result = qvpi.convolve(a.squeeze(), b.squeeze(), shape=shape, divisor=divisor, method=method)
+        if dtype != "f4":
+            limits = numpy.iinfo(dtype)
+            exact = numpy.clip(numpy.rint(exact), limits.min, limits.max)
+        tolerance = 3e-6 * abs(full).max() if dtype == "f4" else 0
+        numpy.testing.assert_allclose(result.reshape(exact.shape), exact, rtol=0, atol=tolerance)
+    with pytest.raises(ValueError):
+        qvpi.convolve(b.squeeze(), a.squeeze(), shape="valid")
+    with pytest.raises(TypeError):
+        qvpi.convolve(a.squeeze(), b.squeeze().astype("u2"))
+
+
 @given(st.sampled_from(["ortho", "backward", "forward", "none"]), st.tuples(st.integers(1, 40), st.integers(1, 40)))
 def test_cosine_transforms(norm, shape):
     a = random((*shape, 3), "f4", 8) % 1
