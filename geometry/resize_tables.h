@@ -27,13 +27,13 @@ struct AxisLengths {
   bool isCosited = false;  // chroma that lies on luma samples
 
   AxisLengths(ptrdiff_t n, ptrdiff_t m) : source(n), destination(m), from(n), to(m) {}
-  // Half of a luma axis.
+  // Half of a luma axis. Where the length stays all samples do, wherever they lie.
   AxisLengths(const AxisLengths& luma, bool isOnLuma)
       : source((luma.source + 1) / 2),
         destination((luma.destination + 1) / 2),
         from(luma.source),
         to(luma.destination),
-        isCosited(isOnLuma) {}
+        isCosited(isOnLuma && luma.from != luma.to) {}
 };
 
 // Fills all of a record but its tag, and tells its bytes. Fixed-point weights that do not fit 16 bits become
