@@ -8,7 +8,7 @@
 
 namespace qvp {
 
-// The low four bits of a border type. Wrapping exists as copy functions only and has no public value.
+// The low four bits of a border type.
 enum class BorderKind {
   kInMemory = 0,
   kReplicate = 1,

@@ -1,6 +1,6 @@
 /** @file qvpi_transform.h
  *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of images and of blocks,
- *  convolutions, and windows.
+ *  wavelet transforms, convolutions, and windows.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *
@@ -681,6 +681,133 @@ QvpStatus qvpiDCTBlocksQuantFwd_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s*
 QvpStatus qvpiDCTBlocksQuantInv_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, const Qvp16u quantizer[64]);
 QvpStatus qvpiDCTBlocksQuantInv_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, const Qvp16u quantizer[64]);
 /** @} */
+
+/** @name Wavelet transform: filters, record and size of the buffer
+ *  @{ */
+/** Gives a bank of wavelet filters by name. Its taps are the library's own and stay where they are.
+ *
+ *  The lower filters have the gain sqrt(2), so that a band's numbers have the size of the image's times 2 at each level.
+ *  Haar's and Daubechies's transforms are orthogonal: they keep sums of squares. The others are symmetric, and nearly
+ *  so.
+ *
+ *  | kind | taps of the lower and the higher analysis | gives the image back |
+ *  |------|-------------------------------------------|----------------------|
+ *  | qvpWaveletHaar | 2, 2 | even sides, either border |
+ *  | qvpWaveletDaubechies4, 6, 8 | 4, 4; 6, 6; 8, 8 | even sides, qvpBorderWrap |
+ *  | qvpWaveletCdf53 | 5, 3 | any sides with qvpBorderMirror, even ones with qvpBorderWrap |
+ *  | qvpWaveletCdf97 | 9, 7 | any sides with qvpBorderMirror, even ones with qvpBorderWrap |
+ *
+ *  With several levels the sides of each are meant, which are half of those before, rounded up.
+ *
+ *  @param wavelet which one
+ *  @param pBank the filters, for qvpiWaveletInit_32f()
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBank` is null
+ *  - qvpStatusNotSupportedMode: `wavelet` is no such kind
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiWaveletGetBank_32f(QvpiWaveletKind wavelet, QvpiWaveletBank* pBank);
+
+/** Tells the size of the record for a bank of filters: with 64 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param pBank the filters
+ *  @param pSpecSize size of the record in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null, or that to a filter's taps
+ *  - qvpStatusMaskSize: a filter's length is not within 1 to 64
+ *  - qvpStatusAnchor: a filter's anchor is not within 0 to length - 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiWaveletGetSize_32f(const QvpiWaveletBank* pBank, int* pSpecSize);
+
+/** Makes the record of wavelet transforms, for images of any size. It holds copies of the taps and no pointers, any
+ *  number of threads may use it.
+ *
+ *  @param pBank the filters: from qvpiWaveletGetBank_32f(), or others
+ *  @param borderType qvpBorderMirror or qvpBorderWrap, without flags
+ *  @param pSpec the record, of the size that qvpiWaveletGetSize_32f() tells
+ *  @return, in the order of the checks; a record whose initialisation fails is refused by every transform:
+ *  - qvpStatusNullPointer: a pointer is null, or that to a filter's taps
+ *  - qvpStatusMaskSize: a filter's length is not within 1 to 64
+ *  - qvpStatusAnchor: a filter's anchor is not within 0 to length - 1
+ *  - qvpStatusBorder: the border type is neither of the two
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiWaveletInit_32f(const QvpiWaveletBank* pBank, QvpiBorderType borderType, QvpiWaveletSpec_32f* pSpec);
+
+/** Tells the size of the work buffer of a wavelet transform: of images up to this size, with any number of levels. It
+ *  is at most 300 * ((width + 128) * numChannels + height + 128) bytes, and has 64 bytes to spare, so memory of any
+ *  alignment will do.
+ *
+ *  @param pSpec record from qvpiWaveletInit_32f()
+ *  @param roiSize size of the images
+ *  @param numChannels 1, 3 or 4
+ *  @param pBufferSize size of the buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusNumChannels: `numChannels` is none of 1, 3 and 4
+ *  - qvpStatusContextMatch: `pSpec` is no such record
+ *  - qvpStatusSizeOverflow: the size is above 2147483647; it is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiWaveletGetBufferSize_32f(const QvpiWaveletSpec_32f* pSpec, QvpiSize roiSize, int numChannels, int* pBufferSize);
+/** @} */
+
+/** @name Wavelet transform
+ *  @{ */
+/** Wavelet transforms of images, forward and inverse: for denoising, compression, and detail by its scale.
+ *
+ *  A line of N numbers x becomes ceil(N / 2) numbers of a lower band and floor(N / 2) of a higher one, and these the
+ *  line again. With the filters' taps h (analysis) and g (synthesis) and anchors a:
+ *
+ *  @code
+ *    low(k)  = sum over j of hLow[j] * x(2 k + j - aLow)
+ *    high(k) = sum over j of hHigh[j] * x(2 k + 1 + j - aHigh)
+ *
+ *    z(2 k) = low(k), z(2 k + 1) = high(k)
+ *    x(n) = (sum over even p of gLow[n - p + aLow] * z(p)) + (sum over odd p of gHigh[n - p + aHigh] * z(p))
+ *  @endcode
+ *
+ *  Sums are over the taps that there are, j and p ascending, in single precision; a sum of nothing is 0. Beyond its ends a
+ *  line goes on by the record's border, and z as well. A line of one number is its lower band.
+ *
+ *  Rows, then columns: the result is one image of the same size, with the lower bands left and above, the higher ones
+ *  right and below. Each further level transforms the corner with both lower bands again, of ceil(width / 2) x
+ *  ceil(height / 2). The inverse transform goes the same way back. So each band is a region of the image, and a
+ *  transform of n levels equals, to the bit, one of a single level and then one of n - 1 in place on the corner.
+ *
+ *  1 2 3 4 5 6 7 8 becomes, by qvpWaveletHaar, 2.12 4.95 7.78 10.61 and -0.71 four times. With the banks by name, there
+ *  and back gives the image as qvpiWaveletGetBank_32f() tells, within 16 * 2^-24 of the largest magnitude for each level.
+ *
+ *  Each channel is an image of its own. Source and destination may be the same image, else they must not overlap.
+ *
+ *  @param pSrc,srcStep source
+ *  @param pDst,dstStep destination
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the images
+ *  @param levels how many, 1 to 30; a corner of one pixel stays as it is
+ *  @param pSpec record from qvpiWaveletInit_32f()
+ *  @param pBuffer work buffer of the size that qvpiWaveletGetBufferSize_32f() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusBadArgument: `levels` is not within 1 to 30
+ *  - qvpStatusContextMatch: `pSpec` is no such record
+ *  - qvpStatusSize: the border is qvpBorderWrap, and a side neither 1 nor a multiple of 2^levels
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiWaveletFwd_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletFwd_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletFwd_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletFwd_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletFwd_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletInv_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletInv_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletInv_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletInv_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiWaveletInv_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
 
 /** @name Convolution
  *  @{ */

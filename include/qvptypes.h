@@ -192,6 +192,17 @@ enum {
     qvpWindowPeriodic = 0x10, /**< a flag: without the last place, where the first one comes again */
 };
 
+/** Banks of wavelet filters that are known by name; see qvpiWaveletGetBank_32f(). */
+typedef int QvpiWaveletKind;
+enum {
+    qvpWaveletHaar = 0,        /**< orthogonal, 2 taps */
+    qvpWaveletDaubechies4 = 1, /**< orthogonal, 4 taps (Daubechies 1988) */
+    qvpWaveletDaubechies6 = 2, /**< orthogonal, 6 taps */
+    qvpWaveletDaubechies8 = 3, /**< orthogonal, 8 taps */
+    qvpWaveletCdf53 = 4,       /**< symmetric, 5 and 3 taps (Le Gall, Tabatabai 1988) */
+    qvpWaveletCdf97 = 5,       /**< symmetric, 9 and 7 taps (Cohen, Daubechies, Feauveau 1992) */
+};
+
 /** How the derivatives of a gradient make one magnitude, or the differences of colours one distance. */
 typedef int QvpNormType;
 enum {
@@ -212,6 +223,7 @@ enum {
     qvpBorderReplicateAlt = 4,   /**< qvpBorderReplicate in other words, for resizing and 3x3 fixed kernels */
     qvpBorderConst = 6,          /**< a value that the caller gives */
     qvpBorderTransparent = 7,    /**< warps only: destination pixels that fall outside keep their value */
+    qvpBorderWrap = 8,           /**< wavelet transforms only: the image repeats; -1 takes the last pixel */
     qvpBorderInMemTop = 0x10,    /**< the rows above the region are in memory */
     qvpBorderInMemBottom = 0x20, /**< the rows below the region are in memory */
     qvpBorderInMemLeft = 0x40,   /**< the columns left of the region are in memory */
@@ -288,6 +300,21 @@ typedef struct {
     QvpiSize winSize; /**< the window in pixels */
 } QvpiHOGConfig;
 
+/** A filter of a wavelet transform. */
+typedef struct {
+    const Qvp32f* pTaps; /**< the taps */
+    int length;          /**< how many, 1 to 64 */
+    int anchor;          /**< which of them meets the result's own place, 0 to length - 1 */
+} QvpiWaveletFilter;
+
+/** The filters of a wavelet transform; see qvpiWaveletFwd_32f_C1R(). */
+typedef struct {
+    QvpiWaveletFilter analysisLow;   /**< makes the lower band */
+    QvpiWaveletFilter analysisHigh;  /**< makes the higher band */
+    QvpiWaveletFilter synthesisLow;  /**< what the lower band adds to the image */
+    QvpiWaveletFilter synthesisHigh; /**< what the higher band adds to it */
+} QvpiWaveletBank;
+
 /** @name Records
  *  Opaque: in memory of the caller, of the size that a query tells, filled by an Init function, read by any number of
  *  threads. Unless its family says that it may be moved, a record is valid where its Init made it, and not as a copy.
@@ -310,6 +337,7 @@ typedef struct QvpiFFTSpec_C_32fc QvpiFFTSpec_C_32fc;     /**< Fourier transform
 typedef struct QvpiDFTSpec_R_32f QvpiDFTSpec_R_32f;       /**< Fourier transform of real images, any size */
 typedef struct QvpiDCTSpec_32f QvpiDCTSpec_32f;           /**< cosine transform of images */
 typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform of complex images, any size */
+typedef struct QvpiWaveletSpec_32f QvpiWaveletSpec_32f;   /**< wavelet transform */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 /** @} */
 

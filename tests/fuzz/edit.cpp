@@ -18,7 +18,7 @@ bool IsAny(std::string_view text, std::initializer_list<std::string_view> list) 
 // Whole numbers that say nothing about memory; all others may tell how much there is.
 bool IsFree(std::string_view name) {
   return IsAny(name, {"scaleFactor", "flag", "flags", "weight", "divisor", "offset", "mOrd", "nOrd", "nChannel",
-                      "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation", "eps", "turns"});
+                      "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation", "eps", "turns", "levels"});
 }
 
 Number AnyInteger(Choices& choices) {
@@ -44,7 +44,7 @@ double AnyReal(Choices& choices) {
 bool IsFreeSelector(std::string_view type) {
   return IsAny(
       type, {"QvpCmpOp", "QvpDataType", "QvpHintAlgorithm", "QvpNormType", "QvpRoundMode", "QvpiAxis", "QvpiBorderType",
-             "QvpiInterpolationType", "QvpiLookupMethod", "QvpiWarpDirection", "QvpiWindow"});
+             "QvpiInterpolationType", "QvpiLookupMethod", "QvpiWarpDirection", "QvpiWaveletKind", "QvpiWindow"});
 }
 
 // The values of selectors lie between 0 and 20; that of a border keeps the sides that are in memory. Any other

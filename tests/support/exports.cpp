@@ -94,6 +94,7 @@ constexpr struct {
     {"qvpiThresholdLocal", LocalThresholdLesson},
     {"qvpiTranspose", TurnLesson},
     {"qvpiWarp", WarpLesson},
+    {"qvpiWavelet", WaveletLesson},
 };
 
 bool CommonRulesOnly(Scene&, size_t, Argument&) { return false; }

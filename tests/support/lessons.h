@@ -39,6 +39,7 @@ bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
+bool WaveletLesson(Scene& scene, size_t place, Argument& argument);
 bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument);
 bool WienerLesson(Scene& scene, size_t place, Argument& argument);
 bool WindowFunctionLesson(Scene& scene, size_t place, Argument& argument);
