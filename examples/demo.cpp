@@ -65,6 +65,7 @@ int main(int argc, char** argv) try {
   demo::StatsSteps(demo);
   demo::HogSteps(demo);
   demo::FourierSteps(demo);
+  demo::WaveletSteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);
   std::printf("contact sheet: %s\n", argv[2]);
   return 0;

@@ -58,5 +58,6 @@ void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);
 void HogSteps(Demo& demo);
 void FourierSteps(Demo& demo);
+void WaveletSteps(Demo& demo);
 
 }  // namespace demo

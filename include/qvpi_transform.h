@@ -808,6 +808,7 @@ QvpStatus qvpiWaveletInv_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiS
 QvpStatus qvpiWaveletInv_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiWaveletInv_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
 QvpStatus qvpiWaveletInv_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
 
 /** @name Convolution
  *  @{ */
