@@ -37,7 +37,7 @@ Plane Green(const Rgb& photo, int grain) {
     for (int x = 0; x < photo.size().width; ++x) {
       int sum = 0;
       for (int i = 0; i < 4; ++i) sum += static_cast<int>((random = random * 1664525 + 1013904223) >> 24) - 128;
-      *green.At(x, y) = static_cast<Qvp32f>(photo.At(x, y)[1] + sum * grain / 128);
+      *green.At(x, y) = static_cast<Qvp32f>(photo.At(x, y)[1]) + static_cast<Qvp32f>(sum * grain) / 128;
     }
   }
   return green;
@@ -49,7 +49,7 @@ Grey Picture(QvpiSize size, const Value& value) {
   Grey picture(size);
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) {
-      *picture.At(x, y) = static_cast<Qvp8u>(std::clamp<double>(value(x, y), 0, 255) + 0.5);
+      *picture.At(x, y) = static_cast<Qvp8u>(std::lround(std::clamp<double>(value(x, y), 0, 255)));
     }
   }
   return picture;

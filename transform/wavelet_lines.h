@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstring>
+#include <utility>
 
 #include "base/row_vectors.h"
 #include "transform/wavelet.h"
@@ -15,6 +16,40 @@ HWY_INLINE void WithChannels(int channels, const Visit& visit) {
   if (channels == 3) return visit(std::integral_constant<int, 3>());
   visit(std::integral_constant<int, 4>());
 }
+
+// Every other one of the next pixels of three channels, as many as fit into a vector.
+template <class D>
+class EveryOtherPixel {
+ public:
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D()), kPixels = kLanes / 3;
+
+  // From a number on: that of the first pixel or of the second one.
+  explicit EveryOtherPixel(ptrdiff_t begin) {
+    HWY_ALIGN int32_t first[kLanes] = {}, last[kLanes] = {}, isFirst[kLanes] = {};
+    for (ptrdiff_t l = 0; l < 3 * kPixels; ++l) {
+      const int32_t place = static_cast<int32_t>(begin + 2 * l - l % 3);
+      isFirst[l] = place < kLanes ? -1 : 0;
+      (place < kLanes ? first : last)[l] = place < kLanes ? place : static_cast<int32_t>(place - kFromLast);
+    }
+    first_ = hn::SetTableIndices(D(), first);
+    last_ = hn::SetTableIndices(D(), last);
+    isFirst_ = hn::BitCast(D(), hn::Load(hn::RebindToSigned<D>(), isFirst));
+  }
+
+  // Reads no further than the pixels go; what is stored behind them has no meaning.
+  HWY_INLINE void Copy(const float* from, float* to) const {
+    const D d;
+    const auto first = hn::TableLookupLanes(hn::LoadU(d, from), first_),
+               last = hn::TableLookupLanes(hn::LoadU(d, from + kFromLast), last_);
+    hn::StoreU(hn::IfVecThenElse(isFirst_, first, last), d, to);
+  }
+
+ private:
+  static constexpr ptrdiff_t kFromLast = 6 * kPixels - kLanes;  // of the second vector's lanes
+
+  decltype(hn::SetTableIndices(D(), std::declval<const int32_t*>())) first_, last_;
+  hn::Vec<D> isFirst_;
+};
 
 // Pixels of all channels from place 0 on; before and behind there is room for what lies beyond the ends, and for a
 // vector.
@@ -71,7 +106,8 @@ class Lines {
   // Three channels are moved as four, but for the last pair: the next pixel is stored over what is too much.
   template <int kChannels>
   HWY_INLINE void SplitPairs(const float* row, ptrdiff_t pairs) const {
-    ForEachPair<kChannels>(pairs, [row, even = even_, odd = odd_](auto d, ptrdiff_t i, ptrdiff_t to) HWY_ATTR {
+    const ptrdiff_t done = kChannels == 3 ? SplitThreeChannels(row, pairs) : 0;
+    ForEachPair<kChannels>(done, pairs, [row, even = even_, odd = odd_](auto d, ptrdiff_t i, ptrdiff_t to) HWY_ATTR {
       if constexpr (kChannels == 1 && hn::MaxLanes(decltype(d)()) > 1) {
         hn::Vec<decltype(d)> a, b;
         hn::LoadInterleaved2(d, row + i, a, b);
@@ -83,9 +119,24 @@ class Lines {
       }
     });
   }
+  // Pixels of three channels where a vector has several. Tells how many pairs are done; what is behind them is to be
+  // stored over what is too much.
+  HWY_INLINE ptrdiff_t SplitThreeChannels(const float* row, ptrdiff_t pairs) const {
+    using Pixels = EveryOtherPixel<hn::ScalableTag<float>>;
+    ptrdiff_t i = 0;
+    if constexpr (Pixels::kPixels > 1) {
+      const Pixels evenPixels(0), oddPixels(3);
+      float *const even = even_, *const odd = odd_;
+      for (; i + Pixels::kPixels < pairs; i += Pixels::kPixels) {
+        evenPixels.Copy(row + 6 * i, even + 3 * i);
+        oddPixels.Copy(row + 6 * i, odd + 3 * i);
+      }
+    }
+    return i;
+  }
   template <int kChannels>
   HWY_INLINE void JoinPairs(ptrdiff_t pairs, float* row) const {
-    ForEachPair<kChannels>(pairs, [row, even = even_, odd = odd_](auto d, ptrdiff_t i, ptrdiff_t from) HWY_ATTR {
+    ForEachPair<kChannels>(0, pairs, [row, even = even_, odd = odd_](auto d, ptrdiff_t i, ptrdiff_t from) HWY_ATTR {
       const auto a = hn::LoadU(d, even + from), b = hn::LoadU(d, odd + from);
       if constexpr (kChannels == 1 && hn::MaxLanes(decltype(d)()) > 1) {
         hn::StoreInterleaved2(a, b, d, row + i);
@@ -99,12 +150,12 @@ class Lines {
   // step(d, where in the row, where in the lines) for pairs: many of one channel at a time, one of several channels, or
   // each of its channels.
   template <int kChannels, class Step>
-  static HWY_INLINE void ForEachPair(ptrdiff_t pairs, const Step& step) {
+  static HWY_INLINE void ForEachPair(ptrdiff_t first, ptrdiff_t pairs, const Step& step) {
     if constexpr (kChannels == 1) {
       ForEachElement(hn::ScalableTag<float>(), pairs, [&](auto d, ptrdiff_t i) QVP_INLINED { step(d, 2 * i, i); });
     } else {
       const ptrdiff_t whole = kChannels == 4 ? pairs : pairs - 1;
-      ptrdiff_t i = 0;
+      ptrdiff_t i = first;
       for (; i < whole; ++i) step(hn::Full128<float>(), 2 * i * kChannels, i * kChannels);
       for (; i < pairs; ++i) {
         for (int c = 0; c < kChannels; ++c) step(hn::CappedTag<float, 1>(), 2 * i * kChannels + c, i * kChannels + c);
