@@ -686,9 +686,8 @@ QvpStatus qvpiDCTBlocksQuantInv_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s*
  *  @{ */
 /** Gives a bank of wavelet filters by name. Its taps are the library's own and stay where they are.
  *
- *  The lower filters have the gain sqrt(2), so that a band's numbers have the size of the image's times 2 at each level.
- *  Haar's and Daubechies's transforms are orthogonal: they keep sums of squares. The others are symmetric, and nearly
- *  so.
+ *  The lower filters have the gain sqrt(2), so that the lower band of an image is brighter by 2 at each level. Haar's
+ *  and Daubechies's transforms are orthogonal: they keep sums of squares. The others are symmetric, and nearly so.
  *
  *  | kind | taps of the lower and the higher analysis | gives the image back |
  *  |------|-------------------------------------------|----------------------|
@@ -769,8 +768,8 @@ QvpStatus qvpiWaveletGetBufferSize_32f(const QvpiWaveletSpec_32f* pSpec, QvpiSiz
  *    x(n) = (sum over even p of gLow[n - p + aLow] * z(p)) + (sum over odd p of gHigh[n - p + aHigh] * z(p))
  *  @endcode
  *
- *  Sums are over the taps that there are, j and p ascending, in single precision; a sum of nothing is 0. Beyond its ends a
- *  line goes on by the record's border, and z as well. A line of one number is its lower band.
+ *  Sums are over the taps that there are, j and p ascending, in single precision; a sum of nothing is 0. Beyond its
+ *  ends a line goes on by the record's border, and z as well. A line of one number is its lower band.
  *
  *  Rows, then columns: the result is one image of the same size, with the lower bands left and above, the higher ones
  *  right and below. Each further level transforms the corner with both lower bands again, of ceil(width / 2) x
@@ -778,7 +777,8 @@ QvpStatus qvpiWaveletGetBufferSize_32f(const QvpiWaveletSpec_32f* pSpec, QvpiSiz
  *  transform of n levels equals, to the bit, one of a single level and then one of n - 1 in place on the corner.
  *
  *  1 2 3 4 5 6 7 8 becomes, by qvpWaveletHaar, 2.12 4.95 7.78 10.61 and -0.71 four times. With the banks by name, there
- *  and back gives the image as qvpiWaveletGetBank_32f() tells, within 16 * 2^-24 of the largest magnitude for each level.
+ *  and back gives the image where qvpiWaveletGetBank_32f() says so, within 16 * 2^-24 of its largest magnitude for each
+ *  level.
  *
  *  Each channel is an image of its own. Source and destination may be the same image, else they must not overlap.
  *

@@ -19,9 +19,9 @@ Border = Literal["replicate", "mirror", "constant"]
 '''
 BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "premultiplied", "conjugate", "correlate",
             "columns_first")
-IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries")
+IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries", "bands")
 INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
-            "count")
+            "count", "depth")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
           "angle", "tolerance", "alpha_a", "c", "clip")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction", "fit", "fraction")
@@ -39,6 +39,7 @@ TYPES = {
     "center": "Sequence[float]", "to": "Sequence[float] | None", "frame": "Sequence[Image]",
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
+    "bank": "str | Sequence[Any]",
 }
 RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",

@@ -45,9 +45,9 @@ class Wavelet:
     """Wavelet transforms of float32 images: w = Wavelet('cdf97'); bands = w.forward(a, 3); a = w.inverse(bands, 3).
 
     bank: 'haar', 'daubechies4', 'daubechies6', 'daubechies8', 'cdf53', 'cdf97'; or four filters, each (taps, anchor):
-    analysis low and high, synthesis low and high. border: 'mirror', or 'wrap' of sides that are multiples of 2^levels.
+    analysis low and high, synthesis low and high. border: 'mirror', or 'wrap' of sides that are multiples of 2^depth.
     The bands are one image: the lower ones left and above, of ceil(n / 2) pixels, the higher ones right and below; each
-    further level transforms the corner with both lower ones. 1, 3 or 4 channels, each by itself.
+    further level, of `depth` in all, transforms the corner with both lower ones. 1, 3 or 4 channels, each by itself.
     """
 
     def __init__(self, bank="cdf97", border="mirror"):
@@ -56,15 +56,15 @@ class Wavelet:
         _INIT(packed, choice(_BORDERS, border, "border"), self._spec)
         self._buffers = {}
 
-    def forward(self, a, levels=1, out=None, *, copy=False):
+    def forward(self, a, depth=1, out=None, *, copy=False):
         """The bands. `out` may be the image."""
-        return self._run(_PASSES[0], image(a, copy), levels, out)
+        return self._run(_PASSES[0], image(a, copy), depth, out)
 
-    def inverse(self, bands, levels=1, out=None, *, copy=False):
+    def inverse(self, bands, depth=1, out=None, *, copy=False):
         """The image of bands. `out` may be these."""
-        return self._run(_PASSES[1], image(bands, copy), levels, out)
+        return self._run(_PASSES[1], image(bands, copy), depth, out)
 
-    def _run(self, operation, a, levels, out):
+    def _run(self, operation, a, depth, out):
         found = operation.find(key(a))
         if found is None:
             raise TypeError(operation._complaint(a, None))
@@ -73,7 +73,7 @@ class Wavelet:
         if shape not in self._buffers:
             self._buffers[shape] = Buffers(size_of(_BUFFER, self._spec, shape[:2], shape[2]))
         buffer = self._buffers[shape].take()
-        forgiving(found[0], (a,), (out,), (operator.index(levels), self._spec, buffer))
+        forgiving(found[0], (a,), (out,), (operator.index(depth), self._spec, buffer))
         self._buffers[shape].give(buffer)
         return out
 
@@ -83,11 +83,11 @@ def _wavelet(bank, border):
     return Wavelet(bank, border)
 
 
-def dwt2(a, levels=1, bank="cdf97", border="mirror", out=None, *, copy=False):
+def dwt2(a, depth=1, bank="cdf97", border="mirror", out=None, *, copy=False):
     """The bands of a float32 image; see Wavelet. bank: a name."""
-    return _wavelet(bank, border).forward(a, levels, out, copy=copy)
+    return _wavelet(bank, border).forward(a, depth, out, copy=copy)
 
 
-def idwt2(bands, levels=1, bank="cdf97", border="mirror", out=None, *, copy=False):
+def idwt2(bands, depth=1, bank="cdf97", border="mirror", out=None, *, copy=False):
     """The image of bands; see Wavelet. bank: a name."""
-    return _wavelet(bank, border).inverse(bands, levels, out, copy=copy)
+    return _wavelet(bank, border).inverse(bands, depth, out, copy=copy)
