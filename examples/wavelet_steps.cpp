@@ -77,7 +77,7 @@ void ShowBands(Demo& demo) {
 
 void ShowDenoised(Demo& demo) {
   constexpr int kLevels = 4;
-  constexpr float kSmall = 45;
+  constexpr float kSmall = 28;
   const Plane grainy = Green(demo.photo(), 8);
   const QvpiSize size = grainy.size();
   Wavelets wavelets(size);

@@ -8,8 +8,8 @@ namespace {
 // Long filters, none symmetric, none with its anchor in the middle.
 QvpiWaveletBank LongBank() {
   static const std::vector<float> taps = [] {
-    std::vector<float> numbers;
-    for (int i = 0; i < 64; ++i) numbers.push_back(static_cast<float>(i * 37 % 64 - 31) / 64);
+    std::vector<float> numbers(64);
+    for (int i = 0; i < 64; ++i) numbers[i] = static_cast<float>(i * 37 % 64 - 31) / 64;
     return numbers;
   }();
   return {{taps.data(), 64, 50}, {taps.data() + 3, 9, 0}, {taps.data() + 5, 1, 0}, {taps.data() + 8, 33, 32}};
