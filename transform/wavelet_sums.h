@@ -45,6 +45,7 @@ struct Taps {
 
 // Two sums for each place i, of taps times from[j][i] in ascending j: numbers that both need are loaded once.
 struct TwoSums {
+  static constexpr int kVectors = 4;                 // side by side: as many as registers hold sums of
   std::array<const float*, 2 * kMostTaps + 2> from;  // as many as there are
   Taps first, second;
 
@@ -75,6 +76,7 @@ struct TwoSums {
 template <int kFirst, int kFirstEnd, int kSecond, int kSecondEnd>
 struct KnownSums {
   static constexpr int kEnd = std::max(kFirstEnd, kSecondEnd);
+  static constexpr int kVectors = kEnd <= 5 ? 2 : 4;  // the taps of short filters stay in registers, too
   const float* from[kEnd];
   float first[kFirstEnd - kFirst], second[kSecondEnd - kSecond];
 
@@ -123,7 +125,7 @@ template <Store kStore, class... Sums>
 HWY_INLINE void StoreRange(Extent range, float* first, float* second, const Sums&... sums) {
   const hn::ScalableTag<float> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-  constexpr int kCount = sizeof...(sums) == 1 ? 4 : 2;  // so many that all are in registers
+  constexpr int kCount = sizeof...(sums) == 1 ? std::min({Sums::kVectors...}) : 2;
   const ptrdiff_t end = range.end;
   ptrdiff_t i = range.begin;
   if (end - i < kLanes) {
