@@ -810,7 +810,7 @@ QvpStatus qvpiWaveletInv_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiS
 QvpStatus qvpiWaveletInv_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, int levels, const QvpiWaveletSpec_32f* pSpec, Qvp8u* pBuffer);
 /** @} */
 
-/** @name Convolution
+/** @name Convolution: size of the buffer
  *  @{ */
 /** Tells the size of the work buffer of the convolution of two images, for any of its shapes.
  *
@@ -833,7 +833,10 @@ QvpStatus qvpiWaveletInv_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, 
  *  - qvpStatusNoError: otherwise
  */
 QvpStatus qvpiConvolveGetBufferSize(QvpiSize src1Size, QvpiSize src2Size, QvpDataType dataType, int numChannels, QvpiMethod method, int* pBufferSize);
+/** @} */
 
+/** @name Convolution
+ *  @{ */
 /** Convolves two images: the second one, a measured kernel, an aperture, a pattern, spreads every pixel of the first.
  *
  *  With a and b the images, W1 x H1 and W2 x H2, and zeros around both,
@@ -844,11 +847,11 @@ QvpStatus qvpiConvolveGetBufferSize(QvpiSize src1Size, QvpiSize src2Size, QvpDat
  *
  *  of which the destination has
  *
- *  | function        | pixels                       | from (x, y) on                     |
- *  |-----------------|------------------------------|------------------------------------|
- *  | qvpiConvolveFull  | W1 + W2 - 1 x H1 + H2 - 1  | (0, 0): all that is not zero       |
- *  | qvpiConvolveSame  | W1 x H1                    | ((W2 - 1) / 2, (H2 - 1) / 2), whole division |
- *  | qvpiConvolveValid | W1 - W2 + 1 x H1 - H2 + 1  | (W2 - 1, H2 - 1): where b lies within a |
+ *  | function          | pixels                    | from (x, y) on                               |
+ *  |-------------------|---------------------------|----------------------------------------------|
+ *  | qvpiConvolveFull  | W1 + W2 - 1 x H1 + H2 - 1 | (0, 0): all that is not zero                 |
+ *  | qvpiConvolveSame  | W1 x H1                   | ((W2 - 1) / 2, (H2 - 1) / 2), whole division |
+ *  | qvpiConvolveValid | W1 - W2 + 1 x H1 - H2 + 1 | (W2 - 1, H2 - 1): where b lies within a      |
  *
  *  Each channel is convolved with the same channel of the other image. Rows 1 2 3 and 4 5 6 with 1 2 and 3 4 become
  *  1 4 7 6, 7 23 33 24 and 12 31 38 24, of which "same" has 1 4 7 and 7 23 33, "valid" 23 33.
