@@ -33,6 +33,22 @@ inline void BlendPacked(const std::array<const int16_t*, 2>& luma, const std::ar
   hn::StoreU(blend(n - kLanes), bytes, dst + 2 * (n - kLanes));
 }
 
+// Luma or chroma of packed rows: its columns, and its filtered rows.
+struct PackedSide {
+  LinearColumns columns;
+  RowRing<int16_t> ring;
+  int offset;  // of the first sample in a row
+
+  // Filters the rows [first, last), which row(position) gives.
+  template <class Row>
+  void Filter(ptrdiff_t first, ptrdiff_t last, const Row& row) const {
+    ForTwo(
+        first, last, [&](ptrdiff_t position) { return row(position) + offset; },
+        [&](ptrdiff_t position) { return ring.Row(position); },
+        [&](const auto& from, const auto& out) { FilterFixed(columns, from, out); });
+  }
+};
+
 // A tile of packed rows; `src` points at where the whole source begins.
 struct PackedLinear {
   const FrameRecord& record;
@@ -42,35 +58,38 @@ struct PackedLinear {
 
   // The columns from `place` on to dst.
   void ResizeStrip(Point place, Size size, const Image<uint8_t>& dst) const {
-    const ResizeRecord &lumaRecord = record.Luma(), &chromaRecord = record.Chroma();
-    const Tile luma(lumaRecord, place, size), chroma(chromaRecord, record.ChromaAt(place), record.ChromaOf(size));
-    const bool isLumaFirst = record.lumaPlace == qvpLumaFirst;
-    const SourcePixels lumaPixels{1, 2, 2, isLumaFirst ? 0 : 1}, chromaPixels{2, 4, 2, isLumaFirst ? 1 : 0};
-    const ptrdiff_t step = RowFloats(size.width),
-                    ahead = lumaRecord.sourceWidth * 2 <= kLongestFetched ? 2 * src.step : 0;
+    const ptrdiff_t step = RowFloats(size.width);
     auto* const rows = reinterpret_cast<int16_t*>(AtBoundary(buffer));
     auto* const room = reinterpret_cast<uint8_t*>(rows + 4 * step);
-    const LinearColumns lumaColumns(lumaRecord, luma, border, lumaPixels, ahead, room);
-    const LinearColumns chromaColumns(chromaRecord, chroma, border, chromaPixels, 0,
-                                      room + LinearColumns::RoomBytes(size.width));
-    const RowRing<int16_t> lumaRing{rows, step, 2}, chromaRing{rows + 2 * step, step, 2};
-    const Edge edge = RowEdge(border, lumaRecord);
-    const Taps taps(lumaRecord, lumaRecord.rows, place.y, size.height);
-    const int16_t* weights = lumaRecord.Weights<int16_t>(lumaRecord.rows) + place.y;
-    const auto filterOf = [&](const LinearColumns& columns, const RowRing<int16_t>& ring, int offset, ptrdiff_t first,
-                              ptrdiff_t last) {
-      ForTwo(
-          first, last, [&](ptrdiff_t position) { return src.Row(edge(position)) + offset; },
-          [&](ptrdiff_t position) { return ring.Row(position); },
-          [&](const auto& from, const auto& out) { FilterFixed(columns, from, out); });
-    };
+    const bool isLumaFirst = record.lumaPlace == qvpLumaFirst;
+    const SourcePixels luma{1, 2, 2, isLumaFirst ? 0 : 1}, chroma{2, 4, 2, isLumaFirst ? 1 : 0};
+    const Tile lumaTile(record.Luma(), place, size);
+    const Tile chromaTile(record.Chroma(), record.ChromaAt(place), record.ChromaOf(size));
+    const ptrdiff_t ahead = record.Luma().sourceWidth * 2 <= kLongestFetched ? 2 * src.step : 0;
+    auto* const chromaRoom = room + LinearColumns::RoomBytes(size.width);
+    Walk(place.y, size, dst,
+         {LinearColumns(record.Luma(), lumaTile, border, luma, ahead, room), {rows, step, 2}, luma.offset},
+         {LinearColumns(record.Chroma(), chromaTile, border, chroma, 0, chromaRoom),
+          {rows + 2 * step, step, 2},
+          chroma.offset});
+  }
+
+  // Luma and chroma have the same rows.
+  void Walk(ptrdiff_t top, Size size, const Image<uint8_t>& dst, const PackedSide& luma,
+            const PackedSide& chroma) const {
+    const ResizeRecord& rows = record.Luma();
+    const Edge edge = RowEdge(border, rows);
+    const Taps taps(rows, rows.rows, top, size.height);
+    const int16_t* weights = rows.Weights<int16_t>(rows.rows) + top;
+    const auto row = [&](ptrdiff_t position) { return src.Row(edge(position)); };
     const auto filter = [&](ptrdiff_t first, ptrdiff_t last) {
-      filterOf(lumaColumns, lumaRing, lumaPixels.offset, first, last);
-      filterOf(chromaColumns, chromaRing, chromaPixels.offset, first, last);
+      luma.Filter(first, last, row);
+      chroma.Filter(first, last, row);
     };
     const auto blend = [&](ptrdiff_t y) {
       const ptrdiff_t first = taps.first[y];
-      BlendPacked(lumaRing.Rows<2>(first), chromaRing.Rows<2>(first), weights[y], isLumaFirst, dst.Row(y), size.width);
+      BlendPacked(luma.ring.Rows<2>(first), chroma.ring.Rows<2>(first), weights[y], record.lumaPlace == qvpLumaFirst,
+                  dst.Row(y), size.width);
     };
     const auto needs = [&](ptrdiff_t y) { return Extent{taps.first[y], taps.first[y] + ptrdiff_t{2}}; };
     WalkDown(size.height, needs, filter, blend);
