@@ -15,11 +15,11 @@ bool IsFactor(double factor) { return std::isfinite(factor) && factor > 0; }
 // n samples by a factor, or more than fit. Axes of halved chroma get even lengths, but never grow where the factor is
 // at most 1.
 int64_t Scaled(int n, double factor, bool isHalved) {
-  constexpr double kTooMany = 4294967296;
+  constexpr double kTooMany = 4294967296, kHalf = 0.5;
   const double exact = n * factor;
   if (!(exact < kTooMany)) return INT64_MAX;
-  if (!isHalved) return std::max<int64_t>(1, static_cast<int64_t>(exact + 0.5));
-  const int64_t even = std::max<int64_t>(2, 2 * static_cast<int64_t>(exact / 2 + 0.5));
+  if (!isHalved) return std::max<int64_t>(1, static_cast<int64_t>(exact + kHalf));
+  const int64_t even = std::max<int64_t>(2, 2 * static_cast<int64_t>(exact / 2 + kHalf));
   return factor <= 1 ? std::min<int64_t>(even, n) : even;
 }
 

@@ -344,24 +344,20 @@ def test_frames():
 
 
 def test_resized_frames():
-    """Luma is resized as an image, and between its pixels chroma too; packed frames are the same by rows."""
+    """Luma is resized as an image, and between its pixels chroma too."""
     for dtype, method in (("u1", "linear"), ("u2", "lanczos"), ("u1", "super")):
         luma, chroma = random((48, 80), dtype, 1), [random((24, 40), dtype, seed) for seed in (2, 3)]
         for frame in ((luma, numpy.dstack(chroma)), (luma, *chroma)):
             small = qvpi.resize_frame(frame, (30, 52), method, site="centre")
-            numpy.testing.assert_array_equal(small[0], qvpi.resize(luma, (30, 52), method))
+            numpy.testing.assert_array_equal(small[0], qvpi.resize(luma, (30, 52), method=method))
             u = small[1][..., 0] if len(frame) == 2 else small[1]
-            numpy.testing.assert_array_equal(u, qvpi.resize(chroma[0], (15, 26), method))
-        packed = numpy.dstack((luma, random((48, 80), dtype, 4)))
-        for place, order in (("first", packed), ("second", packed[..., ::-1])):
-            result = qvpi.resize_packed(order, (30, 52), method, luma=place)
-            numpy.testing.assert_array_equal(result[..., 0 if place == "first" else 1], small[0])
+            numpy.testing.assert_array_equal(u, qvpi.resize(chroma[0], (15, 26), method=method))
     ramp = numpy.tile(numpy.arange(60000, 62000, 600).astype("u2"), (2, 1))
     frame = numpy.zeros((4, 8), "u2"), ramp, ramp
     assert qvpi.resize_frame(frame, (4, 6))[1][0].tolist() == [60050, 60850, 61650]
     assert qvpi.resize_frame(frame, (4, 6), site="centre")[1][0].tolist() == [60100, 60900, 61700]
     with pytest.raises(qvpi.Error):
-        qvpi.resize_packed(packed, (30, 51))
+        qvpi.resize_frame(frame, (5, 6), "super")
 
 
 def test_hog():
