@@ -414,7 +414,9 @@ std::vector<T> Resized(const std::vector<T>& src, const Manner& m, QvpiSize from
   arguments.insert(arguments.end(), {{spec}, {buffer.data()}});
   for (const Export* function : test::FunctionsOf({std::string("Resize") + method})) {
     const std::string end = kIsByte ? "_8u_C1R" : "_16u_C1R";
-    if (function->name.ends_with(end)) EXPECT_EQ(function->call(arguments.data()), 0);
+    if (function->name.ends_with(end)) {
+      EXPECT_EQ(function->call(arguments.data()), 0);
+    }
   }
   return dst;
 }
