@@ -10,32 +10,32 @@ from .values import DATA_TYPES
 
 __all__ = ["convolve"]
 
-_SHAPES = {shape: {divided: Operation(f"Convolve{shape.title()}", f"src1 src2 dst {divided}method buffer",
+_MODES = {mode: {divided: Operation(f"Convolve{mode.title()}", f"src1 src2 dst {divided}method buffer",
                                       free=("src1", "src2", "dst")) for divided in ("", "divisor ")}
-           for shape in ("full", "same", "valid")}
+           for mode in ("full", "same", "valid")}
 _METHODS = {"auto": 0, "direct": 1, "fourier": 2}
 _CONVOLVE_SIZE = make_call("qvpiConvolveGetBufferSize", "src1Size src2Size dataType numChannels method bufferSize")
 
 
-def _convolved(shape, a, b):
+def _convolved(mode, a, b):
     """Sides of a convolution."""
-    more = {"full": 1, "valid": -1}.get(shape, 0)
+    more = {"full": 1, "valid": -1}.get(mode, 0)
     return tuple(n + more * (k - 1) for n, k in zip(a.shape[:2], b.shape[:2])) + a.shape[2:]
 
 
-def convolve(a, b, out=None, *, shape="same", divisor=1, method="auto", copy=False):
+def convolve(a, b, out=None, *, mode="same", divisor=1, method="auto", copy=False):
     """The convolution of two images, of the same dtype and channels: uint8, int16, float32.
 
-    shape: 'full', 'same' (that of a) or 'valid' (where b lies within a). Integers are divided by the divisor, rounded
+    mode: 'full', 'same' (as large as a), 'valid' (where b lies within a). Integers are divided by the divisor, rounded
     and saturated: exactly, by whatever method. method: 'direct', 'fourier', or 'auto', the one that is faster.
     """
     a, b = image(a, copy), image(b, copy)
-    operation = choice(_SHAPES, shape, "shape")["divisor " if a.dtype.kind in "iu" else ""]
+    operation = choice(_MODES, mode, "mode")["divisor " if a.dtype.kind in "iu" else ""]
     found, way = operation.find(key(a)), choice(_METHODS, method, "method")
     if found is None or key(a) != key(b):
         raise TypeError(f"there are convolutions of uint8, int16 and float32 with 1, 3 or 4 channels, of two alike; "
                         f"not of {a.dtype} {a.shape} and {b.dtype} {b.shape}")
-    wanted = _convolved(shape, a, b)
+    wanted = _convolved(mode, a, b)
     if min(wanted) < 1:
         raise ValueError(f"b, of shape {b.shape}, does not lie within a, of shape {a.shape}")
     if out is None:

@@ -225,15 +225,15 @@ def test_convolutions(dtype, method, channels):
     divisor = 1 if dtype == "f4" else 1000
     full = full_convolution(a, b) / divisor
     parts = {"full": full, "same": full[2:23, 4:34], "valid": full[5:21, 8:30]}
-    for shape, exact in parts.items():
-        result = qvpi.convolve(a.squeeze(), b.squeeze(), shape=shape, divisor=divisor, method=method)
+    for mode, exact in parts.items():
+        result = qvpi.convolve(a.squeeze(), b.squeeze(), mode=mode, divisor=divisor, method=method)
         if dtype != "f4":
             limits = numpy.iinfo(dtype)
             exact = numpy.clip(numpy.rint(exact), limits.min, limits.max)
         tolerance = 3e-6 * abs(full).max() if dtype == "f4" else 0
         numpy.testing.assert_allclose(result.reshape(exact.shape), exact, rtol=0, atol=tolerance)
     with pytest.raises(ValueError):
-        qvpi.convolve(b.squeeze(), a.squeeze(), shape="valid")
+        qvpi.convolve(b.squeeze(), a.squeeze(), mode="valid")
     with pytest.raises(TypeError):
         qvpi.convolve(a.squeeze(), b.squeeze().astype("u2"))
 
