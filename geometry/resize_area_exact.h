@@ -141,6 +141,16 @@ class PairSums {
   float planes_[2][kStripFloats / 2 + kSpareSums];
 };
 
+// The zeros behind the sums are all that taps of weight 0 may meet.
+inline Taps TapsOf(const ResizeRecord& record, const Strip& strip, const Period& across) {
+  Taps taps(record, record.columns, 0, strip.columns);
+  taps.first = strip.first;
+  taps.from = 0;
+  taps.to = strip.columns;
+  taps.count = taps.certain = across.taps;
+  return taps;
+}
+
 template <class T>
 void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Strip& strip,
                  const Period& across, const Period& down) {
@@ -149,12 +159,7 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   float sums[kStripFloats];
   ClearBehind(sums, strip.pixels * channels);
   auto* averages = reinterpret_cast<float*>(AtBoundary(call.buffer));
-  Taps taps(record, record.columns, 0, strip.columns);
-  taps.first = strip.first;
-  taps.from = 0;
-  taps.to = strip.columns;
-  taps.count = across.taps;
-  taps.certain = across.taps;  // the zeros behind the sums need no other care
+  const Taps taps = TapsOf(record, strip, across);
   ColumnPlan<float> plan(taps, Edge{BorderKind::kReplicate, {0, strip.pixels}}, channels == 2 ? 1 : channels);
   PairSums pairs;
   if (channels == 2) pairs.Clear(strip.pixels);
