@@ -49,10 +49,12 @@ const void* Buffer(Scene& scene) {
   return scene.Input(bytes);
 }
 
-// No output, as it holds addresses.
+// No output, as it holds addresses. As large on every machine, so that scenes go on with the same numbers.
 const void* Bank(Scene& scene) {
+  constexpr size_t kBytes = 64;
   const QvpiWaveletBank bank = MannerOf(scene).bank;
-  uint8_t* const memory = scene.Input(sizeof(bank));
+  static_assert(sizeof(bank) <= kBytes);
+  uint8_t* const memory = scene.Input(kBytes);
   std::memcpy(memory, &bank, sizeof(bank));
   return memory;
 }
