@@ -45,6 +45,13 @@ const Export& FunctionWithOther(std::string_view type, uint32_t number) {
   }
 }
 
+// Addresses of a library's own data, which every build has elsewhere.
+bool GivesAddresses(const Export& function) {
+  const auto& parameters = function.parameters;
+  return std::any_of(parameters.begin(), parameters.end(),
+                     [](const Parameter& p) { return p.type.starts_with("QvpiWaveletBank"); });
+}
+
 // As another version of the library might identify a record. Only the family knows where the word lies.
 void SpoilIdentification(const Scene::Piece& record, int bit) {
   for (size_t i = 0; i < record.size; ++i) record.data[i] ^= 1 << bit;
@@ -105,6 +112,7 @@ Trial::Trial(size_t function, Choices& choices, Workshop& workshop)
       scene_{function_, RegionFrom(choices), choices.Next<uint16_t>()},  // in this order
       pieces_(scene_.Pieces()),
       arguments_(scene_.arguments) {
+  isComparable_ = !GivesAddresses(function_);
   const int sharing = choices.Next(), edits = choices.Next();
   ChooseRecord(choices);
   for (int i = 0; i < (edits & 3) && edits >= 64; ++i) EditArgument(scene_, arguments_, choices, workshop.numbers);
