@@ -26,7 +26,7 @@ void TakeChroma(const T* chroma, QvpiLumaPlace lumaPlace, ptrdiff_t n, T* dst) {
 }
 
 // Chroma of a part of the destination is on the stack until it is joined.
-constexpr ptrdiff_t kPartBytes = 16384, kPartColumns = 1024;
+constexpr ptrdiff_t kPartBytes = 12288, kPartColumns = 1024;
 
 template <class T>
 struct Packed {
