@@ -9,12 +9,12 @@ are independent, `threads=`; classes keep what takes preparation. A call that is
 TypeError, and writes nothing.
 """
 from . import (arithmetic, compositing, convolution, denoise, features, filters, fourier, frames, kernels, layout, raw,
-               resizing, statistics, values, warps, wavelet)
+               remapping, resizing, statistics, values, warps, wavelet)
 from ._errors import Error, Warning
 from ._threads import get_threads, set_threads
 
-_MODULES = (arithmetic, compositing, convolution, denoise, features, filters, fourier, frames, kernels, layout, resizing,
-            statistics, values, warps, wavelet)
+_MODULES = (arithmetic, compositing, convolution, denoise, features, filters, fourier, frames, kernels, layout, remapping,
+            resizing, statistics, values, warps, wavelet)
 __all__ = ["Error", "Warning", "get_threads", "info", "raw", "set_threads"]
 for _module in _MODULES:
     __all__ += _module.__all__

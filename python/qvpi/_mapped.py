@@ -52,6 +52,17 @@ class Mapped:
         _threads.run(lambda first, end: self._run(a, out[first:end], column, row + first), parts)
         return out
 
+    def tile(self, part, origin, tile):
+        """A tile of the destination from the part of the source that source(tile) tells, whose place is `origin`."""
+        row, column, height, width = checked_tile(tile, self.dst_shape)
+        part, needed = image(part), self.source(tile)
+        if (part.shape[0] < needed[0] + needed[2] - origin[0] or part.shape[1] < needed[1] + needed[3] - origin[1]
+                or needed[0] < origin[0] or needed[1] < origin[1]):
+            raise ValueError(f"the tile needs the part {needed} of the source")
+        out = self.new((height, width, *self.src_shape[2:]))
+        self._run_on_part(part, origin, out, column, row)
+        return out
+
     def _checked(self, a, copy):
         a = image(a, copy)
         if key(a) != self._key or a.shape != self.src_shape:

@@ -80,18 +80,10 @@ class Resizer(Mapped):
         end = numpy.minimum(offset + size + reach[2:], self.src)
         return int(first[1]), int(first[0]), int(end[1] - first[1]), int(end[0] - first[0])
 
-    def tile(self, part, origin, tile):
-        """A tile of the destination from the part of the source that source(tile) tells, whose place is `origin`."""
-        row, column, height, width = checked_tile(tile, self.dst_shape)
-        part, needed = image(part), self.source(tile)
-        if (part.shape[0] < needed[0] + needed[2] - origin[0] or part.shape[1] < needed[1] + needed[3] - origin[1]
-                or needed[0] < origin[0] or needed[1] < origin[1]):
-            raise ValueError(f"the tile needs the part {needed} of the source")
-        out = self.new((height, width, *self.src_shape[2:]))
-        self._run(part, out, column, row, origin)
-        return out
+    def _run(self, a, out, x, y):
+        self._run_on_part(a, (0, 0), out, x, y)
 
-    def _run(self, a, out, x, y, origin=(0, 0)):
+    def _run_on_part(self, a, origin, out, x, y):
         if x or y:
             offset = numpy.zeros(2, numpy.int32)
             self._offset(self._spec, (x, y), offset)

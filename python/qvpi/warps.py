@@ -1,4 +1,4 @@
-"""Images of another shape: warps by a matrix, remapping by two maps.
+"""Images of another shape: warps by a matrix, and the matrices.
 
 Images have the shape (H, W), or (H, W, C) with 3 or 4 channels. Positions are (x, y), x to the right and y down, and
 pixels lie at whole coordinates; sizes are shapes, (H, W). The result is the same to the bit by tiles, on any number of
@@ -8,18 +8,16 @@ from functools import partial
 
 import numpy
 
-from . import _threads
-from ._call import key
 from ._errors import Error
 from ._mapped import INTERPOLATIONS, Mapped
-from ._operation import Operation, checked_tile, forgiving, image, refuse_overlap
+from ._operation import Operation, checked_tile, image
 from ._plan import make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
 from .raw import ffi, lib
 
-__all__ = ["Remap", "Warp", "affine_transform", "bilinear_transform", "perspective_transform", "remap", "rotate",
-           "rotation", "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
+__all__ = ["Warp", "affine_transform", "bilinear_transform", "perspective_transform", "rotate", "rotation",
+           "warp_affine", "warp_bilinear", "warp_bilinear_quad", "warp_perspective", "warp_quad"]
 
 _OUTSIDE = {"replicate": lib.qvpBorderReplicate, "constant": lib.qvpBorderConst,
             "transparent": lib.qvpBorderTransparent}
@@ -97,25 +95,15 @@ class Warp(Mapped):
         end = numpy.clip(numpy.ceil(places.max(0)) + _REACH, first + 1, limits).astype(int)
         return (*first.tolist(), *(end - first).tolist())
 
-    def tile(self, part, origin, tile):
-        """A tile of the destination from the part of the source that source(tile) tells, whose place is `origin`."""
-        row, column, height, width = checked_tile(tile, self.dst_shape)
-        part, needed = numpy.ascontiguousarray(image(part)), self.source(tile)
-        if (part.shape[0] < needed[0] + needed[2] - origin[0] or part.shape[1] < needed[1] + needed[3] - origin[1]
-                or needed[0] < origin[0] or needed[1] < origin[1]):
-            raise ValueError(f"the tile needs the part {needed} of the source")
-        out = self.new((height, width, *self.src_shape[2:]))
-        self._run_on_part(part, origin, out, (column, row))
-        return out
-
-    def _run_on_part(self, part, origin, out, place):
+    def _run_on_part(self, part, origin, out, x, y):
         """As _run, with the address where the whole source would begin if there were more of it than the part."""
+        part = numpy.ascontiguousarray(part)
         row, pixel = part.strides[:2]
         begin = part.ctypes.data - origin[0] * row - origin[1] * pixel
         buffer = self._buffers.take()
         src, dst, spec, work = (ffi.cast("void*", address) for address in
                                 (begin, out.ctypes.data, self._spec.ctypes.data, buffer.ctypes.data))
-        status = getattr(lib, self._name)(src, row, dst, out.strides[0], place, out.shape[1::-1], spec, work)
+        status = getattr(lib, self._name)(src, row, dst, out.strides[0], (x, y), out.shape[1::-1], spec, work)
         self._buffers.give(buffer)
         if status < 0:
             raise Error(status, self._name)
@@ -257,49 +245,3 @@ _ROTATE_SCALE = make_call("qvpiGetRotateScaleTransform", "xSrc ySrc xDst yDst an
 _ROTATE_FIT = make_call("qvpiGetRotateFit", "srcSize angle dstSize shiftX shiftY")
 _ROTATE_INSIDE = make_call("qvpiGetRotateInside", "srcSize angle roi")
 _ROTATE = make_call("qvpiGetRotateTransform", "angle shiftX shiftY coeffs")
-
-
-# ---- remapping
-
-_REMAP = Operation("Remap", "src xMap yMap dst srcRoi interpolation", free=("src",))
-_REMAP_METHODS = INTERPOLATIONS | {"cubic classic": lib.qvpInterpolationCubicClassic}
-_WHOLE = ("nearest", "linear", "cubic", "cubic classic", "lanczos")
-
-
-class Remap:
-    """Each destination pixel from the source point that two maps tell: m = Remap(x, y); m(a).
-
-    x, y: float32 of the destination's shape (float64 for float64 images). method: 'nearest', 'linear', 'cubic', 'cubic
-    classic', 'lanczos'. Pixels whose points are outside the source keep the value that `out` has; in a new array 0.
-    smooth: points up to a pixel outside blend into it.
-    """
-
-    def __init__(self, x, y, method="linear", smooth=False):
-        if method not in _WHOLE:
-            raise ValueError(f"method must be one of {', '.join(map(repr, _WHOLE))}, not {method!r}")
-        self.x, self.y = image(x, name="x"), image(y, name="y")
-        self._method = _REMAP_METHODS[method] | (lib.qvpSmoothEdge if smooth else 0)
-
-    def __call__(self, a, out=None, *, threads=None, copy=False):
-        a = image(a, copy)
-        found = _REMAP.find(key(a))
-        if found is None:
-            raise TypeError(_REMAP._complaint(a, None))
-        if out is None:
-            out = numpy.zeros((*self.x.shape, *a.shape[2:]), a.dtype)
-        image(out, name="out")
-        if out.shape[:2] != self.x.shape or self.x.shape != self.y.shape:
-            raise ValueError("maps and destination must have one shape")
-        refuse_overlap(out, (a, self.x, self.y))
-        roi = 0, 0, a.shape[1], a.shape[0]
-
-        def strip(first, end):
-            forgiving(found[0], (a, self.x[first:end], self.y[first:end]), (out[first:end],), (roi, self._method))
-
-        _threads.run(strip, _threads.strips(out.shape[0], _threads.count(threads)))
-        return out
-
-
-def remap(a, x, y, out=None, *, method="linear", smooth=False, threads=None, copy=False):
-    """The image at the points of two maps; see Remap."""
-    return Remap(x, y, method, smooth)(a, out, threads=threads, copy=copy)
