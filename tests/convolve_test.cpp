@@ -209,7 +209,9 @@ TEST(Convolve, PartsOfBothImagesAreExact) {
   ExpectExact(FunctionNamed("qvpiConvolveSame_16s_C1R"), {a, b, 100003, qvpMethodFourier});
 }
 
-TEST(Convolve, FloatsAreAddedInOrder) {
+// check(function, a, b) for random images of all float members and sizes.
+template <class Check>
+void ForEachFloatCase(const Check& check) {
   int turn = 0;
   for (const Export* function : Convolutions()) {
     const Name name(function->name);
@@ -217,12 +219,18 @@ TEST(Convolve, FloatsAreAddedInOrder) {
     for (const Pair& pair : kPairs) {
       Operand a(name.From(), pair.a, name.channels, 4), b(name.From(), pair.b, name.channels, 8);
       a.Fill(Content::kRandom, ++turn), b.Fill(Content::kRandom, turn + 1000);
-      const auto full = FullOfEach<float>(a, b);
-      ForEachResult(*function, {a, b, 1, qvpMethodDirect}, [&](int channel, Real result, size_t at) {
-        ASSERT_EQ(result, full[channel][at]) << function->name << ' ' << pair.b.width << 'x' << pair.b.height;
-      });
+      SCOPED_TRACE(function->name + ' ' + std::to_string(pair.b.width) + 'x' + std::to_string(pair.b.height));
+      check(*function, a, b);
     }
   }
+}
+
+TEST(Convolve, FloatsAreAddedInOrder) {
+  ForEachFloatCase([](const Export& function, const Operand& a, const Operand& b) {
+    const auto full = FullOfEach<float>(a, b);
+    ForEachResult(function, {a, b, 1, qvpMethodDirect},
+                  [&](int channel, Real result, size_t at) { ASSERT_EQ(result, full[channel][at]); });
+  });
 }
 
 double Norm(const std::vector<double>& values) {
@@ -233,25 +241,18 @@ double Norm(const std::vector<double>& values) {
 
 TEST(Convolve, SpectraOfFloatsKeepTheirErrors) {
   constexpr double kEps = 0x1p-24;
-  int turn = 0;
-  for (const Export* function : Convolutions()) {
-    const Name name(function->name);
-    if (name.From().isInteger) continue;
-    for (const Pair& pair : kPairs) {
-      Operand a(name.From(), pair.a, name.channels, 4), b(name.From(), pair.b, name.channels, 8);
-      a.Fill(Content::kRandom, ++turn), b.Fill(Content::kRandom, turn + 1000);
-      const auto full = FullOfEach<double>(a, b);
-      std::vector<double> errors(name.channels), count(name.channels);
-      const auto norms = PerChannel(a, [&](int c) { return Norm(a.Plane(c)) * Norm(b.Plane(c)); });
-      ForEachResult(*function, {a, b, 1, qvpMethodFourier}, [&](int channel, Real result, size_t at) {
-        const double error = std::abs(static_cast<double>(result) - full[channel][at]) / (kEps * norms[channel]);
-        ASSERT_LE(error, 10) << function->name << ' ' << pair.b.width << 'x' << pair.b.height;
-        errors[channel] += error * error;
-        ++count[channel];
-      });
-      for (int c = 0; c < name.channels; ++c) ASSERT_LE(errors[c], 4 * count[c]) << function->name;
-    }
-  }
+  ForEachFloatCase([](const Export& function, const Operand& a, const Operand& b) {
+    const auto full = FullOfEach<double>(a, b);
+    const auto norms = PerChannel(a, [&](int c) { return Norm(a.Plane(c)) * Norm(b.Plane(c)); });
+    std::vector<double> errors(full.size()), count(full.size());
+    ForEachResult(function, {a, b, 1, qvpMethodFourier}, [&](int channel, Real result, size_t at) {
+      const double error = std::abs(static_cast<double>(result) - full[channel][at]) / (kEps * norms[channel]);
+      ASSERT_LE(error, 10);
+      errors[channel] += error * error;
+      ++count[channel];
+    });
+    for (size_t c = 0; c < full.size(); ++c) ASSERT_LE(errors[c], 4 * count[c]);
+  });
 }
 
 // Kernels so small beside the image that there are several tiles, whose edges the results must not show.
