@@ -915,6 +915,104 @@ QvpStatus qvpiConvolveValid_32f_C3R(const Qvp32f* pSrc1, int src1Step, QvpiSize 
 QvpStatus qvpiConvolveValid_32f_C4R(const Qvp32f* pSrc1, int src1Step, QvpiSize src1Size, const Qvp32f* pSrc2, int src2Step, QvpiSize src2Size, Qvp32f* pDst, int dstStep, QvpiMethod method, Qvp8u* pBuffer);
 /** @} */
 
+/** @name Deconvolution: sizes and record
+ *  @{ */
+/** Tells the sizes of the record and of the buffers of a deconvolution, and makes the record for a known blur.
+ *
+ *  The blur is told by a point-spread image: what it makes of a single bright pixel, whose place is column
+ *  (psfSize.width - 1) / 2 and row (psfSize.height - 1) / 2, whole division. It is of one channel, serves all channels
+ *  of an image, and is taken as it is: if its sum is not 1, the blur also changes the brightness. The record has a
+ *  spectrum of it; calls only read the record, so that any number of threads may share it.
+ *
+ *  What lies beyond the edges of the image is told by `borderType`, and goes on until the image can be taken as a torus,
+ *  whose columns and rows begin anew after the last. Its sides are the image's with qvpBorderWrap, else the smallest
+ *  even numbers without other prime factors than 2, 3 and 5 from roiSize + psfSize - 1 on; behind the last column, half
+ *  of the further ones continue the image to the right, the others lead up to the first one. Rows likewise.
+ *
+ *  The sizes have 63 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param roiSize size of the images
+ *  @param pPsf,psfStep,psfSize point-spread image, not larger than `roiSize`
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror, qvpBorderConst (zeros) or qvpBorderWrap, without flags
+ *  @param pSpecSize size of the record in bytes
+ *  @param pInitBufSize size of the buffer of Init in bytes
+ *  @param pBufferSize size of the work buffer of calls in bytes: three planes of the torus and what its Fourier transform
+ *    takes
+ *  @param pSpec record
+ *  @param pInitBuf buffer of Init, free afterwards
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side is below 1; a side of the point-spread image is above the image's
+ *  - qvpStatusStep: `psfStep` is below 1
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusBadArgument: a pixel of the point-spread image is not finite
+ *  - qvpStatusSizeOverflow: a size would be above 2147483647; the sizes are 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDeconvolveGetSize_32f(QvpiSize roiSize, QvpiSize psfSize, QvpiBorderType borderType, int* pSpecSize, int* pInitBufSize, int* pBufferSize);
+QvpStatus qvpiDeconvolveInit_32f(QvpiSize roiSize, const Qvp32f* pPsf, int psfStep, QvpiSize psfSize, QvpiBorderType borderType, QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pInitBuf);
+/** @} */
+
+/** @name Deconvolution
+ *  @{ */
+/** Restores an image from a known blur: of a lens out of focus, of a motion, of an aperture.
+ *
+ *  With y the image on its torus (qvpiDeconvolveInit_32f()), Y its Fourier transform, K that of the point-spread image,
+ *  S the sum of the latter,
+ *
+ *  **qvpiDeconvolveInverse** divides by the blur where it has left something, all at once:
+ *
+ *  @code
+ *    X = conj(K) * Y / D,   D = |K|^2 + noise + smoothness * L^2,   0 where D is 0
+ *    L(u, v) = (2 - 2 cos(2 pi u / width)) + (2 - 2 cos(2 pi v / height))   of the torus
+ *  @endcode
+ *
+ *  `noise` is the power of the noise over that of the picture (Wiener), 0.0001 to 0.1; `smoothness` weighs fine detail
+ *  more than coarse (Hunt 1973). The less of both, the sharper the result, and the noisier. A NaN or an infinity spoils
+ *  the whole channel. The root mean square of the errors is at most 4 * 2^-24 times that of y times the largest
+ *  (|K| + |h|) / D, where |h| is the root of the sum of the squared pixels of the point-spread image.
+ *
+ *  **qvpiDeconvolveIterative** looks for the picture without negative pixels whose blur is most likely to have given the
+ *  image, in so many steps (Richardson 1972, Lucy 1974): slower, with fewer rings at edges. From a constant on,
+ *
+ *  @code
+ *    e <- max(e * correlation of h with q / S, 0),   q = y / (h convolved with e), 0 where the divisor is not above threshold
+ *  @endcode
+ *
+ *  Pixels of the image that are not above 0, NaN too, count as 0. 10 to 50 iterations are usual; more bring out noise.
+ *  For pictures within 0 to 1, `threshold` may be 0.000001. After 20 iterations of such pictures the root mean square of
+ *  the errors is at most 32 * 2^-24.
+ *
+ *  The row 0 4 0 0 with 1/4 1/2 1/4 and qvpBorderWrap becomes 1 2 1 0 by one iteration, 2/3 8/3 2/3 0 by two,
+ *  0.8 2.8 0.8 -1.2 by a noise of 1/4, and 1 1.8 1 0.2 by a smoothness of 1/4.
+ *
+ *  Takes two Fourier transforms of the torus in single precision, the iteration 4 * iterations - 2. Each channel is an
+ *  image of its own. Source and destination must not overlap.
+ *
+ *  @param pSrc,srcStep source, of the size that the record was made for
+ *  @param pDst,dstStep destination, of the same size
+ *  @param noise,smoothness at least 0, and not both 0
+ *  @param iterations at least 1
+ *  @param threshold at least 0
+ *  @param pSpec record from qvpiDeconvolveInit_32f()
+ *  @param pBuffer work buffer of the size that qvpiDeconvolveGetSize_32f() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusBadArgument: `noise` or `smoothness` is negative or not finite, or both are 0; `iterations` is below 1 or
+ *    `threshold` not at least 0
+ *  - qvpStatusContextMatch: `pSpec` is no such record
+ *  - qvpStatusBadArgument: qvpiDeconvolveIterative: the sum of the point-spread image is not above 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiDeconvolveInverse_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, Qvp32f noise, Qvp32f smoothness, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDeconvolveInverse_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, Qvp32f noise, Qvp32f smoothness, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDeconvolveInverse_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, Qvp32f noise, Qvp32f smoothness, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDeconvolveIterative_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, int iterations, Qvp32f threshold, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDeconvolveIterative_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, int iterations, Qvp32f threshold, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+QvpStatus qvpiDeconvolveIterative_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, int iterations, Qvp32f threshold, const QvpiDeconvolveSpec_32f* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Window functions
  *  @{ */
 /** Multiplies an image by a window, which fades it towards its edges: so that spectra do not show the jump from one

@@ -223,7 +223,7 @@ enum {
     qvpBorderReplicateAlt = 4,   /**< qvpBorderReplicate in other words, for resizing and 3x3 fixed kernels */
     qvpBorderConst = 6,          /**< a value that the caller gives */
     qvpBorderTransparent = 7,    /**< warps only: destination pixels that fall outside keep their value */
-    qvpBorderWrap = 8,           /**< wavelet transforms only: the image repeats; -1 takes the last pixel */
+    qvpBorderWrap = 8,           /**< wavelets and deconvolution only: the image repeats; -1 takes the last pixel */
     qvpBorderInMemTop = 0x10,    /**< the rows above the region are in memory */
     qvpBorderInMemBottom = 0x20, /**< the rows below the region are in memory */
     qvpBorderInMemLeft = 0x40,   /**< the columns left of the region are in memory */
@@ -338,6 +338,7 @@ typedef struct QvpiDFTSpec_R_32f QvpiDFTSpec_R_32f;       /**< Fourier transform
 typedef struct QvpiDCTSpec_32f QvpiDCTSpec_32f;           /**< cosine transform of images */
 typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform of complex images, any size */
 typedef struct QvpiWaveletSpec_32f QvpiWaveletSpec_32f;   /**< wavelet transform */
+typedef struct QvpiDeconvolveSpec_32f QvpiDeconvolveSpec_32f; /**< deconvolution */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 /** @} */
 

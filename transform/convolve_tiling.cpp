@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "signal/plane_transform.h"
+#include "signal/smooth_lengths.h"
 
 namespace qvp::convolution {
 namespace {
@@ -17,24 +18,12 @@ int64_t WorkPerNumber(int64_t length) {
   return work;
 }
 
-// Calls visit(n) for all n = unit 2^i 3^j 5^k from `least` to `most`.
-template <class Visit>
-void ForEachSmooth(int64_t unit, int64_t least, int64_t most, const Visit& visit) {
-  for (int64_t fives = unit; fives <= most; fives *= 5) {
-    for (int64_t threes = fives; threes <= most; threes *= 3) {
-      for (int64_t n = threes; n <= most; n *= 2) {
-        if (n >= least) visit(n);
-      }
-    }
-  }
-}
-
 }  // namespace
 
 Tiling TilingFor(int64_t image, int64_t kernel, int64_t unit) {
   const int64_t full = image + kernel - 1, most = std::max(2 * full, unit);
   int64_t best = 0, least = INT64_MAX;
-  ForEachSmooth(unit, kernel, most, [&](int64_t side) {
+  dft::ForEachSmooth(unit, kernel, most, [&](int64_t side) {
     const int64_t step = side >= full ? side : side - kernel + 1, tiles = (full + step - 1) / step;
     const int64_t work = tiles * side * WorkPerNumber(side);
     if (work < least || (work == least && side < best)) best = side, least = work;

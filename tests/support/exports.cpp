@@ -35,6 +35,7 @@ constexpr struct {
     {"qvpiDCTBlocks", DctBlocksLesson},
     {"qvpiDFT", FourierLesson},
     {"qvpiDecimate420", FrameLesson},
+    {"qvpiDeconvolve", DeconvolutionLesson},
     {"qvpiDiv", DivisionLesson},
     {"qvpiDotProd", ReductionLesson},
     {"qvpiDotProdCol", WeightedRowsLesson},

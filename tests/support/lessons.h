@@ -10,6 +10,7 @@ bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
 bool ConvolveLesson(Scene& scene, size_t place, Argument& argument);
 bool CopyBorderLesson(Scene& scene, size_t place, Argument& argument);
 bool DctBlocksLesson(Scene& scene, size_t place, Argument& argument);
+bool DeconvolutionLesson(Scene& scene, size_t place, Argument& argument);
 bool DivisionLesson(Scene& scene, size_t place, Argument& argument);
 bool ExtremesLesson(Scene& scene, size_t place, Argument& argument);
 bool FilterInitLesson(Scene& scene, size_t place, Argument& argument);
