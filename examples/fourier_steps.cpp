@@ -97,23 +97,50 @@ void ShowLowCosines(Demo& demo, const Plane& image) {
   demo.Show("From the lowest 1/64 of its cosines", Rounded(cosines));
 }
 
-// As a lens out of focus draws it: each point as a disc.
-void ShowOutOfFocus(Demo& demo, const Plane& image) {
-  constexpr int kSide = 15;
-  const QvpiSize size = image.size(), side{kSide, kSide};
-  Plane disc(side), blurred(size);
-  int area = 0, bufferBytes;
-  const auto isInside = [](int x, int y) { return 4 * ((x - 7) * (x - 7) + (y - 7) * (y - 7)) <= kSide * kSide; };
-  for (int i = 0; i < kSide * kSide; ++i) area += isInside(i % kSide, i / kSide);
-  for (int i = 0; i < kSide * kSide; ++i) {
-    *disc.At(i % kSide, i / kSide) = isInside(i % kSide, i / kSide) ? 1.0f / static_cast<float>(area) : 0.0f;
+// What a lens out of focus makes of a point: a disc.
+Plane Disc(int side) {
+  Plane disc({side, side});
+  const int middle = side / 2;
+  int area = 0;
+  const auto isInside = [=](int x, int y) {
+    return 4 * ((x - middle) * (x - middle) + (y - middle) * (y - middle)) <= side * side;
+  };
+  for (int i = 0; i < side * side; ++i) area += isInside(i % side, i / side);
+  for (int i = 0; i < side * side; ++i) {
+    *disc.At(i % side, i / side) = isInside(i % side, i / side) ? 1.0f / static_cast<float>(area) : 0.0f;
   }
+  return disc;
+}
+
+Plane ShowOutOfFocus(Demo& demo, const Plane& image, const Plane& disc) {
+  const QvpiSize size = image.size(), side = disc.size();
+  Plane blurred(size);
+  int bufferBytes;
   Require(qvpiConvolveGetBufferSize(size, side, qvp32f, 1, qvpMethodAuto, &bufferBytes));
   std::vector<Qvp8u> buffer(bufferBytes);
   demo.Time(size, 4 + 4,
             CALL(qvpiConvolveSame_32f_C1R, image.data(), image.step(), size, disc.data(), disc.step(), side,
                  blurred.data(), blurred.step(), qvpMethodAuto, buffer.data()));
   demo.Show("Convolved with a disc of 15 pixels", Rounded(blurred));
+  return blurred;
+}
+
+void ShowRestored(Demo& demo, const Plane& blurred, const Plane& disc) {
+  const QvpiSize size = blurred.size(), side = disc.size();
+  int specBytes, initBytes, bufferBytes;
+  Require(qvpiDeconvolveGetSize_32f(size, side, qvpBorderConst, &specBytes, &initBytes, &bufferBytes));
+  std::vector<Qvp8u> record(specBytes), init(initBytes), buffer(bufferBytes);
+  auto* const spec = reinterpret_cast<QvpiDeconvolveSpec_32f*>(record.data());
+  Require(qvpiDeconvolveInit_32f(size, disc.data(), disc.step(), side, qvpBorderConst, spec, init.data()));
+  Plane restored(size);
+  demo.Time(size, 4 + 4,
+            CALL(qvpiDeconvolveInverse_32f_C1R, blurred.data(), blurred.step(), restored.data(), restored.step(), 1e-4f,
+                 0, spec, buffer.data()));
+  demo.Show("Restored by the inverse filter", Rounded(restored));
+  demo.Time(size, 4 + 4,
+            CALL(qvpiDeconvolveIterative_32f_C1R, blurred.data(), blurred.step(), restored.data(), restored.step(), 30,
+                 1e-3f, spec, buffer.data()));
+  demo.Show("Restored by 30 iterations", Rounded(restored));
 }
 
 // By blocks whose coefficients are kept as multiples of a step that grows with the frequency.
@@ -162,7 +189,8 @@ void FourierSteps(Demo& demo) {
   Require(qvpiDFTInv_PackToR_32f_C1R(passed.data(), passed.step(), back.data(), back.step(), transform.spec(),
                                      transform.buffer()));
   demo.Show("Without its high frequencies", Rounded(back));
-  ShowOutOfFocus(demo, green);
+  const Plane disc = Disc(15);
+  ShowRestored(demo, ShowOutOfFocus(demo, green, disc), disc);
   ShowLowCosines(demo, green);
   for (const int strength : {4, 16, 48}) ShowBlocks(demo, Rounded(green), strength);
 }

@@ -86,10 +86,6 @@ void StoreChannel(const FloatPlane& plane, const DeconvolveRecord& record, const
 
 // ---- The inverse filter.
 
-struct Penalties {
-  float noise, smoothness;
-};
-
 // The squared frequencies of a run, Laplace's operator in the spectrum: across plus down.
 void LaplaceOf(const packed::Run& run, const DeconvolveRecord& record, float* to) {
   const float* across = record.At<float>(record.squares) + run.frequency.column;
@@ -100,42 +96,38 @@ void LaplaceOf(const packed::Run& run, const DeconvolveRecord& record, float* to
       D(), to, run.count, [=](auto along) HWY_ATTR { return hn::Add(along, other); }, isRow ? across : down);
 }
 
-// Numbers Y of a spectrum become conj(K) Y / D, D = ((Kr^2 + Ki^2) + noise) + smoothness L^2, and 0 where D = 0.
-void Divide(packed::Numbers& y, const packed::Numbers& k, const float* laplace, const Penalties& penalties,
-            ptrdiff_t n) {
-  HWY_ALIGN float divisor[packed::kMostNumbers];
-  const auto noise = hn::Set(D(), penalties.noise), smoothness = hn::Set(D(), penalties.smoothness);
-  const auto divisorOf = [=](auto re, auto im, auto l) HWY_ATTR {
-    const auto square = hn::Add(hn::Mul(re, re), hn::Mul(im, im));
-    return hn::Add(hn::Add(square, noise), hn::Mul(smoothness, hn::Mul(l, l)));
-  };
-  const auto divide = [](auto product, auto by)
-                          HWY_ATTR { return hn::IfThenZeroElse(hn::Eq(by, hn::Zero(D())), hn::Div(product, by)); };
-  MapRow<false>(D(), divisor, n, divisorOf, k.re, k.im, laplace);
-  y = packed::ProductOf<packed::ConjugateProduct>(y, k, n);
-  MapRow<false>(D(), y.re, n, divide, y.re, divisor);
-  MapRow<false>(D(), y.im, n, divide, y.im, divisor);
-}
+// The parts of conj(K) Y / D, D = ((Kr^2 + Ki^2) + noise) + smoothness L^2, and 0 where D = 0.
+struct Quotient {
+  hn::Vec<D> noise, smoothness;
 
-void DivideSpectrum(const Torus& torus, const DeconvolveRecord& record, const Penalties& penalties,
+  template <class V>
+  HWY_INLINE void Of(V yRe, V yIm, V kRe, V kIm, V laplace, V& re, V& im) const {
+    const V square = hn::Add(hn::Mul(kRe, kRe), hn::Mul(kIm, kIm));
+    const V divisor = hn::Add(hn::Add(square, noise), hn::Mul(smoothness, hn::Mul(laplace, laplace)));
+    const auto isNone = hn::Eq(divisor, hn::Zero(D()));
+    packed::ConjugateProduct::Of(yRe, yIm, kRe, kIm, re, im);
+    re = hn::IfThenZeroElse(isNone, hn::Div(re, divisor));
+    im = hn::IfThenZeroElse(isNone, hn::Div(im, divisor));
+  }
+};
+
+void DivideSpectrum(const Torus& torus, const DeconvolveRecord& record, const Quotient& quotient,
                     const FloatPlane& spectrum) {
   const packed::Channel<const float> from(ToRead(spectrum), 0), transfer(torus.Transfer(), 0);
   const packed::Channel<float> to(spectrum, 0);
-  HWY_ALIGN float laplace[packed::kMostNumbers];
-  packed::Numbers y, k;
+  HWY_ALIGN float laplace[packed::kMostNumbers] = {};
   const auto divideReal = [&](int, packed::Place frequency, packed::Place at) {
-    y.re[0] = from.Get(at), y.im[0] = 0;
-    k.re[0] = transfer.Get(at), k.im[0] = 0;
+    const auto y = hn::Set(D(), from.Get(at)), k = hn::Set(D(), transfer.Get(at)), none = hn::Zero(D());
+    auto re = none, im = none;
     LaplaceOf({at, at, {}, frequency, {}, 1}, record, laplace);
-    Divide(y, k, laplace, penalties, 1);
-    to.Put(at, y.re[0]);
+    quotient.Of(y, none, k, none, hn::Set(D(), laplace[0]), re, im);
+    to.Put(at, hn::GetLane(re));
   };
   packed::ForEachRun(torus.size(), Layout::kC1, divideReal, [&](int, const packed::Run& run) {
-    packed::LoadPacked(from, run, y);
-    packed::LoadPacked(transfer, run, k);
     LaplaceOf(run, record, laplace);
-    Divide(y, k, laplace, penalties, run.count);
-    packed::StorePacked(y, run, to);
+    packed::CombineRun(from, transfer, run, to,
+                       [&](ptrdiff_t i, auto yRe, auto yIm, auto kRe, auto kIm, auto& re, auto& im)
+                           HWY_ATTR { quotient.Of(yRe, yIm, kRe, kIm, hn::Load(D(), laplace + i), re, im); });
   });
 }
 
@@ -165,7 +157,7 @@ QvpStatus Inverse(const Image<const float>& src, const Image<float>& dst, float 
                       const FloatPlane plane = torus.PlaneAt(0);
                       Continue<false>(src, channel, record, plane);
                       torus.Transform(dft::Direction::kForward, plane, plane);
-                      DivideSpectrum(torus, record, {noise, smoothness}, plane);
+                      DivideSpectrum(torus, record, {hn::Set(D(), noise), hn::Set(D(), smoothness)}, plane);
                       torus.Transform(dft::Direction::kInverse, plane, plane);
                       return plane;
                     });

@@ -238,6 +238,23 @@ def test_convolutions(dtype, method, channels):
         qvpi.convolve(a.squeeze(), b.squeeze().astype("u2"))
 
 
+@pytest.mark.parametrize("channels", [1, 3])
+def test_deconvolution(channels):
+    a, psf = random((24, 30, channels), "f4", 1) % 1, random((5, 4), "u1", 2).astype("f4")
+    a, psf = a.squeeze(), psf / psf.sum()
+    spread = numpy.zeros((24, 30))
+    spread[:5, :4] = psf
+    transfer = numpy.fft.fft2(numpy.roll(spread, (-2, -1), (0, 1))).reshape((24, 30) + (1,) * (a.ndim - 2))
+    blurred = numpy.fft.ifft2(transfer * numpy.fft.fft2(a, axes=(0, 1)), axes=(0, 1)).real.astype("f4")
+    exact = numpy.conj(transfer) * numpy.fft.fft2(blurred, axes=(0, 1)) / (abs(transfer) ** 2 + 0.01)
+    restored = qvpi.deconvolve(blurred, psf, noise=0.01, border="wrap")
+    numpy.testing.assert_allclose(restored, numpy.fft.ifft2(exact, axes=(0, 1)).real, atol=2e-5)
+    nearer = qvpi.richardson_lucy(blurred, psf, iterations=20, border="wrap")
+    assert abs(nearer - a).mean() < 0.7 * abs(blurred - a).mean() and nearer.min() >= 0
+    with pytest.raises(ValueError):
+        qvpi.Deconvolver((9, 9), psf).inverse(a)
+
+
 @given(st.sampled_from(["ortho", "backward", "forward", "none"]), st.tuples(st.integers(1, 40), st.integers(1, 40)))
 def test_cosine_transforms(norm, shape):
     a = random((*shape, 3), "f4", 8) % 1
