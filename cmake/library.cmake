@@ -1,5 +1,5 @@
 # How the libraries of one CPU build are made. A new source file needs no line here.
-set(QVPI_SOURCE_FOLDERS base core arith filter geometry stats transform feature signal)
+set(QVPI_SOURCE_FOLDERS base core arith filter geometry stats transform feature signal volume)
 set(QVPI_WARNINGS -Wall -Wextra -Wshadow -Wcast-qual -Wmissing-declarations -Werror)
 # To look for sums of pointers that wrap takes four times the compiler's time, and what they lead to is seen anyway.
 set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function,pointer-overflow -fno-sanitize-recover=all

@@ -1,4 +1,6 @@
 // Copies into a larger image, whose border is filled from the source or with a constant.
+#include "filter/copy_border.h"
+
 #include "base/check.h"
 #include "base/export.h"
 #include "core/copy.h"
@@ -58,8 +60,8 @@ Extent CopyWithColumns(const Border& border, const ConstBytes& src, const Bytes&
   return inside;
 }
 
-// `dst` begins with the first pixel of the source, which is there already where the two are the same memory. `value` is
-// the pixel of a constant border.
+}  // namespace
+
 void WriteFrame(BorderKind kind, const ConstBytes& src, const Bytes& dst, const Frame& frame, const uint8_t* value) {
   const int pixelBytes = dst.PixelBytes(), written = ProcessedChannels(dst.layout) * dst.elementBytes;
   const ptrdiff_t width = frame.src.width;
@@ -76,6 +78,8 @@ void WriteFrame(BorderKind kind, const ConstBytes& src, const Bytes& dst, const 
     isConst ? FillRows(value, dst, rest, frame) : CopyRows(kind, dst, rest, frame);
   }
 }
+
+namespace {
 
 QvpStatus CheckFrame(const ConstBytes& src, const Bytes& dst, const Frame& frame, const void* value) {
   if (const QvpStatus failed = Validate<kPointers, kSteps>(frame.src, {src, dst}, {value})) return failed;

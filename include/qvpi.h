@@ -12,5 +12,6 @@
 #include "qvpi_geometry.h"
 #include "qvpi_stats.h"
 #include "qvpi_transform.h"
+#include "qvpi_volume.h"
 
 #endif

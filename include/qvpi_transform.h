@@ -1,6 +1,6 @@
 /** @file qvpi_transform.h
  *  Two-dimensional Fourier transforms, operations on their packed spectra, cosine transforms of images and of blocks,
- *  wavelet transforms, convolutions, and windows.
+ *  wavelet transforms, convolutions and deconvolution, and windows.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *

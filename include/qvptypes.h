@@ -77,6 +77,30 @@ typedef struct {
     int height; /**< rows */
 } QvpiRect;
 
+/** Size of a volume. */
+typedef struct {
+    int width;  /**< voxels in a row */
+    int height; /**< rows in a plane */
+    int depth;  /**< planes */
+} QvprVolume;
+
+/** A voxel position. */
+typedef struct {
+    int x; /**< column, from the left */
+    int y; /**< row, from the top */
+    int z; /**< plane, from the front */
+} QvprPoint;
+
+/** A cuboid of voxels. */
+typedef struct {
+    int x;      /**< leftmost column */
+    int y;      /**< topmost row */
+    int z;      /**< foremost plane */
+    int width;  /**< columns */
+    int height; /**< rows */
+    int depth;  /**< planes */
+} QvprCuboid;
+
 /** Size of a region of interest of the `_L` forms. */
 typedef struct {
     QvpSizeL width;  /**< pixels in a row */

@@ -152,7 +152,7 @@ def argument(index, kind):
     """How argument number `index` is taken out of an array of test::Argument."""
     if kind.endswith(("*", "]")):
         return f"reinterpret_cast<{kind}>(const_cast<void*>(a[{index}].pointer))"
-    if kind.startswith("Qvpi") and ("Size" in kind or "Point" in kind or "Rect" in kind):
+    if re.fullmatch(r"Qvpi\w*Size\w?|Qvp[ir](Point\w*|Rect\w*|Volume|Cuboid)", kind):
         return f"As<{kind}>(a[{index}])"
     return f"static_cast<{kind}>(a[{index}].number)"
 

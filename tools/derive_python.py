@@ -12,7 +12,8 @@ from pathlib import Path
 from derive import parameter, prototypes, write
 
 # The field of `Argument` that a parameter is taken from; enumerations are plain integers.
-STRUCTURES = ("QvpiSize", "QvpiSizeL", "QvpiPoint", "QvpiPointL", "QvpiRect", "QvpiRectL")
+STRUCTURES = ("QvpiSize", "QvpiSizeL", "QvpiPoint", "QvpiPointL", "QvpiRect", "QvpiRectL", "QvprVolume", "QvprPoint",
+              "QvprCuboid")
 REALS = ("Qvp32f", "Qvp64f", "double")
 
 

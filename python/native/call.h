@@ -17,6 +17,9 @@ typedef union {
   QvpiPointL asQvpiPointL;
   QvpiRect asQvpiRect;
   QvpiRectL asQvpiRectL;
+  QvprVolume asQvprVolume;
+  QvprPoint asQvprPoint;
+  QvprCuboid asQvprCuboid;
 } Argument;
 
 typedef void (*Code)(void);

@@ -180,6 +180,17 @@ void Trial::AddPicture(size_t place, const void*& pointer, Choices& choices) {
   pictures_.push_back(*picture);
 }
 
+// Planes of volumes stay as many rows apart as they were.
+void Trial::SetSteps(size_t place, ptrdiff_t step) {
+  const size_t ofPlanes = place + 2;
+  Number& present = arguments_[place + 1].number;
+  if (ofPlanes < arguments_.size() && function_.parameters[ofPlanes].name.ends_with("PlaneStep")) {
+    Number& planeStep = arguments_[ofPlanes].number;
+    planeStep = int64_t{planeStep} / int64_t{present} * step;
+  }
+  present = step;
+}
+
 void Trial::ChoosePictures(Choices& choices) {
   for (size_t place = 0; place + 1 < arguments_.size(); ++place) {
     const void*& pointer = arguments_[place].pointer;
@@ -193,7 +204,7 @@ void Trial::ChoosePictures(Choices& choices) {
     } else {
       AddPicture(place, pointer, choices);
     }
-    if (first < pictures_.size()) arguments_[place + 1].number = pictures_[first].step;
+    if (first < pictures_.size()) SetSteps(place, pictures_[first].step);
   }
 }
 
@@ -208,7 +219,7 @@ void Trial::ShareMemory(Choices& choices) {
       source.Share(destination, isShifted ? choices.Next<int8_t>() * source.element->bytes : 0);
       isTangled_ |= isShifted;
       *source.pointed = source.pointer();
-      arguments_[source.place + 1].number = source.step;
+      SetSteps(source.place, source.step);
       return;
     }
   }

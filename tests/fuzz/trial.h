@@ -61,6 +61,7 @@ class Trial {
   void SpoilRecord(std::string_view type, test::Argument& argument, const test::Scene::Piece& record, Choices& choices);
   void MakeRoom();
   void ChoosePictures(Choices& choices);
+  void SetSteps(size_t place, ptrdiff_t step);
   void AddPicture(size_t place, const void*& pointer, Choices& choices);
   void ShareMemory(Choices& choices);
   void ListMemory();

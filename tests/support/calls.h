@@ -14,10 +14,15 @@ struct Call {
 // Ends with a row without a name.
 extern const Call kCalls[];
 
-// A structure of two or four numbers.
+// A structure of two to six numbers.
 template <class T>
 T As(const Argument& a) {
-  if constexpr (requires(T t) { t.x, t.width; }) {
+  if constexpr (requires(T t) { t.z, t.width; }) {
+    return {int{a.number}, int{a.second}, int{a.third}, int{a.fourth}, int{a.fifth}, int{a.sixth}};
+  } else if constexpr (
+      requires(T t) { t.z; } || requires(T t) { t.depth; }) {
+    return {int{a.number}, int{a.second}, int{a.third}};
+  } else if constexpr (requires(T t) { t.x, t.width; }) {
     return {static_cast<decltype(T::x)>(a.number), static_cast<decltype(T::x)>(a.second),
             static_cast<decltype(T::x)>(a.third), static_cast<decltype(T::x)>(a.fourth)};
   } else if constexpr (requires(T t) { t.x; }) {

@@ -96,6 +96,8 @@ constexpr struct {
     {"qvpiTranspose", TurnLesson},
     {"qvpiWarp", WarpLesson},
     {"qvpiWavelet", WaveletLesson},
+    {"qvprCopy", VolumeLesson},
+    {"qvprGet", SpaceLesson},
 };
 
 bool CommonRulesOnly(Scene&, size_t, Argument&) { return false; }

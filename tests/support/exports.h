@@ -43,10 +43,10 @@ class Number {
   double real_;
 };
 
-// A pointer, or up to four numbers; an image's pointer has its step beside it.
+// A pointer, or up to six numbers; an image's pointer has its step beside it.
 struct Argument {
   const void* pointer = nullptr;
-  Number number = 0, second = 0, third = 0, fourth = 0;
+  Number number = 0, second = 0, third = 0, fourth = 0, fifth = 0, sixth = 0;
 
   Argument() = default;
   Argument(const void* p, Number first = 0, Number next = 0, Number third_ = 0, Number last = 0)
@@ -56,6 +56,8 @@ struct Argument {
   Argument(T value) : number(value) {}
   Argument(QvpiSize size) : number(size.width), second(size.height) {}
   Argument(QvpiPoint point) : number(point.x), second(point.y) {}
+  Argument(QvprVolume size) : number(size.width), second(size.height), third(size.depth) {}
+  Argument(QvprCuboid c) : number(c.x), second(c.y), third(c.z), fourth(c.width), fifth(c.height), sixth(c.depth) {}
   template <class T>
   Argument(const Image<T>& image) : pointer(image.data()), number(image.step()) {}
 };

@@ -58,10 +58,11 @@ std::vector<const Export*> Select(std::initializer_list<std::string_view> parts,
 }  // namespace
 
 Name::Name(std::string_view name) {
-  name.remove_prefix(4);
+  if (name.starts_with("qvpi")) name.remove_prefix(4);
   family = name.substr(0, name.find('_'));
   isWide = Take(name, "_L");
-  if (!Take(name, "RSfs") && !Take(name, "Rs") && !Take(name, "R")) return;
+  const bool isVolume = name.starts_with("qvpr");
+  if (isVolume ? !Take(name, "V") : !Take(name, "RSfs") && !Take(name, "Rs") && !Take(name, "R")) return;
   inPlace = Take(name, "I");
   isMasked = Take(name, "M");
   const std::string_view last = TakeLast(name);

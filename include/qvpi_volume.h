@@ -1,0 +1,123 @@
+/** @file qvpi_volume.h
+ *  Volumes: copies with a border, and transforms in space.
+ *
+ *  The conventions of every function are told in qvpi_core.h. Beyond them, of volumes:
+ *
+ *  A volume has one channel and `depth` planes of `height` rows of `width` voxels. x goes right, y down, z to the back;
+ *  voxel (0, 0, 0) is the first one of the first plane, and voxels lie at whole coordinates. Its address is that of the
+ *  first voxel + x * size of a voxel + y * step + z * planeStep: the steps, in bytes, are independent of each other and
+ *  at least 1. With the two exchanged the same memory is seen from above, row by row of all planes: a coronal view
+ *  without a copy. Addresses are pointer-wide: a volume may be larger than 2 GiB, a single plane may not.
+ *
+ *  Functions that end with `V` take such a volume.
+ */
+#ifndef QVPI_VOLUME_H
+#define QVPI_VOLUME_H
+
+#include "qvptypes.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @name Volumes: copies with a border
+ *  @{ */
+/** Copies a volume into a larger one and fills the rest: qvprCopyReplicateBorder with the nearest voxel of the source,
+ *  qvprCopyConstBorder with a value.
+ *
+ *  @code
+ *    dst(x, y, z) = src(clamp(x - leftBorderWidth), clamp(y - topBorderHeight), clamp(z - frontBorderDepth))
+ *  @endcode
+ *
+ *  or `value` where one of the three is outside of the source. What the source and these borders leave of the
+ *  destination is the border to the right, below and behind. Bits are moved. A voxel of 5 in the middle of 3 x 3 x 3
+ *  with the value 9 around it gives the sum 239.
+ *
+ *  The source may lie at its place in the destination, with the same steps: then only the border is written. Else the
+ *  volumes must not overlap.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep,srcVolume source and its size
+ *  @param pDst,dstStep,dstPlaneStep,dstVolume destination and its size
+ *  @param topBorderHeight rows above the source in each plane
+ *  @param leftBorderWidth columns left of it
+ *  @param frontBorderDepth planes in front of it
+ *  @param value of the border
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume's pointer is null
+ *  - qvpStatusSize: a length of a volume is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusSize: a border is below 0; a length of the destination is below that of the source and its border
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprCopyReplicateBorder_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth);
+QvpStatus qvprCopyReplicateBorder_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth);
+QvpStatus qvprCopyReplicateBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth);
+QvpStatus qvprCopyReplicateBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth);
+QvpStatus qvprCopyConstBorder_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp8u value);
+QvpStatus qvprCopyConstBorder_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp16u value);
+QvpStatus qvprCopyConstBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp16s value);
+QvpStatus qvprCopyConstBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp32f value);
+/** @} */
+
+/** @name Volumes: transforms
+ *  @{ */
+/** Coefficients of affine transforms in space, in double precision:
+ *
+ *  @code
+ *    x' = (c[0][0] * x + c[0][1] * y) + (c[0][2] * z + c[0][3])
+ *    y' = (c[1][0] * x + c[1][1] * y) + (c[1][2] * z + c[1][3])
+ *    z' = (c[2][0] * x + c[2][1] * y) + (c[2][2] * z + c[2][3])
+ *  @endcode
+ *
+ *  **qvprGetRotateTransform** turns by `angle` degrees about an axis through `center`, counter-clockwise for who looks
+ *  along the axis: (0, 0, 1) turns each plane as qvpiGetRotateTransform() does. Multiples of 90 degrees about an axis of
+ *  coordinates are exact. With n the axis divided by its length, c_ii = n_i^2 + cos (1 - n_i^2) and
+ *  c_ij = (1 - cos) n_i n_j +- n_k sin. 10 degrees about (959.5, 539.5, 0) shift by -79.1062309, 174.811644 and 0.
+ *
+ *  **qvprGetAffineTransform** takes the centres of four voxels of a cuboid to the given points: of the voxel where it
+ *  starts to corners[0], of those at the ends of its edges along x, y and z to corners[1] to [3].
+ *
+ *  **qvprGetAffineBound** tells the least and the greatest coordinates of the centres of the eight voxels in the
+ *  corners of a cuboid: bound[0] and bound[1]. A cuboid of 15 x 13 x 11 voxels at (0, 0, 0), turned by 90 degrees about
+ *  the axis (0, 0, 1) through (7, 6, 5), reaches from (1, -1, 0) to (13, 13, 10).
+ *
+ *  **qvprGetAffineProduct** tells the transform that does `first`, then `second`.
+ *
+ *  **qvprGetAffineInverse** tells the transform that undoes another one, by cofactors.
+ *
+ *  A transform is degenerate if the magnitude of the determinant of its first three columns is not above 10^-10 times the
+ *  product of their rows' sums of magnitudes: it flattens space.
+ *
+ *  Arrays may be the same.
+ *
+ *  @param angle in degrees
+ *  @param axis direction of the axis, of any length but 0
+ *  @param center point on the axis
+ *  @param srcCuboid cuboid of voxels
+ *  @param corners where four of its voxels go
+ *  @param bound least and greatest coordinates
+ *  @param first,second transforms to be done one after the other
+ *  @param coeffs,inverse coefficients
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an array is null
+ *  - qvpStatusRect: qvprGetAffineTransform: a length of `srcCuboid` is below 1
+ *  - qvpStatusSize: qvprGetAffineBound: `srcCuboid` starts at a negative position, or a length is below 1
+ *  - qvpStatusCoefficient: a number is not finite; qvprGetAffineTransform: a length of `srcCuboid` is 1, or the result is
+ *    degenerate; qvprGetAffineInverse: `coeffs` is degenerate; a coefficient of the result is not finite. Nothing is
+ *    written
+ *  - qvpStatusBadArgument: qvprGetRotateTransform: `axis` is 0
+ *  - qvpStatusCoefficient: qvprGetAffineBound: `coeffs` is degenerate; the bound is written
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprGetRotateTransform(double angle, const double axis[3], const double center[3], double coeffs[3][4]);
+QvpStatus qvprGetAffineTransform(QvprCuboid srcCuboid, const double corners[4][3], double coeffs[3][4]);
+QvpStatus qvprGetAffineBound(QvprCuboid srcCuboid, double bound[2][3], const double coeffs[3][4]);
+QvpStatus qvprGetAffineProduct(const double first[3][4], const double second[3][4], double coeffs[3][4]);
+QvpStatus qvprGetAffineInverse(const double coeffs[3][4], double inverse[3][4]);
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,90 @@
+// Parameters of functions of volumes.
+#include <algorithm>
+
+#include "tests/support/lessons.h"
+
+namespace test {
+namespace {
+
+// The region of a scene is a plane of the destination; each scene has a depth and a border of its own.
+struct Manner {
+  QvprVolume src, dst;
+  int top, left, front;
+};
+Manner MannerOf(const Scene& scene) {
+  Random random = scene.choices();
+  const auto less = [&](int side) { return std::max(1, side - static_cast<int>(random.Next() % 9)); };
+  const auto before = [&](int dst, int src) { return static_cast<int>(random.Next() % (dst - src + 1)); };
+  const QvprVolume dst{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 6)};
+  const QvprVolume src{less(dst.width), less(dst.height), less(dst.depth)};
+  return {src, dst, before(dst.height, src.height), before(dst.width, src.width), before(dst.depth, src.depth)};
+}
+
+// Rows have room for any voxel, and planes for a row more than they have.
+int StepOf(const QvprVolume& volume, size_t place) { return 8 * volume.width + 17 * static_cast<int>(place + 1); }
+int PlaneStepOf(const QvprVolume& volume, size_t place) { return StepOf(volume, place) * (volume.height + 1); }
+
+const void* Voxels(Scene& scene, size_t place, const QvprVolume& volume) {
+  const Parameter& parameter = scene.function().parameters[place];
+  const int step = StepOf(volume, place), rows = (volume.height + 1) * volume.depth;
+  const size_t bytes = size_t{1} * step * rows;
+  uint8_t* const voxels = parameter.name == "pDst" ? scene.Output(bytes) : scene.Input(bytes);
+  scene.FillRows(*PointedAt(parameter.type), voxels, step, rows);
+  return voxels;
+}
+
+// Twelve numbers, the coefficients of a transform: in memory of the scene, which knows how many there are.
+const void* Numbers(Scene& scene, const std::vector<double>& numbers) {
+  uint8_t* const memory = scene.Input(numbers.size() * sizeof(double));
+  std::memcpy(memory, numbers.data(), numbers.size() * sizeof(double));
+  return memory;
+}
+
+}  // namespace
+
+bool VolumeLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const Manner m = MannerOf(scene);
+  const bool isSource = name.starts_with("pSrc") || name.starts_with("src");
+  const QvprVolume& volume = isSource ? m.src : m.dst;
+  if (name == "pSrc" || name == "pDst") {
+    argument = {Voxels(scene, place, volume)};
+  } else if (name == "srcStep" || name == "dstStep") {
+    argument = StepOf(volume, place - 1);
+  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
+    argument = PlaneStepOf(volume, place - 2);
+  } else if (name == "srcVolume" || name == "dstVolume") {
+    argument = volume;
+  } else if (name == "topBorderHeight") {
+    argument = m.top;
+  } else if (name == "leftBorderWidth") {
+    argument = m.left;
+  } else if (name == "frontBorderDepth") {
+    argument = m.front;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool SpaceLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  if (!type.starts_with("const") && type.ends_with(']')) {
+    argument = {scene.Output(12 * sizeof(double))};
+  } else if (name == "angle") {
+    argument = scene.Any({10, 90, -135});
+  } else if (name == "axis" || name == "center") {
+    argument = {Numbers(scene, {1, -2, 0.5})};
+  } else if (name == "corners") {
+    argument = {Numbers(scene, {1, 2, 3, 9, 1, 4, 0, 8, 2, 2, 1, 7})};
+  } else if (name == "srcCuboid") {
+    argument = QvprCuboid{2, 0, 5, 9, 8, 7};
+  } else if (type.starts_with("const")) {
+    argument = {Numbers(scene, {0.9, 0.3, -0.1, -1.5, -0.25, 1.1, 0.2, 1.25, 0.1, -0.3, 0.8, 4})};
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace test
