@@ -40,7 +40,32 @@ void AddBorder(QvprVolume from) {
          1}}});
 }
 
+// No peer here has more than two dimensions.
+template <class T, class Call>
+void AddMedian(const char* type, QvpDataType code, int side, int mask, Call call) {
+  const QvprVolume size{side, side, side}, of{mask, mask, mask};
+  const Image<T> src({side, side * side}, 1), dst({side, side * side}, 1);
+  int bytes = 0;
+  Require(qvprFilterMedianBorderGetBufferSize(of, size, code, &bytes));
+  const auto buffer = Pixels<Qvp8u>(bytes);
+  cv::randu(src.mat, 0, 255);
+  const std::string sides = std::to_string(mask) + "x" + std::to_string(mask) + "x" + std::to_string(mask);
+  Add({Name("volume, median " + sides + " " + type + ", " + std::to_string(side) + " planes", {side, side}),
+       {src.bytes(), dst.bytes()},
+       [=] {
+         Require(call(src.data(), src.step, src.step * side, dst.data(), dst.step, dst.step * side, size, of,
+                      qvpBorderReplicate, nullptr, buffer.get()));
+       }});
+}
+
 const bool kAdded = [] {
+  for (const int side : {16, 64, 128}) {
+    AddMedian<uint8_t>("8u", qvp8u, side, 3, qvprFilterMedianBorder_8u_C1V);
+    AddMedian<uint16_t>("16u", qvp16u, side, 3, qvprFilterMedianBorder_16u_C1V);
+    AddMedian<float>("32f", qvp32f, side, 3, qvprFilterMedianBorder_32f_C1V);
+  }
+  AddMedian<uint8_t>("8u", qvp8u, 40, 5, qvprFilterMedianBorder_8u_C1V);
+  AddMedian<uint16_t>("16u", qvp16u, 40, 5, qvprFilterMedianBorder_16u_C1V);
   AddBorder({16, 16, 16}), AddBorder({64, 64, 64}), AddBorder({128, 128, 128}), AddBorder({400, 400, 300});
   return true;
 }();

@@ -1,5 +1,5 @@
 /** @file qvpi_volume.h
- *  Volumes: copies with a border, and transforms in space.
+ *  Volumes: copies with a border, medians, and transforms in space.
  *
  *  The conventions of every function are told in qvpi_core.h. Beyond them, of volumes:
  *
@@ -9,7 +9,14 @@
  *  at least 1. With the two exchanged the same memory is seen from above, row by row of all planes: a coronal view
  *  without a copy. Addresses are pointer-wide: a volume may be larger than 2 GiB, a single plane may not.
  *
- *  Functions that end with `V` take such a volume.
+ *  Functions that end with `V` take such a volume. Those that end with `PV` take an array of plane pointers and one row
+ *  step: slices that were loaded one by one, or a window of a long stack. Entry k is plane k; planes in front of the
+ *  region, if they are in memory, are entries -1, -2 and so on. Results are the same, to the bit.
+ *
+ *  Filters take a border type: a kind, combined with the faces that are in memory, of the four sides and of
+ *  qvpBorderInMemFront and qvpBorderInMemBack. A face in memory is read where it lies as far as the filter reaches; the
+ *  kind applies outside of the region so enlarged, coordinate by coordinate, the constant wherever one is outside.
+ *  qvpBorderInMemVolume stands without a kind too.
  */
 #ifndef QVPI_VOLUME_H
 #define QVPI_VOLUME_H
@@ -57,6 +64,65 @@ QvpStatus qvprCopyConstBorder_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlan
 QvpStatus qvprCopyConstBorder_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp16u value);
 QvpStatus qvprCopyConstBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp16s value);
 QvpStatus qvprCopyConstBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp32f value);
+/** @} */
+
+/** @name Volumes: medians, size of the buffer
+ *  @{ */
+/** Tells the size of the work buffer of a median filter of volumes, for this mask and every region not larger.
+ *
+ *  The size has 63 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param maskVolume size of the mask
+ *  @param dstVolume size of the region
+ *  @param dataType qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param pBufferSize size of the work buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusSize: a length of `dstVolume` is below 1
+ *  - qvpStatusMaskSize: a side of the mask is even or below 1, or it has more than 32767 cells
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusSizeOverflow: a length is above 33554431, or the size above 2147483647; the size is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprFilterMedianBorderGetBufferSize(QvprVolume maskVolume, QvprVolume dstVolume, QvpDataType dataType, int* pBufferSize);
+/** @} */
+
+/** @name Volumes: medians
+ *  @{ */
+/** Takes the middle one of the voxels that a mask around each voxel covers, in their order: against speckle, and salt and
+ *  pepper.
+ *
+ *  Floats are moved as they are, and ordered as -NaN, -infinity ... -0, +0 ... infinity, NaN. A volume of ones, 3 x 3 x 3
+ *  with the constant 0 around it, keeps seven of them with a mask of 3 x 3 x 3: the centre and the faces. 1, NaN, 2 in a
+ *  row, with a mask of 3 x 1 x 1 and replicated ends, become 1, 2, 2.
+ *
+ *  The volumes must not overlap.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep source, at the first voxel of the region
+ *  @param pDst,dstStep,dstPlaneStep destination
+ *  @param dstVolume size of the region
+ *  @param maskVolume size of the mask, whose middle is at the voxel: odd sides, at most 32767 cells
+ *  @param borderType qvpBorderReplicate or qvpBorderConst, with any faces in memory, or qvpBorderInMemVolume
+ *  @param borderValue the constant; other kinds do not look at it
+ *  @param pBuffer work buffer of the size that qvprFilterMedianBorderGetBufferSize() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume, an array of planes or `pBuffer` is null; `borderValue` is, and the kind is
+ *    qvpBorderConst
+ *  - qvpStatusSize: a length of `dstVolume` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusMaskSize: a side of the mask is even or below 1, or it has more than 32767 cells
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusNullPointer: a plane is null that is in the region, or in memory and covered by the mask
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprFilterMedianBorder_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_8u_C1PV(const Qvp8u* const pSrc[], int srcStep, Qvp8u* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_16u_C1PV(const Qvp16u* const pSrc[], int srcStep, Qvp16u* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvprFilterMedianBorder_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 /** @} */
 
 /** @name Volumes: transforms

@@ -253,6 +253,9 @@ enum {
     qvpBorderInMemLeft = 0x40,   /**< the columns left of the region are in memory */
     qvpBorderInMemRight = 0x80,  /**< the columns right of the region are in memory */
     qvpBorderInMem = 0xF0,       /**< all four sides are in memory */
+    qvpBorderInMemFront = 0x1000,  /**< volumes: the planes in front of the region are in memory */
+    qvpBorderInMemBack = 0x2000,   /**< volumes: the planes behind the region are in memory */
+    qvpBorderInMemVolume = 0x30F0, /**< volumes: all six faces are in memory */
 };
 
 /** Interpolation between pixels. */

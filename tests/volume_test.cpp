@@ -4,34 +4,13 @@
 
 #include "gtest/gtest.h"
 #include "tests/support/bordered.h"
+#include "tests/support/voxels.h"
 
 namespace {
 using test::Export;
 using test::Name;
 
-// A volume in memory that ends with its last voxel. Steps may be exchanged: a row's neighbours are then in the planes
-// before and behind it.
-struct Volume {
-  QvprVolume size;
-  int bytes, step, planeStep;
-  test::Block block;
-
-  Volume(QvprVolume s, int voxel, int gap, bool isCoronal)
-      : size(s),
-        bytes(voxel),
-        step(isCoronal ? (s.width * voxel + gap) * s.depth : s.width * voxel + gap),
-        planeStep(isCoronal ? s.width * voxel + gap : (s.width * voxel + gap) * s.height),
-        block((s.height - 1) * step + (s.depth - 1) * planeStep + s.width * voxel) {}
-  uint8_t* At(int x, int y, int z) const { return block.data() + x * bytes + y * step + z * planeStep; }
-  template <class Visit>
-  void ForEach(const Visit& visit) const {
-    for (int z = 0; z < size.depth; ++z) {
-      for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) visit(x, y, z);
-      }
-    }
-  }
-};
+using Volume = test::Voxels;
 
 struct Frame {
   QvprVolume src, dst;

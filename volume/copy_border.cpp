@@ -58,7 +58,8 @@ QvpStatus Copy(BorderKind kind, const Volume<const uint8_t>& src, const Volume<u
                                                 QvprVolume srcVolume, Qvp##type* pDst, int dstStep, int dstPlaneStep, \
                                                 QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth,       \
                                                 int frontBorderDepth AND parameter) {                                 \
-    return Copy(BorderKind::k##kind, AsBytes(pSrc, srcStep, srcPlaneStep), AsBytes(pDst, dstStep, dstPlaneStep),      \
+    return Copy(BorderKind::k##kind, ViewVolume<uint8_t>(pSrc, srcStep, srcPlaneStep),                                \
+                ViewVolume<uint8_t>(pDst, dstStep, dstPlaneStep),                                                     \
                 {srcVolume, dstVolume, topBorderHeight, leftBorderWidth, frontBorderDepth} AND argument);             \
   }
 #define BORDERS(type)                  \

@@ -65,6 +65,12 @@ void EditSize(const Scene& scene, Argument& size, bool isFree, Choices& choices)
   side = isFree ? AnyInteger(choices) : AtMost(HasBufferOfItsSizes(scene) ? 0 : int64_t{side}, choices);
 }
 
+void EditVolume(Argument& volume, Choices& choices) {
+  Number* const lengths[] = {&volume.number, &volume.second, &volume.third};
+  Number& length = *choices.Any(lengths);
+  length = AtMost(int64_t{length}, choices);
+}
+
 // An offset beyond the destination is refused, unless it may be any.
 void EditPoint(Argument& point, bool isFree, Choices& choices) {
   constexpr int kOutside[] = {-1, INT32_MIN, INT32_MAX, -100};
@@ -73,7 +79,7 @@ void EditPoint(Argument& point, bool isFree, Choices& choices) {
 }
 
 void EditRect(Argument& rect, Choices& choices) {
-  Number* const sides[] = {&rect.number, &rect.second, &rect.third, &rect.fourth};
+  Number* const sides[] = {&rect.number, &rect.second, &rect.third, &rect.fourth, &rect.fifth, &rect.sixth};
   *choices.Any(sides) = AnyInteger(choices);
 }
 
@@ -140,7 +146,9 @@ void EditArgument(const Scene& scene, std::vector<Argument>& arguments, Choices&
     EditSize(scene, argument, isQuery, choices);
   } else if (type.starts_with("QvpiPoint")) {
     EditPoint(argument, isQuery || IsAny(name, {"roiOffset", "dstRoiOffset"}), choices);
-  } else if (type.starts_with("QvpiRect")) {
+  } else if (type.starts_with("QvprVolume")) {
+    EditVolume(argument, choices);
+  } else if (type.starts_with("QvpiRect") || type.starts_with("QvprCuboid")) {
     EditRect(argument, choices);
   } else if (IsAny(type, {"Qvp32f", "Qvp64f", "double"})) {
     argument.number = AnyReal(choices);

@@ -194,7 +194,7 @@ void Trial::SetSteps(size_t place, ptrdiff_t step) {
 void Trial::ChoosePictures(Choices& choices) {
   for (size_t place = 0; place + 1 < arguments_.size(); ++place) {
     const void*& pointer = arguments_[place].pointer;
-    if (!pointer || !IsImage(function_, place)) continue;
+    if (!pointer || !IsImage(function_, place) || IsStackOfPlanes(function_, place)) continue;
     const size_t first = pictures_.size();
     if (IsListOfPlanes(function_.parameters[place].type)) {
       auto& planes = planes_.emplace_back();

@@ -97,6 +97,7 @@ constexpr struct {
     {"qvpiWarp", WarpLesson},
     {"qvpiWavelet", WaveletLesson},
     {"qvprCopy", VolumeLesson},
+    {"qvprFilterMedian", VolumeFilterLesson},
     {"qvprGet", SpaceLesson},
 };
 

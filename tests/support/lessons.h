@@ -40,6 +40,7 @@ bool TableLesson(Scene& scene, size_t place, Argument& argument);
 bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
+bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WaveletLesson(Scene& scene, size_t place, Argument& argument);

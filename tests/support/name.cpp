@@ -62,7 +62,8 @@ Name::Name(std::string_view name) {
   family = name.substr(0, name.find('_'));
   isWide = Take(name, "_L");
   const bool isVolume = name.starts_with("qvpr");
-  if (isVolume ? !Take(name, "V") : !Take(name, "RSfs") && !Take(name, "Rs") && !Take(name, "R")) return;
+  if (isVolume ? !Take(name, "PV") && !Take(name, "V") : !Take(name, "RSfs") && !Take(name, "Rs") && !Take(name, "R"))
+    return;
   inPlace = Take(name, "I");
   isMasked = Take(name, "M");
   const std::string_view last = TakeLast(name);

@@ -40,7 +40,72 @@ const void* Numbers(Scene& scene, const std::vector<double>& numbers) {
   return memory;
 }
 
+// ---- Filters: voxels around the region are in memory on any face that a scene chooses.
+
+constexpr int kReach = 2;  // of any mask
+
+struct FilterManner {
+  QvprVolume size, mask;
+  QvpiBorderType border;
+};
+FilterManner FilterMannerOf(const Scene& scene) {
+  constexpr QvprVolume kMasks[] = {{3, 3, 3}, {1, 5, 3}, {5, 1, 1}, {3, 3, 5}, {1, 1, 1}};
+  Random random = scene.choices();
+  const QvprVolume size{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
+  const int kind = random.Next() % 2 ? qvpBorderConst : qvpBorderReplicate;
+  return {size, kMasks[random.Next() % std::size(kMasks)],
+          kind | (static_cast<int>(random.Next()) & qvpBorderInMemVolume)};
+}
+QvprVolume Around(const QvprVolume& size) {
+  return {size.width + 2 * kReach, size.height + 2 * kReach, size.depth + 2 * kReach};
+}
+ptrdiff_t RegionAt(int step, const Element& element) { return kReach * (step + element.bytes); }
+
+// The volume around the region, or pointers to its planes, of one size everywhere.
+const void* Region(Scene& scene, size_t place, const QvprVolume& size) {
+  const Parameter& parameter = scene.function().parameters[place];
+  const Element& element = *PointedAt(parameter.type);
+  const QvprVolume around = Around(size);
+  const int step = StepOf(around, place), planeStep = PlaneStepOf(around, place);
+  auto* const voxels = static_cast<const uint8_t*>(Voxels(scene, place, around));
+  const uint8_t* const first = voxels + RegionAt(step, element);
+  if (!parameter.type.ends_with("* const*")) return first + ptrdiff_t{kReach} * planeStep;
+  auto* const planes = reinterpret_cast<const void**>(scene.Input(around.depth * sizeof(uint64_t)));
+  for (int z = 0; z < around.depth; ++z) planes[z] = first + ptrdiff_t{z} * planeStep;
+  return planes + kReach;
+}
+
 }  // namespace
+
+bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  const FilterManner m = FilterMannerOf(scene);
+  const QvprVolume around = Around(m.size);
+  if (name == "pSrc" || name == "pDst") {
+    argument = {Region(scene, place, m.size)};
+  } else if (name == "srcStep" || name == "dstStep") {
+    argument = StepOf(around, place - 1);
+  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
+    argument = PlaneStepOf(around, place - 2);
+  } else if (name == "dstVolume") {
+    argument = m.size;
+  } else if (name == "maskVolume") {
+    argument = m.mask;
+  } else if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
+  } else if (name == "borderType") {
+    argument = m.border;
+  } else if (name == "borderValue") {
+    argument = scene.Constants(type);
+  } else if (name == "pBuffer") {
+    int bytes = 0;
+    qvprFilterMedianBorderGetBufferSize(m.mask, m.size, qvp32f, &bytes);
+    argument = {scene.Input(bytes)};
+  } else {
+    return false;
+  }
+  return true;
+}
 
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;

@@ -1,0 +1,71 @@
+// Volumes in memory that ends with their last voxel.
+#pragma once
+
+#include <cstring>
+#include <vector>
+
+#include "tests/support/exports.h"
+#include "tests/support/reference.h"
+
+namespace test {
+
+// Steps may be exchanged: a row's neighbours are then in the planes before and behind it.
+struct Voxels {
+  QvprVolume size;
+  int bytes, step, planeStep;
+  Block block;
+
+  Voxels(QvprVolume s, int voxel, int gap, bool isCoronal)
+      : size(s),
+        bytes(voxel),
+        step(isCoronal ? (s.width * voxel + gap) * s.depth : s.width * voxel + gap),
+        planeStep(isCoronal ? s.width * voxel + gap : (s.width * voxel + gap) * s.height),
+        block((s.height - 1) * step + (s.depth - 1) * planeStep + s.width * voxel) {}
+  uint8_t* At(int x, int y, int z) const {
+    return block.data() + x * bytes + ptrdiff_t{y} * step + ptrdiff_t{z} * planeStep;
+  }
+  template <class Visit>
+  void ForEach(const Visit& visit) const {
+    for (int z = 0; z < size.depth; ++z) {
+      for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) visit(x, y, z);
+      }
+    }
+  }
+};
+
+// A region of a volume that has voxels around it on those faces that a border type says are in memory.
+struct Surrounded {
+  QvprVolume size;
+  QvprPoint reach;
+  int border;
+  Voxels all;
+
+  Surrounded(QvprVolume region, QvprPoint r, int type, int bytes, bool isCoronal)
+      : size(region),
+        reach(r),
+        border(type),
+        all({region.width + Before(qvpBorderInMemLeft, r.x) + Before(qvpBorderInMemRight, r.x),
+             region.height + Before(qvpBorderInMemTop, r.y) + Before(qvpBorderInMemBottom, r.y),
+             region.depth + Before(qvpBorderInMemFront, r.z) + Before(qvpBorderInMemBack, r.z)},
+            bytes, 3, isCoronal) {}
+
+  QvprPoint origin() const {
+    return {Before(qvpBorderInMemLeft, reach.x), Before(qvpBorderInMemTop, reach.y),
+            Before(qvpBorderInMemFront, reach.z)};
+  }
+  uint8_t* first() const { return all.At(origin().x, origin().y, origin().z); }
+  // What stands for a voxel of the region or around it; null for the constant.
+  const uint8_t* At(int x, int y, int z) const {
+    const int kind = border & 0xF;
+    const int u = BorderPosition(kind, x + origin().x, 0, all.size.width - 1);
+    const int v = BorderPosition(kind, y + origin().y, 0, all.size.height - 1);
+    const int w = BorderPosition(kind, z + origin().z, 0, all.size.depth - 1);
+    return u == kConstant || v == kConstant || w == kConstant ? nullptr : all.At(u, v, w);
+  }
+
+ private:
+  int Before(int flag, int r) const { return (border & flag) != 0 ? r : 0; }
+};
+
+}  // namespace test
