@@ -2,30 +2,10 @@
 #pragma once
 
 #include "base/pairs.h"
+#include "base/row_pairs.h"
 #include "filter/border_filter_sums.h"
 
 namespace qvp::filter {
-
-// The rows of two pixels, as pairs of bytes or of 16-bit words, one pair to a sample.
-template <class T, class Lane>
-struct PairedRows {
-  using Element = std::conditional_t<sizeof(Lane) == 1, uint16_t, uint32_t>;
-  static constexpr int kRows = 2;
-  static constexpr bool kIsInPlace = false;
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<Lane>());
-
-  static Element Of(const T* const (&rows)[2], ptrdiff_t i) {
-    T pair[2];
-    std::memcpy(pair, rows[0] + i, sizeof(T));
-    std::memcpy(pair + 1, rows[1] + i, sizeof(T));
-    constexpr uint32_t kBits = 8 * sizeof(Lane), kMask = (1u << kBits) - 1;
-    return static_cast<Element>((static_cast<uint32_t>(pair[0]) & kMask) | static_cast<uint32_t>(pair[1]) << kBits);
-  }
-  static void Convert(const T* const (&rows)[2], Element* out, ptrdiff_t i) {
-    const hn::ScalableTag<Lane> d;
-    hn::StoreInterleaved2(LoadWide(d, rows[0] + i), LoadWide(d, rows[1] + i), d, reinterpret_cast<Lane*>(out + i));
-  }
-};
 
 // Sums for two rows of results at a time. kWidth and kHeight are those of the kernel where they are known, or 0.
 template <class T, class Sums, int kWidth = 0, int kHeight = 0>

@@ -916,6 +916,189 @@ QvpStatus qvpiGetNormalizedCentralMoment_64f(const QvpiMomentState_64f* pState, 
 QvpStatus qvpiGetHuMoments_64f(const QvpiMomentState_64f* pState, int nChannel, Qvp64f pHm[7]);
 /** @} */
 
+/** @name Matching: size of the buffer
+ *  @{ */
+/** Tells the size of the work buffer that template matching needs, for distances and correlations of any layout with so
+ *  many channels.
+ *
+ *  The size has 63 bytes to spare, so memory of any alignment will do. It is for calls with just these sizes, and at
+ *  most 96 MiB and 64 bytes for each column and row of the template, and each column of the image, in each channel.
+ *
+ *  @param dataType qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels channels of the images: 1, 3 or 4, alpha among them
+ *  @param srcRoiSize size of the image
+ *  @param tplRoiSize size of the template
+ *  @param shape,norm,method as the call is given
+ *  @param pBufferSize size of the work buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pBufferSize` is null
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusNumChannels: `numChannels` is none of the above
+ *  - qvpStatusSize: a side is below 1; the template has more than 2147483647 pixels; qvpMatchValid: it is wider or higher
+ *    than the image; qvpMatchFull: a side of the result is above 2147483647
+ *  - qvpStatusNotSupportedMode: `shape` or `norm` is none of the constants
+ *  - qvpStatusAlgType: `method` is none of the QvpiMethod ones
+ *  - qvpStatusSizeOverflow: the size would be above 2147483647; it is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMatchGetBufferSize(QvpDataType dataType, int numChannels, QvpiSize srcRoiSize, QvpiSize tplRoiSize, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, int* pBufferSize);
+/** @} */
+
+/** @name Matching: correlation
+ *  @{ */
+/** Moves a template over an image and tells for each place how alike they are there: where is the template, how far is
+ *  one picture shifted against another? The best place has the largest result.
+ *
+ *  The result at (x, y) belongs to the window, of the template's size w x h, whose first pixel is that at
+ *  (x - ox, y - oy) of the image, which is W x H. Pixels outside of the image are 0 and count like all others.
+ *
+ *  | shape         | result               | ox, oy                                |
+ *  |---------------|----------------------|---------------------------------------|
+ *  | qvpMatchValid | W - w + 1, H - h + 1 | 0, 0                                  |
+ *  | qvpMatchSame  | W, H                 | (w - 1) / 2, (h - 1) / 2, rounded down |
+ *  | qvpMatchFull  | W + w - 1, H + h - 1 | w - 1, h - 1                          |
+ *
+ *  With s the pixels of a window, t those of the template, n = w h their number, and sums over all of them,
+ *
+ *  @code
+ *    P = sum of s t,  A = sum of s^2,  B = sum of t^2,  S = sum of s,  T = sum of t
+ *    centred and coefficient:  P <- n P - S T,  A <- n A - S^2,  B <- n B - T^2
+ *  @endcode
+ *
+ *  | norm                | result            | what makes no difference to the best place |
+ *  |---------------------|-------------------|--------------------------------------------|
+ *  | qvpMatchPlain       | P                 |                                            |
+ *  | qvpMatchNormed      | P / sqrt(A B)     | contrast, by which both are multiplied     |
+ *  | qvpMatchCentred     | P / n             | brightness that is added                   |
+ *  | qvpMatchCoefficient | P / sqrt(A B)     | both; from -1 to 1, 1 where all is alike   |
+ *
+ *  A quotient whose A B is 0, as that of flat windows, is 0. Forms with one layout take each channel by itself; C3C1 and
+ *  AC4C1 make one result of all channels, of AC4 the first three: sums go over them too, and S T, S^2 and T^2 are sums
+ *  of those of each channel. Alpha of an AC4 destination stays.
+ *
+ *  Integers: P, A, B and what is made of them are exact, each rounded to double once; then the root and the quotient are
+ *  taken in double, and the result is rounded to float. All methods, shapes and parts of an image give the same bits, a
+ *  perfect match gives exactly 1, no normed result passes 1.
+ *
+ *  Floats: sums are in double. Centred, every sample, zeros outside too, is taken less (float)(T / n) of its channel
+ *  first. Directly, P is summed row by row, channels of a pixel in their order; A, S, B and T by doubling: sums of k
+ *  samples make those of 2k, and with one more sample of 2k + 1, along rows and then down columns. By Fourier, P is
+ *  within 1e-12 n max|s| max|t| before it is rounded to float. Normed results are clamped to [-1, 1]. A window counts as
+ *  flat where A is, but for rounding, 0 when it is centred: at most 2^-40 of n A as it was before; the template likewise.
+ *  NaN and infinities touch the results alone whose windows hold them.
+ *
+ *  qvpMethodAuto takes Fourier transforms if the template has more than 256 (8u), 128 (16u, 16s) or 64 (32f) pixels, and
+ *  products otherwise; the same on all machines.
+ *
+ *  Rows 1 2 3, 4 5 6, 7 8 9 and the template 1 0, 0 2: valid 11 14, 20 23; same 11 14 3, 20 23 6, 7 8 9; the coefficient
+ *  is 0.38138503 for all windows that lie inside. The destination must not overlap with a source; the sources may be one
+ *  image.
+ *
+ *  @param pSrc,srcStep,srcRoiSize image, its size in pixels
+ *  @param pTpl,tplStep,tplRoiSize template, its size in pixels
+ *  @param pDst,dstStep destination, of the size above
+ *  @param shape qvpMatchValid, qvpMatchSame or qvpMatchFull
+ *  @param norm qvpMatchPlain, qvpMatchNormed, qvpMatchCentred or qvpMatchCoefficient
+ *  @param method qvpMethodAuto, qvpMethodDirect or qvpMethodFourier
+ *  @param pBuffer work buffer of the size that qvpiMatchGetBufferSize() tells for the same images and selectors
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null
+ *  - qvpStatusSize: a side is below 1; the template has more than 2147483647 pixels; qvpMatchValid: it is wider or higher
+ *    than the image; qvpMatchFull: a side of the result is above 2147483647
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNotSupportedMode: `shape` or `norm` is none of the above
+ *  - qvpStatusAlgType: `method` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMatchCorrelation_8u32f_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_8u32f_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_8u32f_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_8u32f_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_8u32f_C3C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_8u32f_AC4C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_C3C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16u32f_AC4C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_C3C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_16s32f_AC4C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_C3C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchCorrelation_32f_AC4C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Matching: squared distance
+ *  @{ */
+/** Moves a template over an image and tells for each place how far apart they are there: the sum of the squares of their
+ *  differences. The best place has the smallest result.
+ *
+ *  Windows, shapes, sums, centring, channels, exactness and methods are those of qvpiMatchCorrelation_8u32f_C1R(). With
+ *  P, A and B from there,
+ *
+ *  | norm                | result                         |
+ *  |---------------------|--------------------------------|
+ *  | qvpMatchPlain       | A - 2 P + B                    |
+ *  | qvpMatchNormed      | (A - 2 P + B) / sqrt(A B)      |
+ *  | qvpMatchCentred     | (A - 2 P + B) / n              |
+ *  | qvpMatchCoefficient | (A - 2 P + B) / sqrt(A B)      |
+ *
+ *  A quotient whose A B is 0 is 0 if A - 2 P + B is, else infinity. Integers: A - 2 P + B is exact, too, and 0 for a
+ *  perfect match. Floats: one below 0 counts as 0; plain and normed ones are sums of (s - t)^2, in the order of P, where
+ *  they are computed directly.
+ *
+ *  Rows 1 2 3, 4 5 6, 7 8 9 and the template 1 0, 0 2: valid 29 51, 119 165.
+ *
+ *  @param pSrc,srcStep,srcRoiSize image, its size in pixels
+ *  @param pTpl,tplStep,tplRoiSize template, its size in pixels
+ *  @param pDst,dstStep destination, of the size of that shape
+ *  @param shape qvpMatchValid, qvpMatchSame or qvpMatchFull
+ *  @param norm qvpMatchPlain, qvpMatchNormed, qvpMatchCentred or qvpMatchCoefficient
+ *  @param method qvpMethodAuto, qvpMethodDirect or qvpMethodFourier
+ *  @param pBuffer work buffer of the size that qvpiMatchGetBufferSize() tells for the same images and selectors
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pBuffer` is null
+ *  - qvpStatusSize: a side is below 1; the template has more than 2147483647 pixels; qvpMatchValid: it is wider or higher
+ *    than the image; qvpMatchFull: a side of the result is above 2147483647
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusNotSupportedMode: `shape` or `norm` is none of the above
+ *  - qvpStatusAlgType: `method` is none of the above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiMatchDistance_8u32f_C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_8u32f_C3R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_8u32f_C4R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_8u32f_AC4R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_8u32f_C3C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_8u32f_AC4C1R(const Qvp8u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp8u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_C3R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_C4R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_AC4R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_C3C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16u32f_AC4C1R(const Qvp16u* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16u* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_C4R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_AC4R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_C3C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_16s32f_AC4C1R(const Qvp16s* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp16s* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_C4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_AC4R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_C3C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+QvpStatus qvpiMatchDistance_32f_AC4C1R(const Qvp32f* pSrc, int srcStep, QvpiSize srcRoiSize, const Qvp32f* pTpl, int tplStep, QvpiSize tplRoiSize, Qvp32f* pDst, int dstStep, QvpiMatchShape shape, QvpiMatchNorm norm, QvpiMethod method, Qvp8u* pBuffer);
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

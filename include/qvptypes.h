@@ -206,6 +206,24 @@ enum {
     qvpMethodFourier = 2, /**< by Fourier transforms, whose time hardly depends on the smaller image */
 };
 
+/** Which windows of an image a template is compared with, and so how large the result is; see
+ *  qvpiMatchCorrelation_8u32f_C1R(). */
+typedef int QvpiMatchShape;
+enum {
+    qvpMatchValid = 0, /**< those that lie inside the image */
+    qvpMatchSame = 1,  /**< one around each pixel */
+    qvpMatchFull = 2,  /**< all that have a pixel of the image */
+};
+
+/** What is done to the sums that compare a window with a template; see qvpiMatchCorrelation_8u32f_C1R(). */
+typedef int QvpiMatchNorm;
+enum {
+    qvpMatchPlain = 0,       /**< nothing */
+    qvpMatchNormed = 1,      /**< divided by the lengths of both: brightness times a number makes no difference */
+    qvpMatchCentred = 2,     /**< of the differences from the means: brightness plus a number makes no difference */
+    qvpMatchCoefficient = 3, /**< both: the coefficient of correlation */
+};
+
 /** How a window fades towards the edges; see qvpiApplyWindow(). */
 typedef int QvpiWindow;
 enum {

@@ -2,25 +2,10 @@
 // first only matters for the order of float sums.
 #pragma once
 
-#include <cstring>
-
-#include "base/image.h"
+#include "base/plane.h"
 #include "base/record.h"
 
 namespace qvp::convolution {
-
-// One channel of an image.
-template <class T>
-struct Plane {
-  Image<const T> image;
-  Size size;
-  int channel = 0;
-
-  int channels() const { return Channels(image.layout); }
-  bool HasRow(ptrdiff_t y) const { return y >= 0 && y < size.height; }
-  // The sample at column x of a row that is there, which need not be itself; samples are channels() apart.
-  const T* At(ptrdiff_t x, ptrdiff_t y) const { return image.Row(y) + x * channels() + channel; }
-};
 
 template <class T>
 struct Convolution {
@@ -43,15 +28,5 @@ template <class T>
 void ConvolveDirectly(const Convolution<T>& call);
 template <class T>
 void ConvolveByFourier(const Convolution<T>& call);
-
-// Copies n samples of a plane's row, which need not be neighbours.
-template <class T>
-void CopySamples(const T* from, ptrdiff_t channels, ptrdiff_t n, T* to) {
-  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, from + i * channels, sizeof(T));
-}
-template <class T>
-void PutSamples(const T* from, ptrdiff_t n, ptrdiff_t channels, T* to) {
-  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i * channels, from + i, sizeof(T));
-}
 
 }  // namespace qvp::convolution

@@ -1,9 +1,11 @@
 // Convolution by its sum: the kernel is moved over the image, two rows of results at a time.
+#include "base/plane_lines.h"
+#include "base/row_pairs.h"
 #include "base/scalar.h"
 #include "filter/border_filter_pairs.h"
 #include "filter/border_filter_reals.h"
 #include "filter/windows.h"
-#include "transform/convolve_lines.h"
+#include "transform/convolve.h"
 #include "transform/convolve_wide.h"
 
 namespace qvp::convolution {
@@ -107,20 +109,10 @@ int CoefficientAt(const Plane<T>& kernel, ptrdiff_t j, ptrdiff_t i) {
   return LoadScalar(kernel.At(kernel.size.width - 1 - i, kernel.size.height - 1 - j));
 }
 
-// As the general filter has them: pair p of column i is of rows 2p and 2p + 1 for the upper result, 2p - 1 and 2p for
-// the lower one.
 template <class T, class Part>
 void WritePairs(const Plane<T>& kernel, const Part& part, int32_t* to) {
-  const auto pair = [](int first, int second) {
-    return static_cast<int32_t>((static_cast<uint32_t>(first) & 0xFFFF) | static_cast<uint32_t>(second) << 16);
-  };
-  for (ptrdiff_t p = 0; p <= kernel.size.height / 2; ++p) {
-    for (ptrdiff_t i = 0; i < kernel.size.width; ++i) {
-      const int row = part(CoefficientAt(kernel, 2 * p, i));
-      *to++ = pair(row, part(CoefficientAt(kernel, 2 * p + 1, i)));
-      *to++ = pair(part(CoefficientAt(kernel, 2 * p - 1, i)), row);
-    }
-  }
+  WriteRowPairs(
+      kernel.size, [&](ptrdiff_t j, ptrdiff_t i) { return part(CoefficientAt(kernel, j, i)); }, to);
 }
 
 template <class T>

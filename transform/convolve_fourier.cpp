@@ -5,12 +5,16 @@
 #include "base/border.h"
 #include "base/lanes.h"
 #include "base/scalar.h"
-#include "signal/plane_transform.h"
+#include "signal/plane_samples.h"
+#include "signal/tiling.h"
 #include "transform/convolve.h"
-#include "transform/convolve_tiling.h"
 
 namespace qvp::convolution {
 namespace {
+using dft::Parts;
+using dft::PartsFor;
+using dft::Tiling;
+using dft::TilingFor;
 
 template <class T>
 using Number = std::conditional_t<std::is_same_v<T, float>, float, double>;
@@ -111,37 +115,10 @@ class FourierConvolution {
       return hn::LoadU(D(), from);
     }
   }
-  HWY_INLINE static void LoadLanes(const T* from, Part part, F* to) {
-    for (ptrdiff_t lane = 0; lane < kLines; lane += kLanes) hn::StoreU(Load(from + lane, part), D(), to + lane);
-  }
-  static void ClearRows(ptrdiff_t begin, ptrdiff_t end, F* to) {
-    for (ptrdiff_t row = begin; row < end; ++row) std::memset(to + row * kRowStep, 0, kLines * sizeof(F));
-  }
-  // kLines columns from (x, y) on to each second row of the block, as many as half of the transform has; what is
-  // outside of the plane is zero.
-  void LoadRows(const Plane<T>& plane, ptrdiff_t x, ptrdiff_t y, Part part, F* to) const {
-    const ptrdiff_t begin = std::clamp<ptrdiff_t>(-x, 0, kLines),
-                    end = std::clamp<ptrdiff_t>(plane.size.width - x, begin, kLines);
-    const ptrdiff_t half = transform_.half(), first = std::clamp<ptrdiff_t>(-y, 0, half);
-    const ptrdiff_t last = begin == end ? first : std::clamp<ptrdiff_t>(plane.size.height - y, first, half);
-    ClearRows(0, first, to);
-    ClearRows(last, half, to);
-    if (first == last) return;
-    const T* from = plane.At(x + begin, y + first);
-    const bool isDirect = plane.channels() == 1 && end - begin == kLines;
-    T staged[kLines] = {};
-    for (ptrdiff_t row = first; row < last; ++row, from = Below(from, plane.image.step)) {
-      if (!isDirect) CopySamples(from, plane.channels(), end - begin, staged + begin);
-      LoadLanes(isDirect ? from : staged, part, to + row * kRowStep);
-    }
-  }
   // Transforms columns of a plane that begins at (x, y).
   void Put(const Plane<T>& plane, ptrdiff_t x, ptrdiff_t y, Part part, F* to) const {
-    for (ptrdiff_t column = 0; column < transform_.width(); column += kLines) {
-      LoadRows(plane, x + column, y, part, block_);
-      LoadRows(plane, x + column, y + transform_.half(), part, block_ + kLines);
-      transform_.PutColumns(block_, column, to);
-    }
+    dft::PutSamples(
+        transform_, plane, x, y, [part](const T* from) HWY_ATTR { return Load(from, part); }, block_, to);
   }
 
   // ---- Numbers to pixels.
@@ -206,16 +183,10 @@ class FourierConvolution {
   }
 
   void Get(const Results& results, const Summand& summand) const {
-    const ptrdiff_t half = transform_.half();
-    const auto [first, last] = results.rows;
     const auto store = summand.isFirst && summand.isLast ? &FourierConvolution::StoreRows<true>
                                                          : &FourierConvolution::StoreRows<false>;
-    for (ptrdiff_t x = results.columns.begin / kLines * kLines; x < results.columns.end; x += kLines) {
-      transform_.GetColumns(result_, x, block_);
-      const Extent upper{first, std::min(last, half)}, lower{std::max(first, half), last};
-      if (first < half) (this->*store)(block_ + first * kRowStep, x, upper, summand, results);
-      if (last > half) (this->*store)(block_ + (lower.begin - half) * kRowStep + kLines, x, lower, summand, results);
-    }
+    dft::GetRows(transform_, result_, results.columns, results.rows, block_,
+                 [&](const F* from, ptrdiff_t x, Extent rows) { (this->*store)(from, x, rows, summand, results); });
   }
 
   // ---- Tiles.

@@ -1,19 +1,15 @@
-// Sums of products of 16 bits that 32 bits do not hold.
+// Sums of products of 16 bits that 32 bits do not hold: of kMostWordPairs pairs of them. Sums of these are added up as
+// doubles, which hold all that images in memory can have.
 #pragma once
 
 #include "filter/border_filter_pairs.h"
 
 namespace qvp::convolution {
 
-// A coefficient b = 256 high + low, both from -128 to 128: kMostSteps pairs of them have a sum below 2^31, for any
-// pixels. Sums of these are added up as doubles, which hold all that images in memory can have.
-constexpr int HighPart(int b) { return (b + 128) >> 8; }
-constexpr int LowPart(int b) { return b - HighPart(b) * 256; }
-
 template <class T>
 class WideKernel {
  public:
-  using Form = filter::PairedRows<T, int16_t>;
+  using Form = PairedRows<T, int16_t>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<int32_t>());
   static constexpr int kVectors = 2;
 
@@ -34,7 +30,7 @@ class WideKernel {
   using D = hn::ScalableTag<int32_t>;
   using V = hn::Vec<D>;
   using Doubles = hn::ScalableTag<double>;
-  static constexpr ptrdiff_t kMostSteps = 255, kHalf = kLanes / 2;
+  static constexpr ptrdiff_t kMostSteps = kMostWordPairs, kHalf = kLanes / 2;
   // Of two rows; for each vector of sums two of doubles.
   template <int kCount>
   using Totals = hn::Vec<Doubles>[2][2 * kCount];

@@ -58,7 +58,7 @@ Number AnySelector(std::string_view type, Number present, Choices& choices) {
 }
 
 // Whether a work buffer is for the sizes that it was asked for alone: smaller images may need more.
-bool HasBufferOfItsSizes(const Scene& scene) { return scene.Has("Convolve"); }
+bool HasBufferOfItsSizes(const Scene& scene) { return scene.Has("Convolve") || scene.Has("Match"); }
 
 void EditSize(const Scene& scene, Argument& size, bool isFree, Choices& choices) {
   Number& side = choices.In(0, 1) ? size.second : size.number;

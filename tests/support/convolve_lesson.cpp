@@ -1,4 +1,5 @@
-// Parameters of convolutions: the second image has a size of its own, the destination what comes of both.
+// Parameters of convolutions and of matching: the second image has a size of its own, the destination what comes of
+// both.
 #include <stdexcept>
 
 #include "tests/support/lessons.h"
@@ -44,7 +45,53 @@ int BufferSize(const Scene& scene) {
   return size;
 }
 
+// ---- Matching: the second image is the template.
+
+struct MatchChoice {
+  QvpiMatchShape shape;
+  QvpiMatchNorm norm;
+};
+MatchChoice MatchChoiceOf(const Scene& scene) {
+  Random random = scene.choices();
+  for (int i = 0; i < 3; ++i) random.Next();  // those of the template
+  const auto shape = static_cast<QvpiMatchShape>(random.Next() % 3);
+  return {shape, static_cast<QvpiMatchNorm>(random.Next() % 4)};
+}
+
+int MatchBufferSize(const Scene& scene) {
+  const Name name(scene.function().name);
+  const auto [tpl, method] = ChoiceOf(scene);
+  const auto [shape, norm] = MatchChoiceOf(scene);
+  int size = 0;
+  if (qvpiMatchGetBufferSize(name.From().code, name.channels, scene.roi(), tpl, shape, norm, method, &size)) {
+    throw std::runtime_error("the size of a work buffer");
+  }
+  return size;
+}
+
 }  // namespace
+
+bool MatchLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  if (name == "pSrc" || name == "pTpl") {
+    argument = {scene.ImageFor(place, scene.Mostly())};
+  } else if (name == "srcRoiSize") {
+    argument = scene.roi();
+  } else if (name == "tplRoiSize") {
+    argument = ChoiceOf(scene).second;
+  } else if (name == "shape") {
+    argument = MatchChoiceOf(scene).shape;
+  } else if (name == "norm") {
+    argument = MatchChoiceOf(scene).norm;
+  } else if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
+  } else if (name == "pBuffer") {
+    argument = {scene.Input(MatchBufferSize(scene))};
+  } else {
+    return ConvolveLesson(scene, place, argument);
+  }
+  return true;
+}
 
 bool ConvolveLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];

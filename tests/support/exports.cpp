@@ -71,6 +71,7 @@ constexpr struct {
     {"qvpiLookup", LookupLesson},
     {"qvpiLookupTable", TableLesson},
     {"qvpiMagnitudePack", FourierLesson},
+    {"qvpiMatch", MatchLesson},
     {"qvpiMax", ReductionLesson},
     {"qvpiMean", ReductionLesson},
     {"qvpiMin", ReductionLesson},

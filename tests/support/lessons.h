@@ -25,6 +25,7 @@ bool HogLesson(Scene& scene, size_t place, Argument& argument);
 bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument);
 bool LocalThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool LookupLesson(Scene& scene, size_t place, Argument& argument);
+bool MatchLesson(Scene& scene, size_t place, Argument& argument);
 bool MedianLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);

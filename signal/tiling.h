@@ -6,7 +6,7 @@
 
 #include "base/border.h"
 
-namespace qvp::convolution {
+namespace qvp::dft {
 
 // Along one axis. A tile shorter than the full convolution has right results but for the first kernel - 1, which wrap
 // around; one as long has them all, from the first on.
@@ -30,6 +30,10 @@ struct Tiling {
 // For an image and a kernel so long: a side that is a multiple of `unit`, with factors of 2, 3 and 5.
 Tiling TilingFor(int64_t image, int64_t kernel, int64_t unit);
 
+// The side of overlapping tiles that all have right results but for the first kernel - 1, at most `most`, for a number
+// of results; `most` is at least the kernel and a unit.
+Tiling OverlapTilingFor(int64_t results, int64_t kernel, int64_t unit, int64_t most);
+
 // Parts of the kernel's pixels and of the image's: all, or 256 times a part and another.
 struct Parts {
   int kernel, image;
@@ -43,4 +47,4 @@ struct Squares {
 // So few that sums of a tile of `area` pixels are exact when they are rounded, for an image of pixels up to `largest`.
 Parts PartsFor(int64_t area, int largest, const Squares& squares);
 
-}  // namespace qvp::convolution
+}  // namespace qvp::dft

@@ -1,13 +1,13 @@
-// The lines that rows of a convolution are made from: samples of a channel with the zeros around the image, in the form
+// The lines that sums over windows are made from: samples of a channel with the zeros around the image, in the form
 // that a kernel reads, kept while it moves down.
 #pragma once
 
+#include "base/plane.h"
 #include "base/row_ring.h"
-#include "transform/convolve.h"
 
-namespace qvp::convolution {
+namespace qvp {
 
-// Bytes of an element of any form.
+// Bytes of an element of most forms, and of two samples.
 inline constexpr int kLineElementBytes = 4;
 
 template <class Form, class T>
@@ -35,7 +35,7 @@ class LineWindow {
     return memory + Bytes();
   }
   int64_t Bytes() const { return PointerBytes() + LineBytes() * (isInPlace_ ? 1 : lines_ + 1); }
-  ptrdiff_t LineBytes() const { return static_cast<ptrdiff_t>(LineBytesFor(Samples(), kLineElementBytes).value()); }
+  ptrdiff_t LineBytes() const { return static_cast<ptrdiff_t>(LineBytesFor(Samples(), kElementBytes).value()); }
 
   const Element* const* lines() const { return pointers_; }
 
@@ -45,6 +45,8 @@ class LineWindow {
   }
 
  private:
+  static constexpr int kElementBytes = std::max<int>(kLineElementBytes, sizeof(Element));
+
   ptrdiff_t Samples() const { return columns_.end - columns_.begin; }
 
   int64_t PointerBytes() const { return ByteCount(lines_ * int64_t{8}).RoundedTo(kRecordBoundary).value(); }
@@ -66,10 +68,12 @@ class LineWindow {
   void Fill() {
     const T* const upper = Readable(next_, staged_);
     const T* const lower = Form::kRows == 1 ? upper : Readable(next_ + 1, staged_ + Samples());
-    std::memset(room_, 0, before_ * sizeof(Element));
+    constexpr T kZero[1] = {};
+    const Element outside = Form::Of({kZero, kZero}, 0);
+    std::fill_n(room_, before_, outside);
     ConvertRows<Form>({upper, lower}, room_ + before_, inside_);
     const ptrdiff_t end = before_ + inside_;
-    std::memset(room_ + end, 0, (Samples() - end) * sizeof(Element));
+    std::fill_n(room_ + end, Samples() - end, outside);
   }
 
   // The samples inside the image, as neighbours.
@@ -95,4 +99,4 @@ class LineWindow {
   Element* room_ = nullptr;
 };
 
-}  // namespace qvp::convolution
+}  // namespace qvp

@@ -1,0 +1,22 @@
+// Sums of products of windows and template, product by product.
+#pragma once
+
+#include "stats/match.h"
+
+namespace qvp::matching {
+
+// Results of a tile, at most.
+inline constexpr ptrdiff_t kDirectColumns = 512, kDirectRows = 64;
+
+ByteCount DirectBytes();
+
+// Writes the sums of a tile of any size, with work memory from a boundary on. Integers have sums of products alone.
+// Floats: products are added to +0 one by one, row by row, channels of a pixel in their order.
+template <class T>
+void SumDirectly(const ChannelSet<T>& channels, Products products, const Tile<T>& tile, uint8_t* memory);
+extern template void SumDirectly(const ChannelSet<uint8_t>&, Products, const Tile<uint8_t>&, uint8_t*);
+extern template void SumDirectly(const ChannelSet<uint16_t>&, Products, const Tile<uint16_t>&, uint8_t*);
+extern template void SumDirectly(const ChannelSet<int16_t>&, Products, const Tile<int16_t>&, uint8_t*);
+extern template void SumDirectly(const ChannelSet<float>&, Products, const Tile<float>&, uint8_t*);
+
+}  // namespace qvp::matching
