@@ -1,5 +1,6 @@
 // The lines that sums over windows are made from: samples of a channel with the zeros around the image, in the form
-// that a kernel reads, kept while it moves down.
+// that a kernel reads, kept while it moves down. A form may have a last
+// word on whole lines, Finish(line, samples).
 #pragma once
 
 #include "base/plane.h"
@@ -17,8 +18,8 @@ class LineWindow {
 
   // Lines of columns, from a row on; in each, Form::kRows rows of the image. `mayBeInPlace`: nothing is read behind the
   // last sample, so that a row of the image may be a line if it needs no conversion.
-  LineWindow(const Plane<T>& plane, Extent columns, bool mayBeInPlace, ptrdiff_t row, int lines)
-      : plane_(plane), columns_(columns), next_(row), lines_(lines) {
+  LineWindow(const Plane<T>& plane, Extent columns, bool mayBeInPlace, ptrdiff_t row, int lines, const Form& form = {})
+      : plane_(plane), columns_(columns), next_(row), lines_(lines), form_(form) {
     before_ = std::clamp<ptrdiff_t>(-columns.begin, 0, Samples());
     inside_ = std::clamp<ptrdiff_t>(plane.size.width - columns.begin, before_, Samples()) - before_;
     isInPlace_ = Form::kIsInPlace && mayBeInPlace && plane.channels() == 1 && inside_ == Samples();
@@ -74,6 +75,7 @@ class LineWindow {
     ConvertRows<Form>({upper, lower}, room_ + before_, inside_);
     const ptrdiff_t end = before_ + inside_;
     std::fill_n(room_ + end, Samples() - end, outside);
+    if constexpr (requires { form_.Finish(room_, end); }) form_.Finish(room_, Samples());
   }
 
   // The samples inside the image, as neighbours.
@@ -92,6 +94,7 @@ class LineWindow {
   Extent columns_;
   ptrdiff_t before_, inside_, next_;
   int lines_;
+  Form form_;
   bool isInPlace_;
   const Element** pointers_ = nullptr;
   T* staged_ = nullptr;

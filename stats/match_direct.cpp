@@ -31,10 +31,10 @@ void ForEachPiece(Size tpl, Size most, const Visit& visit) {
 
 // A plane whose lines are those that a piece covers, for the tile's columns.
 template <class Form, class T>
-LineWindow<Form, T> LinesFor(const Plane<T>& image, const Piece& piece, const Tile<T>& tile, ptrdiff_t lines) {
-  const ptrdiff_t first = tile.x + piece.x;
-  return {
-      image, {first, first + tile.size.width + piece.size.width - 1}, false, tile.y + piece.y, static_cast<int>(lines)};
+LineWindow<Form, T> LinesFor(const Plane<T>& image, const Piece& piece, const Tile<T>& tile, ptrdiff_t lines,
+                             const Form& form = {}) {
+  const ptrdiff_t first = tile.x + piece.x, samples = tile.size.width + piece.size.width - 1;
+  return {image, {first, first + samples}, false, tile.y + piece.y, static_cast<int>(lines), form};
 }
 
 // Calls run(count, column) for all columns of a tile: `kMany` vectors at a time, or one. Rows have room for the last.
@@ -162,16 +162,24 @@ void AddProducts(const Plane<T>& image, const Plane<T>& tpl, const Tile<T>& tile
 
 // ---- Floats, in double.
 
-enum class Term { kProduct, kProductOfLess, kDifference };
+// Samples as doubles, less a number.
+struct LessRows : SingleRows<float, double> {
+  double less = 0;
 
-template <Term kTerm>
+  void Finish(double* line, ptrdiff_t n) const {
+    if (less == 0) return;
+    ForEachElement(hn::ScalableTag<double>(), n, [&](auto d, ptrdiff_t i) HWY_ATTR {
+      hn::StoreU(hn::Sub(hn::LoadU(d, line + i), hn::Set(d, less)), d, line + i);
+    });
+  }
+};
+
+template <Products kProducts>
 class RealSums {
  public:
-  using Form = SingleRows<float, double>;
-
   // The template's samples, those of a pixel's channels side by side.
-  RealSums(const double* samples, const Piece& piece, int channels, const double* less)
-      : samples_(samples), size_(piece.size), channels_(channels), less_(less) {}
+  RealSums(const double* samples, const Piece& piece, int channels)
+      : samples_(samples), size_(piece.size), channels_(channels) {}
 
   // lines[c] are those of a channel.
   void AddRows(const double* const* const* lines, ptrdiff_t columns, double* upper, double* lower) const {
@@ -188,7 +196,7 @@ class RealSums {
 
   HWY_INLINE static V Added(V sum, V v, double sample) {
     const V t = hn::Set(D(), sample);
-    if constexpr (kTerm != Term::kDifference) return hn::Add(sum, hn::Mul(v, t));
+    if constexpr (kProducts == Products::kOf) return hn::Add(sum, hn::Mul(v, t));
     const V difference = hn::Sub(v, t);
     return hn::Add(sum, hn::Mul(difference, difference));
   }
@@ -203,8 +211,7 @@ class RealSums {
       for (int c = 0; c < channels_; ++c, ++row) {
         const double* const line = lines[c][j] + at + i;
         for (int v = 0; v < kCount; ++v) {
-          V sample = hn::LoadU(D(), line + v * kLanes);
-          if constexpr (kTerm == Term::kProductOfLess) sample = hn::Sub(sample, hn::Set(D(), less_[c]));
+          const V sample = hn::LoadU(D(), line + v * kLanes);
           if constexpr (kHasUpper) above[v] = Added(above[v], sample, row[0]);
           if constexpr (kHasLower) below[v] = Added(below[v], sample, row[-step]);
         }
@@ -229,12 +236,10 @@ class RealSums {
   const double* samples_;
   Size size_;
   int channels_;
-  const double* less_;
 };
 
-template <Term kTerm>
+template <Products kProducts>
 void AddPiece(const ChannelSet<float>& channels, const Piece& piece, const Tile<float>& tile, uint8_t* memory) {
-  using Form = typename RealSums<kTerm>::Form;
   auto* const samples = reinterpret_cast<double*>(memory);
   double* to = samples;
   for (ptrdiff_t i = 0; i < piece.size.width * piece.size.height; ++i) {
@@ -245,24 +250,25 @@ void AddPiece(const ChannelSet<float>& channels, const Piece& piece, const Tile<
     }
   }
   memory += PairBytes(to - samples);
-  const auto lines = [&](int c) {
-    return LinesFor<Form>(channels.image[std::min(c, channels.count - 1)], piece, tile, piece.size.height + 1);
+  const auto lines = [&](int channel) {
+    const int c = std::min(channel, channels.count - 1);
+    return LinesFor(channels.image[c], piece, tile, piece.size.height + 1, LessRows{{}, channels.less[c]});
   };
-  LineWindow<Form, float> windows[kMostJoint] = {lines(0), lines(1), lines(2)};
+  LineWindow<LessRows, float> windows[kMostJoint] = {lines(0), lines(1), lines(2)};
   const double* const* starts[kMostJoint] = {};
   for (int c = 0; c < channels.count; ++c) memory = windows[c].Start(memory), starts[c] = windows[c].lines();
-  const RealSums<kTerm> kernel(samples, piece, channels.count, channels.less);
+  const RealSums<kProducts> kernel(samples, piece, channels.count);
   for (ptrdiff_t y = 0; y < tile.size.height; y += 2) {
     for (int c = 0; y > 0 && c < channels.count; ++c) windows[c].Advance(2);
     kernel.AddRows(starts, tile.size.width, tile.Row(y), tile.Row(y + 1));
   }
 }
 
-template <Term kTerm>
+template <Products kProducts>
 void AddProducts(const ChannelSet<float>& channels, const Tile<float>& tile, uint8_t* memory) {
   const Size tpl = channels.tpl[0].size;
   ForEachPiece(tpl, {kMostWidth, tpl.width > kMostWidth ? 1 : kMostLines},
-               [&](const Piece& piece) { AddPiece<kTerm>(channels, piece, tile, memory); });
+               [&](const Piece& piece) { AddPiece<kProducts>(channels, piece, tile, memory); });
 }
 
 // ---- Tiles of at most kDirectColumns x kDirectRows.
@@ -272,10 +278,8 @@ void SumTile(const ChannelSet<T>& channels, Products products, const Tile<T>& ti
   const ptrdiff_t columns = (tile.size.width + kTileUnit - 1) / kTileUnit * kTileUnit;
   for (ptrdiff_t y = 0; y < (tile.size.height + 1) / 2 * 2; ++y) std::fill_n(tile.Row(y), columns, Sum<T>{});
   if constexpr (kIsFloat<T>) {
-    const bool isLess = std::any_of(channels.less, channels.less + channels.count, [](double v) { return v != 0; });
-    if (products == Products::kOfDifferences) return AddProducts<Term::kDifference>(channels, tile, memory);
-    if (isLess) return AddProducts<Term::kProductOfLess>(channels, tile, memory);
-    AddProducts<Term::kProduct>(channels, tile, memory);
+    if (products == Products::kOf) return AddProducts<Products::kOf>(channels, tile, memory);
+    AddProducts<Products::kOfDifferences>(channels, tile, memory);
   } else {
     for (int c = 0; c < channels.count; ++c) AddProducts(channels.image[c], channels.tpl[c], tile, memory);
   }
