@@ -5,8 +5,8 @@
 
 namespace qvp::matching {
 
-// Results of a tile, at most.
-inline constexpr ptrdiff_t kDirectColumns = 512, kDirectRows = 64;
+// Results of a tile, at most: rows of sums are not powers of two apart.
+inline constexpr ptrdiff_t kDirectColumns = 240, kDirectRows = 64;
 
 ByteCount DirectBytes();
 
