@@ -1,4 +1,4 @@
-// Steps of norms, sums, extrema, histograms and moments.
+// Steps of norms, sums, extrema, histograms, moments and matching.
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -122,6 +122,36 @@ void Moments(Demo& demo) {
   demo.Show("Centre and axes of the bright parts", drawn);
 }
 
+// A piece of the picture is looked for in all of it; where it fits best there is a frame.
+void Matching(Demo& demo) {
+  const Rgb& photo = demo.photo();
+  const QvpiSize size = photo.size(), piece{std::max(1, size.width / 12), std::max(1, size.height / 12)};
+  const QvpiSize places{size.width - piece.width + 1, size.height - piece.height + 1};
+  const Qvp8u* const from = photo.At(places.width * 2 / 3, places.height * 2 / 5);
+  Image<qvpiMalloc_32f_C1, 1> fits(places);
+  int bytes, x, y;
+  Require(qvpiMatchGetBufferSize(qvp8u, 3, size, piece, qvpMatchValid, qvpMatchCoefficient, qvpMethodAuto, &bytes));
+  std::vector<Qvp8u> buffer(bytes);
+  demo.Time(size, 3 + 4,
+            CALL(qvpiMatchCorrelation_8u32f_C3C1R, photo.data(), photo.step(), size, from, photo.step(), piece,
+                 fits.data(), fits.step(), qvpMatchValid, qvpMatchCoefficient, qvpMethodAuto, buffer.data()));
+  float best;
+  Require(qvpiMaxIndx_32f_C1R(fits.data(), fits.step(), places, &best, &x, &y));
+  std::printf("  a piece of %s fits best at (%d, %d), with %.3f\n", ToString(piece).c_str(), x, y, best);
+
+  Grey map(places);
+  Rgb drawn(places);
+  Require(qvpiScale_32f8u_C1R(fits.data(), fits.step(), map.data(), map.step(), places, -1, 1));
+  Require(qvpiDup_8u_C1C3R(map.data(), map.step(), drawn.data(), drawn.step(), places));
+  constexpr Qvp8u kRed[3] = {232, 40, 32};
+  constexpr int kFar = 12, kThick = 4;
+  for (const int side : {-kFar, kFar}) {
+    FillBox(drawn, x - kFar, y + side, {2 * kFar + kThick, kThick}, kRed);
+    FillBox(drawn, x + side, y - kFar, {kThick, 2 * kFar + kThick}, kRed);
+  }
+  demo.Show("How well a piece of it fits, and where best", drawn);
+}
+
 void Extrema(Demo& demo) {
   const Rgb& photo = demo.photo();
   Qvp8u least[3];
@@ -139,6 +169,7 @@ void StatsSteps(Demo& demo) {
   Histogram(demo);
   Norms(demo);
   Moments(demo);
+  Matching(demo);
   Extrema(demo);
 }
 

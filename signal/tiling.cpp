@@ -23,7 +23,7 @@ int64_t WorkPerNumber(int64_t length) {
 Tiling TilingFor(int64_t image, int64_t kernel, int64_t unit) {
   const int64_t full = image + kernel - 1, most = std::max(2 * full, unit);
   int64_t best = 0, least = INT64_MAX;
-  dft::ForEachSmooth(unit, kernel, most, [&](int64_t side) {
+  ForEachSmooth(unit, kernel, most, [&](int64_t side) {
     const int64_t step = side >= full ? side : side - kernel + 1, tiles = (full + step - 1) / step;
     const int64_t work = tiles * side * WorkPerNumber(side);
     if (work < least || (work == least && side < best)) best = side, least = work;

@@ -8,13 +8,13 @@ gaps within its rows is refused, or copied with copy=True. Functions have `out=`
 are independent, `threads=`; classes keep what takes preparation. A call that is refused raises Error, a ValueError, or
 TypeError, and writes nothing.
 """
-from . import (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames, kernels,
-               layout, raw, remapping, resizing, statistics, values, warps, wavelet)
+from . import (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames,
+               kernels, layout, matching, raw, remapping, resizing, statistics, values, warps, wavelet)
 from ._errors import Error, Warning
 from ._threads import get_threads, set_threads
 
-_MODULES = (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames,
-            kernels, layout, remapping, resizing, statistics, values, warps, wavelet)
+_MODULES = (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames, kernels,
+            layout, matching, remapping, resizing, statistics, values, warps, wavelet)
 __all__ = ["Error", "Warning", "get_threads", "info", "raw", "set_threads"]
 for _module in _MODULES:
     __all__ += _module.__all__

@@ -40,11 +40,11 @@ def role_of(label):
 
 
 def channels_of(layout, role):
-    """Channels of an image with this role: C3C1 has three in sources and one elsewhere; masks and maps have one."""
+    """Channels of an image with this role: C3C1 has three in sources and templates and one elsewhere; masks and maps have one."""
     if role in ("mask", "xMap", "yMap"):
         return 1
     counts = [int(count) for count in re.findall(r"[CP](\d)", layout)] or [1]
-    return counts[0] if role.startswith("src") else counts[-1]
+    return counts[0] if role.startswith(("src", "tpl")) else counts[-1]
 
 
 class Plan:
@@ -103,8 +103,9 @@ class Plan:
     def image_for(self, role):
         """The image whose size stands for a size that is not passed."""
         images = [name for name, operand in self.operands.items() if operand[0] == "I"]
-        if role.removesuffix("Size") in images:
-            return role.removesuffix("Size")
+        named = role.removesuffix("Size").removesuffix("Roi")
+        if named in images:
+            return named
         if role.startswith("src"):
             return images[0]
         return "dst" if "dst" in images else next((name for name in images if name not in self.free), images[0])

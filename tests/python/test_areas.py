@@ -255,6 +255,36 @@ def test_deconvolution(channels):
         qvpi.Deconvolver((9, 9), psf).inverse(a)
 
 
+def squares_of(windows, template, centred):
+    """P, A and B of matching, for windows of shape (rows, columns, height, width)."""
+    windows, template = windows.astype(float), template.astype(float)
+    if centred:
+        windows, template = windows - windows.mean((2, 3), keepdims=True), template - template.mean()
+    return (windows * template).sum((2, 3)), (windows ** 2).sum((2, 3)), (template ** 2).sum()
+
+
+@pytest.mark.parametrize("dtype", ["u1", "u2", "i2", "f4"])
+@pytest.mark.parametrize("method", ["direct", "fourier"])
+@pytest.mark.parametrize("count, joint", [(1, False), (3, False), (3, True), (4, True)])
+def test_matches(dtype, method, count, joint):
+    a, template = random((21, 30, count), dtype, 1), random((6, 9, count), dtype, 2)
+    used = [c for c in range(count) if c < 3]
+    windows = numpy.lib.stride_tricks.sliding_window_view(a, (6, 9), (0, 1))
+    for norm, centred, normed in (("plain", 0, 0), ("normed", 0, 1), ("centred", 1, 0), ("coefficient", 1, 1)):
+        parts = [squares_of(windows[:, :, c], template[:, :, c], centred) for c in used]
+        parts = [[sum(part) for part in zip(*parts)]] if joint else parts
+        for measure in ("correlation", "distance"):
+            found = qvpi.match(a.squeeze(), template.squeeze(), measure=measure, norm=norm, joint=joint, method=method)
+            for c, (p, x, y) in enumerate(parts):
+                exact = (p if measure == "correlation" else x - 2 * p + y) / (numpy.sqrt(x * y) if normed else 1)
+                result = found if found.ndim == 2 else found[:, :, c]
+                numpy.testing.assert_allclose(result, exact, rtol=1e-5, atol=1e-6 * abs(exact).max())
+    with pytest.raises(ValueError):
+        qvpi.match(template.squeeze(), a.squeeze())
+    with pytest.raises(TypeError):
+        qvpi.match(a.squeeze(), template.squeeze().astype("f8"))
+
+
 @given(st.sampled_from(["ortho", "backward", "forward", "none"]), st.tuples(st.integers(1, 40), st.integers(1, 40)))
 def test_cosine_transforms(norm, shape):
     a = random((*shape, 3), "f4", 8) % 1
