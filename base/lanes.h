@@ -98,6 +98,23 @@ HWY_INLINE hn::Vec<hn::Rebind<T, D>> Narrow(D d, V v) {
   }
 }
 
+// Two vectors of doubles as one of 32-bit integers: rounded to the nearest, ties to even, of lanes within 2^31. Beside
+// 1.5 * 2^52 a double has its whole part as its lowest bits.
+template <class V>
+HWY_INLINE auto RoundedPair(V lower, V upper) {
+  const hn::DFromV<V> d;
+  const hn::Repartition<int32_t, decltype(d)> ints;
+  const V unit = hn::Set(d, 0x1.8p52);
+  return hn::ConcatEven(ints, hn::BitCast(ints, hn::Add(upper, unit)), hn::BitCast(ints, hn::Add(lower, unit)));
+}
+// As one of floats.
+template <class V>
+HWY_INLINE auto FloatPair(V lower, V upper) {
+  const hn::Repartition<float, hn::DFromV<V>> floats;
+  const hn::Half<decltype(floats)> half;
+  return hn::Combine(floats, hn::DemoteTo(half, upper), hn::DemoteTo(half, lower));
+}
+
 // A piece of a row that is shorter than a vector, staged in memory that may be read as a whole one. What is missing is
 // zero.
 template <class T>

@@ -1,5 +1,5 @@
 /** @file qvpi_feature.h
- *  Features that describe an image: histograms of oriented gradients.
+ *  Features that describe an image: histograms of oriented gradients; images made by formulas: ramps.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -153,6 +153,48 @@ QvpStatus qvpiHOG_16s32f_C1R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, 
 QvpStatus qvpiHOG_16s32f_C3R(const Qvp16s* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp16s* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiHOG_32f_C1R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp32f* borderValue, Qvp8u* pBuffer);
 QvpStatus qvpiHOG_32f_C3R(const Qvp32f* pSrc, int srcStep, QvpiSize roiSize, const QvpiPoint* pLocation, int nLocations, Qvp32f* pDst, const QvpiHOGSpec* pHOGSpec, QvpiBorderType borderID, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Ramps
+ *  @{ */
+/** Fills a region with a plane: gradients, tables to try look-ups with, masks against vignetting.
+ *
+ *    v(x, y) = (start + slopeY * Y) + slopeX * X,    X = dstOffset.x + x,  Y = dstOffset.y + y
+ *
+ *  in double precision, each operation rounded; X and Y are exact. Stored as (float)v, or as an integer: to the
+ *  nearest, ties to even, saturated; NaN gives the lowest value of the type. Every offset and every number is taken.
+ *  With 8u, start 0 and slopeX 0.5 a row is 0 0 1 2 2 2 3 4.
+ *
+ *  A tile of a larger ramp has the place of its first pixel there as `dstOffset`, and the same bits.
+ *
+ *  @param start the value at (0, 0), one for each channel
+ *  @param slopeX what is added from column to column, one for each channel
+ *  @param slopeY what is added from row to row, one for each channel
+ *  @param pDst,dstStep destination. The fourth channel of AC4 stays as it is
+ *  @param roiSize size of the region
+ *  @param dstOffset the place of the region's first pixel
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: `dstStep` is below 1
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiRamp_8u_C1R(Qvp64f start, Qvp64f slopeX, Qvp64f slopeY, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_8u_C3R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_8u_C4R(const Qvp64f start[4], const Qvp64f slopeX[4], const Qvp64f slopeY[4], Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_8u_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16u_C1R(Qvp64f start, Qvp64f slopeX, Qvp64f slopeY, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16u_C3R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16u_C4R(const Qvp64f start[4], const Qvp64f slopeX[4], const Qvp64f slopeY[4], Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16u_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16s_C1R(Qvp64f start, Qvp64f slopeX, Qvp64f slopeY, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16s_C3R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16s_C4R(const Qvp64f start[4], const Qvp64f slopeX[4], const Qvp64f slopeY[4], Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_16s_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_32f_C1R(Qvp64f start, Qvp64f slopeX, Qvp64f slopeY, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_32f_C3R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_32f_C4R(const Qvp64f start[4], const Qvp64f slopeX[4], const Qvp64f slopeY[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiRamp_32f_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 /** @} */
 
 #ifdef __cplusplus

@@ -82,6 +82,7 @@ constexpr struct {
     {"qvpiPackToCplxExtend", FourierLesson},
     {"qvpiPalette", TableLesson},
     {"qvpiPhasePack", FourierLesson},
+    {"qvpiRamp", RampLesson},
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
     {"qvpiResize420", FrameResizeLesson},
