@@ -31,13 +31,14 @@ struct Plane {
     }
     return {Doubles(), values, layout};
   }
-  // slopeX * X of each channel of n pixels from column x on.
+  // slopeX * X of each channel of n pixels from column x on, and zeros in the room behind them.
   void FillAcross(ptrdiff_t x, ptrdiff_t n, Layout layout, double* to) const {
     const int channels = Channels(layout);
-    for (int c = 0; c < ProcessedChannels(layout); ++c) {
-      const double slope = LoadScalar(slopeX + c);
+    for (int c = 0; c < channels; ++c) {
+      const double slope = c < ProcessedChannels(layout) ? LoadScalar(slopeX + c) : 0;
       for (ptrdiff_t i = 0; i < n; ++i) to[i * channels + c] = slope * static_cast<double>(offset.x + x + i);
     }
+    std::fill_n(to + n * channels, kRoom, 0.0);
   }
 };
 
@@ -87,7 +88,7 @@ QvpStatus Ramp(const Plane& plane, const Image<T>& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {dst}, numbers)) return failed;
   const auto writeRow = KeepsAlpha(dst.layout) ? WriteRow<true, T> : WriteRow<false, T>;
   const ptrdiff_t channels = Channels(dst.layout), most = kStrip / channels;
-  HWY_ALIGN double across[kStrip + kRoom] = {};
+  HWY_ALIGN double across[kStrip + kRoom];
   for (ptrdiff_t x = 0; x < roi.width; x += most) {
     const ptrdiff_t n = std::min(most, roi.width - x);
     plane.FillAcross(x, n, dst.layout, across);

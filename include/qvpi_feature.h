@@ -1,5 +1,6 @@
 /** @file qvpi_feature.h
- *  Features that describe an image: histograms of oriented gradients; images made by formulas: ramps.
+ *  Features that describe an image: histograms of oriented gradients; images made by formulas: ramps, the
+ *  Jaehne pattern.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -195,6 +196,55 @@ QvpStatus qvpiRamp_32f_C1R(Qvp64f start, Qvp64f slopeX, Qvp64f slopeY, Qvp32f* p
 QvpStatus qvpiRamp_32f_C3R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 QvpStatus qvpiRamp_32f_C4R(const Qvp64f start[4], const Qvp64f slopeX[4], const Qvp64f slopeY[4], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 QvpStatus qvpiRamp_32f_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const Qvp64f slopeY[3], Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+/** @} */
+
+/** @name Jaehne pattern
+ *  @{ */
+/** Draws the Jaehne pattern: rings whose frequency grows with the distance from the middle, so that all frequencies and
+ *  directions are in one image. What a filter or a resize does to each of them is seen at its place, and aliasing shows
+ *  as rings that are not there.
+ *
+ *  For an image of W x H pixels, m the lesser of the two, and X = 2 (dstOffset.x + x) - (W - 1), Y alike:
+ *
+ *    c = cos(2 pi (X^2 + Y^2) / (4 * minPeriod * m))
+ *
+ *  The period falls to `minPeriod` pixels at the distance m / 2 from the middle. What is stored:
+ *
+ *  @code
+ *    8u    127.5 + 127.5 c        rounded
+ *    16u   32767.5 + 32767.5 c    rounded
+ *    16s   32767.5 c - 0.5        rounded
+ *    32f   0.5 + 0.5 c            as float
+ *  @endcode
+ *
+ *  to the nearest, ties to even. All channels are alike. c is made in double precision as cos f(X) cos f(Y) -
+ *  sin f(X) sin f(Y), with f(Z) = 2 pi (Z^2 mod D) / D, D = 4 * minPeriod * m, reduced in whole numbers: exact to 1e-14,
+ *  so that integers are those of the formula but at ties, where they may be the other neighbour. Source: B. Jaehne,
+ *  Digital Image Processing.
+ *
+ *  A tile of the image has the place of its first pixel as `dstOffset`, and the same bits.
+ *
+ *  @param imageSize size of the whole image
+ *  @param minPeriod the shortest period in pixels
+ *  @param pDst,dstStep destination
+ *  @param roiSize size of the region that is drawn
+ *  @param dstOffset the place of the region's first pixel in the image
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pDst` is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1, or one of `imageSize` outside 1 to 16777216
+ *  - qvpStatusStep: `dstStep` is below 1
+ *  - qvpStatusBadArgument: `minPeriod` is outside 2 to 65536
+ *  - qvpStatusOutOfRange: the region is not within the image
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiJaehne_8u_C1R(QvpiSize imageSize, int minPeriod, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_8u_C3R(QvpiSize imageSize, int minPeriod, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_16u_C1R(QvpiSize imageSize, int minPeriod, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_16u_C3R(QvpiSize imageSize, int minPeriod, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_16s_C1R(QvpiSize imageSize, int minPeriod, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_16s_C3R(QvpiSize imageSize, int minPeriod, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_32f_C1R(QvpiSize imageSize, int minPeriod, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+QvpStatus qvpiJaehne_32f_C3R(QvpiSize imageSize, int minPeriod, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 /** @} */
 
 #ifdef __cplusplus

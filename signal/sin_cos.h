@@ -1,4 +1,4 @@
-// Sine and cosine of fractions of a turn, for tables: one text for all builds, of operations that every CPU rounds
+// Sine and cosine of fractions of a turn: one text for all builds, of operations that every CPU rounds
 // alike.
 #pragma once
 
@@ -11,6 +11,10 @@ namespace qvp {
 
 struct SinCos {
   double sin, cos;
+};
+template <class V>
+struct SinCosLanes {
+  V sin, cos;
 };
 
 // Of 2 pi x for x in [0, 1/8], by the power series, to a part in 2^52.
@@ -63,21 +67,47 @@ HWY_INLINE V SinOfSmall(V x) {
   return hn::Add(hn::Mul(hn::Mul(sum, x2), x), x);
 }
 
-// cos(2 pi k / n) of double lanes that hold whole numbers, 0 <= k <= n < 2^50, n > 0. The same reduction: k becomes its
-// distance to the nearer end, then to a quarter of a turn where that is nearer.
+// Where the turn k / n lies, of double lanes that hold whole numbers, 0 <= k <= n < 2^50, n > 0. The same reduction: k
+// becomes its distance to the nearer end, then to a quarter of a turn where that is nearer.
+template <class V>
+struct PlaceOnTurn {
+  using Mask = decltype(hn::Lt(V(), V()));
+  V x;  // the angle that is left, 0 to pi / 4
+  Mask isBeyondHalf, isBeyondQuarter, isNearQuarter;
+
+  HWY_INLINE PlaceOnTurn(V k, V n) {
+    const hn::DFromV<V> d;
+    constexpr double kPi = 0x1.921fb54442d18p+1;
+    const V rest = hn::Sub(n, k), half = hn::Min(k, rest), twice = hn::Add(half, half), four = hn::Add(twice, twice);
+    isBeyondHalf = hn::Lt(rest, k);
+    isBeyondQuarter = hn::Gt(four, n);                                           // twice <= n
+    const V folded = hn::IfThenElse(isBeyondQuarter, hn::Sub(n, twice), twice);  // pi folded / n is up to pi / 2
+    const V left = hn::Sub(n, hn::Add(folded, folded));                          // pi left / 2n from there
+    isNearQuarter = hn::Lt(left, folded);
+    const V part = hn::IfThenElse(isNearQuarter, hn::Mul(left, hn::Set(d, 0.5)), folded);
+    x = hn::Mul(hn::Div(part, n), hn::Set(d, kPi));
+  }
+  HWY_INLINE V Cos(V sinOfX, V cosOfX) const {
+    const V cos = hn::IfThenElse(isNearQuarter, sinOfX, cosOfX);
+    return hn::IfThenElse(isBeyondQuarter, hn::Neg(cos), cos);
+  }
+  HWY_INLINE V Sin(V sinOfX, V cosOfX) const {
+    const V sin = hn::IfThenElse(isNearQuarter, cosOfX, sinOfX);
+    return hn::IfThenElse(isBeyondHalf, hn::Neg(sin), sin);
+  }
+};
+
+// cos(2 pi k / n), and the sine with it, of such lanes.
 template <class V>
 HWY_INLINE V CosOfTurn(V k, V n) {
-  const hn::DFromV<V> d;
-  constexpr double kPi = 0x1.921fb54442d18p+1;
-  const V half = hn::Min(k, hn::Sub(n, k)), twice = hn::Add(half, half), four = hn::Add(twice, twice);  // twice <= n
-  const auto isBeyondQuarter = hn::Gt(four, n);
-  const V folded = hn::IfThenElse(isBeyondQuarter, hn::Sub(n, twice), twice);  // pi folded / n is up to pi / 2
-  const V left = hn::Sub(n, hn::Add(folded, folded));                          // pi left / 2n from there
-  const auto isNearQuarter = hn::Lt(left, folded);
-  const V part = hn::IfThenElse(isNearQuarter, hn::Mul(left, hn::Set(d, 0.5)), folded);
-  const V x = hn::Mul(hn::Div(part, n), hn::Set(d, kPi));
-  const V cos = hn::IfThenElse(isNearQuarter, SinOfSmall(x), CosOfSmall(x));
-  return hn::IfThenElse(isBeyondQuarter, hn::Neg(cos), cos);
+  const PlaceOnTurn<V> place(k, n);
+  return place.Cos(SinOfSmall(place.x), CosOfSmall(place.x));
+}
+template <class V>
+HWY_INLINE SinCosLanes<V> SinCosOfTurn(V k, V n) {
+  const PlaceOnTurn<V> place(k, n);
+  const V sin = SinOfSmall(place.x), cos = CosOfSmall(place.x);
+  return {place.Sin(sin, cos), place.Cos(sin, cos)};
 }
 
 }  // namespace qvp

@@ -68,6 +68,7 @@ constexpr struct {
     {"qvpiGrayToBin", ScaleLesson},
     {"qvpiHOG", HogLesson},
     {"qvpiHistogram", HistogramLesson},
+    {"qvpiJaehne", JaehneLesson},
     {"qvpiLookup", LookupLesson},
     {"qvpiLookupTable", TableLesson},
     {"qvpiMagnitudePack", FourierLesson},

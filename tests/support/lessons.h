@@ -22,6 +22,7 @@ bool GaussLesson(Scene& scene, size_t place, Argument& argument);
 bool GuidedLesson(Scene& scene, size_t place, Argument& argument);
 bool HistogramLesson(Scene& scene, size_t place, Argument& argument);
 bool HogLesson(Scene& scene, size_t place, Argument& argument);
+bool JaehneLesson(Scene& scene, size_t place, Argument& argument);
 bool LeastSquaresLesson(Scene& scene, size_t place, Argument& argument);
 bool LocalThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool LookupLesson(Scene& scene, size_t place, Argument& argument);

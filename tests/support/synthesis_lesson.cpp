@@ -15,4 +15,21 @@ bool RampLesson(Scene& scene, size_t place, Argument& argument) {
   return true;
 }
 
+// The region is part of an image that is a little larger.
+bool JaehneLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  Random random = scene.choices();
+  const QvpiPoint offset{static_cast<int>(random.Next() % 9), static_cast<int>(random.Next() % 9)};
+  if (name == "imageSize") {
+    argument = QvpiSize{scene.roi().width + offset.x, scene.roi().height + 2 * offset.y};
+  } else if (name == "minPeriod") {
+    argument = scene.Any({2, 3, 65536});
+  } else if (name == "dstOffset") {
+    argument = offset;
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace test

@@ -1,0 +1,102 @@
+// The Jaehne pattern against its formula.
+#include <cmath>
+#include <vector>
+
+#include "gtest/gtest.h"
+#include "tests/support/exports.h"
+#include "tests/support/name.h"
+#include "tests/support/reference.h"
+
+namespace {
+using test::Element;
+using test::Export;
+using test::Name;
+using test::Real;
+using test::Samples;
+
+// What a pixel is before it is rounded.
+Real Exact(const Element& element, QvpiSize image, int minPeriod, int64_t x, int64_t y) {
+  const int64_t across = 2 * x - (image.width - 1), down = 2 * y - (image.height - 1);
+  const int64_t divisor = int64_t{4} * minPeriod * std::min(image.width, image.height);
+  const Real c = std::cos(2 * M_PIl * ((across * across + down * down) % divisor) / divisor);
+  if (!element.isInteger) return (1 + c) / 2;
+  return element.lowest + (element.highest - element.lowest) * (1 + c) / 2;
+}
+
+// Whether a pixel is its exact value rounded, or at a tie the other neighbour.
+bool IsRounded(const Element& element, Real pixel, Real exact) {
+  const Real unit = element.isInteger ? 0.5L : 0x1p-25L;
+  return std::fabs(pixel - exact) <= unit + 1e-14L * (element.isInteger ? element.highest : 1);
+}
+
+struct Case {
+  QvpiSize image;
+  int minPeriod;
+  QvpiPoint offset;
+  QvpiSize roi;
+};
+
+void Expect(const Export& function, const Case& c) {
+  const Name name(function.name);
+  const Element& element = name.From();
+  Samples dst(element, c.roi.width * name.channels, c.roi.height, 3);
+  ASSERT_EQ(function({{"imageSize", c.image},
+                      {"minPeriod", c.minPeriod},
+                      {"pDst", dst},
+                      {"roiSize", c.roi},
+                      {"dstOffset", c.offset}}),
+            0);
+  for (int y = 0; y < c.roi.height; ++y) {
+    for (int i = 0; i < dst.width(); ++i) {
+      const Real exact = Exact(element, c.image, c.minPeriod, c.offset.x + i / name.channels, c.offset.y + y);
+      ASSERT_PRED3(IsRounded, element, dst(i, y), exact) << function.name << ' ' << i << ',' << y;
+    }
+  }
+}
+
+TEST(Jaehne, EveryMemberIsTheFormula) {
+  constexpr int kMost = 1 << 24;
+  for (const Export* function : test::FunctionsOf({"Jaehne"})) {
+    for (int n = 1; n <= 40; ++n) Expect(*function, {{n, 41 - n}, 1 + n, {0, 0}, {n, 41 - n}});
+    Expect(*function, {{1100, 70}, 2, {3, 1}, {1097, 67}});
+    for (const int period : {2, 3, 65536}) {
+      Expect(*function, {{kMost, kMost}, period, {kMost - 50, kMost / 2}, {50, 9}});
+      Expect(*function, {{kMost, 1}, period, {0, 0}, {50, 1}});
+    }
+  }
+}
+
+TEST(Jaehne, KnownImages) {
+  std::vector<Qvp8u> pixels(9);
+  EXPECT_EQ(qvpiJaehne_8u_C1R({1, 1}, 2, pixels.data(), 3, {1, 1}, {0, 0}), 0);
+  EXPECT_EQ(pixels[0], 255);
+  EXPECT_EQ(qvpiJaehne_8u_C1R({3, 3}, 2, pixels.data(), 3, {3, 3}, {0, 0}), 0);
+  EXPECT_EQ(pixels, (std::vector<Qvp8u>{64, 191, 64, 191, 255, 191, 64, 191, 64}));
+  Qvp16u word;
+  Qvp16s number;
+  EXPECT_EQ(qvpiJaehne_16u_C1R({3, 3}, 2, &word, 2, {1, 1}, {2, 0}), 0);
+  EXPECT_EQ(qvpiJaehne_16s_C1R({3, 3}, 2, &number, 2, {1, 1}, {2, 2}), 0);
+  EXPECT_EQ(word, 16384);
+  EXPECT_EQ(number, -16384);
+}
+
+TEST(Jaehne, RefusesInItsOrder) {
+  Qvp8u pixel = 7;
+  const auto call = [&](QvpiSize image, int period, int step, QvpiPoint offset, QvpiSize roi = {1, 1}) {
+    return qvpiJaehne_8u_C1R(image, period, &pixel, step, roi, offset);
+  };
+  constexpr QvpiPoint kFarAway{-1, 0};
+  for (const QvpiSize image : {QvpiSize{0, 5}, {5, 0}, {-1, 5}, {16777217, 1}, {1, 16777217}, {INT32_MIN, 1}}) {
+    EXPECT_EQ(call(image, 1, 0, kFarAway), qvpStatusSize);
+  }
+  EXPECT_EQ(call({5, 5}, 1, 0, kFarAway), qvpStatusStep);
+  for (const int period : {1, 0, -2, 65537}) EXPECT_EQ(call({5, 5}, period, 1, kFarAway), qvpStatusBadArgument);
+  for (const QvpiPoint offset : {kFarAway, {0, -1}, {5, 0}, {0, 5}, {INT32_MAX, 0}, {0, INT32_MIN}}) {
+    EXPECT_EQ(call({5, 5}, 2, 1, offset), qvpStatusOutOfRange);
+  }
+  EXPECT_EQ(call({5, 5}, 2, 9, {1, 0}, {5, 1}), qvpStatusOutOfRange);
+  EXPECT_EQ(call({5, 5}, 2, 9, {0, 4}, {1, INT32_MAX}), qvpStatusOutOfRange);
+  EXPECT_EQ(pixel, 7);
+}
+
+}  // namespace
