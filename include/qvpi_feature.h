@@ -1,6 +1,6 @@
 /** @file qvpi_feature.h
  *  Features that describe an image: histograms of oriented gradients; images made by formulas: ramps, the
- *  Jaehne pattern.
+ *  Jaehne pattern, noise.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -245,6 +245,169 @@ QvpStatus qvpiJaehne_16s_C1R(QvpiSize imageSize, int minPeriod, Qvp16s* pDst, in
 QvpStatus qvpiJaehne_16s_C3R(QvpiSize imageSize, int minPeriod, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 QvpStatus qvpiJaehne_32f_C1R(QvpiSize imageSize, int minPeriod, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
 QvpStatus qvpiJaehne_32f_C3R(QvpiSize imageSize, int minPeriod, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset);
+/** @} */
+
+/** @name Noise: records
+ *  @{ */
+/** Size of a record of noise of any kind: 128 bytes.
+ *
+ *  @param pSpecSize receives the size in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpecSize` is null
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseGetSize(int* pSpecSize);
+
+/** Makes a record of uniform noise: qvpiNoise() adds numbers from `low` to `high`.
+ *
+ *    v + (low + u * (high - low)),    u = (word >> 8) * 2^-24
+ *
+ *  @param low,high the bounds; as floats, and so is their difference
+ *  @param seed,stream the key of the random numbers; see qvpiNoise_8u_C1R()
+ *  @param pSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusBadArgument: a bound or high - low is not a finite float
+ *  - qvpStatusRange: `low` is above `high`
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseUniformInit(Qvp64f low, Qvp64f high, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
+
+/** Makes a record of Gaussian noise: qvpiNoise() adds numbers of a normal distribution.
+ *
+ *    v + (mean + sigma * g)
+ *
+ *  @param mean,sigma mean and standard deviation of what is added; as floats
+ *  @param seed,stream the key of the random numbers; see qvpiNoise_8u_C1R()
+ *  @param pSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusBadArgument: a parameter is not a finite float, or `sigma` is below 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseGaussInit(Qvp64f mean, Qvp64f sigma, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
+
+/** Makes a record of speckle: noise in proportion to the pixel, as of ultrasound and radar.
+ *
+ *    v + v * (sigma * g)
+ *
+ *  @param sigma standard deviation of a pixel of value 1; as float
+ *  @param seed,stream the key of the random numbers; see qvpiNoise_8u_C1R()
+ *  @param pSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusBadArgument: `sigma` is not a finite float, or below 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseSpeckleInit(Qvp64f sigma, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
+
+/** Makes a record of the noise of a camera: of photons, whose variance grows with the light, and of the read-out.
+ *
+ *    v + sqrt(gain * max(v, 0) + sigma^2) * g
+ *
+ *  @param gain what one photon adds to a pixel; as float
+ *  @param sigma standard deviation of the read-out, where there is no light; as float, and so is its square
+ *  @param seed,stream the key of the random numbers; see qvpiNoise_8u_C1R()
+ *  @param pSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusBadArgument: `gain`, `sigma` or sigma^2 is not a finite float, or below 0
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseShotInit(Qvp64f gain, Qvp64f sigma, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
+
+/** Makes a record of salt and pepper: single pixels that are lost, dark or bright.
+ *
+ *  With hit = trunc(level * 2^32) and top = trunc((level * saltShare) * 2^32), in double precision, pixels whose word is
+ *  below top become `salt`, others whose word is below hit `pepper`, in all channels that are processed; the rest stays
+ *  as it is.
+ *
+ *  @param level the share of pixels that are lost, 0 to below 1
+ *  @param saltShare the share of salt among these, 0 to 1
+ *  @param pepper,salt the values of dark and of bright pixels: rounded to the type, ties to even, saturated
+ *  @param seed,stream the key of the random numbers; see qvpiNoise_8u_C1R()
+ *  @param pSpec the record. After a failure every function refuses it
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: `pSpec` is null
+ *  - qvpStatusNoiseRange: `level` is not at least 0 and below 1
+ *  - qvpStatusBadArgument: `saltShare` is not from 0 to 1, or `pepper` or `salt` is NaN
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoiseSaltPepperInit(Qvp64f level, Qvp64f saltShare, Qvp64f pepper, Qvp64f salt, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
+/** @} */
+
+/** @name Noise
+ *  @{ */
+/** Adds noise of the record's kind: to augment data, to test filters, to hide steps of grey.
+ *
+ *  Noise is a function of seed, stream, frame and place, and of nothing else: the same on every machine, for tiles in
+ *  any order and on any number of threads. Another stream or frame gives noise that is independent of the first.
+ *
+ *  Random words are those of Philox 4x32-10. Sample i = (dstOffset.x + x) * channels + channel takes word i mod 4 of the
+ *  block with the counter {i div 4, dstOffset.y + y, frame, 0} and the key {seed, stream}. AC4 counts as 4 channels. Salt
+ *  and pepper take one word for a pixel, i = dstOffset.x + x. With everything 0 the first words are 6627E8D5 E169C58D
+ *  BC57AC4C 9B00DBD8.
+ *
+ *  Normal numbers g come two from the words p, q of samples 2k and 2k + 1, of variance 1:
+ *
+ *    r = sqrt(-2 ln(((float)(p >> 1) + 1) * 2^-31)),    r * cos(2 pi q / 2^32) and r * sin(2 pi q / 2^32)
+ *
+ *  with the logarithm of qvpiLn_32f_C1R(), and sine and cosine exact to 2^-23. g is exact to 2e-6 and at most 6.56.
+ *
+ *  The formulas of the Init functions are evaluated in single precision, v the pixel. Integers are rounded to the
+ *  nearest, ties to even, and saturated; a float pixel that is NaN stays NaN. Sources: J. Salmon, M. Moraes, R. Dror, D.
+ *  Shaw, Parallel random numbers: as easy as 1, 2, 3, 2011; G. Box, M. Muller, A note on the generation of random normal
+ *  deviates, 1958.
+ *
+ *  Source and destination may be the same image, else they must not overlap.
+ *
+ *  @param pSrc,srcStep source
+ *  @param pDst,dstStep destination. The fourth channel of AC4 stays as it is
+ *  @param pSrcDst,srcDstStep in place: source and destination
+ *  @param roiSize size of the region
+ *  @param dstOffset the place of the region's first pixel in the whole image
+ *  @param frame number of the image, for sequences
+ *  @param pSpec the record
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or the record is null
+ *  - qvpStatusSize: a side of `roiSize` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusOutOfRange: `dstOffset` is negative, or the region ends beyond 2147483647
+ *  - qvpStatusContextMatch: the record was not made by an Init function of noise
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiNoise_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_C1IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_C3IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_C4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_C4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_AC4R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_8u_AC4IR(Qvp8u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C1IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C3IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_C4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_AC4R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16u_AC4IR(Qvp16u* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C1R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C1IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C3R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C3IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_C4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_AC4R(const Qvp16s* pSrc, int srcStep, Qvp16s* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_16s_AC4IR(Qvp16s* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C1R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C1IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C3R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C3IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_C4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_AC4R(const Qvp32f* pSrc, int srcStep, Qvp32f* pDst, int dstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
+QvpStatus qvpiNoise_32f_AC4IR(Qvp32f* pSrcDst, int srcDstStep, QvpiSize roiSize, QvpiPoint dstOffset, Qvp32u frame, const QvpiNoiseSpec* pSpec);
 /** @} */
 
 #ifdef __cplusplus

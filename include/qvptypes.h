@@ -385,6 +385,7 @@ typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform
 typedef struct QvpiWaveletSpec_32f QvpiWaveletSpec_32f;   /**< wavelet transform */
 typedef struct QvpiDeconvolveSpec_32f QvpiDeconvolveSpec_32f; /**< deconvolution */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
+typedef struct QvpiNoiseSpec QvpiNoiseSpec;               /**< noise */
 /** @} */
 
 /** @name Status codes

@@ -110,4 +110,35 @@ HWY_INLINE SinCosLanes<V> SinCosOfTurn(V k, V n) {
   return {place.Sin(sin, cos), place.Cos(sin, cos)};
 }
 
+// Of |x| <= pi / 4 as floats, by the polynomials of the smallest error, by Lawson's method.
+template <class V>
+HWY_INLINE SinCosLanes<V> SinCosOfSmallAngle(V x) {
+  const hn::DFromV<V> d;
+  constexpr float kSin[] = {-0x1.994eb4p-13f, 0x1.110760p-7f, -0x1.555546p-3f};
+  constexpr float kCos[] = {0x1.9a025ap-16f, -0x1.6c0c8cp-10f, 0x1.55554ap-5f, -0.5f, 1};
+  const V x2 = hn::Mul(x, x);
+  V sin = hn::Set(d, kSin[0]), cos = hn::Set(d, kCos[0]);
+  for (size_t i = 1; i < std::size(kSin); ++i) sin = hn::Add(hn::Mul(sin, x2), hn::Set(d, kSin[i]));
+  for (size_t i = 1; i < std::size(kCos); ++i) cos = hn::Add(hn::Mul(cos, x2), hn::Set(d, kCos[i]));
+  return {hn::Add(x, hn::Mul(x, hn::Mul(x2, sin))), cos};
+}
+
+// Of 2 pi q / 2^32 as floats, to 2^-23, for lanes of q. Quarters of a turn, to the nearest, are its two upper bits;
+// what lies beyond them, with its sign, is what the others are once these are gone.
+template <class Words>
+HWY_INLINE auto SinCosOfTurn(Words q) {
+  const hn::DFromV<Words> words;
+  const hn::RebindToSigned<decltype(words)> ints;
+  const hn::RebindToFloat<decltype(words)> d;
+  using V = hn::Vec<decltype(d)>;
+  const V x = hn::Mul(hn::ConvertTo(d, hn::BitCast(ints, hn::ShiftLeft<2>(q))), hn::Set(d, 0x1.921fb6p-32f));
+  const SinCosLanes<V> small = SinCosOfSmallAngle(x);
+  const auto quarter = hn::Add(q, hn::Set(words, 0x20000000u));  // its bits 31 and 30: 0 to 3
+  const auto isOdd =
+      hn::MaskFromVec(hn::BitCast(d, hn::BroadcastSignBit(hn::BitCast(ints, hn::ShiftLeft<1>(quarter)))));
+  const auto sign = [&](auto bits) QVP_INLINED { return hn::And(hn::BitCast(d, bits), hn::SignBit(d)); };
+  const V sin = hn::IfThenElse(isOdd, small.cos, small.sin), cos = hn::IfThenElse(isOdd, small.sin, small.cos);
+  return SinCosLanes<V>{hn::Xor(sin, sign(quarter)), hn::Xor(cos, sign(hn::Add(quarter, hn::Set(words, 0x40000000u))))};
+}
+
 }  // namespace qvp

@@ -79,6 +79,7 @@ constexpr struct {
     {"qvpiMirror", TurnLesson},
     {"qvpiMoment", MomentLesson},
     {"qvpiMulPack", FourierLesson},
+    {"qvpiNoise", NoiseLesson},
     {"qvpiNorm", ReductionLesson},
     {"qvpiPackToCplxExtend", FourierLesson},
     {"qvpiPalette", TableLesson},

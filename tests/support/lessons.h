@@ -29,6 +29,7 @@ bool LookupLesson(Scene& scene, size_t place, Argument& argument);
 bool MatchLesson(Scene& scene, size_t place, Argument& argument);
 bool MedianLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
+bool NoiseLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);
 bool RampLesson(Scene& scene, size_t place, Argument& argument);
 bool ReductionLesson(Scene& scene, size_t place, Argument& argument);

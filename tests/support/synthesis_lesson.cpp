@@ -2,6 +2,25 @@
 #include "tests/support/lessons.h"
 
 namespace test {
+namespace {
+
+constexpr int kNoiseBytes = 128;
+
+// A record of one of the five kinds, and an input: a refused Init takes its identification away.
+const void* NoiseRecord(Scene& scene) {
+  auto* const spec = reinterpret_cast<QvpiNoiseSpec*>(scene.Input(kNoiseBytes));
+  const Qvp32u seed = scene.random().Next(), stream = scene.random().Next();
+  switch (scene.random().Next() % 5) {
+    case 0: qvpiNoiseUniformInit(-20, 30, seed, stream, spec); break;
+    case 1: qvpiNoiseGaussInit(3, 25, seed, stream, spec); break;
+    case 2: qvpiNoiseSpeckleInit(0.4, seed, stream, spec); break;
+    case 3: qvpiNoiseShotInit(2, 5, seed, stream, spec); break;
+    default: qvpiNoiseSaltPepperInit(0.4, 0.3, -5.5, 300, seed, stream, spec);
+  }
+  return spec;
+}
+
+}  // namespace
 
 bool RampLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
@@ -26,6 +45,26 @@ bool JaehneLesson(Scene& scene, size_t place, Argument& argument) {
     argument = scene.Any({2, 3, 65536});
   } else if (name == "dstOffset") {
     argument = offset;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool NoiseLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  if (name == "pSpec") {
+    argument = {scene.Has("Init") ? scene.Input(kNoiseBytes) : NoiseRecord(scene)};
+  } else if (name == "dstOffset") {
+    argument = QvpiPoint{scene.Any({0, 1, 2, 7, INT32_MAX - 5000}), scene.Any({0, 3, INT32_MAX - 5000})};
+  } else if (name == "seed" || name == "stream" || name == "frame") {
+    argument = scene.random().Next();
+  } else if (name == "level" || name == "saltShare") {
+    argument = Number(scene.Any({0, 1, 30, 99}) / 100.0);
+  } else if (name == "low" || name == "mean" || name == "pepper") {
+    argument = scene.Any({0, -3, -300});
+  } else if (name == "high" || name == "salt" || name == "sigma" || name == "gain") {
+    argument = scene.Any({0, 2, 300});
   } else {
     return false;
   }

@@ -1,0 +1,86 @@
+// The counter-based generator Philox 4x32-10: a block of four words for each counter and key, by ten rounds of products
+// and exclusive ors. Any block is computed on its own, so that noise is a function of the place.
+#pragma once
+
+#include <array>
+
+#include "base/simd.h"
+
+namespace qvp::noise {
+
+using WordTag = hn::ScalableTag<uint32_t>;
+using Words = hn::Vec<WordTag>;
+
+// The two words of as many pairs of neighbouring samples as there are lanes.
+struct WordPairs {
+  Words even, odd;
+};
+
+// A row of blocks: those with the counters {block, row, frame, 0}.
+class PhiloxRow {
+ public:
+  // Words of a vector of pairs.
+  static constexpr int kWords = 2 * static_cast<int>(hn::MaxLanes(WordTag()));
+
+  PhiloxRow(uint32_t seed, uint32_t stream, uint32_t frame, uint32_t row)
+      : key_{seed, stream}, frame_(frame), row_(row) {}
+
+  // kCount vectors of pairs, which follow each other, from a block on. Several at once, since each round waits for the
+  // products of the one before.
+  template <int kCount>
+  HWY_INLINE std::array<WordPairs, kCount> Blocks(uint32_t first) const {
+    State states[kCount];
+    for (int i = 0; i < kCount; ++i) states[i] = Start(first + i * kWords / 4);
+    for (uint32_t round = 0; round < 10; ++round) {
+      for (State& state : states) Round(state, key_[0] + round * 0x9E3779B9, key_[1] + round * 0xBB67AE85);
+    }
+    std::array<WordPairs, kCount> pairs;
+    for (int i = 0; i < kCount; ++i) pairs[i] = Pairs(states[i]);
+    return pairs;
+  }
+
+ private:
+  // Each block is in a 64-bit lane of all four, as its lower half; the upper one is anything: products take the lower.
+  using Tag = hn::ScalableTag<uint64_t>;
+  using Vector = hn::Vec<Tag>;
+  struct State {
+    Vector word[4];
+  };
+
+  // Blocks in an order in which lanes of pairs that are interleaved within blocks of 16 bytes come in that of samples.
+  static HWY_INLINE Vector Order() {
+    constexpr int kLanes = static_cast<int>(hn::MaxLanes(Tag()));
+    HWY_ALIGN static constexpr auto kOrder = [] {
+      std::array<uint64_t, kLanes> order{};
+      for (int i = 0; i < kLanes; ++i) order[i] = i / 2 + i % 2 * (kLanes / 2);
+      return order;
+    }();
+    return hn::Load(Tag(), kOrder.data());
+  }
+  HWY_INLINE State Start(uint32_t block) const {
+    const Tag d;
+    return {{hn::Add(hn::Set(d, uint64_t{block}), Order()), hn::Set(d, uint64_t{row_}), hn::Set(d, uint64_t{frame_}),
+             hn::Zero(d)}};
+  }
+  static HWY_INLINE void Round(State& state, uint32_t key0, uint32_t key1) {
+    const Tag d;
+    const WordTag words;
+    const auto product = [&](Vector v, uint32_t factor)
+                             QVP_INLINED { return hn::MulEven(hn::BitCast(words, v), hn::Set(words, factor)); };
+    const Vector first = product(state.word[0], 0xD2511F53), second = product(state.word[2], 0xCD9E8D57);
+    const Vector mixed0 = hn::Xor(state.word[1], hn::Set(d, uint64_t{key0}));
+    const Vector mixed2 = hn::Xor(state.word[3], hn::Set(d, uint64_t{key1}));
+    state = {{hn::Xor(hn::ShiftRight<32>(second), mixed0), second, hn::Xor(hn::ShiftRight<32>(first), mixed2), first}};
+  }
+  static HWY_INLINE WordPairs Pairs(const State& state) {
+    const WordTag d;
+    const auto both = [&](Vector lower, Vector upper) QVP_INLINED {
+      return hn::OddEven(hn::BitCast(d, hn::ShiftLeft<32>(upper)), hn::BitCast(d, lower));
+    };
+    return {both(state.word[0], state.word[2]), both(state.word[1], state.word[3])};
+  }
+
+  uint32_t key_[2], frame_, row_;
+};
+
+}  // namespace qvp::noise
