@@ -64,13 +64,76 @@ void AddJaehne(QvpiSize size, double atLeast) {
        {{"OpenCV repeat, repeat, add, polarToCart, convertScaleAbs", draw, atLeast}}});
 }
 
+// What the peer does with numbers of its own, drawn into an image each time.
+template <class T>
+using PeerNoise = void (*)(const Image<T>& from, cv::Mat& numbers, const Image<T>& to);
+
+template <class T>
+void AddRandn(const Image<T>& from, cv::Mat& numbers, const Image<T>& to) {
+  const int depth = from.mat.depth() == CV_32F ? CV_32F : CV_16S;
+  numbers.create(from.mat.size(), CV_MAKETYPE(depth, from.mat.channels()));
+  cv::randn(numbers, cv::Scalar::all(0), cv::Scalar::all(10));
+  cv::add(from.mat, numbers, to.mat, cv::noArray(), from.mat.depth());
+}
+void AddRandu(const Image<uint8_t>& from, cv::Mat& numbers, const Image<uint8_t>& to) {
+  numbers.create(from.mat.size(), CV_16S);
+  cv::randu(numbers, cv::Scalar::all(-10), cv::Scalar::all(10));
+  cv::add(from.mat, numbers, to.mat, cv::noArray(), CV_8U);
+}
+void PutRandu(const Image<uint8_t>& from, cv::Mat& numbers, const Image<uint8_t>& to) {
+  static cv::Mat pepper, salt;
+  numbers.create(from.mat.size(), CV_8U);
+  cv::randu(numbers, cv::Scalar::all(0), cv::Scalar::all(256));
+  cv::compare(numbers, 12, pepper, cv::CMP_GE);
+  cv::compare(numbers, 243, salt, cv::CMP_GE);
+  cv::bitwise_and(from.mat, pepper, to.mat);
+  cv::bitwise_or(to.mat, salt, to.mat);
+}
+
+template <class T, class Call>
+void AddNoise(const std::string& name, QvpiSize size, int channels, const std::shared_ptr<uint8_t[]>& record, Call call,
+              const char* peer, PeerNoise<T> theirs, double atLeast) {
+  const Image<T> a(size, channels), b(size, channels);
+  a.mat.setTo(cv::Scalar::all(100));
+  const auto numbers = std::make_shared<cv::Mat>();
+  const auto spec = reinterpret_cast<const QvpiNoiseSpec*>(record.get());
+  Add({Name("noise " + name, size),
+       {a.bytes(), b.bytes()},
+       [=] {
+         Require(call(a.data(), a.step, b.data(), b.step, size, {0, 0}, 0, spec)), (void)record;
+       },
+       {{peer, [=] { theirs(a, *numbers, b); }, atLeast}}});
+}
+
+template <class Init>
+std::shared_ptr<uint8_t[]> RecordOf(const Init& init) {
+  const auto record = Pixels<uint8_t>(128);
+  Require(init(0, 0, reinterpret_cast<QvpiNoiseSpec*>(record.get())));
+  return record;
+}
+
+void AddNoises(QvpiSize size, double scale) {
+  const auto gauss = RecordOf([](auto... key) { return qvpiNoiseGaussInit(0, 10, key...); });
+  const auto uniform = RecordOf([](auto... key) { return qvpiNoiseUniformInit(-10, 10, key...); });
+  const auto shot = RecordOf([](auto... key) { return qvpiNoiseShotInit(4, 3, key...); });
+  const auto lost = RecordOf([](auto... key) { return qvpiNoiseSaltPepperInit(0.1, 0.5, 0, 255, key...); });
+  AddNoise<uint8_t>("Gauss 8u C1", size, 1, gauss, qvpiNoise_8u_C1R, "OpenCV randn, add", AddRandn, 2.5 * scale);
+  AddNoise<uint8_t>("Gauss 8u C3", size, 3, gauss, qvpiNoise_8u_C3R, "OpenCV randn, add", AddRandn, 2.5 * scale);
+  AddNoise<float>("Gauss 32f C1", size, 1, gauss, qvpiNoise_32f_C1R, "OpenCV randn, add", AddRandn, 2.5 * scale);
+  AddNoise<uint8_t>("shot 8u C1", size, 1, shot, qvpiNoise_8u_C1R, "OpenCV randn, add (no light)", AddRandn, scale);
+  AddNoise<uint8_t>("uniform 8u C1", size, 1, uniform, qvpiNoise_8u_C1R, "OpenCV randu, add", AddRandu, 2.5 * scale);
+  AddNoise<uint8_t>("salt and pepper 8u C1", size, 1, lost, qvpiNoise_8u_C1R, "OpenCV randu, two compares, and, or",
+                    PutRandu, 1.4 * scale);
+}
+
 const bool kAdded = [] {
   for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
     const bool isAsked = size.width == kHd.width;
     AddRamps(size, isAsked ? 15 : 1, isAsked ? 5 : 1);
     AddJaehne(size, isAsked ? 15 : 1);
+    AddNoises(size, 1);
   }
-  for (const QvpiSize size : kSmallest) AddRamps(size, 0, 0), AddJaehne(size, 0);
+  for (const QvpiSize size : kSmallest) AddRamps(size, 0, 0), AddJaehne(size, 0), AddNoises(size, 0);
   return true;
 }();
 

@@ -13,7 +13,7 @@ using namespace qvp;
 using noise::FloatTag;
 using noise::IntTag;
 using noise::Kind;
-using noise::PhiloxRow;
+using noise::NumberRow;
 using noise::Record;
 
 // Samples whose numbers are kept at a time: whole pixels of any layout, and whole blocks of words.
@@ -91,13 +91,13 @@ RowFunction<T> RowFor(Kind kind) {
 }
 
 // ---- The numbers that a kind takes.
-using NumberFunction = void (*)(const PhiloxRow& row, uint32_t block, ptrdiff_t n, float* to);
+using NumberFunction = void (*)(const NumberRow& row, uint32_t block, ptrdiff_t n, float* to);
 
 NumberFunction NumbersFor(Kind kind, int channels) {
-  if (kind == Kind::kUniform) return noise::FillNumbers<noise::Uniform, 1>;
-  if (kind != Kind::kSaltPepper) return noise::FillNumbers<noise::Normal, 1>;
+  if (kind == Kind::kUniform) return noise::FillNumbers<noise::Uniform>;
+  if (kind != Kind::kSaltPepper) return noise::FillNormal;
   using noise::Ordered;
-  return channels == 1   ? noise::FillNumbers<Ordered, 1>
+  return channels == 1   ? noise::FillNumbers<Ordered>
          : channels == 3 ? noise::FillNumbers<Ordered, 3>
                          : noise::FillNumbers<Ordered, 4>;
 }
@@ -109,9 +109,10 @@ void AddNoise(const Image<const T>& src, const Image<T>& dst, Size roi, QvpiPoin
   const auto fill = NumbersFor(record.kind, channels);
   const auto apply = KeepsAlpha(dst.layout) ? RowFor<true, T>(record.kind) : RowFor<false, T>(record.kind);
   const ptrdiff_t most = kChunk / channels;
+  const noise::Philox philox(record.seed, record.stream, frame);
   HWY_ALIGN NumberBuffer numbers;
   for (ptrdiff_t y = 0; y < roi.height; ++y) {
-    const PhiloxRow row(record.seed, record.stream, frame, static_cast<uint32_t>(offset.y + y));
+    const NumberRow row{philox, static_cast<uint32_t>(offset.y + y)};
     for (ptrdiff_t x = 0; x < roi.width; x += most) {
       const ptrdiff_t n = std::min(most, roi.width - x) * channels;
       const int64_t first = (int64_t{offset.x} + x) * (channels / copies);

@@ -16,23 +16,29 @@ struct WordPairs {
   Words even, odd;
 };
 
-// A row of blocks: those with the counters {block, row, frame, 0}.
-class PhiloxRow {
+// The generator with a key, for blocks with the counters {block, row, frame, 0}.
+class Philox {
  public:
   // Words of a vector of pairs.
   static constexpr int kWords = 2 * static_cast<int>(hn::MaxLanes(WordTag()));
 
-  PhiloxRow(uint32_t seed, uint32_t stream, uint32_t frame, uint32_t row)
-      : key_{seed, stream}, frame_(frame), row_(row) {}
+  // The key of each round: in memory, as there are more of them than registers.
+  Philox(uint32_t seed, uint32_t stream, uint32_t frame) : frame_(frame) {
+    const Tag d;
+    for (uint32_t round = 0; round < kRounds; ++round) {
+      hn::Store(hn::Set(d, uint64_t{seed + round * 0x9E3779B9}), d, keys_[round][0]);
+      hn::Store(hn::Set(d, uint64_t{stream + round * 0xBB67AE85}), d, keys_[round][1]);
+    }
+  }
 
-  // kCount vectors of pairs, which follow each other, from a block on. Several at once, since each round waits for the
-  // products of the one before.
+  // kCount vectors of pairs of a row, which follow each other, from a block on. Several at once, since each round waits
+  // for the products of the one before.
   template <int kCount>
-  HWY_INLINE std::array<WordPairs, kCount> Blocks(uint32_t first) const {
+  HWY_INLINE std::array<WordPairs, kCount> Blocks(uint32_t row, uint32_t first) const {
     State states[kCount];
-    for (int i = 0; i < kCount; ++i) states[i] = Start(first + i * kWords / 4);
-    for (uint32_t round = 0; round < 10; ++round) {
-      for (State& state : states) Round(state, key_[0] + round * 0x9E3779B9, key_[1] + round * 0xBB67AE85);
+    for (int i = 0; i < kCount; ++i) states[i] = Start(row, first + i * kWords / 4);
+    for (const auto& keys : keys_) {
+      for (State& state : states) Round(state, hn::Load(Tag(), keys[0]), hn::Load(Tag(), keys[1]));
     }
     std::array<WordPairs, kCount> pairs;
     for (int i = 0; i < kCount; ++i) pairs[i] = Pairs(states[i]);
@@ -43,6 +49,7 @@ class PhiloxRow {
   // Each block is in a 64-bit lane of all four, as its lower half; the upper one is anything: products take the lower.
   using Tag = hn::ScalableTag<uint64_t>;
   using Vector = hn::Vec<Tag>;
+  static constexpr uint32_t kRounds = 10;
   struct State {
     Vector word[4];
   };
@@ -57,19 +64,18 @@ class PhiloxRow {
     }();
     return hn::Load(Tag(), kOrder.data());
   }
-  HWY_INLINE State Start(uint32_t block) const {
+  HWY_INLINE State Start(uint32_t row, uint32_t block) const {
     const Tag d;
-    return {{hn::Add(hn::Set(d, uint64_t{block}), Order()), hn::Set(d, uint64_t{row_}), hn::Set(d, uint64_t{frame_}),
+    return {{hn::Add(hn::Set(d, uint64_t{block}), Order()), hn::Set(d, uint64_t{row}), hn::Set(d, uint64_t{frame_}),
              hn::Zero(d)}};
   }
-  static HWY_INLINE void Round(State& state, uint32_t key0, uint32_t key1) {
-    const Tag d;
+  static HWY_INLINE void Round(State& state, Vector key0, Vector key1) {
     const WordTag words;
     const auto product = [&](Vector v, uint32_t factor)
                              QVP_INLINED { return hn::MulEven(hn::BitCast(words, v), hn::Set(words, factor)); };
     const Vector first = product(state.word[0], 0xD2511F53), second = product(state.word[2], 0xCD9E8D57);
-    const Vector mixed0 = hn::Xor(state.word[1], hn::Set(d, uint64_t{key0}));
-    const Vector mixed2 = hn::Xor(state.word[3], hn::Set(d, uint64_t{key1}));
+    const Vector mixed0 = hn::Xor(state.word[1], key0);
+    const Vector mixed2 = hn::Xor(state.word[3], key1);
     state = {{hn::Xor(hn::ShiftRight<32>(second), mixed0), second, hn::Xor(hn::ShiftRight<32>(first), mixed2), first}};
   }
   static HWY_INLINE WordPairs Pairs(const State& state) {
@@ -80,7 +86,8 @@ class PhiloxRow {
     return {both(state.word[0], state.word[2]), both(state.word[1], state.word[3])};
   }
 
-  uint32_t key_[2], frame_, row_;
+  HWY_ALIGN uint64_t keys_[kRounds][2][hn::MaxLanes(Tag())];
+  uint32_t frame_;
 };
 
 }  // namespace qvp::noise
