@@ -64,6 +64,7 @@ int main(int argc, char** argv) try {
   demo::WarpSteps(demo);
   demo::StatsSteps(demo);
   demo::HogSteps(demo);
+  demo::SynthesisSteps(demo);
   demo::FourierSteps(demo);
   demo::WaveletSteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);

@@ -57,6 +57,7 @@ void FrameSteps(Demo& demo);
 void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);
 void HogSteps(Demo& demo);
+void SynthesisSteps(Demo& demo);
 void FourierSteps(Demo& demo);
 void WaveletSteps(Demo& demo);
 

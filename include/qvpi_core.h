@@ -36,8 +36,8 @@
  *    1 or more                             Div, DivC, Div_Round, ScaleC, Threshold, CountInRange; And, Or, Xor, Not,
  *                                          ShiftLeftC, ShiftRightC, with constants too; LookupTable, Lookup,
  *                                          Palette; Norm; FFT, DFT, packed spectra; copies with a border; Remap;
- *                                          HOG; FilterBorder's source; Mirror about the axes 45 and 135, unless in
- *                                          place
+ *                                          HOG; Ramp, Jaehne, Noise; FilterBorder's source; Mirror about the axes
+ *                                          45 and 135, unless in place
  *    at least a row                        Histogram, ComputeThreshold_Otsu; FilterBorder's destination; Moments,
  *                                          which return qvpStatusStride for steps from 1 on
  *    multiples of an element, of any sign  Resize, Decimate420, Warp

@@ -21,9 +21,9 @@ BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "p
             "columns_first")
 IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries", "bands")
 INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
-            "count", "depth")
+            "count", "depth", "period")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
-          "angle", "tolerance", "alpha_a", "c", "clip")
+          "angle", "tolerance", "alpha_a", "c", "clip", "mean", "gain", "level", "share", "pepper", "salt")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction", "fit", "fraction")
 TYPES = {
     **dict.fromkeys(BOOLEANS, "bool"), **dict.fromkeys(IMAGES, "Image"), **dict.fromkeys(INTEGERS, "int"),
@@ -39,7 +39,7 @@ TYPES = {
     "center": "Sequence[float]", "to": "Sequence[float] | None", "frame": "Sequence[Image]",
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
-    "bank": "str | Sequence[Any]",
+    "bank": "str | Sequence[Any]", **dict.fromkeys(("start", "across", "down"), "Constant"),
 }
 RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",

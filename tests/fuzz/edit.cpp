@@ -17,8 +17,9 @@ bool IsAny(std::string_view text, std::initializer_list<std::string_view> list) 
 
 // Whole numbers that say nothing about memory; all others may tell how much there is.
 bool IsFree(std::string_view name) {
-  return IsAny(name, {"scaleFactor", "flag", "flags", "weight", "divisor", "offset", "mOrd", "nOrd", "nChannel",
-                      "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation", "eps", "turns", "levels"});
+  return IsAny(name, {"scaleFactor", "flag",     "flags",    "weight",       "divisor", "offset",     "mOrd",
+                      "nOrd",        "nChannel", "numLobes", "antialiasing", "uniform", "smoothEdge", "interpolation",
+                      "eps",         "turns",    "levels",   "minPeriod",    "seed",    "stream",     "frame"});
 }
 
 Number AnyInteger(Choices& choices) {
@@ -69,6 +70,12 @@ void EditVolume(Argument& volume, Choices& choices) {
   Number* const lengths[] = {&volume.number, &volume.second, &volume.third};
   Number& length = *choices.Any(lengths);
   length = AtMost(int64_t{length}, choices);
+}
+
+// Places that say nothing about memory: moments are about any, and images made by formulas are of any part.
+bool IsFreePlace(const Scene& scene, std::string_view name) {
+  const bool isOfWhole = scene.Has("Ramp") || scene.Has("Jaehne") || scene.Has("Noise");
+  return IsAny(name, {"roiOffset", "dstRoiOffset"}) || (isOfWhole && name == "dstOffset");
 }
 
 // An offset beyond the destination is refused, unless it may be any.
@@ -145,7 +152,7 @@ void EditArgument(const Scene& scene, std::vector<Argument>& arguments, Choices&
   } else if (type.starts_with("QvpiSize")) {
     EditSize(scene, argument, isQuery, choices);
   } else if (type.starts_with("QvpiPoint")) {
-    EditPoint(argument, isQuery || IsAny(name, {"roiOffset", "dstRoiOffset"}), choices);
+    EditPoint(argument, isQuery || IsFreePlace(scene, name), choices);
   } else if (type.starts_with("QvprVolume")) {
     EditVolume(argument, choices);
   } else if (type.starts_with("QvpiRect") || type.starts_with("QvprCuboid")) {

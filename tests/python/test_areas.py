@@ -419,6 +419,40 @@ def test_hog():
     numpy.testing.assert_allclose((both[0].reshape(-1, 36) ** 2).sum(1), 1, atol=1e-3)
 
 
+@given(images(count=1), st.integers(0, 1 << 20), layouts)
+def test_noise(one, seed, layout):
+    """A function of the place: by threads, by tiles, in place."""
+    (a,) = one
+    options = {"seed": seed, "stream": 3, "index": 7}
+    kinds = [(qvpi.uniform_noise, -9, 30), (qvpi.gauss_noise, 12.5), (qvpi.speckle_noise, 0.2), (qvpi.shot_noise, 2, 5),
+             (qvpi.salt_pepper, 0.4)]
+    for noise, *values in kinds:
+        noisy = noise(a, *values, **options)
+        out = laid_out(a.copy(), layout)
+        assert noise(out, *values, out=out, threads=2, **options) is out
+        numpy.testing.assert_array_equal(out, noisy)
+        tile = noise(a[a.shape[0] // 2:], *values, origin=(a.shape[0] // 2, 0), **options)
+        numpy.testing.assert_array_equal(tile, noisy[a.shape[0] // 2:])
+    with pytest.raises(qvpi.Error, match="NoiseRange"):
+        qvpi.salt_pepper(a, 1)
+
+
+@pytest.mark.parametrize("dtype", ["u1", "u2", "i2", "f4"])
+def test_formulas(dtype):
+    y, x = numpy.mgrid[:50, :70].astype(float)
+    made = qvpi.ramp((50, 70, 3), (1, 2.5, -3), (0.5, 0, 7), 1.25, dtype)
+    for c, (start, across) in enumerate(((1, 0.5), (2.5, 0), (-3, 7))):
+        numpy.testing.assert_array_equal(made[..., c], saturated(start + 1.25 * y + across * x, dtype))
+    numpy.testing.assert_array_equal(qvpi.ramp((50, 70), dtype=dtype, tile=(3, 9, 7, 5)),
+                                     saturated(x, dtype)[3:10, 9:14])
+    wave = numpy.cos(2 * numpy.pi * ((2 * x - 69) ** 2 + (2 * y - 49) ** 2) / (4 * 3 * 50))
+    low, high = (0, 1) if dtype == "f4" else (numpy.iinfo(dtype).min, numpy.iinfo(dtype).max)
+    exact = low + (high - low) * (1 + wave) / 2
+    numpy.testing.assert_allclose(qvpi.jaehne((50, 70), 3, dtype), exact, atol=1e-7 if dtype == "f4" else 0.5001)
+    tile = qvpi.jaehne((50, 70, 3), 3, dtype, tile=(3, 9, 7, 5))
+    numpy.testing.assert_array_equal(tile, numpy.repeat(qvpi.jaehne((50, 70), 3, dtype)[3:10, 9:14, None], 3, 2))
+
+
 def test_threads_share_a_record():
     """Each call has a buffer of its own."""
     a = [random((200, 150), "u1", seed) for seed in range(8)]

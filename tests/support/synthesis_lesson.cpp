@@ -42,7 +42,7 @@ bool JaehneLesson(Scene& scene, size_t place, Argument& argument) {
   if (name == "imageSize") {
     argument = QvpiSize{scene.roi().width + offset.x, scene.roi().height + 2 * offset.y};
   } else if (name == "minPeriod") {
-    argument = scene.Any({2, 3, 65536});
+    argument = scene.Any({2, 3, 40});
   } else if (name == "dstOffset") {
     argument = offset;
   } else {
