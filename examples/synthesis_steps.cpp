@@ -1,4 +1,5 @@
 // Steps of qvpi_feature.h: images made by formulas, and five kinds of noise.
+#include <algorithm>
 #include <vector>
 
 #include "examples/demo.h"
@@ -7,49 +8,62 @@ namespace demo {
 namespace {
 
 void ShowRamp(Demo& demo) {
-  constexpr QvpiSize kSize{480, 320};
+  constexpr QvpiSize kSize{512, 320};
   const Qvp64f start[3] = {255, 0, 40}, across[3] = {-0.5, 0.5, 0}, down[3] = {0, 0, 0.6};
   Rgb ramp(kSize);
   demo.Time(kSize, 3, CALL(qvpiRamp_8u_C3R, start, across, down, ramp.data(), ramp.step(), kSize, {0, 0}));
   demo.Show("Ramps in each channel", ramp);
 }
 
-// The pattern at half its size: by every second pixel alone frequencies come back that are not there.
-void ShowHalved(Demo& demo, const Grey& pattern) {
-  const QvpiSize from = pattern.size(), to{from.width / 2, from.height / 2};
-  int record = 0, temporary = 0, buffer = 0;
-  Require(qvpiResizeGetSize_8u(from, to, qvpInterpolationSuper, 0, &record, &temporary));
-  std::vector<Qvp8u> memory(record);
-  auto* const spec = reinterpret_cast<QvpiResizeSpec*>(memory.data());
-  Grey nearest(to), super(to);
-  Require(qvpiResizeSuperInit_8u(from, to, spec));
-  Require(qvpiResizeGetBufferSize_8u(spec, to, 1, &buffer));
-  std::vector<Qvp8u> work(buffer);
-  demo.Time(to, 1,
-            CALL(qvpiResizeSuper_8u_C1R, pattern.data(), pattern.step(), super.data(), super.step(), {0, 0}, to, spec,
-                 work.data()));
-  demo.Show("Halved by super-sampling", super);
-  for (int y = 0; y < to.height; ++y) {
-    for (int x = 0; x < to.width; ++x) *nearest.At(x, y) = *pattern.At(2 * x, 2 * y);
+// As large as the sheet shows images without scaling.
+constexpr QvpiSize kShown{kTileSide, kTileSide}, kTwice{2 * kTileSide, 2 * kTileSide};
+
+Grey Pattern(Demo& demo, QvpiSize size) {
+  Grey pattern(size);
+  demo.Time(size, 1, CALL(qvpiJaehne_8u_C1R, size, 2, pattern.data(), pattern.step(), size, {0, 0}));
+  return pattern;
+}
+
+// The record of a resize to half the size, and its work buffer.
+struct Halving {
+  std::vector<Qvp8u> record, buffer;
+
+  template <class Init>
+  Halving(int interpolation, const Init& init) {
+    int recordBytes = 0, initBytes = 0, bufferBytes = 0;
+    Require(qvpiResizeGetSize_8u(kTwice, kShown, interpolation, 0, &recordBytes, &initBytes));
+    record.resize(recordBytes);
+    Require(init(kTwice, kShown, spec()));
+    Require(qvpiResizeGetBufferSize_8u(spec(), kShown, 1, &bufferBytes));
+    buffer.resize(bufferBytes);
   }
-  demo.Show("Every second pixel", nearest);
+  QvpiResizeSpec* spec() { return reinterpret_cast<QvpiResizeSpec*>(record.data()); }
+};
+
+// Every second pixel alone brings frequencies that are not there; means of areas do not.
+void ShowHalved(Demo& demo) {
+  const Grey pattern = Pattern(demo, kTwice);
+  Grey half(kShown);
+  Halving nearest(qvpInterpolationNearest, qvpiResizeNearestInit_8u),
+      super(qvpInterpolationSuper, qvpiResizeSuperInit_8u);
+  demo.Time(kShown, 1,
+            CALL(qvpiResizeNearest_8u_C1R, pattern.data(), pattern.step(), half.data(), half.step(), {0, 0}, kShown,
+                 nearest.spec(), nearest.buffer.data()));
+  demo.Show("Halved by nearest pixels", half);
+  demo.Time(kShown, 1,
+            CALL(qvpiResizeSuper_8u_C1R, pattern.data(), pattern.step(), half.data(), half.step(), {0, 0}, kShown,
+                 super.spec(), super.buffer.data()));
+  demo.Show("Halved by super-sampling", half);
 }
 
-void ShowPattern(Demo& demo) {
-  constexpr QvpiSize kSize{480, 480};
-  Grey pattern(kSize);
-  demo.Time(kSize, 1, CALL(qvpiJaehne_8u_C1R, kSize, 2, pattern.data(), pattern.step(), kSize, {0, 0}));
-  demo.Show("All frequencies and directions", pattern);
-  ShowHalved(demo, pattern);
-}
-
+// On the middle of the photograph.
 void ShowNoise(Demo& demo, const char* caption, QvpStatus status, const QvpiNoiseSpec* spec) {
   Require(status, caption);
   const Rgb& photo = demo.photo();
-  Rgb noisy(photo.size());
-  demo.Time(
-      photo.size(), 3 + 3,
-      CALL(qvpiNoise_8u_C3R, photo.data(), photo.step(), noisy.data(), noisy.step(), photo.size(), {0, 0}, 0, spec));
+  const QvpiSize size{std::min(photo.size().width, kTileSide), std::min(photo.size().height, kTileSide)};
+  const Qvp8u* const from = photo.At((photo.size().width - size.width) / 2, (photo.size().height - size.height) / 2);
+  Rgb noisy(size);
+  demo.Time(size, 3 + 3, CALL(qvpiNoise_8u_C3R, from, photo.step(), noisy.data(), noisy.step(), size, {0, 0}, 0, spec));
   demo.Show(caption, noisy);
 }
 
@@ -57,7 +71,8 @@ void ShowNoise(Demo& demo, const char* caption, QvpStatus status, const QvpiNois
 
 void SynthesisSteps(Demo& demo) {
   ShowRamp(demo);
-  ShowPattern(demo);
+  demo.Show("All frequencies and directions", Pattern(demo, kShown));
+  ShowHalved(demo);
   int bytes = 0;
   Require(qvpiNoiseGetSize(&bytes));
   std::vector<Qvp8u> record(bytes);
