@@ -218,9 +218,9 @@ QvpStatus qvpiRamp_32f_AC4R(const Qvp64f start[3], const Qvp64f slopeX[3], const
  *  @endcode
  *
  *  to the nearest, ties to even. All channels are alike. c is made in double precision as cos f(X) cos f(Y) -
- *  sin f(X) sin f(Y), with f(Z) = 2 pi (Z^2 mod D) / D, D = 4 * minPeriod * m, reduced in whole numbers: exact to 1e-14,
- *  so that integers are those of the formula but at ties, where they may be the other neighbour. Source: B. Jaehne,
- *  Digital Image Processing.
+ *  sin f(X) sin f(Y), with f(Z) = 2 pi (Z^2 mod D) / D, D = 4 * minPeriod * m, reduced in whole numbers: exact to
+ *  1e-14, so that integers are those of the formula but at ties, where they may be the other neighbour. Source: B.
+ *  Jaehne, Digital Image Processing.
  *
  *  A tile of the image has the place of its first pixel as `dstOffset`, and the same bits.
  *
@@ -258,7 +258,7 @@ QvpStatus qvpiJaehne_32f_C3R(QvpiSize imageSize, int minPeriod, Qvp32f* pDst, in
  */
 QvpStatus qvpiNoiseGetSize(int* pSpecSize);
 
-/** Makes a record of uniform noise: qvpiNoise() adds numbers from `low` to `high`.
+/** Makes a record of uniform noise: qvpiNoise_8u_C1R() adds numbers from `low` to `high`.
  *
  *    v + (low + u * (high - low)),    u = (word >> 8) * 2^-24
  *
@@ -273,7 +273,7 @@ QvpStatus qvpiNoiseGetSize(int* pSpecSize);
  */
 QvpStatus qvpiNoiseUniformInit(Qvp64f low, Qvp64f high, Qvp32u seed, Qvp32u stream, QvpiNoiseSpec* pSpec);
 
-/** Makes a record of Gaussian noise: qvpiNoise() adds numbers of a normal distribution.
+/** Makes a record of Gaussian noise: qvpiNoise_8u_C1R() adds numbers of a normal distribution.
  *
  *    v + (mean + sigma * g)
  *
@@ -318,9 +318,9 @@ QvpStatus qvpiNoiseShotInit(Qvp64f gain, Qvp64f sigma, Qvp32u seed, Qvp32u strea
 
 /** Makes a record of salt and pepper: single pixels that are lost, dark or bright.
  *
- *  With hit = trunc(level * 2^32) and top = trunc((level * saltShare) * 2^32), in double precision, pixels whose word is
- *  below top become `salt`, others whose word is below hit `pepper`, in all channels that are processed; the rest stays
- *  as it is.
+ *  With hit = trunc(level * 2^32) and top = trunc((level * saltShare) * 2^32), in double precision, pixels whose word
+ *  is below top become `salt`, others whose word is below hit `pepper`, in all channels that are processed; the rest
+ *  stays as it is.
  *
  *  @param level the share of pixels that are lost, 0 to below 1
  *  @param saltShare the share of salt among these, 0 to 1
@@ -343,10 +343,10 @@ QvpStatus qvpiNoiseSaltPepperInit(Qvp64f level, Qvp64f saltShare, Qvp64f pepper,
  *  Noise is a function of seed, stream, frame and place, and of nothing else: the same on every machine, for tiles in
  *  any order and on any number of threads. Another stream or frame gives noise that is independent of the first.
  *
- *  Random words are those of Philox 4x32-10. Sample i = (dstOffset.x + x) * channels + channel takes word i mod 4 of the
- *  block with the counter {i div 4, dstOffset.y + y, frame, 0} and the key {seed, stream}. AC4 counts as 4 channels. Salt
- *  and pepper take one word for a pixel, i = dstOffset.x + x. With everything 0 the first words are 6627E8D5 E169C58D
- *  BC57AC4C 9B00DBD8.
+ *  Random words are those of Philox 4x32-10. Sample i = (dstOffset.x + x) * channels + channel takes word i mod 4 of
+ *  the block with the counter {i div 4, dstOffset.y + y, frame, 0} and the key {seed, stream}. AC4 counts as 4
+ *  channels. Salt and pepper take one word for a pixel, i = dstOffset.x + x. With everything 0 the first words are
+ *  6627E8D5 E169C58D BC57AC4C 9B00DBD8.
  *
  *  Normal numbers g come two from the words p, q of samples 2k and 2k + 1, of variance 1:
  *
@@ -355,9 +355,9 @@ QvpStatus qvpiNoiseSaltPepperInit(Qvp64f level, Qvp64f saltShare, Qvp64f pepper,
  *  with the logarithm of qvpiLn_32f_C1R(), and sine and cosine exact to 2^-23. g is exact to 2e-6 and at most 6.56.
  *
  *  The formulas of the Init functions are evaluated in single precision, v the pixel. Integers are rounded to the
- *  nearest, ties to even, and saturated; a float pixel that is NaN stays NaN. Sources: J. Salmon, M. Moraes, R. Dror, D.
- *  Shaw, Parallel random numbers: as easy as 1, 2, 3, 2011; G. Box, M. Muller, A note on the generation of random normal
- *  deviates, 1958.
+ *  nearest, ties to even, and saturated; a float pixel that is NaN stays NaN. Sources: J. Salmon, M. Moraes, R. Dror,
+ *  D. Shaw, Parallel random numbers: as easy as 1, 2, 3, 2011; G. Box, M. Muller, A note on the generation of random
+ *  normal deviates, 1958.
  *
  *  Source and destination may be the same image, else they must not overlap.
  *

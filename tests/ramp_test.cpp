@@ -54,6 +54,7 @@ TEST(Ramp, EveryMemberIsThePlane) {
       }
       const QvpiPoint offset = kOffsets[++turn % 4];
       Samples dst(element, size.width * name.channels, size.height, turn % 3 * 5);
+      dst.Fill([&](int, int) { return EdgeValue(element, random); });
       const Samples old(dst);
       const auto all = [&](int k) { return test::Argument(values[k], values[k][0]); };
       ASSERT_EQ((*function)({{"start", all(0)},

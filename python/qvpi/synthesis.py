@@ -32,14 +32,20 @@ def _found(operation, a):
     return found[0]
 
 
+def _checked_out(out, shape, dtype):
+    """The array for a result of this shape: `out`, or a new one."""
+    if out is None:
+        return numpy.empty(shape, dtype)
+    if image(out, name="out").shape != tuple(shape):
+        raise ValueError(f"out has the shape {out.shape}, expected {tuple(shape)}")
+    return out
+
+
 def _drawn(operation, shape, dtype, out, tile, values):
     """A new image of this shape, or `out`, or the tile of it, from an operation without sources."""
     shape = checked_shape(shape)
     row, column, height, width = (0, 0, *shape[:2]) if tile is None else checked_tile(tile, shape)
-    wanted = (height, width, *shape[2:])
-    out = numpy.empty(wanted, dtype) if out is None else image(out, name="out")
-    if out.shape != wanted:
-        raise ValueError(f"out has the shape {out.shape}, expected {wanted}")
+    out = _checked_out(out, (height, width, *shape[2:]), dtype)
     forgiving(_found(operation, out), (), (out,), (*values, (column, row)))
     return out
 
@@ -78,9 +84,7 @@ def _record(kind, values, seed, stream):
 def _noisy(kind, values, a, out, seed=0, stream=0, index=0, origin=(0, 0), threads=None, copy=False):
     a, spec = image(a, copy), _record(kind, values, seed, stream)
     call, (row, column) = _found(_NOISE, a), pair_of(origin, "origin")
-    out = numpy.empty(a.shape, a.dtype) if out is None else image(out, name="out")
-    if out.shape != a.shape:
-        raise ValueError(f"out has the shape {out.shape}, expected {a.shape}")
+    out = _checked_out(out, a.shape, a.dtype)
     refuse_overlap(out, (a,), in_place=True)
 
     def strip(first, end):

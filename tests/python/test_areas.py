@@ -424,8 +424,8 @@ def test_noise(one, seed, layout):
     """A function of the place: by threads, by tiles, in place."""
     (a,) = one
     options = {"seed": seed, "stream": 3, "index": 7}
-    kinds = [(qvpi.uniform_noise, -9, 30), (qvpi.gauss_noise, 12.5), (qvpi.speckle_noise, 0.2), (qvpi.shot_noise, 2, 5),
-             (qvpi.salt_pepper, 0.4)]
+    kinds = [(qvpi.uniform_noise, -9, 30), (qvpi.gauss_noise, 12.5), (qvpi.speckle_noise, 0.2),
+             (qvpi.shot_noise, 2, 5), (qvpi.salt_pepper, 0.4)]
     for noise, *values in kinds:
         noisy = noise(a, *values, **options)
         out = laid_out(a.copy(), layout)
