@@ -1,6 +1,6 @@
 /** @file qvpi_feature.h
- *  Features that describe an image: histograms of oriented gradients; images made by formulas: ramps, the
- *  Jaehne pattern, noise.
+ *  Features that describe an image: local binary patterns, histograms of oriented gradients; images made by formulas:
+ *  ramps, the Jaehne pattern, noise.
  *
  *  The conventions of every function are told in qvpi_core.h.
  */
@@ -12,6 +12,98 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/** @name Local binary patterns
+ *  @{ */
+/** Describes the texture around each pixel: which of its neighbours are no darker than the pixel itself.
+ *
+ *  Bit k of a pixel's code is set where neighbour k >= the pixel; where either is NaN it is not. Neighbours count
+ *  counter-clockwise from the one to the right, as (x, y) with y downwards:
+ *
+ *  @code
+ *    result  maskSize  P   neighbours
+ *    8u      3x3       8   (1,0) (1,-1) (0,-1) (-1,-1) (-1,0) (-1,1) (0,1) (1,1)
+ *    8u      5x5       8   the same directions at twice the distance: (2,0) (2,-2) (0,-2) ... (2,2)
+ *    16u     5x5       16  all of the rim: (2,0) (2,-1) (2,-2) (1,-2) (0,-2) ... (2,2) (2,1)
+ *  @endcode
+ *
+ *  The mode says what is stored:
+ *
+ *  @code
+ *    qvpLBPCode             the code
+ *    qvpLBPRotation         the least of the P rotations of its bits: the same however the texture is turned by steps
+ *                           of the circle
+ *    qvpLBPUniform          a label for codes that change at most twice around the circle: 0 without ones,
+ *                           P (P - 1) + 1 of ones only, else 1 + (ones - 1) P + r where the run of ones begins at bit
+ *                           r (bit r is set, the one before it is not, bit P - 1 coming before bit 0);
+ *                           P (P - 1) + 2 for all other codes. 59 labels of 8 neighbours, 243 of 16
+ *    qvpLBPUniformRotation  of the same codes the number of ones, P + 1 for all others: 10 labels, 18
+ *  @endcode
+ *
+ *  A histogram of the results is what textures are compared by. C3: each channel by itself. Results are exact for all
+ *  pixel values. Beyond the image the border type says what is found: qvpBorderReplicate, qvpBorderMirror or
+ *  qvpBorderConst, on all sides that are not in memory, or all of them in memory. In place (pDst = pSrc) and
+ *  overlapping images are not supported.
+ *
+ *  Source: T. Ojala, M. Pietikainen, T. Maenpaa, Multiresolution gray-scale and rotation invariant texture
+ *  classification with local binary patterns, IEEE PAMI, 2002; there the neighbours lie on a circle, here on pixels.
+ *
+ *  @param pSrc,srcStep source image
+ *  @param pDst,dstStep destination image
+ *  @param roiSize size of both in pixels
+ *  @param maskSize the square that the neighbours lie on
+ *  @param mode what is stored
+ *  @param borderType what is outside of the image
+ *  @param borderValue the value of qvpBorderConst, one for each channel; else it may be null
+ *  @param pBuffer work buffer of qvpiFilterLBPBorderGetBufferSize() bytes, at any address
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or the work buffer is null, or borderValue where the low four bits of borderType
+ *    are those of qvpBorderConst
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusMaskSize: maskSize is neither 3x3 nor 5x5, or it is 3x3 with 16u results
+ *  - qvpStatusNotSupportedMode: a mode other than those above
+ *  - qvpStatusBorder: a border type other than those above
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterLBPBorder_8u_C1R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_8u_C3R(const Qvp8u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16u8u_C1R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16u8u_C3R(const Qvp16u* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16s8u_C1R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16s8u_C3R(const Qvp16s* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_32f8u_C1R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_32f8u_C3R(const Qvp32f* pSrc, int srcStep, Qvp8u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_8u16u_C1R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_8u16u_C3R(const Qvp8u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp8u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16u_C1R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16u_C3R(const Qvp16u* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16u* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16s16u_C1R(const Qvp16s* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_16s16u_C3R(const Qvp16s* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_32f16u_C1R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+QvpStatus qvpiFilterLBPBorder_32f16u_C3R(const Qvp32f* pSrc, int srcStep, Qvp16u* pDst, int dstStep, QvpiSize roiSize, QvpiSize maskSize, QvpiLBPMode mode, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Local binary patterns: work buffer
+ *  @{ */
+/** Size of the work buffer of qvpiFilterLBPBorder, which serves any smaller region as well.
+ *
+ *  @param maskSize,roiSize as the call has them
+ *  @param dataType type of the source: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param numChannels 1 or 3
+ *  @param pBufferSize receives the size in bytes, at most 8 rows of width + 4 pixels and 4096 bytes; 0 if it cannot be
+ *    represented
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: pBufferSize is null
+ *  - qvpStatusDataType: a type other than those above
+ *  - qvpStatusNumChannels: numChannels is neither 1 nor 3
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusMaskSize: maskSize is neither 3x3 nor 5x5
+ *  - qvpStatusSizeOverflow: the size is above 2147483647
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiFilterLBPBorderGetBufferSize(QvpiSize maskSize, QvpiSize roiSize, QvpDataType dataType, int numChannels, int* pBufferSize);
+/** @} */
 
 /** @name Histogram of oriented gradients: record
  *  @{ */

@@ -331,6 +331,15 @@ enum {
     qvpDecimate3of4 = 0x34, /**< three quarters */
     qvpDecimate3of8 = 0x38, /**< three eighths */
 };
+
+/** What is stored of a local binary pattern; see qvpiFilterLBPBorder_8u_C1R(). */
+typedef int QvpiLBPMode;
+enum {
+    qvpLBPCode = 0,            /**< the code */
+    qvpLBPRotation = 1,        /**< the least of its rotations */
+    qvpLBPUniform = 2,         /**< a label for codes with at most two changes */
+    qvpLBPUniformRotation = 3, /**< of such codes the number of ones */
+};
 /** @} */
 
 /** Configuration of the histogram of oriented gradients; see qvpiHOGGetSize(). */

@@ -43,9 +43,9 @@ double AnyReal(Choices& choices) {
 
 // Selectors that say nothing about memory.
 bool IsFreeSelector(std::string_view type) {
-  return IsAny(
-      type, {"QvpCmpOp", "QvpDataType", "QvpHintAlgorithm", "QvpNormType", "QvpRoundMode", "QvpiAxis", "QvpiBorderType",
-             "QvpiInterpolationType", "QvpiLookupMethod", "QvpiWarpDirection", "QvpiWaveletKind", "QvpiWindow"});
+  return IsAny(type, {"QvpCmpOp", "QvpDataType", "QvpHintAlgorithm", "QvpNormType", "QvpRoundMode", "QvpiAxis",
+                      "QvpiBorderType", "QvpiInterpolationType", "QvpiLBPMode", "QvpiLookupMethod", "QvpiWarpDirection",
+                      "QvpiWaveletKind", "QvpiWindow"});
 }
 
 // The values of selectors lie between 0 and 20; that of a border keeps the sides that are in memory. Any other

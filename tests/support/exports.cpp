@@ -49,6 +49,7 @@ constexpr struct {
     {"qvpiFilterErode", ExtremesLesson},
     {"qvpiFilterGauss", GaussLesson},
     {"qvpiFilterGuided", GuidedLesson},
+    {"qvpiFilterLBP", PatternLesson},
     {"qvpiFilterLeastSquares", LeastSquaresLesson},
     {"qvpiFilterMax", ExtremesLesson},
     {"qvpiFilterMedian", MedianLesson},

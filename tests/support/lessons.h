@@ -31,6 +31,7 @@ bool MedianLesson(Scene& scene, size_t place, Argument& argument);
 bool MomentLesson(Scene& scene, size_t place, Argument& argument);
 bool NoiseLesson(Scene& scene, size_t place, Argument& argument);
 bool OrderLesson(Scene& scene, size_t place, Argument& argument);
+bool PatternLesson(Scene& scene, size_t place, Argument& argument);
 bool RampLesson(Scene& scene, size_t place, Argument& argument);
 bool ReductionLesson(Scene& scene, size_t place, Argument& argument);
 bool RemapLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,0 +1,192 @@
+// Local binary patterns against their definition, bit by bit.
+#include "tests/support/bordered.h"
+
+namespace {
+using test::Bordered;
+using test::Export;
+using test::Name;
+using test::Real;
+using test::Region;
+
+// Neighbours as (x, y), from the right on counter-clockwise.
+constexpr QvpiPoint kEight[] = {{1, 0}, {1, -1}, {0, -1}, {-1, -1}, {-1, 0}, {-1, 1}, {0, 1}, {1, 1}};
+constexpr QvpiPoint kSixteen[] = {{2, 0},  {2, -1}, {2, -2}, {1, -2}, {0, -2}, {-1, -2}, {-2, -2}, {-2, -1},
+                                  {-2, 0}, {-2, 1}, {-2, 2}, {-1, 2}, {0, 2},  {1, 2},   {2, 2},   {2, 1}};
+
+template <class Pixel>
+int CodeOf(int side, int neighbours, const Pixel& pixel) {
+  int code = 0;
+  for (int k = 0; k < neighbours; ++k) {
+    const QvpiPoint at = neighbours == 16 ? kSixteen[k] : kEight[k];
+    const int scale = neighbours == 8 && side == 5 ? 2 : 1;
+    code |= (pixel(scale * at.x, scale * at.y) >= pixel(0, 0) ? 1 : 0) << k;
+  }
+  return code;
+}
+
+int Label(int code, int p, QvpiLBPMode mode) {
+  int least = code, changes = 0, ones = 0, begin = 0;
+  for (int k = 0; k < p; ++k) {
+    least = std::min(least, (code << k | code >> (p - k)) & ((1 << p) - 1));
+    const bool bit = code >> k & 1, before = code >> (k + p - 1) % p & 1;
+    changes += bit != before;
+    ones += bit;
+    if (bit && !before) begin = k;
+  }
+  if (mode == qvpLBPCode) return code;
+  if (mode == qvpLBPRotation) return least;
+  if (mode == qvpLBPUniformRotation) return changes <= 2 ? ones : p + 1;
+  if (changes > 2) return p * (p - 1) + 2;
+  return ones == 0 ? 0 : ones == p ? p * (p - 1) + 1 : 1 + (ones - 1) * p + begin;
+}
+
+test::Prepared BufferFor(QvpiSize mask, const Region& r, const test::Element& element) {
+  int bytes = 0;
+  EXPECT_EQ(qvpiFilterLBPBorderGetBufferSize(mask, r.size, element.code, r.channels, &bytes), 0);
+  EXPECT_LE(bytes, 8LL * (r.size.width + 4) * r.channels * element.bytes + 4096);
+  return test::Prepared(bytes);
+}
+
+QvpStatus Call(const Export& function, const Bordered& scene, const test::Part& part, const test::Argument& dst,
+               QvpiSize mask, QvpiLBPMode mode) {
+  const test::Prepared prepared = BufferFor(mask, {part.size, scene.region.channels, 0}, scene.element());
+  return test::Filter(function, scene, part, prepared, {{"pDst", dst}, {"maskSize", mask}, {"mode", mode}});
+}
+
+// Few levels, so that there are ties, among them the ends of the type, and NaN.
+void FillWithTies(Bordered& scene) {
+  const test::Element& e = scene.element();
+  const Real levels[] = {1, 2, 3, 3, 250, e.lowest, e.highest, e.isInteger ? 2 : std::nan("")};
+  test::Random random(3);
+  scene.image.Fill([&](int, int) { return levels[random.Next() % std::size(levels)]; });
+}
+
+void Check(const Export& function, int side, QvpiLBPMode mode, const Region& r, test::Guard guard) {
+  const Name name(function.name);
+  const QvpiSize mask{side, side};
+  const int neighbours = 8 * name.To().bytes;
+  Bordered scene(name.From(), test::ReachOf(mask), r, guard);
+  FillWithTies(scene);
+  test::ExpectWindows(
+      function, scene,
+      [&](const test::Argument& dst) { return Call(function, scene, test::WholeOf(scene), dst, mask, mode); },
+      [&](const auto& pixel) { return Label(CodeOf(side, neighbours, pixel), neighbours, mode); },
+      test::Shown(mask) + " mode " + std::to_string(mode), guard);
+}
+
+TEST(LocalPatterns, EveryMemberEqualsItsDefinition) {
+  int turn = 0;
+  for (const Export* function : test::FunctionsOf({"FilterLBPBorder"})) {
+    const Name name(function->name);
+    for (const int side : {3, 5}) {
+      if (name.To().bytes == 2 && side == 3) continue;
+      for (int i = 0; i < 24; ++i, ++turn) {
+        Region r = test::RegionOf(turn, name.channels);
+        if (i == 23) r.size = {1100, 3};  // of several blocks
+        Check(*function, side, i % 4, r, turn % 2 ? test::Guard::kAfter : test::Guard::kBefore);
+      }
+    }
+  }
+  EXPECT_EQ(turn, 24 * 24);
+}
+
+TEST(LocalPatterns, EveryBorderAndSideInMemory) {
+  for (const char* name : {"qvpiFilterLBPBorder_8u_C3R", "qvpiFilterLBPBorder_32f16u_C1R"}) {
+    for (int border = 0; border < 256; border += 16) {
+      for (const QvpiSize size : {QvpiSize{1, 1}, {2, 3}, {40, 4}}) {
+        for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+          const Export& function = test::FunctionNamed(name);
+          Check(function, 5, qvpLBPCode, {size, Name(name).channels, border | kind}, test::Guard::kAfter);
+        }
+      }
+    }
+  }
+}
+
+// Squares of pixels, each of which has another code in its middle.
+TEST(LocalPatterns, EveryCodeHasItsLabel) {
+  for (const int neighbours : {8, 16}) {
+    const int across = neighbours == 8 ? 16 : 256;
+    const QvpiSize size{5 * across, 5 * (1 << neighbours) / across};
+    const auto& function =
+        test::FunctionNamed(neighbours == 8 ? "qvpiFilterLBPBorder_8u_C1R" : "qvpiFilterLBPBorder_8u16u_C1R");
+    Bordered scene(test::ElementOf("8u"), test::ReachOf({5, 5}), {size, 1, qvpBorderReplicate});
+    for (int i = 0; i < 1 << neighbours; ++i) {
+      const int x = 5 * (i % across) + 2, y = 5 * (i / across) + 2;
+      scene.image.Put(x, y, 100);
+      for (int k = 0; k < neighbours; ++k) {
+        const QvpiPoint at = neighbours == 16 ? kSixteen[k] : kEight[k];
+        const int scale = neighbours == 8 ? 2 : 1;
+        scene.image.Put(x + scale * at.x, y + scale * at.y, i >> k & 1 ? 100 : 99);
+      }
+    }
+    const test::Samples dst(Name(function.name).To(), size.width, size.height, 5);
+    for (int mode = qvpLBPCode; mode <= qvpLBPUniformRotation; ++mode) {
+      ASSERT_EQ(Call(function, scene, test::WholeOf(scene), dst, {5, 5}, mode), 0);
+      for (int i = 0; i < 1 << neighbours; ++i) {
+        ASSERT_EQ(dst(5 * (i % across) + 2, 5 * (i / across) + 2), Label(i, neighbours, mode)) << i << " mode " << mode;
+      }
+    }
+  }
+}
+
+TEST(LocalPatterns, KnownValues) {
+  const auto middle = [](QvpiLBPMode mode, std::vector<Qvp8u> pixels) {
+    std::vector<Qvp8u> buffer(8192), out(9);
+    EXPECT_EQ(qvpiFilterLBPBorder_8u_C1R(pixels.data(), 3, out.data(), 3, {3, 3}, {3, 3}, mode, qvpBorderReplicate,
+                                         nullptr, buffer.data()),
+              0);
+    return int{out[4]};
+  };
+  const int ofSlope[] = {248, 31, 36, 5}, ofFlat[] = {255, 255, 57, 8};
+  for (int mode = 0; mode < 4; ++mode) {
+    EXPECT_EQ(middle(mode, {6, 5, 2, 7, 6, 1, 9, 8, 7}), ofSlope[mode]);
+    EXPECT_EQ(middle(mode, std::vector<Qvp8u>(9, 200)), ofFlat[mode]);
+    EXPECT_EQ(middle(mode, {1, 1, 1, 1, 2, 1, 1, 1, 1}), 0);
+  }
+  Qvp8u rising[25], buffer[8192];
+  Qvp16u wide[25];
+  for (int i = 0; i < 25; ++i) rising[i] = static_cast<Qvp8u>(i);
+  EXPECT_EQ(
+      qvpiFilterLBPBorder_8u16u_C1R(rising, 5, wide, 10, {5, 5}, {5, 5}, qvpLBPCode, qvpBorderMirror, nullptr, buffer),
+      0);
+  EXPECT_EQ(wide[12], 65025);
+}
+
+TEST(LocalPatterns, TilesEqualTheWhole) {
+  const Export& function = test::FunctionNamed("qvpiFilterLBPBorder_8u_C1R");
+  for (const int border : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
+    const Bordered scene(test::ElementOf("8u"), test::ReachOf({5, 5}), {{101, 30}, 1, border});
+    test::ExpectTilesEqualTheWhole(scene, {33, 7}, [&](const test::Part& part, const test::Argument& dst) {
+      return Call(function, scene, part, dst, {5, 5}, qvpLBPUniform);
+    });
+  }
+}
+
+TEST(LocalPatterns, RefusesWhatItCannotDo) {
+  uint8_t in[64] = {}, out[64] = {}, buffer[8192];
+  const auto call = [&](QvpiSize mask, int mode, int border, const Qvp8u* value) {
+    return qvpiFilterLBPBorder_8u_C1R(in, 8, out, 8, {8, 8}, mask, mode, border, value, buffer);
+  };
+  EXPECT_EQ(call({4, 4}, 9, 0, nullptr), qvpStatusMaskSize);
+  EXPECT_EQ(call({3, 5}, 0, 1, nullptr), qvpStatusMaskSize);
+  EXPECT_EQ(call({3, 3}, 4, 0, nullptr), qvpStatusNotSupportedMode);
+  EXPECT_EQ(call({3, 3}, -1, 0, nullptr), qvpStatusNotSupportedMode);
+  for (const int border : {0, 2, 4, 7, 0x101}) EXPECT_EQ(call({3, 3}, 0, border, nullptr), qvpStatusBorder);
+  EXPECT_EQ(call({4, 4}, 9, qvpBorderConst | 16, nullptr), qvpStatusNullPointer);
+  auto* const wide = reinterpret_cast<Qvp16u*>(out);
+  EXPECT_EQ(qvpiFilterLBPBorder_8u16u_C1R(in, 8, wide, 8, {1, 1}, {3, 3}, 0, 1, nullptr, buffer), qvpStatusMaskSize);
+  int size = 7;
+  const auto query = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
+    return qvpiFilterLBPBorderGetBufferSize(mask, roi, type, channels, &size);
+  };
+  EXPECT_EQ(query({0, 0}, {0, 0}, qvp64f, 4), qvpStatusDataType);
+  EXPECT_EQ(query({0, 0}, {0, 0}, qvp8u, 4), qvpStatusNumChannels);
+  EXPECT_EQ(query({0, 0}, {9, 0}, qvp8u, 3), qvpStatusSize);
+  EXPECT_EQ(query({5, 3}, {9, 9}, qvp8u, 3), qvpStatusMaskSize);
+  EXPECT_EQ(size, 7);
+  EXPECT_EQ(query({5, 5}, {INT32_MAX, 1}, qvp32f, 3), 0);  // blocks of columns need little
+  EXPECT_LT(size, 1 << 16);
+}
+
+}  // namespace
