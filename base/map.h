@@ -36,6 +36,8 @@ class PerChannel {
   // The vector that begins at lane `first` of a row.
   HWY_INLINE hn::Vec<D> From(ptrdiff_t first) const { return hn::LoadU(D(), lanes_ + first % kPeriod); }
 
+  T Of(int channel) const { return lanes_[channel]; }
+
  private:
   static constexpr int kPeriod = 12;
   static constexpr int kLanes = (static_cast<int>(hn::MaxLanes(D())) / kPeriod + 2) * kPeriod;

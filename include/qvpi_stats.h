@@ -1,5 +1,5 @@
 /** @file qvpi_stats.h
- *  Numbers that sum up an image: norms, sums, extrema, dot products, histograms and moments.
+ *  Numbers that sum up an image: norms, sums, extrema, dot products, quality, histograms and moments.
  *
  *  The conventions of every function are told in qvpi_core.h.
  *
@@ -623,6 +623,61 @@ QvpStatus qvpiDotProd_32f64f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f
  */
 QvpStatus qvpiDotProdCol_32f_L2(const Qvp32f* const ppSrcRow[], Qvp32f* pDst, int numRows, const Qvp32f* pTaps, int len);
 QvpStatus qvpiDotProdCol_64f_L2(const Qvp64f* const ppSrcRow[], Qvp64f* pDst, int numRows, const Qvp64f* pTaps, int len);
+/** @} */
+
+/** @name Quality index
+ *  @{ */
+/** How much of a picture is left in another one: 1 for the same picture, less the more it has lost in structure,
+ *  contrast and brightness, down to -1. The region is one window; for the mean over windows that slide over it see
+ *  qvpiSSIM_8u_C1R().
+ *
+ *  With the N pixels x and y of a channel and their sums:
+ *
+ *  @code
+ *    C = N Sxy - Sx Sy
+ *    V = (N Sxx - Sx^2) + (N Syy - Sy^2)
+ *    M = Sx^2 + Sy^2
+ *    value = ((2 C) / V) ((2 (Sx Sy)) / M)
+ *  @endcode
+ *
+ *  A factor whose denominator, V or M, is 0 counts as 1. AC4 compares the three colour channels.
+ *
+ *  Integers: sums, C and V are exact and rounded to double once, the rest is in double precision: 4 units in the last
+ *  place of the exact value. Beyond 2^32 pixels blocks of rows have exact sums, which are added in double precision,
+ *  as all that follows is then computed. 32f: in double precision, of the differences from the first pixels, which are
+ *  summed in the fixed order of the accurate statistics, so that flat images have no variance; the error is below
+ *  1e-11 up to 2^22 pixels where the first pixels lie within 10 standard deviations of the means. NaN and infinity in a
+ *  channel give NaN.
+ *
+ *  Source: Z. Wang, A. C. Bovik, A universal image quality index, IEEE Signal Processing Letters, 2002.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image
+ *  @param roiSize size of both in pixels
+ *  @param pValue receives one value for each channel, three of AC4
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image or `pValue` is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusQualityIndex: V or M of a channel is 0, as of flat or black images; all values are written all the same
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiQualityIndex_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiQualityIndex_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiQualityIndex_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiQualityIndex_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiQualityIndex_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_16s_C1R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiQualityIndex_16s_C3R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_16s_C4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiQualityIndex_16s_AC4R(const Qvp16s* pSrc1, int src1Step, const Qvp16s* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue);
+QvpStatus qvpiQualityIndex_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
+QvpStatus qvpiQualityIndex_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4]);
+QvpStatus qvpiQualityIndex_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
 /** @} */
 
 /** @name Histogram: sizes

@@ -17,6 +17,20 @@ struct Factors {
   V a, b;
 };
 
+// The even and the odd lanes of a vector in lanes of twice the width.
+template <class U>
+struct EvenOdd {
+  using Wide = hwy::MakeWide<U>;
+  using D = hn::ScalableTag<Wide>;
+  hn::Vec<D> even, odd;
+
+  explicit HWY_INLINE EvenOdd(hn::Vec<hn::ScalableTag<U>> v) {
+    const auto wide = hn::BitCast(D(), v);
+    even = hn::And(wide, hn::Set(D(), hwy::LimitsMax<U>()));
+    odd = hn::ShiftRight<8 * sizeof(U)>(wide);
+  }
+};
+
 // As many samples as D has lanes, or those of them that a row of n still has, then zeros.
 template <class D, class T>
 HWY_INLINE hn::Vec<D> LoadUpTo(D d, const T* from, ptrdiff_t n) {

@@ -32,12 +32,17 @@ class ExactSums {
   }
 
   // The sum of each channel, modulo 2^64.
-  void Finish(int channels, uint64_t* sums) {
+  void Finish(int channels, uint64_t* sums) { FinishOne<1>(0, channels, sums); }
+
+  // Of a kernel that sums up several quantities, whose lanes follow one another.
+  template <int kQuantities>
+  void FinishOne(int quantity, int channels, uint64_t* sums) {
+    constexpr int kEach = kSums / kQuantities;
     Drain();
     for (int c = 0; c < channels; ++c) sums[c] = -(Samples(channels) / 2 * Kernel::kPairBias);
-    if (channels == 1) AddTotals<1>(sums);
-    if (channels == 3) AddTotals<3>(sums);
-    if (channels == 4) AddTotals<4>(sums);
+    if (channels == 1) AddTotals<1>(quantity * kEach, kEach, sums);
+    if (channels == 3) AddTotals<3>(quantity * kEach, kEach, sums);
+    if (channels == 4) AddTotals<4>(quantity * kEach, kEach, sums);
   }
 
   // The samples of a channel that were added, with the zeros that filled up rounds.
@@ -71,10 +76,11 @@ class ExactSums {
   }
 
   template <int kChannels>
-  void AddTotals(uint64_t* sums) const {
-    for (int s = 0; s < kSums; ++s) {
+  void AddTotals(int first, int count, uint64_t* sums) const {
+    for (int s = 0; s < count; ++s) {
+      const auto& totals = totals_[first + s];
       for (int lane = 0; lane < kLanes; ++lane) {
-        sums[Kernel::Position(s, lane) % kChannels] += totals_[s][lane % kFields][lane / kFields] << Kernel::Shift(s);
+        sums[Kernel::Position(s, lane) % kChannels] += totals[lane % kFields][lane / kFields] << Kernel::Shift(s);
       }
     }
   }
@@ -98,20 +104,6 @@ struct ByteSums {
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
     for (int k = 0; k < kVectors; ++k) sums[k] = hn::Add(sums[k], hn::SumsOf8(at(k)));
-  }
-};
-
-// The even and the odd lanes of a vector in lanes of twice the width.
-template <class U>
-struct EvenOdd {
-  using Wide = hwy::MakeWide<U>;
-  using D = hn::ScalableTag<Wide>;
-  hn::Vec<D> even, odd;
-
-  explicit HWY_INLINE EvenOdd(hn::Vec<hn::ScalableTag<U>> v) {
-    const auto wide = hn::BitCast(D(), v);
-    even = hn::And(wide, hn::Set(D(), hwy::LimitsMax<U>()));
-    odd = hn::ShiftRight<8 * sizeof(U)>(wide);
   }
 };
 

@@ -85,6 +85,7 @@ constexpr struct {
     {"qvpiPackToCplxExtend", FourierLesson},
     {"qvpiPalette", TableLesson},
     {"qvpiPhasePack", FourierLesson},
+    {"qvpiQualityIndex", ReductionLesson},
     {"qvpiRamp", RampLesson},
     {"qvpiRemap", RemapLesson},
     {"qvpiResize", ResizeLesson},
