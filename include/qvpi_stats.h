@@ -680,6 +680,87 @@ QvpStatus qvpiQualityIndex_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp3
 QvpStatus qvpiQualityIndex_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3]);
 /** @} */
 
+/** @name Structural similarity
+ *  @{ */
+/** How alike two pictures look: the mean, for each channel, of an index over square windows at every position where
+ *  they lie inside the region. 1 for equal images, less the more they differ.
+ *
+ *  A window has w = windowSize pixels a side, of the weights g(j) g(i): a Gaussian of standard deviation `sigma`
+ *  pixels, whose weights add up to 1, or with sigma 0 equal ones:
+ *
+ *  @code
+ *    g(k) = e(k) / sum of all e,   e(k) = exp(-(k - (w - 1) / 2)^2 / (2 sigma^2))
+ *    g(k) = 1 / w                  for sigma 0
+ *  @endcode
+ *
+ *  With E the weighted mean over a window, of the pixels x of the first and y of the second image:
+ *
+ *  @code
+ *    mx = E[x]   my = E[y]   V = E[x^2 + y^2] - (mx^2 + my^2)   C = E[x y] - mx my
+ *    index = ((2 mx my + c1) / (mx^2 + my^2 + c1)) ((2 C + c2) / (V + c2))
+ *  @endcode
+ *
+ *  c1 and c2 keep dark and flat windows from counting too much; they go with the square of the largest value L of the
+ *  pixels: (0.01 L)^2 and (0.03 L)^2 are usual. The paper's choice for 8u is a window of 11, sigma 1.5, c1 = 6.5025,
+ *  c2 = 58.5225. Windows of 8 with sigma 0 and c1 = c2 = 1e-6 give the mean of the quality index of 2002 over sliding
+ *  windows, to 1e-9 (qvpiQualityIndex_8u_C1R() is that of one window).
+ *
+ *  All is computed in double precision; the error is below 1e-9 for 8u and 16u with the usual c1 and c2, and for 32f
+ *  where the square of the largest magnitude is at most 1e5 c2. Equal images give exactly 1. NaN in a channel gives
+ *  NaN. AC4 compares the three colour channels.
+ *
+ *  Source: Z. Wang, A. C. Bovik, H. R. Sheikh, E. P. Simoncelli, Image quality assessment: from error visibility to
+ *  structural similarity, IEEE Transactions on Image Processing, 2004.
+ *
+ *  @param pSrc1,src1Step first image
+ *  @param pSrc2,src2Step second image
+ *  @param roiSize size of both in pixels
+ *  @param pValue receives one mean for each channel, three of AC4
+ *  @param windowSize side of a window in pixels, 2 to 31
+ *  @param sigma 0, or the standard deviation of the weights in pixels, 0.1 to 1000
+ *  @param c1,c2 above 0
+ *  @param pBuffer work buffer of qvpiSSIMGetBufferSize() bytes, at any address
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: an image, `pValue` or the work buffer is null
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusMaskSize: windowSize is outside 2 to 31
+ *  - qvpStatusSize: a side of the region is below windowSize
+ *  - qvpStatusBadArgument: sigma is neither 0 nor within its range, or c1 or c2 is not above 0 or not finite
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiSSIM_8u_C1R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_8u_C3R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_8u_C4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_8u_AC4R(const Qvp8u* pSrc1, int src1Step, const Qvp8u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_16u_C1R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_16u_C3R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_16u_C4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_16u_AC4R(const Qvp16u* pSrc1, int src1Step, const Qvp16u* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_32f_C1R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f* pValue, int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_32f_C3R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_32f_C4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[4], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+QvpStatus qvpiSSIM_32f_AC4R(const Qvp32f* pSrc1, int src1Step, const Qvp32f* pSrc2, int src2Step, QvpiSize roiSize, Qvp64f pValue[3], int windowSize, Qvp64f sigma, Qvp64f c1, Qvp64f c2, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Structural similarity: work buffer
+ *  @{ */
+/** Size of the work buffer of qvpiSSIM for any type of pixel, which serves smaller regions and windows as well.
+ *
+ *  @param roiSize,windowSize as the call has them
+ *  @param numChannels channels of a pixel: 1, 3 or 4; 4 for AC4
+ *  @param pBufferSize receives the size in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: pBufferSize is null
+ *  - qvpStatusNumChannels: numChannels is none of the above
+ *  - qvpStatusSize: a side of the region is below 1
+ *  - qvpStatusMaskSize: windowSize is outside 2 to 31
+ *  - qvpStatusSize: a side of the region is below windowSize
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvpiSSIMGetBufferSize(QvpiSize roiSize, int windowSize, int numChannels, int* pBufferSize);
+/** @} */
+
 /** @name Histogram: sizes
  *  @{ */
 /** Bytes of the record and of the work buffer of a histogram.

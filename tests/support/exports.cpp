@@ -92,6 +92,7 @@ constexpr struct {
     {"qvpiResize420", FrameResizeLesson},
     {"qvpiResize422", FrameResizeLesson},
     {"qvpiRotateQuarter", TurnLesson},
+    {"qvpiSSIM", SimilarityLesson},
     {"qvpiScale", ScaleLesson},
     {"qvpiSetWindow", WindowFunctionLesson},
     {"qvpiShift", ShiftLesson},

@@ -39,6 +39,7 @@ bool ResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool ScaleLesson(Scene& scene, size_t place, Argument& argument);
 bool SeparableLesson(Scene& scene, size_t place, Argument& argument);
 bool ShiftLesson(Scene& scene, size_t place, Argument& argument);
+bool SimilarityLesson(Scene& scene, size_t place, Argument& argument);
 bool SpaceLesson(Scene& scene, size_t place, Argument& argument);
 bool SumsLesson(Scene& scene, size_t place, Argument& argument);
 bool TableLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,4 +1,6 @@
-// Parameters of norms, sums, extrema, dot products and moments.
+// Parameters of norms, sums, extrema, dot products, similarity and moments.
+#include <algorithm>
+
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
 
@@ -14,6 +16,24 @@ const void* RowsOf(Scene& scene, const Element& element, int rows, int length) {
     std::memcpy(pointers + k * sizeof(row), &row, sizeof(row));
   }
   return pointers;
+}
+
+// Of similarity: a region has one window at least, whose side depends on the scene.
+QvpiSize WindowedRegion(const Scene& scene) {
+  return {std::max(scene.roi().width, 2), std::max(scene.roi().height, 2)};
+}
+int WindowOf(const Scene& scene) {
+  const QvpiSize roi = WindowedRegion(scene);
+  return 2 + static_cast<int>(scene.choices().Next() % (std::min({roi.width, roi.height, 31}) - 1));
+}
+int WindowedStep(const Scene& scene, size_t place) {
+  return WindowedRegion(scene).width * 16 + 17 * static_cast<int>(place + 1);
+}
+const void* WindowedImage(Scene& scene, size_t place) {
+  const int step = WindowedStep(scene, place), height = WindowedRegion(scene).height;
+  uint8_t* const image = scene.Input(size_t{1} * step * height);
+  scene.FillRows(*PointedAt(scene.function().parameters[place].type), image, step, height, scene.Mostly());
+  return image;
 }
 
 // Computed from a small image, so that there is something to ask.
@@ -54,6 +74,34 @@ bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {numbers};
   } else {
     argument = name == "numRows" ? rows : length;
+  }
+  return true;
+}
+
+bool SimilarityLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  if (name.starts_with("pSrc")) {
+    argument = {WindowedImage(scene, place)};
+  } else if (name.ends_with("Step")) {
+    argument = WindowedStep(scene, place - 1);
+  } else if (name == "roiSize") {
+    argument = WindowedRegion(scene);
+  } else if (name == "pValue") {
+    argument = {scene.Output(4 * sizeof(double))};
+  } else if (name == "windowSize") {
+    argument = WindowOf(scene);
+  } else if (name == "sigma") {
+    argument = scene.Any({0, 1, 1000});
+  } else if (name == "c1" || name == "c2") {
+    argument = scene.Any({1, 7, 1000000});
+  } else if (name == "numChannels") {
+    argument = scene.Any({1, 3, 4});
+  } else if (name == "pBuffer") {
+    int bytes = 0;
+    qvpiSSIMGetBufferSize(WindowedRegion(scene), WindowOf(scene), Name(scene.function().name).channels, &bytes);
+    argument = {scene.Input(bytes)};
+  } else {
+    return false;
   }
   return true;
 }
