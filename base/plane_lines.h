@@ -73,9 +73,18 @@ class LineWindow {
     const Element outside = Form::Of({kZero, kZero}, 0);
     std::fill_n(room_, before_, outside);
     ConvertRows<Form>({upper, lower}, room_ + before_, inside_);
+    for (int i = 0; i < Form::kRows; ++i) FetchAhead(next_ + Form::kRows + i);
     const ptrdiff_t end = before_ + inside_;
     std::fill_n(room_ + end, Samples() - end, outside);
     if constexpr (requires { form_.Finish(room_, end); }) form_.Finish(room_, Samples());
+  }
+
+  // The next row of a block of columns begins far from the end of this one, where the CPU does not expect it.
+  void FetchAhead(ptrdiff_t row) const {
+    constexpr ptrdiff_t kCacheLine = 64 / sizeof(T);
+    if (!plane_.HasRow(row) || inside_ == 0) return;
+    const T* const samples = plane_.At(columns_.begin + before_, row);
+    for (ptrdiff_t i = 0; i < inside_ * plane_.channels(); i += kCacheLine) hwy::Prefetch(samples + i);
   }
 
   // The samples inside the image, as neighbours.
