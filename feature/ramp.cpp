@@ -22,15 +22,6 @@ struct Plane {
   const double *start, *slopeX, *slopeY;  // one for each channel, at any address
   QvpiPoint offset;
 
-  // start + slopeY * Y of each channel.
-  PerChannel<Doubles> Down(ptrdiff_t y, Layout layout) const {
-    const double place = static_cast<double>(int64_t{offset.y} + y);
-    double values[4];
-    for (int c = 0; c < ProcessedChannels(layout); ++c) {
-      values[c] = LoadScalar(start + c) + LoadScalar(slopeY + c) * place;
-    }
-    return {Doubles(), values, layout};
-  }
   // slopeX * X of each channel of n pixels from column x on, and zeros in the room behind them.
   void FillAcross(ptrdiff_t x, ptrdiff_t n, Layout layout, double* to) const {
     const int channels = Channels(layout);
@@ -40,7 +31,49 @@ struct Plane {
     }
     std::fill_n(to + n * channels, kRoom, 0.0);
   }
+  // Whether 32-bit integers hold all values: these lie between those of the corners, as rounding keeps their order.
+  bool IsWithinInts(Size roi, Layout layout) const {
+    constexpr double kMost = INT32_MAX;
+    const double x = offset.x, y = offset.y, width = static_cast<double>(roi.width - 1),
+                 height = static_cast<double>(roi.height - 1);
+    for (int c = 0; c < ProcessedChannels(layout); ++c) {
+      const double first = LoadScalar(start + c), across = LoadScalar(slopeX + c), down = LoadScalar(slopeY + c);
+      for (const double row : {first + down * y, first + down * (y + height)}) {
+        for (const double v : {row + across * x, row + across * (x + width)}) {
+          if (!(v > -kMost && v < kMost)) return false;
+        }
+      }
+    }
+    return true;
+  }
 };
+
+// start + slopeY * Y of the samples of a row, from any of a pixel on: 12 are whole pixels of every layout.
+class RowStart {
+ public:
+  RowStart(const Plane& plane, Layout layout)
+      : start_(Doubles(), plane.start, layout), slope_(Doubles(), plane.slopeY, layout), offset_(plane.offset.y) {}
+
+  // For vectors of kSamples.
+  template <ptrdiff_t kSamples>
+  void MoveTo(ptrdiff_t y) {
+    const Doubles d;
+    const DoubleVector place = hn::Set(d, static_cast<double>(offset_ + y));
+    for (ptrdiff_t i = 0; i < kPeriod + kSamples; i += kLanes) {
+      hn::StoreU(hn::Add(start_.From(i), hn::Mul(slope_.From(i), place)), d, lanes_ + i);
+    }
+  }
+  HWY_INLINE const double* From(ptrdiff_t sample) const { return lanes_ + sample % kPeriod; }
+
+ private:
+  static constexpr ptrdiff_t kPeriod = 12, kLanes = hn::MaxLanes(Doubles());
+  PerChannel<Doubles> start_, slope_;
+  int64_t offset_;
+  HWY_ALIGN double lanes_[kPeriod + kRoom + kLanes];
+};
+
+// What sums become: floats, integers that 32 bits hold, or any, which are bounded first.
+enum class Range { kFloats, kInts, kAny };
 
 template <class T>
 HWY_INLINE DoubleVector Bounded(DoubleVector v) {
@@ -49,26 +82,28 @@ HWY_INLINE DoubleVector Bounded(DoubleVector v) {
   return hn::Min(raised, hn::Set(d, std::numeric_limits<T>::max()));
 }
 
-// As many samples as a vector holds, from sample `phase` of a pixel on.
-template <class T>
-HWY_INLINE auto Samples(const double* across, const PerChannel<Doubles>& down, ptrdiff_t phase) {
+// As many samples as a vector holds.
+template <class T, Range kRange>
+HWY_INLINE auto Samples(const double* across, const double* down) {
   using Lane = std::conditional_t<std::is_integral_v<T>, int32_t, float>;
   constexpr ptrdiff_t kDoubles = hn::MaxLanes(Doubles());
-  const auto sum = [&](ptrdiff_t i)
-                       QVP_INLINED { return hn::Add(down.From(phase + i), hn::LoadU(Doubles(), across + i)); };
+  const auto sum = [&](ptrdiff_t i) QVP_INLINED {
+    return hn::Add(hn::LoadU(Doubles(), down + i), hn::LoadU(Doubles(), across + i));
+  };
   return NarrowParts<T>(hn::ScalableTag<Lane>(), [&](ptrdiff_t k) QVP_INLINED {
     const DoubleVector lower = sum(2 * k * kDoubles), upper = sum((2 * k + 1) * kDoubles);
-    if constexpr (std::is_integral_v<T>) return RoundedPair(Bounded<T>(lower), Bounded<T>(upper));
-    if constexpr (!std::is_integral_v<T>) return FloatPair(lower, upper);
+    if constexpr (kRange == Range::kFloats) return FloatPair(lower, upper);
+    if constexpr (kRange == Range::kInts) return RoundedPair(lower, upper);
+    if constexpr (kRange == Range::kAny) return RoundedPair(Bounded<T>(lower), Bounded<T>(upper));
   });
 }
 
-template <bool kKeepAlpha, class T>
-void WriteRow(const double* across, const PerChannel<Doubles>& down, ptrdiff_t n, T* to) {
+template <bool kKeepAlpha, Range kRange, class T>
+void WriteRow(const double* across, const RowStart& down, ptrdiff_t n, T* to) {
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
   const auto at = [&](ptrdiff_t i, ptrdiff_t phase, const T* old) QVP_INLINED {
-    const auto v = Samples<T>(across + i, down, phase);
+    const auto v = Samples<T, kRange>(across + i, down.From(phase));
     if constexpr (kKeepAlpha) return hn::IfThenElse(FourthLanes(d, phase), hn::LoadU(d, old), v);
     return v;
   };
@@ -83,17 +118,33 @@ void WriteRow(const double* across, const PerChannel<Doubles>& down, ptrdiff_t n
 }
 
 template <class T>
+using RowFunction = void (*)(const double* across, const RowStart& down, ptrdiff_t n, T* to);
+
+template <bool kKeepAlpha, class T>
+RowFunction<T> RowFor(const Plane& plane, Size roi, Layout layout) {
+  if constexpr (std::is_integral_v<T>) {
+    if (plane.IsWithinInts(roi, layout)) return WriteRow<kKeepAlpha, Range::kInts, T>;
+    return WriteRow<kKeepAlpha, Range::kAny, T>;
+  } else {
+    return WriteRow<kKeepAlpha, Range::kFloats, T>;
+  }
+}
+
+template <class T>
 QvpStatus Ramp(const Plane& plane, const Image<T>& dst, Size roi) {
   const Pointers numbers = {plane.start, plane.slopeX, plane.slopeY};
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {dst}, numbers)) return failed;
-  const auto writeRow = KeepsAlpha(dst.layout) ? WriteRow<true, T> : WriteRow<false, T>;
+  const auto writeRow =
+      KeepsAlpha(dst.layout) ? RowFor<true, T>(plane, roi, dst.layout) : RowFor<false, T>(plane, roi, dst.layout);
   const ptrdiff_t channels = Channels(dst.layout), most = kStrip / channels;
   HWY_ALIGN double across[kStrip + kRoom];
+  RowStart down(plane, dst.layout);
   for (ptrdiff_t x = 0; x < roi.width; x += most) {
     const ptrdiff_t n = std::min(most, roi.width - x);
     plane.FillAcross(x, n, dst.layout, across);
     for (ptrdiff_t y = 0; y < roi.height; ++y) {
-      writeRow(across, plane.Down(y, dst.layout), n * channels, dst.Row(y) + x * channels);
+      down.MoveTo<hn::MaxLanes(hn::ScalableTag<T>())>(y);
+      writeRow(across, down, n * channels, dst.Row(y) + x * channels);
     }
   }
   return qvpStatusNoError;
