@@ -31,8 +31,8 @@ struct Choice {
   }
 };
 
-// Calls step(d, count, i) for groups of `count` vectors of d from i on, so that nothing behind n is touched: four, then
-// one, the last of which overlaps the one before it; fewer numbers than a vector has one by one.
+// Calls step(d, count, i) for groups of `count` vectors of d from i on, so that nothing behind n is touched: eight,
+// four, then one, the last of which overlaps the one before it; fewer numbers than a vector has one by one.
 template <class Step>
 HWY_INLINE void ForEachGroup(ptrdiff_t n, const Step& step) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(Reals());
@@ -42,6 +42,7 @@ HWY_INLINE void ForEachGroup(ptrdiff_t n, const Step& step) {
     for (; i < n; ++i) step(hn::CappedTag<double, 1>(), kOne, i);
     return;
   }
+  for (; i + 8 * kLanes <= n; i += 8 * kLanes) step(Reals(), std::integral_constant<int, 8>(), i);
   for (; i + 4 * kLanes <= n; i += 4 * kLanes) step(Reals(), std::integral_constant<int, 4>(), i);
   for (; i < n; i += kLanes) step(Reals(), kOne, std::min(i, n - kLanes));
 }
