@@ -63,6 +63,7 @@ int main(int argc, char** argv) try {
   demo::FrameSteps(demo);
   demo::WarpSteps(demo);
   demo::StatsSteps(demo);
+  demo::QualitySteps(demo);
   demo::HogSteps(demo);
   demo::SynthesisSteps(demo);
   demo::FourierSteps(demo);

@@ -56,6 +56,7 @@ void ResizeSteps(Demo& demo);
 void FrameSteps(Demo& demo);
 void WarpSteps(Demo& demo);
 void StatsSteps(Demo& demo);
+void QualitySteps(Demo& demo);
 void HogSteps(Demo& demo);
 void SynthesisSteps(Demo& demo);
 void FourierSteps(Demo& demo);

@@ -9,12 +9,13 @@ are independent, `threads=`; classes keep what takes preparation. A call that is
 TypeError, and writes nothing.
 """
 from . import (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames,
-               kernels, layout, matching, raw, remapping, resizing, statistics, synthesis, values, warps, wavelet)
+               kernels, layout, matching, quality, raw, remapping, resizing, statistics, synthesis, values, warps,
+               wavelet)
 from ._errors import Error, Warning
 from ._threads import get_threads, set_threads
 
 _MODULES = (arithmetic, compositing, convolution, deconvolution, denoise, features, filters, fourier, frames, kernels,
-            layout, matching, remapping, resizing, statistics, synthesis, values, warps, wavelet)
+            layout, matching, quality, remapping, resizing, statistics, synthesis, values, warps, wavelet)
 __all__ = ["Error", "Warning", "get_threads", "info", "raw", "set_threads"]
 for _module in _MODULES:
     __all__ += _module.__all__

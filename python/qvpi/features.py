@@ -1,20 +1,51 @@
-"""Descriptors of image windows: histograms of oriented gradients (Dalal and Triggs, 2005)."""
+"""Features: local binary patterns, histograms of oriented gradients (Dalal and Triggs, 2005)."""
 import numpy
 
 from . import raw
 from ._call import key
-from ._neighbourhood import BORDERS, pair_of
+from ._neighbourhood import BORDERS, QUERY, Filter, apply, operation_of, pair_of
 from ._operation import Operation, channels, forgiving, image
-from ._plan import make_call
+from ._plan import NUMBERS, make_call
 from ._records import Buffers, cached, memory, size_of
 from .arithmetic import choice
+from .raw import lib
 
-__all__ = ["Hog", "hog"]
+__all__ = ["Hog", "LocalPatterns", "hog", "local_patterns"]
+
+_MODES = {"code": lib.qvpLBPCode, "rotation": lib.qvpLBPRotation, "uniform": lib.qvpLBPUniform,
+          "uniform_rotation": lib.qvpLBPUniformRotation}
 
 _HOG = Operation("HOG", "src location nLocations dst hOGSpec borderID borderValue buffer")
 _SIZE, _INIT = make_call("qvpiHOGGetSize", "config specSize"), make_call("qvpiHOGInit", "config hOGSpec")
 _BUFFER = make_call("qvpiHOGGetBufferSize", "hOGSpec roiSize bufferSize")
 _DESCRIPTOR = make_call("qvpiHOGGetDescriptorSize", "hOGSpec descriptorSize")
+
+
+class LocalPatterns(Filter):
+    """Which neighbours of each pixel are no darker than it (Ojala, Pietikainen, Maenpaa, 2002).
+
+    neighbours: 8, at the distance `radius` of 1 or 2 pixels, with results of uint8; or all 16 at the distance 2, with
+    results of uint16. mode: 'code', a bit for each neighbour, from the right on counter-clockwise; 'rotation', the
+    least of its rotations; 'uniform', a label for codes with at most two changes around the circle; 'uniform_rotation',
+    the ones of such codes. Images: uint8, uint16, int16, float32 of 1 or 3 channels.
+    """
+
+    operation = operation_of("LBP", "maskSize mode")
+    query = make_call("qvpiFilterLBPBorderGetBufferSize", QUERY)
+
+    def __init__(self, shape, dtype, neighbours=8, radius=None, mode="code"):
+        results = choice({8: "8u", 16: "16u"}, neighbours, "neighbours")
+        radius = neighbours // 8 if radius is None else radius
+        side = 2 * radius + 1
+        super().__init__(shape, dtype, (side, side))
+        self.values = (side, side), choice(_MODES, mode, "mode")
+        self.prepare(size_of(self.query, (side, side), self.roi, self.kind, self.channels))
+        self._found = self.operation.find(self._key, NUMBERS[results])
+
+
+def local_patterns(a, neighbours=8, radius=None, mode="code", out=None, **options):
+    """Local binary patterns; see LocalPatterns."""
+    return apply(LocalPatterns, a, (neighbours, radius, mode), out, options)
 
 
 class Hog:

@@ -453,6 +453,40 @@ def test_formulas(dtype):
     numpy.testing.assert_array_equal(tile, numpy.repeat(qvpi.jaehne((50, 70), 3, dtype)[3:10, 9:14, None], 3, 2))
 
 
+def test_local_patterns():
+    a = random((40, 50), "u1", 4)
+    places = [(0, 1), (-1, 1), (-1, 0), (-1, -1), (0, -1), (1, -1), (1, 0), (1, 1)]  # (row, column)
+    padded = numpy.pad(a, 1, "edge")
+    code = sum((padded[1 + y:41 + y, 1 + x:51 + x] >= a).astype("u1") << k for k, (y, x) in enumerate(places))
+    numpy.testing.assert_array_equal(qvpi.local_patterns(a), code)
+    wide = qvpi.LocalPatterns(a.shape, a.dtype, 16, mode="uniform")
+    whole = wide(a)
+    assert whole.dtype == "u2" and whole.max() == 242
+    numpy.testing.assert_array_equal(wide(a, threads=3), whole)
+    numpy.testing.assert_array_equal(wide(a, tile=(7, 9, 20, 30)), whole[7:27, 9:39])
+    with pytest.raises(qvpi.Error, match="LBP"):
+        qvpi.local_patterns(a, 16, radius=1)
+
+
+@pytest.mark.parametrize("dtype", ["u1", "u2", "f4"])
+def test_quality(dtype):
+    a, b = random((40, 50, 3), dtype, 1), random((40, 50, 3), dtype, 2)
+    top = numpy.iinfo(a.dtype).max if a.dtype.kind == "u" else 1
+    weights = numpy.exp(-(numpy.arange(11) - 5) ** 2 / 4.5)
+    kernel = numpy.outer(weights, weights) / weights.sum() ** 2
+    expected, indices = [], []
+    for x, y in ((a[..., c].astype(float), b[..., c].astype(float)) for c in range(3)):
+        mx, my, squares, product = (scipy.ndimage.correlate(z, kernel)[5:-5, 5:-5] for z in (x, y, x * x + y * y, x * y))
+        means, c1, c2 = mx * mx + my * my, (0.01 * top) ** 2, (0.03 * top) ** 2
+        expected.append(((2 * mx * my + c1) / (means + c1) * (2 * (product - mx * my) + c2)
+                         / (squares - means + c2)).mean())
+        covariance = numpy.cov(x.ravel(), y.ravel())
+        indices.append(4 * covariance[0, 1] * x.mean() * y.mean() / covariance.trace() / (x.mean() ** 2 + y.mean() ** 2))
+    numpy.testing.assert_allclose(qvpi.ssim(a, b), expected, atol=1e-9 if dtype != "f4" else 1e-6)
+    numpy.testing.assert_allclose(qvpi.quality_index(a, b), indices, atol=1e-11)
+    assert qvpi.ssim(a[..., 0], a[..., 0].copy()) == 1 and qvpi.quality_index(a[:, :, 0] * 0, a[:, :, 0] * 0) == 1
+
+
 def test_threads_share_a_record():
     """Each call has a buffer of its own."""
     a = [random((200, 150), "u1", seed) for seed in range(8)]
