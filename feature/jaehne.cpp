@@ -50,7 +50,7 @@ struct Waves {
       const DoubleVector square = hn::Mul(z, z), whole = hn::Floor(hn::Div(square, n));
       const DoubleVector rest = hn::Sub(square, hn::Mul(whole, n));
       const DoubleVector k = hn::Add(rest, hn::IfThenElseZero(hn::Lt(rest, hn::Zero(d)), n));
-      const SinCosLanes<DoubleVector> wave = SinCosOfTurn(k, n);
+      const SinCosLanes<DoubleVector> wave = SinCosOfTurns(k, n);
       hn::StoreU(wave.sin, d, sin + i);
       hn::StoreU(wave.cos, d, cos + i);
     }

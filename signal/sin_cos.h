@@ -104,7 +104,7 @@ HWY_INLINE V CosOfTurn(V k, V n) {
   return place.Cos(SinOfSmall(place.x), CosOfSmall(place.x));
 }
 template <class V>
-HWY_INLINE SinCosLanes<V> SinCosOfTurn(V k, V n) {
+HWY_INLINE SinCosLanes<V> SinCosOfTurns(V k, V n) {
   const PlaceOnTurn<V> place(k, n);
   const V sin = SinOfSmall(place.x), cos = CosOfSmall(place.x);
   return {place.Sin(sin, cos), place.Cos(sin, cos)};
