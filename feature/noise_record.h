@@ -13,9 +13,10 @@ struct Record {
   uint32_t identification;
   Kind kind;
   uint32_t seed, stream;
-  float offset,
-      scale;          // uniform: the lower bound, the width; Gauss: mean, sigma; speckle: -, sigma; shot: gain, sigma^2
-  uint32_t hit, top;  // words below hit are salt or pepper, of these those below top salt
+  // Uniform: the lower bound and the width; Gauss: mean and sigma; speckle: 0 and sigma; shot: gain and sigma^2.
+  float offset, scale;
+  // Words below `hit` are salt or pepper, those of them below `top` salt.
+  uint32_t hit, top;
   double pepper, salt;
 };
 static_assert(sizeof(Record) <= kRecordBoundary);
