@@ -22,12 +22,13 @@ class Philox {
   // Words of a vector of pairs.
   static constexpr int kWords = 2 * static_cast<int>(hn::MaxLanes(WordTag()));
 
-  // The key of each round: in memory, as there are more of them than registers.
+  // The keys of each round, the first with the second above it: in memory, as there are more of them than registers.
   Philox(uint32_t seed, uint32_t stream, uint32_t frame) : frame_(frame) {
     const Tag d;
     for (uint32_t round = 0; round < kRounds; ++round) {
-      hn::Store(hn::Set(d, uint64_t{seed + round * 0x9E3779B9}), d, keys_[round][0]);
-      hn::Store(hn::Set(d, uint64_t{stream + round * 0xBB67AE85}), d, keys_[round][1]);
+      const uint64_t key0 = seed + round * 0x9E3779B9, key1 = stream + round * 0xBB67AE85;
+      hn::Store(hn::Set(d, key0 | key1 << 32), d, keys_[round][0]);
+      hn::Store(hn::Set(d, key1), d, keys_[round][1]);
     }
   }
 
@@ -37,11 +38,11 @@ class Philox {
   HWY_INLINE std::array<WordPairs, kCount> Blocks(uint32_t row, uint32_t first) const {
     State states[kCount];
     for (int i = 0; i < kCount; ++i) states[i] = Start(row, first + i * kWords / 4);
-    for (const auto& keys : keys_) {
-      for (State& state : states) Round(state, hn::Load(Tag(), keys[0]), hn::Load(Tag(), keys[1]));
+    for (uint32_t round = 0; round + 1 < kRounds; ++round) {
+      for (State& state : states) Round(state, hn::Load(Tag(), keys_[round][0]), hn::Load(Tag(), keys_[round][1]));
     }
     std::array<WordPairs, kCount> pairs;
-    for (int i = 0; i < kCount; ++i) pairs[i] = Pairs(states[i]);
+    for (int i = 0; i < kCount; ++i) pairs[i] = LastRound(states[i], hn::Load(Tag(), keys_[kRounds - 1][0]));
     return pairs;
   }
 
@@ -49,7 +50,7 @@ class Philox {
   // Each block is in a 64-bit lane of all four, as its lower half; the upper one is anything: products take the lower.
   using Tag = hn::ScalableTag<uint64_t>;
   using Vector = hn::Vec<Tag>;
-  static constexpr uint32_t kRounds = 10;
+  static constexpr uint32_t kRounds = 10, kFirstFactor = 0xD2511F53, kSecondFactor = 0xCD9E8D57;
   struct State {
     Vector word[4];
   };
@@ -69,21 +70,25 @@ class Philox {
     return {{hn::Add(hn::Set(d, uint64_t{block}), Order()), hn::Set(d, uint64_t{row}), hn::Set(d, uint64_t{frame_}),
              hn::Zero(d)}};
   }
-  static HWY_INLINE void Round(State& state, Vector key0, Vector key1) {
+  static HWY_INLINE Vector Product(Vector v, uint32_t factor) {
     const WordTag words;
-    const auto product = [&](Vector v, uint32_t factor)
-                             QVP_INLINED { return hn::MulEven(hn::BitCast(words, v), hn::Set(words, factor)); };
-    const Vector first = product(state.word[0], 0xD2511F53), second = product(state.word[2], 0xCD9E8D57);
-    const Vector mixed0 = hn::Xor(state.word[1], key0);
-    const Vector mixed2 = hn::Xor(state.word[3], key1);
+    return hn::MulEven(hn::BitCast(words, v), hn::Set(words, factor));
+  }
+  static HWY_INLINE void Round(State& state, Vector key0, Vector key1) {
+    const Vector first = Product(state.word[0], kFirstFactor), second = Product(state.word[2], kSecondFactor);
+    const Vector mixed0 = hn::Xor(state.word[1], key0), mixed2 = hn::Xor(state.word[3], key1);
     state = {{hn::Xor(hn::ShiftRight<32>(second), mixed0), second, hn::Xor(hn::ShiftRight<32>(first), mixed2), first}};
   }
-  static HWY_INLINE WordPairs Pairs(const State& state) {
+  // The lower half of a lane of one, the upper half of another.
+  static HWY_INLINE Words Halves(Vector lower, Vector upper) {
     const WordTag d;
-    const auto both = [&](Vector lower, Vector upper) QVP_INLINED {
-      return hn::OddEven(hn::BitCast(d, hn::ShiftLeft<32>(upper)), hn::BitCast(d, lower));
-    };
-    return {both(state.word[0], state.word[2]), both(state.word[1], state.word[3])};
+    return hn::OddEven(hn::BitCast(d, upper), hn::BitCast(d, lower));
+  }
+  // With both halves in use.
+  static HWY_INLINE WordPairs LastRound(const State& state, Vector keys) {
+    const Vector first = Product(state.word[0], kFirstFactor), second = Product(state.word[2], kSecondFactor);
+    const Words mixed = hn::Xor(Halves(state.word[1], hn::ShiftLeft<32>(state.word[3])), hn::BitCast(WordTag(), keys));
+    return {hn::Xor(Halves(hn::ShiftRight<32>(second), first), mixed), Halves(second, hn::ShiftLeft<32>(first))};
   }
 
   HWY_ALIGN uint64_t keys_[kRounds][2][hn::MaxLanes(Tag())];
