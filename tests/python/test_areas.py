@@ -476,12 +476,14 @@ def test_quality(dtype):
     kernel = numpy.outer(weights, weights) / weights.sum() ** 2
     expected, indices = [], []
     for x, y in ((a[..., c].astype(float), b[..., c].astype(float)) for c in range(3)):
-        mx, my, squares, product = (scipy.ndimage.correlate(z, kernel)[5:-5, 5:-5] for z in (x, y, x * x + y * y, x * y))
+        quantities = x, y, x * x + y * y, x * y
+        mx, my, squares, product = (scipy.ndimage.correlate(z, kernel)[5:-5, 5:-5] for z in quantities)
         means, c1, c2 = mx * mx + my * my, (0.01 * top) ** 2, (0.03 * top) ** 2
         expected.append(((2 * mx * my + c1) / (means + c1) * (2 * (product - mx * my) + c2)
                          / (squares - means + c2)).mean())
         covariance = numpy.cov(x.ravel(), y.ravel())
-        indices.append(4 * covariance[0, 1] * x.mean() * y.mean() / covariance.trace() / (x.mean() ** 2 + y.mean() ** 2))
+        brightness = 2 * x.mean() * y.mean() / (x.mean() ** 2 + y.mean() ** 2)
+        indices.append(2 * covariance[0, 1] / covariance.trace() * brightness)
     numpy.testing.assert_allclose(qvpi.ssim(a, b), expected, atol=1e-9 if dtype != "f4" else 1e-6)
     numpy.testing.assert_allclose(qvpi.quality_index(a, b), indices, atol=1e-11)
     grey, black = a[..., 0].copy(), numpy.zeros((40, 50), dtype)
