@@ -21,7 +21,7 @@ BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "p
             "columns_first")
 IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries", "bands")
 INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
-            "count", "depth", "period")
+            "count", "depth", "period", "neighbours")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
           "angle", "tolerance", "alpha_a", "c", "clip", "mean", "gain", "level", "share", "pepper", "salt")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction", "fit", "fraction")
@@ -40,11 +40,13 @@ TYPES = {
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
     "bank": "str | Sequence[Any]", **dict.fromkeys(("start", "across", "down"), "Constant"),
+    "peak": "float | None", "factors": "Sequence[float]", "radius": "int | None",
 }
 RESULTS = {
-    **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm"), "Any"), "min_max": "tuple[Any, Any]",
-    "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]", "otsu": "int", "count_in_range": "Any",
-    "moments": "Moments", **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
+    **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm", "quality_index", "ssim"), "Any"),
+    "min_max": "tuple[Any, Any]", "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]",
+    "otsu": "int", "count_in_range": "Any", "moments": "Moments",
+    **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
     **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]",
     "__init__": "None", **dict.fromkeys(("decimate_frame", "resize_frame"), "tuple[Image, ...]"),
 }

@@ -36,18 +36,19 @@ def quality_index(a, b, *, copy=False):
     return _result(values, a)
 
 
-def ssim(a, b, *, window=11, sigma=1.5, range=None, k=(0.01, 0.03), copy=False):
+def ssim(a, b, *, size=11, sigma=1.5, peak=None, factors=(0.01, 0.03), copy=False):
     """Structural similarity (Wang, Bovik, Sheikh, Simoncelli, 2004): the mean over all windows within the image.
 
-    window: the side of a window, 2 to 31 pixels. sigma: of its weights, in pixels; 0 for equal ones. range: that of the
-    pixels, at first 255 of uint8, 65535 of uint16 and 1 of float32; the constants of the index are (k * range)**2.
+    size: the side of a window, 2 to 31 pixels. sigma: of its weights, in pixels; 0 for equal ones. peak: the greatest
+    value of the pixels, at first 255 of uint8, 65535 of uint16 and 1 of float32; the constants of the index are
+    (factor * peak)**2.
     """
     b = image(b, copy)
     a, call = _found(_SIMILARITY, a, copy)
-    if range is None:
-        range = numpy.iinfo(a.dtype).max if a.dtype.kind == "u" else 1
+    if peak is None:
+        peak = numpy.iinfo(a.dtype).max if a.dtype.kind == "u" else 1
     n = channels(a)
-    values, buffer = numpy.zeros(n), memory(size_of(_BUFFER, (a.shape[1], a.shape[0]), window, n))
-    c1, c2 = ((float(part) * range) ** 2 for part in k)
-    forgiving(call, (a, b), (), (values, window, float(sigma), c1, c2, buffer))
+    values, buffer = numpy.zeros(n), memory(size_of(_BUFFER, (a.shape[1], a.shape[0]), size, n))
+    c1, c2 = ((float(factor) * peak) ** 2 for factor in factors)
+    forgiving(call, (a, b), (), (values, size, float(sigma), c1, c2, buffer))
     return _result(values, a)
