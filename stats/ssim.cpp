@@ -169,7 +169,8 @@ class Block {
     ForEachPlane([&](int q, int k) { return quantities_[q] + k * channels_; }, across);
     if (y < choice_.window - 1) return;
     const double* rows[kMostWindow];
-    for (int k = 0; k < choice_.window; ++k) rows[k] = ring_.Row(y - choice_.window + 1 + k);
+    rows[0] = ring_.Row(y - choice_.window + 1);
+    for (int k = 1; k < choice_.window; ++k) rows[k] = ring_.Next(rows[k - 1]);
     ForEachPlane([&](int q, int k) { return rows[k] + q * n_; }, averages_);
     AddIndices(averages_, n_, choice_, sums_);
   }
