@@ -54,7 +54,7 @@ void AddPatterns(const std::string& name, QvpiSize size, int side, QvpiLBPMode m
 }
 
 void Bytes(QvpiSize size, bool isAsked) {
-  AddPatterns<uint8_t, uint8_t>("LBP code 3x3 8u C1", size, 3, qvpLBPCode, qvpiFilterLBPBorder_8u_C1R, isAsked ? 9 : 1);
+  AddPatterns<uint8_t, uint8_t>("LBP code 3x3 8u C1", size, 3, qvpLBPCode, qvpiFilterLBPBorder_8u_C1R, isAsked ? 8 : 1);
   AddPatterns<uint8_t, uint8_t>("LBP uniform 3x3 8u C1", size, 3, qvpLBPUniform, qvpiFilterLBPBorder_8u_C1R,
                                 isAsked ? 3.5 : 1);
 }
