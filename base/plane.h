@@ -31,14 +31,16 @@ ptrdiff_t CopyVectors(const T* from, ptrdiff_t n, T* to) {
   return i;
 }
 
-// Copies n samples of a plane's row, which need not be neighbours.
+// Copies n samples of a plane's row, which need not be neighbours: one by one, for few of them, or by vectors.
+template <class T>
+void CopyFewSamples(const T* from, ptrdiff_t channels, ptrdiff_t n, T* to) {
+  for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, from + i * channels, sizeof(T));
+}
 template <class T>
 void CopySamples(const T* from, ptrdiff_t channels, ptrdiff_t n, T* to) {
-  ptrdiff_t i = 0;
   if (channels == 1) return static_cast<void>(std::memcpy(to, from, n * sizeof(T)));
-  if (channels == 3) i = CopyVectors<3>(from, n, to);
-  if (channels == 4) i = CopyVectors<4>(from, n, to);
-  for (; i < n; ++i) std::memcpy(to + i, from + i * channels, sizeof(T));
+  const ptrdiff_t done = channels == 3 ? CopyVectors<3>(from, n, to) : channels == 4 ? CopyVectors<4>(from, n, to) : 0;
+  CopyFewSamples(from + done * channels, channels, n - done, to + done);
 }
 template <class T>
 void PutSamples(const T* from, ptrdiff_t n, ptrdiff_t channels, T* to) {

@@ -39,7 +39,7 @@ void LoadRows(const Plane<T>& plane, ptrdiff_t x, ptrdiff_t y, ptrdiff_t rows, c
   const bool isDirect = plane.channels() == 1 && end - begin == kLines;
   for (ptrdiff_t row = first; row < last; ++row) {
     const T* const from = plane.At(x + begin, y + row);
-    if (!isDirect) CopySamples(from, plane.channels(), end - begin, staged + begin);
+    if (!isDirect) CopyFewSamples(from, plane.channels(), end - begin, staged + begin);
     Row::Load(isDirect ? from : staged, convert, to + row * Row::kRowStep);
   }
 }

@@ -44,8 +44,8 @@ double AnyReal(Choices& choices) {
 // Selectors that say nothing about memory.
 bool IsFreeSelector(std::string_view type) {
   return IsAny(type, {"QvpCmpOp", "QvpDataType", "QvpHintAlgorithm", "QvpNormType", "QvpRoundMode", "QvpiAxis",
-                      "QvpiBorderType", "QvpiInterpolationType", "QvpiLBPMode", "QvpiLookupMethod", "QvpiWarpDirection",
-                      "QvpiWaveletKind", "QvpiWindow"});
+                      "QvpiBorderType", "QvpiInterpolationType", "QvpiLBPMode", "QvpiLookupMethod", "QvpiMatchNorm",
+                      "QvpiWarpDirection", "QvpiWaveletKind", "QvpiWindow"});
 }
 
 // The values of selectors lie between 0 and 20; that of a border keeps the sides that are in memory. Any other
