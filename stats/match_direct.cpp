@@ -21,10 +21,12 @@ void SumTile(const ChannelSet<T>& channels, Products products, const Tile<T>& ti
 
 }  // namespace
 
-ByteCount DirectBytes() {
-  constexpr int64_t kSamples = kDirectColumns + kMostWidth;
-  const ByteCount line = LineBytesFor(kSamples, sizeof(double)), lines = line * (kMostLines + 2) + kRecordBoundary * 8;
-  return ByteCount(PairBytes(kMostWidth * (kMostLines + 1))) * kMostJoint + lines * kMostJoint;
+int64_t DirectBytes(Size tpl, int64_t columns, int channels) {
+  const ptrdiff_t width = std::min(tpl.width, kMostWidth), lines = std::min(tpl.height, kMostLines) + 1;
+  const int64_t samples = std::min<int64_t>(columns, kDirectColumns) + width;
+  const int64_t line = LineBytesFor(samples, sizeof(double)).value(), pointers = PairBytes(lines);
+  const int64_t tables = PairBytes(width * lines) * std::max(channels, 2);  // words have two
+  return tables + ((lines + 1) * line + pointers) * channels;
 }
 
 template <class T>

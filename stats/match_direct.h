@@ -8,7 +8,8 @@ namespace qvp::matching {
 // Results of a tile, at most: rows of sums are not powers of two apart.
 inline constexpr ptrdiff_t kDirectColumns = 240, kDirectRows = 64;
 
-ByteCount DirectBytes();
+// Bytes of work memory for results of so many columns, and channels of one result.
+int64_t DirectBytes(Size tpl, int64_t columns, int channels);
 
 // Writes the sums of a tile of any size, with work memory from a boundary on. Integers have sums of products alone.
 // Floats: products are added to +0 one by one, row by row, channels of a pixel in their order.

@@ -39,7 +39,7 @@ struct Plan {
   ByteCount Bytes(Size tpl, int channels) const {
     ByteCount bytes = WindowBytes(tpl, channels).RoundedTo(kRecordBoundary) + TileBytes() + ScoreBytes();
     if (isByFourier) bytes = bytes + spectral.Bytes(tpl, channels, sizeof(T)).RoundedTo(kRecordBoundary);
-    return bytes + (isByFourier && !kIsFloat<T> ? 0 : DirectBytes());
+    return bytes + (isByFourier && !kIsFloat<T> ? 0 : DirectBytes(tpl, tile.width, channels));
   }
 };
 
