@@ -23,7 +23,8 @@ IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries", "ban
 INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
             "count", "depth", "period", "neighbours")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
-          "angle", "tolerance", "alpha_a", "c", "clip", "mean", "gain", "level", "share", "pepper", "salt")
+          "angle", "tolerance", "alpha_a", "c", "clip", "smoothness", "threshold", "mean", "gain", "level", "share",
+          "pepper", "salt")
 WORDS = ("method", "mode", "relation", "norm", "kind", "kernel_name", "op", "direction", "fit", "fraction")
 TYPES = {
     **dict.fromkeys(BOOLEANS, "bool"), **dict.fromkeys(IMAGES, "Image"), **dict.fromkeys(INTEGERS, "int"),
@@ -40,7 +41,7 @@ TYPES = {
     "window": "Sequence[int]", "places": "ArrayLike", "bins": "int | Sequence[float]", "axis": "int | None",
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
     "bank": "str | Sequence[Any]", **dict.fromkeys(("start", "across", "down"), "Constant"),
-    "peak": "float | None", "factors": "Sequence[float]", "radius": "int | None",
+    "psf": "ArrayLike", "peak": "float | None", "factors": "Sequence[float]", "radius": "int | None",
 }
 RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm", "quality_index", "ssim"), "Any"),
