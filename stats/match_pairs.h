@@ -13,7 +13,7 @@ class PairSums {
   using Form = PairedRows<T, int16_t>;
   using N = Sum<T>;
 
-  // The pairs are of coefficients, or of a part of them, 2^shift times as much as they are.
+  // The pairs are of coefficients, or of their high or low parts.
   PairSums(const int32_t* pairs, Size piece, bool isHigh)
       : pairs_(pairs), lines_(piece.height / 2 + 1), width_(piece.width), isHigh_(isHigh) {}
 

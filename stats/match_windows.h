@@ -42,15 +42,7 @@ class WindowSums {
   // Windows that begin at columns of the image, from a row on; Advance() goes on to the first row, then to the next.
   void Start(uint8_t* memory, Extent columns, ptrdiff_t row) {
     columns_ = columns, next_ = row;
-    const ptrdiff_t line = LineSamples();
-    const auto take = [&](auto*& pointer, ptrdiff_t count) {
-      pointer = reinterpret_cast<std::remove_reference_t<decltype(pointer)>>(memory);
-      memory += LineBytes(count, sizeof(*pointer)).value();
-    };
-    take(staged_, line), take(squares_, line), take(samples_, line), take(across_, line);
-    take(first_, Columns());
-    for (N*& sums : sums_) take(sums, Columns());
-    rings_ = reinterpret_cast<N*>(memory);
+    Divide(memory);
     levelCount_ = 0, hasOddLevels_ = false;
     ptrdiff_t at = 0;
     ForEachDoubling(window_.height, [&](ptrdiff_t k, bool isOdd) {
@@ -62,6 +54,7 @@ class WindowSums {
   }
 
   void Advance() {
+    if (!hasSquares_ && !hasSamples_) return;
     for (int c = 0; c < channels_.count; ++c) {
       Stage(channels_.image[c]);
       if (hasSquares_) LoadSquares(c);
@@ -93,6 +86,19 @@ class WindowSums {
   static ByteCount LineBytes(ByteCount count, int64_t bytes) { return (count * bytes).RoundedTo(kRecordBoundary); }
   ptrdiff_t Columns() const { return columns_.end - columns_.begin; }
   ptrdiff_t LineSamples() const { return Columns() + window_.width - 1; }
+
+  // What of the work memory is for what.
+  void Divide(uint8_t* memory) {
+    const ptrdiff_t line = LineSamples();
+    const auto take = [&](auto*& pointer, ptrdiff_t count) {
+      pointer = reinterpret_cast<std::remove_reference_t<decltype(pointer)>>(memory);
+      memory += LineBytes(count, sizeof(*pointer)).value();
+    };
+    take(staged_, line), take(squares_, line), take(samples_, line), take(across_, line);
+    take(first_, Columns());
+    for (N*& sums : sums_) take(sums, Columns());
+    rings_ = reinterpret_cast<N*>(memory);
+  }
 
   // The row's samples, and zeros around the image. Those that are neighbours stay where they are.
   void Stage(const Plane<T>& plane) {
