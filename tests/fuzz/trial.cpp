@@ -10,6 +10,7 @@ namespace {
 using test::Argument;
 using test::Export;
 using test::Exports;
+using test::Number;
 using test::Parameter;
 using test::Scene;
 
