@@ -27,7 +27,7 @@ struct Plane {
     const int channels = Channels(layout);
     for (int c = 0; c < channels; ++c) {
       const double slope = c < ProcessedChannels(layout) ? LoadScalar(slopeX + c) : 0;
-      for (ptrdiff_t i = 0; i < n; ++i) to[i * channels + c] = slope * static_cast<double>(offset.x + x + i);
+      for (ptrdiff_t i = 0; i < n; ++i) to[i * channels + c] = slope * static_cast<double>(int64_t{offset.x} + x + i);
     }
     std::fill_n(to + n * channels, kRoom, 0.0);
   }

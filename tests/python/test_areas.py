@@ -245,7 +245,7 @@ def test_deconvolution(channels):
     spread = numpy.zeros((24, 30))
     spread[:5, :4] = psf
     transfer = numpy.fft.fft2(numpy.roll(spread, (-2, -1), (0, 1))).reshape((24, 30) + (1,) * (a.ndim - 2))
-    blurred = numpy.fft.ifft2(transfer * numpy.fft.fft2(a, axes=(0, 1)), axes=(0, 1)).real.astype("f4")
+    blurred = numpy.fft.ifft2(transfer * numpy.fft.fft2(a, axes=(0, 1)), axes=(0, 1)).real.astype("f4", "C")
     exact = numpy.conj(transfer) * numpy.fft.fft2(blurred, axes=(0, 1)) / (abs(transfer) ** 2 + 0.01)
     restored = qvpi.deconvolve(blurred, psf, noise=0.01, border="wrap")
     numpy.testing.assert_allclose(restored, numpy.fft.ifft2(exact, axes=(0, 1)).real, atol=2e-5)
