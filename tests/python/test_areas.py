@@ -240,7 +240,7 @@ def test_convolutions(dtype, method, channels):
 
 @pytest.mark.parametrize("channels", [1, 3])
 def test_deconvolution(channels):
-    a, psf = random((24, 30, channels), "f4", 1) % 1, random((5, 4), "u1", 2).astype("f4")
+    a, psf = random((24, 30, channels), "u1", 1).astype("f4") / 255, random((5, 4), "u1", 2).astype("f4")
     a, psf = a.squeeze(), psf / psf.sum()
     spread = numpy.zeros((24, 30))
     spread[:5, :4] = psf
