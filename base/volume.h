@@ -36,13 +36,13 @@ struct Volume {
   }
   bool HasPlanes(Extent z) const {
     for (ptrdiff_t i = z.begin; isArray && i < z.end; ++i) {
-      if (LoadScalar(Pointers() + i) == 0) return false;
+      if (LoadScalar(Pointers() + i) == nullptr) return false;
     }
     return true;
   }
 
  private:
-  const uintptr_t* Pointers() const { return reinterpret_cast<const uintptr_t*>(front.data); }
+  T* const* Pointers() const { return reinterpret_cast<T* const*>(front.data); }
 };
 
 // The two forms of an argument, for elements of E that stand for those of T.
@@ -54,8 +54,8 @@ auto ViewVolume(T* data, int step, int planeStep) {
 template <class E, class T>
 auto ViewVolume(T* const* planes, int step) {
   using Element = std::conditional_t<std::is_const_v<T>, const E, E>;
-  auto* const array = reinterpret_cast<Element*>(reinterpret_cast<uintptr_t>(planes));
-  return Volume<Element>{{array, step, Layout::kC1, sizeof(T)}, 1, true};
+  const void* const array = planes;
+  return Volume<Element>{{static_cast<Element*>(const_cast<void*>(array)), step, Layout::kC1, sizeof(T)}, 1, true};
 }
 
 }  // namespace qvp
