@@ -58,7 +58,44 @@ void AddMedian(const char* type, QvpDataType code, int side, int mask, Call call
        }});
 }
 
+// A turn by 10 degrees with a tilt of 7.
+template <class T, class Call>
+void AddWarp(const std::string& name, QvpDataType code, int side, int method, Call call) {
+  const QvprVolume size{side, side, side};
+  const Image<T> src({side, side * side}, 1), dst({side, side * side}, 1);
+  double turn[3][4], tilt[3][4], both[3][4];
+  const double middle = (side - 1) / 2.0, center[] = {middle, middle, middle}, z[] = {0, 0, 1}, x[] = {1, 0, 0};
+  Require(qvprGetRotateTransform(10, z, center, turn));
+  Require(qvprGetRotateTransform(7, x, center, tilt));
+  Require(qvprGetAffineProduct(turn, tilt, both));
+  const auto record = Pixels<Qvp8u>(576);
+  auto* const spec = reinterpret_cast<QvprWarpSpec*>(record.get());
+  Require(
+      method == qvpInterpolationCubic
+          ? qvprWarpAffineCubicInit(size, size, code, both, qvpWarpBackward, 0, 0.5, qvpBorderReplicate, nullptr, spec)
+          : (method == qvpInterpolationLinear ? qvprWarpAffineLinearInit : qvprWarpAffineNearestInit)(
+                size, size, code, both, qvpWarpBackward, qvpBorderReplicate, nullptr, spec));
+  int bytes = 0;
+  Require(qvprWarpGetBufferSize(spec, size, &bytes));
+  const auto buffer = Pixels<Qvp8u>(bytes);
+  cv::randu(src.mat, 0, 255);
+  Add({Name("volume, warp " + name + ", " + std::to_string(side) + " planes", {side, side}),
+       {src.bytes(), dst.bytes()},
+       [=] {
+         (void)record;
+         Require(call(src.data(), src.step, src.step * side, dst.data(), dst.step, dst.step * side, {0, 0, 0}, size,
+                      spec, buffer.get()));
+       }});
+}
+
 const bool kAdded = [] {
+  for (const int side : {16, 64, 128}) {
+    AddWarp<uint8_t>("nearest 8u", qvp8u, side, qvpInterpolationNearest, qvprWarpAffine_8u_C1V);
+    AddWarp<uint8_t>("linear 8u", qvp8u, side, qvpInterpolationLinear, qvprWarpAffine_8u_C1V);
+    AddWarp<uint16_t>("linear 16u", qvp16u, side, qvpInterpolationLinear, qvprWarpAffine_16u_C1V);
+    AddWarp<float>("linear 32f", qvp32f, side, qvpInterpolationLinear, qvprWarpAffine_32f_C1V);
+    AddWarp<float>("cubic 32f", qvp32f, side, qvpInterpolationCubic, qvprWarpAffine_32f_C1V);
+  }
   for (const int side : {16, 64, 128}) {
     AddMedian<uint8_t>("8u", qvp8u, side, 3, qvprFilterMedianBorder_8u_C1V);
     AddMedian<uint16_t>("16u", qvp16u, side, 3, qvprFilterMedianBorder_16u_C1V);

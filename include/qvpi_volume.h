@@ -1,5 +1,5 @@
 /** @file qvpi_volume.h
- *  Volumes: copies with a border, medians, and transforms in space.
+ *  Volumes: copies with a border, medians, affine warps, remap, and transforms in space.
  *
  *  The conventions of every function are told in qvpi_core.h. Beyond them, of volumes:
  *
@@ -123,6 +123,139 @@ QvpStatus qvprFilterMedianBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int sr
 QvpStatus qvprFilterMedianBorder_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp16s* borderValue, Qvp8u* pBuffer);
 QvpStatus qvprFilterMedianBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
 QvpStatus qvprFilterMedianBorder_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprVolume dstVolume, QvprVolume maskVolume, QvpiBorderType borderType, const Qvp32f* borderValue, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Volumes: affine warps, record and size of the buffer
+ *  @{ */
+/** Tells the size of the record of an affine warp, makes it, and tells the size of the work buffer.
+ *
+ *  The coefficients are those of qvprGetRotateTransform(). The record keeps the transform from the destination to the
+ *  source: with qvpWarpForward the given one is inverted as by qvprGetAffineInverse(). It is read only, by any number of
+ *  threads. The sizes have 63 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param srcVolume size of the source
+ *  @param dstVolume size of the whole destination; for the buffer that of a tile, or larger
+ *  @param dataType qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param coeffs the transform
+ *  @param interpolation qvpInterpolationNearest, qvpInterpolationLinear or qvpInterpolationCubic
+ *  @param direction qvpWarpForward or qvpWarpBackward
+ *  @param valueB,valueC parameters of cubic interpolation: 0, 0.5 goes through the voxels
+ *  @param borderType qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent or qvpBorderInMemVolume
+ *  @param pBorderValue the constant, rounded and saturated; other kinds do not look at it
+ *  @param pSpec record
+ *  @param pSpecSize size of the record in bytes
+ *  @param pBufSize size of the work buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null that is looked at
+ *  - qvpStatusSize: a length is below 1
+ *  - qvpStatusContextMatch: qvprWarpGetBufferSize: `pSpec` is no such record
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusCoefficient: a coefficient, or one of the inverse, is not finite, or the transform is degenerate
+ *  - qvpStatusInterpolation: qvprWarpAffineGetSize: `interpolation` is none of the above
+ *  - qvpStatusWarpDirection: `direction` is none of the above
+ *  - qvpStatusBadArgument: `valueB` or `valueC` is not finite
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusSizeOverflow: a length is above 33554431, or a size above 2147483647; the size is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprWarpAffineGetSize(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, const double coeffs[3][4], QvpiInterpolationType interpolation, QvpiWarpDirection direction, QvpiBorderType borderType, int* pSpecSize);
+QvpStatus qvprWarpAffineNearestInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, const double coeffs[3][4], QvpiWarpDirection direction, QvpiBorderType borderType, const Qvp64f* pBorderValue, QvprWarpSpec* pSpec);
+QvpStatus qvprWarpAffineLinearInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, const double coeffs[3][4], QvpiWarpDirection direction, QvpiBorderType borderType, const Qvp64f* pBorderValue, QvprWarpSpec* pSpec);
+QvpStatus qvprWarpAffineCubicInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, const double coeffs[3][4], QvpiWarpDirection direction, double valueB, double valueC, QvpiBorderType borderType, const Qvp64f* pBorderValue, QvprWarpSpec* pSpec);
+QvpStatus qvprWarpGetBufferSize(const QvprWarpSpec* pSpec, QvprVolume dstVolume, int* pBufSize);
+/** @} */
+
+/** @name Volumes: affine warps
+ *  @{ */
+/** Warps a volume by an affine transform: registration, oblique slices.
+ *
+ *  Voxel (x, y, z) of the whole destination comes from the point (u, v, w) of the source, in double precision,
+ *
+ *  @code
+ *    u = (c[0][0] * x + c[0][1] * y) + (c[0][2] * z + c[0][3])
+ *  @endcode
+ *
+ *  and v and w likewise. Its value is that of the nearest voxel, the upper of two; or the sum over planes, rows and
+ *  columns of 2 x 2 x 2 voxels with linear weights, or of 4 x 4 x 4 with cubic ones,
+ *
+ *  @code
+ *    sum of wz * (sum of wy * (sum of wx * p))
+ *  @endcode
+ *
+ *  in single precision, rounded for integers to the nearest, ties to even, and saturated: within 4e-7 (linear) or 1e-6
+ *  (cubic) of the largest voxel. 8u linear: in integers, less than 0.036 off before the rounding. A shift by whole
+ *  voxels copies them. Where depth is left alone the result is that of the same warp of each plane.
+ *
+ *  | border               | beyond the source                                                                        |
+ *  |----------------------|------------------------------------------------------------------------------------------|
+ *  | qvpBorderReplicate   | the nearest voxel                                                                        |
+ *  | qvpBorderConst       | the constant, which blends in over what a voxel takes part in                            |
+ *  | qvpBorderTransparent | voxels that come from beyond 0 .. width - 1, height - 1, depth - 1 keep their value      |
+ *  | qvpBorderInMemVolume | the source has 0 (nearest), 1 (linear) or 2 (cubic) voxels more on each face, which are in memory; voxels that come from beyond these keep their value |
+ *
+ *  The volumes must not overlap. A tile that reaches beyond the destination is cut.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep source, at its voxel (0, 0, 0); an array has plane z as entry z, of which only those
+ *    are looked at that the tile can read
+ *  @param pDst,dstStep,dstPlaneStep destination, at the first voxel of the tile
+ *  @param dstOffset where the tile begins in the whole destination
+ *  @param dstVolume size of the tile
+ *  @param pSpec record from an Init of this type of voxels
+ *  @param pBuffer work buffer of the size that qvprWarpGetBufferSize() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume, an array of planes, `pSpec` or `pBuffer` is null
+ *  - qvpStatusSize: a length of `dstVolume` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusContextMatch: `pSpec` is no such record, or of another type of voxels
+ *  - qvpStatusOutOfRange: `dstOffset` is not in the destination
+ *  - qvpStatusNullPointer: a plane is null that the tile can read or has
+ *  - qvpStatusSizeWarning: the tile was cut
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprWarpAffine_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_8u_C1PV(const Qvp8u* const pSrc[], int srcStep, Qvp8u* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_16u_C1PV(const Qvp16u* const pSrc[], int srcStep, Qvp16u* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprWarpAffine_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, const QvprWarpSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
+/** @name Volumes: remap
+ *  @{ */
+/** Takes each voxel from the point of the source that three maps tell: deformation fields.
+ *
+ *  The value at the point (x, y, z) is that of qvprWarpAffine with the same interpolation; voxels beyond the source are
+ *  the nearest ones of the whole source. Written is where the point lies in the cuboid, cut to the source:
+ *  srcCuboid.x <= x <= srcCuboid.x + srcCuboid.width - 1, and so on. Else, and where a coordinate is NaN, the destination
+ *  keeps its value. Between planes of 10 and 20, z = 0.5, linear: 15; z = depth - 1 takes the last plane, the next float
+ *  above nothing.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep,srcVolume source and its size
+ *  @param srcCuboid where points have a value
+ *  @param pxMap,pyMap,pzMap,mapStep,mapPlaneStep coordinates, of the destination's size, with the same steps
+ *  @param pDst,dstStep,dstPlaneStep,dstVolume destination and its size
+ *  @param interpolation qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubicClassic (B = 0, C = 0.75)
+ *    or qvpInterpolationCubic (B = 0, C = 0.5)
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume, a map or an array of planes is null
+ *  - qvpStatusSize: a length is below 1, or `srcCuboid` starts at a negative position
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusInterpolation: `interpolation` is none of the above
+ *  - qvpStatusNoIntersection: a warning: `srcCuboid` starts beyond the source; nothing is read or written
+ *  - qvpStatusNullPointer: a plane of the maps or of the destination is null, or one of the source that lies in the
+ *    cuboid, or 1 behind it (linear), or 1 before and 2 behind it (cubic)
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprRemap_8u_C1V(const Qvp8u* pSrc, QvprVolume srcVolume, int srcStep, int srcPlaneStep, QvprCuboid srcCuboid, const Qvp32f* pxMap, const Qvp32f* pyMap, const Qvp32f* pzMap, int mapStep, int mapPlaneStep, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_8u_C1PV(const Qvp8u* const pSrc[], QvprVolume srcVolume, int srcStep, QvprCuboid srcCuboid, const Qvp32f* const pxMap[], const Qvp32f* const pyMap[], const Qvp32f* const pzMap[], int mapStep, Qvp8u* const pDst[], int dstStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_16u_C1V(const Qvp16u* pSrc, QvprVolume srcVolume, int srcStep, int srcPlaneStep, QvprCuboid srcCuboid, const Qvp32f* pxMap, const Qvp32f* pyMap, const Qvp32f* pzMap, int mapStep, int mapPlaneStep, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_16u_C1PV(const Qvp16u* const pSrc[], QvprVolume srcVolume, int srcStep, QvprCuboid srcCuboid, const Qvp32f* const pxMap[], const Qvp32f* const pyMap[], const Qvp32f* const pzMap[], int mapStep, Qvp16u* const pDst[], int dstStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_16s_C1V(const Qvp16s* pSrc, QvprVolume srcVolume, int srcStep, int srcPlaneStep, QvprCuboid srcCuboid, const Qvp32f* pxMap, const Qvp32f* pyMap, const Qvp32f* pzMap, int mapStep, int mapPlaneStep, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_16s_C1PV(const Qvp16s* const pSrc[], QvprVolume srcVolume, int srcStep, QvprCuboid srcCuboid, const Qvp32f* const pxMap[], const Qvp32f* const pyMap[], const Qvp32f* const pzMap[], int mapStep, Qvp16s* const pDst[], int dstStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_32f_C1V(const Qvp32f* pSrc, QvprVolume srcVolume, int srcStep, int srcPlaneStep, QvprCuboid srcCuboid, const Qvp32f* pxMap, const Qvp32f* pyMap, const Qvp32f* pzMap, int mapStep, int mapPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int interpolation);
+QvpStatus qvprRemap_32f_C1PV(const Qvp32f* const pSrc[], QvprVolume srcVolume, int srcStep, QvprCuboid srcCuboid, const Qvp32f* const pxMap[], const Qvp32f* const pyMap[], const Qvp32f* const pzMap[], int mapStep, Qvp32f* const pDst[], int dstStep, QvprVolume dstVolume, int interpolation);
 /** @} */
 
 /** @name Volumes: transforms

@@ -393,6 +393,7 @@ typedef struct QvpiDCTSpec_32f QvpiDCTSpec_32f;           /**< cosine transform 
 typedef struct QvpiDFTSpec_C_32fc QvpiDFTSpec_C_32fc;     /**< Fourier transform of complex images, any size */
 typedef struct QvpiWaveletSpec_32f QvpiWaveletSpec_32f;   /**< wavelet transform */
 typedef struct QvpiDeconvolveSpec_32f QvpiDeconvolveSpec_32f; /**< deconvolution */
+typedef struct QvprWarpSpec QvprWarpSpec;                 /**< warps of volumes */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 typedef struct QvpiNoiseSpec QvpiNoiseSpec;               /**< noise */
 /** @} */

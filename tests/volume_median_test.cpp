@@ -12,6 +12,7 @@ using test::Block;
 using test::Element;
 using test::Export;
 using test::Name;
+using test::Planes;
 using test::Surrounded;
 using test::Voxels;
 
@@ -64,43 +65,6 @@ void CheckResult(const Export& function, const Request& r, const Surrounded& src
         << y << ',' << z;
   });
 }
-
-// The planes of a volume in memory of their own, in any order, and the array of their pointers.
-class Planes {
- public:
-  Planes(const Voxels& from, int first) : from_(from), first_(first) {
-    for (int z = 0; z < from.size.depth; ++z) {
-      blocks_.push_back(std::make_unique<Block>((from.size.height - 1) * step() + from.size.width * from.bytes));
-    }
-    test::Random random(from.size.depth);
-    for (size_t i = blocks_.size(); i > 1; --i) std::swap(blocks_[i - 1], blocks_[random.Next() % i]);
-    for (const auto& block : blocks_) pointers_.push_back(block->data());
-    Move([](uint8_t* plane, uint8_t* volume, size_t bytes) { std::memcpy(plane, volume, bytes); });
-  }
-  int step() const { return from_.size.width * from_.bytes + 5; }
-  const void* at(int x, int y) {
-    for (const auto& block : blocks_) moved_.push_back(block->data() + y * step() + x * from_.bytes);
-    return moved_.data() + first_;
-  }
-  void CopyBack() {
-    Move([](uint8_t* plane, uint8_t* volume, size_t bytes) { std::memcpy(volume, plane, bytes); });
-  }
-
- private:
-  template <class Copy>
-  void Move(const Copy& copy) {
-    for (int z = 0; z < from_.size.depth; ++z) {
-      for (int y = 0; y < from_.size.height; ++y) {
-        copy(pointers_[z] + y * step(), from_.At(0, y, z), from_.size.width * from_.bytes);
-      }
-    }
-  }
-
-  const Voxels& from_;
-  int first_;
-  std::vector<std::unique_ptr<Block>> blocks_;
-  std::vector<uint8_t*> pointers_, moved_;
-};
 
 void Check(const Export& function, const Request& r) {
   const Element& element = Name(function.name).From();

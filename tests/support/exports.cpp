@@ -106,6 +106,8 @@ constexpr struct {
     {"qvprCopy", VolumeLesson},
     {"qvprFilterMedian", VolumeFilterLesson},
     {"qvprGet", SpaceLesson},
+    {"qvprRemap", VolumeRemapLesson},
+    {"qvprWarp", VolumeWarpLesson},
 };
 
 bool CommonRulesOnly(Scene&, size_t, Argument&) { return false; }

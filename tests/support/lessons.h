@@ -48,6 +48,8 @@ bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument);
+bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument);
+bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WaveletLesson(Scene& scene, size_t place, Argument& argument);
 bool WeightedRowsLesson(Scene& scene, size_t place, Argument& argument);

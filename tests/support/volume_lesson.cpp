@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "tests/support/lessons.h"
+#include "tests/support/name.h"
 
 namespace test {
 namespace {
@@ -24,12 +25,12 @@ Manner MannerOf(const Scene& scene) {
 int StepOf(const QvprVolume& volume, size_t place) { return 8 * volume.width + 17 * static_cast<int>(place + 1); }
 int PlaneStepOf(const QvprVolume& volume, size_t place) { return StepOf(volume, place) * (volume.height + 1); }
 
-const void* Voxels(Scene& scene, size_t place, const QvprVolume& volume) {
+const void* Voxels(Scene& scene, size_t place, const QvprVolume& volume, Scene::Value value = EdgeValue) {
   const Parameter& parameter = scene.function().parameters[place];
   const int step = StepOf(volume, place), rows = (volume.height + 1) * volume.depth;
   const size_t bytes = size_t{1} * step * rows;
   uint8_t* const voxels = parameter.name == "pDst" ? scene.Output(bytes) : scene.Input(bytes);
-  scene.FillRows(*PointedAt(parameter.type), voxels, step, rows);
+  scene.FillRows(*PointedAt(parameter.type), voxels, step, rows, value);
   return voxels;
 }
 
@@ -62,12 +63,12 @@ QvprVolume Around(const QvprVolume& size) {
 ptrdiff_t RegionAt(int step, const Element& element) { return kReach * (step + element.bytes); }
 
 // The volume around the region, or pointers to its planes, of one size everywhere.
-const void* Region(Scene& scene, size_t place, const QvprVolume& size) {
+const void* Region(Scene& scene, size_t place, const QvprVolume& size, Scene::Value value = EdgeValue) {
   const Parameter& parameter = scene.function().parameters[place];
   const Element& element = *PointedAt(parameter.type);
   const QvprVolume around = Around(size);
   const int step = StepOf(around, place), planeStep = PlaneStepOf(around, place);
-  auto* const voxels = static_cast<const uint8_t*>(Voxels(scene, place, around));
+  auto* const voxels = static_cast<const uint8_t*>(Voxels(scene, place, around, value));
   const uint8_t* const first = voxels + RegionAt(step, element);
   if (!parameter.type.ends_with("* const*")) return first + ptrdiff_t{kReach} * planeStep;
   auto* const planes = reinterpret_cast<const void**>(scene.Input(around.depth * sizeof(uint64_t)));
@@ -128,6 +129,116 @@ bool VolumeLesson(Scene& scene, size_t place, Argument& argument) {
     argument = m.front;
   } else {
     return false;
+  }
+  return true;
+}
+
+// ---- Warps and remaps: the source is a region with voxels around it.
+
+struct WarpManner {
+  QvprVolume src, dst;
+  QvpiBorderType border;
+  QvpiInterpolationType interpolation;
+};
+static WarpManner WarpMannerOf(const Scene& scene) {
+  constexpr int kBorders[] = {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent, qvpBorderInMemVolume};
+  constexpr int kMethods[] = {qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubic};
+  Random random = scene.choices();
+  const auto any = [&](const auto& list) { return list[random.Next() % std::size(list)]; };
+  const auto about = [&](int side) { return std::max(1, side + static_cast<int>(random.Next() % 7) - 3); };
+  const QvprVolume dst{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
+  const QvprVolume src{about(dst.width), about(dst.height), about(dst.depth)};
+  return {src, dst, any(kBorders), any(kMethods)};
+}
+static const std::vector<double>& CoefficientsOf(const Scene& scene) {
+  static const std::vector<double> kSets[] = {{0.9, 0.3, -0.1, 0.5, -0.25, 1.1, 0.2, 1.25, 0.05, -0.3, 0.8, 0.4},
+                                              {1, 0, 0, 1, 0, 1, 0, -1, 0, 0, 1, 0},
+                                              {0, 1, 0, 0.25, 1, 0, 0, 0.5, 0, 0, -1, 1}};
+  return kSets[scene.choices().Next() % std::size(kSets)];
+}
+
+static const void* WarpRecord(Scene& scene) {
+  using Coefficients = const double(*)[4];
+  const WarpManner m = WarpMannerOf(scene);
+  const Name name(scene.function().name);
+  const QvpDataType type = name.layout.empty() ? qvp8u : name.From().code;
+  auto* const spec = reinterpret_cast<QvprWarpSpec*>(scene.Input(576));  // no output: a refused Init changes it
+  const auto coefficients = static_cast<Coefficients>(Numbers(scene, CoefficientsOf(scene)));
+  const double value = 77;
+  if (m.interpolation == qvpInterpolationCubic) {
+    qvprWarpAffineCubicInit(m.src, m.dst, type, coefficients, qvpWarpBackward, 0, 0.5, m.border, &value, spec);
+  } else {
+    (m.interpolation == qvpInterpolationLinear ? qvprWarpAffineLinearInit : qvprWarpAffineNearestInit)(
+        m.src, m.dst, type, coefficients, qvpWarpBackward, m.border, &value, spec);
+  }
+  return spec;
+}
+
+// Most points of maps lie in small sources.
+static Real Coordinate(const Element&, Random& random) {
+  return Real(static_cast<float>(random.Next() % 1000)) / 90 - 1;
+}
+
+// What the arguments of warps and of remaps are alike in.
+static bool SampledLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const WarpManner m = WarpMannerOf(scene);
+  const bool isSource = name.starts_with("src") || name == "pSrc";
+  const QvprVolume around = Around(isSource ? m.src : m.dst);
+  if (name == "pSrc" || name == "pDst") {
+    argument = {Region(scene, place, isSource ? m.src : m.dst)};
+  } else if (name.ends_with("Map")) {
+    argument = {Region(scene, place, m.dst, Coordinate)};
+  } else if (name.ends_with("PlaneStep")) {
+    argument = PlaneStepOf(around, place - 2);
+  } else if (name.ends_with("Step")) {
+    argument = StepOf(around, place - 1);
+  } else if (name == "srcVolume" || name == "dstVolume") {
+    argument = isSource ? m.src : m.dst;
+  } else if (name == "interpolation") {
+    argument = m.interpolation;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  const WarpManner m = WarpMannerOf(scene);
+  if (name == "dstOffset") {
+    argument = QvpiPoint{0, 0};
+  } else if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
+  } else if (name == "coeffs") {
+    argument = {Numbers(scene, CoefficientsOf(scene))};
+  } else if (name == "direction") {
+    argument = scene.Any({qvpWarpForward, qvpWarpBackward});
+  } else if (name == "valueB" || name == "valueC") {
+    argument = name == "valueB" ? 0.25 : 0.5;
+  } else if (name == "borderType") {
+    argument = m.border;
+  } else if (name == "pBorderValue") {
+    argument = {Numbers(scene, {77})};
+  } else if (name == "pSpec") {
+    argument = {type.starts_with("const") ? WarpRecord(scene) : scene.Output(576)};
+  } else if (name == "pBuffer") {
+    int bytes = 0;
+    qvprWarpGetBufferSize(static_cast<const QvprWarpSpec*>(WarpRecord(scene)), m.dst, &bytes);
+    argument = {scene.Input(bytes)};
+  } else {
+    return SampledLesson(scene, place, argument);
+  }
+  return true;
+}
+
+bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const QvprVolume src = WarpMannerOf(scene).src;
+  if (name == "srcCuboid") {
+    argument = QvprCuboid{0, 0, 0, src.width, src.height, src.depth};
+  } else {
+    return SampledLesson(scene, place, argument);
   }
   return true;
 }

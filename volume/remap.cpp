@@ -1,0 +1,128 @@
+// Remap of volumes: each voxel takes the value at a point that three maps tell.
+#include "base/check.h"
+#include "qvpi.h"
+#include "volume/sample.h"
+
+namespace {
+using namespace qvp;
+using namespace qvp::volume;
+
+template <class T>
+struct Call {
+  Volume<const T> src;
+  QvprVolume srcSize;
+  QvprCuboid cuboid;
+  Volume<const float> maps[3];
+  Volume<T> dst;
+  QvprVolume size;
+  int interpolation;
+
+  bool AreLengths() const {
+    const int least =
+        std::min({cuboid.x, cuboid.y, cuboid.z}) < 0 ? 0 : std::min({cuboid.width, cuboid.height, cuboid.depth});
+    return VolumeSize(srcSize).HasVoxels() && least >= 1 && VolumeSize(size).HasVoxels();
+  }
+  bool IsBeyond() const { return cuboid.x >= srcSize.width || cuboid.y >= srcSize.height || cuboid.z >= srcSize.depth; }
+  // Of one axis: the cuboid within the source.
+  static Extent Clipped(int start, int length, int most) {
+    return {start, ptrdiff_t{start} + std::min(length, most - start)};
+  }
+};
+
+template <class T>
+QvpStatus Check(const Call<T>& call) {
+  const std::initializer_list<Operand> images = {call.src.front, call.maps[0].front, call.maps[1].front,
+                                                 call.maps[2].front, call.dst.front};
+  if (!Passes(kPointers, {1, 1}, images, {})) return qvpStatusNullPointer;
+  if (!call.AreLengths()) return qvpStatusSize;
+  const ptrdiff_t planeStep = std::min({call.src.planeStep, call.maps[0].planeStep, call.dst.planeStep});
+  if (!Passes(kSteps, {1, 1}, images, {}) || planeStep < 1) return qvpStatusStep;
+  switch (call.interpolation) {
+    case qvpInterpolationNearest:
+    case qvpInterpolationLinear:
+    case qvpInterpolationCubicClassic:
+    case qvpInterpolationCubic: return call.IsBeyond() ? qvpStatusNoIntersection : qvpStatusNoError;
+    default: return qvpStatusInterpolation;
+  }
+}
+
+// All planes of the source that taps of points in the cuboid lie in, and those of the others.
+template <class T>
+bool HasPlanes(const Call<T>& call, Extent planes, int taps) {
+  const ptrdiff_t before = sampling::kTapsBefore(taps), behind = taps - 1 - before, depth = call.srcSize.depth;
+  const Extent read{std::max<ptrdiff_t>(planes.begin - before, 0), std::min(planes.end + behind, depth)};
+  const Extent written{0, call.size.depth};
+  return call.src.HasPlanes(read) && call.maps[0].HasPlanes(written) && call.maps[1].HasPlanes(written) &&
+         call.maps[2].HasPlanes(written) && call.dst.HasPlanes(written);
+}
+
+template <int kTaps, class T>
+void RemapBy(const Call<T>& call, const Source<T>& source) {
+  BlockSampler<kTaps, T> sampler(source);
+  PointArrays points;
+  for (int z = 0; z < call.size.depth; ++z) {
+    const Image<const float> maps[3] = {call.maps[0].Plane(z), call.maps[1].Plane(z), call.maps[2].Plane(z)};
+    const Image<T> dst = call.dst.Plane(z);
+    for (int y = 0; y < call.size.height; ++y) {
+      SampleRow(sampler, points, call.size.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
+        for (int k = 0; k < 3; ++k) {
+          const float* const from = maps[k].Row(y) + x;
+          for (ptrdiff_t i = 0; i < n; ++i) to.at[k][i] = LoadScalar(from + i);
+        }
+      });
+    }
+  }
+}
+
+template <class T>
+QvpStatus Remap(const Call<T>& call) {
+  if (const QvpStatus status = Check(call)) return status;
+  const int taps = TapsOf(call.interpolation);
+  const QvprCuboid c = call.cuboid;
+  const Extent bounds[3] = {call.Clipped(c.x, c.width, call.srcSize.width),
+                            call.Clipped(c.y, c.height, call.srcSize.height),
+                            call.Clipped(c.z, c.depth, call.srcSize.depth)};
+  if (!HasPlanes(call, bounds[2], taps)) return qvpStatusNullPointer;
+  Source<T> source{call.src,
+                   {{0, call.srcSize.width}, {0, call.srcSize.height}, {0, call.srcSize.depth}},
+                   BorderKind::kReplicate,
+                   {},
+                   {0, call.interpolation == qvpInterpolationCubicClassic ? 0.75 : 0.5}};
+  source.SetBounds(bounds);
+  taps == 1 ? RemapBy<1>(call, source) : taps == 2 ? RemapBy<2>(call, source) : RemapBy<4>(call, source);
+  return qvpStatusNoError;
+}
+
+}  // namespace
+
+#define REMAP(type)                                                                                                  \
+  QvpStatus qvprRemap_##type##_C1V(const Qvp##type* pSrc, QvprVolume srcVolume, int srcStep, int srcPlaneStep,       \
+                                   QvprCuboid srcCuboid, const Qvp32f* pxMap, const Qvp32f* pyMap,                   \
+                                   const Qvp32f* pzMap, int mapStep, int mapPlaneStep, Qvp##type* pDst, int dstStep, \
+                                   int dstPlaneStep, QvprVolume dstVolume, int interpolation) {                      \
+    const auto map = [=](const Qvp32f* p) { return ViewVolume<float>(p, mapStep, mapPlaneStep); };                   \
+    return Remap(Call<Qvp##type>{ViewVolume<Qvp##type>(pSrc, srcStep, srcPlaneStep),                                 \
+                                 srcVolume,                                                                          \
+                                 srcCuboid,                                                                          \
+                                 {map(pxMap), map(pyMap), map(pzMap)},                                               \
+                                 ViewVolume<Qvp##type>(pDst, dstStep, dstPlaneStep),                                 \
+                                 dstVolume,                                                                          \
+                                 interpolation});                                                                    \
+  }                                                                                                                  \
+  QvpStatus qvprRemap_##type##_C1PV(const Qvp##type* const pSrc[], QvprVolume srcVolume, int srcStep,                \
+                                    QvprCuboid srcCuboid, const Qvp32f* const pxMap[], const Qvp32f* const pyMap[],  \
+                                    const Qvp32f* const pzMap[], int mapStep, Qvp##type* const pDst[], int dstStep,  \
+                                    QvprVolume dstVolume, int interpolation) {                                       \
+    const auto map = [=](const Qvp32f* const* p) { return ViewVolume<float>(p, mapStep); };                          \
+    return Remap(Call<Qvp##type>{ViewVolume<Qvp##type>(pSrc, srcStep),                                               \
+                                 srcVolume,                                                                          \
+                                 srcCuboid,                                                                          \
+                                 {map(pxMap), map(pyMap), map(pzMap)},                                               \
+                                 ViewVolume<Qvp##type>(pDst, dstStep),                                               \
+                                 dstVolume,                                                                          \
+                                 interpolation});                                                                    \
+  }
+REMAP(8u)
+REMAP(16u)
+REMAP(16s)
+REMAP(32f)

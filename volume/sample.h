@@ -1,0 +1,263 @@
+// Values of a volume at points: which taps they are made of, and what of it lies in memory. Each formula is written
+// once, over points in lanes: where taps need a test, copies of them are what it works on.
+#pragma once
+
+#include "base/scalar.h"
+#include "geometry/sample_border.h"
+#include "geometry/sample_bytes.h"
+#include "geometry/sample_floats.h"
+#include "geometry/sample_places.h"
+#include "volume/border.h"
+
+namespace qvp::volume {
+
+using sampling::FractionOf;
+using sampling::RowTaps;
+using sampling::TapsOf;
+using sampling::Weigher;
+
+// What the points of a call are taken from.
+template <class T>
+struct Source {
+  Volume<const T> volume;
+  Extent axes[3];  // columns, rows and planes that can be read
+  BorderKind kind = BorderKind::kReplicate;
+  T constant = {};
+  CubicPolynomials<float> cubic;
+  bool isBounded = false;  // points beyond the bounds are left alone
+  double low[3] = {}, high[3] = {};
+
+  void SetBounds(const Extent (&to)[3]) {
+    isBounded = true;
+    for (int i = 0; i < 3; ++i) low[i] = static_cast<double>(to[i].begin), high[i] = static_cast<double>(to[i].end - 1);
+  }
+};
+
+// Points of a block, and behind them room for the longest vectors.
+inline constexpr ptrdiff_t kBlockPoints = 128, kBlockRoom = kBlockPoints + 64, kPatchPoints = 16;
+
+struct PointArrays {
+  alignas(64) double at[3][kBlockRoom];
+};
+
+template <int kTaps, class T>
+class BlockSampler {
+ public:
+  explicit BlockSampler(const Source<T>& source) : source_(source), weigh_(source.cubic) {}
+
+  // Values at n points to as many voxels.
+  void operator()(PointArrays& points, ptrdiff_t n, T* dst) {
+    if (source_.isBounded) FindWritten(points, n);
+    Locate(points, n);
+    for (ptrdiff_t first = 0, end; first < n; first = end) {
+      const bool isInside = isInside_[first];
+      end = first + 1;
+      while (end < n && isInside_[end] == isInside) ++end;
+      if (!isInside || !SampleInside(first, end)) SampleApart(first, end);
+    }
+    if (!source_.isBounded) return static_cast<void>(std::memcpy(dst, values_, n * sizeof(T)));
+    for (ptrdiff_t i = 0; i < n; ++i) {
+      if (isWritten_[i]) StoreScalar(dst + i, values_[i]);
+    }
+  }
+
+ private:
+  using F = FractionOf<kTaps, T>;
+  using D = hn::ScalableTag<float>;
+  using Ints = hn::ScalableTag<int32_t>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
+  static constexpr int kBefore = sampling::kTapsBefore(kTaps);
+  static constexpr int kPatch = kTaps * kTaps * kTaps;
+  // Kernels load words: what they read of a row from the first tap on.
+  static constexpr int kRead = kTaps == 1 ? 1 : std::max(kTaps, 4 / static_cast<int>(sizeof(T)));
+
+  void FindWritten(const PointArrays& points, ptrdiff_t n) {
+    for (ptrdiff_t i = 0; i < n; ++i) {
+      bool isWithin = true;
+      for (int k = 0; k < 3; ++k) {
+        isWithin = isWithin && points.at[k][i] >= source_.low[k] && points.at[k][i] <= source_.high[k];
+      }
+      isWritten_[i] = isWithin;
+    }
+  }
+
+  // First taps and fractions. Points are moved to where all taps are beyond what can be read, at most; what is no
+  // number is before it.
+  void Locate(PointArrays& points, ptrdiff_t n) {
+    const hn::ScalableTag<double> d;
+    for (auto& axis : points.at) std::fill(axis + n, axis + n + 2 * hn::Lanes(d), axis[n - 1]);
+    for (int k = 0; k < 3; ++k) {
+      const auto low = hn::Set(d, static_cast<double>(source_.axes[k].begin - kTaps - 1));
+      const auto high = hn::Set(d, static_cast<double>(source_.axes[k].end + kTaps));
+      const auto load = [&](ptrdiff_t i)
+                            HWY_ATTR { return hn::Min(MaxOrSecond(hn::LoadU(d, points.at[k] + i), low), high); };
+      for (ptrdiff_t i = 0; i < n; i += kLanes) {
+        const auto split = sampling::SplitDoubles<kTaps, F>(D(), load(i), load(i + kLanes / 2));
+        hn::StoreU(hn::Sub(split.pixel, hn::Set(Ints(), kBefore)), Ints(), tap_[k] + i);
+        if constexpr (kTaps > 1) hn::StoreU(split.fraction, hn::Rebind<F, D>(), fraction_[k] + i);
+      }
+    }
+    for (ptrdiff_t i = 0; i < n; ++i) {
+      isInside_[i] = Has(0, tap_[0][i], kRead) && Has(1, tap_[1][i], kTaps) && Has(2, tap_[2][i], kTaps);
+    }
+  }
+  bool Has(int axis, ptrdiff_t first, int taps) const {
+    return first >= source_.axes[axis].begin && first + taps <= source_.axes[axis].end;
+  }
+
+  // ---- Points whose taps lie in memory. False if these are too far from each other for offsets of 32 bits.
+
+  bool SampleInside(ptrdiff_t first, ptrdiff_t end) {
+    const auto addressOf = [&](ptrdiff_t z) { return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data); };
+    const intptr_t base = addressOf(tap_[2][first]);
+    const int64_t step = source_.volume.front.step;
+    int64_t farthest = 0;
+    for (ptrdiff_t i = first; i < end; ++i) {
+      const int64_t within = tap_[1][i] * step + tap_[0][i] * int64_t{sizeof(T)};
+      for (int k = 0; k < kTaps; ++k) {
+        const int64_t offset = addressOf(tap_[2][i] + k) - base + within;
+        offset_[k][i - first] = static_cast<int32_t>(offset);
+        farthest = std::max(farthest, offset < 0 ? -offset : offset);
+      }
+    }
+    if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
+    Blend(reinterpret_cast<const uint8_t*>(base), static_cast<ptrdiff_t>(step), first, end - first);
+    return true;
+  }
+
+  // ---- Points whose taps need a test: copies of them, a few points at a time.
+
+  void SampleApart(ptrdiff_t first, ptrdiff_t end) {
+    T patches[kPatchPoints * kPatch + 4];
+    for (ptrdiff_t from = first; from < end; from += kPatchPoints) {
+      const ptrdiff_t n = std::min(kPatchPoints, end - from);
+      for (ptrdiff_t i = 0; i < n; ++i) {
+        FetchPatch(from + i, patches + i * kPatch);
+        for (int k = 0; k < kTaps; ++k) {
+          offset_[k][i] = static_cast<int32_t>((i * kPatch + k * kTaps * kTaps) * ptrdiff_t{sizeof(T)});
+        }
+      }
+      std::memset(patches + n * kPatch, 0, 4 * sizeof(T));  // is read, but not used
+      Blend(reinterpret_cast<const uint8_t*>(patches), kTaps * sizeof(T), from, n);
+      for (ptrdiff_t i = from; i < from + n; ++i) {
+        if (IsConstant(i)) values_[i] = source_.constant;
+      }
+    }
+  }
+
+  // Whether all taps are outside along an axis: their weights need not sum up to 1 exactly.
+  bool IsConstant(ptrdiff_t i) const {
+    if (source_.kind != BorderKind::kConst) return false;
+    for (int k = 0; k < 3; ++k) {
+      if (tap_[k][i] + kTaps <= source_.axes[k].begin || tap_[k][i] >= source_.axes[k].end) return true;
+    }
+    return false;
+  }
+
+  void FetchPatch(ptrdiff_t i, T* patch) const {
+    ptrdiff_t places[3][kTaps];
+    for (int axis = 0; axis < 3; ++axis) {
+      for (int k = 0; k < kTaps; ++k) {
+        places[axis][k] = BorderPosition(source_.kind, tap_[axis][i] + k, source_.axes[axis]);
+      }
+    }
+    for (const ptrdiff_t z : places[2]) {
+      const Image<const T> plane = source_.volume.Plane(z == kOutside ? source_.axes[2].begin : z);
+      for (const ptrdiff_t y : places[1]) {
+        const bool isRow = z != kOutside && y != kOutside;
+        const T* const row = isRow ? plane.Row(y) : nullptr;
+        for (const ptrdiff_t x : places[0]) {
+          *patch++ = isRow && x != kOutside ? LoadScalar(row + x) : source_.constant;
+        }
+      }
+    }
+  }
+
+  // ---- The formulas: n values from values_[first] on, of taps at offset_ from `base`.
+
+  void Blend(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n) {
+    for (auto& offsets : offset_) std::fill(offsets + n, offsets + n + 4 * kLanes, offsets[n - 1]);
+    if constexpr (kTaps == 1) {
+      for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(values_ + first + i, base + offset_[0][i], sizeof(T));
+    } else {
+      alignas(64) T staged[kBlockRoom];
+      if constexpr (sampling::kIsWhole<F>) {
+        BlendBytes(base, step, first, n, staged);
+      } else {
+        BlendNumbers(base, step, first, n, staged);
+      }
+      std::memcpy(values_ + first, staged, n * sizeof(T));
+    }
+  }
+
+  // Sums along columns, rows and planes, in this order.
+  HWY_INLINE hn::Vec<D> SumAt(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t i) const {
+    const D d;
+    hn::Vec<D> weights[3][kTaps], total = hn::Zero(d);
+    for (int k = 0; k < 3; ++k) weigh_(d, hn::LoadU(d, fraction_[k] + first + i), weights[k]);
+    for (int z = 0; z < kTaps; ++z) {
+      hn::Vec<D> plane = hn::Zero(d);
+      for (int y = 0; y < kTaps; ++y) {
+        const RowTaps<kTaps, 1, T, D> taps(d, base + y * step, offset_[z] + i);
+        hn::Vec<D> row = hn::Mul(taps.At(0, 0), weights[0][0]);
+        for (int x = 1; x < kTaps; ++x) row = hn::Add(row, hn::Mul(taps.At(x, 0), weights[0][x]));
+        plane = y == 0 ? hn::Mul(row, weights[1][0]) : hn::Add(plane, hn::Mul(row, weights[1][y]));
+      }
+      total = z == 0 ? hn::Mul(plane, weights[2][0]) : hn::Add(total, hn::Mul(plane, weights[2][z]));
+    }
+    return total;
+  }
+
+  HWY_NOINLINE void BlendNumbers(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n, T* to) const {
+    constexpr int kParts = kVectorsAtOnce<T, float>;
+    for (ptrdiff_t i = 0; i < n; i += kParts * kLanes) {
+      const auto part = [&](ptrdiff_t k) HWY_ATTR { return SumAt(base, step, first, i + k * kLanes); };
+      hn::StoreU(NarrowParts<T>(D(), part), hn::CappedTag<T, kLanes * kParts>(), to + i);
+    }
+  }
+
+  // As bytes of images, with a third step between planes.
+  HWY_INLINE auto BlendAlternate(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t i, ptrdiff_t j) const {
+    const auto fraction = [&](int axis) HWY_ATTR {
+      return sampling::Alternate(hn::LoadU(Ints(), fraction_[axis] + first + i),
+                                 hn::LoadU(Ints(), fraction_[axis] + first + j));
+    };
+    const auto x = fraction(0), y = fraction(1), z = fraction(2);
+    const auto plane = [&](int k) HWY_ATTR {
+      const auto even = hn::LoadU(Ints(), offset_[k] + i), odd = hn::LoadU(Ints(), offset_[k] + j);
+      const auto row = [&](const uint8_t* at) HWY_ATTR {
+        return sampling::BetweenTaps(GatherWords(Ints(), at, even), GatherWords(Ints(), at, odd), x);
+      };
+      return sampling::Between(row(base), row(base + step), y);
+    };
+    return sampling::ToWhole(sampling::Between(plane(0), plane(1), z));
+  }
+  HWY_NOINLINE void BlendBytes(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n, T* to) const {
+    const hn::ScalableTag<uint8_t> bytes;
+    for (ptrdiff_t i = 0; i < n; i += 4 * kLanes) {
+      const auto lower = BlendAlternate(base, step, first, i, i + 2 * kLanes);
+      const auto upper = BlendAlternate(base, step, first, i + kLanes, i + 3 * kLanes);
+      hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes,
+                 reinterpret_cast<uint8_t*>(to) + i);
+    }
+  }
+
+  const Source<T>& source_;
+  Weigher<kTaps == 1 ? 2 : kTaps, float> weigh_;
+  alignas(64) int32_t tap_[3][kBlockRoom], offset_[kTaps][kBlockRoom];
+  alignas(64) F fraction_[3][kBlockRoom];
+  alignas(64) T values_[kBlockRoom];
+  bool isInside_[kBlockRoom], isWritten_[kBlockRoom];
+};
+
+// Rows of points: make(points, x, n) gives n of them from x on.
+template <int kTaps, class T, class Make>
+void SampleRow(BlockSampler<kTaps, T>& sampler, PointArrays& points, ptrdiff_t width, T* dst, const Make& make) {
+  for (ptrdiff_t x = 0; x < width; x += kBlockPoints) {
+    const ptrdiff_t n = std::min(kBlockPoints, width - x);
+    make(points, x, n);
+    sampler(points, n, dst + x);
+  }
+}
+
+}  // namespace qvp::volume
