@@ -48,12 +48,10 @@ class BlockSampler {
   // Values at n points to as many voxels.
   void operator()(PointArrays& points, ptrdiff_t n, T* dst) {
     if (source_.isBounded) FindWritten(points, n);
-    Locate(points, n);
-    for (ptrdiff_t first = 0, end; first < n; first = end) {
-      const bool isInside = isInside_[first];
-      end = first + 1;
-      while (end < n && isInside_[end] == isInside) ++end;
-      if (!isInside || !SampleInside(first, end)) SampleApart(first, end);
+    if (Locate(points, n)) {
+      if (!SampleInside(0, n)) SampleApart(0, n);
+    } else {
+      SampleByRuns(n);
     }
     if (!source_.isBounded) return static_cast<void>(std::memcpy(dst, values_, n * sizeof(T)));
     for (ptrdiff_t i = 0; i < n; ++i) {
@@ -81,25 +79,47 @@ class BlockSampler {
     }
   }
 
-  // First taps and fractions. Points are moved to where all taps are beyond what can be read, at most; what is no
-  // number is before it.
-  void Locate(PointArrays& points, ptrdiff_t n) {
-    const hn::ScalableTag<double> d;
-    for (auto& axis : points.at) std::fill(axis + n, axis + n + 2 * hn::Lanes(d), axis[n - 1]);
-    for (int k = 0; k < 3; ++k) {
-      const auto low = hn::Set(d, static_cast<double>(source_.axes[k].begin - kTaps - 1));
-      const auto high = hn::Set(d, static_cast<double>(source_.axes[k].end + kTaps));
-      const auto load = [&](ptrdiff_t i)
-                            HWY_ATTR { return hn::Min(MaxOrSecond(hn::LoadU(d, points.at[k] + i), low), high); };
-      for (ptrdiff_t i = 0; i < n; i += kLanes) {
-        const auto split = sampling::SplitDoubles<kTaps, F>(D(), load(i), load(i + kLanes / 2));
-        hn::StoreU(hn::Sub(split.pixel, hn::Set(Ints(), kBefore)), Ints(), tap_[k] + i);
-        if constexpr (kTaps > 1) hn::StoreU(split.fraction, hn::Rebind<F, D>(), fraction_[k] + i);
-      }
-    }
+  // Points whose taps all lie in memory, and others, in turn.
+  HWY_NOINLINE void SampleByRuns(ptrdiff_t n) {
     for (ptrdiff_t i = 0; i < n; ++i) {
       isInside_[i] = Has(0, tap_[0][i], kRead) && Has(1, tap_[1][i], kTaps) && Has(2, tap_[2][i], kTaps);
     }
+    for (ptrdiff_t first = 0, end; first < n; first = end) {
+      const bool isInside = isInside_[first];
+      end = first + 1;
+      while (end < n && isInside_[end] == isInside) ++end;
+      if (!isInside || !SampleInside(first, end)) SampleApart(first, end);
+    }
+  }
+
+  // First taps and fractions, and whether all taps lie in memory. Points are moved to where all taps are beyond what
+  // can be read, at most; what is no number is before it.
+  bool Locate(PointArrays& points, ptrdiff_t n) {
+    const ptrdiff_t lanes = hn::Lanes(hn::ScalableTag<double>());
+    bool isInside = true;
+    for (int k = 0; k < 3; ++k) {
+      std::fill(points.at[k] + n, points.at[k] + n + 2 * lanes, points.at[k][n - 1]);
+      isInside &= LocateAlong(k, points.at[k], n);
+    }
+    return isInside;
+  }
+  HWY_INLINE bool LocateAlong(int axis, const double* at, ptrdiff_t n) {
+    const hn::ScalableTag<double> d;
+    const Extent extent = source_.axes[axis];
+    const auto low = hn::Set(d, static_cast<double>(extent.begin - kTaps - 1));
+    const auto high = hn::Set(d, static_cast<double>(extent.end + kTaps));
+    const auto load = [&](ptrdiff_t i) HWY_ATTR { return hn::Min(MaxOrSecond(hn::LoadU(d, at + i), low), high); };
+    auto least = hn::Set(Ints(), INT32_MAX), most = hn::Set(Ints(), INT32_MIN);
+    for (ptrdiff_t i = 0; i < n; i += kLanes) {
+      const auto split = sampling::SplitDoubles<kTaps, F>(D(), load(i), load(i + kLanes / 2));
+      const auto tap = hn::Sub(split.pixel, hn::Set(Ints(), kBefore));
+      least = hn::Min(least, tap);
+      most = hn::Max(most, tap);
+      hn::StoreU(tap, Ints(), tap_[axis] + i);
+      if constexpr (kTaps > 1) hn::StoreU(split.fraction, hn::Rebind<F, D>(), fraction_[axis] + i);
+    }
+    return hn::GetLane(hn::MinOfLanes(Ints(), least)) >= extent.begin &&
+           hn::GetLane(hn::MaxOfLanes(Ints(), most)) + (axis == 0 ? kRead : kTaps) <= extent.end;
   }
   bool Has(int axis, ptrdiff_t first, int taps) const {
     return first >= source_.axes[axis].begin && first + taps <= source_.axes[axis].end;
@@ -108,6 +128,33 @@ class BlockSampler {
   // ---- Points whose taps lie in memory. False if these are too far from each other for offsets of 32 bits.
 
   bool SampleInside(ptrdiff_t first, ptrdiff_t end) {
+    const Volume<const T>& volume = source_.volume;
+    const int64_t step = volume.front.step, planeStep = volume.planeStep, depth = source_.axes[2].end;
+    const int64_t within = source_.axes[1].end * step + source_.axes[0].end * int64_t{sizeof(T)};
+    if (volume.isArray) return SamplePlanes(first, end);
+    // Voxels in front of the first, which may be in memory, are few.
+    if ((depth + 8) * planeStep + within + 8 * (step + 8) > INT32_MAX) return false;
+    FindOffsets(first, end - first, static_cast<int32_t>(step), static_cast<int32_t>(planeStep));
+    Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
+    const auto* const base = reinterpret_cast<const uint8_t*>(volume.front.data);
+    for (int k = 0; k < kTaps; ++k)
+      taps.base[k] = base + k * static_cast<ptrdiff_t>(planeStep), taps.offset[k] = offset_[0];
+    Blend(taps, first, end - first);
+    return true;
+  }
+
+  void FindOffsets(ptrdiff_t first, ptrdiff_t n, int32_t step, int32_t planeStep) {
+    const Ints d;
+    const auto rows = hn::Set(d, step), planes = hn::Set(d, planeStep), voxels = hn::Set(d, int32_t{sizeof(T)});
+    for (ptrdiff_t i = 0; i < n; i += kLanes) {
+      const auto tap = [&](int axis) HWY_ATTR { return hn::LoadU(d, tap_[axis] + first + i); };
+      const auto offset = hn::Add(hn::Add(hn::Mul(tap(2), planes), hn::Mul(tap(1), rows)), hn::Mul(tap(0), voxels));
+      hn::StoreU(offset, d, offset_[0] + i);
+    }
+  }
+
+  // Of planes that lie anywhere, each tap's has an offset of its own.
+  bool SamplePlanes(ptrdiff_t first, ptrdiff_t end) {
     const auto addressOf = [&](ptrdiff_t z) { return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data); };
     const intptr_t base = addressOf(tap_[2][first]);
     const int64_t step = source_.volume.front.step;
@@ -121,7 +168,9 @@ class BlockSampler {
       }
     }
     if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
-    Blend(reinterpret_cast<const uint8_t*>(base), static_cast<ptrdiff_t>(step), first, end - first);
+    Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
+    for (int k = 0; k < kTaps; ++k) taps.base[k] = reinterpret_cast<const uint8_t*>(base), taps.offset[k] = offset_[k];
+    Blend(taps, first, end - first);
     return true;
   }
 
@@ -133,12 +182,14 @@ class BlockSampler {
       const ptrdiff_t n = std::min(kPatchPoints, end - from);
       for (ptrdiff_t i = 0; i < n; ++i) {
         FetchPatch(from + i, patches + i * kPatch);
-        for (int k = 0; k < kTaps; ++k) {
-          offset_[k][i] = static_cast<int32_t>((i * kPatch + k * kTaps * kTaps) * ptrdiff_t{sizeof(T)});
-        }
+        offset_[0][i] = static_cast<int32_t>(i * kPatch * ptrdiff_t{sizeof(T)});
       }
       std::memset(patches + n * kPatch, 0, 4 * sizeof(T));  // is read, but not used
-      Blend(reinterpret_cast<const uint8_t*>(patches), kTaps * sizeof(T), from, n);
+      Taps taps{kTaps * sizeof(T), {}, {}};
+      for (int k = 0; k < kTaps; ++k) {
+        taps.base[k] = reinterpret_cast<const uint8_t*>(patches + k * kTaps * kTaps), taps.offset[k] = offset_[0];
+      }
+      Blend(taps, from, n);
       for (ptrdiff_t i = from; i < from + n; ++i) {
         if (IsConstant(i)) values_[i] = source_.constant;
       }
@@ -173,32 +224,42 @@ class BlockSampler {
     }
   }
 
-  // ---- The formulas: n values from values_[first] on, of taps at offset_ from `base`.
+  // ---- The formulas: n values from values_[first] on.
 
-  void Blend(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n) {
-    for (auto& offsets : offset_) std::fill(offsets + n, offsets + n + 4 * kLanes, offsets[n - 1]);
+  // Where taps lie: those of plane k at offset[k][i] from base[k], rows `step` bytes from each other.
+  struct Taps {
+    ptrdiff_t step;
+    const uint8_t* base[kTaps];
+    int32_t* offset[kTaps];
+  };
+
+  void Blend(const Taps& taps, ptrdiff_t first, ptrdiff_t n) {
+    for (int32_t* const offset : taps.offset) std::fill(offset + n, offset + n + 4 * kLanes, offset[n - 1]);
     if constexpr (kTaps == 1) {
-      for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(values_ + first + i, base + offset_[0][i], sizeof(T));
+      const uint8_t* const base = taps.base[0];
+      const int32_t* const offset = taps.offset[0];
+      T* const to = values_ + first;
+      for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, base + offset[i], sizeof(T));
     } else {
       alignas(64) T staged[kBlockRoom];
       if constexpr (sampling::kIsWhole<F>) {
-        BlendBytes(base, step, first, n, staged);
+        BlendBytes(taps, first, n, staged);
       } else {
-        BlendNumbers(base, step, first, n, staged);
+        BlendNumbers(taps, first, n, staged);
       }
       std::memcpy(values_ + first, staged, n * sizeof(T));
     }
   }
 
   // Sums along columns, rows and planes, in this order.
-  HWY_INLINE hn::Vec<D> SumAt(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t i) const {
+  HWY_INLINE hn::Vec<D> SumAt(const Taps& at, ptrdiff_t first, ptrdiff_t i) const {
     const D d;
     hn::Vec<D> weights[3][kTaps], total = hn::Zero(d);
     for (int k = 0; k < 3; ++k) weigh_(d, hn::LoadU(d, fraction_[k] + first + i), weights[k]);
     for (int z = 0; z < kTaps; ++z) {
       hn::Vec<D> plane = hn::Zero(d);
       for (int y = 0; y < kTaps; ++y) {
-        const RowTaps<kTaps, 1, T, D> taps(d, base + y * step, offset_[z] + i);
+        const RowTaps<kTaps, 1, T, D> taps(d, at.base[z] + y * at.step, at.offset[z] + i);
         hn::Vec<D> row = hn::Mul(taps.At(0, 0), weights[0][0]);
         for (int x = 1; x < kTaps; ++x) row = hn::Add(row, hn::Mul(taps.At(x, 0), weights[0][x]));
         plane = y == 0 ? hn::Mul(row, weights[1][0]) : hn::Add(plane, hn::Mul(row, weights[1][y]));
@@ -208,35 +269,37 @@ class BlockSampler {
     return total;
   }
 
-  HWY_NOINLINE void BlendNumbers(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n, T* to) const {
+  HWY_NOINLINE void BlendNumbers(const Taps& taps, ptrdiff_t first, ptrdiff_t n, T* to) const {
+    const Taps at = taps;  // copies, which stores of values cannot change
     constexpr int kParts = kVectorsAtOnce<T, float>;
     for (ptrdiff_t i = 0; i < n; i += kParts * kLanes) {
-      const auto part = [&](ptrdiff_t k) HWY_ATTR { return SumAt(base, step, first, i + k * kLanes); };
+      const auto part = [&](ptrdiff_t k) HWY_ATTR { return SumAt(at, first, i + k * kLanes); };
       hn::StoreU(NarrowParts<T>(D(), part), hn::CappedTag<T, kLanes * kParts>(), to + i);
     }
   }
 
   // As bytes of images, with a third step between planes.
-  HWY_INLINE auto BlendAlternate(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t i, ptrdiff_t j) const {
+  HWY_INLINE auto BlendAlternate(const Taps& taps, ptrdiff_t first, ptrdiff_t i, ptrdiff_t j) const {
     const auto fraction = [&](int axis) HWY_ATTR {
       return sampling::Alternate(hn::LoadU(Ints(), fraction_[axis] + first + i),
                                  hn::LoadU(Ints(), fraction_[axis] + first + j));
     };
     const auto x = fraction(0), y = fraction(1), z = fraction(2);
     const auto plane = [&](int k) HWY_ATTR {
-      const auto even = hn::LoadU(Ints(), offset_[k] + i), odd = hn::LoadU(Ints(), offset_[k] + j);
+      const auto even = hn::LoadU(Ints(), taps.offset[k] + i), odd = hn::LoadU(Ints(), taps.offset[k] + j);
       const auto row = [&](const uint8_t* at) HWY_ATTR {
         return sampling::BetweenTaps(GatherWords(Ints(), at, even), GatherWords(Ints(), at, odd), x);
       };
-      return sampling::Between(row(base), row(base + step), y);
+      return sampling::Between(row(taps.base[k]), row(taps.base[k] + taps.step), y);
     };
     return sampling::ToWhole(sampling::Between(plane(0), plane(1), z));
   }
-  HWY_NOINLINE void BlendBytes(const uint8_t* base, ptrdiff_t step, ptrdiff_t first, ptrdiff_t n, T* to) const {
+  HWY_NOINLINE void BlendBytes(const Taps& from, ptrdiff_t first, ptrdiff_t n, T* to) const {
+    const Taps taps = from;  // copies, which stores of values cannot change
     const hn::ScalableTag<uint8_t> bytes;
     for (ptrdiff_t i = 0; i < n; i += 4 * kLanes) {
-      const auto lower = BlendAlternate(base, step, first, i, i + 2 * kLanes);
-      const auto upper = BlendAlternate(base, step, first, i + kLanes, i + 3 * kLanes);
+      const auto lower = BlendAlternate(taps, first, i, i + 2 * kLanes);
+      const auto upper = BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes);
       hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes,
                  reinterpret_cast<uint8_t*>(to) + i);
     }
