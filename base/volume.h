@@ -28,8 +28,7 @@ struct Volume {
   bool isArray = false;
 
   Image<T> Plane(ptrdiff_t z) const {
-    if (isArray)
-      return {reinterpret_cast<T*>(LoadScalar(Pointers() + z)), front.step, front.layout, front.elementBytes};
+    if (isArray) return {LoadScalar(Pointers() + z), front.step, front.layout, front.elementBytes};
     Image<T> planes = front;
     planes.step = planeStep;
     return {planes.Row(z), front.step, front.layout, front.elementBytes};

@@ -156,20 +156,20 @@ class BlockSampler {
   // Of planes that lie anywhere, each tap's has an offset of its own.
   bool SamplePlanes(ptrdiff_t first, ptrdiff_t end) {
     const auto addressOf = [&](ptrdiff_t z) { return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data); };
-    const intptr_t base = addressOf(tap_[2][first]);
+    const auto* const base = reinterpret_cast<const uint8_t*>(source_.volume.Plane(tap_[2][first]).data);
     const int64_t step = source_.volume.front.step;
     int64_t farthest = 0;
     for (ptrdiff_t i = first; i < end; ++i) {
       const int64_t within = tap_[1][i] * step + tap_[0][i] * int64_t{sizeof(T)};
       for (int k = 0; k < kTaps; ++k) {
-        const int64_t offset = addressOf(tap_[2][i] + k) - base + within;
+        const int64_t offset = addressOf(tap_[2][i] + k) - addressOf(tap_[2][first]) + within;
         offset_[k][i - first] = static_cast<int32_t>(offset);
         farthest = std::max(farthest, offset < 0 ? -offset : offset);
       }
     }
     if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
     Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
-    for (int k = 0; k < kTaps; ++k) taps.base[k] = reinterpret_cast<const uint8_t*>(base), taps.offset[k] = offset_[k];
+    for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
     Blend(taps, first, end - first);
     return true;
   }
