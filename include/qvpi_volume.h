@@ -66,6 +66,114 @@ QvpStatus qvprCopyConstBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPl
 QvpStatus qvprCopyConstBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp32f value);
 /** @} */
 
+/** @name Volumes: general filter, sizes
+ *  @{ */
+/** Tells the sizes of the record and of the work buffer of a general filter of volumes: for this size of the kernel,
+ *  every Init function with such coefficients, and every region not larger.
+ *
+ *  Sizes have 63 bytes to spare, so memory of any alignment will do.
+ *
+ *  @param kernelVolume size of the kernel; of a separable one the lengths along x, y and z
+ *  @param dstVolume size of the region
+ *  @param dataType qvp8u, qvp16u, qvp16s, or with coefficients of 32f also qvp32f
+ *  @param kernelType type of the coefficients: qvp16s or qvp32f
+ *  @param pSpecSize size of the record in bytes
+ *  @param pBufferSize size of the work buffer in bytes
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a length of `kernelVolume` or `dstVolume` is below 1
+ *  - qvpStatusDataType: `dataType` or `kernelType` is none of the above
+ *  - qvpStatusSizeOverflow: a length is above 33554431, or a size above 2147483647; the size is 0 then
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprFilterBorderGetSize(QvprVolume kernelVolume, QvprVolume dstVolume, QvpDataType dataType, QvpDataType kernelType, int* pSpecSize, int* pBufferSize);
+/** @} */
+
+/** @name Volumes: general filter, records
+ *  @{ */
+/** Makes the record of a general filter of volumes from the coefficients of its kernel.
+ *
+ *  **qvprFilterBorderInit_16s** takes whole numbers and a divisor, **qvprFilterBorderInit_32f** floats. Both are stored
+ *  by columns, rows and planes: the coefficient at (x, y, z) is pKernel[(z * height + y) * width + x].
+ *  **qvprFilterBorderSeparableInit_32f** takes the three factors of a kernel K(x, y, z) = X(x) Y(y) Z(z).
+ *
+ *  The record may be moved. The coefficients are copied.
+ *
+ *  @param pKernel coefficients
+ *  @param pKernelX,pKernelY,pKernelZ coefficients along x, y and z
+ *  @param kernelVolume size of the kernel; of a separable one the lengths along x, y and z
+ *  @param anchor cell of the kernel, as it is stored, that meets the result's own voxel
+ *  @param divisor what sums are divided by; may be negative
+ *  @param dataType type of the voxels: qvp8u, qvp16u, qvp16s, or with coefficients of 32f also qvp32f
+ *  @param roundMode how results become whole: qvpRoundZero, qvpRoundNear or qvpRoundFinancial; voxels of 32f are not
+ *  rounded
+ *  @param pSpec record of the size that qvprFilterBorderGetSize() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a length of `kernelVolume` is below 1
+ *  - qvpStatusAnchor: `anchor` is outside the kernel
+ *  - qvpStatusDivisor: `divisor` is 0
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusRoundMode: `roundMode` is none of the above
+ *  - qvpStatusSizeOverflow: a length is above 33554431, or the record would be larger than 2147483647 bytes
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprFilterBorderInit_16s(const Qvp16s* pKernel, QvprVolume kernelVolume, QvprPoint anchor, int divisor, QvpDataType dataType, QvpRoundMode roundMode, QvprFilterBorderSpec* pSpec);
+QvpStatus qvprFilterBorderInit_32f(const Qvp32f* pKernel, QvprVolume kernelVolume, QvprPoint anchor, QvpDataType dataType, QvpRoundMode roundMode, QvprFilterBorderSpec* pSpec);
+QvpStatus qvprFilterBorderSeparableInit_32f(const Qvp32f* pKernelX, const Qvp32f* pKernelY, const Qvp32f* pKernelZ, QvprVolume kernelVolume, QvprPoint anchor, QvpDataType dataType, QvpRoundMode roundMode, QvprFilterBorderSpec* pSpec);
+/** @} */
+
+/** @name Volumes: general filter
+ *  @{ */
+/** Convolves a volume with a kernel: smoothing, derivatives, any linear filter.
+ *
+ *  @code
+ *    dst(p) = sum over the cells c of the kernel: K(c) * src(p + anchor - c)
+ *  @endcode
+ *
+ *  With the anchor (width / 2, height / 2, depth / 2), rounded down, planes are filtered as by the general filter of
+ *  images, with even sizes too. K = (1, 2, 3) along x, the voxels 10, 20, 30 and the constant 0 around them give
+ *  10 40 100 with the anchor 0, 40 100 120 with 1, and 100 120 90 with 2.
+ *
+ *  - Coefficients of 16s: the exact sum is divided by the divisor, rounded once by the mode of the record, and saturated.
+ *  - Coefficients of 32f: products and sums are single precision, each rounded, in the order of the source: planes, rows,
+ *    columns. The sum of n products is off by at most 1.01 n 2^-24 times the sum of their magnitudes.
+ *  - Separable: such sums across, then down, then through the planes, single precision between them; n is the sum of the
+ *    three lengths.
+ *
+ *  Results of whole numbers are rounded once by the mode of the record and saturated; NaN gives the lowest value. Results
+ *  of 32f are the sums.
+ *
+ *  The volumes must not overlap.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep source, at the first voxel of the region
+ *  @param pDst,dstStep,dstPlaneStep destination
+ *  @param dstVolume size of the region
+ *  @param borderType qvpBorderReplicate, qvpBorderMirror or qvpBorderConst, with any faces in memory, or
+ *  qvpBorderInMemVolume
+ *  @param borderValue the constant; other kinds do not look at it
+ *  @param pSpec record for voxels of this type
+ *  @param pBuffer work buffer of the size that qvprFilterBorderGetSize() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume, an array of planes, `pSpec` or `pBuffer` is null; `borderValue` is, and the kind is
+ *    qvpBorderConst
+ *  - qvpStatusSize: a length of `dstVolume` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: `pSpec` is no record of a filter of such volumes
+ *  - qvpStatusNullPointer: a plane is null that is in the region, or in memory and covered by the kernel
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprFilterBorder_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp8u* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_8u_C1PV(const Qvp8u* const pSrc[], int srcStep, Qvp8u* const pDst[], int dstStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp8u* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp16u* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_16u_C1PV(const Qvp16u* const pSrc[], int srcStep, Qvp16u* const pDst[], int dstStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp16u* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp16s* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp16s* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp32f* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprFilterBorder_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprVolume dstVolume, QvpiBorderType borderType, const Qvp32f* borderValue, const QvprFilterBorderSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Volumes: medians, size of the buffer
  *  @{ */
 /** Tells the size of the work buffer of a median filter of volumes, for this mask and every region not larger.

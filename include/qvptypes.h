@@ -396,6 +396,7 @@ typedef struct QvpiDeconvolveSpec_32f QvpiDeconvolveSpec_32f; /**< deconvolution
 typedef struct QvprWarpSpec QvprWarpSpec;                 /**< warps of volumes */
 typedef struct QvpiHOGSpec QvpiHOGSpec;                   /**< histogram of oriented gradients */
 typedef struct QvpiNoiseSpec QvpiNoiseSpec;               /**< noise */
+typedef struct QvprFilterBorderSpec QvprFilterBorderSpec; /**< general filter of volumes */
 /** @} */
 
 /** @name Status codes

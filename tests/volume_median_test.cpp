@@ -69,8 +69,8 @@ void CheckResult(const Export& function, const Request& r, const Surrounded& src
 void Check(const Export& function, const Request& r) {
   const Element& element = Name(function.name).From();
   const bool isOfPlanes = function.name.ends_with("PV");
-  const Surrounded src(r.size, {r.mask.width / 2, r.mask.height / 2, r.mask.depth / 2}, r.border, element.bytes,
-                       r.isCoronal);
+  const QvprPoint reach{r.mask.width / 2, r.mask.height / 2, r.mask.depth / 2};
+  const Surrounded src(r.size, reach, reach, r.border, element.bytes, r.isCoronal);
   const Voxels dst(r.size, element.bytes, 0, r.isCoronal);
   test::Random random(r.size.width + r.border);
   src.all.ForEach([&](int x, int y, int z) {

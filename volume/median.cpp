@@ -42,7 +42,7 @@ struct Call {
 
   template <class Kernel>
   void Run(const Kernel& kernel, uint8_t* room) const {
-    const Mask used(mask);
+    const Mask used = Mask::Centred(mask);
     const BorderedVolume<filter::MedianLane<T>> bordered(
         src, size, border, reinterpret_cast<const filter::MedianLane<T>*>(value), used.Reach());
     FilterMasks<typename Kernel::Form>(
@@ -69,7 +69,7 @@ QvpStatus Call<T>::Check() const {
 template <class T>
 QvpStatus Median(const Call<T>& call) {
   if (const QvpStatus failed = call.Check()) return failed;
-  const Mask mask(call.mask);
+  const Mask mask = Mask::Centred(call.mask);
   uint8_t* const room = AtBoundary(call.buffer);
   if (mask.width == 3 && mask.height == 3 && mask.depth == 3) {
     call.Run(CubeMedian<T>(room, SortedStep(call.size.width)), room + SortedBytes(call.size.width));
@@ -88,7 +88,7 @@ QvpStatus GetBufferSize(QvprVolume mask, const VolumeSize& size, QvpDataType typ
   if (!IsMask(mask)) return qvpStatusMaskSize;
   if (type != qvp8u && type != qvp16u && type != qvp16s && type != qvp32f) return qvpStatusDataType;
   const bool isCube = mask.width == 3 && mask.height == 3 && mask.depth == 3;
-  const ByteCount all = WindowsPlan(Mask(mask), size.width, kMostBytes).Bytes() + kRecordBoundary +
+  const ByteCount all = WindowsPlan(Mask::Centred(mask), size.width, kMostBytes).Bytes() + kRecordBoundary +
                         (isCube ? SortedBytes(size.width) : 0);
   return (size.IsBelowMost() ? all : ByteCount(INT64_MAX)).StoreTo(bytes);
 }

@@ -9,13 +9,20 @@
 
 namespace qvp::volume {
 
+// A cuboid of voxels: those of a result begin so far before it.
 struct Mask {
   int width, height, depth;
+  QvprPoint before;
 
-  explicit Mask(QvprVolume m) : width(m.width), height(m.height), depth(m.depth) {}
+  Mask(QvprVolume m, QvprPoint begin) : width(m.width), height(m.height), depth(m.depth), before(begin) {}
+  static Mask Centred(QvprVolume m) { return {m, {m.width / 2, m.height / 2, m.depth / 2}}; }
   ptrdiff_t lines() const { return ptrdiff_t{height} * depth; }
   ptrdiff_t cells() const { return lines() * width; }
-  VolumeReach Reach() const { return {{width / 2, height / 2, width / 2, height / 2}, depth / 2, depth / 2}; }
+  VolumeReach Reach() const {
+    const auto [x, y, z] = before;
+    return {{x, y, width - 1 - x, height - 1 - y}, z, depth - 1 - z};
+  }
+  Extent Columns(Extent results) const { return {results.begin - before.x, results.end + width - 1 - before.x}; }
 };
 
 // The most that the object of a plane's window has on any machine.
@@ -31,7 +38,7 @@ class WindowsPlan {
   // What the windows of all planes take, and the list of their lines, from any address on.
   ByteCount Bytes() const {
     const ByteCount ofPlane = ofPlane_.Bytes() + kPlaneWindowBytes;
-    return ofPlane * mask_.depth + ByteCount(mask_.lines()) * 8 + 2 * kRecordBoundary;
+    return ofPlane * mask_.depth + ByteCount(mask_.height) * mask_.depth * 8 + 2 * kRecordBoundary;
   }
 
   template <class Walk>
@@ -55,13 +62,13 @@ class MaskWindows {
   MaskWindows(const BorderedVolume<T>& volume, const Mask& mask, Extent columns, bool mayBeInPlace, ptrdiff_t z,
               uint8_t* memory)
       : mask_(mask) {
-    const Extent covered{columns.begin - mask.width / 2, columns.end + mask.width - 1 - mask.width / 2};
+    const Extent covered = mask.Columns(columns);
     lines_ = reinterpret_cast<const Element**>(AtBoundary(memory));
     windows_ = reinterpret_cast<PlaneWindow*>(AtBoundary(reinterpret_cast<uint8_t*>(lines_ + mask.lines())));
     uint8_t* room = AtBoundary(reinterpret_cast<uint8_t*>(windows_ + mask.depth));
     for (int i = 0; i < mask.depth; ++i) {
       auto* const window =
-          new (windows_ + i) PlaneWindow(volume.Plane(z + i - mask.depth / 2), covered, mayBeInPlace, mask);
+          new (windows_ + i) PlaneWindow(volume.Plane(z + i - mask.before.z), covered, mayBeInPlace, mask);
       room = AtBoundary(window->rows.Start(room));
     }
     List();
@@ -81,7 +88,7 @@ class MaskWindows {
     RowWindow<Form, T> rows;
 
     PlaneWindow(const BorderedImage<T>& from, Extent columns, bool mayBeInPlace, const Mask& mask)
-        : image(from), rows(image, columns, mayBeInPlace, -ptrdiff_t{mask.height / 2}, mask.height) {}
+        : image(from), rows(image, columns, mayBeInPlace, -ptrdiff_t{mask.before.y}, mask.height) {}
   };
 
   static_assert(sizeof(PlaneWindow) <= kPlaneWindowBytes);

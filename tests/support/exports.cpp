@@ -104,6 +104,7 @@ constexpr struct {
     {"qvpiWarp", WarpLesson},
     {"qvpiWavelet", WaveletLesson},
     {"qvprCopy", VolumeLesson},
+    {"qvprFilterBorder", VolumeKernelLesson},
     {"qvprFilterMedian", VolumeFilterLesson},
     {"qvprGet", SpaceLesson},
     {"qvprRemap", VolumeRemapLesson},

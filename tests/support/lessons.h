@@ -47,6 +47,7 @@ bool ThresholdLesson(Scene& scene, size_t place, Argument& argument);
 bool TransformLesson(Scene& scene, size_t place, Argument& argument);
 bool TurnLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument);
+bool VolumeKernelLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument);

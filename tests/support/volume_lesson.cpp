@@ -1,5 +1,6 @@
 // Parameters of functions of volumes.
 #include <algorithm>
+#include <stdexcept>
 
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
@@ -43,19 +44,27 @@ const void* Numbers(Scene& scene, const std::vector<double>& numbers) {
 
 // ---- Filters: voxels around the region are in memory on any face that a scene chooses.
 
-constexpr int kReach = 2;  // of any mask
+constexpr int kReach = 2;  // of any mask or kernel
 
 struct FilterManner {
   QvprVolume size, mask;
   QvpiBorderType border;
+  QvprPoint anchor;  // of a kernel as large as the mask
+  bool isInteger, isSeparable;
 };
 FilterManner FilterMannerOf(const Scene& scene) {
   constexpr QvprVolume kMasks[] = {{3, 3, 3}, {1, 5, 3}, {5, 1, 1}, {3, 3, 5}, {1, 1, 1}};
   Random random = scene.choices();
   const QvprVolume size{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
   const int kind = random.Next() % 2 ? qvpBorderConst : qvpBorderReplicate;
-  return {size, kMasks[random.Next() % std::size(kMasks)],
-          kind | (static_cast<int>(random.Next()) & qvpBorderInMemVolume)};
+  const QvprVolume mask = kMasks[random.Next() % std::size(kMasks)];
+  const int border = kind | (static_cast<int>(random.Next()) & qvpBorderInMemVolume);
+  return {size,
+          mask,
+          border,
+          {mask.width / 2, mask.height / 2, mask.depth / 2},
+          random.Next() % 2 == 0 && !scene.Has("32f"),
+          random.Next() % 2 == 0};
 }
 QvprVolume Around(const QvprVolume& size) {
   return {size.width + 2 * kReach, size.height + 2 * kReach, size.depth + 2 * kReach};
@@ -76,11 +85,9 @@ const void* Region(Scene& scene, size_t place, const QvprVolume& size, Scene::Va
   return planes + kReach;
 }
 
-}  // namespace
-
-bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument) {
+// What is the same for all filters.
+bool FilterArgument(Scene& scene, size_t place, const FilterManner& m, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
-  const FilterManner m = FilterMannerOf(scene);
   const QvprVolume around = Around(m.size);
   if (name == "pSrc" || name == "pDst") {
     argument = {Region(scene, place, m.size)};
@@ -90,14 +97,90 @@ bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument) {
     argument = PlaneStepOf(around, place - 2);
   } else if (name == "dstVolume") {
     argument = m.size;
-  } else if (name == "maskVolume") {
+  } else if (name == "maskVolume" || name == "kernelVolume") {
     argument = m.mask;
-  } else if (name == "dataType") {
-    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "borderType") {
     argument = m.border;
   } else if (name == "borderValue") {
     argument = scene.Constants(type);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// ---- General filter
+
+struct KernelSizes {
+  int spec, buffer;
+};
+KernelSizes SizesOf(const FilterManner& m) {
+  KernelSizes sizes{};
+  qvprFilterBorderGetSize(m.mask, m.size, qvp8u, qvp32f, &sizes.spec, &sizes.buffer);
+  return sizes;
+}
+
+// As many coefficients as the largest kernel has.
+template <class K>
+const K* Coefficients(Scene& scene, K unit) {
+  constexpr int kMost = 45;
+  auto* const kernel = reinterpret_cast<K*>(scene.Input(kMost * sizeof(K)));
+  for (int i = 0; i < kMost; ++i) kernel[i] = static_cast<K>(static_cast<int>(scene.random().Next() % 201) - 70) * unit;
+  return kernel;
+}
+
+const void* FilterRecordFor(Scene& scene, const FilterManner& m) {
+  auto* const spec = reinterpret_cast<QvprFilterBorderSpec*>(scene.Input(SizesOf(m).spec));
+  const QvpDataType type = Name(scene.function().name).From().code;
+  const auto mode = static_cast<QvpRoundMode>(scene.Any({0, 1, 2}));
+  QvpStatus failed;
+  if (m.isInteger) {
+    const auto* const kernel = Coefficients<Qvp16s>(scene, scene.Any({1, 300}));
+    failed = qvprFilterBorderInit_16s(kernel, m.mask, m.anchor, scene.Any({1, 64, 700}), type, mode, spec);
+  } else {
+    const auto* const k = Coefficients(scene, 0.01f);
+    failed = m.isSeparable ? qvprFilterBorderSeparableInit_32f(k, k + 5, k + 10, m.mask, m.anchor, type, mode, spec)
+                           : qvprFilterBorderInit_32f(k, m.mask, m.anchor, type, mode, spec);
+  }
+  if (failed) throw std::runtime_error("qvprFilterBorderInit");
+  return spec;
+}
+
+}  // namespace
+
+bool VolumeKernelLesson(Scene& scene, size_t place, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  const FilterManner m = FilterMannerOf(scene);
+  if (FilterArgument(scene, place, m, argument)) return true;
+  if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s});
+  } else if (name == "kernelType") {
+    argument = scene.Any({qvp16s, qvp32f});
+  } else if (name == "anchor") {
+    argument = m.anchor;
+  } else if (name.starts_with("pKernel")) {
+    argument = {type == "const Qvp16s*" ? static_cast<const void*>(Coefficients<Qvp16s>(scene, 1))
+                                        : Coefficients(scene, 0.01f)};
+  } else if (name == "divisor") {
+    argument = scene.Any({1, 16, -9});
+  } else if (name == "pSpec" && type.starts_with("const")) {
+    argument = {FilterRecordFor(scene, m)};
+  } else if (name == "pSpec") {
+    argument = {scene.Input(SizesOf(m).spec)};  // no output: a refused Init takes its identification away
+  } else if (name == "pBuffer") {
+    argument = {scene.Input(SizesOf(m).buffer)};
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const FilterManner m = FilterMannerOf(scene);
+  if (FilterArgument(scene, place, m, argument)) return true;
+  if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "pBuffer") {
     int bytes = 0;
     qvprFilterMedianBorderGetBufferSize(m.mask, m.size, qvp32f, &bytes);

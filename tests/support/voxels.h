@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "tests/support/exports.h"
@@ -35,25 +36,26 @@ struct Voxels {
   }
 };
 
-// A region of a volume that has voxels around it on those faces that a border type says are in memory.
+// A region of a volume that has voxels around it on those faces that a border type says are in memory: as many as an
+// operation reaches before and behind.
 struct Surrounded {
   QvprVolume size;
-  QvprPoint reach;
+  QvprPoint before, behind;
   int border;
   Voxels all;
 
-  Surrounded(QvprVolume region, QvprPoint r, int type, int bytes, bool isCoronal)
+  Surrounded(QvprVolume region, QvprPoint b, QvprPoint a, int type, int bytes, bool isCoronal)
       : size(region),
-        reach(r),
+        before(b),
+        behind(a),
         border(type),
-        all({region.width + Before(qvpBorderInMemLeft, r.x) + Before(qvpBorderInMemRight, r.x),
-             region.height + Before(qvpBorderInMemTop, r.y) + Before(qvpBorderInMemBottom, r.y),
-             region.depth + Before(qvpBorderInMemFront, r.z) + Before(qvpBorderInMemBack, r.z)},
+        all({region.width + On(qvpBorderInMemLeft, b.x) + On(qvpBorderInMemRight, a.x),
+             region.height + On(qvpBorderInMemTop, b.y) + On(qvpBorderInMemBottom, a.y),
+             region.depth + On(qvpBorderInMemFront, b.z) + On(qvpBorderInMemBack, a.z)},
             bytes, 3, isCoronal) {}
 
   QvprPoint origin() const {
-    return {Before(qvpBorderInMemLeft, reach.x), Before(qvpBorderInMemTop, reach.y),
-            Before(qvpBorderInMemFront, reach.z)};
+    return {On(qvpBorderInMemLeft, before.x), On(qvpBorderInMemTop, before.y), On(qvpBorderInMemFront, before.z)};
   }
   uint8_t* first() const { return all.At(origin().x, origin().y, origin().z); }
   // What stands for a voxel of the region or around it; null for the constant.
@@ -66,7 +68,7 @@ struct Surrounded {
   }
 
  private:
-  int Before(int flag, int r) const { return (border & flag) != 0 ? r : 0; }
+  int On(int flag, int r) const { return (border & flag) != 0 ? r : 0; }
 };
 
 // The planes of a volume in memory of their own, in any order, and the array of their pointers.
