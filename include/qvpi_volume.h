@@ -135,14 +135,14 @@ QvpStatus qvprFilterBorderSeparableInit_32f(const Qvp32f* pKernelX, const Qvp32f
  *  images, with even sizes too. K = (1, 2, 3) along x, the voxels 10, 20, 30 and the constant 0 around them give
  *  10 40 100 with the anchor 0, 40 100 120 with 1, and 100 120 90 with 2.
  *
- *  - Coefficients of 16s: the exact sum is divided by the divisor, rounded once by the mode of the record, and saturated.
- *  - Coefficients of 32f: products and sums are single precision, each rounded, in the order of the source: planes, rows,
- *    columns. The sum of n products is off by at most 1.01 n 2^-24 times the sum of their magnitudes.
- *  - Separable: such sums across, then down, then through the planes, single precision between them; n is the sum of the
- *    three lengths.
+ *  - Coefficients of 16s: the exact sum is divided by the divisor, rounded once by the mode of the record, saturated.
+ *  - Coefficients of 32f: products and sums are single precision, each rounded, in the order of the source: planes,
+ *    rows, columns. The sum of n products is off by at most 1.01 n 2^-24 times the sum of their magnitudes.
+ *  - Separable: such sums across, then down, then through the planes, single precision between them; n is the sum of
+ *    the three lengths.
  *
- *  Results of whole numbers are rounded once by the mode of the record and saturated; NaN gives the lowest value. Results
- *  of 32f are the sums.
+ *  Sums that become whole numbers are rounded once by the mode of the record and saturated; NaN gives the lowest value.
+ *  Results of 32f are the sums.
  *
  *  The volumes must not overlap.
  *
@@ -155,8 +155,8 @@ QvpStatus qvprFilterBorderSeparableInit_32f(const Qvp32f* pKernelX, const Qvp32f
  *  @param pSpec record for voxels of this type
  *  @param pBuffer work buffer of the size that qvprFilterBorderGetSize() tells
  *  @return, in the order of the checks:
- *  - qvpStatusNullPointer: a volume, an array of planes, `pSpec` or `pBuffer` is null; `borderValue` is, and the kind is
- *    qvpBorderConst
+ *  - qvpStatusNullPointer: a volume, an array of planes, `pSpec` or `pBuffer` is null; `borderValue` is, and the kind
+ *    is qvpBorderConst
  *  - qvpStatusSize: a length of `dstVolume` is below 1
  *  - qvpStatusStep: a step is below 1
  *  - qvpStatusBorder: `borderType` is none of the above

@@ -22,7 +22,7 @@ struct Call {
 
   template <class Kernel>
   void Run(const BorderedVolume<T>& bordered, const Kernel& kernel) const {
-    FilterMasks<typename Kernel::Form>(bordered, dst, size, record->mask(), Kernel::Form::kLanes, buffer, kernel);
+    FilterMasked(record->mask(), bordered, dst, size, buffer, kernel);
   }
 };
 

@@ -2,13 +2,11 @@
 #include "base/round.h"
 #include "base/scalar.h"
 #include "qvpi.h"
-#include "volume/filter_record.h"
+#include "volume/filter_blocks.h"
 
 namespace {
 using namespace qvp;
 using namespace qvp::volume;
-
-constexpr int kMostElementBytes = 4;  // of a line
 
 bool IsFiltered(QvpDataType type, bool isInteger) {
   return type == qvp8u || type == qvp16u || type == qvp16s || (type == qvp32f && !isInteger);
@@ -24,9 +22,7 @@ ByteCount RecordBytes(QvprVolume kernel) {
 }
 
 ByteCount BufferBytes(QvprVolume kernel, const VolumeSize& size) {
-  const Mask mask = Mask::Centred(kernel);
-  const ByteCount windows = WindowsPlan(mask, size.width, kMostElementBytes).Bytes();
-  return ByteCount(std::max(windows.value(), SeparablePlan(mask, size).Bytes().value())) + kRecordBoundary;
+  return BlockPlan(Mask::Centred(kernel), size).Bytes() + kRecordBoundary;
 }
 
 bool IsRepresentable(QvprVolume kernel) {

@@ -1,0 +1,127 @@
+// The walk of the general filter: blocks of a region, for which rows of all planes under the kernel are prepared once
+// and kept in the second cache.
+#pragma once
+
+#include "volume/filter_record.h"
+
+namespace qvp::volume {
+
+// How a region is divided.
+class BlockPlan {
+ public:
+  BlockPlan(const Mask& mask, const VolumeSize& size) : mask_(mask), size_(size) {
+    const int64_t inCache = kSamples / mask.depth / (kRows + mask.height - 1);
+    const int64_t columns = std::min<int64_t>(size.width, std::max({kColumns, 4 * int64_t{mask.width}, inCache}));
+    step_ = LineBytesFor(columns + mask.width - 1, sizeof(float)).value() / int64_t{sizeof(float)};
+    const int64_t rows = std::max<int64_t>(kSamples / mask.depth / step_ - (mask.height - 1), FewestRows());
+    most_ = {static_cast<ptrdiff_t>(columns), static_cast<ptrdiff_t>(std::min<int64_t>(rows, size.height))};
+  }
+
+  ptrdiff_t step() const { return static_cast<ptrdiff_t>(step_); }  // of rows, in elements
+
+  // What a block takes: the ring of planes, a ring of rows and a line of one of them, and lists. Lower regions may have
+  // higher blocks where they are narrower, but not with more samples.
+  ByteCount Bytes() const {
+    const int64_t most = std::max<int64_t>(kSamples / mask_.depth, (FewestRows() + mask_.height) * step_);
+    const ByteCount whole = (ByteCount(size_.height) + mask_.height) * step_;
+    const ByteCount rows = ByteCount(std::min(most, whole.value())) * mask_.depth + ByteCount(mask_.height + 2) * step_;
+    return rows * int64_t{sizeof(float)} + ByteCount(mask_.width) * 4 + ByteCount(mask_.height + 1) * mask_.depth * 8 +
+           8 * kRecordBoundary;
+  }
+
+  template <class Walk>
+  void ForEachBlock(const Walk& walk) const {
+    ForEachPart(size_.height, most_.height, [&](Extent rows) {
+      ForEachPart(size_.width, most_.width, [&](Extent columns) { walk(columns, rows); });
+    });
+  }
+
+ private:
+  static constexpr int64_t kColumns = 128, kRows = 16, kSamples = 1 << 16;
+
+  int64_t FewestRows() const { return 2 * (int64_t{mask_.height} + 1); }
+
+  template <class Walk>
+  static void ForEachPart(int64_t length, int64_t most, const Walk& walk) {
+    const int64_t parts = (length + most - 1) / most;
+    for (int64_t i = 0; i < parts; ++i) {
+      walk(Extent{static_cast<ptrdiff_t>(length * i / parts), static_cast<ptrdiff_t>(length * (i + 1) / parts)});
+    }
+  }
+
+  Mask mask_;
+  VolumeSize size_;
+  int64_t step_;
+  Size most_{0, 0};
+};
+
+// The block's part of so many planes, each with the rows that `height` rows under a kernel ask for.
+template <class E>
+class PlaneRing {
+ public:
+  PlaneRing(const Mask& mask, int height, Extent rows, ptrdiff_t step, uint8_t* memory)
+      : depth_(mask.depth), height_(height), step_(step), lines_(reinterpret_cast<const E**>(AtBoundary(memory))) {
+    E* const first = AtBoundary(reinterpret_cast<E*>(lines_ + ptrdiff_t{height} * depth_));
+    planes_ = {first, (rows.end - rows.begin + height - 1) * step, depth_};
+  }
+
+  E* Plane(ptrdiff_t z) const { return planes_.Row(z); }
+
+  // The lines under a kernel from plane z and row y of the block on: from the uppermost on, one plane after the other.
+  const E* const* Lines(ptrdiff_t z, ptrdiff_t y) const {
+    const E** to = lines_;
+    const E* plane = planes_.Row(z);
+    for (int k = 0; k < depth_; ++k, plane = planes_.Next(plane)) {
+      const E* line = plane + y * step_;
+      for (int j = 0; j < height_; ++j, line += step_) *to++ = line;
+    }
+    return lines_;
+  }
+
+  // Behind the planes.
+  uint8_t* end() const { return reinterpret_cast<uint8_t*>(planes_.at + depth_ * planes_.step); }
+
+ private:
+  int depth_, height_;
+  ptrdiff_t step_;
+  const E** lines_;
+  RowRing<E> planes_;
+};
+
+// Results of a block: prepare(plane, to, memory) prepares its rows of a plane, kernel(lines, n, to) makes a row of
+// results from lines of all planes, `height` of each.
+template <class E, class T, class Prepare, class Kernel>
+void FilterBlock(const BorderedVolume<T>& src, const Volume<T>& dst, ptrdiff_t depth, const Mask& mask,
+                 const PlaneRing<E>& ring, Extent columns, Extent rows, const Prepare& prepare, const Kernel& kernel) {
+  const ptrdiff_t behind = mask.depth - 1 - mask.before.z;
+  for (ptrdiff_t next = -mask.before.z; next < depth + behind; ++next) {
+    prepare(src.Plane(next), ring.Plane(next), ring.end());
+    const ptrdiff_t z = next - behind;
+    if (z < 0) continue;
+    const Image<T> results = dst.Plane(z);
+    for (ptrdiff_t y = rows.begin; y < rows.end; ++y) {
+      kernel(ring.Lines(z - mask.before.z, y - rows.begin), columns.end - columns.begin,
+             results.Row(y) + columns.begin);
+    }
+  }
+}
+
+// A kernel that takes the rows as they are, in its form.
+template <class Kernel, class T>
+void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T>& dst, const VolumeSize& size,
+                  uint8_t* buffer, const Kernel& kernel) {
+  using Form = typename Kernel::Form;
+  const BlockPlan plan(mask, size);
+  plan.ForEachBlock([&](Extent columns, Extent rows) {
+    const PlaneRing<typename Form::Element> ring(mask, mask.height, rows, plan.step(), buffer);
+    const auto prepare = [&](const BorderedImage<T>& image, auto* to, uint8_t* memory) {
+      BorderRows<Form, T> source(image, mask.Columns(columns), false);
+      source.Start(memory);
+      const ptrdiff_t first = rows.begin - mask.before.y, end = rows.end + mask.height - 1 - mask.before.y;
+      for (ptrdiff_t y = first; y < end; ++y, to += plan.step()) source.Line(y, to);
+    };
+    FilterBlock(src, dst, size.depth, mask, ring, columns, rows, prepare, kernel);
+  });
+}
+
+}  // namespace qvp::volume
