@@ -1,5 +1,5 @@
 /** @file qvpi_volume.h
- *  Volumes: copies with a border, medians, affine warps, remap, and transforms in space.
+ *  Volumes: copies with a border, general filters, medians, affine warps, remap, and transforms in space.
  *
  *  The conventions of every function are told in qvpi_core.h. Beyond them, of volumes:
  *

@@ -129,7 +129,7 @@ struct Warp {
         manner(m),
         element(Name(f.name).From()),
         isOfPlanes(f.name.ends_with("PV")),
-        src(m.src, ReachOf(m), m.border, element.bytes, m.isCoronal),
+        src(m.src, ReachOf(m), ReachOf(m), m.border, element.bytes, m.isCoronal),
         record(m, element.code, matrix) {}
   static QvprPoint ReachOf(const Manner& m) {
     const int reach = m.interpolation == qvpInterpolationNearest  ? 0
@@ -325,7 +325,7 @@ void CheckRemap(const Export& function, int interpolation, bool isCoronal) {
   const bool isOfPlanes = function.name.ends_with("PV");
   const QvprVolume size{14, 9, 6}, result{70, 4, 3};
   const QvprCuboid cuboid{1, 0, 1, 12, 20, 4};
-  const Surrounded src(size, {0, 0, 0}, qvpBorderReplicate, element.bytes, isCoronal);
+  const Surrounded src(size, {0, 0, 0}, {0, 0, 0}, qvpBorderReplicate, element.bytes, isCoronal);
   const double largest = Fill(src, element);
   const Voxels dst(result, element.bytes, 0, isCoronal);
   const std::vector<std::unique_ptr<Voxels>> maps = [&] {
