@@ -53,8 +53,7 @@ QvpStatus Filter(const Call<T>& call) {
   if (record.sums == FilterSums::kSeparable) {
     FilterSeparably(record, bordered, call.dst, call.size, call.buffer);
   } else if (record.sums == FilterSums::kFloats) {
-    const FloatSums<T> sums{record.Coefficients<float>(), record.mask().lines(), record.kernel.width, record.mode};
-    call.Run(bordered, sums);
+    call.Run(bordered, FloatSums<T>(record));
   } else if constexpr (std::is_integral_v<T>) {
     record.sums == FilterSums::kWords ? call.Run(bordered, WordSums<T>(record))
                                       : call.Run(bordered, LongSums<T>(record));

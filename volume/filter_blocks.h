@@ -2,6 +2,7 @@
 // and kept in the second cache.
 #pragma once
 
+#include "filter/windows.h"
 #include "volume/filter_record.h"
 
 namespace qvp::volume {
@@ -13,7 +14,7 @@ class BlockPlan {
     const int64_t inCache = kSamples / mask.depth / (kRows + mask.height - 1);
     const int64_t columns = std::min<int64_t>(size.width, std::max({kColumns, 4 * int64_t{mask.width}, inCache}));
     step_ = LineBytesFor(columns + mask.width - 1, sizeof(float)).value() / int64_t{sizeof(float)};
-    const int64_t rows = std::max<int64_t>(kSamples / mask.depth / step_ - (mask.height - 1), FewestRows());
+    const int64_t rows = std::max<int64_t>(kSamples / mask.depth / step_ - mask.height, FewestRows());
     most_ = {static_cast<ptrdiff_t>(columns), static_cast<ptrdiff_t>(std::min<int64_t>(rows, size.height))};
   }
 
@@ -55,7 +56,7 @@ class BlockPlan {
   Size most_{0, 0};
 };
 
-// The block's part of so many planes, each with the rows that `height` rows under a kernel ask for.
+// The block's part of the planes under a kernel, each with the rows for windows of `height` lines.
 template <class E>
 class PlaneRing {
  public:
@@ -88,39 +89,43 @@ class PlaneRing {
   RowRing<E> planes_;
 };
 
-// Results of a block: prepare(plane, to, memory) prepares its rows of a plane, kernel(lines, n, to) makes a row of
-// results from lines of all planes, `height` of each.
-template <class E, class T, class Prepare, class Kernel>
-void FilterBlock(const BorderedVolume<T>& src, const Volume<T>& dst, ptrdiff_t depth, const Mask& mask,
-                 const PlaneRing<E>& ring, Extent columns, Extent rows, const Prepare& prepare, const Kernel& kernel) {
+// Results of a block: prepare(plane, to, memory) prepares its rows of a plane, make(z, y, to) makes a row of plane z,
+// or all of so many rows that are made at once.
+template <int kRows, class E, class T, class Prepare, class Make>
+void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask, const PlaneRing<E>& ring, Extent rows,
+                 const Prepare& prepare, const Make& make) {
   const ptrdiff_t behind = mask.depth - 1 - mask.before.z;
   for (ptrdiff_t next = -mask.before.z; next < depth + behind; ++next) {
     prepare(src.Plane(next), ring.Plane(next), ring.end());
     const ptrdiff_t z = next - behind;
-    if (z < 0) continue;
-    const Image<T> results = dst.Plane(z);
-    for (ptrdiff_t y = rows.begin; y < rows.end; ++y) {
-      kernel(ring.Lines(z - mask.before.z, y - rows.begin), columns.end - columns.begin,
-             results.Row(y) + columns.begin);
+    for (ptrdiff_t y = rows.begin; z >= 0 && y < rows.end; y += kRows) {
+      make(z, y, ring.Lines(z - mask.before.z, y - rows.begin));
     }
   }
 }
 
-// A kernel that takes the rows as they are, in its form.
+// A kernel that takes the rows as they are, in its form, and makes two rows of results at a time: of windows with one
+// line more than its own. A last row without a second is made twice.
 template <class Kernel, class T>
 void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T>& dst, const VolumeSize& size,
                   uint8_t* buffer, const Kernel& kernel) {
   using Form = typename Kernel::Form;
   const BlockPlan plan(mask, size);
   plan.ForEachBlock([&](Extent columns, Extent rows) {
-    const PlaneRing<typename Form::Element> ring(mask, mask.height, rows, plan.step(), buffer);
+    const PlaneRing<typename Form::Element> ring(mask, mask.height + 1, rows, plan.step(), buffer);
+    const ptrdiff_t prepared = (rows.end - rows.begin + 1) / 2 * 2 + mask.height - 1;
     const auto prepare = [&](const BorderedImage<T>& image, auto* to, uint8_t* memory) {
       BorderRows<Form, T> source(image, mask.Columns(columns), false);
       source.Start(memory);
-      const ptrdiff_t first = rows.begin - mask.before.y, end = rows.end + mask.height - 1 - mask.before.y;
-      for (ptrdiff_t y = first; y < end; ++y, to += plan.step()) source.Line(y, to);
+      const ptrdiff_t first = rows.begin - mask.before.y;
+      for (ptrdiff_t j = 0; j < prepared; ++j) source.Line(first + j, to + j * plan.step());
     };
-    FilterBlock(src, dst, size.depth, mask, ring, columns, rows, prepare, kernel);
+    const auto make = [&](ptrdiff_t z, ptrdiff_t y, const auto* const* lines) {
+      const Image<T> results = dst.Plane(z);
+      filter::FilterRows(kernel, lines, columns.end - columns.begin, results.Row(y) + columns.begin,
+                         results.Row(std::min(y + 1, rows.end - 1)) + columns.begin);
+    };
+    FilterBlock<2>(src, size.depth, mask, ring, rows, prepare, make);
   });
 }
 

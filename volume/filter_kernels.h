@@ -9,12 +9,36 @@
 
 namespace qvp::volume {
 
+// Coefficients of a kernel for two rows of results at a time: add(line, upper, lower) for each line of its planes, with
+// the row of coefficients that it has for either, or null. Rows of them are `width` apart.
+template <class E, class C, class Add>
+HWY_INLINE void ForEachLine(const Mask& mask, const E* const* lines, const C* coefficients, ptrdiff_t width,
+                            const Add& add) {
+  const C* const none = nullptr;
+  for (int k = 0; k < mask.depth; ++k) {
+    add(*lines++, coefficients, none);
+    for (int j = 1; j < mask.height; ++j, coefficients += width) add(*lines++, coefficients + width, coefficients);
+    add(*lines++, none, coefficients);
+    coefficients += width;
+  }
+}
+
 // ---- Floats
 
-// Every result has one sum. `lines` of `width` coefficients each.
-template <class T>
-struct FloatSums {
-  using Form = SingleRows<T, float>;
+// All NaN become one: which of two a sum keeps hangs on the order of an instruction's operands.
+template <class R, class V>
+HWY_INLINE void StoreReals(int mode, V sum, R* to) {
+  const hn::DFromV<V> d;
+  if constexpr (std::is_integral_v<R>) {
+    sum = filter::RoundedBy(mode, d, sum);
+  } else {
+    sum = hn::Or(sum, hn::VecFromMask(d, hn::IsNaN(sum)));
+  }
+  hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
+}
+
+// Sums of products along one axis: of neighbours in `lines` lines, each with `width` coefficients.
+struct AxisSum {
   using D = hn::ScalableTag<float>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   static constexpr int kVectors = 8;  // they hide how long an addition takes
@@ -38,21 +62,54 @@ struct FloatSums {
           });
         }
       }
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { Store(sums[v], out + v * kLanes); });
+      filter::Unrolled<count>([&](auto v) QVP_INLINED { StoreReals(mode, sums[v], out + v * kLanes); });
     });
+  }
+};
+
+// Every result has one sum.
+template <class T>
+class FloatSums {
+ public:
+  using Form = SingleRows<T, float>;
+  static constexpr ptrdiff_t kLanes = Form::kLanes;
+  static constexpr int kVectors = 4;
+
+  explicit FloatSums(const FilterRecord& record)
+      : mask_(record.mask()), coefficients_(record.Coefficients<float>()), mode_(record.mode) {}
+
+  template <int kCount>
+  HWY_INLINE void Run(const float* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+    V above[kCount], below[kCount];
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(D()); });
+    ForEachLine(mask_, lines, coefficients_, mask_.width,
+                [&](const float* line, const float* k, const float* kBelow)
+                    QVP_INLINED { Add<kCount>(line + at, k, kBelow, above, below); });
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, below[v], lower + v * kLanes); });
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, above[v], upper + v * kLanes); });
   }
 
  private:
-  // All NaN become one: which of two a sum keeps hangs on the order of an instruction's operands.
-  template <class R>
-  HWY_INLINE void Store(hn::Vec<D> sum, R* to) const {
-    if constexpr (std::is_integral_v<R>) {
-      sum = filter::RoundedBy(mode, D(), sum);
-    } else {
-      sum = hn::Or(sum, hn::VecFromMask(D(), hn::IsNaN(sum)));
+  using D = hn::ScalableTag<float>;
+  using V = hn::Vec<D>;
+
+  template <int kCount>
+  HWY_INLINE void Add(const float* line, const float* k, const float* kBelow, V (&above)[kCount],
+                      V (&below)[kCount]) const {
+    const auto add = [&](const float* from, float factor, V(&sums)[kCount]) QVP_INLINED {
+      const V a = hn::Set(D(), factor);
+      filter::Unrolled<kCount>(
+          [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), from + v * kLanes), a)); });
+    };
+    for (ptrdiff_t x = 0; x < mask_.width; ++x) {
+      if (k != nullptr) add(line + x, k[x], above);
+      if (kBelow != nullptr) add(line + x, kBelow[x], below);
     }
-    hn::StoreU(Narrow<R>(D(), sum), hn::Rebind<R, D>(), to);
   }
+
+  Mask mask_;
+  const float* coefficients_;
+  int mode_;
 };
 
 // ---- Integers
@@ -92,38 +149,52 @@ class WordSums {
  public:
   using Form = WordRows<T>;
 
+  static constexpr ptrdiff_t kLanes = Form::kLanes;
+  static constexpr int kVectors = 2;
+
   explicit WordSums(const FilterRecord& record)
-      : pairs_(record.Pairs()),
-        lines_(record.mask().lines()),
-        width_(record.kernel.width),
+      : mask_(record.mask()),
+        pairs_(record.Pairs()),
         quotient_(record.mode, record.divisor, record.largest),
         start_(static_cast<int32_t>(StartOf<T>(record) + quotient_.Start())) {}
 
-  void operator()(const int16_t* const* from, ptrdiff_t n, T* to) const {
-    filter::MakeRow<kVectors, kLanes>(n, to, [&](auto count, ptrdiff_t i, T* out) QVP_INLINED {
-      hn::Vec<Sum> even[count], odd[count];
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { even[v] = odd[v] = hn::Set(Sum(), start_); });
-      const int32_t* pair = pairs_;
-      for (ptrdiff_t j = 0; j < lines_; ++j) {
-        const int16_t* const line = from[j] + i;
-        for (ptrdiff_t x = 0; x < width_; x += 2) {
-          const auto factors = hn::BitCast(D(), hn::Set(Sum(), *pair++));
-          filter::Unrolled<count>([&](auto v) QVP_INLINED {
-            const int16_t* const at = line + x + v * kLanes;
-            even[v] = hn::Add(even[v], MulAddPairs(hn::LoadU(D(), at), factors));
-            odd[v] = hn::Add(odd[v], MulAddPairs(hn::LoadU(D(), at + 1), factors));
-          });
-        }
-      }
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { Store(even[v], odd[v], out + v * kLanes); });
+  template <int kCount>
+  HWY_INLINE void Run(const int16_t* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+    Sums<kCount> above, below;
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+      above.even[v] = above.odd[v] = below.even[v] = below.odd[v] = hn::Set(Sum(), start_);
     });
+    ForEachLine(mask_, lines, pairs_, (mask_.width + 1) / 2,
+                [&](const int16_t* line, const int32_t* k, const int32_t* kBelow)
+                    QVP_INLINED { Add(line + at, k, kBelow, above, below); });
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { Store(below.even[v], below.odd[v], lower + v * kLanes); });
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { Store(above.even[v], above.odd[v], upper + v * kLanes); });
   }
 
  private:
   using D = hn::ScalableTag<int16_t>;
   using Sum = hn::ScalableTag<int32_t>;
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
-  static constexpr int kVectors = 4;
+  template <int kCount>
+  struct Sums {
+    hn::Vec<Sum> even[kCount], odd[kCount];
+
+    HWY_INLINE void Add(const int16_t* from, int32_t pair) {
+      const auto factors = hn::BitCast(D(), hn::Set(Sum(), pair));
+      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+        even[v] = hn::Add(even[v], MulAddPairs(hn::LoadU(D(), from + v * kLanes), factors));
+        odd[v] = hn::Add(odd[v], MulAddPairs(hn::LoadU(D(), from + v * kLanes + 1), factors));
+      });
+    }
+  };
+
+  template <int kCount>
+  HWY_INLINE void Add(const int16_t* line, const int32_t* k, const int32_t* kBelow, Sums<kCount>& above,
+                      Sums<kCount>& below) const {
+    for (ptrdiff_t i = 0; 2 * i < mask_.width; ++i) {
+      if (k != nullptr) above.Add(line + 2 * i, k[i]);
+      if (kBelow != nullptr) below.Add(line + 2 * i, kBelow[i]);
+    }
+  }
 
   HWY_INLINE hn::Vec<Sum> Bounded(hn::Vec<Sum> sum) const {
     using Limits = std::numeric_limits<T>;
@@ -140,8 +211,8 @@ class WordSums {
     }
   }
 
+  Mask mask_;
   const int32_t* pairs_;
-  ptrdiff_t lines_, width_;
   filter::IntegerQuotient quotient_;
   int32_t start_;
 };
@@ -153,45 +224,57 @@ inline int64_t Quotient(int64_t sum, int64_t divisor, int mode) {
   return mode == qvpRoundZero || !isAway ? whole : (sum < 0) == (divisor < 0) ? whole + 1 : whole - 1;
 }
 
-// Sums in 64 bits, of large kernels alone: one after the other.
+// Sums in 64 bits, of large kernels alone.
 template <class T>
 class LongSums {
  public:
   using Form = WordRows<T>;
+  static constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<int64_t>());
+  static constexpr int kVectors = 1;
 
-  explicit LongSums(const FilterRecord& record) : record_(record), mask_(record.mask()) {}
+  explicit LongSums(const FilterRecord& record)
+      : mask_(record.mask()),
+        coefficients_(record.Coefficients<int32_t>()),
+        start_(StartOf<T>(record)),
+        divisor_(record.divisor),
+        mode_(record.mode) {}
 
-  void operator()(const int16_t* const* from, ptrdiff_t n, T* to) const {
-    constexpr ptrdiff_t kLanes = hn::MaxLanes(Long());
-    filter::MakeRow<1, kLanes>(n, to, [&](auto, ptrdiff_t i, T* out) QVP_INLINED {
-      HWY_ALIGN int64_t sums[kLanes];
-      hn::Store(SumsAt(from, i), Long(), sums);
-      for (ptrdiff_t lane = 0; lane < kLanes; ++lane) {
-        const int64_t result = Quotient(sums[lane], record_.divisor, record_.mode);
-        StoreScalar(out + lane, static_cast<T>(std::clamp<int64_t>(result, std::numeric_limits<T>::lowest(),
-                                                                   std::numeric_limits<T>::max())));
-      }
-    });
+  template <int kCount>
+  HWY_INLINE void Run(const int16_t* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+    auto above = hn::Set(Long(), start_), below = above;
+    ForEachLine(mask_, lines, coefficients_, mask_.width,
+                [&](const int16_t* line, const int32_t* k, const int32_t* kBelow) QVP_INLINED {
+                  for (ptrdiff_t x = 0; x < mask_.width; ++x) {
+                    if (k != nullptr) above = hn::Add(above, Product(line + at + x, k[x]));
+                    if (kBelow != nullptr) below = hn::Add(below, Product(line + at + x, kBelow[x]));
+                  }
+                });
+    Store(below, lower);
+    Store(above, upper);
   }
 
  private:
   using Long = hn::ScalableTag<int64_t>;
 
-  HWY_INLINE hn::Vec<Long> SumsAt(const int16_t* const* from, ptrdiff_t i) const {
+  HWY_INLINE static hn::Vec<Long> Product(const int16_t* from, int32_t factor) {
     const hn::Rebind<int32_t, Long> words;
-    auto sum = hn::Set(Long(), StartOf<T>(record_));
-    const int32_t* k = record_.Coefficients<int32_t>();
-    for (ptrdiff_t j = 0; j < mask_.lines(); ++j) {
-      for (ptrdiff_t x = 0; x < mask_.width; ++x) {
-        const auto product = hn::Mul(LoadWide(words, from[j] + i + x), hn::Set(words, *k++));
-        sum = hn::Add(sum, hn::PromoteTo(Long(), product));
-      }
+    return hn::PromoteTo(Long(), hn::Mul(LoadWide(words, from), hn::Set(words, factor)));
+  }
+  HWY_INLINE void Store(hn::Vec<Long> sum, T* to) const {
+    HWY_ALIGN int64_t sums[kLanes];
+    hn::Store(sum, Long(), sums);
+    for (ptrdiff_t lane = 0; lane < kLanes; ++lane) {
+      const int64_t result = Quotient(sums[lane], divisor_, mode_);
+      StoreScalar(to + lane, static_cast<T>(std::clamp<int64_t>(result, std::numeric_limits<T>::lowest(),
+                                                                std::numeric_limits<T>::max())));
     }
-    return sum;
   }
 
-  const FilterRecord& record_;
   Mask mask_;
+  const int32_t* coefficients_;
+  int64_t start_;
+  int32_t divisor_;
+  int mode_;
 };
 
 }  // namespace qvp::volume

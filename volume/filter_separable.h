@@ -10,7 +10,7 @@ namespace qvp::volume {
 template <class T>
 struct AxisSums {
   Mask mask;
-  FloatSums<T> across, down, through;
+  AxisSum across, down, through;
 
   explicit AxisSums(const FilterRecord& record) : mask(record.mask()) {
     const float* const x = record.Coefficients<float>();
@@ -50,7 +50,10 @@ void FilterSeparably(const FilterRecord& record, const BorderedVolume<T>& src, c
     const auto prepare = [&](const BorderedImage<T>& image, float* to, uint8_t* memory) {
       sums.Prepare(image, columns, rows, plan.step(), to, memory);
     };
-    FilterBlock(src, dst, size.depth, sums.mask, ring, columns, rows, prepare, sums.through);
+    const auto make = [&](ptrdiff_t z, ptrdiff_t y, const float* const* lines) {
+      sums.through(lines, columns.end - columns.begin, dst.Plane(z).Row(y) + columns.begin);
+    };
+    FilterBlock<1>(src, size.depth, sums.mask, ring, rows, prepare, make);
   });
 }
 
