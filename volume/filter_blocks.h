@@ -89,18 +89,17 @@ class PlaneRing {
   RowRing<E> planes_;
 };
 
-// Results of a block: prepare(plane, to, memory) prepares its rows of a plane, make(z, y, to) makes a row of plane z,
-// or all of so many rows that are made at once.
-template <int kRows, class E, class T, class Prepare, class Make>
-void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask, const PlaneRing<E>& ring, Extent rows,
+// Results of a block: prepare(plane, to, memory, then) prepares its rows of a plane, and calls then(y) as soon as rows
+// of results from y on can be made of them; make(z, y, lines) makes those of plane z.
+template <class E, class T, class Prepare, class Make>
+void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask, const PlaneRing<E>& ring,
                  const Prepare& prepare, const Make& make) {
   const ptrdiff_t behind = mask.depth - 1 - mask.before.z;
   for (ptrdiff_t next = -mask.before.z; next < depth + behind; ++next) {
-    prepare(src.Plane(next), ring.Plane(next), ring.end());
     const ptrdiff_t z = next - behind;
-    for (ptrdiff_t y = rows.begin; z >= 0 && y < rows.end; y += kRows) {
-      make(z, y, ring.Lines(z - mask.before.z, y - rows.begin));
-    }
+    prepare(src.Plane(next), ring.Plane(next), ring.end(), [&](ptrdiff_t y) {
+      if (z >= 0) make(z, y, ring.Lines(z - mask.before.z, y));
+    });
   }
 }
 
@@ -113,19 +112,23 @@ void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T
   const BlockPlan plan(mask, size);
   plan.ForEachBlock([&](Extent columns, Extent rows) {
     const PlaneRing<typename Form::Element> ring(mask, mask.height + 1, rows, plan.step(), buffer);
-    const ptrdiff_t prepared = (rows.end - rows.begin + 1) / 2 * 2 + mask.height - 1;
-    const auto prepare = [&](const BorderedImage<T>& image, auto* to, uint8_t* memory) {
+    const auto prepare = [&](const BorderedImage<T>& image, auto* to, uint8_t* memory, const auto& then) {
       BorderRows<Form, T> source(image, mask.Columns(columns), false);
       source.Start(memory);
       const ptrdiff_t first = rows.begin - mask.before.y;
-      for (ptrdiff_t j = 0; j < prepared; ++j) source.Line(first + j, to + j * plan.step());
+      ptrdiff_t line = 0;
+      for (ptrdiff_t y = 0; y < rows.end - rows.begin; y += 2) {
+        for (; line <= y + mask.height; ++line) source.Line(first + line, to + line * plan.step());
+        then(y);
+      }
     };
     const auto make = [&](ptrdiff_t z, ptrdiff_t y, const auto* const* lines) {
       const Image<T> results = dst.Plane(z);
-      filter::FilterRows(kernel, lines, columns.end - columns.begin, results.Row(y) + columns.begin,
-                         results.Row(std::min(y + 1, rows.end - 1)) + columns.begin);
+      const ptrdiff_t upper = rows.begin + y, lower = std::min(upper + 1, rows.end - 1);
+      filter::FilterRows(kernel, lines, columns.end - columns.begin, results.Row(upper) + columns.begin,
+                         results.Row(lower) + columns.begin);
     };
-    FilterBlock<2>(src, size.depth, mask, ring, rows, prepare, make);
+    FilterBlock(src, size.depth, mask, ring, prepare, make);
   });
 }
 

@@ -19,9 +19,10 @@ struct AxisSums {
     through = {x + mask.width + mask.height, mask.depth, 1, record.mode};
   }
 
-  // Sums of a block of a plane across and down, to rows `step` apart.
-  void Prepare(const BorderedImage<T>& image, Extent columns, Extent rows, ptrdiff_t step, float* to,
-               uint8_t* memory) const {
+  // Sums of a block of a plane across and down, to rows `step` apart; then(y) for each.
+  template <class Then>
+  void Prepare(const BorderedImage<T>& image, Extent columns, Extent rows, ptrdiff_t step, float* to, uint8_t* memory,
+               const Then& then) const {
     const ptrdiff_t n = columns.end - columns.begin;
     const auto lines = reinterpret_cast<const float**>(AtBoundary(memory));
     const RowRing<float> ring{AtBoundary(reinterpret_cast<float*>(lines + mask.height)), step, mask.height};
@@ -34,8 +35,8 @@ struct AxisSums {
       if (y < full) continue;
       const float* row = ring.Row(y - mask.height + 1);
       for (int j = 0; j < mask.height; ++j, row = ring.Next(row)) lines[j] = row;
-      down(lines, n, to);
-      to += step;
+      down(lines, n, to + (y - full) * step);
+      then(y - full);
     }
   }
 };
@@ -47,13 +48,13 @@ void FilterSeparably(const FilterRecord& record, const BorderedVolume<T>& src, c
   const BlockPlan plan(sums.mask, size);
   plan.ForEachBlock([&](Extent columns, Extent rows) {
     const PlaneRing<float> ring(sums.mask, 1, rows, plan.step(), buffer);
-    const auto prepare = [&](const BorderedImage<T>& image, float* to, uint8_t* memory) {
-      sums.Prepare(image, columns, rows, plan.step(), to, memory);
+    const auto prepare = [&](const BorderedImage<T>& image, float* to, uint8_t* memory, const auto& then) {
+      sums.Prepare(image, columns, rows, plan.step(), to, memory, then);
     };
     const auto make = [&](ptrdiff_t z, ptrdiff_t y, const float* const* lines) {
-      sums.through(lines, columns.end - columns.begin, dst.Plane(z).Row(y) + columns.begin);
+      sums.through(lines, columns.end - columns.begin, dst.Plane(z).Row(rows.begin + y) + columns.begin);
     };
-    FilterBlock<1>(src, size.depth, sums.mask, ring, rows, prepare, make);
+    FilterBlock(src, size.depth, sums.mask, ring, prepare, make);
   });
 }
 
