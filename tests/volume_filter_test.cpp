@@ -146,43 +146,52 @@ test::Real Saturated(const Element& element, test::Real value) {
   return 0 + (value > element.lowest ? std::min(value, element.highest) : element.lowest);  // NaN is the lowest
 }
 
+void Fill(const Element& element, const Voxels& voxels, uint64_t seed, bool hasEdges) {
+  test::Random random(seed);
+  voxels.ForEach([&](int x, int y, int z) {
+    const bool isEdge = random.Next() % 16 == 0 && hasEdges;
+    element.write(voxels.At(x, y, z), isEdge ? test::EdgeValue(element, random) : test::PlainValue(element, random));
+  });
+}
+
+void CheckResult(const Export& function, const Request& r, const Reference& reference, const Voxels& dst) {
+  const Element& element = Name(function.name).From();
+  const auto [width, height, depth] = r.kernel;
+  dst.ForEach([&, kw = width, kh = height, kd = depth](int x, int y, int z) {
+    const test::Real found = element.read(dst.At(x, y, z)), expected = Saturated(element, reference.At(x, y, z));
+    ASSERT_TRUE(test::AreSame(found, expected))
+        << found << " for " << expected << ' ' << function.name << " width " << r.size.width << " kernel " << kw << 'x'
+        << kh << 'x' << kd << " kind " << static_cast<int>(r.kind) << " border " << r.border << " at " << x << ',' << y
+        << ',' << z;
+  });
+}
+
 void Check(const Export& function, const Request& r) {
   const Element& element = Name(function.name).From();
   const bool isOfPlanes = function.name.ends_with("PV");
-  const QvprPoint before{r.kernel.width - 1 - r.anchor.x, r.kernel.height - 1 - r.anchor.y,
-                         r.kernel.depth - 1 - r.anchor.z};
+  const auto [ax, ay, az] = r.anchor;
+  const QvprPoint before{r.kernel.width - 1 - ax, r.kernel.height - 1 - ay, r.kernel.depth - 1 - az};
   const Surrounded src(r.size, before, r.anchor, r.border, element.bytes, r.isCoronal);
   const Voxels dst(r.size, element.bytes, 0, r.isCoronal);
-  test::Random random(r.size.width + r.border);
-  src.all.ForEach([&](int x, int y, int z) {
-    const bool isEdge = random.Next() % 16 == 0 && r.size.width % 4 == 1;
-    const auto value = isEdge ? test::EdgeValue(element, random) : test::PlainValue(element, random);
-    element.write(src.all.At(x, y, z), value);
-  });
+  Fill(element, src.all, r.size.width + r.border, r.size.width % 4 == 1);
   uint8_t constant[4] = {200, 100, 50, 66};
   const Prepared prepared = PreparedFor(r, element.code);
   Planes from(src.all, src.origin().z), to(dst, 0);
-  std::vector<test::Named> arguments = {{"srcStep", isOfPlanes ? from.step() : src.all.step},
-                                        {"srcPlaneStep", src.all.planeStep},
-                                        {"dstStep", isOfPlanes ? to.step() : dst.step},
-                                        {"dstPlaneStep", dst.planeStep},
-                                        {"dstVolume", r.size},
-                                        {"borderType", r.border},
-                                        {"borderValue", {constant}},
-                                        {"pSpec", {prepared.record<uint8_t>()}},
-                                        {"pBuffer", {prepared.buffer()}}};
-  arguments.push_back({"pSrc", {isOfPlanes ? from.at(src.origin().x, src.origin().y) : src.first()}});
-  arguments.push_back({"pDst", {isOfPlanes ? to.at(0, 0) : dst.block.data()}});
-  ASSERT_EQ(function(arguments), 0) << function.name;
+  ASSERT_EQ(function({{"pSrc", {isOfPlanes ? from.at(src.origin().x, src.origin().y) : src.first()}},
+                      {"srcStep", isOfPlanes ? from.step() : src.all.step},
+                      {"srcPlaneStep", src.all.planeStep},
+                      {"pDst", {isOfPlanes ? to.at(0, 0) : dst.block.data()}},
+                      {"dstStep", isOfPlanes ? to.step() : dst.step},
+                      {"dstPlaneStep", dst.planeStep},
+                      {"dstVolume", r.size},
+                      {"borderType", r.border},
+                      {"borderValue", {constant}},
+                      {"pSpec", {prepared.record<uint8_t>()}},
+                      {"pBuffer", {prepared.buffer()}}}),
+            0)
+      << function.name;
   if (isOfPlanes) to.CopyBack();
-  const Reference reference(r, src, element, constant);
-  dst.ForEach([&](int x, int y, int z) {
-    const test::Real found = element.read(dst.At(x, y, z)), expected = Saturated(element, reference.At(x, y, z));
-    ASSERT_TRUE(test::AreSame(found, expected))
-        << found << " for " << expected << ' ' << function.name << ' ' << r.size.width << 'x' << r.size.height << 'x'
-        << r.size.depth << " kernel " << r.kernel.width << 'x' << r.kernel.height << 'x' << r.kernel.depth << " kind "
-        << static_cast<int>(r.kind) << " border " << r.border << " at " << x << ',' << y << ',' << z;
-  });
+  CheckResult(function, r, Reference(r, src, element, constant), dst);
 }
 
 constexpr QvprVolume kKernels[] = {{3, 3, 3}, {1, 1, 1}, {2, 4, 2}, {5, 1, 3}, {1, 3, 4}, {4, 2, 1}, {5, 4, 3}};

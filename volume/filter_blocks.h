@@ -79,8 +79,8 @@ class PlaneRing {
     return lines_;
   }
 
-  // Behind the planes.
-  uint8_t* end() const { return reinterpret_cast<uint8_t*>(planes_.at + depth_ * planes_.step); }
+  // The boundary behind the planes.
+  uint8_t* end() const { return AtBoundary(reinterpret_cast<uint8_t*>(planes_.at + depth_ * planes_.step)); }
 
  private:
   int depth_, height_;
