@@ -13,6 +13,8 @@ struct Coverage {
   double begin, each, end;
 
   ptrdiff_t Pixels() const { return 1 + whole + (end > 0); }
+  // What is covered of the pixel k behind the first.
+  double Part(ptrdiff_t k) const { return k == 0 ? begin : k <= whole ? each : k == whole + 1 ? end : 0; }
   double Total() const { return begin + each * static_cast<double>(whole) + end; }
 };
 

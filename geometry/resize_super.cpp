@@ -142,6 +142,8 @@ void AreaTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile&
 
 template void AreaTile(const ResizeCall<uint8_t>&, const ResizeRecord&, const Tile&);
 template void AreaTile(const ResizeCall<uint16_t>&, const ResizeRecord&, const Tile&);
+template void AreaTile(const ResizeCall<int16_t>&, const ResizeRecord&, const Tile&);
+template void AreaTile(const ResizeCall<float>&, const ResizeRecord&, const Tile&);
 
 namespace {
 

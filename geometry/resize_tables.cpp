@@ -5,6 +5,7 @@
 #include <cstring>
 #include <numeric>
 
+#include "geometry/resize_coverage.h"
 #include "geometry/resize_tap_weights.h"
 
 namespace qvp::resize {
@@ -13,7 +14,7 @@ namespace {
 // Hands out the places of the tables, one behind the other.
 class Tables {
  public:
-  explicit Tables(ResizeRecord& record) : base_(reinterpret_cast<uint8_t*>(&record)) {}
+  Tables(ResizeRecord& record, int64_t at) : base_(reinterpret_cast<uint8_t*>(&record)), next_(at) {}
 
   template <class T>
   T* Take(int64_t count, uint32_t* low, uint32_t* high) {
@@ -38,7 +39,7 @@ class Tables {
 
  private:
   uint8_t* base_;
-  int64_t next_ = kTablesAt;
+  int64_t next_;
 };
 
 void FillNearest(ResizeAxis& axis, Tables& tables) {
@@ -86,14 +87,16 @@ void FillFractions(const ResizeRecord& record, ResizeAxis& axis, Tables& tables)
   for (ptrdiff_t d = 0; d < axis.destination; ++d) w[d] = static_cast<W>(record.Distance(axis, d, first[d]));
 }
 
+void FillLinearWeights(const ResizeRecord& record, ResizeAxis& axis, WeightKind kind, Tables& tables) {
+  if (kind == WeightKind::kFixed) FillFixedWeights(record, axis, tables);
+  if (kind == WeightKind::kFloat) FillFractions<float>(record, axis, tables);
+  if (kind == WeightKind::kDouble) FillFractions<double>(record, axis, tables);
+}
+
 void FillLinear(ResizeRecord& record, WeightKind kind, Tables& tables) {
   FillLinearIndex(record, record.rows, tables);
   FillLinearIndex(record, record.columns, tables);
-  for (ResizeAxis* axis : {&record.rows, &record.columns}) {
-    if (kind == WeightKind::kFixed) FillFixedWeights(record, *axis, tables);
-    if (kind == WeightKind::kFloat) FillFractions<float>(record, *axis, tables);
-    if (kind == WeightKind::kDouble) FillFractions<double>(record, *axis, tables);
-  }
+  for (ResizeAxis* axis : {&record.rows, &record.columns}) FillLinearWeights(record, *axis, kind, tables);
 }
 
 // Most and fewest taps of any position, and the positions that need a border.
@@ -247,15 +250,48 @@ void FillHeader(ResizeRecord& record, const AxisLengths& columns, const AxisLeng
 
 }  // namespace
 
-int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method) {
+int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method,
+                   int64_t at) {
   FillHeader(record, columns, rows, method);
-  Tables tables(record);
+  Tables tables(record, at);
   if (FillTables(record, method, tables)) return tables.bytes();
   method.weights = WeightKind::kFloat;
   FillHeader(record, columns, rows, method);
-  Tables floats(record);
+  Tables floats(record, at);
   FillTables(record, method, floats);
   return floats.bytes();
+}
+
+void FillFurtherAxis(ResizeRecord& record, ResizeAxis& axis, const AxisLengths& lengths, const Method& method,
+                     int64_t at) {
+  axis = {};
+  SetLengths(axis, lengths);
+  Tables tables(record, at);
+  if (method.HasPlainTaps()) {
+    FillTapIndex(record, axis, method, tables);
+    FillFloatTaps(record, axis, method, tables);
+  } else if (method.interpolation == qvpInterpolationLinear) {
+    FillLinearIndex(record, axis, tables);
+    FillLinearWeights(record, axis, method.weights, tables);
+  } else if (method.interpolation == qvpInterpolationNearest) {
+    FillNearest(axis, tables);
+  }
+}
+
+int64_t FillAreas(ResizeRecord& record, ResizeAxis& axis, int64_t at) {
+  Tables tables(record, at);
+  const ptrdiff_t n = axis.destination, plane = PlaneOf(n);
+  axis.taps = static_cast<int32_t>(axis.p / axis.q + std::min(axis.p % axis.q, 2));
+  axis.certainTaps = axis.taps;
+  int32_t* index = tables.TakeIndex(axis, plane);
+  auto* weights = tables.TakeWeights<float>(axis, plane * axis.taps);
+  for (ptrdiff_t d = 0; d < n; ++d) {
+    const Coverage coverage = PeriodicCoverage(axis, d);
+    index[d] = static_cast<int32_t>(coverage.first);
+    axis.certainTaps = std::min(axis.certainTaps, static_cast<int32_t>(coverage.Pixels()));
+    for (int k = 0; k < axis.taps; ++k) weights[k * plane + d] = static_cast<float>(coverage.Part(k));
+  }
+  return tables.bytes();
 }
 
 }  // namespace qvp::resize

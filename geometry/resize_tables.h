@@ -37,10 +37,19 @@ struct AxisLengths {
 };
 
 // Fills all of a record but its tag, and tells its bytes. Fixed-point weights that do not fit 16 bits become
-// floating-point ones.
-int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method);
+// floating-point ones. The tables begin `at` bytes behind the record's beginning.
+int64_t FillRecord(ResizeRecord& record, const AxisLengths& columns, const AxisLengths& rows, Method method,
+                   int64_t at = kTablesAt);
 inline int64_t FillRecord(ResizeRecord& record, Size src, Size dst, const Method& method) {
   return FillRecord(record, AxisLengths(src.width, dst.width), AxisLengths(src.height, dst.height), method);
 }
+
+// Fills an axis beside those of a record, and its tables, `at` bytes behind the record's beginning. Areas have none.
+void FillFurtherAxis(ResizeRecord& record, ResizeAxis& axis, const AxisLengths& lengths, const Method& method,
+                     int64_t at);
+
+// Gives an axis tables of areas for all of its positions, a plane of weights for each pixel that one may cover, and
+// tells where they end.
+int64_t FillAreas(ResizeRecord& record, ResizeAxis& axis, int64_t at);
 
 }  // namespace qvp::resize

@@ -1,5 +1,5 @@
 /** @file qvpi_volume.h
- *  Volumes: copies with a border, general filters, medians, affine warps, remap, and transforms in space.
+ *  Volumes: copies with a border, resizing, general filters, medians, affine warps, remap, and transforms in space.
  *
  *  The conventions of every function are told in qvpi_core.h. Beyond them, of volumes:
  *
@@ -66,6 +66,134 @@ QvpStatus qvprCopyConstBorder_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPl
 QvpStatus qvprCopyConstBorder_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, QvprVolume srcVolume, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprVolume dstVolume, int topBorderHeight, int leftBorderWidth, int frontBorderDepth, Qvp32f value);
 /** @} */
 
+/** @name Volumes: resizing, records
+ *  @{ */
+/** Prepares a change of spacing: of a whole source to a whole destination, of which the resizing functions then make any
+ *  part.
+ *
+ *  With n voxels of the source and m of the destination along an axis, destination voxel d lies at the source's
+ *  coordinate (d + 0.5) n / m - 0.5, computed in double with n / m in lowest terms: the outer faces of the two volumes
+ *  coincide. The methods:
+ *  - **Nearest** takes voxel ((2 d + 1) n - 1) div (2 m), the lower one of two equally near. 5 to 3 takes 0, 2, 4.
+ *  - **Linear** weights the two voxels around the coordinate by their distances. 2 voxels of 0 and 100 become 0, 25, 75
+ *    and 100 of 4.
+ *  - **Cubic** weights four voxels by the splines of Mitchell and Netravali (Reconstruction filters in computer graphics,
+ *    1988) with B and C. B = 0, C = 0.5 is the Catmull-Rom spline, which passes through the voxels.
+ *  - **Lanczos** weights four or six voxels by sinc(t) sinc(t / lobes), divided by the sum of the weights.
+ *  - **Super** averages what a destination voxel covers of the source, partly covered voxels by their parts. It only
+ *    reduces. 3 voxels of 10, 20 and 60 become 13 and 47 of 2.
+ *
+ *  The weights are those of qvpiResize, and so is the result of an image of one plane. There is no least length: one
+ *  plane is enough. qvprResizeGetSize tells the size of a record, with 64 spare bytes, so memory of any alignment will
+ *  do. A record holds no address and can be copied to memory of the same alignment to 64 bytes.
+ *
+ *  @param srcVolume size of the whole source
+ *  @param dstVolume size of the whole destination
+ *  @param dataType of the voxels: qvp8u, qvp16u, qvp16s or qvp32f
+ *  @param interpolation qvpInterpolationNearest, ...Linear, ...Cubic, ...Super or ...Lanczos
+ *  @param valueB,valueC parameters of the splines
+ *  @param numLobes 2 or 3
+ *  @param pSpecSize size of a record in bytes
+ *  @param pSpec record to be made; no function takes what a refused call leaves
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: the last argument is null
+ *  - qvpStatusSize: a length is below 1
+ *  - qvpStatusDataType: `dataType` is none of the above
+ *  - qvpStatusInterpolation: qvprResizeGetSize: `interpolation` is none of the above
+ *  - qvpStatusBadArgument: `valueB` or `valueC` is not finite
+ *  - qvpStatusNotSupportedMode: `numLobes` is neither 2 nor 3
+ *  - qvpStatusSizeOverflow: a length is above 33554431; qvprResizeGetSize: the size is above 2147483647. The size is 0
+ *    then
+ *  - qvpStatusSize: averages, and a length of the destination is above that of the source
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprResizeGetSize(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, QvpiInterpolationType interpolation, int* pSpecSize);
+QvpStatus qvprResizeNearestInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, QvprResizeSpec* pSpec);
+QvpStatus qvprResizeLinearInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, QvprResizeSpec* pSpec);
+QvpStatus qvprResizeCubicInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, Qvp32f valueB, Qvp32f valueC, QvprResizeSpec* pSpec);
+QvpStatus qvprResizeLanczosInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, Qvp32u numLobes, QvprResizeSpec* pSpec);
+QvpStatus qvprResizeSuperInit(QvprVolume srcVolume, QvprVolume dstVolume, QvpDataType dataType, QvprResizeSpec* pSpec);
+/** @} */
+
+/** @name Volumes: resizing, work buffer and source
+ *  @{ */
+/** **qvprResizeGetBufferSize** tells the size of the work buffer for a part of the destination, and every part that is
+ *  not larger. The size has 63 bytes to spare, so memory of any alignment will do.
+ *
+ *  **qvprResizeGetSrcCuboid** tells what a part of the destination reads inside the source, with either kind of border.
+ *  Planes of an array outside of it may be null. With linear weights planes 2 and 3 of 8, made from 4, read planes 0
+ *  to 2: depth 3 from 0 on.
+ *
+ *  @param pSpec record
+ *  @param dstVolume size of a part of the destination
+ *  @param dstCuboid part of the destination
+ *  @param pBufSize size of the work buffer in bytes
+ *  @param pSrcCuboid what is read
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a pointer is null
+ *  - qvpStatusSize: a length is below 1
+ *  - qvpStatusContextMatch: `pSpec` is not a record of resizing volumes
+ *  - qvpStatusOutOfRange: `dstCuboid` begins outside of the destination
+ *  - qvpStatusSizeOverflow: the size is above 2147483647; it is 0 then
+ *  - qvpStatusSizeWarning: a warning: the part reaches over the destination; the result is that of what lies inside
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprResizeGetBufferSize(const QvprResizeSpec* pSpec, QvprVolume dstVolume, int* pBufSize);
+QvpStatus qvprResizeGetSrcCuboid(const QvprResizeSpec* pSpec, QvprCuboid dstCuboid, QvprCuboid* pSrcCuboid);
+/** @} */
+
+/** @name Volumes: resizing
+ *  @{ */
+/** Resizes a volume, or makes a part of the result, by the method of a record.
+ *
+ *  Axes are filtered one after the other: across, down, and through the planes; averages through the planes, down, and
+ *  across, then times (float)(1 / the voxels of a cuboid). An axis of equal lengths is passed over, and its neighbours
+ *  are not read, unless the method is the cubic one with B other than 0. Parts, put together, are the whole, to the bit.
+ *
+ *  Products and sums are single floats, in the order of the voxels; the result is rounded to the nearest, ties to even,
+ *  and saturated, NaN to the lowest value (0 if unsigned). Errors before that, relative to the largest voxel: linear
+ *  3.6e-7; cubic with B and C in 0 to 1, and Lanczos 10^-6; averages of tx, ty and tz voxels an axis (tx + ty + tz + 2)
+ *  2^-24. Where only planes are resized, and their number stays, averages of integers are exact before they are rounded.
+ *  qvpInterpolationLinear of 8u works in integers, with the weights of the second voxels w = floor(16384 f) of the
+ *  fraction f of the coordinate (10^-7 added to the product), at most 0.57 from the exact value:
+ *
+ *  @code
+ *    h   = (p0 (16384 - wx) + p1 wx + 128) >> 8          across
+ *    v   = (h0 (16384 - wy) + h1 wy + 8192) >> 14        down
+ *    dst = (v0 (16384 - wz) + v1 wz + 2^19) >> 20        through the planes; if these are passed over, of h and wy
+ *  @endcode
+ *
+ *  Voxels that are not in the source are taken by the border type. In memory that may be 1 voxel beyond a face for
+ *  linear, 2 for cubic and two lobes, 3 for three lobes. The other methods need none, and check the type alone.
+ *
+ *  The volumes must not overlap.
+ *
+ *  @param pSrc,srcStep,srcPlaneStep source, at voxel (0, 0, 0) of the whole; of planes, entry k is plane k
+ *  @param pDst,dstStep,dstPlaneStep destination, at the first voxel of the part
+ *  @param dstOffset where the part begins in the whole destination
+ *  @param dstVolume size of the part; what reaches over the destination is left as it is
+ *  @param borderType qvpBorderReplicate or qvpBorderMirror, with any faces in memory, or qvpBorderInMemVolume
+ *  @param pSpec record
+ *  @param pBuffer work buffer of the size that qvprResizeGetBufferSize() tells
+ *  @return, in the order of the checks:
+ *  - qvpStatusNullPointer: a volume, an array of planes, `pSpec` or `pBuffer` is null
+ *  - qvpStatusSize: a length of `dstVolume` is below 1
+ *  - qvpStatusStep: a step is below 1
+ *  - qvpStatusBorder: `borderType` is none of the above
+ *  - qvpStatusContextMatch: `pSpec` is not a record of resizing volumes, or is one of another data type
+ *  - qvpStatusOutOfRange: `dstOffset` is not in the destination
+ *  - qvpStatusNullPointer: a plane is null that is read or written
+ *  - qvpStatusSizeWarning: a warning: the part reaches over the destination; what lies inside has been made
+ *  - qvpStatusNoError: otherwise
+ */
+QvpStatus qvprResize_8u_C1V(const Qvp8u* pSrc, int srcStep, int srcPlaneStep, Qvp8u* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_8u_C1PV(const Qvp8u* const pSrc[], int srcStep, Qvp8u* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_16u_C1V(const Qvp16u* pSrc, int srcStep, int srcPlaneStep, Qvp16u* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_16u_C1PV(const Qvp16u* const pSrc[], int srcStep, Qvp16u* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, Qvp16s* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+QvpStatus qvprResize_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
 /** @name Volumes: general filter, sizes
  *  @{ */
 /** Tells the sizes of the record and of the work buffer of a general filter of volumes: for this size of the kernel,

@@ -383,6 +383,7 @@ typedef struct QvpiFilterLeastSquaresSpec QvpiFilterLeastSquaresSpec; /**< itera
 typedef struct QvpiResizeSpec QvpiResizeSpec;             /**< resize */
 typedef struct QvpiResizeChromaSpec QvpiResizeChromaSpec; /**< resize of chroma-subsampled frames */
 typedef struct QvpiWarpSpec QvpiWarpSpec;                 /**< warps */
+typedef struct QvprResizeSpec QvprResizeSpec;             /**< resize of volumes */
 typedef struct QvpiHistogramSpec QvpiHistogramSpec;       /**< histogram */
 typedef struct QvpiLookupSpec QvpiLookupSpec;             /**< look-up through levels */
 typedef struct QvpiMomentState_64f QvpiMomentState_64f;   /**< moments */

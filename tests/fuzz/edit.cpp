@@ -151,7 +151,7 @@ void EditArgument(const Scene& scene, std::vector<Argument>& arguments, Choices&
     EditPointer(scene, place, argument, choices, spare);
   } else if (type.starts_with("QvpiSize")) {
     EditSize(scene, argument, isQuery, choices);
-  } else if (type.starts_with("QvpiPoint")) {
+  } else if (type.starts_with("QvpiPoint") || type.starts_with("QvprPoint")) {
     EditPoint(argument, isQuery || IsFreePlace(scene, name), choices);
   } else if (type.starts_with("QvprVolume")) {
     EditVolume(argument, choices);

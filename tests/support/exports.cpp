@@ -108,6 +108,7 @@ constexpr struct {
     {"qvprFilterMedian", VolumeFilterLesson},
     {"qvprGet", SpaceLesson},
     {"qvprRemap", VolumeRemapLesson},
+    {"qvprResize", VolumeResizeLesson},
     {"qvprWarp", VolumeWarpLesson},
 };
 

@@ -50,6 +50,7 @@ bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeKernelLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument);
+bool VolumeResizeLesson(Scene& scene, size_t place, Argument& argument);
 bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WarpLesson(Scene& scene, size_t place, Argument& argument);
 bool WaveletLesson(Scene& scene, size_t place, Argument& argument);

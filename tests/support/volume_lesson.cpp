@@ -44,7 +44,7 @@ const void* Numbers(Scene& scene, const std::vector<double>& numbers) {
 
 // ---- Filters: voxels around the region are in memory on any face that a scene chooses.
 
-constexpr int kReach = 2;  // of any mask or kernel
+constexpr int kReach = 3;  // of any mask, kernel or weights
 
 struct FilterManner {
   QvprVolume size, mask;
@@ -144,6 +144,99 @@ const void* FilterRecordFor(Scene& scene, const FilterManner& m) {
   }
   if (failed) throw std::runtime_error("qvprFilterBorderInit");
   return spec;
+}
+
+// ---- Resizing: the region of a scene is a plane of the whole destination.
+
+struct ResizeManner {
+  QvprVolume src, dst, tile;
+  QvprPoint at;
+  int method;
+  float b;
+  unsigned lobes;
+  QvpiBorderType border;
+};
+ResizeManner ResizeMannerOf(const Scene& scene) {
+  constexpr int kMethods[] = {qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubic,
+                              qvpInterpolationLanczos, qvpInterpolationSuper};
+  constexpr const char* kNames[] = {"Nearest", "Linear", "Cubic", "Lanczos", "Super"};
+  Random random = scene.choices();
+  int method = kMethods[random.Next() % std::size(kMethods)];
+  for (size_t i = 0; i < std::size(kNames); ++i) method = scene.Has(kNames[i]) ? kMethods[i] : method;
+  const QvprVolume dst{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
+  const auto along = [&](int n) {
+    const int lengths[] = {n, n + 1 + n / 2, 2 * n, std::max(1, n / 2)};
+    return lengths[random.Next() % (method == qvpInterpolationSuper ? 3 : 4)];
+  };
+  const QvprVolume src{along(dst.width), along(dst.height), along(dst.depth)};
+  const auto before = [&](int n) { return static_cast<int>(random.Next() % n); };
+  const QvprPoint at{before(dst.width), before(dst.height), before(dst.depth)};
+  const int kind = random.Next() % 2 ? qvpBorderMirror : qvpBorderReplicate;
+  const QvprVolume tile{dst.width - at.x, dst.height - at.y, dst.depth - at.z};
+  return {src,
+          dst,
+          tile,
+          at,
+          method,
+          random.Next() % 2 ? 0 : 0.25f,
+          2 + random.Next() % 2,
+          kind | (static_cast<int>(random.Next()) & qvpBorderInMemVolume)};
+}
+
+QvpDataType TypeOf(const Scene& scene) {
+  return scene.Has("32f") ? qvp32f : scene.Has("16s") ? qvp16s : scene.Has("16u") ? qvp16u : qvp8u;
+}
+
+// Averages of fewer voxels than a scene asks for take a longer record.
+int RecordBytes(const Scene& scene, const ResizeManner& m) {
+  int bytes = 0, most = 0;
+  qvprResizeGetSize(m.src, m.dst, TypeOf(scene), m.method, &bytes);
+  qvprResizeGetSize(m.src, {1, 1, 1}, TypeOf(scene), m.method, &most);
+  return scene.Has("Init") ? bytes + most : bytes;
+}
+
+const void* Record(Scene& scene, const ResizeManner& m) {
+  const int bytes = RecordBytes(scene, m);
+  if (scene.Has("Init")) return scene.Output(bytes);
+  auto* const spec = reinterpret_cast<QvprResizeSpec*>(scene.Input(bytes));
+  const QvpDataType type = TypeOf(scene);
+  switch (m.method) {
+    case qvpInterpolationNearest: qvprResizeNearestInit(m.src, m.dst, type, spec); break;
+    case qvpInterpolationLinear: qvprResizeLinearInit(m.src, m.dst, type, spec); break;
+    case qvpInterpolationCubic: qvprResizeCubicInit(m.src, m.dst, type, m.b, 0.5f, spec); break;
+    case qvpInterpolationLanczos: qvprResizeLanczosInit(m.src, m.dst, type, m.lobes, spec); break;
+    default: qvprResizeSuperInit(m.src, m.dst, type, spec); break;
+  }
+  return spec;
+}
+
+const void* ResizeBuffer(Scene& scene, const ResizeManner& m) {
+  const auto* const spec = static_cast<const QvprResizeSpec*>(scene.arguments[scene.function().Find("pSpec")].pointer);
+  int bytes = 0;
+  qvprResizeGetBufferSize(spec, m.tile, &bytes);
+  return scene.Input(bytes);
+}
+
+// The volumes with their steps, and other memory.
+bool ResizeMemory(Scene& scene, size_t place, const ResizeManner& m, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const QvprVolume& volume = name.starts_with("pSrc") || name.starts_with("src") ? m.src : m.tile;
+  if (name == "pSrc" || name == "pDst") {
+    argument = {Region(scene, place, volume)};
+  } else if (name == "srcStep" || name == "dstStep") {
+    argument = StepOf(Around(volume), place - 1);
+  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
+    argument = PlaneStepOf(Around(volume), place - 2);
+  } else if (name == "pSrcCuboid") {
+    argument = {scene.Output(sizeof(QvprCuboid))};
+  } else if (name == "pSpec") {
+    argument = {Record(scene, m)};
+  } else if (name == "pBuffer") {
+    argument = {ResizeBuffer(scene, m)};
+  } else {
+    return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -322,6 +415,34 @@ bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument) {
     argument = QvprCuboid{0, 0, 0, src.width, src.height, src.depth};
   } else {
     return SampledLesson(scene, place, argument);
+  }
+  return true;
+}
+
+bool VolumeResizeLesson(Scene& scene, size_t place, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const ResizeManner m = ResizeMannerOf(scene);
+  if (ResizeMemory(scene, place, m, argument)) return true;
+  if (name == "srcVolume") {
+    argument = m.src;
+  } else if (name == "dstVolume") {
+    argument = scene.Has("GetSize") || scene.Has("Init") ? m.dst : m.tile;
+  } else if (name == "dstOffset") {
+    argument = m.at;
+  } else if (name == "dstCuboid") {
+    argument = QvprCuboid{m.at.x, m.at.y, m.at.z, m.tile.width, m.tile.height, m.tile.depth};
+  } else if (name == "dataType") {
+    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
+  } else if (name == "interpolation") {
+    argument = m.method;
+  } else if (name == "numLobes") {
+    argument = m.lobes;
+  } else if (name == "valueB" || name == "valueC") {
+    argument = name == "valueB" ? m.b : 0.5f;
+  } else if (name == "borderType") {
+    argument = m.border;
+  } else {
+    return false;
   }
   return true;
 }
