@@ -88,6 +88,78 @@ void AddWarp(const std::string& name, QvpDataType code, int side, int method, Ca
        }});
 }
 
+// Resizing. The peer resizes the planes, and then these, seen as an image of a row each, through the planes.
+
+struct Resized {
+  const char* name;
+  QvpiInterpolationType interpolation;
+  int peer;
+};
+
+std::shared_ptr<Qvp8u[]> RecordOf(const Resized& method, QvprVolume from, QvprVolume to, QvpDataType type) {
+  int bytes = 0;
+  Require(qvprResizeGetSize(from, to, type, method.interpolation, &bytes));
+  auto memory = Pixels<Qvp8u>(bytes);
+  auto* const spec = reinterpret_cast<QvprResizeSpec*>(memory.get());
+  switch (method.interpolation) {
+    case qvpInterpolationNearest: Require(qvprResizeNearestInit(from, to, type, spec)); break;
+    case qvpInterpolationLinear: Require(qvprResizeLinearInit(from, to, type, spec)); break;
+    case qvpInterpolationCubic: Require(qvprResizeCubicInit(from, to, type, 0, 0.75f, spec)); break;
+    case qvpInterpolationLanczos: Require(qvprResizeLanczosInit(from, to, type, 3, spec)); break;
+    default: Require(qvprResizeSuperInit(from, to, type, spec)); break;
+  }
+  return memory;
+}
+
+template <class T>
+void ResizeAsImages(const Image<T>& src, const Image<T>& between, const Image<T>& dst, QvprVolume from, QvprVolume to,
+                    int method) {
+  for (int z = 0; z < from.depth; ++z) {
+    const cv::Mat plane = src.mat(cv::Rect(0, z * from.height, from.width, from.height));
+    cv::Mat result = between.mat(cv::Rect(0, z * to.height, to.width, to.height));
+    cv::resize(plane, result, result.size(), 0, 0, method);
+  }
+  const cv::Mat rows = between.mat.reshape(0, from.depth);
+  cv::Mat results = dst.mat.reshape(0, to.depth);
+  cv::resize(rows, results, results.size(), 0, 0, method);
+}
+
+template <class T, class Call>
+void AddResize(const char* type, QvpDataType code, const Resized& method, int side, int target, Call call) {
+  const QvprVolume from{side, side, side}, to{target, target, target};
+  const Image<T> src({side, side * side}, 1), between({target, side * target}, 1), dst({target, target * target}, 1);
+  cv::randu(src.mat, 0, 255);
+  const auto record = RecordOf(method, from, to, code);
+  auto* const spec = reinterpret_cast<QvprResizeSpec*>(record.get());
+  int bytes = 0;
+  Require(qvprResizeGetBufferSize(spec, to, &bytes));
+  const auto buffer = Pixels<Qvp8u>(bytes);
+  const std::string name = "volume, resize " + std::string(method.name) + " " + type + " to " + std::to_string(target);
+  Add({Name(name + ", " + std::to_string(side) + " planes", {side, side}),
+       {src.bytes(), dst.bytes()},
+       [=] {
+         Require(call(src.data(), src.step, src.step * side, dst.data(), dst.step, dst.step * target, {0, 0, 0}, to,
+                      qvpBorderReplicate, reinterpret_cast<const QvprResizeSpec*>(record.get()), buffer.get()));
+       },
+       {{"OpenCV resize of planes, then of all as rows",
+         [=] { ResizeAsImages(src, between, dst, from, to, method.peer); }, 1}}});
+}
+
+void AddResizes(int side) {
+  constexpr Resized kLinear{"linear", qvpInterpolationLinear, cv::INTER_LINEAR},
+      kCubic{"cubic", qvpInterpolationCubic, cv::INTER_CUBIC},
+      kLanczos{"Lanczos", qvpInterpolationLanczos, cv::INTER_LANCZOS4},
+      kSuper{"super", qvpInterpolationSuper, cv::INTER_AREA};
+  for (const int target : {side * 3 / 5, side * 3 / 2}) {
+    AddResize<uint8_t>("8u", qvp8u, kLinear, side, target, qvprResize_8u_C1V);
+    AddResize<uint16_t>("16u", qvp16u, kLinear, side, target, qvprResize_16u_C1V);
+    AddResize<float>("32f", qvp32f, kLinear, side, target, qvprResize_32f_C1V);
+  }
+  AddResize<uint16_t>("16u", qvp16u, kCubic, side, side * 3 / 5, qvprResize_16u_C1V);
+  AddResize<float>("32f", qvp32f, kLanczos, side, side * 3 / 5, qvprResize_32f_C1V);
+  AddResize<uint8_t>("8u", qvp8u, kSuper, side, side * 3 / 5, qvprResize_8u_C1V);
+}
+
 const bool kAdded = [] {
   for (const int side : {16, 64, 128}) {
     AddWarp<uint8_t>("nearest 8u", qvp8u, side, qvpInterpolationNearest, qvprWarpAffine_8u_C1V);
@@ -103,6 +175,7 @@ const bool kAdded = [] {
   }
   AddMedian<uint8_t>("8u", qvp8u, 40, 5, qvprFilterMedianBorder_8u_C1V);
   AddMedian<uint16_t>("16u", qvp16u, 40, 5, qvprFilterMedianBorder_16u_C1V);
+  AddResizes(16), AddResizes(128);
   AddBorder({16, 16, 16}), AddBorder({64, 64, 64}), AddBorder({128, 128, 128}), AddBorder({400, 400, 300});
   return true;
 }();
