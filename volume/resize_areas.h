@@ -17,8 +17,8 @@ class AreaWalk {
               resize::ColumnEdge(call.border, record_.plane), 1),
         weights_{record_.plane.Weights<float>(record_.plane.columns) + tile.x,
                  static_cast<ptrdiff_t>(resize::PlaneOf(record_.plane.columns.destination))},
-        scale_(static_cast<float>(
-            1 / (Parts(record_.plane.columns) * Parts(record_.plane.rows) * Parts(record_.depth)))) {
+        scale_(
+            static_cast<float>(1 / (Parts(record_.plane.columns) * Parts(record_.plane.rows) * Parts(record_.depth)))) {
     begin_ = record_.TapsOf(record_.plane.columns, tile.x).begin;
     width_ = record_.TapsOf(record_.plane.columns, tile.x + tile.width - 1).end - begin_;
     const auto step = static_cast<ptrdiff_t>(ResizeRoom(record_, tile.width).row / sizeof(float));

@@ -431,8 +431,6 @@ bool VolumeResizeLesson(Scene& scene, size_t place, Argument& argument) {
     argument = m.at;
   } else if (name == "dstCuboid") {
     argument = QvprCuboid{m.at.x, m.at.y, m.at.z, m.tile.width, m.tile.height, m.tile.depth};
-  } else if (name == "pSrcCuboid") {
-    argument = {scene.Output(sizeof(QvprCuboid))};
   } else if (name == "dataType") {
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "interpolation") {
