@@ -190,6 +190,7 @@ class WordSums {
   template <int kCount>
   HWY_INLINE void Add(const int16_t* line, const int32_t* k, const int32_t* kBelow, Sums<kCount>& above,
                       Sums<kCount>& below) const {
+    QVP_ROLLED
     for (ptrdiff_t i = 0; 2 * i < mask_.width; ++i) {
       if (k != nullptr) above.Add(line + 2 * i, k[i]);
       if (kBelow != nullptr) below.Add(line + 2 * i, kBelow[i]);
