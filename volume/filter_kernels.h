@@ -55,6 +55,7 @@ struct AxisSum {
       const float* k = coefficients;
       for (ptrdiff_t j = 0; j < lines; ++j) {
         const float* const line = from[j] + i;
+        QVP_ROLLED
         for (ptrdiff_t x = 0; x < width; ++x) {
           const auto factor = hn::Set(D(), *k++);
           filter::Unrolled<count>([&](auto v) QVP_INLINED {
@@ -101,6 +102,7 @@ class FloatSums {
       filter::Unrolled<kCount>(
           [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), from + v * kLanes), a)); });
     };
+    QVP_ROLLED
     for (ptrdiff_t x = 0; x < mask_.width; ++x) {
       if (k != nullptr) add(line + x, k[x], above);
       if (kBelow != nullptr) add(line + x, kBelow[x], below);
