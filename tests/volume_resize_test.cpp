@@ -179,7 +179,7 @@ void Fill(const Element& element, const Voxels& voxels) {
 void Check(const Export& function, const Request& r) {
   const Element& element = Name(function.name).From();
   const int reach = r.method.Reach();
-  Surrounded src(r.from, {reach, reach, reach}, r.border, element.bytes, r.isCoronal);
+  Surrounded src(r.from, {reach, reach, reach}, {reach, reach, reach}, r.border, element.bytes, r.isCoronal);
   Fill(element, src.all);
   Voxels whole(r.to, element.bytes, 0, r.isCoronal);
   const Record record(r.method, r.from, r.to, element.code);

@@ -58,7 +58,6 @@ struct Argument {
   Argument(QvpiPoint point) : number(point.x), second(point.y) {}
   Argument(QvprPoint point) : number(point.x), second(point.y), third(point.z) {}
   Argument(QvprVolume size) : number(size.width), second(size.height), third(size.depth) {}
-  Argument(QvprPoint point) : number(point.x), second(point.y), third(point.z) {}
   Argument(QvprCuboid c) : number(c.x), second(c.y), third(c.z), fourth(c.width), fifth(c.height), sixth(c.depth) {}
   template <class T>
   Argument(const Image<T>& image) : pointer(image.data()), number(image.step()) {}
