@@ -68,6 +68,7 @@ int main(int argc, char** argv) try {
   demo::SynthesisSteps(demo);
   demo::FourierSteps(demo);
   demo::WaveletSteps(demo);
+  demo::VolumeSteps(demo);
   demo::SavePng(demo.DrawSheet(), argv[2]);
   std::printf("contact sheet: %s\n", argv[2]);
   return 0;

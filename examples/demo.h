@@ -61,5 +61,6 @@ void HogSteps(Demo& demo);
 void SynthesisSteps(Demo& demo);
 void FourierSteps(Demo& demo);
 void WaveletSteps(Demo& demo);
+void VolumeSteps(Demo& demo);
 
 }  // namespace demo

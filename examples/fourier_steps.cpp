@@ -112,14 +112,15 @@ Plane Disc(int side) {
   return disc;
 }
 
+// All that the blur reaches, so that nothing is lost beyond the edges.
 Plane ShowOutOfFocus(Demo& demo, const Plane& image, const Plane& disc) {
   const QvpiSize size = image.size(), side = disc.size();
-  Plane blurred(size);
+  Plane blurred({size.width + side.width - 1, size.height + side.height - 1});
   int bufferBytes;
   Require(qvpiConvolveGetBufferSize(size, side, qvp32f, 1, qvpMethodAuto, &bufferBytes));
   std::vector<Qvp8u> buffer(bufferBytes);
   demo.Time(size, 4 + 4,
-            CALL(qvpiConvolveSame_32f_C1R, image.data(), image.step(), size, disc.data(), disc.step(), side,
+            CALL(qvpiConvolveFull_32f_C1R, image.data(), image.step(), size, disc.data(), disc.step(), side,
                  blurred.data(), blurred.step(), qvpMethodAuto, buffer.data()));
   demo.Show("Convolved with a disc of 15 pixels", Rounded(blurred));
   return blurred;

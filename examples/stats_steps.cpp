@@ -149,7 +149,7 @@ void Matching(Demo& demo) {
     FillBox(drawn, x - kFar, y + side, {2 * kFar + kThick, kThick}, kRed);
     FillBox(drawn, x + side, y - kFar, {kThick, 2 * kFar + kThick}, kRed);
   }
-  demo.Show("How well a piece of it fits, and where best", drawn);
+  demo.Show("How well a piece fits, and where best", drawn);
 }
 
 void Extrema(Demo& demo) {

@@ -1,5 +1,6 @@
 // Steps of qvpi_feature.h: images made by formulas, and five kinds of noise.
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "examples/demo.h"
@@ -56,6 +57,18 @@ void ShowHalved(Demo& demo) {
   demo.Show("Halved by super-sampling", half);
 }
 
+// Structural similarity, the mean of the channels.
+std::string Similarity(const Qvp8u* a, int aStep, const Rgb& b) {
+  constexpr int kWindow = 11;
+  int bytes = 0;
+  Require(qvpiSSIMGetBufferSize(b.size(), kWindow, 3, &bytes));
+  std::vector<Qvp8u> buffer(bytes);
+  double values[3];
+  Require(
+      qvpiSSIM_8u_C3R(a, aStep, b.data(), b.step(), b.size(), values, kWindow, 1.5, 6.5025, 58.5225, buffer.data()));
+  return std::to_string((values[0] + values[1] + values[2]) / 3).substr(0, 4);
+}
+
 // On the middle of the photograph.
 void ShowNoise(Demo& demo, const char* caption, QvpStatus status, const QvpiNoiseSpec* spec) {
   Require(status, caption);
@@ -64,7 +77,7 @@ void ShowNoise(Demo& demo, const char* caption, QvpStatus status, const QvpiNois
   const Qvp8u* const from = photo.At((photo.size().width - size.width) / 2, (photo.size().height - size.height) / 2);
   Rgb noisy(size);
   demo.Time(size, 3 + 3, CALL(qvpiNoise_8u_C3R, from, photo.step(), noisy.data(), noisy.step(), size, {0, 0}, 0, spec));
-  demo.Show(caption, noisy);
+  demo.Show(caption + (": SSIM " + Similarity(from, photo.step(), noisy)), noisy);
 }
 
 }  // namespace
@@ -80,7 +93,7 @@ void SynthesisSteps(Demo& demo) {
   ShowNoise(demo, "Uniform noise", qvpiNoiseUniformInit(-40, 40, 1, 0, spec), spec);
   ShowNoise(demo, "Gaussian noise", qvpiNoiseGaussInit(0, 25, 1, 0, spec), spec);
   ShowNoise(demo, "Speckle", qvpiNoiseSpeckleInit(0.2, 1, 0, spec), spec);
-  ShowNoise(demo, "Noise of photons and read-out", qvpiNoiseShotInit(4, 3, 1, 0, spec), spec);
+  ShowNoise(demo, "Photons, read-out", qvpiNoiseShotInit(4, 3, 1, 0, spec), spec);
   ShowNoise(demo, "Salt and pepper", qvpiNoiseSaltPepperInit(0.05, 0.5, 0, 255, 1, 0, spec), spec);
 }
 

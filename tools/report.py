@@ -2,7 +2,7 @@
 """Run benchmark programs and compare each row with its peer and with the machine's limit, worst first.
 
 Every row is timed several times, its parts taking turns, and the fastest time counts: other work on the machine only
-ever adds.
+ever adds. What was measured at several sizes in the caches also tells what a call, a row and a pixel cost.
 """
 import argparse
 import json
@@ -10,6 +10,9 @@ import os
 import re
 import subprocess
 from pathlib import Path
+
+import numpy
+import scipy.optimize
 
 LIMITS = ("limit", "limit streaming")
 PART = re.compile(r"(?P<row>.*) @(?P<bytes>\d+)/(?P<part>ours|peer: (?P<peer>.*) >= (?P<least>[\d.]+)|limit.*)")
@@ -58,6 +61,34 @@ def lines(name, row):
     return found or [(1000 + share, f"{start} | | | |")]
 
 
+SIZED = re.compile(r"(?P<what>.*) (?P<width>\d+)x(?P<height>\d+)")
+PIXELS_IN_CACHES = 640 * 480
+
+
+def fits(rows):
+    """{what: (ns a call, ns a row, ns a pixel)} of what was measured at three sizes or more: the costs, none below 0,
+    with the least relative errors."""
+    measured = {}
+    for name, row in rows.items():
+        match = SIZED.fullmatch(name)
+        if match and "ours" in row and int(match["width"]) * int(match["height"]) <= PIXELS_IN_CACHES:
+            width, height = int(match["width"]), int(match["height"])
+            measured.setdefault(match["what"], []).append((1, height, width * height, row["ours"]))
+    return {what: scipy.optimize.nnls(*relative(numpy.array(times)))[0] for what, times in measured.items()
+            if len(times) >= 3}
+
+
+def relative(times):
+    """Equations of costs whose results are all 1."""
+    return times[:, :3] / times[:, 3:], numpy.ones(len(times))
+
+
+def fit_lines(rows):
+    """Worst first: by how many times 30 ns a call takes, or 20 ns a row."""
+    ranked = sorted(fits(rows).items(), key=lambda item: -max(item[1][0] / 30, item[1][1] / 20))
+    return [f"| {what} | {call:.0f} | {row:.1f} | {pixel:.3f} |" for what, (call, row, pixel) in ranked]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--library", type=Path, required=True, help="folder of the CPU build to measure")
@@ -77,6 +108,7 @@ def main():
     text += ["", "| row | ours, ns | GB/s | of the limit | peer | peer / ours | at least | |", "|---|---|---|---|---|---|---|---|"]
     compared = [ranked for name, row in rows.items() if "ours" in row for ranked in lines(name, row)]
     text += [line for _, line in sorted(compared)]
+    text += ["", "| what | a call, ns | a row, ns | a pixel, ns |", "|---|---|---|---|", *fit_lines(rows)]
     options.out.parent.mkdir(parents=True, exist_ok=True)
     options.out.write_text("\n".join(text) + "\n")
     print("\n".join(text))
