@@ -79,16 +79,27 @@ class BlockSampler {
     }
   }
 
-  // Points whose taps all lie in memory, and others, in turn.
+  // Where a point's value comes from: from nowhere, or the constant alone; from taps that all lie in memory; from taps
+  // that need a test.
+  enum class Origin : uint8_t { kNone, kConstant, kInside, kApart };
+
+  Origin OriginOf(ptrdiff_t i) const {
+    if (source_.isBounded && !isWritten_[i]) return Origin::kNone;
+    if (Has(0, tap_[0][i], kRead) && Has(1, tap_[1][i], kTaps) && Has(2, tap_[2][i], kTaps)) return Origin::kInside;
+    return IsConstant(i) ? Origin::kConstant : Origin::kApart;
+  }
   HWY_NOINLINE void SampleByRuns(ptrdiff_t n) {
-    for (ptrdiff_t i = 0; i < n; ++i) {
-      isInside_[i] = Has(0, tap_[0][i], kRead) && Has(1, tap_[1][i], kTaps) && Has(2, tap_[2][i], kTaps);
-    }
+    for (ptrdiff_t i = 0; i < n; ++i) origin_[i] = OriginOf(i);
     for (ptrdiff_t first = 0, end; first < n; first = end) {
-      const bool isInside = isInside_[first];
+      const Origin origin = origin_[first];
       end = first + 1;
-      while (end < n && isInside_[end] == isInside) ++end;
-      if (!isInside || !SampleInside(first, end)) SampleApart(first, end);
+      while (end < n && origin_[end] == origin) ++end;
+      if (origin == Origin::kNone) continue;
+      if (origin == Origin::kConstant) {
+        std::fill(values_ + first, values_ + end, source_.constant);
+      } else if (origin == Origin::kApart || !SampleInside(first, end)) {
+        SampleApart(first, end);
+      }
     }
   }
 
@@ -190,9 +201,6 @@ class BlockSampler {
         taps.base[k] = reinterpret_cast<const uint8_t*>(patches + k * kTaps * kTaps), taps.offset[k] = offset_[0];
       }
       Blend(taps, from, n);
-      for (ptrdiff_t i = from; i < from + n; ++i) {
-        if (IsConstant(i)) values_[i] = source_.constant;
-      }
     }
   }
 
@@ -310,7 +318,8 @@ class BlockSampler {
   alignas(64) int32_t tap_[3][kBlockRoom], offset_[kTaps][kBlockRoom];
   alignas(64) F fraction_[3][kBlockRoom];
   alignas(64) T values_[kBlockRoom];
-  bool isInside_[kBlockRoom], isWritten_[kBlockRoom];
+  Origin origin_[kBlockRoom];
+  bool isWritten_[kBlockRoom];
 };
 
 // Rows of points: make(points, x, n) gives n of them from x on.
