@@ -4,17 +4,13 @@
 
 #include "base/scalar.h"
 #include "geometry/sample_border.h"
-#include "geometry/sample_bytes.h"
-#include "geometry/sample_floats.h"
 #include "geometry/sample_places.h"
 #include "volume/border.h"
+#include "volume/sample_blend.h"
 
 namespace qvp::volume {
 
-using sampling::FractionOf;
-using sampling::RowTaps;
 using sampling::TapsOf;
-using sampling::Weigher;
 
 // What the points of a call are taken from.
 template <class T>
@@ -33,8 +29,8 @@ struct Source {
   }
 };
 
-// Points of a block, and behind them room for the longest vectors.
-inline constexpr ptrdiff_t kBlockPoints = 128, kBlockRoom = kBlockPoints + 64, kPatchPoints = 16;
+// Points whose taps are copied at a time.
+inline constexpr ptrdiff_t kPatchPoints = 16;
 
 struct PointArrays {
   alignas(64) double at[3][kBlockRoom];
@@ -43,7 +39,7 @@ struct PointArrays {
 template <int kTaps, class T>
 class BlockSampler {
  public:
-  explicit BlockSampler(const Source<T>& source) : source_(source), weigh_(source.cubic) {}
+  explicit BlockSampler(const Source<T>& source) : source_(source), blend_(source.cubic) {}
 
   // Values at n points to as many voxels.
   void operator()(PointArrays& points, ptrdiff_t n, T* dst) {
@@ -63,6 +59,7 @@ class BlockSampler {
   using F = FractionOf<kTaps, T>;
   using D = hn::ScalableTag<float>;
   using Ints = hn::ScalableTag<int32_t>;
+  using Taps = BlockTaps<kTaps>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   static constexpr int kBefore = sampling::kTapsBefore(kTaps);
   static constexpr int kPatch = kTaps * kTaps * kTaps;
@@ -127,7 +124,7 @@ class BlockSampler {
       least = hn::Min(least, tap);
       most = hn::Max(most, tap);
       hn::StoreU(tap, Ints(), tap_[axis] + i);
-      if constexpr (kTaps > 1) hn::StoreU(split.fraction, hn::Rebind<F, D>(), fraction_[axis] + i);
+      if constexpr (kTaps > 1) hn::StoreU(split.fraction, hn::Rebind<F, D>(), blend_.fraction[axis] + i);
     }
     return hn::GetLane(hn::MinOfLanes(Ints(), least)) >= extent.begin &&
            hn::GetLane(hn::MaxOfLanes(Ints(), most)) + (axis == 0 ? kRead : kTaps) <= extent.end;
@@ -150,7 +147,7 @@ class BlockSampler {
     const auto* const base = reinterpret_cast<const uint8_t*>(volume.front.data);
     for (int k = 0; k < kTaps; ++k)
       taps.base[k] = base + k * static_cast<ptrdiff_t>(planeStep), taps.offset[k] = offset_[0];
-    Blend(taps, first, end - first);
+    blend_(taps, first, end - first, values_ + first);
     return true;
   }
 
@@ -181,7 +178,7 @@ class BlockSampler {
     if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
     Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
     for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
-    Blend(taps, first, end - first);
+    blend_(taps, first, end - first, values_ + first);
     return true;
   }
 
@@ -200,7 +197,7 @@ class BlockSampler {
       for (int k = 0; k < kTaps; ++k) {
         taps.base[k] = reinterpret_cast<const uint8_t*>(patches + k * kTaps * kTaps), taps.offset[k] = offset_[0];
       }
-      Blend(taps, from, n);
+      blend_(taps, from, n, values_ + from);
     }
   }
 
@@ -232,91 +229,9 @@ class BlockSampler {
     }
   }
 
-  // ---- The formulas: n values from values_[first] on.
-
-  // Where taps lie: those of plane k at offset[k][i] from base[k], rows `step` bytes from each other.
-  struct Taps {
-    ptrdiff_t step;
-    const uint8_t* base[kTaps];
-    int32_t* offset[kTaps];
-  };
-
-  void Blend(const Taps& taps, ptrdiff_t first, ptrdiff_t n) {
-    for (int32_t* const offset : taps.offset) std::fill(offset + n, offset + n + 4 * kLanes, offset[n - 1]);
-    if constexpr (kTaps == 1) {
-      const uint8_t* const base = taps.base[0];
-      const int32_t* const offset = taps.offset[0];
-      T* const to = values_ + first;
-      for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, base + offset[i], sizeof(T));
-    } else {
-      alignas(64) T staged[kBlockRoom];
-      if constexpr (sampling::kIsWhole<F>) {
-        BlendBytes(taps, first, n, staged);
-      } else {
-        BlendNumbers(taps, first, n, staged);
-      }
-      std::memcpy(values_ + first, staged, n * sizeof(T));
-    }
-  }
-
-  // Sums along columns, rows and planes, in this order.
-  HWY_INLINE hn::Vec<D> SumAt(const Taps& at, ptrdiff_t first, ptrdiff_t i) const {
-    const D d;
-    hn::Vec<D> weights[3][kTaps], total = hn::Zero(d);
-    for (int k = 0; k < 3; ++k) weigh_(d, hn::LoadU(d, fraction_[k] + first + i), weights[k]);
-    for (int z = 0; z < kTaps; ++z) {
-      hn::Vec<D> plane = hn::Zero(d);
-      for (int y = 0; y < kTaps; ++y) {
-        const RowTaps<kTaps, 1, T, D> taps(d, at.base[z] + y * at.step, at.offset[z] + i);
-        hn::Vec<D> row = hn::Mul(taps.At(0, 0), weights[0][0]);
-        for (int x = 1; x < kTaps; ++x) row = hn::Add(row, hn::Mul(taps.At(x, 0), weights[0][x]));
-        plane = y == 0 ? hn::Mul(row, weights[1][0]) : hn::Add(plane, hn::Mul(row, weights[1][y]));
-      }
-      total = z == 0 ? hn::Mul(plane, weights[2][0]) : hn::Add(total, hn::Mul(plane, weights[2][z]));
-    }
-    return total;
-  }
-
-  HWY_NOINLINE void BlendNumbers(const Taps& taps, ptrdiff_t first, ptrdiff_t n, T* to) const {
-    const Taps at = taps;  // copies, which stores of values cannot change
-    constexpr int kParts = kVectorsAtOnce<T, float>;
-    for (ptrdiff_t i = 0; i < n; i += kParts * kLanes) {
-      const auto part = [&](ptrdiff_t k) HWY_ATTR { return SumAt(at, first, i + k * kLanes); };
-      hn::StoreU(NarrowParts<T>(D(), part), hn::CappedTag<T, kLanes * kParts>(), to + i);
-    }
-  }
-
-  // As bytes of images, with a third step between planes.
-  HWY_INLINE auto BlendAlternate(const Taps& taps, ptrdiff_t first, ptrdiff_t i, ptrdiff_t j) const {
-    const auto fraction = [&](int axis) HWY_ATTR {
-      return sampling::Alternate(hn::LoadU(Ints(), fraction_[axis] + first + i),
-                                 hn::LoadU(Ints(), fraction_[axis] + first + j));
-    };
-    const auto x = fraction(0), y = fraction(1), z = fraction(2);
-    const auto plane = [&](int k) HWY_ATTR {
-      const auto even = hn::LoadU(Ints(), taps.offset[k] + i), odd = hn::LoadU(Ints(), taps.offset[k] + j);
-      const auto row = [&](const uint8_t* at) HWY_ATTR {
-        return sampling::BetweenTaps(GatherWords(Ints(), at, even), GatherWords(Ints(), at, odd), x);
-      };
-      return sampling::Between(row(taps.base[k]), row(taps.base[k] + taps.step), y);
-    };
-    return sampling::ToWhole(sampling::Between(plane(0), plane(1), z));
-  }
-  HWY_NOINLINE void BlendBytes(const Taps& from, ptrdiff_t first, ptrdiff_t n, T* to) const {
-    const Taps taps = from;  // copies, which stores of values cannot change
-    const hn::ScalableTag<uint8_t> bytes;
-    for (ptrdiff_t i = 0; i < n; i += 4 * kLanes) {
-      const auto lower = BlendAlternate(taps, first, i, i + 2 * kLanes);
-      const auto upper = BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes);
-      hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes,
-                 reinterpret_cast<uint8_t*>(to) + i);
-    }
-  }
-
   const Source<T>& source_;
-  Weigher<kTaps == 1 ? 2 : kTaps, float> weigh_;
+  Blender<kTaps, T> blend_;
   alignas(64) int32_t tap_[3][kBlockRoom], offset_[kTaps][kBlockRoom];
-  alignas(64) F fraction_[3][kBlockRoom];
   alignas(64) T values_[kBlockRoom];
   Origin origin_[kBlockRoom];
   bool isWritten_[kBlockRoom];
