@@ -137,7 +137,9 @@ void SpectralSums<T>::AddPiece(int channel, ptrdiff_t x, ptrdiff_t y, const doub
     for (ptrdiff_t row = of.begin; row < of.end; ++row, from += Row::kRowStep) {
       auto* const to = tile.Row(row - top) + (column - left);
       if (end - begin < kLines) {
-        for (ptrdiff_t i = begin; i < end; ++i) AddNumbers<T>(hn::CappedTag<double, 1>(), from + i, to + i);
+        matching::Sum<T> staged[kLines] = {};
+        for (ptrdiff_t i = 0; i < kLines; i += Row::kLanes) AddNumbers<T>(Row::D(), from + i, staged + i);
+        for (ptrdiff_t i = begin; i < end; ++i) to[i] += staged[i];
       } else {
         for (ptrdiff_t i = 0; i < kLines; i += Row::kLanes) AddNumbers<T>(Row::D(), from + i, to + i);
       }
