@@ -14,11 +14,13 @@ using test::Name;
 using test::Real;
 using test::Samples;
 
+constexpr Real kPi = 3.14159265358979323846264338327950288L;
+
 // What a pixel is before it is rounded.
 Real Exact(const Element& element, QvpiSize image, int minPeriod, int64_t x, int64_t y) {
   const int64_t across = 2 * x - (image.width - 1), down = 2 * y - (image.height - 1);
   const int64_t divisor = int64_t{4} * minPeriod * std::min(image.width, image.height);
-  const Real c = std::cos(2 * M_PIl * ((across * across + down * down) % divisor) / divisor);
+  const Real c = std::cos(2 * kPi * ((across * across + down * down) % divisor) / divisor);
   if (!element.isInteger) return (1 + c) / 2;
   return element.lowest + (element.highest - element.lowest) * (1 + c) / 2;
 }
