@@ -14,15 +14,22 @@ struct Affine {
   double c[3][4];
 
   Affine() = default;
-  explicit Affine(const double (*coeffs)[4]) { std::copy(coeffs[0], coeffs[0] + 12, c[0]); }
-  void CopyTo(double (*coeffs)[4]) const { std::copy(c[0], c[0] + 12, coeffs[0]); }
+  explicit Affine(const double (*coeffs)[4]) {
+    for (int i = 0; i < 3; ++i) std::copy(coeffs[i], coeffs[i] + 4, c[i]);
+  }
+  void CopyTo(double (*coeffs)[4]) const {
+    for (int i = 0; i < 3; ++i) std::copy(c[i], c[i] + 4, coeffs[i]);
+  }
 
   double Of(int row, const Point& p) const {
     return (c[row][0] * p.x + c[row][1] * p.y) + (c[row][2] * p.z + c[row][3]);
   }
 
   bool IsFinite() const {
-    return std::all_of(c[0], c[0] + 12, [](double x) { return std::isfinite(x); });
+    for (const auto& row : c) {
+      if (!std::all_of(row, row + 4, [](double x) { return std::isfinite(x); })) return false;
+    }
+    return true;
   }
   // Of the determinant: what the coefficient is multiplied by.
   double Cofactor(int row, int column) const {
