@@ -74,6 +74,7 @@ class Trial {
   void CheckAgain(const test::Call* calls, QvpStatus expected) const;
   bool ConsistsOfPixels() const;
   bool IsSameByPixels();
+  ptrdiff_t StepBehind(size_t place) const;
   bool AreSame(const Memory& memory) const;
   void Restore() const;
   void SetPoison(bool on) const;
