@@ -194,6 +194,8 @@ QvpStatus qvprResize_16s_C1V(const Qvp16s* pSrc, int srcStep, int srcPlaneStep, 
 QvpStatus qvprResize_16s_C1PV(const Qvp16s* const pSrc[], int srcStep, Qvp16s* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvprResize_32f_C1V(const Qvp32f* pSrc, int srcStep, int srcPlaneStep, Qvp32f* pDst, int dstStep, int dstPlaneStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
 QvpStatus qvprResize_32f_C1PV(const Qvp32f* const pSrc[], int srcStep, Qvp32f* const pDst[], int dstStep, QvprPoint dstOffset, QvprVolume dstVolume, QvpiBorderType borderType, const QvprResizeSpec* pSpec, Qvp8u* pBuffer);
+/** @} */
+
 /** @name Volumes: general filter, sizes
  *  @{ */
 /** Tells the sizes of the record and of the work buffer of a general filter of volumes: for this size of the kernel,
