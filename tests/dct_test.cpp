@@ -4,6 +4,7 @@
 
 #include "gtest/gtest.h"
 #include "tests/support/bordered.h"
+#include "tests/support/threads.h"
 
 namespace {
 using test::Export;
@@ -130,6 +131,20 @@ TEST(Dct, EveryMemberFlagAndPlace) {
   for (const Export* function : test::FunctionsOf({"DCTFwd", "DCTInv"})) {
     for (const int flag : {1, 2, 4, 8}) Check(*function, {13, 10}, flag);
   }
+}
+
+TEST(Dct, SharesARecordBetweenThreads) {
+  constexpr QvpiSize kSize{60, 47};
+  const Transform shared(kSize, 4);
+  const int bytes = Transform::SizesOf(kSize, 4).second;
+  std::vector<float> image(kSize.width * kSize.height);
+  for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<float>(i * 37 % 101);
+  std::vector<std::vector<float>> results(8, std::vector<float>(image.size()));
+  test::InThreads(8, [&](int thread) {
+    std::vector<uint8_t> buffer(bytes);
+    qvpiDCTFwd_32f_C1R(image.data(), 240, results[thread].data(), 240, shared.spec(), buffer.data());
+  });
+  for (const auto& result : results) EXPECT_EQ(result, results[0]);
 }
 
 TEST(Dct, KnownValues) {
