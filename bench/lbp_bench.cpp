@@ -54,9 +54,10 @@ void AddPatterns(const std::string& name, QvpiSize size, int side, QvpiLBPMode m
 }
 
 void Bytes(QvpiSize size, bool isAsked) {
-  AddPatterns<uint8_t, uint8_t>("LBP code 3x3 8u C1", size, 3, qvpLBPCode, qvpiFilterLBPBorder_8u_C1R, isAsked ? 8 : 1);
+  AddPatterns<uint8_t, uint8_t>("LBP code 3x3 8u C1", size, 3, qvpLBPCode, qvpiFilterLBPBorder_8u_C1R,
+                                isAsked ? 10 : 1);
   AddPatterns<uint8_t, uint8_t>("LBP uniform 3x3 8u C1", size, 3, qvpLBPUniform, qvpiFilterLBPBorder_8u_C1R,
-                                isAsked ? 3.5 : 1);
+                                isAsked ? 6 : 1);
 }
 
 const bool kRegistered = [] {
@@ -65,7 +66,7 @@ const bool kRegistered = [] {
   for (const QvpiSize size : kSmallest) Bytes(size, false);
   for (const QvpiSize size : {kTile, kHd}) {
     AddPatterns<uint16_t, uint16_t>("LBP code 5x5 16u C1", size, 5, qvpLBPCode, qvpiFilterLBPBorder_16u_C1R,
-                                    size.width == kHd.width ? 4.5 : 1);
+                                    size.width == kHd.width ? 8 : 1);
   }
   AddPatterns<uint8_t, uint8_t>("LBP rotation 3x3 8u C1", kHd, 3, qvpLBPRotation, qvpiFilterLBPBorder_8u_C1R, 0);
   AddPatterns<float, uint8_t>("LBP code 3x3 32f8u C1", kHd, 3, qvpLBPCode, qvpiFilterLBPBorder_32f8u_C1R, 0);

@@ -85,12 +85,12 @@ const bool kRegistered = [] {
   AddIndex<uint16_t>("quality index 16u C3", kHd, 3, qvpiQualityIndex_16u_C3R, 1);
   AddIndex<float>("quality index 32f C1", kHd, 1, qvpiQualityIndex_32f_C1R, 1);
   for (const QvpiSize size : {kTile, kVga, kHd, kLarge}) {
-    const double atLeast = size.width == kHd.width ? 2 : 1;
+    const double atLeast = size.width == kHd.width ? 4 : 1;
     AddSimilarity<uint8_t>("SSIM 11, 1.5, 8u C1", size, 1, qvpiSSIM_8u_C1R, atLeast);
   }
   AddSimilarity<uint8_t>("SSIM 11, 1.5, 8u C1", {16, 16}, 1, qvpiSSIM_8u_C1R, 1);
   AddSimilarity<uint8_t>("SSIM 11, 1.5, 8u C3", kHd, 3, qvpiSSIM_8u_C3R, 1);
-  AddSimilarity<float>("SSIM 11, 1.5, 32f C1", kHd, 1, qvpiSSIM_32f_C1R, 1.8);
+  AddSimilarity<float>("SSIM 11, 1.5, 32f C1", kHd, 1, qvpiSSIM_32f_C1R, 4);
   return true;
 }();
 

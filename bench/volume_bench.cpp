@@ -125,7 +125,8 @@ void ResizeAsImages(const Image<T>& src, const Image<T>& between, const Image<T>
 }
 
 template <class T, class Call>
-void AddResize(const char* type, QvpDataType code, const Resized& method, int side, int target, Call call) {
+void AddResize(const char* type, QvpDataType code, const Resized& method, int side, int target, double atLeast,
+               Call call) {
   const QvprVolume from{side, side, side}, to{target, target, target};
   const Image<T> src({side, side * side}, 1), between({target, side * target}, 1), dst({target, target * target}, 1);
   cv::randu(src.mat, 0, 255);
@@ -142,7 +143,7 @@ void AddResize(const char* type, QvpDataType code, const Resized& method, int si
                       qvpBorderReplicate, reinterpret_cast<const QvprResizeSpec*>(record.get()), buffer.get()));
        },
        {{"OpenCV resize of planes, then of all as rows",
-         [=] { ResizeAsImages(src, between, dst, from, to, method.peer); }, 1}}});
+         [=] { ResizeAsImages(src, between, dst, from, to, method.peer); }, side == 128 ? atLeast : 1}}});
 }
 
 void AddResizes(int side) {
@@ -150,14 +151,16 @@ void AddResizes(int side) {
       kCubic{"cubic", qvpInterpolationCubic, cv::INTER_CUBIC},
       kLanczos{"Lanczos", qvpInterpolationLanczos, cv::INTER_LANCZOS4},
       kSuper{"super", qvpInterpolationSuper, cv::INTER_AREA};
-  for (const int target : {side * 3 / 5, side * 3 / 2}) {
-    AddResize<uint8_t>("8u", qvp8u, kLinear, side, target, qvprResize_8u_C1V);
-    AddResize<uint16_t>("16u", qvp16u, kLinear, side, target, qvprResize_16u_C1V);
-    AddResize<float>("32f", qvp32f, kLinear, side, target, qvprResize_32f_C1V);
-  }
-  AddResize<uint16_t>("16u", qvp16u, kCubic, side, side * 3 / 5, qvprResize_16u_C1V);
-  AddResize<float>("32f", qvp32f, kLanczos, side, side * 3 / 5, qvprResize_32f_C1V);
-  AddResize<uint8_t>("8u", qvp8u, kSuper, side, side * 3 / 5, qvprResize_8u_C1V);
+  const int less = side * 3 / 5, more = side * 3 / 2;
+  AddResize<uint8_t>("8u", qvp8u, kLinear, side, less, 2.5, qvprResize_8u_C1V);
+  AddResize<uint16_t>("16u", qvp16u, kLinear, side, less, 2.5, qvprResize_16u_C1V);
+  AddResize<float>("32f", qvp32f, kLinear, side, less, 1.8, qvprResize_32f_C1V);
+  AddResize<uint8_t>("8u", qvp8u, kLinear, side, more, 4, qvprResize_8u_C1V);
+  AddResize<uint16_t>("16u", qvp16u, kLinear, side, more, 3.5, qvprResize_16u_C1V);
+  AddResize<float>("32f", qvp32f, kLinear, side, more, 4, qvprResize_32f_C1V);
+  AddResize<uint16_t>("16u", qvp16u, kCubic, side, less, 3, qvprResize_16u_C1V);
+  AddResize<float>("32f", qvp32f, kLanczos, side, less, 4, qvprResize_32f_C1V);
+  AddResize<uint8_t>("8u", qvp8u, kSuper, side, less, 7, qvprResize_8u_C1V);
 }
 
 const bool kAdded = [] {
