@@ -106,6 +106,7 @@ ptrdiff_t StepFor(Choices& choices, ptrdiff_t rowBytes, ptrdiff_t rows, int elem
 bool IsImage(const Export& function, size_t place) {
   const auto& parameters = function.parameters;
   if (place + 1 >= parameters.size() || !IsPointer(parameters[place].type)) return false;
+  if (place > 0 && parameters[place - 1].type == parameters[place].type) return false;  // the step is the other's too
   const auto& [type, name] = parameters[place + 1];
   return name.ends_with("Step") && !IsPointer(type) && test::PointedAt(parameters[place].type);
 }

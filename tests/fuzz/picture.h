@@ -13,7 +13,7 @@ namespace fuzz {
 inline bool IsPointer(std::string_view type) { return type.ends_with('*') || type.ends_with(']'); }
 inline bool IsConst(std::string_view type) { return type.starts_with("const"); }
 inline bool IsListOfPlanes(std::string_view type) { return type.ends_with("* const*"); }
-// The parameter is an image's pointer: its step follows. Planes with a step each stay as the scene has them.
+// The parameter is an image's pointer: its step follows. Images that share a step stay as the scene has them.
 bool IsImage(const test::Export& function, size_t place);
 // A volume's planes stay as the scene has them: as many as it chooses, and those in front of the first.
 inline bool IsStackOfPlanes(const test::Export& function, size_t place) {
