@@ -2,11 +2,10 @@
 // behind.
 #include "filter/copy_border.h"
 
-#include "base/check.h"
-#include "base/volume.h"
 #include "core/copy.h"
 #include "core/fill.h"
 #include "qvpi.h"
+#include "volume/tile.h"
 
 namespace {
 using namespace qvp;
@@ -15,7 +14,6 @@ struct Box {
   VolumeSize src, dst;
   ptrdiff_t top, left, front;
 
-  bool HasVoxels() const { return src.HasVoxels() && dst.HasVoxels(); }
   filter::Frame OfPlane() const { return {src.plane(), dst.plane(), top, left}; }
   bool IsValid() const { return OfPlane().IsValid() && front >= 0 && dst.depth - src.depth >= front; }
 };
@@ -29,10 +27,7 @@ void WritePlane(BorderKind kind, const Bytes& dst, const Bytes& nearest, const u
 // `value` is the voxel of a constant border; other kinds have none.
 QvpStatus Copy(BorderKind kind, const Volume<const uint8_t>& src, const Volume<uint8_t>& dst, const Box& box,
                const void* value = nullptr) {
-  const std::initializer_list<Operand> volumes = {src.front, dst.front};
-  if (!Passes(kPointers, {1, 1}, volumes, {})) return qvpStatusNullPointer;
-  if (!box.HasVoxels()) return qvpStatusSize;
-  if (!Passes(kSteps, {1, 1}, volumes, {}) || src.planeStep < 1 || dst.planeStep < 1) return qvpStatusStep;
+  if (const QvpStatus failed = volume::CheckVolumes({src, dst}, {box.src, box.dst})) return failed;
   if (!box.IsValid()) return qvpStatusSize;
   uint8_t voxel[kBlockBytes] = {};
   if (value) std::memcpy(voxel, value, dst.front.elementBytes);

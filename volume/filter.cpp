@@ -1,8 +1,8 @@
 // The general filter in space: checks, and the choice of sums.
-#include "base/check.h"
 #include "base/types.h"
 #include "qvpi.h"
 #include "volume/filter_separable.h"
+#include "volume/tile.h"
 
 namespace {
 using namespace qvp;
@@ -29,12 +29,8 @@ struct Call {
 template <class T>
 QvpStatus Call<T>::Check() const {
   const bool needsValue = KindOf(border) == BorderKind::kConst;
-  const std::initializer_list<Operand> volumes = {src.front, dst.front};
-  if (!Passes(kPointers, {1, 1}, volumes, {needsValue ? static_cast<const void*>(value) : buffer, record, buffer})) {
-    return qvpStatusNullPointer;
-  }
-  if (!size.HasVoxels()) return qvpStatusSize;
-  if (!Passes(kSteps, {1, 1}, volumes, {}) || src.planeStep < 1 || dst.planeStep < 1) return qvpStatusStep;
+  const Pointers others = {needsValue ? static_cast<const void*>(value) : buffer, record, buffer};
+  if (const QvpStatus failed = CheckVolumes({src, dst}, {size}, others)) return failed;
   if (!IsVolumeBorderOf({BorderKind::kReplicate, BorderKind::kMirror, BorderKind::kConst}, border))
     return qvpStatusBorder;
   if (record->identification != FilterRecord::kIdentification || record->type != DataTypeOf<T>()) {

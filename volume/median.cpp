@@ -1,8 +1,8 @@
 // Medians of cuboids around voxels: checks, and the choice of a method.
-#include "base/check.h"
 #include "base/types.h"
 #include "qvpi.h"
 #include "volume/median_kernels.h"
+#include "volume/tile.h"
 
 namespace {
 using namespace qvp;
@@ -54,12 +54,8 @@ struct Call {
 template <class T>
 QvpStatus Call<T>::Check() const {
   const bool needsValue = KindOf(border) == BorderKind::kConst;
-  const std::initializer_list<Operand> volumes = {src.front, dst.front};
-  if (!Passes(kPointers, {1, 1}, volumes, {needsValue ? static_cast<const void*>(value) : buffer, buffer})) {
-    return qvpStatusNullPointer;
-  }
-  if (!size.HasVoxels()) return qvpStatusSize;
-  if (!Passes(kSteps, {1, 1}, volumes, {}) || src.planeStep < 1 || dst.planeStep < 1) return qvpStatusStep;
+  const Pointers others = {needsValue ? static_cast<const void*>(value) : buffer, buffer};
+  if (const QvpStatus failed = CheckVolumes({src, dst}, {size}, others)) return failed;
   if (!IsMask(mask)) return qvpStatusMaskSize;
   if (!IsVolumeBorderOf({BorderKind::kReplicate, BorderKind::kConst}, border)) return qvpStatusBorder;
   const Extent read = EffectivePlanes(border, size.depth, mask.depth / 2, mask.depth / 2);

@@ -1,7 +1,7 @@
 // Remap of volumes: each voxel takes the value at a point that three maps tell.
-#include "base/check.h"
 #include "qvpi.h"
 #include "volume/sample.h"
+#include "volume/tile.h"
 
 namespace {
 using namespace qvp;
@@ -17,10 +17,10 @@ struct Call {
   QvprVolume size;
   int interpolation;
 
-  bool AreLengths() const {
-    const int least =
-        std::min({cuboid.x, cuboid.y, cuboid.z}) < 0 ? 0 : std::min({cuboid.width, cuboid.height, cuboid.depth});
-    return VolumeSize(srcSize).HasVoxels() && least >= 1 && VolumeSize(size).HasVoxels();
+  // One that starts at a negative position counts as empty.
+  VolumeSize CuboidSize() const {
+    const bool isNegative = std::min({cuboid.x, cuboid.y, cuboid.z}) < 0;
+    return isNegative ? QvprVolume{} : QvprVolume{cuboid.width, cuboid.height, cuboid.depth};
   }
   bool IsBeyond() const { return cuboid.x >= srcSize.width || cuboid.y >= srcSize.height || cuboid.z >= srcSize.depth; }
   // Of one axis: the cuboid within the source.
@@ -31,12 +31,9 @@ struct Call {
 
 template <class T>
 QvpStatus Check(const Call<T>& call) {
-  const std::initializer_list<Operand> images = {call.src.front, call.maps[0].front, call.maps[1].front,
-                                                 call.maps[2].front, call.dst.front};
-  if (!Passes(kPointers, {1, 1}, images, {})) return qvpStatusNullPointer;
-  if (!call.AreLengths()) return qvpStatusSize;
-  const ptrdiff_t planeStep = std::min({call.src.planeStep, call.maps[0].planeStep, call.dst.planeStep});
-  if (!Passes(kSteps, {1, 1}, images, {}) || planeStep < 1) return qvpStatusStep;
+  const std::initializer_list<VolumeOperand> volumes = {call.src, call.maps[0], call.maps[1], call.maps[2], call.dst};
+  const std::initializer_list<VolumeSize> sizes = {call.srcSize, call.CuboidSize(), call.size};
+  if (const QvpStatus failed = CheckVolumes(volumes, sizes)) return failed;
   switch (call.interpolation) {
     case qvpInterpolationNearest:
     case qvpInterpolationLinear:

@@ -25,16 +25,13 @@ bool HasPlanes(const VolumeResizeCall<T>& call, const VolumeTile& tile) {
 
 template <class T>
 QvpStatus Check(const VolumeResizeCall<T>& call, QvpDataType type) {
-  const std::initializer_list<Operand> volumes = {call.src.front, call.dst.front};
-  if (!Passes(kPointers, {1, 1}, volumes, {call.spec, call.buffer})) return qvpStatusNullPointer;
   const VolumeSize size(call.volume);
-  if (!size.HasVoxels()) return qvpStatusSize;
-  if (!Passes(kSteps, {1, 1}, volumes, {}) || call.src.planeStep < 1 || call.dst.planeStep < 1) return qvpStatusStep;
+  if (const QvpStatus failed = CheckVolumes({call.src, call.dst}, {size}, {call.spec, call.buffer})) return failed;
   if (!IsVolumeBorderOf({BorderKind::kReplicate, BorderKind::kMirror}, call.border)) return qvpStatusBorder;
   const ResizeRecord& record = call.record();
   if (record.identification != ResizeRecord::kIdentification || record.type != type) return qvpStatusContextMatch;
-  if (!IsInside(record, call.offset)) return qvpStatusOutOfRange;
-  return HasPlanes(call, VolumeTile(record, call.offset, size)) ? qvpStatusNoError : qvpStatusNullPointer;
+  if (!IsInside(call.offset, record.Destination())) return qvpStatusOutOfRange;
+  return HasPlanes(call, VolumeTile(call.offset, size, record.Destination())) ? qvpStatusNoError : qvpStatusNullPointer;
 }
 
 // Voxels of one size are moved alike. A row that the one above was made from, too, is copied.
@@ -117,7 +114,7 @@ void ResizeTile(const VolumeResizeCall<T>& call, const VolumeTile& tile) {
 template <class T>
 QvpStatus Resize(const VolumeResizeCall<T>& call, QvpDataType type) {
   if (const QvpStatus failed = Check(call, type)) return failed;
-  const VolumeTile tile(call.record(), call.offset, call.volume);
+  const VolumeTile tile(call.offset, call.volume, call.record().Destination());
   ResizeTile(call, tile);
   return tile.isClipped ? qvpStatusSizeWarning : qvpStatusNoError;
 }

@@ -100,7 +100,7 @@ QvpStatus GetBufferSize(const QvprResizeSpec* spec, const VolumeSize& size, int*
   if (!size.HasVoxels()) return qvpStatusSize;
   const ResizeRecord& record = *RecordIn<ResizeRecord>(spec);
   if (!IsRecord(record)) return qvpStatusContextMatch;
-  const VolumeTile tile(record, {0, 0, 0}, size);
+  const VolumeTile tile({0, 0, 0}, size, record.Destination());
   const bool isMove = record.interpolation() == qvpInterpolationNearest;
   const ByteCount all = isMove ? ByteCount(kRecordBoundary) : ResizeRoom(record, tile.width).Bytes(tile.height);
   if (const QvpStatus failed = all.StoreTo(bytes)) return failed;
@@ -124,8 +124,8 @@ QvpStatus GetSrcCuboid(const QvprResizeSpec* spec, const QvprCuboid& dst, QvprCu
   const ResizeRecord& record = *RecordIn<ResizeRecord>(spec);
   if (!IsRecord(record)) return qvpStatusContextMatch;
   const QvprPoint at{dst.x, dst.y, dst.z};
-  if (!IsInside(record, at)) return qvpStatusOutOfRange;
-  const VolumeTile tile(record, at, size);
+  if (!IsInside(at, record.Destination())) return qvpStatusOutOfRange;
+  const VolumeTile tile(at, size, record.Destination());
   const Extent x = ReadBy(record, record.plane.columns, tile.x, tile.width);
   const Extent y = ReadBy(record, record.plane.rows, tile.y, tile.height);
   const Extent z = ReadBy(record, record.depth, tile.z, tile.depth);

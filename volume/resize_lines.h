@@ -89,7 +89,7 @@ class FixedLines {
       : isAcrossPassedOver_(record.IsPassedOver(record.plane.columns)),
         x_(tile.x),
         width_(tile.width),
-        columns_(record.plane, tile.OfPlane(record), border, resize::PixelsOf(1), 0, room),
+        columns_(record.plane, PlaneOf(tile, record), border, resize::PixelsOf(1), 0, room),
         rows_(record.plane, record.plane.rows, tile.y, tile.height),
         planes_(record.plane, record.depth, tile.z, tile.depth),
         down_(record.plane.Weights<int16_t>(record.plane.rows) + tile.y),

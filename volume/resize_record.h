@@ -1,10 +1,10 @@
 // The record of resizing in space: that of the planes, and the axis across them.
 #pragma once
 
-#include "base/volume.h"
 #include "geometry/resize_call.h"
 #include "geometry/resize_coverage.h"
 #include "geometry/resize_tables.h"
+#include "volume/tile.h"
 
 namespace qvp::volume {
 
@@ -22,6 +22,9 @@ struct ResizeRecord {
   QvpiInterpolationType interpolation() const { return plane.interpolation; }
   // Voxels on each side of a position that a method reaches.
   ptrdiff_t Reach() const { return plane.border.left; }
+  VolumeSize Destination() const {
+    return QvprVolume{plane.columns.destination, plane.rows.destination, depth.destination};
+  }
   bool IsPassedOver(const ResizeAxis& axis) const {
     return axis.source == axis.destination && !(interpolation() == qvpInterpolationCubic && plane.b != 0);
   }
@@ -49,27 +52,8 @@ inline int64_t MostTaps(QvpiInterpolationType interpolation, int64_t p, int64_t 
   }
 }
 
-// The voxels of a call that exist.
-struct VolumeTile {
-  ptrdiff_t x, y, z, width, height, depth;
-  bool isClipped;
-
-  VolumeTile(const ResizeRecord& record, QvprPoint at, const VolumeSize& size)
-      : x(at.x),
-        y(at.y),
-        z(at.z),
-        width(std::min<ptrdiff_t>(size.width, record.plane.columns.destination - x)),
-        height(std::min<ptrdiff_t>(size.height, record.plane.rows.destination - y)),
-        depth(std::min<ptrdiff_t>(size.depth, record.depth.destination - z)),
-        isClipped(width < size.width || height < size.height || depth < size.depth) {}
-  resize::Tile OfPlane(const ResizeRecord& record) const {
-    return {record.plane, resize::Point(x, y), Size(width, height)};
-  }
-};
-
-inline bool IsInside(const ResizeRecord& record, QvprPoint at) {
-  const auto isOn = [](int position, const ResizeAxis& axis) { return position >= 0 && position < axis.destination; };
-  return isOn(at.x, record.plane.columns) && isOn(at.y, record.plane.rows) && isOn(at.z, record.depth);
+inline resize::Tile PlaneOf(const VolumeTile& tile, const ResizeRecord& record) {
+  return {record.plane, resize::Point(tile.x, tile.y), Size(tile.width, tile.height)};
 }
 
 // How a tile's work buffer is divided: rows for one plane's taps, then rows of filtered planes for a strip of rows of

@@ -1,8 +1,8 @@
 // Affine warps of volumes: each voxel takes the value at the point that it comes from.
-#include "base/check.h"
 #include "base/types.h"
 #include "qvpi.h"
 #include "volume/sample.h"
+#include "volume/tile.h"
 #include "volume/warp_record.h"
 
 namespace {
@@ -19,41 +19,14 @@ struct Call {
   const uint8_t* buffer;
 };
 
-// A part of the destination, cut at its end.
-struct Tile {
-  QvprPoint at;
-  VolumeSize size;
-  bool isCut;
-
-  Tile(QvprPoint offset, QvprVolume asked, const QvprVolume& whole) : at(offset), size(asked), isCut(false) {
-    Cut(at.x, whole.width, size.width);
-    Cut(at.y, whole.height, size.height);
-    Cut(at.z, whole.depth, size.depth);
-  }
-
- private:
-  void Cut(int from, int whole, ptrdiff_t& length) {
-    const ptrdiff_t most = ptrdiff_t{whole} - from;
-    isCut |= length > most;
-    length = std::min(length, most);
-  }
-};
-
-bool IsWithin(QvprPoint p, const QvprVolume& size) {
-  return p.x >= 0 && p.y >= 0 && p.z >= 0 && p.x < size.width && p.y < size.height && p.z < size.depth;
-}
-
 template <class T>
 QvpStatus Check(const Call<T>& call) {
-  const std::initializer_list<Operand> volumes = {call.src.front, call.dst.front};
-  if (!Passes(kPointers, {1, 1}, volumes, {call.spec, call.buffer})) return qvpStatusNullPointer;
-  if (!VolumeSize(call.size).HasVoxels()) return qvpStatusSize;
-  if (!Passes(kSteps, {1, 1}, volumes, {}) || call.src.planeStep < 1 || call.dst.planeStep < 1) return qvpStatusStep;
+  if (const QvpStatus failed = CheckVolumes({call.src, call.dst}, {call.size}, {call.spec, call.buffer})) return failed;
   const WarpRecord& record = *RecordIn<WarpRecord>(call.spec);
   if (record.identification != WarpRecord::kIdentification || record.dataType != DataTypeOf<T>()) {
     return qvpStatusContextMatch;
   }
-  return IsWithin(call.offset, record.dst) ? qvpStatusNoError : qvpStatusOutOfRange;
+  return IsInside(call.offset, record.dst) ? qvpStatusNoError : qvpStatusOutOfRange;
 }
 
 int TapsFor(const WarpRecord& record) { return record.isShift ? 1 : TapsOf(record.interpolation); }
@@ -85,14 +58,14 @@ Source<T> SourceOf(const Call<T>& call, const WarpRecord& record) {
 
 // The planes that points of a tile can read: between those of its corners, as each rounded step is monotone.
 template <class T>
-Extent PlanesOf(const WarpRecord& record, const Tile& tile, const Source<T>& source, int taps) {
+Extent PlanesOf(const WarpRecord& record, const VolumeTile& tile, const Source<T>& source, int taps) {
   double low = 0, high = 0;
   for (int corner = 0; corner < 8; ++corner) {
-    const auto at = [&](int from, ptrdiff_t length, int bit) {
-      return from + (corner & bit ? static_cast<double>(length - 1) : 0.0);
+    const auto at = [&](ptrdiff_t from, ptrdiff_t length, int bit) {
+      return static_cast<double>(from) + (corner & bit ? static_cast<double>(length - 1) : 0.0);
     };
-    const double w = record.toSource.Of(
-        2, {at(tile.at.x, tile.size.width, 1), at(tile.at.y, tile.size.height, 2), at(tile.at.z, tile.size.depth, 4)});
+    const double w =
+        record.toSource.Of(2, {at(tile.x, tile.width, 1), at(tile.y, tile.height, 2), at(tile.z, tile.depth, 4)});
     low = corner == 0 ? w : std::min(low, w);
     high = corner == 0 ? w : std::max(high, w);
   }
@@ -105,18 +78,18 @@ Extent PlanesOf(const WarpRecord& record, const Tile& tile, const Source<T>& sou
 }
 
 template <int kTaps, class T>
-void WarpBy(const Call<T>& call, const WarpRecord& record, const Tile& tile, const Source<T>& source) {
+void WarpBy(const Call<T>& call, const WarpRecord& record, const VolumeTile& tile, const Source<T>& source) {
   BlockSampler<kTaps, T> sampler(source);
   PointArrays points;
   const auto& c = record.toSource.c;
-  for (ptrdiff_t z = 0; z < tile.size.depth; ++z) {
+  for (ptrdiff_t z = 0; z < tile.depth; ++z) {
     const Image<T> dst = call.dst.Plane(z);
-    for (ptrdiff_t y = 0; y < tile.size.height; ++y) {
-      const auto atY = static_cast<double>(tile.at.y + y), atZ = static_cast<double>(tile.at.z + z);
-      SampleRow(sampler, points, tile.size.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
+    for (ptrdiff_t y = 0; y < tile.height; ++y) {
+      const auto atY = static_cast<double>(tile.y + y), atZ = static_cast<double>(tile.z + z);
+      SampleRow(sampler, points, tile.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
         for (int k = 0; k < 3; ++k) {
           const double down = c[k][1] * atY, back = c[k][2] * atZ + c[k][3], across = c[k][0];
-          const auto first = static_cast<int32_t>(tile.at.x + x);
+          const auto first = static_cast<int32_t>(tile.x + x);
           double* const at = to.at[k];
           for (int32_t i = 0; i < static_cast<int32_t>(n); ++i) at[i] = (across * (first + i) + down) + back;
         }
@@ -129,16 +102,16 @@ template <class T>
 QvpStatus Warp(const Call<T>& call) {
   if (const QvpStatus failed = Check(call)) return failed;
   const WarpRecord& record = *RecordIn<WarpRecord>(call.spec);
-  const Tile tile(call.offset, call.size, record.dst);
+  const VolumeTile tile(call.offset, call.size, record.dst);
   const Source<T> source = SourceOf(call, record);
   const int taps = TapsFor(record);
-  if (!call.src.HasPlanes(PlanesOf(record, tile, source, taps)) || !call.dst.HasPlanes({0, tile.size.depth})) {
+  if (!call.src.HasPlanes(PlanesOf(record, tile, source, taps)) || !call.dst.HasPlanes({0, tile.depth})) {
     return qvpStatusNullPointer;
   }
   taps == 1   ? WarpBy<1>(call, record, tile, source)
   : taps == 2 ? WarpBy<2>(call, record, tile, source)
               : WarpBy<4>(call, record, tile, source);
-  return tile.isCut ? qvpStatusSizeWarning : qvpStatusNoError;
+  return tile.isClipped ? qvpStatusSizeWarning : qvpStatusNoError;
 }
 
 }  // namespace
