@@ -105,8 +105,8 @@ inline SumTree TreeAcross(ptrdiff_t n) { return SumTree(n, 2); }
 inline SumTree TreeDown(ptrdiff_t n) { return SumTree(n, 1); }
 
 // How many rows are kept.
-inline int RowsKept(const SumTree& across, const SumTree& down) {
-  int rows = across.levels();
+inline int64_t RowsKept(const SumTree& across, const SumTree& down) {
+  int64_t rows = across.levels();
   for (int level = 0; level <= down.levels(); ++level) rows += down.Depth(level);
   return rows;
 }

@@ -47,7 +47,7 @@ class WindowSums {
 
   static RowBytes Bytes(QvpiSize mask, int planes) {
     const SumTree across = TreeAcross(mask.width);
-    const int kept = RowsKept(TreeAcross(1), TreeDown(mask.height));
+    const int64_t kept = RowsKept(TreeAcross(1), TreeDown(mask.height));
     return BytesOfRows<E>(int64_t{planes} * (1 + kept) + across.levels()) + RowBytes{0, kept * kRecordBoundary};
   }
   // Returns where the memory ends that it takes; it begins at a boundary.

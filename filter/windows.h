@@ -42,7 +42,8 @@ constexpr int64_t LaneCacheBytes(int elementBytes) {
 }
 
 struct KeptRows {
-  int count = 0, elementBytes = 0;
+  int64_t count = 0;
+  int elementBytes = 0;
 };
 
 // What a filter does.

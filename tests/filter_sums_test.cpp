@@ -263,6 +263,7 @@ TEST(FilterSums, RefusesInTheDocumentedOrder) {
   EXPECT_EQ(size({3, 3}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
   EXPECT_EQ(bytes, 1);
   EXPECT_EQ(size({1, 2147483647}, {1, 1}, qvp8u, 1), qvpStatusSizeOverflow);
+  EXPECT_EQ(size({1, 2147483647}, {1, 1}, qvp32f, 1), qvpStatusSizeOverflow);
   EXPECT_EQ(bytes, 0);
   EXPECT_EQ(qvpiFilterSumRowBorderGetBufferSize(0, {1, 1}, 0, 0, &bytes), qvpStatusMaskSize);
   EXPECT_EQ(qvpiFilterSumColumnBorderGetBufferSize(0, {1, 1}, 0, 0, &bytes), qvpStatusMaskSize);

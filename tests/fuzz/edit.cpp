@@ -66,10 +66,11 @@ void EditSize(const Scene& scene, Argument& size, bool isFree, Choices& choices)
   side = isFree ? AnyInteger(choices) : AtMost(HasBufferOfItsSizes(scene) ? 0 : int64_t{side}, choices);
 }
 
-void EditVolume(Argument& volume, Choices& choices) {
+// A mask's buffer is for that mask alone.
+void EditVolume(Argument& volume, bool isMask, bool isFree, Choices& choices) {
   Number* const lengths[] = {&volume.number, &volume.second, &volume.third};
   Number& length = *choices.Any(lengths);
-  length = AtMost(int64_t{length}, choices);
+  length = isFree ? AnyInteger(choices) : AtMost(isMask ? 0 : int64_t{length}, choices);
 }
 
 // Places that say nothing about memory: moments are about any, and images made by formulas are of any part.
@@ -154,7 +155,7 @@ void EditArgument(const Scene& scene, std::vector<Argument>& arguments, Choices&
   } else if (type.starts_with("QvpiPoint") || type.starts_with("QvprPoint")) {
     EditPoint(argument, isQuery || IsFreePlace(scene, name), choices);
   } else if (type.starts_with("QvprVolume")) {
-    EditVolume(argument, choices);
+    EditVolume(argument, name == "maskVolume", isQuery, choices);
   } else if (type.starts_with("QvpiRect") || type.starts_with("QvprCuboid")) {
     EditRect(argument, choices);
   } else if (IsAny(type, {"Qvp32f", "Qvp64f", "double"})) {
