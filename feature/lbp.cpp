@@ -2,8 +2,8 @@
 #include "base/map.h"
 #include "base/row_ring.h"
 #include "base/scalar.h"
+#include "base/unrolled.h"
 #include "feature/lbp_labels.h"
-#include "filter/unrolled.h"
 #include "filter/window_call.h"
 
 namespace qvp::filter {

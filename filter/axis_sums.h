@@ -6,7 +6,7 @@
 #pragma once
 
 #include "base/pairs.h"
-#include "filter/unrolled.h"
+#include "base/unrolled.h"
 #include "filter/windows.h"
 
 namespace qvp::filter {

@@ -4,8 +4,8 @@
 #include "base/channels.h"
 #include "base/floats.h"
 #include "base/gather.h"
+#include "base/unrolled.h"
 #include "filter/bilateral.h"
-#include "filter/unrolled.h"
 #include "signal/exp_log.h"
 
 namespace qvp::filter {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/lanes.h"
+#include "base/unrolled.h"
 #include "filter/border_filter_quotient.h"
-#include "filter/unrolled.h"
 
 namespace qvp::filter {
 

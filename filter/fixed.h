@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/pack.h"
+#include "base/unrolled.h"
 #include "filter/fixed_kinds.h"
-#include "filter/unrolled.h"
 #include "filter/window_call.h"
 
 namespace qvp::filter {

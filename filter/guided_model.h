@@ -5,8 +5,8 @@
 
 #include <array>
 
+#include "base/unrolled.h"
 #include "filter/exact_differences.h"
-#include "filter/unrolled.h"
 
 namespace qvp::filter {
 

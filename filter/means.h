@@ -6,7 +6,7 @@
 
 #include "base/lanes.h"
 #include "base/pack.h"
-#include "filter/unrolled.h"
+#include "base/unrolled.h"
 
 namespace qvp::filter {
 

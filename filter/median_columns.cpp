@@ -6,7 +6,7 @@
 // its counts are brought up from where they were needed last. All counts are cumulative, so that comparing them with a
 // place tells at once where it is.
 #include "filter/median.h"
-#include "filter/unrolled.h"
+#include "base/unrolled.h"
 
 namespace qvp::filter {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "base/channels.h"
 #include "base/scalar.h"
+#include "base/unrolled.h"
 #include "filter/median.h"
-#include "filter/unrolled.h"
 
 namespace qvp::filter {
 

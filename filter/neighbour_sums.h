@@ -7,7 +7,7 @@
 
 #include "base/pairs.h"
 #include "base/scalar.h"
-#include "filter/unrolled.h"
+#include "base/unrolled.h"
 
 namespace qvp::filter {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "base/simd.h"
+#include "base/unrolled.h"
 #include "filter/sorting_networks.h"
-#include "filter/unrolled.h"
 
 namespace qvp::filter {
 

@@ -3,6 +3,7 @@
 
 #include "base/pairs.h"
 #include "stats/accumulators.h"
+#include "stats/pixel_pairs.h"
 
 namespace qvp::stats {
 
@@ -61,7 +62,7 @@ class ExactSums {
 
   // Moves the lanes into 64-bit totals.
   void Drain() {
-    const hn::ScalableTag<uint64_t> d;
+    const hn::Repartition<uint64_t, typename Kernel::Sums> d;
     const auto mask = hn::Set(d, ~uint64_t{0} >> (64 - kBits));
     for (int s = 0; s < kSums; ++s) {
       const auto lanes = hn::Load(d, reinterpret_cast<const uint64_t*>(lanes_[s]));
@@ -159,40 +160,19 @@ struct ByteProducts {
   }
 };
 
-// Sums of products of bytes of several channels: pairs are samples that are three vectors apart. Vectors of pixels that
-// begin at places equal modulo 12 share a sum, so a lane grows by 4 * 2 * 255^2 in a round.
+// Sums of products of bytes of several channels. A lane grows by 4 * 2 * 255^2 in a round.
 struct BytePixelProducts {
-  using D = hn::ScalableTag<uint8_t>;
-  using Sums = hn::ScalableTag<uint32_t>;
+  using D = BytePixelPairs::D;
+  using Sums = hn::Repartition<uint32_t, D>;
   static constexpr int kVectors = 6, kSums = 3;
   static constexpr ptrdiff_t kMostRounds = 33025 / 4;
-  static constexpr int Position(int sum, int lane) { return 4 * sum + 16 * (lane / 4) + lane % 4; }
+  static constexpr int Position(int sum, int lane) { return BytePixelPairs::Position(sum, lane); }
   static constexpr int Shift(int) { return 0; }
   static constexpr uint32_t kPairBias = 0;
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
-    for (int k = 0; k < 3; ++k) {
-      const auto first = at(k), second = at(k + 3);
-      const D d;
-      AddBlockHalf(sums, 4 * k * kStep, hn::InterleaveLower(d, first.a, second.a),
-                   hn::InterleaveLower(d, first.b, second.b));
-      AddBlockHalf(sums, 4 * k * kStep + 2, hn::InterleaveUpper(d, first.a, second.a),
-                   hn::InterleaveUpper(d, first.b, second.b));
-    }
-  }
-
- private:
-  static constexpr int kStep = static_cast<int>(hn::MaxLanes(D())) / 16;
-
-  // `place` counts groups of four samples.
-  static HWY_INLINE void AddBlockHalf(hn::Vec<Sums>* sums, int place, hn::Vec<D> a, hn::Vec<D> b) {
-    const D d;
-    const auto zero = hn::Zero(d);
-    hn::Vec<Sums>& lower = sums[place % 3];
-    hn::Vec<Sums>& upper = sums[(place + 1) % 3];
-    lower = AddPairProducts(lower, hn::InterleaveLower(d, a, zero), hn::InterleaveLower(d, b, zero));
-    upper = AddPairProducts(upper, hn::InterleaveUpper(d, a, zero), hn::InterleaveUpper(d, b, zero));
+    BytePixelPairs::ForEach(at, [&](int s, auto a, auto b) QVP_INLINED { sums[s] = AddPairProducts(sums[s], a, b); });
   }
 };
 
@@ -227,32 +207,21 @@ struct WordProducts {
   }
 };
 
-// The same for several channels: pairs are samples that are three vectors apart.
+// Sums of products of signed 16-bit integers of several channels.
 struct WordPixelProducts {
-  using D = hn::ScalableTag<uint16_t>;  // their bits
+  using D = WordPixelPairs::D;
   using Sums = hn::ScalableTag<uint64_t>;
   static constexpr int kVectors = 6, kSums = 6;
   static constexpr ptrdiff_t kMostRounds = PTRDIFF_MAX;
-  // Lanes of 32 bits that hold four samples of each block of eight, in turn even and odd ones.
-  static constexpr int Position(int sum, int lane) { return 4 * (sum / 2) + 8 * (lane / 2) + 2 * (lane % 2) + sum % 2; }
+  static constexpr int Position(int sum, int lane) { return WordPixelPairs::Position(sum, lane); }
   static constexpr int Shift(int) { return 0; }
   static constexpr uint32_t kPairBias = kWordPairBias;
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
-    const D d;
-    for (int k = 0; k < 3; ++k) {
-      const auto first = at(k), second = at(k + 3);
-      const int lower = 2 * (2 * k * kStep % 3), upper = 2 * ((2 * k * kStep + 1) % 3);
-      AddWidePairProducts(sums[lower], sums[lower + 1], hn::InterleaveLower(d, first.a, second.a),
-                          hn::InterleaveLower(d, first.b, second.b));
-      AddWidePairProducts(sums[upper], sums[upper + 1], hn::InterleaveUpper(d, first.a, second.a),
-                          hn::InterleaveUpper(d, first.b, second.b));
-    }
+    WordPixelPairs::ForEach(
+        at, [&](int s, auto a, auto b) QVP_INLINED { AddWidePairProducts(sums[s], sums[s + 1], a, b); });
   }
-
- private:
-  static constexpr int kStep = static_cast<int>(hn::MaxLanes(D())) / 8;
 };
 
 // Sums of products of unsigned 16-bit integers: lower and upper halves of the products apart.

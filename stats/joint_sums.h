@@ -42,41 +42,24 @@ struct ByteJointSums {
   }
 };
 
-// Bytes of several channels, paired as those of BytePixelProducts.
+// Bytes of several channels, in the pairs of BytePixelPairs.
 struct BytePixelJointSums {
-  using D = hn::ScalableTag<uint8_t>;
-  using Sums = hn::ScalableTag<uint32_t>;
+  using D = BytePixelPairs::D;
+  using Sums = hn::Repartition<uint32_t, D>;
   static constexpr int kVectors = 6, kEach = 3, kSums = kJointSums * kEach;
   static constexpr ptrdiff_t kMostRounds = BytePixelProducts::kMostRounds;
-  static constexpr int Position(int sum, int lane) { return BytePixelProducts::Position(sum, lane); }
+  static constexpr int Position(int sum, int lane) { return BytePixelPairs::Position(sum, lane); }
   static constexpr int Shift(int) { return 0; }
   static constexpr uint32_t kPairBias = 0;
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
-    const D d;
-    for (int k = 0; k < 3; ++k) {
-      const auto first = at(k), second = at(k + 3);
-      AddBlockHalf(sums, 4 * k * kStep, hn::InterleaveLower(d, first.a, second.a),
-                   hn::InterleaveLower(d, first.b, second.b));
-      AddBlockHalf(sums, 4 * k * kStep + 2, hn::InterleaveUpper(d, first.a, second.a),
-                   hn::InterleaveUpper(d, first.b, second.b));
-    }
-  }
-
- private:
-  static constexpr int kStep = static_cast<int>(hn::MaxLanes(D())) / 16;
-
-  static HWY_INLINE void AddBlockHalf(hn::Vec<Sums>* sums, int place, hn::Vec<D> x, hn::Vec<D> y) {
-    const D d;
-    const auto zero = hn::Zero(d);
-    AddPairs(sums + place % 3, hn::InterleaveLower(d, x, zero), hn::InterleaveLower(d, y, zero));
-    AddPairs(sums + (place + 1) % 3, hn::InterleaveUpper(d, x, zero), hn::InterleaveUpper(d, y, zero));
-  }
-  static HWY_INLINE void AddPairs(hn::Vec<Sums>* sums, hn::Vec<D> x, hn::Vec<D> y) {
-    const auto ones = hn::BitCast(D(), hn::Set(hn::ScalableTag<uint16_t>(), 1));
-    ForEachJointSum(x, y, ones,
-                    [&](int q, auto a, auto b) HWY_ATTR { sums[q * kEach] = AddPairProducts(sums[q * kEach], a, b); });
+    const auto ones = hn::BitCast(D(), hn::Set(hn::Repartition<uint16_t, D>(), 1));
+    BytePixelPairs::ForEach(at, [&](int s, auto x, auto y) QVP_INLINED {
+      ForEachJointSum(x, y, ones, [&](int q, auto a, auto b) QVP_INLINED {
+        sums[q * kEach + s] = AddPairProducts(sums[q * kEach + s], a, b);
+      });
+    });
   }
 };
 
@@ -100,34 +83,22 @@ struct WordJointSums {
   }
 };
 
-// The same for several channels, paired as those of WordPixelProducts.
+// The same for several channels, in the pairs of WordPixelPairs.
 struct WordPixelJointSums {
   using D = hn::ScalableTag<uint16_t>;
   using Sums = hn::ScalableTag<uint64_t>;
   static constexpr int kVectors = 6, kEach = 6, kSums = kJointSums * kEach;
   static constexpr ptrdiff_t kMostRounds = PTRDIFF_MAX;
-  static constexpr int Position(int sum, int lane) { return WordPixelProducts::Position(sum, lane); }
+  static constexpr int Position(int sum, int lane) { return WordPixelPairs::Position(sum, lane); }
   static constexpr int Shift(int) { return 0; }
   static constexpr uint32_t kPairBias = kWordPairBias;
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
-    const D d;
-    for (int k = 0; k < 3; ++k) {
-      const auto first = at(k), second = at(k + 3);
-      AddPairs(sums + 2 * (2 * k * kStep % 3), hn::InterleaveLower(d, first.a, second.a),
-               hn::InterleaveLower(d, first.b, second.b));
-      AddPairs(sums + 2 * ((2 * k * kStep + 1) % 3), hn::InterleaveUpper(d, first.a, second.a),
-               hn::InterleaveUpper(d, first.b, second.b));
-    }
-  }
-
- private:
-  static constexpr int kStep = static_cast<int>(hn::MaxLanes(D())) / 8;
-
-  static HWY_INLINE void AddPairs(hn::Vec<Sums>* sums, hn::Vec<D> x, hn::Vec<D> y) {
-    ForEachJointSum(x, y, hn::Set(D(), 1), [&](int q, auto a, auto b) HWY_ATTR {
-      AddWidePairProducts(sums[q * kEach], sums[q * kEach + 1], a, b);
+    WordPixelPairs::ForEach(at, [&](int s, auto x, auto y) QVP_INLINED {
+      ForEachJointSum(x, y, hn::Set(D(), 1), [&](int q, auto a, auto b) QVP_INLINED {
+        AddWidePairProducts(sums[q * kEach + s], sums[q * kEach + s + 1], a, b);
+      });
     });
   }
 };

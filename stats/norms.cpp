@@ -17,21 +17,26 @@ struct Magnitude {
   HWY_INLINE V operator()(V a) const { return hn::Abs(a); }
   HWY_INLINE V operator()(V a, V b) const { return hn::Abs(hn::Sub(a, b)); }
 };
-template <class U, bool kSigned>
+template <bool kSigned>
 struct IntegerMagnitude {
-  using D = hn::ScalableTag<U>;
-  using V = hn::Vec<D>;
-  static HWY_INLINE auto Signed(V v) { return hn::BitCast(hn::RebindToSigned<D>(), v); }
+  template <class V>
   HWY_INLINE V operator()(V a) const {
-    if constexpr (kSigned) return hn::BitCast(D(), hn::Abs(Signed(a)));
+    if constexpr (kSigned) return hn::BitCast(hn::DFromV<V>(), hn::Abs(Signed(a)));
     return a;
   }
+  template <class V>
   HWY_INLINE V operator()(V a, V b) const {
     if constexpr (kSigned) {
-      return hn::BitCast(D(), hn::Sub(hn::Max(Signed(a), Signed(b)), hn::Min(Signed(a), Signed(b))));
+      return hn::BitCast(hn::DFromV<V>(), hn::Sub(hn::Max(Signed(a), Signed(b)), hn::Min(Signed(a), Signed(b))));
     } else {
       return hn::Or(hn::SaturatedSub(a, b), hn::SaturatedSub(b, a));
     }
+  }
+
+ private:
+  template <class V>
+  static HWY_INLINE auto Signed(V v) {
+    return hn::BitCast(hn::RebindToSigned<hn::DFromV<V>>(), v);
   }
 };
 
@@ -58,17 +63,24 @@ class LargestMeter {
     lanes_.Add(n, Magnitudes(), rows...);
   }
   void Finish(int channels, double* values) const {
-    L largest[4] = {};
-    for (int s = 0, c = 0; s < LargestLanes<L>::kSums; ++s) {
-      for (int lane = 0; lane < lanes_.kSumLanes; ++lane) {
-        largest[c] = std::max(largest[c], lanes_[s][lane]);
-        c = c + 1 == channels ? 0 : c + 1;
+    L largest[kPeriod] = {};
+    for (int s = 0; s < LargestLanes<L>::kSums; ++s) {
+      for (int lane = 0; lane < lanes_.kSumLanes; lane += kBlock) {
+        L* const to = largest + (s * lanes_.kSumLanes + lane) % kPeriod;
+        for (int i = 0; i < kBlock; ++i) to[i] = std::max(to[i], lanes_[s][lane + i]);
       }
     }
-    for (int c = 0; c < channels; ++c) values[c] = largest[c];
+    for (int c = 0; c < channels; ++c) {
+      L most = 0;
+      for (int i = c; i < kPeriod; i += channels) most = std::max(most, largest[i]);
+      values[c] = most;
+    }
   }
 
  private:
+  // Lanes of the shortest vectors, and of three of them, which begin with the same channel again.
+  static constexpr int kBlock = 16 / static_cast<int>(sizeof(L)), kPeriod = 3 * kBlock;
+
   Accumulators<LargestLanes<L>> lanes_;
 };
 
@@ -126,17 +138,17 @@ class FloatMeter {
 // Squares of signed samples are products of them as they are; those of differences need the sign's bit.
 template <Norm kNorm, class T, bool kIsDifference, bool kOneChannel, class U = hwy::MakeUnsigned<T>>
 using IntegerMeterFor = std::conditional_t<
-    kNorm == Norm::kL1, IntegerMeter<Norm::kL1, SumsOf<U, kOneChannel>, IntegerMagnitude<U, std::is_signed_v<T>>>,
+    kNorm == Norm::kL1, IntegerMeter<Norm::kL1, SumsOf<U, kOneChannel>, IntegerMagnitude<std::is_signed_v<T>>>,
     std::conditional_t<std::is_signed_v<T> && !kIsDifference,
-                       IntegerMeter<Norm::kL2, ProductsOf<T, kOneChannel>, IntegerMagnitude<U, false>>,
-                       IntegerMeter<Norm::kL2, ProductsOf<U, kOneChannel>, IntegerMagnitude<U, std::is_signed_v<T>>>>>;
+                       IntegerMeter<Norm::kL2, ProductsOf<T, kOneChannel>, IntegerMagnitude<false>>,
+                       IntegerMeter<Norm::kL2, ProductsOf<U, kOneChannel>, IntegerMagnitude<std::is_signed_v<T>>>>>;
 
 // Calls use<meter of differences, meter of single images>() with the meters for a type, number of channels and hint.
 template <Norm kNorm, class T, class Use>
 void WithMeters(int channels, QvpHintAlgorithm hint, const Use& use) {
   if constexpr (kNorm == Norm::kInf && std::is_integral_v<T>) {
     using U = hwy::MakeUnsigned<T>;
-    using Meter = LargestMeter<U, IntegerMagnitude<U, std::is_signed_v<T>>>;
+    using Meter = LargestMeter<U, IntegerMagnitude<std::is_signed_v<T>>>;
     use.template operator()<Meter, Meter>();
   } else if constexpr (kNorm == Norm::kInf) {
     using Meter = LargestMeter<T, Magnitude<hn::ScalableTag<T>>>;

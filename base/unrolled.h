@@ -5,7 +5,7 @@
 
 #include "base/simd.h"
 
-namespace qvp::filter {
+namespace qvp {
 
 // Calls body(0), body(1) ... with constants, so that arrays of vectors stay in registers.
 template <int kCount, class Body>
@@ -25,4 +25,4 @@ HWY_INLINE const T* Unknown(const T* p) {
   return p;
 }
 
-}  // namespace qvp::filter
+}  // namespace qvp
