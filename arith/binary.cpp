@@ -1,9 +1,8 @@
 // Images of one bit a pixel, eight to a byte, the leftmost in the highest bit.
-#include <array>
-
 #include "base/check.h"
 #include "base/export.h"
 #include "base/lanes.h"
+#include "base/scalar.h"
 
 namespace {
 using namespace qvp;
@@ -44,48 +43,56 @@ void RowToGrey(const uint8_t* src, ptrdiff_t offset, T* dst, ptrdiff_t n, T low,
   std::memcpy(dst + i, last, (n - i) * sizeof(T));
 }
 
-// The same eight bits from the last to the first.
-constexpr auto kReversed = [] {
-  std::array<uint8_t, 256> reversed{};
-  for (int v = 0; v < 256; ++v) {
-    for (int bit = 0; bit < 8; ++bit) reversed[v] |= static_cast<uint8_t>((v >> bit & 1) << (7 - bit));
-  }
-  return reversed;
-}();
-
-// The bits of eight pixels: 1 above the threshold. What is not a number is not.
-template <class T>
-HWY_INLINE uint8_t BitsAbove(const T* from, hn::Vec<Eight<T>> threshold) {
-  const Eight<T> d;
-  constexpr int kLanes = static_cast<int>(hn::MaxLanes(Eight<T>()));
-  uint32_t bits = 0;
-  for (int i = 0; i < 8; i += kLanes) {
-    uint8_t some[8];
-    hn::StoreMaskBits(d, hn::Gt(hn::LoadU(d, from + i), threshold), some);
-    bits |= (some[0] & ((1u << kLanes) - 1)) << i;
-  }
-  return kReversed[bits];
+// The bits of each byte of a word from the last to the first.
+HWY_INLINE uint64_t WithReversedBytes(uint64_t bits) {
+  bits = (bits >> 4 & 0x0F0F0F0F0F0F0F0F) | (bits & 0x0F0F0F0F0F0F0F0F) << 4;
+  bits = (bits >> 2 & 0x3333333333333333) | (bits & 0x3333333333333333) << 2;
+  return (bits >> 1 & 0x5555555555555555) | (bits & 0x5555555555555555) << 1;
 }
 
-// Fewer than eight pixels, into a byte whose other bits stay.
+// Pixels whose bits are made at a time.
+constexpr ptrdiff_t kWord = 64;
+
+// The bits of a word of pixels, the first in the lowest: 1 above the threshold. What is not a number is not.
 template <class T>
-void PutSome(const T* from, ptrdiff_t n, hn::Vec<Eight<T>> threshold, ptrdiff_t offset, uint8_t* byte) {
-  T eight[8] = {};
-  std::memcpy(eight, from, n * sizeof(T));
-  const uint32_t mask = (0xFF00u >> n & 0xFF) >> offset;
-  *byte = static_cast<uint8_t>((*byte & ~mask) | (BitsAbove(eight, threshold) >> offset & mask));
+HWY_INLINE uint64_t BitsAbove(const T* from, hn::Vec<hn::ScalableTag<T>> threshold) {
+  const hn::ScalableTag<T> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
+  uint64_t bits = 0;
+  for (ptrdiff_t i = 0; i < kWord; i += kLanes) {
+    uint64_t some = 0;
+    hn::StoreMaskBits(d, hn::Gt(hn::LoadU(d, from + i), threshold), reinterpret_cast<uint8_t*>(&some));
+    bits |= some << i;
+  }
+  return bits;
 }
 
+// The lowest n bits to the pixels from number `begin` on; others of their bytes stay.
+void PutSome(uint64_t bits, ptrdiff_t begin, ptrdiff_t n, uint8_t* to) {
+  const uint64_t mask = WithReversedBytes(~uint64_t{0} >> (kWord - n) << begin);
+  bits = WithReversedBytes(bits << begin) & mask;
+  for (ptrdiff_t i = 0; i < begin + n; i += 8, ++to) {
+    *to = static_cast<uint8_t>((*to & ~(mask >> i)) | bits >> i);
+  }
+}
+
+// Words of the destination; where the row begins or ends within one, those of the pixels at its ends.
 template <class T>
 void RowToBits(const T* src, uint8_t* dst, ptrdiff_t offset, ptrdiff_t n, T threshold) {
-  const auto bound = hn::Set(Eight<T>(), threshold);
+  const auto bound = hn::Set(hn::ScalableTag<T>(), threshold);
+  T staged[kWord] = {};
+  if (n < kWord) src = static_cast<const T*>(std::memcpy(staged, src, n * sizeof(T)));
   ptrdiff_t i = 0;
   if (offset > 0) {
-    i = std::min(8 - offset, n);
-    PutSome(src, i, bound, offset, dst++);
+    i = std::min(kWord - offset, n);
+    PutSome(BitsAbove(src, bound), offset, i, dst);
+    dst += sizeof(uint64_t);
   }
-  for (; i + 8 <= n; i += 8) *dst++ = BitsAbove(src + i, bound);
-  if (i < n) PutSome(src + i, n - i, bound, 0, dst);
+  for (; i + kWord <= n; i += kWord, dst += sizeof(uint64_t)) {
+    StoreScalar(reinterpret_cast<uint64_t*>(dst), WithReversedBytes(BitsAbove(src + i, bound)));
+  }
+  const ptrdiff_t last = std::max(n, kWord) - kWord;
+  if (i < n) PutSome(BitsAbove(src + last, bound) >> (i - last), 0, n - i, dst);
 }
 
 bool IsBitOffset(int offset) { return offset >= 0 && offset <= 7; }
