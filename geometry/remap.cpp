@@ -68,11 +68,11 @@ Task<T> TaskOf(const Call<T>& call, int method) {
   return task;
 }
 
-// The last points of a row, with copies of the very last one behind them.
+// Points of a row, with copies of the last one behind them.
 template <class Map>
 void Stage(const Map* from, ptrdiff_t n, Map* to) {
   std::memcpy(to, from, n * sizeof(Map));
-  std::fill(to + n, to + kBlock, to[n - 1]);
+  std::fill(to + n, to + Padded(n) + kSpare, to[n - 1]);
 }
 
 // Where the rows that follow take their pixels, told by one of their points.
@@ -86,22 +86,22 @@ void FetchAhead(Task<T>& task, const Call<T>& call, ptrdiff_t y) {
 }
 
 template <int kTaps, class T>
-void RemapRows(Task<T>& task, const Call<T>& call) {
+void RemapRows(const Task<T>& task, const Call<T>& call) {
   using Map = WorkOf<T>;
   const int channels = Channels(call.dst.layout);
-  Map u[kBlock], v[kBlock];
+  Rimmed<T> rimmed(task, kTaps);
+  const Sources<T> sources{task, rimmed.task()};
+  Map u[kBlock + kSpare], v[kBlock + kSpare];
   for (ptrdiff_t y = 0; y < call.size.height; ++y) {
     const Map *mapX = call.x.Row(y), *mapY = call.y.Row(y);
     T* row = call.dst.Row(y);
-    ptrdiff_t x = 0;
-    FetchAhead(task, call, y);
-    for (; x + kBlock <= call.size.width; x += kBlock)
-      Sample<kTaps>(task, mapX + x, mapY + x, kBlock, row + x * channels);
-    if (x == call.size.width) continue;
-    const ptrdiff_t n = call.size.width - x;
-    Stage(mapX + x, n, u);
-    Stage(mapY + x, n, v);
-    Sample<kTaps>(task, u, v, n, row + x * channels);
+    if (!rimmed.isCopy()) FetchAhead(rimmed.task(), call, y);
+    for (ptrdiff_t x = 0, n; x < call.size.width; x += n) {
+      n = std::min<ptrdiff_t>(kBlock, call.size.width - x);
+      Stage(mapX + x, n, u);
+      Stage(mapY + x, n, v);
+      Sample<kTaps>(sources, u, v, n, row + x * channels);
+    }
   }
 }
 
@@ -110,7 +110,7 @@ QvpStatus Remap(const Call<T>& call) {
   const int asked = call.interpolation & INT32_MAX;
   if (const QvpStatus failed = Check(call, asked)) return failed;
   const int method = MethodFor(call.srcSize, asked);
-  Task<T> task = TaskOf(call, method);
+  const Task<T> task = TaskOf(call, method);
   switch (TapsOf(method)) {
     case 1: RemapRows<1>(task, call); break;
     case 2: RemapRows<2>(task, call); break;

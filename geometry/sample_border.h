@@ -4,6 +4,7 @@
 #include "base/scalar.h"
 #include "geometry/sample_bytes.h"
 #include "geometry/sample_floats.h"
+#include "geometry/sample_rim.h"
 
 namespace qvp::sampling {
 
@@ -64,16 +65,6 @@ BorderPoint Locate(const Area& area, double u, double v) {
                                                               AreAllOutside(point.row, kTaps, area.rows));
   point.origin = isConstant ? Origin::kConstant : Origin::kTaps;
   return point;
-}
-
-// The channels of a pixel, by few instructions: a call would take longer than all else of a point.
-template <class T>
-HWY_INLINE void CopyPixel(T* to, const T* from, int channels) {
-  switch (channels) {
-    case 1: std::memcpy(to, from, sizeof(T)); break;
-    case 3: std::memcpy(to, from, 3 * sizeof(T)); break;
-    default: std::memcpy(to, from, 4 * sizeof(T)); break;
-  }
 }
 
 // The taps of a point at the border: tap k of row r goes to patch + (r * kTaps + k) * channels.

@@ -136,6 +136,9 @@ inline constexpr int kBlock = 256;
 // Points up to whole vectors of any build.
 constexpr ptrdiff_t Padded(ptrdiff_t n) { return (n + 15) & -16; }
 
+// Room for vectors from any point of a block on.
+inline constexpr ptrdiff_t kSpare = 16;
+
 // Linear interpolation of bytes is done in integers.
 template <int kTaps, class T>
 using FractionOf = std::conditional_t<kTaps == 2 && std::is_same_v<T, uint8_t>, int32_t, WorkOf<T>>;

@@ -7,23 +7,6 @@
 
 namespace qvp::sampling {
 
-// Whether no point of a block takes anything from the image. What is no number is left to closer inspection.
-template <int kTaps, class C>
-bool AreAllBeyond(const Area& a, const C* u, const C* v, ptrdiff_t n) {
-  const hn::ScalableTag<C> d;
-  const auto at = [d](double place) { return hn::Set(d, static_cast<C>(place)); };
-  const auto left = at((a.isBounded ? a.left : static_cast<double>(a.columns.begin)) - kTaps - 1);
-  const auto right = at((a.isBounded ? a.right : static_cast<double>(a.columns.end)) + kTaps + 1);
-  const auto top = at((a.isBounded ? a.top : static_cast<double>(a.rows.begin)) - kTaps - 1);
-  const auto bottom = at((a.isBounded ? a.bottom : static_cast<double>(a.rows.end)) + kTaps + 1);
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto x = hn::LoadU(d, u + i), y = hn::LoadU(d, v + i);
-    const auto isBeyond = hn::Or(hn::Or(hn::Lt(x, left), hn::Gt(x, right)), hn::Or(hn::Lt(y, top), hn::Gt(y, bottom)));
-    if (!hn::AllTrue(d, isBeyond)) return false;
-  }
-  return true;
-}
-
 // Whether points far enough outside take nothing from the image: they are left alone, or get the constant.
 inline bool IsBeyondKnown(const Area& area) { return area.isBounded || area.kind == BorderKind::kConst; }
 
@@ -43,42 +26,118 @@ void FillBeyond(const Task<T>& task, ptrdiff_t n, T* dst) {
   }
 }
 
+// Points outside of it take nothing from the image, whatever the method. What is no number is left to a test.
+template <int kTaps>
+PointBox ReachedBox(const Area& a) {
+  const auto around = [](double low, double high) { return Interval{low - kTaps - 1, high + kTaps + 1}; };
+  if (a.isBounded) return {around(a.left, a.right), around(a.top, a.bottom)};
+  return {around(static_cast<double>(a.columns.begin), static_cast<double>(a.columns.end)),
+          around(static_cast<double>(a.rows.begin), static_cast<double>(a.rows.end))};
+}
+
+// A box in vectors of coordinates.
+template <class C>
+class BoxLanes {
+ public:
+  using D = hn::ScalableTag<C>;
+  using V = hn::Vec<D>;
+
+  explicit BoxLanes(const PointBox& box)
+      : left_(At(box.u.low)), right_(At(box.u.high)), top_(At(box.v.low)), bottom_(At(box.v.high)) {}
+
+  HWY_INLINE hn::Mask<D> Has(V x, V y) const {
+    return hn::And(hn::And(hn::Ge(x, left_), hn::Le(x, right_)), hn::And(hn::Ge(y, top_), hn::Le(y, bottom_)));
+  }
+  HWY_INLINE hn::Mask<D> IsBeside(V x, V y) const {
+    return hn::Or(hn::Or(hn::Lt(x, left_), hn::Gt(x, right_)), hn::Or(hn::Lt(y, top_), hn::Gt(y, bottom_)));
+  }
+
+ private:
+  static V At(double place) { return hn::Set(D(), static_cast<C>(place)); }
+  V left_, right_, top_, bottom_;
+};
+
 template <class C>
 bool AreAllInside(const PointBox& box, const C* u, const C* v, ptrdiff_t n) {
   const hn::ScalableTag<C> d;
-  const auto at = [d](double place) { return hn::Set(d, static_cast<C>(place)); };
-  const auto left = at(box.u.low), right = at(box.u.high), top = at(box.v.low), bottom = at(box.v.high);
-  auto isInside = hn::Eq(left, left);
+  const BoxLanes<C> lanes(box);
+  auto isInside = hn::Eq(hn::Zero(d), hn::Zero(d));
   for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto x = hn::LoadU(d, u + i), y = hn::LoadU(d, v + i);
-    const auto isColumn = hn::And(hn::Ge(x, left), hn::Le(x, right));
-    isInside = hn::And(isInside, hn::And(isColumn, hn::And(hn::Ge(y, top), hn::Le(y, bottom))));
+    isInside = hn::And(isInside, lanes.Has(hn::LoadU(d, u + i), hn::LoadU(d, v + i)));
   }
   return hn::AllTrue(d, isInside);
 }
 
-// Blocks whose points differ in kind are divided into four, down to groups of a vector.
-inline constexpr ptrdiff_t kGroup = hn::MaxLanes(hn::ScalableTag<float>());
-constexpr ptrdiff_t QuarterOf(ptrdiff_t n) { return std::max((n / 4 + kGroup - 1) / kGroup, ptrdiff_t{1}) * kGroup; }
-
-// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) points; those behind the
-// n-th are copies of it.
-template <int kTaps, class T, class C>
-void Sample(const Task<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
-  const PointArray<C> points{u, v};
-  if (AreAllInside(task.interior, u, v, n)) return SampleInside<kTaps>(task, points, n, dst);
-  if (IsBeyondKnown(task.area) && AreAllBeyond<kTaps>(task.area, u, v, n)) return FillBeyond(task, n, dst);
-  const int channels = Channels(task.src.layout);
-  if (n > kGroup) {
-    const ptrdiff_t quarter = QuarterOf(n);
-    for (ptrdiff_t i = 0; i < n; i += quarter) {
-      Sample<kTaps>(task, u + i, v + i, std::min(quarter, n - i), dst + i * channels);
-    }
-    return;
+// One bit for each point of a block.
+class PointBits {
+ public:
+  template <class D>
+  HWY_INLINE void Set(D d, ptrdiff_t first, hn::Mask<D> mask) {
+    uint64_t bits = 0;
+    hn::StoreMaskBits(d, mask, reinterpret_cast<uint8_t*>(&bits));
+    words_[first / 64] |= bits << first % 64;
   }
-  for (ptrdiff_t i = 0; i < n; ++i) {
-    SamplePoint<kTaps>(task, static_cast<double>(LoadScalar(u + i)), static_cast<double>(LoadScalar(v + i)),
-                       dst + i * channels);
+  bool operator[](ptrdiff_t i) const { return words_[i / 64] >> i % 64 & 1; }
+
+  // The first point of n behind `first` that has another bit, or n.
+  ptrdiff_t EndOfRun(ptrdiff_t first, ptrdiff_t n) const {
+    const uint64_t same = (*this)[first] ? ~uint64_t{0} : 0;
+    for (ptrdiff_t i = first; i < n; i = (i | 63) + 1) {
+      const uint64_t others = (words_[i / 64] ^ same) >> i % 64;
+      if (others != 0) return std::min(n, i + static_cast<ptrdiff_t>(hwy::Num0BitsBelowLS1Bit_Nonzero64(others)));
+    }
+    return n;
+  }
+
+ private:
+  uint64_t words_[kBlock / 64] = {};
+};
+
+// The points of a block that need no test, and those that take nothing from the image.
+struct PointKinds {
+  PointBits inside, beyond;
+
+  template <class C>
+  PointKinds(const PointBox& interior, const PointBox& reached, const C* u, const C* v, ptrdiff_t n) {
+    const hn::ScalableTag<C> d;
+    const BoxLanes<C> inner(interior), outer(reached);
+    for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+      const auto x = hn::LoadU(d, u + i), y = hn::LoadU(d, v + i);
+      inside.Set(d, i, inner.Has(x, y));
+      beyond.Set(d, i, outer.IsBeside(x, y));
+    }
+  }
+};
+
+// Points one by one.
+template <int kTaps, class T, class C>
+void SampleEach(const Task<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst) {
+  for (ptrdiff_t i = 0; i < n; ++i, dst += Channels(task.src.layout)) {
+    SamplePoint<kTaps>(task, static_cast<double>(LoadScalar(u + i)), static_cast<double>(LoadScalar(v + i)), dst);
+  }
+}
+
+// Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) + kSpare points; those
+// behind the n-th are copies of it. Points of one kind come in runs.
+template <int kTaps, class T, class C>
+void Sample(const Sources<T>& sources, const C* u, const C* v, ptrdiff_t n, T* dst) {
+  const Task<T>&task = sources.tested, &inside = sources.inside;
+  if (AreAllInside(inside.interior, u, v, n)) return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
+  constexpr ptrdiff_t kFewest = 3;  // points for which vectors pay
+  const PointKinds kinds(inside.interior, ReachedBox<kTaps>(task.area), u, v, n);
+  const bool isBeyondKnown = IsBeyondKnown(task.area);
+  const int channels = Channels(task.src.layout);
+  for (ptrdiff_t first = 0, end; first < n; first = end) {
+    const bool isInside = kinds.inside[first], isBeyond = isBeyondKnown && kinds.beyond[first];
+    end = isInside ? kinds.inside.EndOfRun(first, n) : kinds.beyond.EndOfRun(first, kinds.inside.EndOfRun(first, n));
+    T* const to = dst + first * channels;
+    if (isInside && end - first >= kFewest) {
+      SampleInside<kTaps>(inside, PointArray<C>{u + first, v + first}, end - first, to);
+    } else if (isBeyond) {
+      FillBeyond(task, end - first, to);
+    } else {
+      SampleEach<kTaps>(task, u + first, v + first, end - first, to);
+    }
   }
 }
 

@@ -172,11 +172,7 @@ struct QuickPoints {
   }
 };
 
-// Room for vectors from any point of a block on.
-inline constexpr ptrdiff_t kSpare = 16;
-
-// Coordinates of n points, and copies of the last one up to Padded(n); where pixels are left out, whose neighbours
-// begin anywhere, by kSpare more.
+// Coordinates of n points, and copies of the last one up to Padded(n) + kSpare.
 template <class Points>
 void StoreCoordinates(const Points& points, ptrdiff_t n, double* u, double* v) {
   const hn::ScalableTag<double> d;
@@ -186,7 +182,7 @@ void StoreCoordinates(const Points& points, ptrdiff_t n, double* u, double* v) {
     hn::StoreU(x, d, u + i);
     hn::StoreU(y, d, v + i);
   }
-  const ptrdiff_t end = Padded(n) + (Points::kAreAllWritten ? 0 : kSpare);
+  const ptrdiff_t end = Padded(n) + kSpare;
   std::fill(u + n, u + end, u[n - 1]);
   std::fill(v + n, v + end, v[n - 1]);
 }

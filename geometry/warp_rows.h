@@ -10,29 +10,29 @@ namespace qvp::warp {
 
 // Sample, for the points among n that are there at all.
 template <int kTaps, class T>
-void SampleRuns(const Task<T>& task, const double* u, const double* v, ptrdiff_t n, T* dst) {
+void SampleRuns(const Sources<T>& sources, const double* u, const double* v, ptrdiff_t n, T* dst) {
   const auto isThere = [&](ptrdiff_t i) { return u[i] == u[i]; };
   for (ptrdiff_t first = 0, end; first < n; first = end) {
     while (first < n && !isThere(first)) ++first;
     for (end = first; end < n && isThere(end);) ++end;
     if (first < end) {
-      Sample<kTaps>(task, u + first, v + first, end - first, dst + first * Channels(task.src.layout));
+      Sample<kTaps>(sources, u + first, v + first, end - first, dst + first * Channels(sources.tested.src.layout));
     }
   }
 }
 
 // Points that need a test.
 template <int kTaps, class T, class Points>
-void SampleTested(const Task<T>& task, const Points& points, ptrdiff_t first, ptrdiff_t end, T* row) {
-  const int channels = Channels(task.src.layout);
+void SampleTested(const Sources<T>& sources, const Points& points, ptrdiff_t first, ptrdiff_t end, T* row) {
+  const int channels = Channels(sources.tested.src.layout);
   double u[kBlock + kSpare], v[kBlock + kSpare];
   for (ptrdiff_t x = first; x < end; x += kBlock) {
     const ptrdiff_t n = std::min<ptrdiff_t>(end - x, kBlock);
     StoreCoordinates(points.From(x), n, u, v);
     if constexpr (Points::kAreAllWritten) {
-      Sample<kTaps>(task, u, v, n, row + x * channels);
+      Sample<kTaps>(sources, u, v, n, row + x * channels);
     } else {
-      SampleRuns<kTaps>(task, u, v, n, row + x * channels);
+      SampleRuns<kTaps>(sources, u, v, n, row + x * channels);
     }
   }
 }
@@ -58,17 +58,18 @@ void SampleInterior(const Task<T>& task, const Points& points, const Span& span,
 // A row of pixels beyond the image, pixels at its border, pixels inside, and these in turn. Those inside are at
 // `innerPoints`, wherever a tile begins. Pixels beyond a quadrangle are left alone.
 template <int kTaps, class T, class Points, class InnerPoints>
-void WarpRow(const Task<T>& task, const Spans& spans, const Points& points, const InnerPoints& innerPoints,
+void WarpRow(const Sources<T>& sources, const Spans& spans, const Points& points, const InnerPoints& innerPoints,
              ptrdiff_t width, T* row) {
+  const Task<T>& task = sources.tested;
   const int channels = Channels(task.src.layout);
   if constexpr (Points::kAreAllWritten) FillBeyond(task, spans.touching.first, row);
-  SampleTested<kTaps>(task, points, spans.touching.first, spans.inside.first, row);
-  if (task.interior.u.IsEmpty()) {
-    SampleTested<kTaps>(task, innerPoints, spans.inside.first, spans.inside.end, row);
+  SampleTested<kTaps>(sources, points, spans.touching.first, spans.inside.first, row);
+  if (sources.inside.interior.u.IsEmpty()) {
+    SampleTested<kTaps>(sources, innerPoints, spans.inside.first, spans.inside.end, row);
   } else {
-    SampleInterior<kTaps>(task, innerPoints, spans.inside, row);
+    SampleInterior<kTaps>(sources.inside, innerPoints, spans.inside, row);
   }
-  SampleTested<kTaps>(task, points, spans.inside.end, spans.touching.end, row);
+  SampleTested<kTaps>(sources, points, spans.inside.end, spans.touching.end, row);
   if constexpr (Points::kAreAllWritten) {
     FillBeyond(task, width - spans.touching.end, row + spans.touching.end * channels);
   }

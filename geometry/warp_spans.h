@@ -1,6 +1,7 @@
 // Which columns of a row take something from the image, and which need no test.
 #pragma once
 
+#include "geometry/sample_rim.h"
 #include "geometry/warp_points.h"
 
 namespace qvp::warp {
@@ -53,13 +54,6 @@ inline PointBox SafeBox(const PointBox& box) {
 struct Spans {
   Span touching, inside;
 };
-
-// The points of which some tap lies in the extent, or that are within the bounds.
-inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low, double high) {
-  if (area.isBounded) return {low - area.isSmooth, high + area.isSmooth};
-  const double before = kTapsBefore(taps) - kPointsBefore(taps);
-  return {static_cast<double>(extent.begin) - taps + 1 + before, static_cast<double>(extent.end) + before};
-}
 
 template <int kTaps, class T>
 PointBox TouchingBox(const Task<T>& task) {

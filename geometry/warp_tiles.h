@@ -57,7 +57,6 @@ constexpr bool kIsExact = kTaps == 1 || std::is_same_v<T, double>;
 template <int kTaps, class T>
 void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
   Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox inner = SafeBox(task.InnerBox(kTaps));
   const bool isPlaced = kTaps == 1 && !task.isShift;
   FixedSteps fixedSteps(isPlaced ? size.width : 0);
   AnchorSteps anchorSteps;
@@ -66,19 +65,22 @@ void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
     return (record.twist[i] * static_cast<double>(middle) + record.c[i][1]) * kRowsAhead;
   };
   task.FetchAhead(down(0), down(1));
+  Rimmed<T> rimmed(task, kTaps);
+  const Sources<T> sources{task, rimmed.task()};
+  const PointBox inner = SafeBox(rimmed.InnerBox(kTaps));
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     T* row = call.dst.Row(y);
     AffinePoints points(record, call.x, call.y + y);
     const Spans spans = SpansOf<kTaps>(task, inner, points, size.width);
     if constexpr (kIsExact<kTaps, T>) {
       if (isPlaced && fixedSteps.Set(points.u.a, points.v.a)) points.steps = &fixedSteps;
-      WarpRow<kTaps>(task, spans, points, points, size.width, row);
+      WarpRow<kTaps>(sources, spans, points, points, size.width, row);
     } else {
       anchorSteps.Set(points.u.a, points.v.a);
       if (anchorSteps.IsUsableFor(points, record.width)) {
-        WarpRow<kTaps>(task, spans, points, AnchoredPoints(points, anchorSteps, call.x), size.width, row);
+        WarpRow<kTaps>(sources, spans, points, AnchoredPoints(points, anchorSteps, call.x), size.width, row);
       } else {
-        SampleTested<kTaps>(task, points, 0, size.width, row);
+        SampleTested<kTaps>(sources, points, 0, size.width, row);
       }
     }
   }
@@ -94,14 +96,14 @@ void FetchBelow(Task<T>& task, const Record& record, const PerspectivePoints& po
 
 // A row by points that take some roundings more inside of a box, where they need not be exact.
 template <int kTaps, class T, class Points>
-void WarpQuickly(const Task<T>& task, const Spans& spans, const PointBox& box, const Points& points, ptrdiff_t width,
-                 T* row) {
+void WarpQuickly(const Sources<T>& sources, const Spans& spans, const PointBox& box, const Points& points,
+                 ptrdiff_t width, T* row) {
   if constexpr (kIsExact<kTaps, T>) {
-    WarpRow<kTaps>(task, spans, points, points, width, row);
+    WarpRow<kTaps>(sources, spans, points, points, width, row);
   } else {
     const QuickPoints<Points, false> interior{points, &box};
     const QuickPoints<Points, true> tested{points, &box};
-    WarpRow<kTaps>(task, spans, tested, interior, width, row);
+    WarpRow<kTaps>(sources, spans, tested, interior, width, row);
   }
 }
 
@@ -115,12 +117,14 @@ inline Spans SpansOf(const PerspectivePoints& points, const PointBox& inner, ptr
 
 template <int kTaps, class T>
 void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
-  Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox inner = SafeBox(task.InnerBox(kTaps));
+  const Task<T> task = TaskOf<kTaps>(call, record);
+  Rimmed<T> rimmed(task, kTaps);
+  const Sources<T> sources{task, rimmed.task()};
+  const PointBox inner = SafeBox(rimmed.InnerBox(kTaps));
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     const PerspectivePoints points(record, call.x, call.y + y);
-    FetchBelow(task, record, points, size.width / 2, call.y + y);
-    WarpQuickly<kTaps>(task, SpansOf(points, inner, size.width), inner, points, size.width, call.dst.Row(y));
+    if (!rimmed.isCopy()) FetchBelow(rimmed.task(), record, points, size.width / 2, call.y + y);
+    WarpQuickly<kTaps>(sources, SpansOf(points, inner, size.width), inner, points, size.width, call.dst.Row(y));
   }
 }
 
@@ -139,13 +143,15 @@ template <int kTaps, class T>
 void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   constexpr double kRim = 1.0 / (1 << 10);  // more than the tolerance at the edge
   const Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox inner = SafeBox(WithinImage(task.InnerBox(kTaps), record));
+  Rimmed<T> rimmed(task, kTaps);
+  const Sources<T> sources{task, rimmed.task()};
+  const PointBox inner = SafeBox(WithinImage(rimmed.InnerBox(kTaps), record));
   const Outlines outlines(record, WithRim(TouchingBox<kTaps>(task), kRim), kRim, inner);
   const bool isBeyondKnown = IsBeyondKnown(task.area);
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     Spans spans = outlines.At(call.x, call.y + y, size.width);
     if (!isBeyondKnown) spans.touching = {0, size.width};
-    WarpQuickly<kTaps>(task, spans, inner, BilinearPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
+    WarpQuickly<kTaps>(sources, spans, inner, BilinearPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
   }
 }
 
@@ -169,13 +175,15 @@ void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) 
   constexpr double kRim = 10 * QuadPoints::kTolerance;
   constexpr PointBox kSquare{{0, 1}, {0, 1}};
   const Task<T> task = TaskOf<kTaps>(call, record);
-  const PointBox quick = SafeBox(kSquare), within = SafeBox(WithinImage(task.InnerBox(kTaps), record));
+  Rimmed<T> rimmed(task, kTaps);
+  const Sources<T> sources{task, rimmed.task()};
+  const PointBox quick = SafeBox(kSquare), within = SafeBox(WithinImage(rimmed.InnerBox(kTaps), record));
   const PointBox inner = InnerSquare(record.toSource, within);
   const Outlines outlines(record, WithRim(kSquare, kRim), kRim, inner);
   const Span rows = outlines.Rows(call.y, size.height);
   for (ptrdiff_t y = rows.first; y < rows.end; ++y) {
     const Spans spans = outlines.At(call.x, call.y + y, size.width);
-    WarpQuickly<kTaps>(task, spans, quick, QuadPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
+    WarpQuickly<kTaps>(sources, spans, quick, QuadPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
   }
 }
 

@@ -1,0 +1,109 @@
+// Copies of small sources with a rim around them, in which points at the border of the image have all taps.
+#pragma once
+
+#include "base/record.h"
+#include "base/scalar.h"
+#include "geometry/sample_task.h"
+
+namespace qvp::sampling {
+
+// The points of which some tap lies in the extent, or that are within the bounds.
+inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low, double high) {
+  if (area.isBounded) return {low - area.isSmooth, high + area.isSmooth};
+  const double before = kTapsBefore(taps) - kPointsBefore(taps);
+  return {static_cast<double>(extent.begin) - taps + 1 + before, static_cast<double>(extent.end) + before};
+}
+
+inline Interval Common(const Interval& a, const Interval& b) {
+  return {std::max(a.low, b.low), std::min(a.high, b.high)};
+}
+
+// The channels of a pixel, by few instructions: a call would take longer than all else of a point.
+template <class T>
+HWY_INLINE void CopyPixel(T* to, const T* from, int channels) {
+  switch (channels) {
+    case 1: std::memcpy(to, from, sizeof(T)); break;
+    case 3: std::memcpy(to, from, 3 * sizeof(T)); break;
+    default: std::memcpy(to, from, 4 * sizeof(T)); break;
+  }
+}
+
+// What a call takes points from that need a test, and those that need none.
+template <class T>
+struct Sources {
+  const Task<T>& tested;
+  const Task<T>& inside;
+};
+
+// What interior points are taken from: the source or, if it is small, a copy with as many pixels around it as taps can
+// lie in. There a point at the border costs no more than others. Whether there is one depends on the source alone,
+// so that tiles equal the whole.
+template <class T>
+class Rimmed {
+ public:
+  Rimmed(const Task<T>& task, int taps) : task_(task) {
+    const int further = kFurther(taps, Channels(task.src.layout));
+    const Extent columns = WithRim(task.area.columns, taps, further), rows = WithRim(task.area.rows, taps, further);
+    const int64_t rowBytes = (int64_t{columns.end - columns.begin} * task.src.PixelBytes() + 63) & -64;
+    const int64_t most = kMostBytes - kElementsBehind * int64_t{sizeof(T)};
+    isCopy_ = !task.isShift && rowBytes <= most && (rows.end - rows.begin) * rowBytes <= most;
+    if (isCopy_) Copy(columns, rows, static_cast<ptrdiff_t>(rowBytes), taps);
+  }
+
+  Task<T>& task() { return task_; }
+  bool isCopy() const { return isCopy_; }
+  // The points that need no test.
+  PointBox InnerBox(int taps) const { return isCopy_ ? task_.interior : task_.InnerBox(taps); }
+
+ private:
+  // Of a copy on the stack, with what kernels load behind the last tap.
+  static constexpr int64_t kMostBytes = 24 << 10, kElementsBehind = 8;
+
+  // Of the last pixel with all taps only the first half counts, which is why there is one more.
+  static Extent WithRim(Extent extent, int taps, int further) {
+    return {extent.begin - (taps - 1), extent.end + taps + further};
+  }
+
+  void Copy(Extent columns, Extent rows, ptrdiff_t step, int taps) {
+    const Task<T> source(task_);
+    Area& area = task_.area;
+    task_.src.data = reinterpret_cast<const T*>(bytes_ - rows.begin * step - columns.begin * source.src.PixelBytes());
+    task_.src.step = step;
+    task_.ahead = 0;
+    for (ptrdiff_t y = rows.begin; y < rows.end; ++y) {
+      CopyRow(source, columns, y, reinterpret_cast<T*>(bytes_ + (y - rows.begin) * step));
+    }
+    const int further = kFurther(taps, Channels(source.src.layout));
+    const auto inner = [&](Extent rimmed, Extent extent, double low, double high) {
+      const Interval all = InteriorOf(rimmed, taps, further, false, 0, 0);
+      if (area.isBounded) return Common(all, {low, high});
+      return area.kind == BorderKind::kConst ? Common(all, TouchingOf(area, taps, extent, low, high)) : all;
+    };
+    task_.interior = {inner(columns, area.columns, area.left, area.right),
+                      inner(rows, area.rows, area.top, area.bottom)};
+    area.columns = columns, area.rows = rows;
+  }
+
+  static void CopyRow(const Task<T>& source, Extent columns, ptrdiff_t y, T* to) {
+    const Area& area = source.area;
+    const int channels = Channels(source.src.layout);
+    const ptrdiff_t from = BorderPosition(area.kind, y, area.rows);
+    const auto fill = [&](const T* pixel, ptrdiff_t n) {
+      for (ptrdiff_t i = 0; i < n; ++i, to += channels) CopyPixel(to, pixel, channels);
+    };
+    if (from == kOutside) return fill(source.constant, columns.end - columns.begin);
+    const bool isConst = area.kind == BorderKind::kConst;
+    const T* const row = source.src.Row(from);
+    const T *const first = row + area.columns.begin * channels, *const end = row + area.columns.end * channels;
+    fill(isConst ? source.constant : first, area.columns.begin - columns.begin);
+    std::memcpy(to, first, (end - first) * sizeof(T));
+    to += end - first;
+    fill(isConst ? source.constant : end - channels, columns.end - area.columns.end);
+  }
+
+  Task<T> task_;
+  bool isCopy_;
+  alignas(64) uint8_t bytes_[kMostBytes];
+};
+
+}  // namespace qvp::sampling
