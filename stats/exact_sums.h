@@ -41,7 +41,7 @@ class ExactSums {
     constexpr int kEach = kSums / kQuantities;
     Drain();
     for (int c = 0; c < channels; ++c) sums[c] = -(Samples(channels) / 2 * Kernel::kPairBias);
-    if (channels == 1) AddTotals<1>(quantity * kEach, kEach, sums);
+    if (channels == 1) AddAllTotals(quantity * kEach, kEach, sums);
     if (channels == 3) AddTotals<3>(quantity * kEach, kEach, sums);
     if (channels == 4) AddTotals<4>(quantity * kEach, kEach, sums);
   }
@@ -51,6 +51,7 @@ class ExactSums {
 
  private:
   using Lane = typename Accumulators<Kernel>::Lane;
+  using Totals = hn::Repartition<uint64_t, typename Kernel::Sums>;
   static constexpr int kSums = Kernel::kSums, kLanes = Accumulators<Kernel>::kSumLanes;
   static constexpr int kBits = 8 * sizeof(Lane), kFields = 64 / kBits;
 
@@ -62,7 +63,7 @@ class ExactSums {
 
   // Moves the lanes into 64-bit totals.
   void Drain() {
-    const hn::Repartition<uint64_t, typename Kernel::Sums> d;
+    const Totals d;
     const auto mask = hn::Set(d, ~uint64_t{0} >> (64 - kBits));
     for (int s = 0; s < kSums; ++s) {
       const auto lanes = hn::Load(d, reinterpret_cast<const uint64_t*>(lanes_[s]));
@@ -84,6 +85,17 @@ class ExactSums {
         sums[Kernel::Position(s, lane) % kChannels] += totals[lane % kFields][lane / kFields] << Kernel::Shift(s);
       }
     }
+  }
+  // Of one channel, where no lane has another place than others.
+  void AddAllTotals(int first, int count, uint64_t* sum) const {
+    const Totals d;
+    auto all = hn::Zero(d);
+    for (int s = 0; s < count; ++s) {
+      for (int field = 0; field < kFields; ++field) {
+        all = hn::Add(all, hn::ShiftLeftSame(hn::Load(d, totals_[first + s][field]), Kernel::Shift(s)));
+      }
+    }
+    *sum += hn::GetLane(hn::SumOfLanes(d, all));
   }
 
   Accumulators<Kernel> lanes_;
