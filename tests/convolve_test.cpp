@@ -5,6 +5,7 @@
 #include "gtest/gtest.h"
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
+#include "tests/support/operand.h"
 #include "tests/support/reference.h"
 
 namespace {
@@ -12,6 +13,7 @@ using test::Block;
 using test::Element;
 using test::Export;
 using test::Name;
+using test::Operand;
 using test::Real;
 using test::Samples;
 
@@ -23,34 +25,21 @@ enum class Content { kRandom, kExtremes, kLowest };
 Real ValueOf(Content content, const Element& element, test::Random& random) {
   if (content == Content::kLowest) return element.lowest;
   if (content == Content::kExtremes) return random.Next() % 2 ? element.lowest : element.highest;
-  if (element.isInteger) return element.lowest + random.Next() % int(element.highest - element.lowest + 1);
-  return static_cast<float>(random.Next() % 20001) / 1000 - 10;
+  return test::AnyPixel(element, random);
 }
 
-struct Operand {
-  QvpiSize size;
-  int channels;
-  Samples pixels;
-
-  Operand(const Element& element, QvpiSize s, int c, int gap)
-      : size(s), channels(c), pixels(element, s.width * c, s.height, gap) {}
-  void Fill(Content content, uint64_t seed) {
-    test::Random random(seed);
-    pixels.Fill([&](int, int) { return ValueOf(content, pixels.element(), random); });
+std::vector<double> PlaneOf(const Operand& operand, int channel) {
+  std::vector<double> plane;
+  for (int y = 0; y < operand.size.height; ++y) {
+    for (int x = 0; x < operand.size.width; ++x) plane.push_back(operand.At(x, y, channel));
   }
-  std::vector<double> Plane(int channel) const {
-    std::vector<double> plane;
-    for (int y = 0; y < size.height; ++y) {
-      for (int x = 0; x < size.width; ++x) plane.push_back(static_cast<double>(pixels(x * channels + channel, y)));
-    }
-    return plane;
-  }
-};
+  return plane;
+}
 
 // The full convolution of a channel: products added in the order of the second image. `F` is float, or holds the sums.
 template <class F>
 std::vector<F> Full(const Operand& a, const Operand& b, int channel) {
-  const std::vector<double> first = a.Plane(channel), second = b.Plane(channel);
+  const std::vector<double> first = PlaneOf(a, channel), second = PlaneOf(b, channel);
   const int width = a.size.width + b.size.width - 1, height = a.size.height + b.size.height - 1;
   std::vector<F> full(size_t(width) * height);
   for (int y = 0; y < b.size.height; ++y) {
@@ -243,7 +232,7 @@ TEST(Convolve, SpectraOfFloatsKeepTheirErrors) {
   constexpr double kEps = 0x1p-24;
   ForEachFloatCase([](const Export& function, const Operand& a, const Operand& b) {
     const auto full = FullOfEach<double>(a, b);
-    const auto norms = PerChannel(a, [&](int c) { return Norm(a.Plane(c)) * Norm(b.Plane(c)); });
+    const auto norms = PerChannel(a, [&](int c) { return Norm(PlaneOf(a, c)) * Norm(PlaneOf(b, c)); });
     std::vector<double> errors(full.size()), count(full.size());
     ForEachResult(function, {a, b, 1, qvpMethodFourier}, [&](int channel, Real result, size_t at) {
       const double error = std::abs(static_cast<double>(result) - full[channel][at]) / (kEps * norms[channel]);

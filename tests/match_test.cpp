@@ -7,12 +7,14 @@
 #include "gtest/gtest.h"
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
+#include "tests/support/operand.h"
 
 namespace {
 using test::Block;
 using test::Element;
 using test::Export;
 using test::Name;
+using test::Operand;
 using test::Real;
 using test::Samples;
 
@@ -33,27 +35,8 @@ Real ValueOf(Content content, const Element& element, test::Random& random) {
     const bool isLow = random.Next() % 2 != 0;
     return element.isInteger ? (isLow ? element.lowest : element.highest) : isLow ? 1000.25f : 1003.5f;
   }
-  if (element.isInteger) return element.lowest + random.Next() % int(element.highest - element.lowest + 1);
-  return static_cast<float>(random.Next() % 20001) / 1000 - 10;
+  return test::AnyPixel(element, random);
 }
-
-struct Operand {
-  QvpiSize size;
-  int channels;
-  Samples pixels;
-
-  Operand(const Element& element, QvpiSize s, int c, int gap)
-      : size(s), channels(c), pixels(element, s.width * c, s.height, gap) {}
-  void Fill(Content content, uint64_t seed) {
-    test::Random random(seed);
-    pixels.Fill([&](int, int) { return ValueOf(content, pixels.element(), random); });
-  }
-  // 0 outside.
-  double At(int x, int y, int channel) const {
-    if (x < 0 || y < 0 || x >= size.width || y >= size.height) return 0;
-    return static_cast<double>(pixels(x * channels + channel, y));
-  }
-};
 
 struct Request {
   const Operand &src, &tpl;

@@ -75,22 +75,17 @@ Point PointOf(const Map& m, QvpiSize src, double x, double y) {
   return {ToEdge(p.u, src.width - 1), ToEdge(p.v, src.height - 1)};
 }
 
-const test::Export* FunctionOf(int channels, const Element& element, Kind kind) {
-  const char* const operation = kind == Kind::kForward ? "WarpBilinear"
-                                : kind == Kind::kBack  ? "WarpBilinearBack"
-                                                       : "WarpBilinearQuad";
-  for (const test::Export* function : test::FunctionsOf({operation})) {
-    const test::Name name(function->name);
-    if (name.type == element.name && name.channels == channels && !name.isWide) return function;
-  }
-  throw std::invalid_argument(operation);
+const char* OperationOf(Kind kind) {
+  return kind == Kind::kForward ? "WarpBilinear" : kind == Kind::kBack ? "WarpBilinearBack" : "WarpBilinearQuad";
 }
 
 class Warp {
  public:
   Warp(int channels, const Element& element, const Rule& rule, const Map& m, int border, QvpiSize src = kSource,
        QvpiSize dst = kTarget, int smooth = 0)
-      : record_(576), buffer_(64 + 8 * ((dst.height + 7) & -8)), function_(FunctionOf(channels, element, m.kind)) {
+      : record_(576),
+        buffer_(64 + 8 * ((dst.height + 7) & -8)),
+        function_(test::FunctionOf(OperationOf(m.kind), element, channels)) {
     const QvpDataType type = element.code;
     const int direction = m.kind == Kind::kBack;
     test::Block room(64);
@@ -113,12 +108,12 @@ class Warp {
   QvpiWarpSpec* spec() const { return reinterpret_cast<QvpiWarpSpec*>(record_.data()); }
 
   QvpStatus operator()(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, QvpiPoint at, QvpiSize size) const {
-    return (*function_)({{"pSrc", {src, srcStep}},
-                         {"pDst", {dst, dstStep}},
-                         {"dstRoiOffset", at},
-                         {"dstRoiSize", size},
-                         {"pSpec", {spec()}},
-                         {"pBuffer", {buffer_.data()}}});
+    return function_({{"pSrc", {src, srcStep}},
+                      {"pDst", {dst, dstStep}},
+                      {"dstRoiOffset", at},
+                      {"dstRoiSize", size},
+                      {"pSpec", {spec()}},
+                      {"pBuffer", {buffer_.data()}}});
   }
   void Whole(const Samples& src, const Samples& dst, QvpiSize size) const {
     ASSERT_EQ((*this)(src.bytes(), src.step(), dst.bytes(), dst.step(), {0, 0}, size), 0);
@@ -128,7 +123,7 @@ class Warp {
 
  private:
   test::Block record_, buffer_;
-  const test::Export* function_;
+  const test::Export& function_;
 };
 
 // What becomes of one sample. Points beyond everything give the first pixel where the border is replicated.

@@ -19,23 +19,16 @@ using test::ValueAt;
 constexpr QvpiSize kSource{23, 17}, kTarget{83, 21};
 const Element& k8u = ElementOf("8u");
 
-const test::Export* FunctionOf(int channels, const Element& element, int taps, bool isPerspective) {
-  const std::string operation = std::string("Warp") + (isPerspective ? "Perspective" : "Affine") +
-                                (taps == 1   ? "Nearest"
-                                 : taps == 2 ? "Linear"
-                                             : "Cubic");
-  for (const test::Export* function : test::FunctionsOf({operation})) {
-    const test::Name name(function->name);
-    if (name.type == element.name && name.channels == channels && !name.isWide) return function;
-  }
-  throw std::invalid_argument(operation);
+std::string OperationOf(int taps, bool isPerspective) {
+  const char* const method = taps == 1 ? "Nearest" : taps == 2 ? "Linear" : "Cubic";
+  return std::string("Warp") + (isPerspective ? "Perspective" : "Affine") + method;
 }
 
 class Warp {
  public:
   Warp(int channels, const Element& element, int taps, const double (*matrix)[3], bool isPerspective, int border,
        QvpiSize src = kSource, QvpiSize dst = kTarget, const Rule& rule = {}, int smooth = 0)
-      : function_(FunctionOf(channels, element, taps, isPerspective)) {
+      : function_(test::FunctionOf(OperationOf(taps, isPerspective), element, channels)) {
     const QvpDataType type = element.code;
     int size = 0, init = 0, buffer = 0;
     const int method = taps == 4 ? 6 : taps;
@@ -59,12 +52,12 @@ class Warp {
   // Makes the tile of `size` at `at`, from and to images that begin at the pointers.
   QvpStatus operator()(const Samples& src, const uint8_t* first, uint8_t* dst, int step, QvpiPoint at,
                        QvpiSize size) const {
-    return (*function_)({{"pSrc", {first, src.step()}},
-                         {"pDst", {dst, step}},
-                         {"dstRoiOffset", at},
-                         {"dstRoiSize", size},
-                         {"pSpec", {spec()}},
-                         {"pBuffer", {buffer_->data()}}});
+    return function_({{"pSrc", {first, src.step()}},
+                      {"pDst", {dst, step}},
+                      {"dstRoiOffset", at},
+                      {"dstRoiSize", size},
+                      {"pSpec", {spec()}},
+                      {"pBuffer", {buffer_->data()}}});
   }
   QvpStatus operator()(const Samples& src, const Samples& dst, QvpiPoint at, QvpiSize size) const {
     return (*this)(src, src.bytes(), dst.bytes(), dst.step(), at, size);
@@ -74,7 +67,7 @@ class Warp {
   QvpStatus status = 0;
 
  private:
-  const test::Export* function_;
+  const test::Export& function_;
   std::unique_ptr<test::Block> record_, buffer_;
 };
 

@@ -1,6 +1,7 @@
 #include "tests/support/name.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace test {
 namespace {
@@ -90,6 +91,14 @@ std::vector<const Export*> FunctionsOf(std::initializer_list<std::string_view> o
 
 std::vector<const Export*> FamilyOf(std::initializer_list<std::string_view> families) {
   return Select(families, &Name::family);
+}
+
+const Export& FunctionOf(std::string_view operation, const Element& element, int channels) {
+  for (const Export* function : FunctionsOf({operation})) {
+    const Name name(function->name);
+    if (name.type == element.name && name.channels == channels && !name.isWide) return *function;
+  }
+  throw std::invalid_argument(std::string(operation));
 }
 
 }  // namespace test

@@ -28,6 +28,8 @@ struct Name {
 // The exported functions on images whose operations are among those given, or all of them whose family is.
 std::vector<const Export*> FunctionsOf(std::initializer_list<std::string_view> operations);
 std::vector<const Export*> FamilyOf(std::initializer_list<std::string_view> families);
+// Of an operation with sizes of 32 bits, that for pixels of a type and as many channels.
+const Export& FunctionOf(std::string_view operation, const Element& element, int channels);
 
 // Calls use.template operator()<T>() with the type that a name spells.
 template <class Use>
