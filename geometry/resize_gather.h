@@ -62,8 +62,9 @@ inline int FewestLoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
 }
 
 // The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
-// and the one `apart` behind it. A vector of outputs has kGatherBytes / lane samples; the last one may overlap the one
-// before it. Loads stay within [places of the first sample, end). `further` bytes behind each load can be read too.
+// and the one `apart` behind it, or of one channel that at second(s). A vector of outputs has kGatherBytes / lane
+// samples; the last one may overlap the one before it. Loads stay within [places of the first sample, end). `further`
+// bytes behind each load can be read too.
 class Gather {
  public:
   // Bytes of memory for n samples. Nothing is kept for a part of a vector.
@@ -78,14 +79,20 @@ class Gather {
   template <class Place>
   Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place, uint8_t* masks,
          int32_t* offsets)
+      : Gather(
+            shape, loads, samples, end, place, [&](ptrdiff_t s) { return place(s) + shape.apart; }, masks, offsets) {}
+
+  template <class Place, class Second>
+  Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place,
+         const Second& second, uint8_t* masks, int32_t* offsets)
       : masks_(masks), offsets_(offsets), loads_(loads) {
     const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = perVector / OffsetsOfVector(loads);
-    if (samples < perVector || end - place(0) < kBlockBytes) return;
+    if (samples < perVector || end - std::min(place(0), second(0)) < kBlockBytes) return;
     count_ = Vectors(shape, samples);
     for (ptrdiff_t v = 0; v < count_; ++v) {
       const ptrdiff_t start = std::min(v * perVector, samples - perVector);
       for (ptrdiff_t s = start; s < start + perVector; s += perLoad) {
-        *offsets++ = AddLoad(shape, s, perLoad, end, place, masks);
+        *offsets++ = AddLoad(shape, s, perLoad, end, place, second, masks);
         masks += perLoad * shape.lane;
       }
     }
@@ -97,22 +104,22 @@ class Gather {
   const int32_t* offsets() const { return offsets_; }
 
  private:
-  template <class Place>
+  template <class Place, class Second>
   static int32_t AddLoad(const GatherShape& shape, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, const Place& place,
-                         uint8_t* mask) {
-    ptrdiff_t offset = place(s);
+                         const Second& second, uint8_t* mask) {
+    ptrdiff_t offset = std::min(place(s), second(s));
     if (shape.channels > 1) {
       for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, place(s + i));
     }
     offset = std::min(offset, end - kBlockBytes);
     for (ptrdiff_t i = 0; i < n; ++i, mask += shape.lane) {
-      const auto at = static_cast<uint8_t>(place(s + i) - offset), second = static_cast<uint8_t>(at + shape.apart);
+      const auto at = static_cast<uint8_t>(place(s + i) - offset), other = static_cast<uint8_t>(second(s + i) - offset);
       mask[0] = at;
-      if (shape.lane == 2) mask[1] = second;
+      if (shape.lane == 2) mask[1] = other;
       if (shape.lane != 4) continue;
       mask[1] = shape.sampleBytes == 2 ? at + 1 : 0x80;
-      mask[2] = second;
-      mask[3] = shape.sampleBytes == 2 ? second + 1 : 0x80;
+      mask[2] = other;
+      mask[3] = shape.sampleBytes == 2 ? other + 1 : 0x80;
     }
     return static_cast<int32_t>(offset);
   }
