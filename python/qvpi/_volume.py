@@ -53,8 +53,10 @@ def xyz(numbers):
 
 def volume(a, copy=False, name="array"):
     """The array as functions take it: rows and planes follow each other upwards in memory, which views may not."""
-    a = image(a, copy, name, VOLUME)
-    goes_up = all(step > 0 or n == 1 for n, step in zip(a.shape[:2], a.strides))
+    if copy or type(a) is not numpy.ndarray or a.ndim != 3 or a.size == 0 or not a.dtype.isnative:
+        a = image(a, copy, name, VOLUME)
+    (depth, height, _), (plane, row, _) = a.shape, a.strides
+    goes_up = (plane > 0 or depth == 1) and (row > 0 or height == 1)
     return a if goes_up else numpy.ascontiguousarray(a)
 
 
@@ -70,17 +72,19 @@ def written(out, shape, dtype, fill, new=numpy.empty):
     if result.dtype != dtype or not out.flags.writeable:
         raise ValueError(f"out must be writeable, {numpy.dtype(dtype)}")
     fill(result)
-    if not numpy.may_share_memory(result, out):
+    if result is not out and not numpy.may_share_memory(result, out):
         out[...] = result
     return out
 
 
 def in_slabs(work, out, sources, threads, least=LEAST_PLANES):
     """work(first, end) for slabs of planes of `out`, at once on so many threads."""
-    parts = _threads.strips(out.shape[0], _threads.count(threads), least)
-    if len(parts) > 1:
-        refuse_overlap(out, sources)
-    _threads.run(work, parts)
+    n = _threads.count(threads)
+    if n == 1:
+        work(0, out.shape[0])
+        return
+    refuse_overlap(out, sources)
+    _threads.run(work, _threads.strips(out.shape[0], n, least))
 
 
 class Mapped3D:

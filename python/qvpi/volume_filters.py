@@ -66,16 +66,22 @@ class _Filter3D:
 
     def _part(self, a, out, first, border, value):
         """The result from `first` on. What is near a face is made up to that face, and then cut."""
+        if out.shape == a.shape:
+            self._run(a, out, border, value)
+            return
         wide = [enlarged(begin, begin + n, *of) for begin, n, *of in zip(first, out.shape, a.shape, self.mask)]
         begins, lengths = [begin for begin, _ in wide], tuple(end - begin for begin, end in wide)
         for (begin, end), length, (before, behind) in zip(wide, a.shape, _FACES):
             border |= (before if begin else 0) | (behind if end < length else 0)
         result = out if lengths == out.shape else numpy.empty(lengths, out.dtype)
-        buffer = self._buffers.take()
-        self._call(part_of(a, begins, lengths), result, *self.values, border, value, *self.record, buffer)
-        self._buffers.give(buffer)
+        self._run(part_of(a, begins, lengths), result, border, value)
         if result is not out:
             out[...] = part_of(result, [place - begin for place, begin in zip(first, begins)], out.shape)
+
+    def _run(self, a, out, border, value):
+        buffer = self._buffers.take()
+        self._call(a, out, *self.values, border, value, *self.record, buffer)
+        self._buffers.give(buffer)
 
 
 _MEDIAN = calls_of("FilterMedianBorder", "src dst maskVolume borderType borderValue buffer", free=())
