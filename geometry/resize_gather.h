@@ -61,10 +61,15 @@ inline int FewestLoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
   return isShared ? kSharedLoad : LoadsFor(shape, p, q);
 }
 
+struct PlacePair {
+  ptrdiff_t first, second;
+  ptrdiff_t Least() const { return std::min(first, second); }
+};
+
 // The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
-// and the one `apart` behind it, or of one channel that at second(s). A vector of outputs has kGatherBytes / lane
-// samples; the last one may overlap the one before it. Loads stay within [places of the first sample, end). `further`
-// bytes behind each load can be read too.
+// and the one `apart` behind it; of one channel, place(s) may be a pair of any two places that are near. A vector of
+// outputs has kGatherBytes / lane samples; the last one may overlap the one before it. Loads stay within [places of the
+// first sample, end). `further` bytes behind each load can be read too.
 class Gather {
  public:
   // Bytes of memory for n samples. Nothing is kept for a part of a vector.
@@ -79,20 +84,14 @@ class Gather {
   template <class Place>
   Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place, uint8_t* masks,
          int32_t* offsets)
-      : Gather(
-            shape, loads, samples, end, place, [&](ptrdiff_t s) { return place(s) + shape.apart; }, masks, offsets) {}
-
-  template <class Place, class Second>
-  Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place,
-         const Second& second, uint8_t* masks, int32_t* offsets)
       : masks_(masks), offsets_(offsets), loads_(loads) {
     const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = perVector / OffsetsOfVector(loads);
-    if (samples < perVector || end - std::min(place(0), second(0)) < kBlockBytes) return;
+    if (samples < perVector || end - Both(shape, place, 0).Least() < kBlockBytes) return;
     count_ = Vectors(shape, samples);
     for (ptrdiff_t v = 0; v < count_; ++v) {
       const ptrdiff_t start = std::min(v * perVector, samples - perVector);
       for (ptrdiff_t s = start; s < start + perVector; s += perLoad) {
-        *offsets++ = AddLoad(shape, s, perLoad, end, place, second, masks);
+        *offsets++ = AddLoad(shape, s, perLoad, end, place, masks);
         masks += perLoad * shape.lane;
       }
     }
@@ -104,22 +103,33 @@ class Gather {
   const int32_t* offsets() const { return offsets_; }
 
  private:
-  template <class Place, class Second>
+  template <class Place>
+  static PlacePair Both(const GatherShape& shape, const Place& place, ptrdiff_t s) {
+    if constexpr (std::is_same_v<decltype(place(s)), PlacePair>) {
+      return place(s);
+    } else {
+      const ptrdiff_t first = place(s);
+      return {first, first + shape.apart};
+    }
+  }
+
+  template <class Place>
   static int32_t AddLoad(const GatherShape& shape, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, const Place& place,
-                         const Second& second, uint8_t* mask) {
-    ptrdiff_t offset = std::min(place(s), second(s));
+                         uint8_t* mask) {
+    ptrdiff_t offset = Both(shape, place, s).Least();
     if (shape.channels > 1) {
-      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, place(s + i));
+      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, Both(shape, place, s + i).first);
     }
     offset = std::min(offset, end - kBlockBytes);
     for (ptrdiff_t i = 0; i < n; ++i, mask += shape.lane) {
-      const auto at = static_cast<uint8_t>(place(s + i) - offset), other = static_cast<uint8_t>(second(s + i) - offset);
+      const PlacePair both = Both(shape, place, s + i);
+      const auto at = static_cast<uint8_t>(both.first - offset), second = static_cast<uint8_t>(both.second - offset);
       mask[0] = at;
-      if (shape.lane == 2) mask[1] = other;
+      if (shape.lane == 2) mask[1] = second;
       if (shape.lane != 4) continue;
       mask[1] = shape.sampleBytes == 2 ? at + 1 : 0x80;
-      mask[2] = other;
-      mask[3] = shape.sampleBytes == 2 ? other + 1 : 0x80;
+      mask[2] = second;
+      mask[3] = shape.sampleBytes == 2 ? second + 1 : 0x80;
     }
     return static_cast<int32_t>(offset);
   }
