@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""What the Python package takes, beside other packages for numpy arrays: calls of 64x64 pixels, and 1920x1080 uint8.
+"""What the Python package takes, beside other packages for numpy arrays: calls of 64x64 pixels, 1920x1080 uint8, and
+volumes.
 
 Each row takes the least time of many repetitions, ours and the others' by turns, on one thread; the last rows on all
 cores. `raw` is the same call by qvpi.raw with all arguments at hand.
@@ -121,6 +122,37 @@ def rows_of(channels):
     return rows
 
 
+def volume_rows(side):
+    """{row: {package: call}} for volumes of this side."""
+    shape, half = (side,) * 3, (side * 3 // 5,) * 3
+    a = generator.integers(0, 65536, shape, numpy.uint16)
+    out, reduced, floats = numpy.empty_like(a), numpy.empty(half, a.dtype), a.astype(numpy.float32)
+    kernel = numpy.arange(27.0).reshape(3, 3, 3) / 351
+    middle = ((side - 1) / 2,) * 3
+    matrix = qvpi.affine_product3d(qvpi.rotation3d(10, (0, 0, 1), middle), qvpi.rotation3d(7, (1, 0, 0), middle))
+    theirs = matrix[::-1, [2, 1, 0, 3]]  # axes (z, y, x)
+    warp = qvpi.Warp3D(shape, a.dtype, matrix, inverse=True, border="replicate")
+    resizer, smooth = qvpi.Resizer3D(shape, half, a.dtype), qvpi.Filter3D(shape, floats.dtype, kernel)
+    result = numpy.empty_like(floats)
+    z, y, x = maps = numpy.einsum("ij,jzyx->izyx", theirs[:, :3], numpy.indices(shape)) + theirs[:, 3, None, None, None]
+    fields = [axis.astype(numpy.float32) for axis in (x, y, z)]
+    ndimage = scipy.ndimage
+    return {
+        "border of 4": {"ours": lambda: qvpi.copy_border3d(a, *[4] * 6, border="replicate"),
+                        "numpy": lambda: numpy.pad(a, 4, "edge")},
+        "resize linear x0.6": {"ours": lambda: resizer(a, reduced),
+                               "scipy": lambda: ndimage.zoom(a, half[0] / side, reduced, 1, "nearest", grid_mode=True)},
+        "affine linear": {"ours": lambda: warp(a, out), "scipy": lambda: ndimage.affine_transform(
+            a, theirs[:, :3], theirs[:, 3], output=out, order=1, mode="nearest")},
+        "remap linear": {"ours": lambda: qvpi.remap3d(a, *fields, out),
+                         "scipy": lambda: ndimage.map_coordinates(a, maps, out, 1, "nearest")},
+        "filter 3x3x3 float32": {"ours": lambda: smooth(floats, result),
+                                 "scipy": lambda: ndimage.convolve(floats, kernel, result, "nearest")},
+        "median 3x3x3": {"ours": lambda: qvpi.median3d(a, 3, out),
+                         "scipy": lambda: ndimage.median_filter(a, 3, output=out, mode="nearest")},
+    }
+
+
 def compare(title, rows, seconds, only):
     packages = ["ours", "cv2", "Pillow", "skimage", "scipy", "numpy"]
     rows = {name: calls for name, calls in rows.items() if only.search(f"{title} {name}")}
@@ -141,6 +173,8 @@ def main():
         overhead(options.seconds)
     for channels in (1, 3):
         compare(f"1920x1080 uint8 C{channels}", rows_of(channels), options.seconds, options.only)
+    for side in (16, 64):
+        compare(f"{side}x{side}x{side} uint16", volume_rows(side), options.seconds, options.only)
     cores = os.cpu_count()
     cv2.setNumThreads(cores)
     qvpi.set_threads(cores)

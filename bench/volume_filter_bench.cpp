@@ -1,21 +1,11 @@
 // The general filter of volumes. The peer filters the planes, and sums what the planes of the kernel give; separable
 // filters are its own of the planes, and then of the volume seen as one image whose rows are planes.
-#include "bench/filters.h"
+#include "bench/volumes.h"
 
 namespace {
 using namespace bench;
 
 enum class Kind { kIntegers, kFloats, kSeparable };
-
-template <class T>
-struct Stack {
-  int side;
-  Image<T> planes;  // one below the other
-
-  explicit Stack(int n) : side(n), planes({n, n * n}, 1) {}
-  cv::Mat Plane(int z) const { return planes.mat(cv::Rect(0, z * side, side, side)); }
-  cv::Mat View() const { return {side, side * side, planes.mat.type(), planes.data()}; }
-};
 
 // Coefficients of a cube, or of one of three equal factors.
 template <class K>
@@ -28,8 +18,8 @@ std::vector<K> KernelOf(int n, K unit) {
 using Record = Prepared<QvprFilterBorderSpec>;
 
 template <class T>
-Record RecordFor(Kind kind, int side, int mask) {
-  const QvprVolume kernel{mask, mask, mask}, size{side, side, side};
+Record RecordFor(Kind kind, QvprVolume size, int mask) {
+  const QvprVolume kernel = Cube(mask);
   const QvprPoint anchor{mask / 2, mask / 2, mask / 2};
   int spec, buffer;
   Require(qvprFilterBorderGetSize(kernel, size, kType<T>, kind == Kind::kIntegers ? qvp16s : qvp32f, &spec, &buffer));
@@ -50,9 +40,9 @@ Record RecordFor(Kind kind, int side, int mask) {
 template <class T>
 void FilterPlanes(const Stack<T>& src, const Stack<T>& dst, const cv::Mat& kernel, int mask) {
   cv::Mat sum, one;
-  for (int z = 0; z < src.side; ++z) {
+  for (int z = 0; z < src.size.depth; ++z) {
     for (int k = 0; k < mask; ++k) {
-      const cv::Mat plane = src.Plane(std::clamp(z + k - mask / 2, 0, src.side - 1));
+      const cv::Mat plane = src.Plane(std::clamp(z + k - mask / 2, 0, src.size.depth - 1));
       const cv::Mat part = kernel(cv::Rect(0, k * mask, mask, mask));
       cv::filter2D(plane, k == 0 ? sum : one, CV_32F, part, {-1, -1}, 0, kPeerBorder | cv::BORDER_ISOLATED);
       if (k > 0) sum += one;
@@ -63,50 +53,68 @@ void FilterPlanes(const Stack<T>& src, const Stack<T>& dst, const cv::Mat& kerne
 }
 
 template <class T>
-void FilterAxes(const Stack<T>& src, const Stack<T>& dst, const cv::Mat& kernel, const cv::Mat& floats) {
+void FilterAxes(const Stack<T>& src, const Stack<T>& dst, const cv::Mat& kernel) {
+  const auto& floats = Shared<float, 5>(src.size);
   const cv::Mat one(1, 1, CV_32F, cv::Scalar(1));
-  for (int z = 0; z < src.side; ++z) {
-    cv::Mat plane = floats(cv::Rect(0, z * src.side, src.side, src.side));
+  for (int z = 0; z < src.size.depth; ++z) {
+    cv::Mat plane = floats.Plane(z);
     cv::sepFilter2D(src.Plane(z), plane, CV_32F, kernel, kernel, {-1, -1}, 0, kPeerBorder | cv::BORDER_ISOLATED);
   }
-  cv::Mat view = dst.View();
-  const cv::Mat across(src.side, src.side * src.side, CV_32F, floats.data);
-  cv::sepFilter2D(across, view, view.type(), one, kernel, {-1, -1}, 0, kPeerBorder);
+  cv::Mat rows = dst.PlanesAsRows();
+  cv::sepFilter2D(floats.PlanesAsRows(), rows, rows.type(), one, kernel, {-1, -1}, 0, kPeerBorder);
 }
 
-template <class T, class Call>
-void AddFilter(const std::string& what, Kind kind, int side, int mask, Call call, double atLeast) {
-  const Stack<T> src(side), dst(side);
-  if constexpr (std::is_same_v<T, float>) {
-    for (int i = 0; i < side * side * side; ++i) src.planes.data()[i] = static_cast<float>(i * 7919LL % 1000);
-  }
-  const Record record = RecordFor<T>(kind, side, mask);
-  const int n = kind == Kind::kSeparable ? mask : mask * mask * mask;
-  const auto coefficients = KernelOf(n, 0.01f);
-  const cv::Mat kernel =
-      cv::Mat(n, 1, CV_32F, const_cast<float*>(coefficients.data())).clone().reshape(1, n / (n > mask ? mask : 1));
-  const cv::Mat floats(side * side, side, CV_32F);
-  Add({Name("volume, " + what + ", " + std::to_string(side) + " planes", {side, side}),
-       {src.planes.bytes(), dst.planes.bytes()},
-       [=] {
-         Require(call(src.planes.data(), src.planes.step, src.planes.step * side, dst.planes.data(), dst.planes.step,
-                      dst.planes.step * side, {side, side, side}, kBorder, nullptr, record.get(), record.buffer.get()));
-       },
-       {{"OpenCV filter2D of planes",
-         [=] {
-           kind == Kind::kSeparable ? FilterAxes(src, dst, kernel, floats) : FilterPlanes(src, dst, kernel, mask);
-         },
-         atLeast}}});
+template <class T>
+Peer PeerOf(Kind kind, QvprVolume size, int mask, double atLeast) {
+  const auto &src = Source<T>(size), &dst = Destination<T>(size);
+  const int rows = kind == Kind::kSeparable ? mask : mask * mask, columns = kind == Kind::kSeparable ? 1 : mask;
+  const auto coefficients = KernelOf(rows * columns, 0.01f);
+  const cv::Mat kernel = cv::Mat(coefficients, true).reshape(1, rows);
+  return {"OpenCV filter2D of planes",
+          [=, &src, &dst] {
+            kind == Kind::kSeparable ? FilterAxes(src, dst, kernel) : FilterPlanes(src, dst, kernel, mask);
+          },
+          size.width == 128 ? atLeast : 1};
+}
+
+template <class T, class Volume, class Planes>
+void AddFilter(const std::string& what, Kind kind, QvprVolume size, int mask, double atLeast, Volume volume,
+               Planes planes) {
+  const auto &src = Source<T>(size), &dst = Destination<T>(size);
+  const Record record = RecordFor<T>(kind, size, mask);
+  const auto byVolume = [=, &src, &dst] {
+    Require(volume(src.data(), src.step(), src.planeStep(), dst.data(), dst.step(), dst.planeStep(), size, kBorder,
+                   nullptr, record.get(), record.buffer.get()));
+  };
+  const auto byPlanes = [=, &src, &dst] {
+    Require(planes(src.planes.data(), src.step(), dst.planes.data(), dst.step(), size, kBorder, nullptr, record.get(),
+                   record.buffer.get()));
+  };
+  AddForms(what + " " + kTypeName<T>, size, {src.bytes(), dst.bytes()}, {byVolume, byPlanes},
+           {PeerOf<T>(kind, size, mask, atLeast)});
+}
+
+void AddFloats(const std::string& what, Kind kind, QvprVolume size, int mask, double atLeast) {
+  AddFilter<float>(what, kind, size, mask, atLeast, qvprFilterBorder_32f_C1V, qvprFilterBorder_32f_C1PV);
+}
+void AddWords(const std::string& what, Kind kind, QvprVolume size, int mask, double atLeast) {
+  AddFilter<Qvp16u>(what, kind, size, mask, atLeast, qvprFilterBorder_16u_C1V, qvprFilterBorder_16u_C1PV);
+}
+void AddBytes(const std::string& what, Kind kind, QvprVolume size, int mask, double atLeast) {
+  AddFilter<Qvp8u>(what, kind, size, mask, atLeast, qvprFilterBorder_8u_C1V, qvprFilterBorder_8u_C1PV);
 }
 
 const bool kAdded = [] {
-  for (const int side : {16, 64, 128, 256}) {
-    AddFilter<float>("filter 3x3x3 32f", Kind::kFloats, side, 3, qvprFilterBorder_32f_C1V, 3.5);
-    AddFilter<Qvp16u>("filter 3x3x3 16u by integers", Kind::kIntegers, side, 3, qvprFilterBorder_16u_C1V, 8);
-    AddFilter<float>("separable filter 7+7+7 32f", Kind::kSeparable, side, 7, qvprFilterBorder_32f_C1V, 3);
+  for (const QvprVolume size : kCubes) {
+    AddFloats("filter 3x3x3", Kind::kFloats, size, 3, 3.5);
+    AddBytes("filter 3x3x3 by integers", Kind::kIntegers, size, 3, 1);
+    AddWords("filter 3x3x3 by integers", Kind::kIntegers, size, 3, 8);
+    AddFloats("filter 5x5x5", Kind::kFloats, size, 5, 2);
+    AddFloats("separable filter 7+7+7", Kind::kSeparable, size, 7, 3);
+    AddWords("separable filter 7+7+7", Kind::kSeparable, size, 7, 3);
   }
-  AddFilter<float>("filter 5x5x5 32f", Kind::kFloats, 128, 5, qvprFilterBorder_32f_C1V, 2);
-  AddFilter<Qvp16u>("separable filter 7+7+7 16u", Kind::kSeparable, 128, 7, qvprFilterBorder_16u_C1V, 3);
+  AddWords("filter 3x3x3 by integers", Kind::kIntegers, kBeyondCaches, 3, 1);
+  AddWords("separable filter 7+7+7", Kind::kSeparable, kBeyondCaches, 7, 1);
   return true;
 }();
 

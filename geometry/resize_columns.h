@@ -22,15 +22,17 @@ struct ColumnPlan {
   Taps taps;
   Edge edge;
   int channels;
-  bool arePicked;  // of one channel, by pairs of taps that are near
-  ptrdiff_t to;    // of the columns [taps.from, to) the kernels may read and write as much as they do
+  bool arePicked;            // of one channel, by pairs of taps that are near
+  ptrdiff_t to;              // of the columns [taps.from, to) the kernels may read and write as much as they do
+  ptrdiff_t lastPicked = 0;  // the last eight samples of these begin here
 
   ColumnPlan(const Taps& t, const Edge& e, int nc, bool areNear = false)
-      : taps(t), edge(e), channels(nc), arePicked(kCanPick<T> && areNear && nc == 1), to(t.to) {
+      : taps(t), edge(e), channels(nc), arePicked(kCanPick<T> && areNear && nc == 1 && t.certain == 2), to(t.to) {
     if (t.from == t.to) return;
     const ptrdiff_t end = t.first[t.to - 1] + t.certain;
     if (arePicked) {
-      while (to - t.from >= 4 && t.first[to - 4] + kPickedFrom > end) --to;
+      lastPicked = end - kPickedFrom;
+      if (lastPicked < t.first[t.from]) to = t.from;
       return;
     }
     const ptrdiff_t read = nc <= 2 ? (t.count + 3) / 4 * 4 : t.count + (nc == 3 ? 1 : 0);

@@ -9,32 +9,35 @@
 
 namespace qvp::resize {
 
-// The columns of a tile: a Gather serves those whose taps are all in the image, the others are filtered one by one.
+// The columns of a tile: a Gather serves the columns `served`, the others are filtered one by one.
 struct FixedColumns {
   Taps taps;
   Edge edge;
   int channels;
+  Extent served;
   Gather gather = {};
 
   FixedColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, int nc)
-      : taps(record, record.columns, tile.x, tile.width), edge(ColumnEdge(border, record)), channels(nc) {}
+      : taps(record, record.columns, tile.x, tile.width),
+        edge(ColumnEdge(border, record)),
+        channels(nc),
+        served{taps.from, taps.to} {}
 
-  // Samples of the columns with all taps in the image.
-  ptrdiff_t InnerSamples() const { return (taps.to - taps.from) * channels; }
+  ptrdiff_t ServedSamples() const { return (served.end - served.begin) * channels; }
 };
 
 // Filters one row, or two at once, which share what is loaded for each vector of columns.
 template <class Columns, class Rows, class Out>
 void FilterFixed(const Columns& columns, const Rows& rows, const Out& out) {
-  const Taps& taps = columns.taps;
   const Gather& gather = columns.gather;
   const bool hasVectors = gather.count() > 0;
   if (hasVectors && gather.loads() == kSharedLoad) columns.template FilterVectors<kSharedLoad>(rows, out);
   if (hasVectors && gather.loads() == 1) columns.template FilterVectors<1>(rows, out);
   if (hasVectors && gather.loads() == 2) columns.template FilterVectors<2>(rows, out);
   if (hasVectors && gather.loads() == 4) columns.template FilterVectors<4>(rows, out);
-  columns.FilterOneByOne(rows, 0, taps.from, out);
-  columns.FilterOneByOne(rows, hasVectors ? taps.to : taps.from, taps.length, out);
+  const Extent done = hasVectors ? columns.served : Extent{0, 0};
+  if (done.begin > 0) columns.FilterOneByOne(rows, 0, done.begin, out);
+  if (done.end < columns.taps.length) columns.FilterOneByOne(rows, done.end, columns.taps.length, out);
 }
 
 }  // namespace qvp::resize

@@ -61,9 +61,15 @@ inline int FewestLoadsFor(const GatherShape& shape, int64_t p, int64_t q) {
   return isShared ? kSharedLoad : LoadsFor(shape, p, q);
 }
 
+struct PlacePair {
+  ptrdiff_t first, second;
+  ptrdiff_t Least() const { return std::min(first, second); }
+};
+
 // The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
-// and the one `apart` behind it. A vector of outputs has kGatherBytes / lane samples; the last one may overlap the one
-// before it. Loads stay within [places of the first sample, end). `further` bytes behind each load can be read too.
+// and the one `apart` behind it; of one channel, place(s) may be a pair of any two places that are near. A vector of
+// outputs has kGatherBytes / lane samples; the last one may overlap the one before it. Loads stay within [places of the
+// first sample, end). `further` bytes behind each load can be read too.
 class Gather {
  public:
   // Bytes of memory for n samples. Nothing is kept for a part of a vector.
@@ -80,7 +86,7 @@ class Gather {
          int32_t* offsets)
       : masks_(masks), offsets_(offsets), loads_(loads) {
     const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = perVector / OffsetsOfVector(loads);
-    if (samples < perVector || end - place(0) < kBlockBytes) return;
+    if (samples < perVector || end - Both(shape, place, 0).Least() < kBlockBytes) return;
     count_ = Vectors(shape, samples);
     for (ptrdiff_t v = 0; v < count_; ++v) {
       const ptrdiff_t start = std::min(v * perVector, samples - perVector);
@@ -98,15 +104,26 @@ class Gather {
 
  private:
   template <class Place>
+  static PlacePair Both(const GatherShape& shape, const Place& place, ptrdiff_t s) {
+    if constexpr (std::is_same_v<decltype(place(s)), PlacePair>) {
+      return place(s);
+    } else {
+      const ptrdiff_t first = place(s);
+      return {first, first + shape.apart};
+    }
+  }
+
+  template <class Place>
   static int32_t AddLoad(const GatherShape& shape, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, const Place& place,
                          uint8_t* mask) {
-    ptrdiff_t offset = place(s);
+    ptrdiff_t offset = Both(shape, place, s).Least();
     if (shape.channels > 1) {
-      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, place(s + i));
+      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, Both(shape, place, s + i).first);
     }
     offset = std::min(offset, end - kBlockBytes);
     for (ptrdiff_t i = 0; i < n; ++i, mask += shape.lane) {
-      const auto at = static_cast<uint8_t>(place(s + i) - offset), second = static_cast<uint8_t>(at + shape.apart);
+      const PlacePair both = Both(shape, place, s + i);
+      const auto at = static_cast<uint8_t>(both.first - offset), second = static_cast<uint8_t>(both.second - offset);
       mask[0] = at;
       if (shape.lane == 2) mask[1] = second;
       if (shape.lane != 4) continue;

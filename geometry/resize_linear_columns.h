@@ -34,10 +34,13 @@ inline constexpr ptrdiff_t kMostSamples = 3500;
 
 class LinearColumns : public FixedColumns {
  public:
+  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;  // of a vector
+
   // `room` is for the shuffles and weights: 4 bytes for each sample and each column, or RoomBytes(). `ahead` is how far
-  // behind a row those lie that are filtered next, or 0 where the CPU finds them in time.
+  // behind a row those lie that are filtered next, or 0 where the CPU finds them in time. Rows of results and `room`
+  // are for `least` samples, of one channel: the last column is repeated if there are fewer.
   LinearColumns(const ResizeRecord& record, const Tile& tile, QvpiBorderType border, const SourcePixels& pixels,
-                ptrdiff_t ahead, uint8_t* room)
+                ptrdiff_t ahead, uint8_t* room, ptrdiff_t least = 0)
       : FixedColumns(record, tile, border, pixels.channels),
         pixels_(pixels),
         weights_(record.Weights<int16_t>(record.columns) + 2 * tile.x),
@@ -46,8 +49,9 @@ class LinearColumns : public FixedColumns {
     // The bytes that one load has to have: those of the second taps of its last pixel's first to last sample.
     const GatherShape shape{2, nc, pixels.bytes, 1, pixels.between, pixels.bytes + 1 - pixels.between};
     const int loads = FewestLoadsFor(shape, record.columns.p, record.columns.q);
-    if (loads == 0 || InnerSamples() < 1) return;
-    const ptrdiff_t bytes = Gather::Vectors(shape, InnerSamples()) * kGatherBytes;
+    if (nc == 1) served = {0, std::max(taps.length, least)};  // what stands for pixels beyond the edges is near, too
+    if (loads == 0 || ServedSamples() < 1) return;
+    const ptrdiff_t bytes = Gather::Vectors(shape, ServedSamples()) * kGatherBytes;
     doubled_ = reinterpret_cast<int16_t*>(room);
     auto* offsets = reinterpret_cast<int32_t*>(room + 2 * bytes);
     if (nc == 1) Plan<1>(shape, loads, room + bytes, offsets);
@@ -71,7 +75,7 @@ class LinearColumns : public FixedColumns {
     const int32_t* offsets = gather.offsets();
     const int16_t* weight = doubled_;
     const ptrdiff_t ahead = ahead_;
-    for (int16_t*& row : out) row += taps.from * channels;
+    for (int16_t*& row : out) row += served.begin * channels;
     const auto filter = [&](ptrdiff_t at) HWY_ATTR {
       const auto w = hn::LoadU(d16, weight);
       const auto shuffle = hn::LoadU(GatherTag(), mask);
@@ -83,7 +87,7 @@ class LinearColumns : public FixedColumns {
       }
       for (size_t i = 0; i < kRows; ++i) hn::StoreU(h[i], d16, out[i] + at);
     };
-    const ptrdiff_t last = InnerSamples() - kSamples;
+    const ptrdiff_t last = ServedSamples() - kSamples;
     for (ptrdiff_t at = 0; at < last; at += kSamples) {
       filter(at);
       mask += kGatherBytes;
@@ -109,24 +113,34 @@ class LinearColumns : public FixedColumns {
   }
 
  private:
-  static constexpr ptrdiff_t kSamples = kGatherBytes / 2;
-
   template <int kChannels>
   void Plan(const GatherShape& shape, int loads, uint8_t* masks, int32_t* offsets) {
-    const ptrdiff_t samples = InnerSamples(),
-                    end = (taps.first[taps.to - 1] + ptrdiff_t{2}) * pixels_.bytes - pixels_.offset;
-    const ptrdiff_t pixelBytes = pixels_.bytes, between = pixels_.between;
-    const int32_t* first = taps.first + taps.from;
-    const int16_t* second = weights_ + 2 * taps.from + 1;
-    gather = Gather(
-        shape, loads, samples, end,
-        [=](ptrdiff_t s) { return first[s / kChannels] * pixelBytes + s % kChannels * between; }, masks, offsets);
+    const ptrdiff_t samples = ServedSamples(), pixelBytes = pixels_.bytes, between = pixels_.between;
+    const int32_t* first = taps.first + served.begin;
+    const int16_t* second = weights_ + 2 * served.begin + 1;
+    const ptrdiff_t lastColumn = std::min(served.end, taps.length) - 1 - served.begin, last = first[lastColumn];
+    const ptrdiff_t end = (std::max(edge(last), edge(last + 1)) + 1) * pixelBytes - pixels_.offset;
+    if constexpr (kChannels == 1) {
+      const auto place = [this, lastColumn](ptrdiff_t s) { return PlacesOf(std::min(s, lastColumn)); };
+      gather = Gather(shape, loads, samples, end, place, masks, offsets);
+    } else {
+      const auto place = [=](ptrdiff_t s) { return first[s / kChannels] * pixelBytes + s % kChannels * between; };
+      gather = Gather(shape, loads, samples, end, place, masks, offsets);
+    }
     for (ptrdiff_t v = 0; v < gather.count(); ++v) {
       const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);
       for (ptrdiff_t s = 0; s < kSamples; ++s) {
-        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[(start + s) / kChannels * 2]);
+        const ptrdiff_t column = kChannels == 1 ? std::min(start + s, lastColumn) : (start + s) / kChannels;
+        doubled_[v * kSamples + s] = static_cast<int16_t>(2 * second[2 * column]);
       }
     }
+  }
+
+  // The bytes of both taps of a column of one channel.
+  PlacePair PlacesOf(ptrdiff_t x) const {
+    const ptrdiff_t first = taps.first[x], pixelBytes = pixels_.bytes;
+    if (taps.from <= x && x < taps.to) return {first * pixelBytes, (first + 1) * pixelBytes};
+    return {edge(first) * pixelBytes, edge(first + 1) * pixelBytes};
   }
 
   SourcePixels pixels_;

@@ -67,14 +67,15 @@ HWY_INLINE hn::Vec<D> FilterSingles(D d, const Taps& taps, const Weights& weight
   return kCount == kMany ? WithLast(total, sum) : sum;
 }
 
-// Two near taps of as many columns as lanes. The places of the taps, from that of the first column of four, are found
-// once for several rows.
+// Two near taps of as many columns as lanes. The places of the taps among the eight samples from that of the first
+// column of four on, or the last eight of the row, are found once for several rows.
 template <class D, class T>
 class PickedPairs {
  public:
-  HWY_INLINE PickedPairs(D, const int32_t* first) : low_(first[0]), high_(first[hn::MaxLanes(D()) - 4]) {
+  HWY_INLINE PickedPairs(D, const int32_t* first, int32_t last)
+      : low_(std::min(first[0], last)), high_(std::min(first[hn::MaxLanes(D()) - 4], last)) {
     const auto places = hn::LoadU(Ints(), first);
-    const auto apart = hn::Sub(places, hn::Broadcast<0>(places));
+    const auto apart = hn::Sub(places, hn::Min(hn::Broadcast<0>(places), hn::Set(Ints(), last)));
     if constexpr (sizeof(T) == 4) {
       places_ = apart;
     } else {  // the bytes of a lane are those of two successive samples
@@ -140,8 +141,9 @@ void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::arr
                 const std::array<float*, kRows> out) {
   using D = hn::CappedTag<float, 8>;
   const int32_t* first = plan.taps.first;
+  const auto lastPicked = static_cast<int32_t>(plan.lastPicked);
   const auto filter = [=](ptrdiff_t x) HWY_ATTR {
-    const PickedPairs<D, T> pairs(D(), first + x);
+    const PickedPairs<D, T> pairs(D(), first + x, lastPicked);
     const auto left = weights.Load(D(), 0, x), right = weights.Load(D(), 1, x);
     for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), D(), out[i] + x);
   };

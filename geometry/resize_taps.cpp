@@ -30,7 +30,7 @@ class TapColumns : public FixedColumns {
     hasAll_ = forAll == kSharedLoad || forAll == 1;
     const int loads = hasAll_ ? forAll : LoadsFor(pairs, axis.p, axis.q);
     const bool isRoom = loads < 2 || nc == 1 || taps.count == 6;  // for several loads' places
-    if (loads != 0 && isRoom && InnerSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
+    if (loads != 0 && isRoom && ServedSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
   }
 
   template <int kLoads>
@@ -55,13 +55,13 @@ class TapColumns : public FixedColumns {
   static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums());
 
   void Plan(const GatherShape& shape, int loads, uint8_t* room) {
-    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, InnerSamples()) * kGatherBytes);
+    auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, ServedSamples()) * kGatherBytes);
     // Further pairs of taps are read at a fixed distance behind the first one's load, if it does not have them all.
     const ptrdiff_t end = (taps.first[taps.to - 1] + ptrdiff_t{hasAll_ ? taps.count : 2}) * channels;
     const int32_t* first = taps.first + taps.from;
     const int nc = channels;
     gather = Gather(
-        shape, loads, InnerSamples(), end,
+        shape, loads, ServedSamples(), end,
         [=](ptrdiff_t s) { return nc == 1 ? ptrdiff_t{first[s]} : first[s / nc] * ptrdiff_t{nc} + s % nc; }, room,
         offsets);
     for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
@@ -119,7 +119,7 @@ class TapColumns : public FixedColumns {
     const uint8_t* mask = gather.masks();
     const int32_t* offsets = gather.offsets();
     const int16_t* weights = weights_ + 2 * taps.from;
-    const ptrdiff_t plane = 2 * plane_, last = InnerSamples() - kSamples;
+    const ptrdiff_t plane = 2 * plane_, last = ServedSamples() - kSamples;
     out += 2 * taps.from * kChannels;
     const auto filter = [&](ptrdiff_t start) HWY_ATTR {
       const auto first = hn::LoadU(GatherTag(), mask);

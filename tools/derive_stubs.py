@@ -19,9 +19,9 @@ Border = Literal["replicate", "mirror", "constant"]
 '''
 BOOLEANS = ("copy", "accurate", "relative", "inverse", "smooth", "antialias", "premultiplied", "conjugate", "correlate",
             "columns_first")
-IMAGES = ("a", "x", "y", "part", "planes", "packed", "spectrum", "entries", "bands")
-INTEGERS = ("iterations", "top", "bottom", "left", "right", "k", "m", "n", "channel", "lobes", "cell", "stride",
-            "count", "depth", "period", "neighbours")
+IMAGES = ("a", "x", "y", "z", "part", "planes", "packed", "spectrum", "entries", "bands")
+INTEGERS = ("iterations", "top", "bottom", "left", "right", "front", "back", "k", "m", "n", "channel",
+            "lobes", "cell", "stride", "count", "depth", "period", "neighbours")
 FLOATS = ("sigma_range", "sigma_space", "strength", "power", "eps", "factor", "offset",
           "angle", "tolerance", "alpha_a", "c", "clip", "smoothness", "threshold", "mean", "gain", "level", "share",
           "pepper", "salt")
@@ -42,21 +42,24 @@ TYPES = {
     "range": "Sequence[float] | None", "alpha_b": "float | None", "bits": "int | Sequence[int]",
     "bank": "str | Sequence[Any]", **dict.fromkeys(("start", "across", "down"), "Constant"),
     "psf": "ArrayLike", "peak": "float | None", "factors": "Sequence[float]", "radius": "int | None",
+    **dict.fromkeys(("axial", "corners", "first", "second"), "ArrayLike"),
 }
+# Parameters whose names mean something else here.
+OWN = {**{(owner, name): "float" for owner in ("Resizer", "Warp", "Resizer3D", "Warp3D") for name in "bc"},
+       ("rotation3d", "axis"): "ArrayLike"}
 RESULTS = {
     **dict.fromkeys(("sum", "mean", "min", "max", "dot", "norm", "quality_index", "ssim"), "Any"),
     "min_max": "tuple[Any, Any]", "argmin": "tuple[Any, Any, Any]", "argmax": "tuple[Any, Any, Any]",
     "otsu": "int", "count_in_range": "Any", "moments": "Moments",
     **dict.fromkeys(("gradient", "Gradient"), "tuple[Image, Image, Image, Image]"),
     **dict.fromkeys(("spatial", "central", "normalized"), "float"), "source": "tuple[int, int, int, int]",
+    ("Resizer3D", "source"): "tuple[int, int, int, int, int, int]",
     "__init__": "None", **dict.fromkeys(("decimate_frame", "resize_frame"), "tuple[Image, ...]"),
 }
 
 
 def parameter(argument, default, owner):
-    kind = TYPES.get(argument.arg, "Any")
-    if argument.arg in ("b", "c") and owner in ("Resizer", "Warp"):
-        kind = "float"
+    kind = OWN.get((owner, argument.arg)) or TYPES.get(argument.arg, "Any")
     if argument.arg == "self":
         return "self"
     is_plain = isinstance(default, (ast.Constant, ast.UnaryOp))
@@ -86,8 +89,9 @@ def documented(node, indent):
 
 def function(node, indent="", owner=""):
     result = RESULTS.get(owner if node.name == "__call__" else node.name, "Image")
+    result = RESULTS.get((owner, node.name), result)
     body = documented(node, indent + "    ") or f"{indent}    ...\n"
-    return f"{indent}def {node.name}({parameters(node, owner)}) -> {result}:\n{body}"
+    return f"{indent}def {node.name}({parameters(node, owner or node.name)}) -> {result}:\n{body}"
 
 
 def class_(node, classes):

@@ -89,7 +89,8 @@ class FixedLines {
       : isAcrossPassedOver_(record.IsPassedOver(record.plane.columns)),
         x_(tile.x),
         width_(tile.width),
-        columns_(record.plane, PlaneOf(tile, record), border, resize::PixelsOf(1), 0, room),
+        columns_(record.plane, PlaneOf(tile, record), border, resize::PixelsOf(1), 0, room,
+                 resize::LinearColumns::kSamples),
         rows_(record.plane, record.plane.rows, tile.y, tile.height),
         planes_(record.plane, record.depth, tile.z, tile.depth),
         down_(record.plane.Weights<int16_t>(record.plane.rows) + tile.y),
@@ -107,8 +108,9 @@ class FixedLines {
   void Down(const RowRing<int16_t>& ring, ptrdiff_t y, int16_t* out) const {
     const auto [upper, lower] = ring.Rows<2>(rows_.first[y]);
     const auto w = Doubled(down_[y]);
+    const ptrdiff_t width = std::max<ptrdiff_t>(width_, hn::MaxLanes(kLanes));  // lines have room for a vector
     MapRow<false>(
-        kLanes, out, width_,
+        kLanes, out, width,
         [=](auto h0, auto h1) HWY_ATTR { return hn::Add(h0, hn::MulFixedPoint15(hn::Sub(h1, h0), w)); }, upper, lower);
   }
   void Down(const RowRing<int16_t>& ring, ptrdiff_t y, uint8_t* out) const {

@@ -31,19 +31,22 @@ static int ValueOf(const Call* self, int i, PyObject* object, Value* value) {
     return Fail(self, i, PyExc_TypeError, "has no meaning for these arrays");
   }
   switch (operand->kind) {
-    case kImage: return ImageOf(self, i, object, &value->image);
+    case kImage:
+    case kVolume: return ImageOf(self, i, object, &value->image);
     case kMemory: return MemoryOf(self, i, object, &value->memory);
     case kConstants: return ConstantsOf(self, i, object, value);
     case kNumber: return NumberOf(self, i, object, value);
     case kPair: return NumbersOf(self, i, object, 2, value->numbers);
-    default: return NumbersOf(self, i, object, 4, value->numbers);
+    case kTriple: return NumbersOf(self, i, object, 3, value->numbers);
+    case kQuad: return NumbersOf(self, i, object, 4, value->numbers);
+    default: return NumbersOf(self, i, object, 6, value->numbers);
   }
 }
 
 // ---- the call
 
 static const void* PointerTo(const Operand* operand, const Value* value, PyObject* object) {
-  if (operand->kind == kImage) return value->image.data;
+  if (IsArrayOfRows(operand)) return value->image.data;
   if (operand->kind == kConstants) return object == Py_None ? NULL : value->constants;
   return value->memory;
 }
@@ -51,17 +54,25 @@ static const void* PointerTo(const Operand* operand, const Value* value, PyObjec
 static void SetArgument(Argument* argument, char code, const Operand* operand, const Value* value, PyObject* object) {
   const Image* image = &value->image;
   const npy_intp* n = value->numbers;
-  const int isImage = operand->kind == kImage;
-  const npy_intp width = isImage ? image->width : n[0], height = isImage ? image->height : n[1];
+  const int isArray = IsArrayOfRows(operand);
+  const int width = (int)(isArray ? image->width : n[0]), height = (int)(isArray ? image->height : n[1]);
+  const int depth = (int)(isArray ? image->depth : n[2]);
   switch (code) {
     case 'p': argument->pointer = PointerTo(operand, value, object); break;
     case 's': argument->integer = image->step; break;
+    case 't': argument->integer = image->planeStep; break;
     case 'i': argument->integer = value->integer; break;
     case 'f': argument->real = value->real; break;
-    case 'z': argument->asQvpiSize = (QvpiSize){(int)width, (int)height}; break;
+    case 'z': argument->asQvpiSize = (QvpiSize){width, height}; break;
     case 'o': argument->asQvpiPoint = (QvpiPoint){(int)n[0], (int)n[1]}; break;
     case 'r': argument->asQvpiRect = (QvpiRect){(int)n[0], (int)n[1], (int)n[2], (int)n[3]}; break;
-    case 'e': argument->asQvpiRect = (QvpiRect){0, 0, (int)width, (int)height}; break;
+    case 'e': argument->asQvpiRect = (QvpiRect){0, 0, width, height}; break;
+    case 'v': argument->asQvprVolume = (QvprVolume){width, height, depth}; break;
+    case 'q': argument->asQvprPoint = (QvprPoint){(int)n[0], (int)n[1], (int)n[2]}; break;
+    case 'c':
+      argument->asQvprCuboid = (QvprCuboid){(int)n[0], (int)n[1], (int)n[2], (int)n[3], (int)n[4], (int)n[5]};
+      break;
+    case 'd': argument->asQvprCuboid = (QvprCuboid){0, 0, 0, width, height, depth}; break;
   }
 }
 

@@ -113,8 +113,12 @@ int ConstantsOf(const Call* self, int i, PyObject* object, Value* value) {
 }
 
 int NumbersOf(const Call* self, int i, PyObject* object, int count, npy_intp* numbers) {
+  static const char* const kWanted[] = {[2] = "must be a pair of integers",
+                                        [3] = "must be three integers",
+                                        [4] = "must be four integers",
+                                        [6] = "must be six integers"};
   if (!PyTuple_Check(object) || PyTuple_GET_SIZE(object) != count)
-    return Fail(self, i, PyExc_TypeError, count == 2 ? "must be a pair of integers" : "must be four integers");
+    return Fail(self, i, PyExc_TypeError, kWanted[count]);
   for (int k = 0; k < count; ++k) {
     int64_t number;
     if (IntegerOf(self, i, PyTuple_GET_ITEM(object, k), &number) < 0) return -1;

@@ -18,11 +18,14 @@ enum { kMaxOperands = 20, kMaxParameters = 24, kMaxChannels = 4 };
 // Kinds of operands.
 enum {
   kImage = 'I',      // an array of rows, (H, W) or (H, W, C)
+  kVolume = 'V',     // an array of planes, (D, H, W)
   kMemory = 'M',     // a contiguous array that a parameter points to, or None
   kConstants = 'C',  // a number for each channel, or one for all, or None
   kNumber = 'N',     // an integer or a float
   kPair = 'P',       // (width, height) or (x, y)
   kQuad = 'Q',       // (x, y, width, height)
+  kTriple = 'T',     // (width, height, depth) or (x, y, z)
+  kSextuple = 'S',   // (x, y, z, width, height, depth)
 };
 
 // Flags of operands.
@@ -56,9 +59,10 @@ typedef struct {
   Slot slots[kMaxParameters];
 } Call;
 
+// An image, or a volume: an image is one plane.
 typedef struct {
   char* data;
-  npy_intp step, width, height, rowBytes;
+  npy_intp step, planeStep, width, height, depth, rowBytes;
 } Image;
 
 // What the operands of one call were found to be.
@@ -68,12 +72,14 @@ typedef union {
   double constants[kMaxChannels];  // in the type of elements
   int64_t integer;
   double real;
-  npy_intp numbers[4];
+  npy_intp numbers[6];
 } Value;
 
 // Sets an exception that names the function and the operand; -1.
 int Fail(const Call* self, int i, PyObject* exception, const char* what);
 int WrongType(const Call* self, int i, PyArrayObject* a);
+
+static inline int IsArrayOfRows(const Operand* operand) { return operand->kind == kImage || operand->kind == kVolume; }
 
 static inline int ChannelsOf(PyArrayObject* a) { return PyArray_NDIM(a) == 3 ? (int)PyArray_DIM(a, 2) : 1; }
 

@@ -87,7 +87,7 @@ class Filter:
             image(out, name="out")
             if not _goes_down(out):
                 return self._copied(sources, out, kind, value, threads)
-            sources = tuple(s.copy() if _is_same(out, s) else s for s in sources)
+            sources = tuple(s.copy() if is_same(out, s) else s for s in sources)
         height = a.shape[0]
         parts = [(0, height)]
         if out.shape[:1] == a.shape[:1]:
@@ -113,8 +113,8 @@ class Filter:
         """A part of the result. At the image's edges parts are as large as the mask at least, and then cut."""
         a = sources[0]
         row, column, height, width = checked_tile(tile, a.shape)
-        top, bottom = _enlarged(row, row + height, a.shape[0], self.mask[0])
-        left, right = _enlarged(column, column + width, a.shape[1], self.mask[1])
+        top, bottom = enlarged(row, row + height, a.shape[0], self.mask[0])
+        left, right = enlarged(column, column + width, a.shape[1], self.mask[1])
         call, number, count = self._found
         parts = [source[top:bottom, left:right] for source in sources]
         result = empty(parts[0], number, count)
@@ -132,7 +132,7 @@ class Filter:
         self._buffers.give(buffer)
 
 
-def _is_same(out, a):
+def is_same(out, a):
     return numpy.may_share_memory(out, a) and out.ctypes.data == a.ctypes.data and out.shape == a.shape
 
 
@@ -152,7 +152,7 @@ def contiguous_down(a):
     return a if _goes_down(a) else numpy.ascontiguousarray(a)
 
 
-def _enlarged(first, end, length, mask):
+def enlarged(first, end, length, mask):
     """Rows first to end, with more of them where the mask would reach over an edge of the image from within.
 
     What begins or ends at an edge is two masks long at least, as reflection takes pixels from there.

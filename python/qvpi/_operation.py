@@ -31,15 +31,19 @@ def _index():
 _EXPORTED = _index()
 
 
-def image(array, copy=False, name="array"):
-    """The array as a plain numpy array of rank 2 or 3, or a TypeError that says what to do."""
+# Ranks of arrays, and shapes as they are told.
+IMAGE, VOLUME = ((2, 3), "(H, W) or (H, W, C)"), ((3,), "(D, H, W)")
+
+
+def image(array, copy=False, name="array", of=IMAGE):
+    """The array as a plain numpy array of such a rank, or a TypeError that says what to do."""
     if not isinstance(array, numpy.ndarray):
         raise TypeError(f"{name} must be a numpy array, not {type(array).__name__}: pass numpy.asarray(...) of it")
     if isinstance(array, numpy.ma.MaskedArray):
         raise TypeError(f"{name} is a masked array: pass its data, and its mask as mask=")
     array = array.view(numpy.ndarray)
-    if array.ndim not in (2, 3):
-        raise TypeError(f"{name} has the shape {array.shape}, expected (H, W) or (H, W, C)")
+    if array.ndim not in of[0]:
+        raise TypeError(f"{name} has the shape {array.shape}, expected {of[1]}")
     if array.size == 0:
         raise Error(lib.qvpStatusSize)
     if not array.dtype.isnative:
@@ -47,14 +51,14 @@ def image(array, copy=False, name="array"):
     return numpy.ascontiguousarray(array) if copy else array
 
 
-def checked_shape(shape, name="shape"):
-    """A shape as a tuple of 2 or 3 integers above 0."""
+def checked_shape(shape, name="shape", of=IMAGE):
+    """A shape as a tuple of integers above 0."""
     try:
         numbers = tuple(operator.index(number) for number in shape)
     except TypeError:
-        raise TypeError(f"{name} must be (H, W) or (H, W, C), not {shape!r}") from None
-    if len(numbers) not in (2, 3):
-        raise ValueError(f"{name} must be (H, W) or (H, W, C), not {shape!r}")
+        raise TypeError(f"{name} must be {of[1]}, not {shape!r}") from None
+    if len(numbers) not in of[0]:
+        raise ValueError(f"{name} must be {of[1]}, not {shape!r}")
     if min(numbers) < 1:
         raise Error(lib.qvpStatusSize)
     return numbers

@@ -19,8 +19,10 @@ NAMES = {number: name for name, number in NUMBERS.items()}
 _C_TYPES = {f"Qvp{name}": number for name, number in NUMBERS.items()} | {
     "int": NUMBERS["32s"], "double": NUMBERS["64f"], "QvpiPoint": NUMBERS["32s"],
     "QvpiSize": NUMBERS["32s"], "QvpiRect": NUMBERS["32s"], "QvpiBorderSize": NUMBERS["32u"],
-    "QvpSizeL": numpy.dtype(numpy.intp).num}
-_STRUCTURES = {"QvpiSize": ("P", "z"), "QvpiPoint": ("P", "o"), "QvpiRect": ("Q", "r")}
+    "QvprCuboid": NUMBERS["32s"], "QvpSizeL": numpy.dtype(numpy.intp).num}
+# Structures: the operand that they are made from, the slot for it, and the slot for an image of that size.
+_STRUCTURES = {"QvpiSize": ("P", "z", "z"), "QvpiPoint": ("P", "o", "z"), "QvpiRect": ("Q", "r", "e"),
+               "QvprVolume": ("T", "v", "v"), "QvprPoint": ("T", "q", "v"), "QvprCuboid": ("S", "c", "d")}
 
 # Channels of images that the layout does not tell, by the beginning of a name and the role.
 UNLIKE_THEIR_LAYOUT = {("qvpiCompare", "dst"): 1, ("qvpiFilterGuidedColor", "guide"): 3}
@@ -35,7 +37,7 @@ FUNCTIONS = {name: (index, parameters) for index, (name, parameters) in enumerat
 
 def role_of(label):
     """pSrc1 -> src1, pxMap -> xMap, roiSize -> roiSize."""
-    bare = re.sub(r"^p{1,2}(?=[A-Z]|[xy]Map)", "", label)
+    bare = re.sub(r"^p{1,2}(?=[A-Z]|[xyz]Map)", "", label)
     return bare[0].lower() + bare[1:]
 
 
@@ -65,16 +67,26 @@ class Plan:
             self.pointer(kind, role, length)
             return "p", role
         if label.endswith("Step") and role not in self.roles:
-            return "s", label.removesuffix("Step")
+            return self.step(label)
         if kind in _STRUCTURES and role not in self.roles:
-            return "e" if kind == "QvpiRect" else "z", self.image_for(role)
+            return _STRUCTURES[kind][2], self.image_for(role)
         return self.value(kind, role)
 
+    def step(self, label):
+        """A step of rows or planes; maps of volumes share theirs."""
+        code = "t" if label.endswith("PlaneStep") else "s"
+        image = label.removesuffix("Step").removesuffix("Plane")
+        return code, "xMap" if image == "map" else image
+
+    def has_step(self, role, step="Step"):
+        shared = role.endswith("Map") and ["int", f"map{step}", ""] in self.parameters
+        return shared or ["int", f"{role}{step}", ""] in self.parameters
+
     def pointer(self, kind, role, length):
-        """An image has a step of its name."""
+        """An image has a step of its name, a volume also one of planes."""
         pointee = kind.removeprefix("const ").removesuffix("*").strip()
         is_const = kind.startswith("const ")
-        if ["int", f"{role}Step", ""] in self.parameters and pointee in _C_TYPES:
+        if self.has_step(role) and pointee in _C_TYPES:
             self.image(role, _C_TYPES[pointee], is_const)
         elif is_const and (length or role == "borderValue" and self.layout) and pointee in _C_TYPES:
             count = int(length) if length else 3 if self.layout.startswith("AC") else channels_of(self.layout, "src")
@@ -89,7 +101,7 @@ class Plan:
         flags = 0 if is_const else WRITTEN | (IN_PLACE if self.in_place else 0)
         flags |= 0 if role in self.free else SAME_SIZE
         flags |= OPTIONAL if role in ("gx", "gy", "magnitude", "angle") else 0
-        self.operands[role] = ("I", number, channels, flags)
+        self.operands[role] = ("V" if self.has_step(role, "PlaneStep") else "I", number, channels, flags)
 
     def memory(self, role, pointee, is_const):
         """A buffer, a record (bytes), an array of numbers, or one of pointers."""
@@ -102,8 +114,8 @@ class Plan:
 
     def image_for(self, role):
         """The image whose size stands for a size that is not passed."""
-        images = [name for name, operand in self.operands.items() if operand[0] == "I"]
-        named = role.removesuffix("Size").removesuffix("Roi")
+        images = [name for name, operand in self.operands.items() if operand[0] in "IV"]
+        named = re.sub("(Roi)?Size$|Roi$|Volume$|Cuboid$", "", role)
         if named in images:
             return named
         if role.startswith("src"):
@@ -112,7 +124,7 @@ class Plan:
 
     def value(self, kind, role):
         if kind in _STRUCTURES:
-            operand, code = _STRUCTURES[kind]
+            operand, code, _ = _STRUCTURES[kind]
             self.operands[role] = (operand, 0, 0, 0)
             return code, role
         number = _C_TYPES.get(kind, NUMBERS["32s"])  # enumerations are integers

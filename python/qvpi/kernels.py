@@ -45,7 +45,7 @@ class Filter2D(_Recorded):
     operation = operation_of("", "", _Recorded.record_role)
 
     def __init__(self, shape, dtype, kernel, divisor=None, rounding="near", correlate=False):
-        kernel = _kernel(kernel, dtype, divisor, 2)
+        kernel = kernel_of(kernel, dtype, divisor, 2)
         super().__init__(shape, dtype, kernel.shape)
         if correlate:
             kernel = numpy.ascontiguousarray(kernel[::-1, ::-1])
@@ -67,7 +67,7 @@ class Separable(_Recorded):
     operation = operation_of("Separable", "", _Recorded.record_role)
 
     def __init__(self, shape, dtype, row, column, divisor=None, rounding="near"):
-        row, column = (_kernel(kernel, "float32", divisor, 1) for kernel in (row, column))
+        row, column = (kernel_of(kernel, "float32", divisor, 1) for kernel in (row, column))
         super().__init__(shape, dtype, (column.size, row.size))
         size, values = (row.size, column.size), () if divisor is None else (divisor,)
         taps = lib.qvp16s if divisor is not None else lib.qvp32f
@@ -79,7 +79,7 @@ class Separable(_Recorded):
         self.prepare(buffer)
 
 
-def _kernel(kernel, dtype, divisor, rank):
+def kernel_of(kernel, dtype, divisor, rank):
     """The kernel in the dtype that the library takes for such images."""
     kernel = numpy.asarray(kernel)
     if kernel.ndim != rank or kernel.size == 0 or kernel.dtype.kind not in "uif":
