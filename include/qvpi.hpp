@@ -16,13 +16,13 @@
 #ifndef QVPI_HPP
 #define QVPI_HPP
 
+#include "qvpi/filter.hpp"
+#include "qvpi/fourier.hpp"
+#include "qvpi/hog.hpp"
 #include "qvpi/operations/arith.hpp"
 #include "qvpi/operations/core.hpp"
-#include "qvpi/operations/denoise.hpp"
-#include "qvpi/operations/feature.hpp"
-#include "qvpi/operations/filter.hpp"
-#include "qvpi/operations/geometry.hpp"
-#include "qvpi/operations/stats.hpp"
-#include "qvpi/operations/transform.hpp"
+#include "qvpi/resizer.hpp"
+#include "qvpi/statistics.hpp"
+#include "qvpi/warp.hpp"
 
 #endif

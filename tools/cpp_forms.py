@@ -1,7 +1,7 @@
 """How a C++ overload calls an exported function, made from its prototype."""
 import re
 
-from cpp_names import FROM_SECOND, ORDER, PARAMETERS, REQUIRED_SIZE, WITH_ALPHA, cpp_name, query_of, snake
+from cpp_names import CALLS, FROM_SECOND, ORDER, PARAMETERS, REQUIRED_SIZE, WITH_ALPHA, cpp_name, query_of, snake
 from derive import parameter
 
 TYPE = "8u|8s|16u|16s|32u|32s|32fc|32f|64f"
@@ -74,7 +74,6 @@ class Form:
         self.operation, self.type = match["operation"], match["type"]
         self.layout = match.groupdict().get("layout") or ""
         self.cpp_name = cpp_name(self.operation)
-        self.kind = f"{self.type}_{self.layout}"
         self.first_of_kind = re.sub(r"_(8u|16s|16u|32f|32s|8s|64f|32u|32fc).*$", "", name)
         self.roles = {each.role for each in c_parameters}
         self.images = [each.role for each in c_parameters if self.is_image(each)]
@@ -284,4 +283,5 @@ class Call(Form):
         given = [f"{kind} {name}" for kind, name, _ in self.parameters]
         checked = " && ".join(self.checks())
         call = f"{checked} ? {self.c_call()} : qvpStatusSize" if checked else self.c_call()
-        return f"inline QvpStatus {snake(self.operation)}({', '.join(tag + given)}) {{ return {call}; }}\n"
+        name = CALLS.get(self.operation) or snake(self.operation)
+        return f"inline QvpStatus {name}({', '.join(tag + given)}) {{ return {call}; }}\n"

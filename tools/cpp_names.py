@@ -53,6 +53,11 @@ REQUIRED_SIZE = {
 }
 
 
+# Functions with a record, whose type tells them apart.
+CALLS = {"FilterBorder": "filter", "FilterSeparableBorder": "filter", "FilterGaussBorder": "filter",
+         "FilterBilateralBorder": "filter"}
+
+
 def snake(name):
     """borderValue -> border_value, SobelXX -> sobel_xx"""
     name = re.sub(r"([a-z\d])([A-Z])", r"\1_\2", name.replace("_", ""))

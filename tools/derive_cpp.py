@@ -95,12 +95,20 @@ def keep_apart(forms):
                 form.require_one_more()
 
 
+def listed(forms):
+    """The types and layouts of forms: 8u C1 C3, 16u C1."""
+    layouts = defaultdict(dict)
+    for form in forms:
+        layouts[form.type][form.layout] = None
+    return ", ".join(f"{kind} {' '.join(of)}" for kind, of in layouts.items())
+
+
 def fallback(name, forms):
     """What is called when no form fits: it says which there are."""
     kinds = defaultdict(list)
     for form in forms:
-        kinds[f"{name}({', '.join(form.labels())})"].append(form.kind)
-    text = "; ".join(f"{call} of {' '.join(dict.fromkeys(images))}" for call, images in kinds.items())
+        kinds[f"{name}({', '.join(form.labels())})"].append(form)
+    text = "; ".join(f"{call} of {listed(alike)}" for call, alike in kinds.items())
     return (f"template <class... Arguments>\n"
             f"  requires((detail::HasPixels<Arguments> || ...) &&\n"
             f"           !requires(Arguments&&... a) {{ forms::{name}(static_cast<Arguments&&>(a)...); }})\n"

@@ -41,6 +41,16 @@ inline constexpr bool kNever = false;
 template <class Argument>
 concept HasPixels = requires { typename std::remove_cvref_t<Argument>::Number; };
 
+// The view that an image or a view is.
+template <class Argument>
+auto view_of(Argument&& argument) {
+  if constexpr (requires { argument.view(); }) {
+    return argument.view();
+  } else {
+    return argument;
+  }
+}
+
 constexpr bool has_size(const Rows& image, QvpiSize size) {
   return image.width() == size.width && image.height() == size.height;
 }

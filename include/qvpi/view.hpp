@@ -64,6 +64,7 @@ template <class T, int kLayout = 1>
 class View : public Rows {
  public:
   using Number = std::remove_const_t<T>;
+  static constexpr int layout = kLayout;
 
   constexpr View() = default;
 

@@ -60,6 +60,16 @@ TEST(Results, HaveValuesOrNone) {
   EXPECT_EQ(none.value_or(-1), -1);
 }
 
+TEST(Results, OfAnObjectThatCouldNotBeMadeAreItsStatus) {
+  qvp::Image<Qvp8u> image(4, 4);
+  qvp::Resizer<Qvp8u> resizer({4, 4}, {0, 4});
+  EXPECT_EQ(resizer.status().code(), qvpStatusSize);
+  EXPECT_EQ(resizer(image, image).code(), qvpStatusSize);
+  auto filter = qvp::Filter<Qvp8u>::gauss({2, 3}, 1);
+  EXPECT_EQ(filter(image, image).code(), qvpStatusMaskSize);
+  EXPECT_TRUE(qvp::resize(image.view({0, 0, 2, 2}), image.view({2, 2, 2, 2})).ok());
+}
+
 #endif
 
 }  // namespace
