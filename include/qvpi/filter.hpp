@@ -89,6 +89,9 @@ class Filter : public Recorded {
     return morphology(size, mask, anchor, &run_dilate);
   }
 
+  /** How many rows and columns beyond its place a pixel may be made from, at most. */
+  int reach() const { return mask_.width > mask_.height ? mask_.width : mask_.height; }
+
   Status operator()(In<T, kChannels> src, Out<T, kChannels> dst, BorderType border = BorderType::replicate,
                     const Pixel<T, kChannels>& value = {}) {
     return (*this)(src, dst, border, value, own_);

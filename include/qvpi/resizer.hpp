@@ -51,6 +51,11 @@ class Resizer : public Recorded {
     made(prepare());
   }
 
+  /** Whether images of these sizes are what it was made for. */
+  bool is_for(QvpiSize src, QvpiSize dst) const {
+    return detail::has_size(Rows(0, src), src_) && detail::has_size(Rows(0, dst), dst_);
+  }
+
   /** The whole image. */
   Status operator()(In<T, kChannels> src, Out<T, kChannels> dst) { return (*this)(src, dst, own_); }
   Status operator()(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {

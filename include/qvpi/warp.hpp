@@ -43,6 +43,11 @@ class Warp : public Recorded {
     made(prepare(options, perspective(src, dst, rows<3, 3>(matrix), options)));
   }
 
+  /** Whether images of these sizes are what it was made for. */
+  bool is_for(QvpiSize src, QvpiSize dst) const {
+    return detail::has_size(Rows(0, src), src_) && detail::has_size(Rows(0, dst), dst_);
+  }
+
   /** The whole image. */
   Status operator()(In<T, kChannels> src, Out<T, kChannels> dst) { return (*this)(src, dst, own_); }
   Status operator()(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {
