@@ -68,7 +68,7 @@ def summaries(text):
 
 
 def is_form(result, name):
-    in_place = re.search(r"_(?:A?C\d)+M?I\w*$|_C1V", name)
+    in_place = re.search(r"_(?:A?[CP]\d)+M?I\w*$", name)
     return result == "QvpStatus" and name.startswith("qvpi") and not (
         name.endswith("_L") or in_place or LEFT_OUT.match(name))
 
@@ -84,6 +84,8 @@ def forms_of(functions):
                 calls.append(form)
             elif form:
                 forms[form.cpp_name].append(form)
+            elif re.search(r"R(Sfs|s)?$", name):
+                raise SystemExit(f"{name} has images, and no form in C++: see LEFT_OUT in cpp_names.py")
     return forms, calls
 
 

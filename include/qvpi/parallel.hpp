@@ -147,7 +147,7 @@ class Parallel {
     const auto src = detail::view_of(source);
     const auto dst = detail::view_of(destination);
     if (!detail::same(src, dst)) return detail::finish(qvpStatusSize);
-    const detail::Cut cut = strips(src.height(), row_bytes(src) + row_bytes(dst), reach);
+    const detail::Cut cut = strips(src.height(), row_bytes(src) + row_bytes(dst), reach, kPartsOfWorker);
     return run_parts(cut.count, [&](int i, Buffer& buffer) {
       const QvpiRect part = {0, cut.begin(i), src.width(), cut.size(i)};
       const int above = i > 0 ? qvpBorderInMemTop : 0, below = i + 1 < cut.count ? qvpBorderInMemBottom : 0;
@@ -168,20 +168,21 @@ class Parallel {
   template <class T, int kChannels>
   Status run(const Resizer<T, kChannels>& resizer, std::type_identity_t<In<T, kChannels>> src,
              std::type_identity_t<Out<T, kChannels>> dst) const {
-    return by_tiles(resizer, src, dst, {dst.width(), 1});
+    return by_tiles(resizer, src, dst, {dst.width(), 1}, kPartsOfWorker);
   }
 
   /** In tiles, as the source of a row may be all over the image. */
   template <class T, int kChannels>
   Status run(const Warp<T, kChannels>& warp, std::type_identity_t<In<T, kChannels>> src,
              std::type_identity_t<Out<T, kChannels>> dst) const {
-    return by_tiles(warp, src, dst, {dst.width(), 1 + dst.width() / kTileWidth});
+    return by_tiles(warp, src, dst, {dst.width(), 1 + dst.width() / kTileWidth}, dst.height());
   }
 
  private:
   static constexpr int kPartBytes = 1 << 18;  // a share of the second-level cache
   static constexpr int kLeastBytes = 1 << 16;  // below this, waking a thread takes longer
   static constexpr int kTileWidth = 512;
+  static constexpr int kPartsOfWorker = 4;
   static constexpr int kLeastRows = 16;
 
   int default_workers() const {
@@ -197,12 +198,14 @@ class Parallel {
     return step < 0 ? -step : step;
   }
 
-  // For what reads its source more than once: parts that fit the cache, of `least` rows each.
-  detail::Cut strips(int height, long long bytes, int least) const {
+  // For what reads its source more than once: parts of `least` rows, which fit the cache, or of `parts` for each worker if
+  // those are fewer: what a part begins with costs, too.
+  detail::Cut strips(int height, long long bytes, int least, int parts) const {
+    if (workers_ == 1) return {height, 1};
+    const long long rows_of_part = height / (1LL * parts * workers_), cached = kPartBytes / std::max(bytes, 1LL);
     const long long share = (height + workers_ - 1LL) / workers_;
-    const long long cached = std::max<long long>(kLeastRows, kPartBytes / std::max(bytes, 1LL));
-    const long long rows = workers_ == 1 ? height : std::max<long long>({1, least, std::min(share, cached)});
-    return {height, static_cast<int>(std::max<long long>(1, height / rows))};
+    const long long rows = std::min(share, std::max<long long>({kLeastRows, rows_of_part, cached}));
+    return {height, static_cast<int>(std::max<long long>(1, height / std::max<long long>({1, least, rows})))};
   }
 
   // For what reads each pixel once: a part for each worker, so that large ones are stored past the caches as the whole is.
@@ -222,9 +225,9 @@ class Parallel {
   }
 
   template <class Mapped, class From, class To>
-  Status by_tiles(const Mapped& mapped, From src, To dst, detail::Cut across) const {
+  Status by_tiles(const Mapped& mapped, From src, To dst, detail::Cut across, int parts) const {
     if (dst.empty() || !mapped.is_for(src.size(), dst.size())) return detail::finish(qvpStatusSize);
-    const detail::Cut down = strips(dst.height(), row_bytes(dst) / across.count, 1);
+    const detail::Cut down = strips(dst.height(), row_bytes(dst) / across.count, 1, parts);
     return run_parts(across.count * down.count, [&](int i, Buffer& buffer) {
       const int column = i % across.count, row = i / across.count;
       const QvpiRect tile = {across.begin(column), down.begin(row), across.size(column), down.size(row)};

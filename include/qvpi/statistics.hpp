@@ -39,7 +39,10 @@ class Histogram : public Recorded {
   }
 
   /** How many pixels each bin has, of a channel. */
-  std::span<const Qvp32u> counts(int channel = 0) const { return {place(channel), std::size_t(bins_)}; }
+  std::span<const Qvp32u> counts(int channel = 0) const {
+    if (!status().ok() || channel < 0 || channel >= kChannels) return {};
+    return {place(channel), std::size_t(bins_)};
+  }
 
  private:
   Qvp32u* place(int channel) const {

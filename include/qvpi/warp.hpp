@@ -9,6 +9,9 @@
 
 namespace qvp {
 
+/** Four corners (x, y), in order around a quadrangle. */
+using Quad = Matrix<4, 2>;
+
 /** How an image is warped. */
 struct WarpOptions {
   InterpolationType method = InterpolationType::linear;    /**< nearest, linear or cubic */
@@ -23,6 +26,44 @@ struct WarpOptions {
 
 namespace qvp::inline QVP_ERRORS {
 
+namespace detail {
+
+// A matrix as C takes it.
+template <int kRows, int kColumns>
+const double (*rows(const Matrix<kRows, kColumns>& matrix))[kColumns] {
+  return reinterpret_cast<const double(*)[kColumns]>(matrix.data());
+}
+template <int kRows, int kColumns>
+double (*rows(Matrix<kRows, kColumns>& matrix))[kColumns] {
+  return reinterpret_cast<double(*)[kColumns]>(matrix.data());
+}
+
+}  // namespace detail
+
+/** Turns by degrees counter-clockwise, makes larger by `scale`, and takes the point `from` to the point `to`. */
+inline Result<Matrix<2, 3>> rotation(double angle, std::array<double, 2> from, std::array<double, 2> to, double scale = 1) {
+  Matrix<2, 3> matrix = {};
+  const QvpStatus status =
+      qvpiGetRotateScaleTransform(from[0], from[1], to[0], to[1], angle, scale, detail::rows<2, 3>(matrix));
+  return detail::finish(status, matrix);
+}
+
+/** Takes one parallelogram to another. */
+inline Result<Matrix<2, 3>> affine_transform(const Quad& from, const Quad& to) {
+  Matrix<2, 3> matrix = {};
+  const QvpStatus status =
+      qvpiGetAffineQuadTransform(detail::rows<4, 2>(from), detail::rows<4, 2>(to), detail::rows<2, 3>(matrix));
+  return detail::finish(status, matrix);
+}
+
+/** Takes one quadrangle to another: a page that was photographed to a rectangle. */
+inline Result<Matrix<3, 3>> perspective_transform(const Quad& from, const Quad& to) {
+  Matrix<3, 3> matrix = {};
+  const QvpStatus status =
+      qvpiGetPerspectiveQuadTransform(detail::rows<4, 2>(from), detail::rows<4, 2>(to), detail::rows<3, 3>(matrix));
+  return detail::finish(status, matrix);
+}
+
 /** Warps images of one size: `Warp<Qvp8u, 3> w(src.size(), dst.size(), matrix); w(src, dst);`
  *
  *  A matrix of two rows makes an affine warp, one of three a perspective. Positions are (x, y), and pixels lie at whole
@@ -36,11 +77,11 @@ class Warp : public Recorded {
  public:
   Warp(QvpiSize src, QvpiSize dst, const Matrix<2, 3>& matrix, const WarpOptions& options = {})
       : src_(src), dst_(dst), run_(affine_call(options.method)) {
-    made(prepare(options, affine(src, dst, rows<2, 3>(matrix), options)));
+    made(prepare(options, affine(src, dst, detail::rows<2, 3>(matrix), options)));
   }
   Warp(QvpiSize src, QvpiSize dst, const Matrix<3, 3>& matrix, const WarpOptions& options = {})
       : src_(src), dst_(dst), run_(perspective_call(options.method)) {
-    made(prepare(options, perspective(src, dst, rows<3, 3>(matrix), options)));
+    made(prepare(options, perspective(src, dst, detail::rows<3, 3>(matrix), options)));
   }
 
   /** Whether images of these sizes are what it was made for. */
@@ -70,11 +111,6 @@ class Warp : public Recorded {
   static constexpr QvpDataType kType = detail::kDataType<T>;
 
   Spec* spec() const { return Recorded::spec<Spec>(); }
-
-  template <int kRows, int kColumns>
-  static const double (*rows(const Matrix<kRows, kColumns>& matrix))[kColumns] {
-    return reinterpret_cast<const double(*)[kColumns]>(matrix.data());
-  }
 
   // The functions of one kind of warp: the size of the record, and what makes it.
   static auto affine(QvpiSize src, QvpiSize dst, const double (*matrix)[3], const WarpOptions& with) {

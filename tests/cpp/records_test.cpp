@@ -147,6 +147,16 @@ TEST(Warp, MovesByAMatrixAndByTiles) {
   EXPECT_EQ(Refused([&] { qvp::Warp<Qvp8u, 3>(size, {9, 9}, shift)(picture, affine); }), qvpStatusSize);
 }
 
+TEST(Warp, TakesMatricesFromPointsAndQuadrangles) {
+  const qvp::Quad from{{{0, 0}, {8, 0}, {8, 4}, {0, 4}}}, to{{{1, 2}, {17, 2}, {17, 10}, {1, 10}}};
+  EXPECT_EQ(qvp::affine_transform(from, to), (qvp::Matrix<2, 3>{{{2, 0, 1}, {0, 2, 2}}}));
+  EXPECT_NEAR(qvp::perspective_transform(from, to)[0][2], 1, 1e-12);
+  const auto quarter = qvp::rotation(90, {5, 5}, {7, 9}, 2);
+  EXPECT_NEAR(quarter[0][0] * 6 + quarter[0][1] * 5 + quarter[0][2], 7, 1e-12);
+  EXPECT_NEAR(quarter[1][0] * 6 + quarter[1][1] * 5 + quarter[1][2], 7, 1e-12) << "up, by twice as much";
+  EXPECT_EQ(Refused([&] { (void)qvp::perspective_transform(qvp::Quad{}, to); }), qvpStatusQuad);
+}
+
 TEST(Fourier, GoesThereAndBack) {
   const QvpiSize size{15, 8};
   const auto picture = Noise<Qvp32f, 3>(size);
