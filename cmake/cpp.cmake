@@ -1,5 +1,5 @@
-# The C++ headers: those of include/qvpi/, and qvpi/operations/, which is derived from the C headers. They are for images,
-# not for volumes.
+# The C++ headers: those of include/qvpi/, and qvpi/operations/, which is derived from the C headers. They are for
+# images, not for volumes.
 set(derived ${PROJECT_BINARY_DIR}/derived/cpp)
 file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
 list(FILTER headers EXCLUDE REGEX qvpi_volume)

@@ -9,15 +9,16 @@ NAME = re.compile(rf"qvpi(?P<operation>\w+?)_(?P<type>(?:{TYPE}){{1,2}})_(?P<lay
 TYPED = re.compile(rf"qvpi(?P<operation>Resize\w+)_(?P<type>{TYPE})$")
 SIZES = {"roi_size", "src_roi_size", "dst_roi_size", "src_size", "dst_size", "tpl_roi_size", "a_size", "b_size"}
 SOURCES = ("src", "a", "b", "tpl")
-SELECTORS = re.compile(r"Qvpi?(RoundMode|HintAlgorithm|LookupMethod|CompositeOp|CmpOp|Method|MatchShape|MatchNorm|Window|"
-                       r"NormType|BorderType|InterpolationType|Axis|LBPMode)$")
+SELECTORS = re.compile(r"Qvpi?(RoundMode|HintAlgorithm|LookupMethod|CompositeOp|CmpOp|Method|MatchShape|MatchNorm|"
+                       r"Window|NormType|BorderType|InterpolationType|Axis|LBPMode)$")
 DEFAULTS = {"scale": "0", "border_value": "{}", "dst_offset": "{0, 0}", "divisor": "1",
             "HintAlgorithm": "HintAlgorithm::fast", "BorderType": "BorderType::replicate",
             "RoundMode": "RoundMode::near", "Method": "Method::automatic"}
 RECORD = re.compile(r"Qvpi\w+(Spec|State)(_\w+)?\*")
 OPTIONAL = ("gx", "gy", "magnitude", "angle")
 # The structures that several results are returned in, and their members.
-RESULTS = {("min", "max"): ("Extrema", ("min", "max")), ("min", "index_x", "index_y"): ("Extremum", ("value", "x", "y")),
+RESULTS = {("min", "max"): ("Extrema", ("min", "max")),
+           ("min", "index_x", "index_y"): ("Extremum", ("value", "x", "y")),
            ("max", "index_x", "index_y"): ("Extremum", ("value", "x", "y"))}
 
 

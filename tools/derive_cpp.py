@@ -6,8 +6,8 @@
                   sizes are those of the views, buffers grow as needed, numbers that a function writes are returned
   forms.cpp       for the tests: calls of each overload
 
-Functions that take a record go to the namespace `calls`, for the classes that own records. In-place forms are not needed,
-as a view may be source and destination; nor are _L forms, as views count with int.
+Functions that take a record go to the namespace `calls`, for the classes that own records. In-place forms are not
+needed, as a view may be source and destination; nor are _L forms, as views count with int.
 """
 import argparse
 import re
@@ -20,7 +20,8 @@ from derive import prototypes, write
 
 GUARD = "#ifndef QVPI_OPERATIONS_{0}_HPP\n#define QVPI_OPERATIONS_{0}_HPP\n\n{1}\n#endif\n"
 GROUP = re.compile(r"/\*\*(?P<comment>(?:(?!\*/).)*)\*/\n(?P<prototypes>(?:\w[^\n]*\([^()]*\);\n)+)", re.S)
-SELECTOR = re.compile(r"/\*\* (?P<comment>(?:(?!\*/).)*)\*/\ntypedef int (?P<type>Qvpi?\w+);\nenum \{\n(?P<rows>.*?)\};", re.S)
+SELECTOR = re.compile(r"/\*\* (?P<comment>(?:(?!\*/).)*)\*/\ntypedef int (?P<type>Qvpi?\w+);\n"
+                      r"enum \{\n(?P<rows>.*?)\};", re.S)
 # Constants whose names are words of the language.
 RENAMED = {"auto": "automatic", "const": "constant", "xor": "exclusive_or"}
 FLAGS = ("BorderType", "InterpolationType", "Window")  # which can be combined
@@ -46,8 +47,9 @@ def selector(match):
     name = re.sub(r"^Qvpi?", "", match["type"])
     rows = "".join(f"  {constant(each, prefix_of(names))} = {each},\n" for each in names)
     sentence = re.sub(r"\s*\*?\s+", " ", match["comment"]).split(". ")[0].rstrip(". ")
-    both = f"constexpr {name} operator|({name} a, {name} b) {{ return {name}(int(a) | int(b)); }}\n" if name in FLAGS else ""
-    return f"/** {sentence}. The constants are those of {match['type']}. */\nenum class {name} : int {{\n{rows}}};\n{both}\n"
+    both = f"constexpr {name} operator|({name} a, {name} b) {{ return {name}(int(a) | int(b)); }}\n"
+    return (f"/** {sentence}. The constants are those of {match['type']}. */\n"
+            f"enum class {name} : int {{\n{rows}}};\n{both if name in FLAGS else ''}\n")
 
 
 def selectors(text):
@@ -115,7 +117,8 @@ def fallback(name, forms):
             f"  requires((detail::HasPixels<Arguments> || ...) &&\n"
             f"           !requires(Arguments&&... a) {{ forms::{name}(static_cast<Arguments&&>(a)...); }})\n"
             f"Status {name}(Arguments&&...) {{\n"
-            f'  static_assert(detail::kNever<Arguments...>, "qvp::{name} has no form for these arguments. There are: {text}");\n'
+            f'  static_assert(detail::kNever<Arguments...>,\n                "qvp::{name} has no form for these arguments. '
+            f'There are: {text}");\n'
             f"  return {{}};\n}}\n")
 
 
@@ -123,7 +126,8 @@ def public(name, forms, sentences):
     sentence = sentences.get(forms[0].c_name, "")
     calls = "\n".join(f" *  - {name}({call})" for call in dict.fromkeys(", ".join(form.labels()) for form in forms))
     functions = ", ".join(f"{first}()" for first in dict.fromkeys(form.first_of_kind for form in forms))
-    return f"/** {sentence}\n *\n{calls}\n *\n *  As in C: {functions}. */\nusing forms::{name};\n{fallback(name, forms)}\n"
+    comment = f"/** {sentence}\n *\n{calls}\n *\n *  As in C: {functions}. */\n"
+    return f"{comment}using forms::{name};\n{fallback(name, forms)}\n"
 
 
 def part(name, text, functions):
@@ -131,7 +135,8 @@ def part(name, text, functions):
     for group in forms.values():
         keep_apart(group)
     sentences = summaries(text)
-    body = ['#include "qvpi.h"\n#include "qvpi/call.hpp"\n\nnamespace qvp::inline QVP_ERRORS {\n\nnamespace forms {\n\n']
+    body = ['#include "qvpi.h"\n#include "qvpi/call.hpp"\n\n',
+            "namespace qvp::inline QVP_ERRORS {\n\nnamespace forms {\n\n"]
     body += [form.definition() for group in forms.values() for form in group]
     body += ["\n}  // namespace forms\n\nnamespace calls {\n\n", *(call.definition() for call in calls)]
     body += ["\n}  // namespace calls\n\n", *(public(each, group, sentences) for each, group in forms.items())]

@@ -39,7 +39,9 @@ inline constexpr bool kNever = false;
 
 // Images and views.
 template <class Argument>
-concept HasPixels = requires { typename std::remove_cvref_t<Argument>::Number; };
+concept HasPixels = requires {
+  typename std::remove_cvref_t<Argument>::Number;
+};
 
 // The view that an image or a view is.
 template <class Argument>
@@ -71,7 +73,9 @@ constexpr QvpiSize blocks(QvpiSize size) {
 
 // Of convolutions. What is no int is not the size of an image, and so refused.
 constexpr int sum_or_none(int a, int b) { return a > 0x7FFFFFFF - b ? -1 : a + b - 1; }
-constexpr QvpiSize full(QvpiSize a, QvpiSize b) { return {sum_or_none(a.width, b.width), sum_or_none(a.height, b.height)}; }
+constexpr QvpiSize full(QvpiSize a, QvpiSize b) {
+  return {sum_or_none(a.width, b.width), sum_or_none(a.height, b.height)};
+}
 constexpr QvpiSize valid(QvpiSize a, QvpiSize b) { return {a.width - b.width + 1, a.height - b.height + 1}; }
 
 constexpr QvpiSize matched(MatchShape shape, QvpiSize image, QvpiSize part) {

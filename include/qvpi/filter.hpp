@@ -25,7 +25,8 @@ class Filter : public Recorded {
   static Filter gauss(QvpiSize mask_size, Qvp32f sigma_x, Qvp32f sigma_y) {
     Filter filter(mask_size, &gauss_size, &run<QvpiFilterGaussBorderSpec>);
     filter.prepare([&](Qvp8u* memory) {
-      return qvpiFilterGaussBorderInit(mask_size, sigma_x, sigma_y, kType, kCount, record<QvpiFilterGaussBorderSpec>(memory));
+      return qvpiFilterGaussBorderInit(mask_size, sigma_x, sigma_y, kType, kCount,
+                                       record<QvpiFilterGaussBorderSpec>(memory));
     });
     return filter;
   }
@@ -42,7 +43,8 @@ class Filter : public Recorded {
   }
 
   /** A convolution with any kernel, by rows, of integers that are divided by `divisor` at the end. */
-  static Filter kernel(QvpiSize size, std::span<const Qvp16s> taps, int divisor = 1, RoundMode rounding = RoundMode::near) {
+  static Filter kernel(QvpiSize size, std::span<const Qvp16s> taps, int divisor = 1,
+                       RoundMode rounding = RoundMode::near) {
     Filter filter(size, &kernel_size<qvp16s>, &run<QvpiFilterBorderSpec>);
     filter.prepare_if(holds(size, taps.size()), [&](Qvp8u* memory) {
       return qvpiFilterBorderInit_16s(taps.data(), size, divisor, kType, kCount, int(rounding),
@@ -54,7 +56,8 @@ class Filter : public Recorded {
   static Filter kernel(QvpiSize size, std::span<const Qvp32f> taps, RoundMode rounding = RoundMode::near) {
     Filter filter(size, &kernel_size<qvp32f>, &run<QvpiFilterBorderSpec>);
     filter.prepare_if(holds(size, taps.size()), [&](Qvp8u* memory) {
-      return qvpiFilterBorderInit_32f(taps.data(), size, kType, kCount, int(rounding), record<QvpiFilterBorderSpec>(memory));
+      return qvpiFilterBorderInit_32f(taps.data(), size, kType, kCount, int(rounding),
+                                      record<QvpiFilterBorderSpec>(memory));
     });
     return filter;
   }
@@ -65,13 +68,14 @@ class Filter : public Recorded {
     const QvpiSize size = {int(row.size()), int(column.size())};
     Filter filter(size, &separable_size<qvp16s>, &run<QvpiFilterSeparableBorderSpec>);
     filter.prepare([&](Qvp8u* memory) {
-      return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), size, divisor, kType, kType, kCount, int(rounding),
-                                               record<QvpiFilterSeparableBorderSpec>(memory));
+      return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), size, divisor, kType, kType, kCount,
+                                               int(rounding), record<QvpiFilterSeparableBorderSpec>(memory));
     });
     return filter;
   }
   /** The same of floats. */
-  static Filter separable(std::span<const Qvp32f> row, std::span<const Qvp32f> column, RoundMode rounding = RoundMode::near) {
+  static Filter separable(std::span<const Qvp32f> row, std::span<const Qvp32f> column,
+                          RoundMode rounding = RoundMode::near) {
     const QvpiSize size = {int(row.size()), int(column.size())};
     Filter filter(size, &separable_size<qvp32f>, &run<QvpiFilterSeparableBorderSpec>);
     filter.prepare([&](Qvp8u* memory) {
@@ -166,8 +170,9 @@ class Filter : public Recorded {
   static QvpStatus run(In<T, kChannels> src, Out<T, kChannels> dst, QvpiBorderType border, const T* value,
                        const Qvp8u* memory, Qvp8u* work) {
     const auto* spec = reinterpret_cast<const Spec*>(memory);
-    static_assert(requires { calls::filter(src, dst, border, value, spec, work); },
-                  "qvp::Filter: kernels and Gauss are for 8u, 16u, 16s and 32f, the bilateral one for 8u, 16u and 32f");
+    static_assert(
+        requires { calls::filter(src, dst, border, value, spec, work); },
+        "qvp::Filter: kernels and Gauss are for 8u, 16u, 16s and 32f, the bilateral one for 8u, 16u and 32f");
     return calls::filter(src, dst, border, value, spec, work);
   }
   static QvpStatus run_erode(In<T, kChannels> src, Out<T, kChannels> dst, QvpiBorderType border, const T* value,

@@ -9,7 +9,7 @@
 
 namespace qvp {
 
-/** By what a transform of N pixels divides; each but `none` gives the image back when it is transformed there and back. */
+/** By what a transform of N pixels divides; with each but `none`, there and back gives the image again. */
 enum class FourierNorm : int {
   forward = 1,  /**< N forward */
   backward = 2, /**< N back */
@@ -42,7 +42,7 @@ struct FourierRecord<Qvp32fc> {
 
 namespace qvp::inline QVP_ERRORS {
 
-/** Transforms images of one size: `Fourier<Qvp32f> f(image.size()); f.forward(image, spectrum); f.inverse(spectrum, image);`
+/** Transforms images of one size: `Fourier<Qvp32f> f(image.size()); f.forward(image, spectrum);`
  *
  *  32f of 1, 3 and 4 channels has packed spectra of its own size, for multiply_packed() and others; 32fc of one channel
  *  complex ones. Any size will do. An image may be transformed in place.
@@ -60,16 +60,22 @@ class Fourier : public Recorded {
   Status forward(In<T, kChannels> src, Out<T, kChannels> dst) { return forward(src, dst, own_); }
   Status forward(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {
     return run(src, dst, buffer, [&](Qvp8u* work) {
-      if constexpr (kIsReal) return calls::dft_fwd_r_to_pack(src, dst, spec(), work);
-      else return calls::dft_fwd_c_to_c(src, dst, spec(), work);
+      if constexpr (kIsReal) {
+        return calls::dft_fwd_r_to_pack(src, dst, spec(), work);
+      } else {
+        return calls::dft_fwd_c_to_c(src, dst, spec(), work);
+      }
     });
   }
 
   Status inverse(In<T, kChannels> src, Out<T, kChannels> dst) { return inverse(src, dst, own_); }
   Status inverse(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {
     return run(src, dst, buffer, [&](Qvp8u* work) {
-      if constexpr (kIsReal) return calls::dft_inv_pack_to_r(src, dst, spec(), work);
-      else return calls::dft_inv_c_to_c(src, dst, spec(), work);
+      if constexpr (kIsReal) {
+        return calls::dft_inv_pack_to_r(src, dst, spec(), work);
+      } else {
+        return calls::dft_inv_c_to_c(src, dst, spec(), work);
+      }
     });
   }
 

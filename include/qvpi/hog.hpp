@@ -11,7 +11,7 @@
 
 namespace qvp::inline QVP_ERRORS {
 
-/** Describes windows of images by their gradients: `Hog h(config); std::vector<Qvp32f> d(h.length()); h(image, places, d);` */
+/** Describes windows of images by their gradients: `Hog hog(config); hog(image, places, descriptors);` */
 class Hog : public Recorded {
  public:
   explicit Hog(const QvpiHOGConfig& config) : config_(config) { made(prepare()); }
@@ -21,8 +21,8 @@ class Hog : public Recorded {
 
   /** The descriptors of the windows with these first pixels, one after the other.
    *
-   *  8u, 16u, 16s and 32f of 1 and 3 channels. Windows that do not lie within the whole blocks of the image are left out,
-   *  and the next descriptor takes their place. Too few places for the numbers are refused with qvpStatusSize.
+   *  8u, 16u, 16s and 32f of 1 and 3 channels. Windows that do not lie within the whole blocks of the image are left
+   *  out, and the next descriptor takes their place. Too few places for the numbers are refused with qvpStatusSize.
    */
   template <detail::HasPixels Source>
   Status operator()(const Source& src, std::span<const QvpiPoint> windows, std::span<Qvp32f> descriptors,
@@ -35,16 +35,17 @@ class Hog : public Recorded {
     const auto view = detail::view_of(src);
     using T = typename decltype(view)::Number;
     using Pixels = In<T, decltype(view)::layout>;
-    static_assert(requires(Pixels pixels) { calls::hog(pixels, {}, 0, {}, {}, 0, {}, {}); },
-                  "qvp::Hog is for 8u, 16u, 16s and 32f with 1 and 3 channels");
+    static_assert(
+        requires(Pixels pixels) { calls::hog(pixels, {}, 0, {}, {}, 0, {}, {}); },
+        "qvp::Hog is for 8u, 16u, 16s and 32f with 1 and 3 channels");
     const QvpStatus status = ready(length_ > 0 && !windows.empty() && descriptors.size() / length_ >= windows.size());
     if (status < 0) return detail::finish(status);
     const Pixel<T, 4> black = {};
     return detail::finish(detail::call_with(
         buffer, [&](int* bytes) { return qvpiHOGGetBufferSize(record(), view.size(), bytes); },
         [&](Qvp8u* work) {
-          return calls::hog(Pixels(view), windows.data(), int(windows.size()), descriptors.data(), record(), int(border),
-                            black.data(), work);
+          return calls::hog(Pixels(view), windows.data(), int(windows.size()), descriptors.data(), record(),
+                            int(border), black.data(), work);
         }));
   }
 

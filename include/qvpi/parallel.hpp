@@ -2,8 +2,8 @@
  *  Calls on all cores, by parts of their images. Results are those of one thread, to the bit.
  *
  *  Threads are those of an engine: a function object for which `engine(n, task)` calls task(0) to task(n - 1), in any
- *  order and on any threads, and returns when all have returned. That of oneTBB is there if its headers are, and programs
- *  then link it; others are a few lines:
+ *  order and on any threads, and returns when all have returned. That of oneTBB is there if its headers are, and
+ *  programs then link it; others are a few lines:
  *
  *  @code
  *    auto openmp = [](int n, const auto& task) {
@@ -75,7 +75,7 @@ namespace qvp::inline QVP_ERRORS {
 
 namespace detail {
 
-// What the parts of a call returned: the least error, else the greatest warning, whatever their order; or what they threw.
+// What the parts of a call returned: the least error, else the greatest warning; or what one of them threw.
 class Outcome {
  public:
   // False: something failed, and no more parts are wanted.
@@ -103,8 +103,7 @@ class Outcome {
  private:
   void add(QvpStatus status) {
     QvpStatus known = status_;
-    while (known != worse(known, status) && !status_.compare_exchange_weak(known, worse(known, status))) {
-    }
+    while (known != worse(known, status) && !status_.compare_exchange_weak(known, worse(known, status))) {}
   }
 
   static QvpStatus worse(QvpStatus a, QvpStatus b) { return std::min(a, b) < 0 ? std::min(a, b) : std::max(a, b); }
@@ -118,8 +117,8 @@ class Outcome {
 
 /** Calls by parts of images, on the threads of an engine.
  *
- *  Parts are as large as caches like them, and as many as there are workers if the images are worth it. Each worker
- *  has a buffer of its own. An exception, or an error status, of any part is that of the call; parts that were begun are
+ *  Parts are as large as caches like them, and as many as there are workers if the images are worth it. Each worker has
+ *  a buffer of its own. An exception, or an error status, of any part is that of the call; parts that were begun are
  *  then finished, and the others are not made.
  */
 template <class Engine = DefaultEngine>
@@ -139,9 +138,9 @@ class Parallel {
     return rows_of(operation, detail::view_of(images)...);
   }
 
-  /** Calls `operation(src, dst, sides, buffer)` with parts of rows, of filters that look at most `reach` rows up and down:
-   *  `median(src, dst, {5, 5}, buffer, BorderType::replicate | sides)` has a reach of 5. The sides are those in memory.
-   */
+  /** Calls `operation(src, dst, sides, buffer)` with parts of rows, of filters that look at most `reach` rows up and
+   *  down: `median(src, dst, {5, 5}, buffer, BorderType::replicate | sides)` has a reach of 5. The sides are those in
+   *  memory. */
   template <class Operation, detail::HasPixels Source, detail::HasPixels Destination>
   Status around(int reach, const Operation& operation, const Source& source, Destination&& destination) const {
     const auto src = detail::view_of(source);
@@ -179,7 +178,7 @@ class Parallel {
   }
 
  private:
-  static constexpr int kPartBytes = 1 << 18;  // a share of the second-level cache
+  static constexpr int kPartBytes = 1 << 18;   // a share of the second-level cache
   static constexpr int kLeastBytes = 1 << 16;  // below this, waking a thread takes longer
   static constexpr int kTileWidth = 512;
   static constexpr int kPartsOfWorker = 4;
@@ -198,8 +197,8 @@ class Parallel {
     return step < 0 ? -step : step;
   }
 
-  // For what reads its source more than once: parts of `least` rows, which fit the cache, or of `parts` for each worker if
-  // those are fewer: what a part begins with costs, too.
+  // For what reads its source more than once: parts of `least` rows, which fit the cache, or of `parts` for each worker
+  // if those are fewer: what a part begins with costs, too.
   detail::Cut strips(int height, long long bytes, int least, int parts) const {
     if (workers_ == 1) return {height, 1};
     const long long rows_of_part = height / (1LL * parts * workers_), cached = kPartBytes / std::max(bytes, 1LL);
@@ -208,7 +207,7 @@ class Parallel {
     return {height, static_cast<int>(std::max<long long>(1, height / std::max<long long>({1, least, rows})))};
   }
 
-  // For what reads each pixel once: a part for each worker, so that large ones are stored past the caches as the whole is.
+  // For what reads each pixel once: a part for each worker, which if large is stored past the caches as the whole is.
   detail::Cut shares(int height, long long bytes) const {
     const long long worthwhile = bytes * height / kLeastBytes;
     return {height, static_cast<int>(std::clamp<long long>(worthwhile, 1, std::min(workers_, std::max(height, 1))))};
@@ -242,8 +241,7 @@ class Parallel {
     std::atomic<int> next = 0;
     const auto worker = [&](int) {
       Buffer buffer;
-      for (int i = next++; i < count && outcome.take([&] { return Status(work(i, buffer)); }); i = next++) {
-      }
+      for (int i = next++; i < count && outcome.take([&] { return Status(work(i, buffer)); }); i = next++) {}
     };
     const int tasks = std::min(count, workers_);
     if (tasks == 1) {

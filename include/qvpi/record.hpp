@@ -43,9 +43,9 @@ namespace qvp::inline QVP_ERRORS {
 
 /** The base of the classes that keep a record. They can be moved and not copied.
  *
- *  A constructor throws if its arguments are refused. Without exceptions status() tells, and every call of the object is
- *  refused. A call whose last argument is a Buffer works in that one and is constant: any number of threads may share
- *  the object, each with a buffer of its own. Calls without use one that the object has.
+ *  A constructor throws if its arguments are refused. Without exceptions status() tells, and every call of the object
+ *  is refused. A call whose last argument is a Buffer works in that one and is constant: any number of threads may
+ *  share the object, each with a buffer of its own. Calls without use one that the object has.
  */
 class Recorded {
  public:
@@ -67,9 +67,7 @@ class Recorded {
   }
 
   /** A status for a call: that of the record comes first. */
-  QvpStatus ready(bool sizes_fit) const {
-    return status_ < 0 ? status_ : sizes_fit ? qvpStatusNoError : qvpStatusSize;
-  }
+  QvpStatus ready(bool sizes_fit) const { return status_ < 0 ? status_ : sizes_fit ? qvpStatusNoError : qvpStatusSize; }
 
   template <class Spec>
   Spec* spec() const {

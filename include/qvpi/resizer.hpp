@@ -13,17 +13,18 @@ namespace qvp {
 struct ResizeOptions {
   /** nearest, linear, cubic, lanczos, or super: the mean over the area of a pixel, for reductions. */
   InterpolationType method = InterpolationType::linear;
-  bool antialias = false;                       /**< kernels widened so that every source pixel counts */
-  BorderType border = BorderType::replicate;    /**< beyond the source: replicate or mirror */
-  Qvp32f b = 0, c = 0.5F;                       /**< cubic: the parameters of Mitchell and Netravali's kernel */
-  int lobes = 3;                                /**< Lanczos: 2 or 3 */
-  bool accurate = false;  /**< 8u in single precision, instead of 16-bit weights */
+  bool antialias = false;                    /**< kernels widened so that every source pixel counts */
+  BorderType border = BorderType::replicate; /**< beyond the source: replicate or mirror */
+  Qvp32f b = 0, c = 0.5F;                    /**< cubic: the parameters of Mitchell and Netravali's kernel */
+  int lobes = 3;                             /**< Lanczos: 2 or 3 */
+  bool accurate = false;                     /**< 8u in single precision, instead of 16-bit weights */
 };
 
 namespace detail {
 
 template <class T>
-QvpStatus init_antialiased(QvpiSize src, QvpiSize dst, const ResizeOptions& options, QvpiResizeSpec* spec, Qvp8u* init) {
+QvpStatus init_antialiased(QvpiSize src, QvpiSize dst, const ResizeOptions& options, QvpiResizeSpec* spec,
+                           Qvp8u* init) {
   switch (options.method) {
     case InterpolationType::linear: return qvpiResizeAntialiasingLinearInit(src, dst, spec, init);
     case InterpolationType::cubic: return qvpiResizeAntialiasingCubicInit(src, dst, options.b, options.c, spec, init);
@@ -37,14 +38,15 @@ QvpStatus init_antialiased(QvpiSize src, QvpiSize dst, const ResizeOptions& opti
 
 namespace qvp::inline QVP_ERRORS {
 
-/** Resizes images of one size to another: `Resizer<Qvp8u, 3> r(src.size(), dst.size(), {.antialias = true}); r(src, dst);`
+/** Resizes images of one size to another: `Resizer<Qvp8u, 3> resizer(src.size(), dst.size()); resizer(src, dst);`
  *
  *  8u, 16u, 16s and 32f, and 64f by linear interpolation, of 1, 3 and 4 channels. Results are the same by tiles.
  */
 template <class T, int kChannels = 1>
 class Resizer : public Recorded {
-  static_assert(requires(In<T, kChannels> a, Out<T, kChannels> b) { calls::resize_linear(a, b, {}, 0, {}, {}, {}); },
-                "qvp::Resizer is for 8u, 16u, 16s, 32f and 64f with 1, 3 and 4 channels");
+  static_assert(
+      requires(In<T, kChannels> a, Out<T, kChannels> b) { calls::resize_linear(a, b, {}, 0, {}, {}, {}); },
+      "qvp::Resizer is for 8u, 16u, 16s, 32f and 64f with 1, 3 and 4 channels");
 
  public:
   Resizer(QvpiSize src, QvpiSize dst, const ResizeOptions& options = {}) : src_(src), dst_(dst), options_(options) {
@@ -64,14 +66,17 @@ class Resizer : public Recorded {
 
   /** A tile of the destination whose first pixel is at `offset`, from the whole source. */
   Status tile(In<T, kChannels> src, Out<T, kChannels> dst, QvpiPoint offset, Buffer& buffer) const {
-    QvpStatus status = ready(detail::has_size(src, src_) && Rows(0, dst_).contains({offset.x, offset.y, dst.width(), dst.height()}));
+    QvpStatus status =
+        ready(detail::has_size(src, src_) && Rows(0, dst_).contains({offset.x, offset.y, dst.width(), dst.height()}));
     QvpiPoint first = {0, 0};
     if (status >= 0) status = calls::resize_get_src_offset(Of<T>(), spec(), offset, &first);
     if (status < 0) return detail::finish(status);
     const In<T, kChannels> from(src.at(first.x, first.y), src.step(), src.size());
     return detail::finish(detail::call_with(
         buffer,
-        [&](int* bytes) { return calls::resize_get_buffer_size(Of<T>(), spec(), dst.size(), pixel_stride(kChannels), bytes); },
+        [&](int* bytes) {
+          return calls::resize_get_buffer_size(Of<T>(), spec(), dst.size(), pixel_stride(kChannels), bytes);
+        },
         [&](Qvp8u* work) { return run(from, dst, offset, work); }));
   }
 
@@ -94,7 +99,8 @@ class Resizer : public Recorded {
 
   // The methods that only move pixels or take means have one way of computing.
   bool is_switched() const {
-    return options_.accurate && options_.method != InterpolationType::nearest && options_.method != InterpolationType::super;
+    return options_.accurate && options_.method != InterpolationType::nearest &&
+           options_.method != InterpolationType::super;
   }
 
   QvpStatus init_plain(Spec* made, Qvp8u* temporary) {

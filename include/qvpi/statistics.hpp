@@ -18,8 +18,9 @@ namespace qvp::inline QVP_ERRORS {
  */
 template <class T, int kChannels = 1>
 class Histogram : public Recorded {
-  static_assert(requires(In<T, kChannels> view) { calls::histogram(view, {}, {}, {}); },
-                "qvp::Histogram is for 8u, 16u, 16s and 32f with 1, 3 and 4 channels");
+  static_assert(
+      requires(In<T, kChannels> view) { calls::histogram(view, {}, {}, {}); },
+      "qvp::Histogram is for 8u, 16u, 16s and 32f with 1, 3 and 4 channels");
 
  public:
   Histogram(int bins, Qvp32f low, Qvp32f high) : bins_(bins) {
@@ -51,8 +52,8 @@ class Histogram : public Recorded {
 
   QvpStatus size(QvpiSize image, int* buffer, int* record = nullptr) const {
     int unused = 0;
-    return qvpiHistogramGetBufferSize(detail::kDataType<T>, image, levels_.data(), kChannels, 1, record ? record : &unused,
-                                      buffer);
+    return qvpiHistogramGetBufferSize(detail::kDataType<T>, image, levels_.data(), kChannels, 1,
+                                      record ? record : &unused, buffer);
   }
 
   QvpStatus prepare(Qvp32f low, Qvp32f high) {
@@ -83,8 +84,9 @@ class Moments : public Recorded {
   explicit Moments(const Source& src, HintAlgorithm hint = HintAlgorithm::fast) {
     const auto view = detail::view_of(src);
     using Pixels = In<typename decltype(view)::Number, decltype(view)::layout>;
-    static_assert(requires(Pixels pixels) { calls::moments64f(pixels, nullptr); },
-                  "qvp::Moments is for 8u, 16u and 32f with 1, 3 and 4 channels");
+    static_assert(
+        requires(Pixels pixels) { calls::moments64f(pixels, nullptr); },
+        "qvp::Moments is for 8u, 16u and 32f with 1, 3 and 4 channels");
     made(prepare(hint, [&](State* state) { return calls::moments64f(Pixels(view), state); }));
   }
 

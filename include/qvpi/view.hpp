@@ -16,9 +16,9 @@ namespace qvp {
 /** @name Layouts
  *  The second parameter of images and views: a number of interleaved channels, or one of these.
  *  @{ */
-inline constexpr int AC4 = -4;      /**< four channels, of which operations take the first three: alpha stays */
-inline constexpr int OneOf3 = 103;  /**< one channel in an image of three */
-inline constexpr int OneOf4 = 104;  /**< one channel in an image of four */
+inline constexpr int AC4 = -4;     /**< four channels, of which operations take the first three: alpha stays */
+inline constexpr int OneOf3 = 103; /**< one channel in an image of three */
+inline constexpr int OneOf4 = 104; /**< one channel in an image of four */
 /** @} */
 
 /** Numbers from one pixel of a layout to the next. */
@@ -54,8 +54,8 @@ class Rows {
 
 /** A rectangle of pixels in memory that something else owns; as cheap to pass on as a pointer.
  *
- *  `View<const T>` only reads, and every view becomes one. Where an argument below does not suit, the view is empty, and
- *  every function refuses it.
+ *  `View<const T>` only reads, and every view becomes one. Where an argument below does not suit, the view is empty,
+ *  and every function refuses it.
  *
  *  @tparam T type of the numbers, such as Qvp8u or const Qvp8u
  *  @tparam kLayout channels of a pixel, or a layout from above
@@ -79,11 +79,7 @@ class View : public Rows {
       : View(fits(numbers.size_bytes(), step, size) ? View(numbers.data(), step, size) : View()) {}
   constexpr View(std::span<T> numbers, QvpiSize size) : View(numbers, size.width * kPixelBytes, size) {}
 
-  constexpr operator View<const T, kLayout>() const
-    requires(!std::is_const_v<T>)
-  {
-    return {data_, step(), size()};
-  }
+  constexpr operator View<const T, kLayout>() const requires(!std::is_const_v<T>) { return {data_, step(), size()}; }
 
   constexpr T* data() const { return data_; }
 
@@ -102,17 +98,12 @@ class View : public Rows {
   }
 
   /** The same pixels without their alpha, which operations then leave as it is. */
-  constexpr View<T, AC4> colors() const
-    requires(kLayout == 4)
-  {
-    return {data_, step(), size()};
-  }
+  constexpr View<T, AC4> colors() const requires(kLayout == 4) { return {data_, step(), size()}; }
 
   /** One channel, counted from 0. Copying and filling take these. */
-  constexpr View<T, 100 + kLayout> channel(int index) const
-    requires(kLayout == 3 || kLayout == 4)
-  {
-    return index < 0 || index >= kLayout ? View<T, 100 + kLayout>() : View<T, 100 + kLayout>(data_ + index, step(), size());
+  constexpr View<T, 100 + kLayout> channel(int index) const requires(kLayout == 3 || kLayout == 4) {
+    return index < 0 || index >= kLayout ? View<T, 100 + kLayout>()
+                                         : View<T, 100 + kLayout>(data_ + index, step(), size());
   }
 
  private:
@@ -149,9 +140,7 @@ class PlanarView : public Rows {
   /** From planes one above the other; an empty view if the height is no multiple of their number. */
   explicit PlanarView(View<T> stack) : PlanarView(cut(stack)) {}
 
-  constexpr operator PlanarView<const T, kPlanes>() const
-    requires(!std::is_const_v<T>)
-  {
+  constexpr operator PlanarView<const T, kPlanes>() const requires(!std::is_const_v<T>) {
     std::array<View<const T>, kPlanes> planes;
     for (int i = 0; i < kPlanes; ++i) planes[i] = plane(i);
     return PlanarView<const T, kPlanes>(planes);

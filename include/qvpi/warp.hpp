@@ -14,12 +14,12 @@ using Quad = Matrix<4, 2>;
 
 /** How an image is warped. */
 struct WarpOptions {
-  InterpolationType method = InterpolationType::linear;    /**< nearest, linear or cubic */
-  WarpDirection direction = WarpDirection::forward;        /**< which way the matrix maps */
-  BorderType border = BorderType::constant;                /**< constant, replicate, or transparent */
-  std::array<double, 4> value = {};                        /**< what is outside, of each channel: constant */
-  bool smooth_edge = false;                                /**< edges blend into the destination's pixels */
-  double b = 0, c = 0.5;                                   /**< cubic: the parameters of the kernel */
+  InterpolationType method = InterpolationType::linear; /**< nearest, linear or cubic */
+  WarpDirection direction = WarpDirection::forward;     /**< which way the matrix maps */
+  BorderType border = BorderType::constant;             /**< constant, replicate, or transparent */
+  std::array<double, 4> value = {};                     /**< what is outside, of each channel: constant */
+  bool smooth_edge = false;                             /**< edges blend into the destination's pixels */
+  double b = 0, c = 0.5;                                /**< cubic: the parameters of the kernel */
 };
 
 }  // namespace qvp
@@ -41,7 +41,8 @@ double (*rows(Matrix<kRows, kColumns>& matrix))[kColumns] {
 }  // namespace detail
 
 /** Turns by degrees counter-clockwise, makes larger by `scale`, and takes the point `from` to the point `to`. */
-inline Result<Matrix<2, 3>> rotation(double angle, std::array<double, 2> from, std::array<double, 2> to, double scale = 1) {
+inline Result<Matrix<2, 3>> rotation(double angle, std::array<double, 2> from, std::array<double, 2> to,
+                                     double scale = 1) {
   Matrix<2, 3> matrix = {};
   const QvpStatus status =
       qvpiGetRotateScaleTransform(from[0], from[1], to[0], to[1], angle, scale, detail::rows<2, 3>(matrix));
@@ -71,8 +72,9 @@ inline Result<Matrix<3, 3>> perspective_transform(const Quad& from, const Quad& 
  */
 template <class T, int kChannels = 1>
 class Warp : public Recorded {
-  static_assert(requires(In<T, kChannels> a, Out<T, kChannels> b) { calls::warp_affine_linear(a, b, {}, {}, {}); },
-                "qvp::Warp is for 8u, 16u, 16s, 32f and 64f with 1, 3 and 4 channels");
+  static_assert(
+      requires(In<T, kChannels> a, Out<T, kChannels> b) { calls::warp_affine_linear(a, b, {}, {}, {}); },
+      "qvp::Warp is for 8u, 16u, 16s, 32f and 64f with 1, 3 and 4 channels");
 
  public:
   Warp(QvpiSize src, QvpiSize dst, const Matrix<2, 3>& matrix, const WarpOptions& options = {})
@@ -118,8 +120,12 @@ class Warp : public Recorded {
     return Kind{[=](int method, int* record, int* init) {
                   return qvpiWarpAffineGetSize(src, dst, kType, matrix, method, way, border, record, init);
                 },
-                [=](auto... rest) { return qvpiWarpAffineNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...); },
-                [=](auto... rest) { return qvpiWarpAffineLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...); },
+                [=](auto... rest) {
+                  return qvpiWarpAffineNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...);
+                },
+                [=](auto... rest) {
+                  return qvpiWarpAffineLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...);
+                },
                 [=, b = with.b, c = with.c](auto... rest) {
                   return qvpiWarpAffineCubicInit(src, dst, kType, matrix, way, kChannels, b, c, border, rest...);
                 }};
@@ -129,8 +135,12 @@ class Warp : public Recorded {
     return Kind{[=](int method, int* record, int* init) {
                   return qvpiWarpPerspectiveGetSize(src, dst, kType, matrix, method, way, border, record, init);
                 },
-                [=](auto... rest) { return qvpiWarpPerspectiveNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...); },
-                [=](auto... rest) { return qvpiWarpPerspectiveLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...); },
+                [=](auto... rest) {
+                  return qvpiWarpPerspectiveNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...);
+                },
+                [=](auto... rest) {
+                  return qvpiWarpPerspectiveLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...);
+                },
                 [=, b = with.b, c = with.c](auto... rest) {
                   return qvpiWarpPerspectiveCubicInit(src, dst, kType, matrix, way, kChannels, b, c, border, rest...);
                 }};

@@ -32,7 +32,8 @@ def main():
         names = [name.removeprefix("cpp_") for name in found if name.startswith("cpp_")]
         require(len(names) >= 2, "found only", names)
         for name in names:
-            require(found[f"cpp_{name}"] == found[f"c_{name}"], name, *found[f"cpp_{name}"], "is not", *found[f"c_{name}"])
+            cpp, c = found[f"cpp_{name}"], found[f"c_{name}"]
+            require(cpp == c, name, *cpp, "is not", *c)
 
 
 if __name__ == "__main__":
