@@ -136,11 +136,11 @@ def part(name, text, functions):
         keep_apart(group)
     sentences = summaries(text)
     body = ['#include "qvpi.h"\n#include "qvpi/call.hpp"\n\n',
-            "namespace qvp::inline QVP_ERRORS {\n\nnamespace forms {\n\n"]
+            "namespace qvp {\ninline namespace QVP_ERRORS {\n\nnamespace forms {\n\n"]
     body += [form.definition() for group in forms.values() for form in group]
     body += ["\n}  // namespace forms\n\nnamespace calls {\n\n", *(call.definition() for call in calls)]
     body += ["\n}  // namespace calls\n\n", *(public(each, group, sentences) for each, group in forms.items())]
-    return GUARD.format(name.upper(), "".join(body) + "}  // namespace qvp::inline QVP_ERRORS\n"), forms
+    return GUARD.format(name.upper(), "".join(body) + "}  // namespace QVP_ERRORS\n}  // namespace qvp\n"), forms
 
 
 def check(parts):

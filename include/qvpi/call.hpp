@@ -84,9 +84,7 @@ constexpr QvpiSize matched(MatchShape shape, QvpiSize image, QvpiSize part) {
 
 }  // namespace detail
 
-}  // namespace qvp
-
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 namespace forms {
 using namespace detail;
@@ -95,6 +93,7 @@ namespace calls {
 using namespace detail;
 }  // namespace calls
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -23,7 +23,8 @@
 #endif
 
 /** Programs may have sources of both kinds: the namespace keeps their functions apart. */
-namespace qvp::inline QVP_ERRORS {
+namespace qvp {
+inline namespace QVP_ERRORS {
 
 /** What a call without a value returns. */
 class QVP_LOOK_AT Status {
@@ -107,6 +108,7 @@ constexpr Result<Value> finish(QvpStatus status, const Value& value) {
 
 #endif
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -10,7 +10,8 @@
 #include "qvpi/operations/filter.hpp"
 #include "qvpi/record.hpp"
 
-namespace qvp::inline QVP_ERRORS {
+namespace qvp {
+inline namespace QVP_ERRORS {
 
 /** A filter for images of any size: `auto blur = Filter<Qvp8u, 3>::gauss({9, 9}, 1.5); blur(src, dst);`
  *
@@ -191,6 +192,7 @@ class Filter : public Recorded {
   Run run_;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -38,9 +38,8 @@ struct FourierRecord<Qvp32fc> {
 };
 
 }  // namespace detail
-}  // namespace qvp
 
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 /** Transforms images of one size: `Fourier<Qvp32f> f(image.size()); f.forward(image, spectrum);`
  *
@@ -104,6 +103,7 @@ class Fourier : public Recorded {
   int work_bytes_ = 0;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

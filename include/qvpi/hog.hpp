@@ -9,7 +9,8 @@
 #include "qvpi/operations/feature.hpp"
 #include "qvpi/record.hpp"
 
-namespace qvp::inline QVP_ERRORS {
+namespace qvp {
+inline namespace QVP_ERRORS {
 
 /** Describes windows of images by their gradients: `Hog hog(config); hog(image, places, descriptors);` */
 class Hog : public Recorded {
@@ -70,6 +71,7 @@ class Hog : public Recorded {
   int length_ = 0;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

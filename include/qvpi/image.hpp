@@ -10,7 +10,8 @@
 #include "qvpi/error.hpp"
 #include "qvpi/view.hpp"
 
-namespace qvp::inline QVP_ERRORS {
+namespace qvp {
+inline namespace QVP_ERRORS {
 
 namespace detail {
 
@@ -107,6 +108,7 @@ class Image {
   Rows rows_;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -69,9 +69,8 @@ struct Cut {
 };
 
 }  // namespace detail
-}  // namespace qvp
 
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 namespace detail {
 
@@ -256,6 +255,7 @@ class Parallel {
   int workers_;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -37,9 +37,8 @@ QvpStatus call_with(Buffer& buffer, Query query, Call call) {
 }
 
 }  // namespace detail
-}  // namespace qvp
 
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 /** The base of the classes that keep a record. They can be moved and not copied.
  *
@@ -81,6 +80,7 @@ class Recorded {
   QvpStatus status_ = qvpStatusContextMatch;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

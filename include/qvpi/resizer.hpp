@@ -34,9 +34,8 @@ QvpStatus init_antialiased(QvpiSize src, QvpiSize dst, const ResizeOptions& opti
 }
 
 }  // namespace detail
-}  // namespace qvp
 
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 /** Resizes images of one size to another: `Resizer<Qvp8u, 3> resizer(src.size(), dst.size()); resizer(src, dst);`
  *
@@ -152,6 +151,7 @@ Status resize(const Source& src, Destination&& dst, const ResizeOptions& options
   return resizer(src, to);
 }
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

@@ -9,7 +9,8 @@
 #include "qvpi/operations/stats.hpp"
 #include "qvpi/record.hpp"
 
-namespace qvp::inline QVP_ERRORS {
+namespace qvp {
+inline namespace QVP_ERRORS {
 
 /** Counts pixels by bins of equal width: `Histogram<Qvp8u> h(256, 0, 256); h(image); h.counts()[17];`
  *
@@ -133,6 +134,7 @@ class Moments : public Recorded {
   }
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif

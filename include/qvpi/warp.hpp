@@ -22,9 +22,7 @@ struct WarpOptions {
   double b = 0, c = 0.5;                                /**< cubic: the parameters of the kernel */
 };
 
-}  // namespace qvp
-
-namespace qvp::inline QVP_ERRORS {
+inline namespace QVP_ERRORS {
 
 namespace detail {
 
@@ -187,6 +185,7 @@ class Warp : public Recorded {
   Run run_;
 };
 
-}  // namespace qvp::inline QVP_ERRORS
+}  // namespace QVP_ERRORS
+}  // namespace qvp
 
 #endif
