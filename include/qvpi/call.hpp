@@ -68,7 +68,8 @@ constexpr QvpiSize turned(QvpiSize size, int turns) { return turns % 2 != 0 ? tr
 
 // Coefficients of blocks of 8 x 8 pixels: a row of them for eight rows.
 constexpr QvpiSize blocks(QvpiSize size) {
-  return {64 * (size.width / 8 + (size.width % 8 != 0)), size.height / 8 + (size.height % 8 != 0)};
+  const int across = size.width / 8 + (size.width % 8 != 0);
+  return {across > 0x7FFFFFFF / 64 ? -1 : 64 * across, size.height / 8 + (size.height % 8 != 0)};
 }
 
 // Of convolutions. What is no int is not the size of an image, and so refused.

@@ -72,12 +72,12 @@ class View : public Rows {
   constexpr View(T* data, int step, QvpiSize size) : Rows(step, size), data_(data) {}
 
   /** Rows without gaps. */
-  constexpr View(T* data, QvpiSize size) : View(data, size.width * kPixelBytes, size) {}
+  constexpr View(T* data, QvpiSize size) : View(data, packed_step(size), size) {}
 
   /** Rows that start `step` bytes after one another, all of them within the span, or rows without gaps. */
   constexpr View(std::span<T> numbers, int step, QvpiSize size)
       : View(fits(numbers.size_bytes(), step, size) ? View(numbers.data(), step, size) : View()) {}
-  constexpr View(std::span<T> numbers, QvpiSize size) : View(numbers, size.width * kPixelBytes, size) {}
+  constexpr View(std::span<T> numbers, QvpiSize size) : View(numbers, packed_step(size), size) {}
 
   constexpr operator View<const T, kLayout>() const requires(!std::is_const_v<T>) { return {data_, step(), size()}; }
 
@@ -109,6 +109,11 @@ class View : public Rows {
  private:
   static constexpr int kStride = pixel_stride(kLayout);
   static constexpr int kPixelBytes = kStride * static_cast<int>(sizeof(T));
+
+  // 0, which no function takes, where a row is longer than a step can tell.
+  static constexpr int packed_step(QvpiSize size) {
+    return size.width < 0 || size.width > 0x7FFFFFFF / kPixelBytes ? 0 : size.width * kPixelBytes;
+  }
 
   static constexpr bool fits(std::size_t bytes, int step, QvpiSize size) {
     if (size.width < 1 || size.height < 1) return false;

@@ -41,6 +41,7 @@ TEST(View, IsEmptyWhereAPartOrASpanDoesNotHoldIt) {
     EXPECT_TRUE(none.empty());
     EXPECT_EQ(none.data(), nullptr);
   }
+  EXPECT_EQ((View<Qvp32f, 3>(nullptr, {0x7FFFFFFF, 1}).step()), 0);
 }
 
 TEST(View, PlanesAreAlikeOrNone) {
