@@ -12,13 +12,18 @@
  *  not see that they are the same: a source that has another size than the destination is refused with qvpStatusSize.
  *  Descriptions, and what is refused, are those of the C functions. Operands come before destinations, and selectors are
  *  enumerations. Errors are exceptions, or results; see error.hpp. Include a header of qvpi/operations/ for less.
+ *
+ *  Left to C are volumes, video frames, images of one bit, `_L` sizes, and what has a record but no class here: wavelets,
+ *  deconvolution, the least-squares filter, bilinear warps.
  */
 #ifndef QVPI_HPP
 #define QVPI_HPP
 
+#include "qvpi/curve.hpp"
 #include "qvpi/filter.hpp"
 #include "qvpi/fourier.hpp"
 #include "qvpi/hog.hpp"
+#include "qvpi/noise.hpp"
 #include "qvpi/operations/arith.hpp"
 #include "qvpi/operations/core.hpp"
 #include "qvpi/resizer.hpp"

@@ -1,5 +1,5 @@
 /** @file fourier.hpp
- *  Fourier transforms of images.
+ *  Fourier and cosine transforms of images.
  */
 #ifndef QVPI_FOURIER_HPP
 #define QVPI_FOURIER_HPP
@@ -17,78 +17,63 @@ enum class FourierNorm : int {
   none = 8,     /**< nothing */
 };
 
+inline namespace QVP_ERRORS {
+
 namespace detail {
 
-// The record of images of a pixel type, and the functions that make it.
-template <class T>
-struct FourierRecord;
-
-template <>
-struct FourierRecord<Qvp32f> {
+// The functions of each kind of transform.
+struct RealFourier {
   using Spec = QvpiDFTSpec_R_32f;
   static constexpr auto size = &qvpiDFTGetSize_R_32f;
   static constexpr auto init = &qvpiDFTInit_R_32f;
+  static QvpStatus forward(auto... arguments) { return calls::dft_fwd_r_to_pack(arguments...); }
+  static QvpStatus inverse(auto... arguments) { return calls::dft_inv_pack_to_r(arguments...); }
 };
 
-template <>
-struct FourierRecord<Qvp32fc> {
+struct ComplexFourier {
   using Spec = QvpiDFTSpec_C_32fc;
   static constexpr auto size = &qvpiDFTGetSize_C_32fc;
   static constexpr auto init = &qvpiDFTInit_C_32fc;
+  static QvpStatus forward(auto... arguments) { return calls::dft_fwd_c_to_c(arguments...); }
+  static QvpStatus inverse(auto... arguments) { return calls::dft_inv_c_to_c(arguments...); }
+};
+
+struct RealCosine {
+  using Spec = QvpiDCTSpec_32f;
+  static constexpr auto size = &qvpiDCTGetSize_32f;
+  static constexpr auto init = &qvpiDCTInit_32f;
+  static QvpStatus forward(auto... arguments) { return calls::dct_fwd(arguments...); }
+  static QvpStatus inverse(auto... arguments) { return calls::dct_inv(arguments...); }
 };
 
 }  // namespace detail
 
-inline namespace QVP_ERRORS {
-
-/** Transforms images of one size: `Fourier<Qvp32f> f(image.size()); f.forward(image, spectrum);`
- *
- *  32f of 1, 3 and 4 channels has packed spectra of its own size, for multiply_packed() and others; 32fc of one channel
- *  complex ones. Any size will do. An image may be transformed in place.
- */
-template <class T, int kChannels = 1>
-class Fourier : public Recorded {
-  static constexpr bool kIsReal = std::is_same_v<T, Qvp32f>;
-  static_assert((kIsReal && (kChannels == 1 || kChannels == 3 || kChannels == 4)) ||
-                    (std::is_same_v<T, Qvp32fc> && kChannels == 1),
-                "qvp::Fourier is for 32f with 1, 3 and 4 channels, and for 32fc with one");
-
+/** Transforms images of one size, in place if that is wanted. The base of Fourier and Cosine. */
+template <class Functions, class T, int kChannels>
+class Transform : public Recorded {
  public:
-  explicit Fourier(QvpiSize size, FourierNorm norm = FourierNorm::backward) : size_(size) { made(prepare(int(norm))); }
+  Transform(QvpiSize size, FourierNorm norm) : size_(size) { made(prepare(int(norm))); }
 
   Status forward(In<T, kChannels> src, Out<T, kChannels> dst) { return forward(src, dst, own_); }
   Status forward(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {
-    return run(src, dst, buffer, [&](Qvp8u* work) {
-      if constexpr (kIsReal) {
-        return calls::dft_fwd_r_to_pack(src, dst, spec(), work);
-      } else {
-        return calls::dft_fwd_c_to_c(src, dst, spec(), work);
-      }
-    });
+    return run(src, dst, buffer, [&](Qvp8u* work) { return Functions::forward(src, dst, record(), work); });
   }
 
   Status inverse(In<T, kChannels> src, Out<T, kChannels> dst) { return inverse(src, dst, own_); }
   Status inverse(In<T, kChannels> src, Out<T, kChannels> dst, Buffer& buffer) const {
-    return run(src, dst, buffer, [&](Qvp8u* work) {
-      if constexpr (kIsReal) {
-        return calls::dft_inv_pack_to_r(src, dst, spec(), work);
-      } else {
-        return calls::dft_inv_c_to_c(src, dst, spec(), work);
-      }
-    });
+    return run(src, dst, buffer, [&](Qvp8u* work) { return Functions::inverse(src, dst, record(), work); });
   }
 
  private:
-  using Record = detail::FourierRecord<T>;
-  using Spec = typename Record::Spec;
-  Spec* spec() const { return Recorded::spec<Spec>(); }
+  using Spec = typename Functions::Spec;
+  const Spec* record() const { return spec<Spec>(); }
 
   QvpStatus prepare(int flag) {
-    int record = 0, init = 0;
-    const QvpStatus status = Record::size(size_, flag, qvpAlgHintFast, &record, &init, &work_bytes_);
+    int bytes = 0, init = 0;
+    const QvpStatus status = Functions::size(size_, flag, qvpAlgHintFast, &bytes, &init, &work_bytes_);
     if (status < 0) return status;
-    return make(record, init, [&](Qvp8u* memory, Qvp8u* temporary) {
-      return Record::init(size_, flag, qvpAlgHintFast, reinterpret_cast<Spec*>(memory), temporary);
+    return make(bytes, init, [&](Qvp8u* memory, Qvp8u* temporary) {
+      return Functions::init(size_, flag, qvpAlgHintFast, reinterpret_cast<Spec*>(memory), temporary);
     });
   }
 
@@ -101,6 +86,36 @@ class Fourier : public Recorded {
 
   QvpiSize size_;
   int work_bytes_ = 0;
+};
+
+/** The Fourier transform of images of one size: `Fourier<Qvp32f> f(image.size()); f.forward(image, spectrum);`
+ *
+ *  32f of 1, 3 and 4 channels has packed spectra of its own size, for multiply_packed() and others; 32fc of one channel
+ *  complex ones. Any size will do.
+ */
+template <class T, int kChannels = 1>
+class Fourier;
+
+template <int kChannels>
+class Fourier<Qvp32f, kChannels> : public Transform<detail::RealFourier, Qvp32f, kChannels> {
+ public:
+  explicit Fourier(QvpiSize size, FourierNorm norm = FourierNorm::backward)
+      : Transform<detail::RealFourier, Qvp32f, kChannels>(size, norm) {}
+};
+
+template <>
+class Fourier<Qvp32fc> : public Transform<detail::ComplexFourier, Qvp32fc, 1> {
+ public:
+  explicit Fourier(QvpiSize size, FourierNorm norm = FourierNorm::backward) : Transform(size, norm) {}
+};
+
+/** The cosine transform (DCT-II, and its inverse) of 32f images of one size, of 1, 3 and 4 channels; any size will do.
+ */
+template <int kChannels = 1>
+class Cosine : public Transform<detail::RealCosine, Qvp32f, kChannels> {
+ public:
+  explicit Cosine(QvpiSize size, FourierNorm norm = FourierNorm::ortho)
+      : Transform<detail::RealCosine, Qvp32f, kChannels>(size, norm) {}
 };
 
 }  // namespace QVP_ERRORS

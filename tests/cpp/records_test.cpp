@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -175,6 +176,39 @@ TEST(Fourier, GoesThereAndBack) {
   EXPECT_NEAR(result.row(0)->im, 2, 1e-6);
   EXPECT_NEAR(result.row(3)[4].im, 0, 1e-6);
   EXPECT_EQ(Refused([&] { real.forward(picture.view({0, 0, 14, 8}), spectrum); }), qvpStatusSize);
+}
+
+TEST(Cosine, GoesThereAndBack) {
+  const auto picture = Noise<Qvp32f>({10, 6});
+  Image<Qvp32f> spectrum(picture.size());
+  qvp::Cosine cosine(picture.size());
+  cosine.forward(picture, spectrum);
+  EXPECT_NEAR(spectrum.row(0)[0], qvp::sum(picture) / std::sqrt(60.0), 0.01);
+  cosine.inverse(spectrum, spectrum);
+  EXPECT_LT(qvp::norm_diff_inf(picture, spectrum), 1e-3);
+}
+
+TEST(Curve, TakesPixelsThroughItsPoints) {
+  Image<Qvp8u, 3> image(2, 1), dst(2, 1);
+  qvp::fill(image, {0, 50, 200});
+  const Qvp32f levels[] = {0, 100, 200}, values[] = {10, 20, 220};
+  const qvp::Curve<Qvp8u> curve(levels, values);
+  curve(image, dst);
+  EXPECT_EQ(dst.row(0)[3] * 1000000 + dst.row(0)[4] * 1000 + dst.row(0)[5], 10015220);
+  EXPECT_EQ(Refused([&] { qvp::Curve<Qvp8u>(levels, {values, 2}); }), qvpStatusSize);
+}
+
+TEST(Noise, IsThatOfThePlace) {
+  Image<Qvp32f> image(200, 100), whole(200, 100), part(50, 30);
+  qvp::fill(image, 100);
+  for (const auto& noise : {qvp::Noise::uniform(-9, 9, 1), qvp::Noise::gauss(0, 5, 1), qvp::Noise::speckle(0.05, 1),
+                            qvp::Noise::shot(0.3, 0, 1), qvp::Noise::salt_pepper(0.01, 0.5, 50, 150, 1)}) {
+    noise(image, whole);
+    EXPECT_NEAR(qvp::mean(whole), 100, 0.3);
+    EXPECT_NEAR(qvp::norm_diff_l2(image, whole) / std::sqrt(20000.0), 5.2, 0.5);
+    noise(image.view({0, 0, 50, 30}), part, 0, {120, 60});
+    EXPECT_TRUE(Same(part.view(), whole.view({120, 60, 50, 30})));
+  }
 }
 
 TEST(Histogram, CountsEachChannel) {
