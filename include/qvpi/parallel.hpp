@@ -2,8 +2,8 @@
  *  Calls on all cores, by parts of their images. Results are those of one thread, to the bit.
  *
  *  Threads are those of an engine: a function object for which `engine(n, task)` calls task(0) to task(n - 1), in any
- *  order and on any threads, and returns when all have returned. That of oneTBB is there if its headers are, and
- *  programs then link it; others are a few lines:
+ *  order and on any threads, and returns when all have returned. That of oneTBB is there if its headers are, unless
+ *  QVP_NO_TBB is defined, and programs then link it; others are a few lines:
  *
  *  @code
  *    auto openmp = [](int n, const auto& task) {
