@@ -9,7 +9,7 @@
 namespace qvp {
 
 /** How a transform maps positions (x, y): rows of coefficients, as the C functions take them. */
-template <int kRows, int kColumns>
+template <std::size_t kRows, std::size_t kColumns>
 using Matrix = std::array<std::array<double, kColumns>, kRows>;
 
 namespace detail {

@@ -27,14 +27,40 @@ inline namespace QVP_ERRORS {
 namespace detail {
 
 // A matrix as C takes it.
-template <int kRows, int kColumns>
+template <std::size_t kRows, std::size_t kColumns>
 const double (*rows(const Matrix<kRows, kColumns>& matrix))[kColumns] {
   return reinterpret_cast<const double(*)[kColumns]>(matrix.data());
 }
-template <int kRows, int kColumns>
+template <std::size_t kRows, std::size_t kColumns>
 double (*rows(Matrix<kRows, kColumns>& matrix))[kColumns] {
   return reinterpret_cast<double(*)[kColumns]>(matrix.data());
 }
+
+// The functions for matrices of so many rows: affine warps, and perspectives.
+template <std::size_t kRows>
+struct WarpFunctions;
+
+template <>
+struct WarpFunctions<2> {
+  static constexpr auto size = &qvpiWarpAffineGetSize;
+  static constexpr auto nearest_init = &qvpiWarpAffineNearestInit;
+  static constexpr auto linear_init = &qvpiWarpAffineLinearInit;
+  static constexpr auto cubic_init = &qvpiWarpAffineCubicInit;
+  static QvpStatus nearest(auto... arguments) { return calls::warp_affine_nearest(arguments...); }
+  static QvpStatus linear(auto... arguments) { return calls::warp_affine_linear(arguments...); }
+  static QvpStatus cubic(auto... arguments) { return calls::warp_affine_cubic(arguments...); }
+};
+
+template <>
+struct WarpFunctions<3> {
+  static constexpr auto size = &qvpiWarpPerspectiveGetSize;
+  static constexpr auto nearest_init = &qvpiWarpPerspectiveNearestInit;
+  static constexpr auto linear_init = &qvpiWarpPerspectiveLinearInit;
+  static constexpr auto cubic_init = &qvpiWarpPerspectiveCubicInit;
+  static QvpStatus nearest(auto... arguments) { return calls::warp_perspective_nearest(arguments...); }
+  static QvpStatus linear(auto... arguments) { return calls::warp_perspective_linear(arguments...); }
+  static QvpStatus cubic(auto... arguments) { return calls::warp_perspective_cubic(arguments...); }
+};
 
 }  // namespace detail
 
@@ -43,23 +69,21 @@ inline Result<Matrix<2, 3>> rotation(double angle, std::array<double, 2> from, s
                                      double scale = 1) {
   Matrix<2, 3> matrix = {};
   const QvpStatus status =
-      qvpiGetRotateScaleTransform(from[0], from[1], to[0], to[1], angle, scale, detail::rows<2, 3>(matrix));
+      qvpiGetRotateScaleTransform(from[0], from[1], to[0], to[1], angle, scale, detail::rows(matrix));
   return detail::finish(status, matrix);
 }
 
 /** Takes one parallelogram to another. */
 inline Result<Matrix<2, 3>> affine_transform(const Quad& from, const Quad& to) {
   Matrix<2, 3> matrix = {};
-  const QvpStatus status =
-      qvpiGetAffineQuadTransform(detail::rows<4, 2>(from), detail::rows<4, 2>(to), detail::rows<2, 3>(matrix));
+  const QvpStatus status = qvpiGetAffineQuadTransform(detail::rows(from), detail::rows(to), detail::rows(matrix));
   return detail::finish(status, matrix);
 }
 
 /** Takes one quadrangle to another: a page that was photographed to a rectangle. */
 inline Result<Matrix<3, 3>> perspective_transform(const Quad& from, const Quad& to) {
   Matrix<3, 3> matrix = {};
-  const QvpStatus status =
-      qvpiGetPerspectiveQuadTransform(detail::rows<4, 2>(from), detail::rows<4, 2>(to), detail::rows<3, 3>(matrix));
+  const QvpStatus status = qvpiGetPerspectiveQuadTransform(detail::rows(from), detail::rows(to), detail::rows(matrix));
   return detail::finish(status, matrix);
 }
 
@@ -75,13 +99,11 @@ class Warp : public Recorded {
       "qvp::Warp is for 8u, 16u, 16s, 32f and 64f with 1, 3 and 4 channels");
 
  public:
-  Warp(QvpiSize src, QvpiSize dst, const Matrix<2, 3>& matrix, const WarpOptions& options = {})
-      : src_(src), dst_(dst), run_(affine_call(options.method)) {
-    made(prepare(options, affine(src, dst, detail::rows<2, 3>(matrix), options)));
-  }
-  Warp(QvpiSize src, QvpiSize dst, const Matrix<3, 3>& matrix, const WarpOptions& options = {})
-      : src_(src), dst_(dst), run_(perspective_call(options.method)) {
-    made(prepare(options, perspective(src, dst, detail::rows<3, 3>(matrix), options)));
+  template <std::size_t kRows>
+  requires(kRows == 2 || kRows == 3)
+      Warp(QvpiSize src, QvpiSize dst, const Matrix<kRows, 3>& matrix, const WarpOptions& options = {})
+      : src_(src), dst_(dst), run_(call_of<detail::WarpFunctions<kRows>>(options.method)) {
+    made(prepare<detail::WarpFunctions<kRows>>(detail::rows(matrix), options));
   }
 
   /** Whether images of these sizes are what it was made for. */
@@ -112,73 +134,28 @@ class Warp : public Recorded {
 
   Spec* spec() const { return Recorded::spec<Spec>(); }
 
-  // The functions of one kind of warp: the size of the record, and what makes it.
-  static auto affine(QvpiSize src, QvpiSize dst, const double (*matrix)[3], const WarpOptions& with) {
-    const int way = int(with.direction), border = int(with.border);
-    return Kind{[=](int method, int* record, int* init) {
-                  return qvpiWarpAffineGetSize(src, dst, kType, matrix, method, way, border, record, init);
-                },
-                [=](auto... rest) {
-                  return qvpiWarpAffineNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...);
-                },
-                [=](auto... rest) {
-                  return qvpiWarpAffineLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...);
-                },
-                [=, b = with.b, c = with.c](auto... rest) {
-                  return qvpiWarpAffineCubicInit(src, dst, kType, matrix, way, kChannels, b, c, border, rest...);
-                }};
-  }
-  static auto perspective(QvpiSize src, QvpiSize dst, const double (*matrix)[3], const WarpOptions& with) {
-    const int way = int(with.direction), border = int(with.border);
-    return Kind{[=](int method, int* record, int* init) {
-                  return qvpiWarpPerspectiveGetSize(src, dst, kType, matrix, method, way, border, record, init);
-                },
-                [=](auto... rest) {
-                  return qvpiWarpPerspectiveNearestInit(src, dst, kType, matrix, way, kChannels, border, rest...);
-                },
-                [=](auto... rest) {
-                  return qvpiWarpPerspectiveLinearInit(src, dst, kType, matrix, way, kChannels, border, rest...);
-                },
-                [=, b = with.b, c = with.c](auto... rest) {
-                  return qvpiWarpPerspectiveCubicInit(src, dst, kType, matrix, way, kChannels, b, c, border, rest...);
-                }};
-  }
-
-  template <class Size, class Nearest, class Linear, class Cubic>
-  struct Kind {
-    Size size;
-    Nearest nearest;
-    Linear linear;
-    Cubic cubic;
-  };
-  template <class... Functions>
-  Kind(Functions...) -> Kind<Functions...>;
-
-  template <class WarpKind>
-  QvpStatus prepare(const WarpOptions& options, const WarpKind& kind) {
+  template <class Functions>
+  QvpStatus prepare(const double (*matrix)[3], const WarpOptions& options) {
+    const int method = int(options.method), way = int(options.direction), border = int(options.border);
     int record = 0, init = 0;
-    const QvpStatus status = kind.size(int(options.method), &record, &init);
+    const QvpStatus status = Functions::size(src_, dst_, kType, matrix, method, way, border, &record, &init);
     if (status < 0) return status;
     return make(record, init, [&](Qvp8u* memory, Qvp8u* temporary) {
-      Spec* made = reinterpret_cast<Spec*>(memory);
-      const double* value = options.value.data();
-      switch (options.method) {
-        case InterpolationType::nearest: return kind.nearest(value, int(options.smooth_edge), made);
-        case InterpolationType::linear: return kind.linear(value, int(options.smooth_edge), made);
-        default: return kind.cubic(value, int(options.smooth_edge), made, temporary);
-      }
+      const auto with = [&](auto function, auto... more) {  // what all Init functions take, and what only some do
+        return function(src_, dst_, kType, matrix, way, kChannels, more..., border, options.value.data(),
+                        int(options.smooth_edge), reinterpret_cast<Spec*>(memory));
+      };
+      if (options.method == InterpolationType::nearest) return with(Functions::nearest_init);
+      if (options.method == InterpolationType::linear) return with(Functions::linear_init);
+      const auto cubic_init = [=](auto... arguments) { return Functions::cubic_init(arguments..., temporary); };
+      return with(cubic_init, options.b, options.c);
     });
   }
 
-  static Run affine_call(InterpolationType method) {
-    return method == InterpolationType::nearest  ? Run(&calls::warp_affine_nearest)
-           : method == InterpolationType::linear ? Run(&calls::warp_affine_linear)
-                                                 : Run(&calls::warp_affine_cubic);
-  }
-  static Run perspective_call(InterpolationType method) {
-    return method == InterpolationType::nearest  ? Run(&calls::warp_perspective_nearest)
-           : method == InterpolationType::linear ? Run(&calls::warp_perspective_linear)
-                                                 : Run(&calls::warp_perspective_cubic);
+  template <class Functions>
+  static Run call_of(InterpolationType method) {
+    if (method == InterpolationType::nearest) return &Functions::nearest;
+    return method == InterpolationType::linear ? Run(&Functions::linear) : Run(&Functions::cubic);
   }
 
   QvpiSize src_, dst_;

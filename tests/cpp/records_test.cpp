@@ -148,6 +148,34 @@ TEST(Warp, MovesByAMatrixAndByTiles) {
   EXPECT_EQ(Refused([&] { qvp::Warp<Qvp8u, 3>(size, {9, 9}, shift)(picture, affine); }), qvpStatusSize);
 }
 
+TEST(Warp, GivesWhatCGivesWithItsParameters) {
+  const QvpiSize src{40, 30}, dst{50, 45};
+  const double matrix[3][3] = {{1.1, 0.2, 3}, {-0.1, 1.3, 2}, {1e-3, 2e-3, 1}};
+  const auto picture = Noise<Qvp16s>(src);
+  Image<Qvp16s> got(dst), expected(dst);
+  qvp::fill(got, -5);
+  qvp::fill(expected, -5);
+  int size = 0, init = 0;
+  qvpiWarpPerspectiveGetSize(src, dst, qvp16s, matrix, qvpInterpolationCubic, qvpWarpForward, qvpBorderTransparent,
+                             &size, &init);
+  qvp::Buffer record(size), temporary(init), work(1 << 20);
+  auto* spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  ASSERT_EQ(qvpiWarpPerspectiveCubicInit(src, dst, qvp16s, matrix, qvpWarpForward, 1, 0.2, 0.6, qvpBorderTransparent,
+                                         nullptr, 1, spec, temporary.data()),
+            qvpStatusNoError);
+  ASSERT_EQ(qvpiWarpPerspectiveCubic_16s_C1R(picture.data(), picture.step(), expected.data(), expected.step(), {0, 0},
+                                             dst, spec, work.data()),
+            qvpStatusNoError);
+  const qvp::Matrix<3, 3> same{{{1.1, 0.2, 3}, {-0.1, 1.3, 2}, {1e-3, 2e-3, 1}}};
+  qvp::Warp<Qvp16s>(src, dst, same,
+                    {.method = InterpolationType::cubic,
+                     .border = qvp::BorderType::transparent,
+                     .smooth_edge = true,
+                     .b = 0.2,
+                     .c = 0.6})(picture, got);
+  EXPECT_TRUE(Same(got, expected));
+}
+
 TEST(Warp, TakesMatricesFromPointsAndQuadrangles) {
   const qvp::Quad from{{{0, 0}, {8, 0}, {8, 4}, {0, 4}}}, to{{{1, 2}, {17, 2}, {17, 10}, {1, 10}}};
   EXPECT_EQ(qvp::affine_transform(from, to), (qvp::Matrix<2, 3>{{{2, 0, 1}, {0, 2, 2}}}));
