@@ -20,7 +20,9 @@ include(CMakePackageConfigHelpers)
 # The further arguments of these functions go to install(): packages need EXCLUDE_FROM_ALL.
 function(qvpi_install_headers component)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${component}
-    ${ARGN} FILES_MATCHING PATTERN *.h)
+    ${ARGN} FILES_MATCHING PATTERN *.h PATTERN *.hpp)
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/derived/cpp/qvpi DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${component}
+    ${ARGN} FILES_MATCHING PATTERN *.hpp)
 endfunction()
 
 function(qvpi_install_pkgconfig name requires description libdir component)

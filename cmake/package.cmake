@@ -55,13 +55,13 @@ if(libqvpi10 IN_LIST CPACK_COMPONENTS_ALL)
   set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_DEPENDS "libqvpi10 (= ${PROJECT_VERSION})")
 endif()
 if(QVPI_MACHINE STREQUAL x86)
-  set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SUGGESTS "libqvpig9-10:i386 (= ${PROJECT_VERSION})")
+  set(CPACK_DEBIAN_LIBQVPI-DEV_PACKAGE_SUGGESTS "libqvpig9-10:i386 (= ${PROJECT_VERSION}), libtbb-dev")
   set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION
-"Headers, static archives, and files for CMake and pkg-config.
+"Headers for C and C++, static archives, and files for CMake and pkg-config.
 They serve 64-bit and 32-bit programs. To link the 32-bit shared library,
 install its package too.")
 else()
-  set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION "Headers, static archives, and files for CMake and pkg-config.")
+  set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION "Headers for C and C++, static archives, and files for CMake and pkg-config.")
 endif()
 
 set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_NAME python3-qvpi)

@@ -92,6 +92,7 @@ def main():
         f"-DCMAKE_EXE_LINKER_FLAGS={' '.join(LINK_FLAGS)}")
     run(options.cmake, "--build", build)
     require_output(build / "consumer_static.js", options.cpu)
+    require_output(build / "consumer_cpp_static.js", options.cpu)
 
 
 if __name__ == "__main__":

@@ -81,6 +81,7 @@ class Package:
             *flags)
         run(cmake, "--build", build)
         require_output(build / "consumer", self.best)
+        require_output(build / "consumer_cpp", self.best)
         self.require_static(build / "consumer_static", language)
         for archive, cpu in self.archives[1:]:
             require_output(build / f"consumer_static_{archive}", cpu)
