@@ -78,22 +78,22 @@ Extent PlanesOf(const WarpRecord& record, const VolumeTile& tile, const Source<T
 }
 
 template <int kTaps, class T>
+void WarpRow(BlockSampler<kTaps, T>& sampler, const AffinePoints& points, ptrdiff_t width, T* dst) {
+  const auto sample = [&](ptrdiff_t x, ptrdiff_t n) { sampler.Sample(points.From(x), n, dst + x); };
+  const auto sampleInner = [&](ptrdiff_t x, ptrdiff_t n) { sampler.SampleInner(points.From(x), n, dst + x); };
+  const Extent inner = sampler.InnerOf(points, width);
+  ForEachBlock(0, inner.begin, sample);
+  ForEachBlock(inner.begin, inner.end, sampleInner);
+  ForEachBlock(inner.end, width, sample);
+}
+
+template <int kTaps, class T>
 void WarpBy(const Call<T>& call, const WarpRecord& record, const VolumeTile& tile, const Source<T>& source) {
   BlockSampler<kTaps, T> sampler(source);
-  PointArrays points;
-  const auto& c = record.toSource.c;
   for (ptrdiff_t z = 0; z < tile.depth; ++z) {
     const Image<T> dst = call.dst.Plane(z);
     for (ptrdiff_t y = 0; y < tile.height; ++y) {
-      const auto atY = static_cast<double>(tile.y + y), atZ = static_cast<double>(tile.z + z);
-      SampleRow(sampler, points, tile.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
-        for (int k = 0; k < 3; ++k) {
-          const double down = c[k][1] * atY, back = c[k][2] * atZ + c[k][3], across = c[k][0];
-          const auto first = static_cast<int32_t>(tile.x + x);
-          double* const at = to.at[k];
-          for (int32_t i = 0; i < static_cast<int32_t>(n); ++i) at[i] = (across * (first + i) + down) + back;
-        }
-      });
+      WarpRow(sampler, AffinePoints(record.toSource, tile.x, tile.y + y, tile.z + z), tile.width, dst.Row(y));
     }
   }
 }
