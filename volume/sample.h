@@ -2,52 +2,35 @@
 // once, over points in lanes: where taps need a test, copies of them are what it works on.
 #pragma once
 
-#include "base/scalar.h"
-#include "geometry/sample_border.h"
-#include "volume/border.h"
-#include "volume/sample_blend.h"
-#include "volume/sample_points.h"
+#include "volume/sample_anchors.h"
+#include "volume/sample_patches.h"
 
 namespace qvp::volume {
 
 using sampling::TapsOf;
 
-// What the points of a call are taken from.
-template <class T>
-struct Source {
-  Volume<const T> volume;
-  Extent axes[3];  // columns, rows and planes that can be read
-  BorderKind kind = BorderKind::kReplicate;
-  T constant = {};
-  CubicPolynomials<float> cubic;
-  bool isBounded = false;  // points beyond the bounds are left alone
-  Interval bounds[3] = {};
-
-  void SetBounds(const Extent (&to)[3]) {
-    isBounded = true;
-    for (int i = 0; i < 3; ++i) bounds[i] = {static_cast<double>(to[i].begin), static_cast<double>(to[i].end - 1)};
-  }
-};
-
-// Points whose taps are copied at a time.
-inline constexpr ptrdiff_t kPatchPoints = 16;
-
 template <int kTaps, class T>
 class BlockSampler {
  public:
-  explicit BlockSampler(const Source<T>& source) : source_(source), blend_(source.cubic) {}
+  explicit BlockSampler(const Source<T>& source) : source_(source), patches_(source), blend_(source.cubic) {}
 
   // Values at n points of a block to as many voxels.
   template <class Points>
   void Sample(const Points& points, ptrdiff_t n, T* dst) {
-    if (!LocateAnywhere(points, n)) return SampleByRuns(n, dst);
-    if (!SampleInside(0, n, dst)) SampleApart(0, n, dst);
+    lead_ = points.Lead();
+    const ptrdiff_t end = lead_ + n;
+    if (!LocateAnywhere(points, end)) return SampleByRuns(end, dst);
+    if (!SampleInside(lead_, end, dst)) SampleApart(lead_, end, dst);
   }
 
-  // The same for points of which none needs a test.
-  void SampleInner(const AffinePoints& points, ptrdiff_t n, T* dst) {
-    LocateInside(points, n);
-    if (!SampleInside(0, n, dst)) SampleApart(0, n, dst);
+  // The same for points of which none needs a test. False if they must be exact, and may not be.
+  template <class Points>
+  bool SampleInner(const Points& points, ptrdiff_t n, T* dst) {
+    lead_ = points.Lead();
+    const ptrdiff_t end = lead_ + n;
+    if (!LocateInside(points, end)) return false;
+    if (!SampleInside(lead_, end, dst)) SampleApart(lead_, end, dst);
+    return true;
   }
 
   // Columns of a row whose points need no test: not always all.
@@ -65,7 +48,6 @@ class BlockSampler {
   using Taps = BlockTaps<kTaps>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(IntLanes());
   static constexpr int kBefore = sampling::kTapsBefore(kTaps);
-  static constexpr int kPatch = kTaps * kTaps * kTaps;
   // Kernels load words: what they read of a row from the first tap on.
   static constexpr int kRead = kTaps == 1 ? 1 : std::max(kTaps, 4 / static_cast<int>(sizeof(T)));
   static constexpr int ReadAlong(int axis) { return axis == 0 ? kRead : kTaps; }
@@ -95,19 +77,22 @@ class BlockSampler {
     return tap;
   }
 
-  HWY_NOINLINE void LocateInside(const AffinePoints& points, ptrdiff_t n) {
-    for (ptrdiff_t i = 0; i < n; i += kLanes) {
-      for (int k = 0; k < 3; ++k) Store(points.Split<kTaps, F>(k, i), k, i);
+  template <class Points>
+  HWY_NOINLINE bool LocateInside(const Points& points, ptrdiff_t end) {
+    auto closest = hn::Set(IntLanes(), INT32_MAX);
+    for (ptrdiff_t i = 0; i < end; i += kLanes) {
+      for (int k = 0; k < 3; ++k) Store(points.template SplitInner<kTaps, F>(k, i, closest), k, i);
     }
+    return Points::AreSure(closest);
   }
 
   // Whether all are inside. Points are moved to where all taps are beyond what can be read, at most; what is no number
   // is before it.
   template <class Points>
-  HWY_NOINLINE bool LocateAnywhere(const Points& points, ptrdiff_t n) {
+  HWY_NOINLINE bool LocateAnywhere(const Points& points, ptrdiff_t end) {
     const IntLanes d;
     auto others = hn::Zero(d);
-    for (ptrdiff_t i = 0; i < n; i += kLanes) {
+    for (ptrdiff_t i = 0; i < end; i += kLanes) {
       auto isApart = hn::Zero(d), isBeyond = hn::Zero(d), isWritten = hn::Set(d, -1);
       for (int k = 0; k < 3; ++k) {
         const Extent extent = source_.axes[k];
@@ -119,7 +104,7 @@ class BlockSampler {
       }
       const auto origin = hn::And(isWritten, OriginOf(isApart, isBeyond));
       hn::StoreU(origin, d, origin_ + i);
-      others = hn::Or(others, hn::IfThenElseZero(hn::FirstN(d, n - i), hn::Xor(origin, hn::Set(d, kInside))));
+      others = hn::Or(others, hn::IfThenElseZero(hn::FirstN(d, end - i), hn::Xor(origin, hn::Set(d, kInside))));
     }
     return hn::AllTrue(d, hn::Eq(others, hn::Zero(d)));
   }
@@ -138,12 +123,12 @@ class BlockSampler {
   }
 
   HWY_NOINLINE void SampleByRuns(ptrdiff_t n, T* dst) {
-    for (ptrdiff_t first = 0, end; first < n; first = end) {
+    for (ptrdiff_t first = lead_, end; first < n; first = end) {
       const int32_t origin = origin_[first];
       end = first + 1;
       while (end < n && origin_[end] == origin) ++end;
       if (origin == kConstant) {
-        for (ptrdiff_t i = first; i < end; ++i) StoreScalar(dst + i, source_.constant);
+        for (ptrdiff_t i = first; i < end; ++i) StoreScalar(Voxel(dst, i), source_.constant);
       } else if (origin == kApart || (origin == kInside && !SampleInside(first, end, dst))) {
         SampleApart(first, end, dst);
       }
@@ -164,7 +149,7 @@ class BlockSampler {
     const auto* const base = reinterpret_cast<const uint8_t*>(volume.front.data);
     for (int k = 0; k < kTaps; ++k)
       taps.base[k] = base + k * static_cast<ptrdiff_t>(planeStep), taps.offset[k] = offset_[0];
-    blend_(taps, first, end - first, dst + first);
+    blend_(taps, first, end - first, Voxel(dst, first));
     return true;
   }
 
@@ -195,62 +180,25 @@ class BlockSampler {
     if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
     Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
     for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
-    blend_(taps, first, end - first, dst + first);
+    blend_(taps, first, end - first, Voxel(dst, first));
     return true;
   }
 
-  // ---- Points whose taps need a test: copies of them, a few points at a time.
+  // ---- Points whose taps need a test
 
   void SampleApart(ptrdiff_t first, ptrdiff_t end, T* dst) {
-    T patches[kPatchPoints * kPatch + 4];
-    for (ptrdiff_t from = first; from < end; from += kPatchPoints) {
-      const ptrdiff_t n = std::min(kPatchPoints, end - from);
-      for (ptrdiff_t i = 0; i < n; ++i) {
-        source_.kind == BorderKind::kConst ? FetchMixed(from + i, patches + i * kPatch)
-                                           : FetchNearest(from + i, patches + i * kPatch);
-        offset_[0][i] = static_cast<int32_t>(i * kPatch * ptrdiff_t{sizeof(T)});
-      }
-      std::memset(patches + n * kPatch, 0, 4 * sizeof(T));  // is read, but not used
-      Taps taps{kTaps * sizeof(T), {}, {}};
-      for (int k = 0; k < kTaps; ++k) {
-        taps.base[k] = reinterpret_cast<const uint8_t*>(patches + k * kTaps * kTaps), taps.offset[k] = offset_[0];
-      }
-      blend_(taps, from, n, dst + from);
+    for (ptrdiff_t i = first; i < end; ++i) {
+      const auto fraction = [&](int k) { return blend_.fraction[k][i]; };
+      patches_.Add({tap_[0][i], tap_[1][i], tap_[2][i]}, {fraction(0), fraction(1), fraction(2)}, Voxel(dst, i));
     }
   }
 
-  // The nearest voxels that can be read.
-  void FetchNearest(ptrdiff_t i, T* patch) const {
-    const auto place = [&](int axis, int k) {
-      return std::clamp<ptrdiff_t>(tap_[axis][i] + k, source_.axes[axis].begin, source_.axes[axis].end - 1);
-    };
-    ptrdiff_t columns[kTaps];
-    for (int k = 0; k < kTaps; ++k) columns[k] = place(0, k);
-    for (int k = 0; k < kTaps; ++k) {
-      const Image<const T> plane = source_.volume.Plane(place(2, k));
-      for (int j = 0; j < kTaps; ++j) {
-        const T* const row = plane.Row(place(1, j));
-        for (const ptrdiff_t x : columns) *patch++ = LoadScalar(row + x);
-      }
-    }
-  }
-
-  // The constant where a tap is outside.
-  void FetchMixed(ptrdiff_t i, T* patch) const {
-    const auto isIn = [&](int axis, int k) { return source_.axes[axis].Contains(tap_[axis][i] + k); };
-    for (int k = 0; k < kTaps; ++k) {
-      const Image<const T> plane = source_.volume.Plane(isIn(2, k) ? tap_[2][i] + k : source_.axes[2].begin);
-      for (int j = 0; j < kTaps; ++j) {
-        const bool isRow = isIn(2, k) && isIn(1, j);
-        const T* const row = isRow ? plane.Row(tap_[1][i] + j) : nullptr;
-        for (int x = 0; x < kTaps; ++x) {
-          *patch++ = isRow && isIn(0, x) ? LoadScalar(row + tap_[0][i] + x) : source_.constant;
-        }
-      }
-    }
-  }
+  // The voxel of point i of the block.
+  T* Voxel(T* dst, ptrdiff_t i) const { return dst + (i - lead_); }
 
   const Source<T>& source_;
+  Patches<kTaps, T> patches_;
+  ptrdiff_t lead_ = 0;  // points of a block that are in front of its first one
   Blender<kTaps, T> blend_;
   alignas(64) int32_t tap_[3][kBlockRoom], offset_[kTaps][kBlockRoom], origin_[kBlockRoom];
 };

@@ -85,7 +85,7 @@ class Blender {
     };
     const auto x = along(0), y = along(1), z = along(2);
     const auto plane = [&](int k) HWY_ATTR {
-      const auto even = hn::LoadU(Ints(), taps.offset[k] + i), odd = hn::LoadU(Ints(), taps.offset[k] + j);
+      const int32_t *const even = taps.offset[k] + i, *const odd = taps.offset[k] + j;
       const auto row = [&](const uint8_t* at) HWY_ATTR {
         return sampling::BetweenTaps(GatherWords(Ints(), at, even), GatherWords(Ints(), at, odd), x);
       };

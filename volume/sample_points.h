@@ -1,9 +1,8 @@
-// Points of a row of voxels: where an affine transform, or maps, take them from. Each is computed from its own place, so
-// that tiles equal the whole.
+// Points of a row of voxels: where an affine transform, or maps, take them from. Each is computed from its own place,
+// so that tiles equal the whole.
 #pragma once
 
-#include <bit>
-
+#include "base/scalar.h"
 #include "geometry/sample_places.h"
 #include "volume/affine.h"
 
@@ -17,26 +16,45 @@ using IntLanes = hn::ScalableTag<int32_t>;
 template <class F>
 using SplitPoint = sampling::Split<F, FloatLanes>;
 
-class AffinePoints {
- public:
-  AffinePoints(const Affine& affine, ptrdiff_t x, ptrdiff_t y, ptrdiff_t z) : column_(static_cast<double>(x)) {
+// A row of the whole destination: each coordinate is a linear function of the column.
+struct AffineRow {
+  double across[3], down[3], back[3];
+
+  AffineRow(const Affine& affine, ptrdiff_t y, ptrdiff_t z) {
     for (int k = 0; k < 3; ++k) {
       const double* const c = affine.c[k];
-      across_[k] = c[0];
-      down_[k] = c[1] * static_cast<double>(y);
-      back_[k] = c[2] * static_cast<double>(z) + c[3];
+      across[k] = c[0];
+      down[k] = c[1] * static_cast<double>(y);
+      back[k] = c[2] * static_cast<double>(z) + c[3];
     }
   }
 
-  // The points from the i-th on.
-  AffinePoints From(ptrdiff_t i) const {
-    AffinePoints points(*this);
-    points.column_ += static_cast<double>(i);
-    return points;
+  double At(int axis, double column) const { return (across[axis] * column + down[axis]) + back[axis]; }
+  template <class D>
+  HWY_INLINE hn::Vec<D> At(D d, int axis, hn::Vec<D> column) const {
+    return hn::Add(hn::Add(hn::Mul(hn::Set(d, across[axis]), column), hn::Set(d, down[axis])), hn::Set(d, back[axis]));
   }
-  double At(int axis, ptrdiff_t i) const {
-    return (across_[axis] * (column_ + static_cast<double>(i)) + down_[axis]) + back_[axis];
+
+  // Whether no step before a column loses more than 2^-31 by rounding.
+  bool IsSmall(ptrdiff_t columns) const {
+    constexpr double kSmall = 1 << 21;
+    for (int k = 0; k < 3; ++k) {
+      const double most = std::fabs(across[k] * static_cast<double>(columns));
+      if (!(most < kSmall && std::fabs(down[k]) < kSmall && std::fabs(back[k]) < kSmall)) return false;
+    }
+    return true;
   }
+};
+
+// Points of a row from a column on.
+class AffinePoints {
+ public:
+  AffinePoints(const AffineRow& row, ptrdiff_t column) : row_(row), column_(static_cast<double>(column)) {}
+
+  const AffineRow& row() const { return row_; }
+  ptrdiff_t column() const { return static_cast<ptrdiff_t>(column_); }
+  AffinePoints From(ptrdiff_t i) const { return {row_, column() + i}; }
+  static constexpr ptrdiff_t Lead() { return 0; }
 
   // The first and the last of n points that can be in an interval, and all between them; fewer are no fault. Rounded
   // steps are monotone, so that points between two inside are inside.
@@ -44,7 +62,7 @@ class AffinePoints {
     const double first = At(axis, 0), last = At(axis, n - 1);
     if (interval.Contains(first) && interval.Contains(last)) return {0, n};
     constexpr double kRim = 1.0 / (1 << 16);  // more than the rounding of what follows, for lengths of volumes
-    const double slope = across_[axis], low = (interval.low + kRim - first) / slope,
+    const double slope = row_.across[axis], low = (interval.low + kRim - first) / slope,
                  high = (interval.high - kRim - first) / slope;
     const auto most = static_cast<double>(n);
     const double enter = std::max(std::min(low, high), -1.0), leave = std::min(std::max(low, high), most);
@@ -63,11 +81,12 @@ class AffinePoints {
     const auto moved = [&](V at) HWY_ATTR { return hn::Min(MaxOrSecond(at, low), high); };
     return sampling::SplitDoubles<kTaps, F>(FloatLanes(), moved(Load(axis, i)), moved(Load(axis, i + kLanes)));
   }
-  // Those that lie in no need of this.
+  // The same of points that need not be moved, and are exact.
   template <int kTaps, class F>
-  HWY_INLINE SplitPoint<F> Split(int axis, ptrdiff_t i) const {
+  HWY_INLINE SplitPoint<F> SplitInner(int axis, ptrdiff_t i, hn::Vec<IntLanes>&) const {
     return sampling::SplitDoubles<kTaps, F>(FloatLanes(), Load(axis, i), Load(axis, i + kLanes));
   }
+  HWY_INLINE static bool AreSure(hn::Vec<IntLanes>) { return true; }
   // Lanes of ones for those in an interval.
   HWY_INLINE hn::Vec<IntLanes> AreIn(int axis, ptrdiff_t i, const Interval& interval) const {
     const D d;
@@ -83,13 +102,13 @@ class AffinePoints {
   using V = hn::Vec<D>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
 
+  double At(int axis, ptrdiff_t i) const { return row_.At(axis, column_ + static_cast<double>(i)); }
   HWY_INLINE V Load(int axis, ptrdiff_t i) const {
-    const D d;
-    const auto across = hn::Mul(hn::Set(d, across_[axis]), hn::Iota(d, column_ + static_cast<double>(i)));
-    return hn::Add(hn::Add(across, hn::Set(d, down_[axis])), hn::Set(d, back_[axis]));
+    return row_.At(D(), axis, hn::Iota(D(), column_ + static_cast<double>(i)));
   }
 
-  double across_[3], down_[3], back_[3], column_;
+  const AffineRow& row_;
+  double column_;
 };
 
 // Points that three maps tell. All that count are in bounds from 0 on.
@@ -97,6 +116,7 @@ class MappedPoints {
  public:
   // Of rows that may lie at any address; blocks of points are copied where they end.
   explicit MappedPoints(const float* const (&maps)[3]) : maps_{maps[0], maps[1], maps[2]} {}
+  static constexpr ptrdiff_t Lead() { return 0; }
 
   template <int kTaps, class F>
   HWY_INLINE SplitPoint<F> Split(int axis, ptrdiff_t i, const Interval&) const {
@@ -114,8 +134,12 @@ class MappedPoints {
   static float NotAbove(double x) {
     const auto near = static_cast<float>(x);
     if (static_cast<double>(near) <= x) return near;
-    const auto bits = std::bit_cast<int32_t>(near);
-    return std::bit_cast<float>(near > 0 ? bits - 1 : bits + 1);
+    int32_t bits = 0;
+    float below = 0;
+    hwy::CopySameSize(&near, &bits);
+    bits += near > 0 ? -1 : 1;
+    hwy::CopySameSize(&bits, &below);
+    return below;
   }
 
   const float* maps_[3];
