@@ -90,7 +90,7 @@ class PlaneRing {
 };
 
 // Results of a block: prepare(plane, to, memory, then) prepares its rows of a plane, and calls then(y) as soon as rows
-// of results from y on can be made of them; make(z, y, lines) makes those of plane z.
+// of results from y on can be made of them; make(z, y) makes those of plane z.
 template <class E, class T, class Prepare, class Make>
 void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask, const PlaneRing<E>& ring,
                  const Prepare& prepare, const Make& make) {
@@ -98,7 +98,7 @@ void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask
   for (ptrdiff_t next = -mask.before.z; next < depth + behind; ++next) {
     const ptrdiff_t z = next - behind;
     prepare(src.Plane(next), ring.Plane(next), ring.end(), [&](ptrdiff_t y) {
-      if (z >= 0) make(z, y, ring.Lines(z - mask.before.z, y));
+      if (z >= 0) make(z, y);
     });
   }
 }
@@ -122,7 +122,8 @@ void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T
         then(y);
       }
     };
-    const auto make = [&](ptrdiff_t z, ptrdiff_t y, const auto* const* lines) {
+    const auto make = [&](ptrdiff_t z, ptrdiff_t y) {
+      const auto lines = ring.Lines(z - mask.before.z, y);
       const Image<T> results = dst.Plane(z);
       const ptrdiff_t upper = rows.begin + y, lower = std::min(upper + 1, rows.end - 1);
       filter::FilterRows(kernel, lines, columns.end - columns.begin, results.Row(upper) + columns.begin,

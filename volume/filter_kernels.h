@@ -37,37 +37,6 @@ HWY_INLINE void StoreReals(int mode, V sum, R* to) {
   hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
 }
 
-// Sums of products along one axis: of neighbours in `lines` lines, each with `width` coefficients.
-struct AxisSum {
-  using D = hn::ScalableTag<float>;
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
-  static constexpr int kVectors = 8;  // they hide how long an addition takes
-
-  const float* coefficients;
-  ptrdiff_t lines, width;
-  int mode;
-
-  template <class R>
-  void operator()(const float* const* from, ptrdiff_t n, R* to) const {
-    filter::MakeRow<kVectors, kLanes>(n, to, [&](auto count, ptrdiff_t i, R* out) QVP_INLINED {
-      hn::Vec<D> sums[count];
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { sums[v] = hn::Zero(D()); });
-      const float* k = coefficients;
-      for (ptrdiff_t j = 0; j < lines; ++j) {
-        const float* const line = from[j] + i;
-        QVP_ROLLED
-        for (ptrdiff_t x = 0; x < width; ++x) {
-          const auto factor = hn::Set(D(), *k++);
-          filter::Unrolled<count>([&](auto v) QVP_INLINED {
-            sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), line + x + v * kLanes), factor));
-          });
-        }
-      }
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { StoreReals(mode, sums[v], out + v * kLanes); });
-    });
-  }
-};
-
 // Every result has one sum.
 template <class T>
 class FloatSums {
