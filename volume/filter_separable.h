@@ -17,27 +17,26 @@ class PlaneSums {
     kernel_ = filter::LaneKernel<float, float, float, false>::For(axes_);
   }
 
-  // Sums of a block of a plane, to rows `step` apart; then(y) for each two from y on, of which the last may be one.
-  template <class Then>
-  void Prepare(const BorderedImage<T>& image, Extent columns, Extent rows, ptrdiff_t step, float* to, uint8_t* memory,
-               const Then& then) const {
+  // Sums of a block of a plane, to rows `step` apart.
+  void operator()(const BorderedImage<T>& image, Extent columns, Extent rows, ptrdiff_t step, float* to,
+                  uint8_t* memory) const {
     const ptrdiff_t n = columns.end - columns.begin, count = rows.end - rows.begin;
     const auto lines = reinterpret_cast<const void**>(AtBoundary(memory));
     const RowRing<float> ring{AtBoundary(reinterpret_cast<float*>(lines + mask_.height + 1)), step, mask_.height + 1};
     BorderRows<SingleRows<T, float>, T> source(image, mask_.Columns(columns), n >= kLanes);
     auto* const line = reinterpret_cast<float*>(source.Start(reinterpret_cast<uint8_t*>(ring.at + ring.places * step)));
     const ptrdiff_t first = rows.begin - mask_.before.y;
+    float *oldest = ring.at, *room = ring.at;
     ptrdiff_t next = 0;
-    for (ptrdiff_t y = 0; y < count; y += 2) {
+    for (ptrdiff_t y = 0; y < count; y += 2, oldest = ring.Next(ring.Next(oldest))) {
       const ptrdiff_t lower = std::min(y + 1, count - 1), end = lower + mask_.height;
-      for (; next < end; ++next) {
-        kernel_.across(kernel_.context, source.Line(first + next, line), ring.Row(next), n);
+      for (; next < end; ++next, room = ring.Next(room)) {
+        kernel_.across(kernel_.context, source.Line(first + next, line), room, n);
       }
-      const float* row = ring.Row(y);
+      const float* row = oldest;
       for (ptrdiff_t j = y; j < end; ++j, row = ring.Next(row)) lines[j - y] = row;
       if (lower == y) lines[mask_.height] = lines[0];  // is read, but not used
       SumDown(lines, n, to + y * step, to + lower * step);
-      then(y);
     }
   }
 
@@ -63,7 +62,10 @@ class PlanesSum {
         mode_(record.mode),
         sum_(filter::ForTerms<filter::kFewTerms>(taps_.count, [](auto terms) { return Sum<terms>; })) {}
 
-  void operator()(const float* const* lines, ptrdiff_t n, T* to) const { sum_(taps_, mode_, lines, n, to); }
+  // A block of results, from rows `step` apart in each plane.
+  void operator()(const float* const* planes, ptrdiff_t step, Size block, const Image<T>& dst) const {
+    for (ptrdiff_t y = 0; y < block.height; ++y) sum_(taps_, mode_, planes, y * step, block.width, dst.Row(y));
+  }
 
  private:
   using D = hn::ScalableTag<float>;
@@ -71,11 +73,13 @@ class PlanesSum {
 
   // No sum is -0, as if it had begun with 0.
   template <int kTerms>
-  static void Sum(const Taps& axis, int mode, const float* const* lines, ptrdiff_t n, T* to) {
+  static void Sum(const Taps& axis, int mode, const float* const* planes, ptrdiff_t at, ptrdiff_t n, T* to) {
     constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
     const filter::TapVectors<D, float, kTerms> taps(axis);
+    const auto lines = filter::LinesOfTerms<float, false, kTerms>(reinterpret_cast<const void* const*>(planes));
     filter::MakeRow<filter::kSumsAtOnce<float>, kLanes>(n, to, [&](auto count, ptrdiff_t i, T* out) QVP_INLINED {
-      const auto value = [&](ptrdiff_t k, auto v) QVP_INLINED { return hn::LoadU(D(), lines[k] + i + v * kLanes); };
+      const auto value = [=](ptrdiff_t k, auto v)
+                             QVP_INLINED { return hn::LoadU(D(), lines[k] + at + i + v * kLanes); };
       const auto sums = filter::SumsOfProducts<false, count>(taps, value);
       filter::Unrolled<count>(
           [&](auto v) QVP_INLINED { StoreReals(mode, hn::Add(sums[v], hn::Zero(D())), out + v * kLanes); });
@@ -84,7 +88,7 @@ class PlanesSum {
 
   Taps taps_;
   int mode_;
-  void (*sum_)(const Taps&, int, const float* const*, ptrdiff_t, T*);
+  void (*sum_)(const Taps&, int, const float* const*, ptrdiff_t, ptrdiff_t, T*);
 };
 
 template <class T>
@@ -96,14 +100,15 @@ void FilterSeparably(const FilterRecord& record, const BorderedVolume<T>& src, c
   const BlockPlan plan(mask, size);
   plan.ForEachBlock([&](Extent columns, Extent rows) {
     const PlaneRing<float> ring(mask, 1, rows, plan.step(), buffer);
+    const Size block{columns.end - columns.begin, rows.end - rows.begin};
     const auto prepare = [&](const BorderedImage<T>& image, float* to, uint8_t* memory, const auto& then) {
-      sums.Prepare(image, columns, rows, plan.step(), to, memory, then);
+      sums(image, columns, rows, plan.step(), to, memory);
+      then(0);
     };
-    FilterBlock(src, size.depth, mask, ring, prepare, [&](ptrdiff_t z, ptrdiff_t y) {
-      for (const ptrdiff_t row : {y, std::min(y + 1, rows.end - rows.begin - 1)}) {
-        T* const to = dst.Plane(z).Row(rows.begin + row) + columns.begin;
-        through(ring.Lines(z - mask.before.z, row), columns.end - columns.begin, to);
-      }
+    FilterBlock(src, size.depth, mask, ring, prepare, [&](ptrdiff_t z, ptrdiff_t) {
+      Image<T> results = dst.Plane(z);
+      results.data = results.Row(rows.begin) + columns.begin;
+      through(ring.Lines(z - mask.before.z, 0), plan.step(), block, results);
     });
   });
 }
