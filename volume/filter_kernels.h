@@ -63,18 +63,29 @@ class FloatSums {
   using D = hn::ScalableTag<float>;
   using V = hn::Vec<D>;
 
+  // A line that both rows need is loaded once.
   template <int kCount>
   HWY_INLINE void Add(const float* line, const float* k, const float* kBelow, V (&above)[kCount],
                       V (&below)[kCount]) const {
-    const auto add = [&](const float* from, float factor, V(&sums)[kCount]) QVP_INLINED {
-      const V a = hn::Set(D(), factor);
-      filter::Unrolled<kCount>(
-          [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), from + v * kLanes), a)); });
-    };
+    if (kBelow == nullptr) return AddTo<kCount>(line, k, above);
+    if (k == nullptr) return AddTo<kCount>(line, kBelow, below);
     QVP_ROLLED
     for (ptrdiff_t x = 0; x < mask_.width; ++x) {
-      if (k != nullptr) add(line + x, k[x], above);
-      if (kBelow != nullptr) add(line + x, kBelow[x], below);
+      const V a = hn::Set(D(), k[x]), b = hn::Set(D(), kBelow[x]);
+      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+        const V values = hn::LoadU(D(), line + x + v * kLanes);
+        above[v] = hn::Add(above[v], hn::Mul(values, a));
+        below[v] = hn::Add(below[v], hn::Mul(values, b));
+      });
+    }
+  }
+  template <int kCount>
+  HWY_INLINE void AddTo(const float* line, const float* k, V (&sums)[kCount]) const {
+    QVP_ROLLED
+    for (ptrdiff_t x = 0; x < mask_.width; ++x) {
+      const V a = hn::Set(D(), k[x]);
+      filter::Unrolled<kCount>(
+          [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), line + x + v * kLanes), a)); });
     }
   }
 
