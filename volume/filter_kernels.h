@@ -5,6 +5,7 @@
 #include "base/pairs.h"
 #include "filter/axis_sums.h"
 #include "filter/border_filter_sums.h"
+#include "filter/windows.h"
 #include "volume/filter_record.h"
 
 namespace qvp::volume {
