@@ -221,29 +221,36 @@ class CountedMedian {
                                 QVP_INLINED { filter::Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
   }
 
-  // Of each plane the first line is the upper row's alone, the last one the lower row's.
+  // Of each plane the first line is the upper row's alone, the last one the lower row's. Lines between them, an even
+  // number, are counted by twos, in sums that do not wait for each other.
   template <int kCount>
   HWY_INLINE void CountBelow(const E* const* lines, ptrdiff_t at, const V (&candidates)[kRows][kCount],
                              V (&counts)[kRows][kCount]) const {
-    ForEach<kCount>([&](auto r, auto v) QVP_INLINED { counts[r][v] = hn::Set(D(), kNone); });
-    const auto count = [&](auto r, const E* line) QVP_INLINED {
+    V others[kRows][kCount];
+    ForEach<kCount>([&](auto r, auto v) QVP_INLINED {
+      counts[r][v] = hn::Set(D(), kNone);
+      others[r][v] = hn::Zero(D());
+    });
+    const auto count = [&](auto r, const E* line, V(&sums)[kRows][kCount]) QVP_INLINED {
       filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
         const auto isBelow = hn::Gt(candidates[r][v], hn::LoadU(D(), line + v * kLanes));
-        counts[r][v] = hn::Sub(counts[r][v], hn::VecFromMask(D(), isBelow));
+        sums[r][v] = hn::Sub(sums[r][v], hn::VecFromMask(D(), isBelow));
       });
     };
     constexpr std::integral_constant<int, 0> kUpper;
     constexpr std::integral_constant<int, 1> kLower;
     for (int k = 0; k < mask_.depth; ++k, lines += mask_.height + 1) {
-      const E *const first = lines[0] + at, *const last = lines[mask_.height] + at;
-      QVP_ROLLED
-      for (ptrdiff_t x = 0; x < mask_.width; ++x) count(kUpper, first + x), count(kLower, last + x);
-      for (int j = 1; j < mask_.height; ++j) {
-        const E* const line = lines[j] + at;
-        QVP_ROLLED
-        for (ptrdiff_t x = 0; x < mask_.width; ++x) count(kUpper, line + x), count(kLower, line + x);
+      for (ptrdiff_t x = at; x < at + mask_.width; ++x) {
+        count(kUpper, lines[0] + x, counts), count(kLower, lines[mask_.height] + x, counts);
+      }
+      for (int j = 1; j < mask_.height; j += 2) {
+        for (ptrdiff_t x = at; x < at + mask_.width; ++x) {
+          count(kUpper, lines[j] + x, counts), count(kLower, lines[j] + x, counts);
+          count(kUpper, lines[j + 1] + x, others), count(kLower, lines[j + 1] + x, others);
+        }
       }
     }
+    ForEach<kCount>([&](auto r, auto v) QVP_INLINED { counts[r][v] = hn::Add(counts[r][v], others[r][v]); });
   }
 
   Mask mask_;
