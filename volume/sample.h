@@ -163,23 +163,29 @@ class BlockSampler {
     }
   }
 
-  // Of planes that lie anywhere, each tap's has an offset of its own.
+  // Of planes that lie anywhere, each tap's has an offset of its own, from one of them.
   bool SamplePlanes(ptrdiff_t first, ptrdiff_t end, T* dst) {
-    const auto addressOf = [&](ptrdiff_t z) { return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data); };
-    const auto* const base = reinterpret_cast<const uint8_t*>(source_.volume.Plane(tap_[2][first]).data);
-    const int64_t step = source_.volume.front.step;
-    int64_t farthest = 0;
+    const auto addressOf = [&](ptrdiff_t z) -> int64_t {
+      return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data);
+    };
+    const int64_t step = source_.volume.front.step, farthest = INT32_MAX / 2;
+    const int64_t within = (source_.axes[1].end + 8) * step + source_.axes[0].end * int64_t{sizeof(T)};
+    if (within > farthest) return false;
+    FindOffsets(first, end - first, static_cast<int32_t>(step), 0);
+    const int64_t base = addressOf(tap_[2][first]);
+    bool isFar = false;
     for (ptrdiff_t i = first; i < end; ++i) {
-      const int64_t within = tap_[1][i] * step + tap_[0][i] * int64_t{sizeof(T)};
+      const auto inPlane = static_cast<uint32_t>(offset_[0][i - first]);
       for (int k = 0; k < kTaps; ++k) {
-        const int64_t offset = addressOf(tap_[2][i] + k) - addressOf(tap_[2][first]) + within;
-        offset_[k][i - first] = static_cast<int32_t>(offset);
-        farthest = std::max(farthest, offset < 0 ? -offset : offset);
+        const int64_t offset = addressOf(tap_[2][i] + k) - base;
+        isFar |= offset > farthest || offset < -farthest;
+        offset_[k][i - first] = static_cast<int32_t>(static_cast<uint32_t>(offset) + inPlane);
       }
     }
-    if (farthest > INT32_MAX - kTaps * (step + int64_t{sizeof(T)})) return false;
+    if (isFar) return false;
     Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
-    for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
+    const auto* const plane = reinterpret_cast<const uint8_t*>(source_.volume.Plane(tap_[2][first]).data);
+    for (int k = 0; k < kTaps; ++k) taps.base[k] = plane, taps.offset[k] = offset_[k];
     blend_(taps, first, end - first, Voxel(dst, first));
     return true;
   }
