@@ -50,6 +50,9 @@ class BlockSampler {
   static constexpr int kBefore = sampling::kTapsBefore(kTaps);
   // Kernels load words: what they read of a row from the first tap on.
   static constexpr int kRead = kTaps == 1 ? 1 : std::max(kTaps, 4 / static_cast<int>(sizeof(T)));
+  // In memory planes anywhere may be so far from each other.
+  static constexpr int64_t kFarthest = INT32_MAX / 2;
+  static constexpr ptrdiff_t kMostPlanes = 512;  // under a block
   static constexpr int ReadAlong(int axis) { return axis == 0 ? kRead : kTaps; }
 
   // Where a point's value comes from: from nowhere, or the constant alone; from taps that all lie in memory; from taps
@@ -163,31 +166,39 @@ class BlockSampler {
     }
   }
 
-  // Of planes that lie anywhere, each tap's has an offset of its own, from one of them.
+  // Of planes that lie anywhere, each tap's has an offset of its own, from the foremost one.
   bool SamplePlanes(ptrdiff_t first, ptrdiff_t end, T* dst) {
+    int32_t least = tap_[2][first], most = least;
+    for (ptrdiff_t i = first; i < end; ++i) least = std::min(least, tap_[2][i]), most = std::max(most, tap_[2][i]);
+    const Extent planes{least, ptrdiff_t{most} + kTaps};
+    int32_t places[kMostPlanes];
+    const int64_t step = source_.volume.front.step;
+    const int64_t within = (source_.axes[1].end + 8) * step + source_.axes[0].end * int64_t{sizeof(T)};
+    if (within > kFarthest || !FindPlanes(planes, places)) return false;
+    FindOffsets(first, end - first, static_cast<int32_t>(step), 0);
+    for (ptrdiff_t i = 0; i < end - first; ++i) {
+      const int32_t inPlane = offset_[0][i];
+      const int32_t* const place = places + (tap_[2][first + i] - planes.begin);
+      for (int k = 0; k < kTaps; ++k) offset_[k][i] = inPlane + place[k];
+    }
+    Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
+    const auto* const base = reinterpret_cast<const uint8_t*>(source_.volume.Plane(planes.begin).data);
+    for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
+    blend_(taps, first, end - first, Voxel(dst, first));
+    return true;
+  }
+  bool FindPlanes(Extent planes, int32_t (&places)[kMostPlanes]) const {
+    if (planes.end - planes.begin > kMostPlanes) return false;
     const auto addressOf = [&](ptrdiff_t z) -> int64_t {
       return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data);
     };
-    const int64_t step = source_.volume.front.step, farthest = INT32_MAX / 2;
-    const int64_t within = (source_.axes[1].end + 8) * step + source_.axes[0].end * int64_t{sizeof(T)};
-    if (within > farthest) return false;
-    FindOffsets(first, end - first, static_cast<int32_t>(step), 0);
-    const int64_t base = addressOf(tap_[2][first]);
     bool isFar = false;
-    for (ptrdiff_t i = first; i < end; ++i) {
-      const auto inPlane = static_cast<uint32_t>(offset_[0][i - first]);
-      for (int k = 0; k < kTaps; ++k) {
-        const int64_t offset = addressOf(tap_[2][i] + k) - base;
-        isFar |= offset > farthest || offset < -farthest;
-        offset_[k][i - first] = static_cast<int32_t>(static_cast<uint32_t>(offset) + inPlane);
-      }
+    for (ptrdiff_t z = planes.begin; z < planes.end; ++z) {
+      const int64_t place = addressOf(z) - addressOf(planes.begin);
+      isFar |= place > kFarthest || place < -kFarthest;
+      places[z - planes.begin] = static_cast<int32_t>(place);
     }
-    if (isFar) return false;
-    Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
-    const auto* const plane = reinterpret_cast<const uint8_t*>(source_.volume.Plane(tap_[2][first]).data);
-    for (int k = 0; k < kTaps; ++k) taps.base[k] = plane, taps.offset[k] = offset_[k];
-    blend_(taps, first, end - first, Voxel(dst, first));
-    return true;
+    return !isFar;
   }
 
   // ---- Points whose taps need a test
