@@ -98,7 +98,8 @@ class Blender {
     const hn::ScalableTag<uint8_t> bytes;
     filter::MakeGroups<4 * kLanes>(n, to, [&](ptrdiff_t i, uint8_t* out) HWY_ATTR {
       const auto lower = BlendAlternate(taps, first, i, i + 2 * kLanes);
-      const auto upper = n - i > kLanes ? BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes) : lower;
+      auto upper = lower;  // of few points the others are not used
+      if (n - i > kLanes) upper = BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes);
       hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes, out);
     });
   }

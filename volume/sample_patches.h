@@ -35,7 +35,9 @@ class Patches {
   ~Patches() { Flush(); }
 
   void Add(const ptrdiff_t (&tap)[3], const F (&fraction)[3], T* voxel) {
-    source_.kind == BorderKind::kConst ? FetchMixed(tap, taps_ + n_ * kPatch) : FetchNearest(tap, taps_ + n_ * kPatch);
+    T* const patch = taps_ + n_ * kPatch;
+    source_.kind == BorderKind::kConst ? FetchMixed(tap, patch) : FetchNearest(tap, patch);
+    if constexpr (kTaps == 1) return StoreScalar(voxel, *patch);
     for (int k = 0; k < 3; ++k) blend_.fraction[k][n_] = fraction[k];
     offset_[n_] = static_cast<int32_t>(n_ * kPatch * ptrdiff_t{sizeof(T)});
     voxels_[n_] = voxel;
