@@ -3,6 +3,9 @@
 
 #include <hwy/cache_control.h>
 
+#include <algorithm>
+#include <cstring>
+
 #include "base/simd.h"
 #include "qvpcore.h"
 
@@ -45,6 +48,16 @@ HWY_INLINE void StoreTo(hn::Vec<D> v, D d, T* to) {
 template <class D, class T = hn::TFromD<D>>
 HWY_INLINE ptrdiff_t BytesToAlignment(D, const T* p) {
   return static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(p) & (hn::MaxLanes(D()) * sizeof(T) - 1));
+}
+
+// A row past the caches; its ends are stored ordinarily.
+inline void StreamRow(const uint8_t* from, uint8_t* to, ptrdiff_t bytes) {
+  const hn::ScalableTag<uint8_t> d;
+  constexpr ptrdiff_t kVector = hn::MaxLanes(d);
+  ptrdiff_t i = std::min(BytesToAlignment(d, to), bytes);
+  std::memcpy(to, from, i);
+  for (; i + kVector <= bytes; i += kVector) StoreTo<Store::kStreaming>(hn::LoadU(d, from + i), d, to + i);
+  std::memcpy(to + i, from + i, bytes - i);
 }
 
 }  // namespace qvp

@@ -101,7 +101,7 @@ class IntegerQuotient {
 
   // Half of a vector.
   template <class V>
-  HWY_NOINLINE static V InDouble(int mode, int32_t divisor, V v) {
+  HWY_INLINE static V InDouble(int mode, int32_t divisor, V v) {
     const hn::DFromV<V> ints;
     const hn::Rebind<double, decltype(ints)> d;
     const auto quotient = hn::Div(hn::PromoteTo(d, v), hn::Set(d, static_cast<double>(divisor)));

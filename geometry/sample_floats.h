@@ -17,8 +17,7 @@ template <int kTaps, int kChannels, class T, class D>
 class RowTaps {
  public:
   HWY_INLINE RowTaps(D, const uint8_t* row, const int32_t* offset) {
-    const auto at = hn::LoadU(Words(), offset);
-    for (int i = 0; i < kWords; ++i) words_[i] = GatherWords(Words(), row + i * kWordBytes, at);
+    for (int i = 0; i < kWords; ++i) words_[i] = GatherWords(Words(), row + i * kWordBytes, offset);
   }
 
   HWY_INLINE hn::Vec<D> At(int tap, int channel) const {

@@ -15,6 +15,11 @@ inline constexpr int kAnchorColumns = 8;
 class AnchorSteps {
  public:
   static constexpr int kColumns = 2 * kAnchorColumns;
+  static constexpr double kSteepest = 4;
+
+  static void Fill(double a, int32_t (&steps)[kColumns]) {
+    for (int i = 0; i < kAnchorColumns; ++i) steps[i] = steps[i + kAnchorColumns] = Rounded(a * i);
+  }
 
   // For lines of these slopes.
   void Set(double au, double av) {
@@ -32,10 +37,6 @@ class AnchorSteps {
   int32_t u[kColumns], v[kColumns];
 
  private:
-  static constexpr double kSteepest = 4;
-  static void Fill(double a, int32_t (&steps)[kColumns]) {
-    for (int i = 0; i < kAnchorColumns; ++i) steps[i] = steps[i + kAnchorColumns] = Rounded(a * i);
-  }
   static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kUnits)); }
 
   double au_ = NAN, av_ = NAN;

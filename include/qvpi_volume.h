@@ -421,8 +421,9 @@ QvpStatus qvprWarpGetBufferSize(const QvprWarpSpec* pSpec, QvprVolume dstVolume,
  *  @endcode
  *
  *  in single precision, rounded for integers to the nearest, ties to even, and saturated: within 4e-7 (linear) or 1e-6
- *  (cubic) of the largest voxel. 8u linear: in integers, less than 0.036 off before the rounding. A shift by whole
- *  voxels copies them. Where depth is left alone the result is that of the same warp of each plane.
+ *  (cubic) of the largest voxel, at points that are rounded to 2^-26 voxel at most. 8u linear: in integers, less than
+ *  0.036 off before the rounding. A shift by whole voxels copies them. Where depth is left alone the result is that of
+ *  the same warp of each plane.
  *
  *  | border               | beyond the source                                                                        |
  *  |----------------------|------------------------------------------------------------------------------------------|

@@ -224,6 +224,26 @@ TEST(VolumeResize, StripsOfLargePlanes) {
   }
 }
 
+// What exceeds the caches goes past them, as the same voxels.
+TEST(VolumeResize, LargeResultsEqualTheirPlanes) {
+  constexpr QvprVolume kFrom{90, 100, 30}, kTo{601, 640, 60};
+  constexpr QvprVolume kPlane{kTo.width, kTo.height, 1};
+  std::vector<float> src(size_t{90} * 100 * 30), whole(size_t{601} * 640 * 60), plane(size_t{601} * 640);
+  test::Random random(2);
+  for (float& voxel : src) voxel = static_cast<float>(random.Next() % 1000);
+  const Record record(kLinear, kFrom, kTo, qvp32f);
+  const Block buffer(record.BufferSize(kTo));
+  const auto resize = [&](std::vector<float>& to, int z, QvprVolume size) {
+    return qvprResize_32f_C1V(src.data(), 4 * 90, 4 * 90 * 100, to.data(), 4 * 601, 4 * 601 * 640, {0, 0, z}, size,
+                              qvpBorderReplicate, record.spec(), buffer.data());
+  };
+  ASSERT_EQ(resize(whole, 0, kTo), 0);
+  for (int z = 0; z < kTo.depth; ++z) {
+    ASSERT_EQ(resize(plane, z, kPlane), 0);
+    ASSERT_EQ(std::memcmp(plane.data(), &whole[plane.size() * z], plane.size() * sizeof(float)), 0) << z;
+  }
+}
+
 // Plane by plane as the functions for images, to the bit.
 TEST(VolumeResize, DepthLeftAloneIsAnImage) {
   constexpr int kWidth = 41, kHeight = 23, kTo = 30;

@@ -22,7 +22,10 @@ struct Call {
 
   template <class Kernel>
   void Run(const BorderedVolume<T>& bordered, const Kernel& kernel) const {
-    FilterMasked(record->mask(), bordered, dst, size, buffer, kernel);
+    FilterMasked<typename Kernel::Form>(record->mask(), bordered, dst, size, buffer,
+                                        [&](const auto* const* lines, ptrdiff_t n, T* upper, T* lower) {
+                                          filter::FilterRows(kernel, lines, n, upper, lower);
+                                        });
   }
 };
 

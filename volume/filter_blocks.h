@@ -1,9 +1,9 @@
-// The walk of the general filter: blocks of a region, for which rows of all planes under the kernel are prepared once
-// and kept in the second cache.
+// The walk of filters in space: blocks of a region, for which rows of all planes under a mask are prepared once and
+// kept in the second cache.
 #pragma once
 
-#include "filter/windows.h"
-#include "volume/filter_record.h"
+#include "base/row_ring.h"
+#include "volume/mask.h"
 
 namespace qvp::volume {
 
@@ -90,7 +90,7 @@ class PlaneRing {
 };
 
 // Results of a block: prepare(plane, to, memory, then) prepares its rows of a plane, and calls then(y) as soon as rows
-// of results from y on can be made of them; make(z, y, lines) makes those of plane z.
+// of results from y on can be made of them; make(z, y) makes those of plane z.
 template <class E, class T, class Prepare, class Make>
 void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask, const PlaneRing<E>& ring,
                  const Prepare& prepare, const Make& make) {
@@ -98,17 +98,16 @@ void FilterBlock(const BorderedVolume<T>& src, ptrdiff_t depth, const Mask& mask
   for (ptrdiff_t next = -mask.before.z; next < depth + behind; ++next) {
     const ptrdiff_t z = next - behind;
     prepare(src.Plane(next), ring.Plane(next), ring.end(), [&](ptrdiff_t y) {
-      if (z >= 0) make(z, y, ring.Lines(z - mask.before.z, y));
+      if (z >= 0) make(z, y);
     });
   }
 }
 
-// A kernel that takes the rows as they are, in its form, and makes two rows of results at a time: of windows with one
-// line more than its own. A last row without a second is made twice.
-template <class Kernel, class T>
+// Two rows of results at a time, from rows in a form: make(lines, n, upper, lower), of which the lines are those under
+// both, one more in each plane than a mask has. A last row without a second is made twice.
+template <class Form, class T, class Make>
 void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T>& dst, const VolumeSize& size,
-                  uint8_t* buffer, const Kernel& kernel) {
-  using Form = typename Kernel::Form;
+                  uint8_t* buffer, const Make& make) {
   const BlockPlan plan(mask, size);
   plan.ForEachBlock([&](Extent columns, Extent rows) {
     const PlaneRing<typename Form::Element> ring(mask, mask.height + 1, rows, plan.step(), buffer);
@@ -122,13 +121,12 @@ void FilterMasked(const Mask& mask, const BorderedVolume<T>& src, const Volume<T
         then(y);
       }
     };
-    const auto make = [&](ptrdiff_t z, ptrdiff_t y, const auto* const* lines) {
+    FilterBlock(src, size.depth, mask, ring, prepare, [&](ptrdiff_t z, ptrdiff_t y) {
       const Image<T> results = dst.Plane(z);
       const ptrdiff_t upper = rows.begin + y, lower = std::min(upper + 1, rows.end - 1);
-      filter::FilterRows(kernel, lines, columns.end - columns.begin, results.Row(upper) + columns.begin,
-                         results.Row(lower) + columns.begin);
-    };
-    FilterBlock(src, size.depth, mask, ring, prepare, make);
+      make(ring.Lines(z - mask.before.z, y), columns.end - columns.begin, results.Row(upper) + columns.begin,
+           results.Row(lower) + columns.begin);
+    });
   });
 }
 

@@ -3,6 +3,7 @@
 #include "base/scalar.h"
 #include "qvpi.h"
 #include "volume/filter_blocks.h"
+#include "volume/filter_record.h"
 
 namespace {
 using namespace qvp;

@@ -5,6 +5,7 @@
 #include "base/pairs.h"
 #include "filter/axis_sums.h"
 #include "filter/border_filter_sums.h"
+#include "filter/windows.h"
 #include "volume/filter_record.h"
 
 namespace qvp::volume {
@@ -37,37 +38,6 @@ HWY_INLINE void StoreReals(int mode, V sum, R* to) {
   hn::StoreU(Narrow<R>(d, sum), hn::Rebind<R, decltype(d)>(), to);
 }
 
-// Sums of products along one axis: of neighbours in `lines` lines, each with `width` coefficients.
-struct AxisSum {
-  using D = hn::ScalableTag<float>;
-  static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
-  static constexpr int kVectors = 8;  // they hide how long an addition takes
-
-  const float* coefficients;
-  ptrdiff_t lines, width;
-  int mode;
-
-  template <class R>
-  void operator()(const float* const* from, ptrdiff_t n, R* to) const {
-    filter::MakeRow<kVectors, kLanes>(n, to, [&](auto count, ptrdiff_t i, R* out) QVP_INLINED {
-      hn::Vec<D> sums[count];
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { sums[v] = hn::Zero(D()); });
-      const float* k = coefficients;
-      for (ptrdiff_t j = 0; j < lines; ++j) {
-        const float* const line = from[j] + i;
-        QVP_ROLLED
-        for (ptrdiff_t x = 0; x < width; ++x) {
-          const auto factor = hn::Set(D(), *k++);
-          filter::Unrolled<count>([&](auto v) QVP_INLINED {
-            sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), line + x + v * kLanes), factor));
-          });
-        }
-      }
-      filter::Unrolled<count>([&](auto v) QVP_INLINED { StoreReals(mode, sums[v], out + v * kLanes); });
-    });
-  }
-};
-
 // Every result has one sum.
 template <class T>
 class FloatSums {
@@ -94,18 +64,29 @@ class FloatSums {
   using D = hn::ScalableTag<float>;
   using V = hn::Vec<D>;
 
+  // A line that both rows need is loaded once.
   template <int kCount>
   HWY_INLINE void Add(const float* line, const float* k, const float* kBelow, V (&above)[kCount],
                       V (&below)[kCount]) const {
-    const auto add = [&](const float* from, float factor, V(&sums)[kCount]) QVP_INLINED {
-      const V a = hn::Set(D(), factor);
-      filter::Unrolled<kCount>(
-          [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), from + v * kLanes), a)); });
-    };
+    if (kBelow == nullptr) return AddTo<kCount>(line, k, above);
+    if (k == nullptr) return AddTo<kCount>(line, kBelow, below);
     QVP_ROLLED
     for (ptrdiff_t x = 0; x < mask_.width; ++x) {
-      if (k != nullptr) add(line + x, k[x], above);
-      if (kBelow != nullptr) add(line + x, kBelow[x], below);
+      const V a = hn::Set(D(), k[x]), b = hn::Set(D(), kBelow[x]);
+      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+        const V values = hn::LoadU(D(), line + x + v * kLanes);
+        above[v] = hn::Add(above[v], hn::Mul(values, a));
+        below[v] = hn::Add(below[v], hn::Mul(values, b));
+      });
+    }
+  }
+  template <int kCount>
+  HWY_INLINE void AddTo(const float* line, const float* k, V (&sums)[kCount]) const {
+    QVP_ROLLED
+    for (ptrdiff_t x = 0; x < mask_.width; ++x) {
+      const V a = hn::Set(D(), k[x]);
+      filter::Unrolled<kCount>(
+          [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), line + x + v * kLanes), a)); });
     }
   }
 

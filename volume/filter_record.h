@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/record.h"
-#include "volume/windows.h"
+#include "volume/mask.h"
 
 namespace qvp::volume {
 

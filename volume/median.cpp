@@ -1,6 +1,7 @@
 // Medians of cuboids around voxels: checks, and the choice of a method.
 #include "base/types.h"
 #include "qvpi.h"
+#include "volume/filter_blocks.h"
 #include "volume/median_kernels.h"
 #include "volume/tile.h"
 
@@ -17,12 +18,10 @@ bool IsMask(QvprVolume m) {
          int64_t{m.width} * m.height * m.depth <= kMostCells;
 }
 
-// Of a line of sorted columns.
-ptrdiff_t SortedStep(ptrdiff_t width) {
-  return (std::min<ptrdiff_t>(width, WindowPlan::kNearestSamples) + 2 + kLineSpare) / 64 * 64 + 64;
-}
-int64_t SortedBytes(int64_t width) {
-  return SortedStep(static_cast<ptrdiff_t>(width)) * 9 * kMostBytes + kRecordBoundary;
+// Of a line of sorted columns: as of those that they are made of.
+ptrdiff_t SortedStep(const BlockPlan& plan) { return plan.step(); }
+int64_t SortedBytes(const BlockPlan& plan) {
+  return SortedStep(plan) * CubeMedian<float>::kLines * kMostBytes + kRecordBoundary;
 }
 
 template <class T>
@@ -45,9 +44,10 @@ struct Call {
     const Mask used = Mask::Centred(mask);
     const BorderedVolume<filter::MedianLane<T>> bordered(
         src, size, border, reinterpret_cast<const filter::MedianLane<T>*>(value), used.Reach());
-    FilterMasks<typename Kernel::Form>(
-        bordered, dst, size, used, Kernel::Form::kLanes, room,
-        [&](const auto* const* lines, ptrdiff_t n, auto* to) { kernel(lines, n, reinterpret_cast<T*>(to)); });
+    FilterMasked<typename Kernel::Form>(used, bordered, dst, size, room,
+                                        [&](const auto* const* lines, ptrdiff_t n, auto* upper, auto* lower) {
+                                          kernel(lines, n, reinterpret_cast<T*>(upper), reinterpret_cast<T*>(lower));
+                                        });
   }
 };
 
@@ -68,7 +68,8 @@ QvpStatus Median(const Call<T>& call) {
   const Mask mask = Mask::Centred(call.mask);
   uint8_t* const room = AtBoundary(call.buffer);
   if (mask.width == 3 && mask.height == 3 && mask.depth == 3) {
-    call.Run(CubeMedian<T>(room, SortedStep(call.size.width)), room + SortedBytes(call.size.width));
+    const BlockPlan plan(mask, call.size);
+    call.Run(CubeMedian<T>(room, SortedStep(plan)), room + SortedBytes(plan));
   } else if constexpr (sizeof(T) == 1) {
     mask.cells() <= kMostInBytes ? call.Run(CountedMedian<T, int8_t>(mask), room)
                                  : call.Run(CountedMedian<T, int16_t>(mask), room);
@@ -84,8 +85,8 @@ QvpStatus GetBufferSize(QvprVolume mask, const VolumeSize& size, QvpDataType typ
   if (!IsMask(mask)) return qvpStatusMaskSize;
   if (type != qvp8u && type != qvp16u && type != qvp16s && type != qvp32f) return qvpStatusDataType;
   const bool isCube = mask.width == 3 && mask.height == 3 && mask.depth == 3;
-  const ByteCount all = WindowsPlan(Mask::Centred(mask), size.width, kMostBytes).Bytes() + kRecordBoundary +
-                        (isCube ? SortedBytes(size.width) : 0);
+  const BlockPlan plan(Mask::Centred(mask), size);
+  const ByteCount all = plan.Bytes() + kRecordBoundary + (isCube ? SortedBytes(plan) : 0);
   return (size.IsBelowMost() ? all : ByteCount(INT64_MAX)).StoreTo(bytes);
 }
 

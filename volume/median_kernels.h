@@ -5,7 +5,8 @@
 #include "base/row_vectors.h"
 #include "filter/median.h"
 #include "filter/network_lanes.h"
-#include "volume/windows.h"
+#include "filter/windows.h"
+#include "volume/mask.h"
 
 namespace qvp::volume {
 
@@ -66,15 +67,31 @@ HWY_INLINE void StoreRow(ptrdiff_t n, T* to, const At& at) {
   ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { StoreVoxels<T>(at(i), to + i); });
 }
 
-// ---- 3x3x3: the nine voxels of a column of lanes are sorted once, for the three results that they count for.
+// ---- 3x3x3: the nine voxels of a column of lanes are sorted once, for the three results that they count for; of two
+// rows, the six that they have in common once for both.
 
 struct CubeNetworks {
   using N = filter::Network<32, 256>;
-  static constexpr int kNine = 9;
+  static constexpr int kNine = 9, kFour = 4;  // rows under two results
 
+  // Voxel (row y, plane z) is on wire 3 y + z: the sorted three of the first row and of the last, and between them the
+  // sorted six of both others.
+  static constexpr N kRows = [] {
+    N network;
+    N::Wires rows[kFour], all;
+    for (int y = 0; y < kFour; ++y) rows[y] = network.Sorted(N::Range(3 * y, 3));
+    const auto both = network.Merged(rows[1], rows[2]);
+    const N::Wires* const lists[] = {&rows[0], &both, &rows[3]};
+    for (const auto* const list : lists) {
+      for (int i = 0; i < list->count; ++i) all.Append(list->wires[i]);
+    }
+    network.Finish(all);
+    return network;
+  }();
+  // Sorted three and six.
   static constexpr N kColumn = [] {
     N network;
-    network.Finish(network.Sorted(N::Range(0, kNine)));
+    network.Finish(network.Merged(N::Range(0, 3), N::Range(3, 6)));
     return network;
   }();
   // Of three sorted columns those in the same place are sorted: the least of the three, the middle ones and the
@@ -103,37 +120,52 @@ class CubeMedian {
  public:
   using E = filter::MedianLane<T>;
   using Form = OrderedRows<T, E>;
+  static constexpr int kLines = 2 * CubeNetworks::kNine;  // of sorted columns, for which there is room
 
-  // `room` for nine lines of sorted columns.
   CubeMedian(uint8_t* room, ptrdiff_t step) : sorted_(reinterpret_cast<E*>(room)), step_(step) {}
 
-  void operator()(const E* const* lines, ptrdiff_t n, T* to) const {
+  void operator()(const E* const* lines, ptrdiff_t n, T* upper, T* lower) const {
     SortColumns(lines, n + 2);
-    StoreRow<T, E>(n, to, [&](ptrdiff_t i) HWY_ATTR {
-      V wires[3 * kNine];
-      filter::Unrolled<3 * kNine>(
-          [&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), sorted_ + k % kNine * step_ + i + k / kNine); });
-      filter::RunNetwork<CubeNetworks::kMiddle>(wires);
-      return wires[CubeNetworks::kMiddle.results.wires[0]];
-    });
+    TakeMiddles(sorted_ + kNine * step_, n, lower);
+    TakeMiddles(sorted_, n, upper);
   }
 
  private:
   using D = hn::ScalableTag<E>;
   using V = hn::Vec<D>;
-  static constexpr int kNine = CubeNetworks::kNine;
+  static constexpr int kNine = CubeNetworks::kNine, kRows = CubeNetworks::kFour;
 
   HWY_NOINLINE void SortColumns(const E* const* lines, ptrdiff_t n) const {
     constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
     const auto sort = [&](ptrdiff_t i) HWY_ATTR {
-      V wires[kNine];
-      filter::Unrolled<kNine>([&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), lines[k] + i); });
-      filter::RunNetwork<CubeNetworks::kColumn>(wires);
+      V wires[3 * kRows], upper[kNine], lower[kNine];
+      filter::Unrolled<3 * kRows>([&](auto k)
+                                      QVP_INLINED { wires[k] = hn::LoadU(D(), lines[k % 3 * kRows + k / 3] + i); });
+      filter::RunNetwork<CubeNetworks::kRows>(wires);
+      const auto sorted = [&](int k) QVP_INLINED { return wires[CubeNetworks::kRows.results.wires[k]]; };
       filter::Unrolled<kNine>([&](auto k) QVP_INLINED {
-        hn::StoreU(wires[CubeNetworks::kColumn.results.wires[k]], D(), sorted_ + k * step_ + i);
+        upper[k] = sorted(k);
+        lower[k] = sorted(k < 3 ? kNine + k : k);
       });
+      StoreSorted(upper, sorted_ + i);
+      StoreSorted(lower, sorted_ + kNine * step_ + i);
     };
     n < kLanes ? sort(0) : ForEachVector<kLanes>(n, sort);
+  }
+  HWY_INLINE void StoreSorted(V (&wires)[kNine], E* to) const {
+    filter::RunNetwork<CubeNetworks::kColumn>(wires);
+    filter::Unrolled<kNine>(
+        [&](auto k) QVP_INLINED { hn::StoreU(wires[CubeNetworks::kColumn.results.wires[k]], D(), to + k * step_); });
+  }
+
+  HWY_NOINLINE void TakeMiddles(const E* sorted, ptrdiff_t n, T* to) const {
+    StoreRow<T, E>(n, to, [&](ptrdiff_t i) HWY_ATTR {
+      V wires[3 * kNine];
+      filter::Unrolled<3 * kNine>(
+          [&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), sorted + k % kNine * step_ + i + k / kNine); });
+      filter::RunNetwork<CubeNetworks::kMiddle>(wires);
+      return wires[CubeNetworks::kMiddle.results.wires[0]];
+    });
   }
 
   E* sorted_;
@@ -148,49 +180,77 @@ class CountedMedian {
  public:
   using E = Lane;
   using Form = OrderedRows<T, E>;
+  static constexpr ptrdiff_t kLanes = Form::kLanes;
+  static constexpr int kVectors = 2;
 
   explicit CountedMedian(const Mask& mask) : mask_(mask) {}
 
-  void operator()(const E* const* lines, ptrdiff_t n, T* to) const {
-    StoreRow<T, E>(n, to, [&](ptrdiff_t i) HWY_ATTR { return At(lines, i); });
+  void operator()(const E* const* lines, ptrdiff_t n, T* upper, T* lower) const {
+    filter::FilterRows(*this, lines, n, upper, lower);
+  }
+
+  template <int kCount>
+  HWY_INLINE void Run(const E* const* lines, ptrdiff_t at, T* upper, T* lower) const {
+    const V most = hn::Set(D(), static_cast<E>(kNone + mask_.cells() / 2));
+    V found[kRows][kCount], candidates[kRows][kCount], counts[kRows][kCount];
+    ForEach<kCount>([&](auto r, auto v) QVP_INLINED { found[r][v] = hn::Set(D(), kLowest); });
+    for (int bit = kBits - 1; bit >= 0; --bit) {
+      const V one = hn::Set(D(), static_cast<E>(Bits{1} << bit));
+      ForEach<kCount>([&](auto r, auto v) QVP_INLINED { candidates[r][v] = hn::Xor(found[r][v], one); });
+      CountBelow<kCount>(lines, at, candidates, counts);
+      ForEach<kCount>([&](auto r, auto v) QVP_INLINED {
+        found[r][v] = hn::IfThenElse(hn::Gt(counts[r][v], most), found[r][v], candidates[r][v]);
+      });
+    }
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[1][v], lower + v * kLanes); });
+    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[0][v], upper + v * kLanes); });
   }
 
  private:
   using D = hn::ScalableTag<E>;
   using V = hn::Vec<D>;
   using Bits = hwy::MakeUnsigned<E>;
-  static constexpr int kBits = 8 * static_cast<int>(sizeof(T));
+  static constexpr int kRows = 2, kBits = 8 * static_cast<int>(sizeof(T));
   static constexpr E kLowest = sizeof(T) == sizeof(E) ? std::numeric_limits<E>::lowest() : E{0};
   // Counts begin with it, so that bytes with a sign count to 255.
   static constexpr E kNone = sizeof(E) == 1 ? std::numeric_limits<E>::lowest() : E{0};
 
-  V At(const E* const* lines, ptrdiff_t i) const {
-    const V most = hn::Set(D(), static_cast<E>(kNone + mask_.cells() / 2));
-    V found = hn::Set(D(), kLowest);
-    for (int bit = kBits - 1; bit >= 0; --bit) {
-      const V candidate = hn::Xor(found, hn::Set(D(), static_cast<E>(Bits{1} << bit)));
-      found = hn::IfThenElse(hn::Gt(CountBelow(lines, i, candidate), most), found, candidate);
-    }
-    return found;
+  template <int kCount, class Body>
+  HWY_INLINE static void ForEach(const Body& body) {
+    filter::Unrolled<kRows>([&](auto r)
+                                QVP_INLINED { filter::Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
   }
 
-  // Two sums at a time, which do not wait for each other.
-  HWY_INLINE V CountBelow(const E* const* lines, ptrdiff_t i, V candidate) const {
-    V counts[2] = {hn::Set(D(), kNone), hn::Zero(D())};
-    const ptrdiff_t rows = mask_.lines();
-    const auto count = [&](const E* line, V& sum) HWY_ATTR {
-      sum = hn::Sub(sum, hn::VecFromMask(D(), hn::Gt(candidate, hn::LoadU(D(), line))));
+  // Of each plane the first line is the upper row's alone, the last one the lower row's. Lines between them, an even
+  // number, are counted by twos, in sums that do not wait for each other.
+  template <int kCount>
+  HWY_INLINE void CountBelow(const E* const* lines, ptrdiff_t at, const V (&candidates)[kRows][kCount],
+                             V (&counts)[kRows][kCount]) const {
+    V others[kRows][kCount];
+    ForEach<kCount>([&](auto r, auto v) QVP_INLINED {
+      counts[r][v] = hn::Set(D(), kNone);
+      others[r][v] = hn::Zero(D());
+    });
+    const auto count = [&](auto r, const E* line, V(&sums)[kRows][kCount]) QVP_INLINED {
+      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+        const auto isBelow = hn::Gt(candidates[r][v], hn::LoadU(D(), line + v * kLanes));
+        sums[r][v] = hn::Sub(sums[r][v], hn::VecFromMask(D(), isBelow));
+      });
     };
-    ptrdiff_t j = 0;
-    for (; j + 2 <= rows; j += 2) {
-      const E *const first = lines[j] + i, *const second = lines[j + 1] + i;
-      for (ptrdiff_t x = 0; x < mask_.width; ++x) {
-        count(first + x, counts[0]);
-        count(second + x, counts[1]);
+    constexpr std::integral_constant<int, 0> kUpper;
+    constexpr std::integral_constant<int, 1> kLower;
+    for (int k = 0; k < mask_.depth; ++k, lines += mask_.height + 1) {
+      for (ptrdiff_t x = at; x < at + mask_.width; ++x) {
+        count(kUpper, lines[0] + x, counts), count(kLower, lines[mask_.height] + x, counts);
+      }
+      for (int j = 1; j < mask_.height; j += 2) {
+        for (ptrdiff_t x = at; x < at + mask_.width; ++x) {
+          count(kUpper, lines[j] + x, counts), count(kLower, lines[j] + x, counts);
+          count(kUpper, lines[j + 1] + x, others), count(kLower, lines[j + 1] + x, others);
+        }
       }
     }
-    for (ptrdiff_t x = 0; j < rows && x < mask_.width; ++x) count(lines[j] + i + x, counts[0]);
-    return hn::Add(counts[0], counts[1]);
+    ForEach<kCount>([&](auto r, auto v) QVP_INLINED { counts[r][v] = hn::Add(counts[r][v], others[r][v]); });
   }
 
   Mask mask_;

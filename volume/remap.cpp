@@ -53,20 +53,29 @@ bool HasPlanes(const Call<T>& call, Extent planes, int taps) {
          call.maps[2].HasPlanes(written) && call.dst.HasPlanes(written);
 }
 
+// A row by blocks; what a last one has less than whole vectors is copied, for loads that reach beyond it.
+template <int kTaps, class T>
+void RemapRow(BlockSampler<kTaps, T>& sampler, const float* const (&maps)[3], ptrdiff_t width, T* dst) {
+  alignas(64) float copies[3][kBlockRoom];
+  ForEachBlock(0, width, [&](ptrdiff_t x, ptrdiff_t n) {
+    const float* rows[3] = {maps[0] + x, maps[1] + x, maps[2] + x};
+    for (int k = 0; k < 3 && n % hn::MaxLanes(FloatLanes()) != 0; ++k) {
+      std::memcpy(copies[k], rows[k], n * sizeof(float));
+      std::fill(copies[k] + n, copies[k] + n + hn::MaxLanes(FloatLanes()), 0.0F);
+      rows[k] = copies[k];
+    }
+    sampler.Sample(MappedPoints(rows), n, dst + x);
+  });
+}
+
 template <int kTaps, class T>
 void RemapBy(const Call<T>& call, const Source<T>& source) {
   BlockSampler<kTaps, T> sampler(source);
-  PointArrays points;
   for (int z = 0; z < call.size.depth; ++z) {
     const Image<const float> maps[3] = {call.maps[0].Plane(z), call.maps[1].Plane(z), call.maps[2].Plane(z)};
     const Image<T> dst = call.dst.Plane(z);
     for (int y = 0; y < call.size.height; ++y) {
-      SampleRow(sampler, points, call.size.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
-        for (int k = 0; k < 3; ++k) {
-          const float* const from = maps[k].Row(y) + x;
-          for (ptrdiff_t i = 0; i < n; ++i) to.at[k][i] = LoadScalar(from + i);
-        }
-      });
+      RemapRow(sampler, {maps[0].Row(y), maps[1].Row(y), maps[2].Row(y)}, call.size.width, dst.Row(y));
     }
   }
 }

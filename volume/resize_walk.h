@@ -2,6 +2,7 @@
 // filtered across and down once for a strip, and kept as long as results need it.
 #pragma once
 
+#include "base/store.h"
 #include "volume/resize_lines.h"
 
 namespace qvp::volume {
@@ -26,7 +27,12 @@ class ResizeWalk {
 
   // Rows of lines lie one behind the other at `memory`, those of a plane's taps first.
   ResizeWalk(const VolumeResizeCall<T>& call, const VolumeTile& tile, const Lines& lines, uint8_t* memory)
-      : call_(call), record_(call.record()), tile_(tile), lines_(lines), edges_(record_, call.border) {
+      : call_(call),
+        record_(call.record()),
+        tile_(tile),
+        lines_(lines),
+        edges_(record_, call.border),
+        store_(StoreOf(record_, tile)) {
     const ResizeRoom room(record_, tile.width);
     step_ = static_cast<ptrdiff_t>(room.row) / kFloat;
     taps_ = {reinterpret_cast<Line*>(memory), step_, static_cast<int>(room.rows)};
@@ -64,8 +70,29 @@ class ResizeWalk {
     WalkDown(tile_.depth, needs, prepare, [&](ptrdiff_t z) {
       const Image<T> results = call_.dst.Plane(z);
       RowRing<Line> lines = planes;
-      for (ptrdiff_t y = rows.begin; y < rows.end; ++y, lines.at += step_) lines_.Through(lines, z, results.Row(y));
+      for (ptrdiff_t y = rows.begin; y < rows.end; ++y, lines.at += step_) PutThrough(lines, z, results.Row(y));
     });
+    Fence(store_);
+  }
+
+  // A result that goes past the caches lies in the place of a plane's taps first.
+  void PutThrough(const RowRing<Line>& lines, ptrdiff_t z, T* to) const {
+    if (store_ == Store::kOrdinary) return lines_.Through(lines, z, to);
+    lines_.Through(lines, z, reinterpret_cast<T*>(taps_.at));
+    StreamRow(reinterpret_cast<const uint8_t*>(taps_.at), reinterpret_cast<uint8_t*>(to),
+              tile_.width * ptrdiff_t{sizeof(T)});
+  }
+
+  // By what a call reads and writes, if a tile takes its share of the source.
+  static Store StoreOf(const ResizeRecord& record, const VolumeTile& tile) {
+    const auto voxels = [](ptrdiff_t width, ptrdiff_t height, ptrdiff_t depth) {
+      return static_cast<double>(width) * static_cast<double>(height) * static_cast<double>(depth);
+    };
+    const ResizeAxis &x = record.plane.columns, &y = record.plane.rows, &z = record.depth;
+    const double results = voxels(tile.width, tile.height, tile.depth);
+    const double scale = voxels(x.source, y.source, z.source) / voxels(x.destination, y.destination, z.destination);
+    constexpr double kMost = 1e18;
+    return StoreFor(static_cast<int64_t>(std::min(results * (1 + scale) * sizeof(T), kMost)));
   }
 
   // Across and down, to the row out(y) for each of the tile's rows.
@@ -101,6 +128,7 @@ class ResizeWalk {
   const VolumeTile& tile_;
   const Lines& lines_;
   VolumeEdges edges_;
+  Store store_;
   ptrdiff_t step_, stripRows_;
   RowRing<Line> taps_, planes_;
 };

@@ -1,6 +1,7 @@
 // Values at points whose taps lie in memory: the formulas, written once over points in lanes.
 #pragma once
 
+#include "filter/axis_sums.h"
 #include "geometry/sample_bytes.h"
 #include "geometry/sample_floats.h"
 
@@ -41,14 +42,10 @@ class Blender {
       const uint8_t* const base = taps.base[0];
       const int32_t* const offset = taps.offset[0];
       for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, base + offset[i], sizeof(T));
+    } else if constexpr (sampling::kIsWhole<F>) {
+      BlendBytes(taps, first, n, to);
     } else {
-      alignas(64) T staged[kBlockRoom];
-      if constexpr (sampling::kIsWhole<F>) {
-        BlendBytes(taps, first, n, staged);
-      } else {
-        BlendNumbers(taps, first, n, staged);
-      }
-      std::memcpy(to, staged, n * sizeof(T));
+      BlendNumbers(taps, first, n, to);
     }
   }
 
@@ -74,10 +71,10 @@ class Blender {
   HWY_NOINLINE void BlendNumbers(const Taps& taps, ptrdiff_t first, ptrdiff_t n, T* to) const {
     const Taps at = taps;  // copies, which stores of values cannot change
     constexpr int kParts = kVectorsAtOnce<T, float>;
-    for (ptrdiff_t i = 0; i < n; i += kParts * kLanes) {
+    filter::MakeGroups<kParts * kLanes>(n, to, [&](ptrdiff_t i, T* out) HWY_ATTR {
       const auto part = [&](ptrdiff_t k) HWY_ATTR { return SumAt(at, first, i + k * kLanes); };
-      hn::StoreU(NarrowParts<T>(D(), part), hn::CappedTag<T, kLanes * kParts>(), to + i);
-    }
+      hn::StoreU(NarrowParts<T>(D(), part), hn::CappedTag<T, kLanes * kParts>(), out);
+    });
   }
 
   // As bytes of images, with a third step between planes.
@@ -88,7 +85,7 @@ class Blender {
     };
     const auto x = along(0), y = along(1), z = along(2);
     const auto plane = [&](int k) HWY_ATTR {
-      const auto even = hn::LoadU(Ints(), taps.offset[k] + i), odd = hn::LoadU(Ints(), taps.offset[k] + j);
+      const int32_t *const even = taps.offset[k] + i, *const odd = taps.offset[k] + j;
       const auto row = [&](const uint8_t* at) HWY_ATTR {
         return sampling::BetweenTaps(GatherWords(Ints(), at, even), GatherWords(Ints(), at, odd), x);
       };
@@ -99,12 +96,12 @@ class Blender {
   HWY_NOINLINE void BlendBytes(const Taps& from, ptrdiff_t first, ptrdiff_t n, T* to) const {
     const Taps taps = from;  // copies, which stores of values cannot change
     const hn::ScalableTag<uint8_t> bytes;
-    for (ptrdiff_t i = 0; i < n; i += 4 * kLanes) {
+    filter::MakeGroups<4 * kLanes>(n, to, [&](ptrdiff_t i, uint8_t* out) HWY_ATTR {
       const auto lower = BlendAlternate(taps, first, i, i + 2 * kLanes);
-      const auto upper = BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes);
-      hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes,
-                 reinterpret_cast<uint8_t*>(to) + i);
-    }
+      auto upper = lower;  // of few points the others are not used
+      if (n - i > kLanes) upper = BlendAlternate(taps, first, i + kLanes, i + 3 * kLanes);
+      hn::StoreU(sampling::Sorted(hn::BitCast(bytes, hn::Or(lower, hn::ShiftLeft<8>(upper)))), bytes, out);
+    });
   }
 
   Weigher<kTaps == 1 ? 2 : kTaps, float> weigh_;

@@ -1,5 +1,6 @@
 // Affine warps of volumes: each voxel takes the value at the point that it comes from.
 #include "base/types.h"
+#include "geometry/sample_border.h"
 #include "qvpi.h"
 #include "volume/sample.h"
 #include "volume/tile.h"
@@ -77,23 +78,49 @@ Extent PlanesOf(const WarpRecord& record, const VolumeTile& tile, const Source<T
   return {std::max(clamped(low) - before, all.begin), std::min(clamped(high) + behind + 1, all.end)};
 }
 
+// A row by points of its columns, or fixed points from anchors.
+template <int kTaps, class T>
+class RowWarper {
+ public:
+  RowWarper(const WarpRecord& record, const Source<T>& source)
+      : width_(record.dst.width), steps_(record.toSource), sampler_(source) {}
+
+  void operator()(const AffineRow& row, ptrdiff_t column, ptrdiff_t width, T* dst) {
+    const AffinePoints points(row, column);
+    const Extent inner = sampler_.InnerOf(points, width);
+    const bool isAnchored = steps_.IsUsableFor(row, width_);
+    const auto sample = [&](ptrdiff_t x, ptrdiff_t n) { Sample(points.From(x), isAnchored, n, dst + x); };
+    ForEachBlock(0, inner.begin, sample);
+    ForEachBlock(inner.begin, inner.end,
+                 [&](ptrdiff_t x, ptrdiff_t n) { SampleInner(points.From(x), isAnchored, n, dst + x); });
+    ForEachBlock(inner.end, width, sample);
+  }
+
+ private:
+  void SampleInner(const AffinePoints& points, bool isAnchored, ptrdiff_t n, T* dst) {
+    if (isAnchored && sampler_.SampleInner(AnchoredPoints(points, steps_, n), n, dst)) return;
+    sampler_.SampleInner(points, n, dst);
+  }
+  // Nearest voxels are those of exact points.
+  void Sample(const AffinePoints& points, bool isAnchored, ptrdiff_t n, T* dst) {
+    if constexpr (kTaps > 1) {
+      if (isAnchored) return sampler_.Sample(AnchoredPoints(points, steps_, n), n, dst);
+    }
+    sampler_.Sample(points, n, dst);
+  }
+
+  ptrdiff_t width_;  // of the whole destination
+  AnchorSteps steps_;
+  BlockSampler<kTaps, T> sampler_;
+};
+
 template <int kTaps, class T>
 void WarpBy(const Call<T>& call, const WarpRecord& record, const VolumeTile& tile, const Source<T>& source) {
-  BlockSampler<kTaps, T> sampler(source);
-  PointArrays points;
-  const auto& c = record.toSource.c;
+  RowWarper<kTaps, T> warp(record, source);
   for (ptrdiff_t z = 0; z < tile.depth; ++z) {
     const Image<T> dst = call.dst.Plane(z);
     for (ptrdiff_t y = 0; y < tile.height; ++y) {
-      const auto atY = static_cast<double>(tile.y + y), atZ = static_cast<double>(tile.z + z);
-      SampleRow(sampler, points, tile.width, dst.Row(y), [&](PointArrays& to, ptrdiff_t x, ptrdiff_t n) {
-        for (int k = 0; k < 3; ++k) {
-          const double down = c[k][1] * atY, back = c[k][2] * atZ + c[k][3], across = c[k][0];
-          const auto first = static_cast<int32_t>(tile.x + x);
-          double* const at = to.at[k];
-          for (int32_t i = 0; i < static_cast<int32_t>(n); ++i) at[i] = (across * (first + i) + down) + back;
-        }
-      });
+      warp(AffineRow(record.toSource, tile.y + y, tile.z + z), tile.x, tile.width, dst.Row(y));
     }
   }
 }

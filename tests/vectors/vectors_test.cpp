@@ -279,6 +279,7 @@ TEST(Vectors, CollectWordsFromBothSidesOfAnAddress) {
   int32_t offsets[kLanes];
   for (int i = 0; i < kLanes; ++i) offsets[i] = (i % 2 ? -1 : 1) * (5 * i + 3);
   const auto words = LanesOf(GatherWords(d, bytes.data() + 128, hn::LoadU(d, offsets)));
+  EXPECT_EQ(LanesOf(GatherWords(d, bytes.data() + 128, offsets)), words);
   const auto pairs = LanesOf(hn::BitCast(hn::ScalableTag<uint64_t>(), LoadWords<2>(bytes.data() + 128, offsets)));
   float table[2 * kLanes];
   for (int i = 0; i < 2 * kLanes; ++i) table[i] = static_cast<float>(i) / 4;
