@@ -5,8 +5,8 @@
 // Bytes fall into 16 bins of 16 values. Bins are followed at each pixel, values only of the bin that the median is in:
 // its counts are brought up from where they were needed last. All counts are cumulative, so that comparing them with a
 // place tells at once where it is.
-#include "filter/median.h"
 #include "base/unrolled.h"
+#include "filter/median.h"
 
 namespace qvp::filter {
 namespace {
