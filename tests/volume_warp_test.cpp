@@ -225,6 +225,19 @@ TEST(VolumeWarps, EveryMemberMethodAndBorder) {
   }
 }
 
+// Points in the middle between voxels, where fixed point is left, and slopes that are too steep for it.
+TEST(VolumeWarps, TiesAndSteepSlopes) {
+  constexpr Matrix kHalved = {{0.5, 0, 0, 0}, {0, 0.25, 0, 0.5}, {0, 0, 0.5, 0.25}};
+  constexpr Matrix kSteep = {{4.3, 0.5, 0, -20}, {0.2, 0.75, 0, 0}, {0, 0.1, 1, 0.5}};
+  for (const int method : kMethods) {
+    for (const char* name : {"qvprWarpAffine_8u_C1V", "qvprWarpAffine_32f_C1PV"}) {
+      const Export& function = test::FunctionNamed(name);
+      Check(function, {{90, 9, 6}, {170, 20, 9}, method, qvpBorderConst}, kHalved, kHalved);
+      Check(function, {{120, 9, 6}, {37, 9, 5}, method, qvpBorderTransparent}, kSteep, kSteep);
+    }
+  }
+}
+
 TEST(VolumeWarps, ForwardByTheInverse) {
   Matrix forward;
   ASSERT_EQ(qvprGetAffineInverse(kTurned, forward), 0);
