@@ -59,7 +59,7 @@ class WideKernel {
     const hn::ScalableTag<int16_t> words;
     for (ptrdiff_t i = 0; i < n; ++i, ++line, pair += 2) {
       const auto a = hn::BitCast(words, hn::Set(D(), pair[0])), b = hn::BitCast(words, hn::Set(D(), pair[1]));
-      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
         const auto pixel = hn::LoadU(words, reinterpret_cast<const int16_t*>(line + v * kLanes));
         sums[0][v] = hn::Add(sums[0][v], MulAddPairs(pixel, a));
         sums[1][v] = hn::Add(sums[1][v], MulAddPairs(pixel, b));

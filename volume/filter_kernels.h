@@ -52,12 +52,12 @@ class FloatSums {
   template <int kCount>
   HWY_INLINE void Run(const float* const* lines, ptrdiff_t at, T* upper, T* lower) const {
     V above[kCount], below[kCount];
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(D()); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { above[v] = below[v] = hn::Zero(D()); });
     ForEachLine(mask_, lines, coefficients_, mask_.width,
                 [&](const float* line, const float* k, const float* kBelow)
                     QVP_INLINED { Add<kCount>(line + at, k, kBelow, above, below); });
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, below[v], lower + v * kLanes); });
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, above[v], upper + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, below[v], lower + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { StoreReals(mode_, above[v], upper + v * kLanes); });
   }
 
  private:
@@ -73,7 +73,7 @@ class FloatSums {
     QVP_ROLLED
     for (ptrdiff_t x = 0; x < mask_.width; ++x) {
       const V a = hn::Set(D(), k[x]), b = hn::Set(D(), kBelow[x]);
-      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
         const V values = hn::LoadU(D(), line + x + v * kLanes);
         above[v] = hn::Add(above[v], hn::Mul(values, a));
         below[v] = hn::Add(below[v], hn::Mul(values, b));
@@ -85,7 +85,7 @@ class FloatSums {
     QVP_ROLLED
     for (ptrdiff_t x = 0; x < mask_.width; ++x) {
       const V a = hn::Set(D(), k[x]);
-      filter::Unrolled<kCount>(
+      Unrolled<kCount>(
           [&](auto v) QVP_INLINED { sums[v] = hn::Add(sums[v], hn::Mul(hn::LoadU(D(), line + x + v * kLanes), a)); });
     }
   }
@@ -144,14 +144,14 @@ class WordSums {
   template <int kCount>
   HWY_INLINE void Run(const int16_t* const* lines, ptrdiff_t at, T* upper, T* lower) const {
     Sums<kCount> above, below;
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+    Unrolled<kCount>([&](auto v) QVP_INLINED {
       above.even[v] = above.odd[v] = below.even[v] = below.odd[v] = hn::Set(Sum(), start_);
     });
     ForEachLine(mask_, lines, pairs_, (mask_.width + 1) / 2,
                 [&](const int16_t* line, const int32_t* k, const int32_t* kBelow)
                     QVP_INLINED { Add(line + at, k, kBelow, above, below); });
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { Store(below.even[v], below.odd[v], lower + v * kLanes); });
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { Store(above.even[v], above.odd[v], upper + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { Store(below.even[v], below.odd[v], lower + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { Store(above.even[v], above.odd[v], upper + v * kLanes); });
   }
 
  private:
@@ -163,7 +163,7 @@ class WordSums {
 
     HWY_INLINE void Add(const int16_t* from, int32_t pair) {
       const auto factors = hn::BitCast(D(), hn::Set(Sum(), pair));
-      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
         even[v] = hn::Add(even[v], MulAddPairs(hn::LoadU(D(), from + v * kLanes), factors));
         odd[v] = hn::Add(odd[v], MulAddPairs(hn::LoadU(D(), from + v * kLanes + 1), factors));
       });

@@ -139,11 +139,11 @@ class CubeMedian {
     constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
     const auto sort = [&](ptrdiff_t i) HWY_ATTR {
       V wires[3 * kRows], upper[kNine], lower[kNine];
-      filter::Unrolled<3 * kRows>([&](auto k)
+      Unrolled<3 * kRows>([&](auto k)
                                       QVP_INLINED { wires[k] = hn::LoadU(D(), lines[k % 3 * kRows + k / 3] + i); });
       filter::RunNetwork<CubeNetworks::kRows>(wires);
       const auto sorted = [&](int k) QVP_INLINED { return wires[CubeNetworks::kRows.results.wires[k]]; };
-      filter::Unrolled<kNine>([&](auto k) QVP_INLINED {
+      Unrolled<kNine>([&](auto k) QVP_INLINED {
         upper[k] = sorted(k);
         lower[k] = sorted(k < 3 ? kNine + k : k);
       });
@@ -154,14 +154,14 @@ class CubeMedian {
   }
   HWY_INLINE void StoreSorted(V (&wires)[kNine], E* to) const {
     filter::RunNetwork<CubeNetworks::kColumn>(wires);
-    filter::Unrolled<kNine>(
+    Unrolled<kNine>(
         [&](auto k) QVP_INLINED { hn::StoreU(wires[CubeNetworks::kColumn.results.wires[k]], D(), to + k * step_); });
   }
 
   HWY_NOINLINE void TakeMiddles(const E* sorted, ptrdiff_t n, T* to) const {
     StoreRow<T, E>(n, to, [&](ptrdiff_t i) HWY_ATTR {
       V wires[3 * kNine];
-      filter::Unrolled<3 * kNine>(
+      Unrolled<3 * kNine>(
           [&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), sorted + k % kNine * step_ + i + k / kNine); });
       filter::RunNetwork<CubeNetworks::kMiddle>(wires);
       return wires[CubeNetworks::kMiddle.results.wires[0]];
@@ -202,8 +202,8 @@ class CountedMedian {
         found[r][v] = hn::IfThenElse(hn::Gt(counts[r][v], most), found[r][v], candidates[r][v]);
       });
     }
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[1][v], lower + v * kLanes); });
-    filter::Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[0][v], upper + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[1][v], lower + v * kLanes); });
+    Unrolled<kCount>([&](auto v) QVP_INLINED { StoreVoxels<T>(found[0][v], upper + v * kLanes); });
   }
 
  private:
@@ -217,8 +217,8 @@ class CountedMedian {
 
   template <int kCount, class Body>
   HWY_INLINE static void ForEach(const Body& body) {
-    filter::Unrolled<kRows>([&](auto r)
-                                QVP_INLINED { filter::Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
+    Unrolled<kRows>([&](auto r)
+                                QVP_INLINED { Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
   }
 
   // Of each plane the first line is the upper row's alone, the last one the lower row's. Lines between them, an even
@@ -232,7 +232,7 @@ class CountedMedian {
       others[r][v] = hn::Zero(D());
     });
     const auto count = [&](auto r, const E* line, V(&sums)[kRows][kCount]) QVP_INLINED {
-      filter::Unrolled<kCount>([&](auto v) QVP_INLINED {
+      Unrolled<kCount>([&](auto v) QVP_INLINED {
         const auto isBelow = hn::Gt(candidates[r][v], hn::LoadU(D(), line + v * kLanes));
         sums[r][v] = hn::Sub(sums[r][v], hn::VecFromMask(D(), isBelow));
       });
