@@ -81,8 +81,7 @@ class PlanesSum {
       const auto value = [=](ptrdiff_t k, auto v)
                              QVP_INLINED { return hn::LoadU(D(), lines[k] + at + i + v * kLanes); };
       const auto sums = filter::SumsOfProducts<false, count>(taps, value);
-      Unrolled<count>([&](auto v)
-                                  QVP_INLINED { StoreReals(mode, hn::Add(sums[v], hn::Zero(D())), out + v * kLanes); });
+      Unrolled<count>([&](auto v) QVP_INLINED { StoreReals(mode, hn::Add(sums[v], hn::Zero(D())), out + v * kLanes); });
     });
   }
 

@@ -139,8 +139,7 @@ class CubeMedian {
     constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
     const auto sort = [&](ptrdiff_t i) HWY_ATTR {
       V wires[3 * kRows], upper[kNine], lower[kNine];
-      Unrolled<3 * kRows>([&](auto k)
-                                      QVP_INLINED { wires[k] = hn::LoadU(D(), lines[k % 3 * kRows + k / 3] + i); });
+      Unrolled<3 * kRows>([&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), lines[k % 3 * kRows + k / 3] + i); });
       filter::RunNetwork<CubeNetworks::kRows>(wires);
       const auto sorted = [&](int k) QVP_INLINED { return wires[CubeNetworks::kRows.results.wires[k]]; };
       Unrolled<kNine>([&](auto k) QVP_INLINED {
@@ -161,8 +160,8 @@ class CubeMedian {
   HWY_NOINLINE void TakeMiddles(const E* sorted, ptrdiff_t n, T* to) const {
     StoreRow<T, E>(n, to, [&](ptrdiff_t i) HWY_ATTR {
       V wires[3 * kNine];
-      Unrolled<3 * kNine>(
-          [&](auto k) QVP_INLINED { wires[k] = hn::LoadU(D(), sorted + k % kNine * step_ + i + k / kNine); });
+      Unrolled<3 * kNine>([&](auto k)
+                              QVP_INLINED { wires[k] = hn::LoadU(D(), sorted + k % kNine * step_ + i + k / kNine); });
       filter::RunNetwork<CubeNetworks::kMiddle>(wires);
       return wires[CubeNetworks::kMiddle.results.wires[0]];
     });
@@ -217,8 +216,7 @@ class CountedMedian {
 
   template <int kCount, class Body>
   HWY_INLINE static void ForEach(const Body& body) {
-    Unrolled<kRows>([&](auto r)
-                                QVP_INLINED { Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
+    Unrolled<kRows>([&](auto r) QVP_INLINED { Unrolled<kCount>([&](auto v) QVP_INLINED { body(r, v); }); });
   }
 
   // Of each plane the first line is the upper row's alone, the last one the lower row's. Lines between them, an even
