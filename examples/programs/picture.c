@@ -17,7 +17,7 @@ static int Fail(const char* path, const char* reason) {
 static unsigned char* ReadFile(const char* path, size_t* size) {
   FILE* file = fopen(path, "rb");
   const long length = file && !fseek(file, 0, SEEK_END) ? ftell(file) : -1;
-  unsigned char* bytes = length > 0 ? malloc(length) : NULL;
+  unsigned char* bytes = length > 0 && length < 1L << 30 ? malloc(length) : NULL;  // of a folder it is enormous
   if (bytes) {
     rewind(file);
     *size = fread(bytes, 1, length, file);
@@ -62,7 +62,7 @@ int LoadPicture(const char* path, int channels, Picture* picture) {
   size_t size = 0;
   unsigned char* bytes = ReadFile(path, &size);
   *picture = (Picture){0};
-  if (!bytes) return Fail(path, "it cannot be read, or is empty");
+  if (!bytes) return Fail(path, "it cannot be read, is empty, or above 1 GB");
   const int is_jpeg = size > 2 && bytes[0] == 0xFF && bytes[1] == 0xD8;
   const int good = (is_jpeg ? DecodeJpeg : DecodePng)(bytes, size, channels, picture, path);
   free(bytes);

@@ -39,10 +39,11 @@ static void RunStrips(const Picture* src, Picture* dst, const Between* between) 
 // The same by hand. Adding 1.5 * 2^23 rounds a float to a whole number, ties to even, as the functions do.
 static void RunLoop(const Picture* src, Picture* dst, const Between* unused) {
   (void)unused;
-  for (int y = 0; y < src->size.height; ++y) {
+  const int width = src->size.width, height = src->size.height;  // bytes that are stored could change src's
+  for (int y = 0; y < height; ++y) {
     const Qvp8u* from = src->pixels + (ptrdiff_t)y * src->step;
     Qvp8u* to = dst->pixels + (ptrdiff_t)y * dst->step;
-    for (int x = 0; x < src->size.width; ++x) {
+    for (int x = 0; x < width; ++x) {
       for (int c = 0; c < kChannels; ++c) {
         const Qvp32f scaled = from[kChannels * x + c] * kGain[c], bounded = scaled > kWhite[c] ? kWhite[c] : scaled;
         to[kChannels * x + c] = (Qvp8u)((bounded + 12582912) - 12582912);

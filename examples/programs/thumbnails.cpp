@@ -74,9 +74,10 @@ int main(int count, char** arguments) try {
     std::fprintf(stderr, "usage: %s FOLDER THUMBNAILS [SIDE]\n", arguments[0]);
     return 2;
   }
+  const auto pictures = PicturesIn(arguments[1]);
   fs::create_directories(arguments[2]);
   if (fs::equivalent(arguments[1], arguments[2])) throw std::runtime_error("the pictures would be lost");
-  return MakeThumbnails(PicturesIn(arguments[1]), arguments[2], side) == 0 ? 0 : 1;
+  return MakeThumbnails(pictures, arguments[2], side) == 0 ? 0 : 1;
 } catch (const std::exception& failure) {
   std::fprintf(stderr, "%s\n", failure.what());
   return 1;
