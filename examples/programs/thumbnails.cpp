@@ -55,8 +55,9 @@ std::size_t MakeThumbnails(const std::vector<fs::path>& pictures, const fs::path
     for (std::size_t i = next++; i < pictures.size(); i = next++) {
       try {
         MakeThumbnail(pictures[i], folder / pictures[i].filename(), side);
-      } catch (const std::exception&) {
-        ++failed;  // the reader has told why
+      } catch (const std::exception& failure) {
+        std::fprintf(stderr, "\n%s\n", failure.what());
+        ++failed;
       }
       const std::lock_guard lock(progress);
       ShowProgress(++done, pictures.size());
