@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Uses the page in a browser as a visitor does: each operation with its first and its greatest parameters, files of
-which one is no picture, camera, keyboard. The C code that the page shows is compiled, and must make the same pixels with
-the native library."""
+which one is no picture, camera, keyboard. The C code that the page shows is compiled, and must make the same pixels
+with the native library."""
 import argparse
 import base64
 import ctypes
@@ -30,6 +30,11 @@ let text = '';
 for (const byte of data) text += String.fromCharCode(byte);
 return [canvas.width, canvas.height, btoa(text)];
 """
+DROP = """
+const transfer = new DataTransfer(), bytes = Uint8Array.from(atob(arguments[0]), (letter) => letter.charCodeAt(0));
+transfer.items.add(new File([bytes], 'dropped.png', {type: 'image/png'}));
+document.body.dispatchEvent(new DragEvent('drop', {dataTransfer: transfer, bubbles: true, cancelable: true}));
+"""
 TWO_FRAMES = "const done = arguments[0]; requestAnimationFrame(() => requestAnimationFrame(done));"
 
 
@@ -50,8 +55,9 @@ def png(width, height):
 def browser(options):
     settings = webdriver.ChromeOptions()
     settings.binary_location = options.chromium
-    for argument in ["headless=new", "disable-gpu", "force-color-profile=srgb", "use-fake-ui-for-media-stream",
-                     "use-fake-device-for-media-stream", *(["no-sandbox"] if os.getuid() == 0 else [])]:
+    for argument in ["headless=new", "disable-gpu", "disable-dev-shm-usage", "force-color-profile=srgb",
+                     "use-fake-ui-for-media-stream", "use-fake-device-for-media-stream",
+                     *(["no-sandbox"] if os.getuid() == 0 else [])]:
         settings.add_argument(f"--{argument}")
     settings.set_capability("goog:loggingPrefs", {"browser": "ALL"})
     driver = webdriver.Chrome(service=Service(options.driver), options=settings)
@@ -81,9 +87,6 @@ class Page:
         require(set(data[3::4]) == {255}, name, "is transparent")
         del data[3::4]
         return width, height, bytes(data)
-
-    def open(self, file):
-        self.find("file").send_keys(str(file))
 
     def operations(self):
         return [entry.get_attribute("value") for entry in self.driver.find_elements(By.NAME, "operation")]
@@ -150,13 +153,16 @@ def look_at_code(found, before, options, scratch):
 
 def look_at_files(page, scratch):
     (scratch / "text.png").write_text("no picture")
-    page.open(scratch / "text.png")
+    page.find("file").send_keys(str(scratch / "text.png"))
     page.wait(lambda: "text.png is no picture" in page.find("message").text, "no message of a bad file")
     (scratch / "good.png").write_bytes(png(64, 48))
-    page.open(scratch / "good.png")
-    page.wait(lambda: page.pixels("before")[:2] == (64, 48), "the picture is not opened")
-    page.settle()
-    require(page.result()[1][:2] == (64, 48), "the operation is not applied to a new picture")
+    ways = {(64, 48): lambda: page.find("file").send_keys(str(scratch / "good.png")),
+            (31, 47): lambda: page.driver.execute_script(DROP, base64.b64encode(png(31, 47)).decode())}
+    for size, open_picture in ways.items():
+        open_picture()
+        page.wait(lambda: page.pixels("before")[:2] == size, "no picture of", str(size))
+        page.settle()
+        require(page.result()[1][:2] == size, "the operation is not applied to a new picture")
 
 
 def look_at_controls(page):
