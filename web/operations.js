@@ -206,7 +206,8 @@ export const kGroups = {
   'Black and white': [
     {run: blackAndWhite, title: 'Otsu\'s threshold', about: 'The level that parts dark and light best is found first.',
      parameters: []},
-    {run: localThreshold, title: 'Local threshold', about: 'Each pixel beside the mean around it, for texts.',
+    {run: localThreshold, title: 'Local threshold',
+     about: 'Each pixel is compared with the mean around it, which suits text under uneven light.',
      parameters: [maskSlider(101, 31), slider('delta', 'Tolerance', -20, 40, 1, 6)]},
   ],
   'Smooth': [
