@@ -36,13 +36,14 @@ macro(qvpi_machine name processor debian target protection emulator)
   endif()
 endmacro()
 
-# Writes what is derived from the headers to <folder>: FILES are outputs of tools/derive.py called with ARGS.
+# Writes what is derived from the headers, and other files that ARGS name, to <folder>: FILES are outputs of
+# tools/derive.py called with ARGS.
 function(qvpi_derive folder)
-  cmake_parse_arguments(PARSE_ARGV 1 D "" "" "FILES;ARGS;HEADERS")
+  cmake_parse_arguments(PARSE_ARGV 1 D "" "" "FILES;ARGS;HEADERS;DEPENDS")
   list(TRANSFORM D_FILES PREPEND ${folder}/ OUTPUT_VARIABLE outputs)
   add_custom_command(OUTPUT ${outputs}
     COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_ARGS} --out ${folder} ${D_HEADERS}
-    DEPENDS ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_HEADERS}
+    DEPENDS ${PROJECT_SOURCE_DIR}/tools/derive.py ${D_HEADERS} ${D_DEPENDS}
     COMMENT "Deriving ${D_FILES}" VERBATIM)
 endfunction()
 

@@ -1,19 +1,32 @@
-# The module for JavaScript, <build>/module/, and the archive for users of WebAssembly, made by `cpack`.
-#
-# The module has no JavaScript of emscripten's, and so needs of its surroundings only that they hear when memory grows.
-# Calls take up to 48 KiB of its stack, as a test knows.
-set(derived ${PROJECT_BINARY_DIR}/derived/module)
-file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
-qvpi_derive(${derived} FILES exports.txt ARGS --module HEADERS ${headers} ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
-file(CONFIGURE OUTPUT ${derived}/module.c CONTENT "// Nothing but the exports of the archives.\n")
-
+# The module for JavaScript, <build>/module/, that of the page in the browser, and the archive for users of WebAssembly,
+# made by `cpack`.
 get_property(cpu GLOBAL PROPERTY QVPI_CPU_BUILDS)
-add_executable(qvpi_module ${derived}/module.c ${derived}/exports.txt)
-target_link_libraries(qvpi_module PRIVATE qvpi_${cpu})
-target_link_options(qvpi_module PRIVATE -O3 --no-entry -sALLOW_MEMORY_GROWTH=1 -sTOTAL_STACK=131072
-  -sEXPORTED_FUNCTIONS=@${derived}/exports.txt)
-set_target_properties(qvpi_module PROPERTIES OUTPUT_NAME qvpi SUFFIX .wasm LINK_DEPENDS ${derived}/exports.txt
-  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/module)
+file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
+
+# qvpi.wasm in <build>/<folder>/, from the archives, with all functions, or those that the scripts name which follow.
+#
+# A module has no JavaScript of emscripten's, and so needs of its surroundings only that they hear when memory grows.
+# Calls take up to 48 KiB of its stack, as a test knows.
+function(qvpi_module target folder)
+  set(derived ${PROJECT_BINARY_DIR}/derived/${folder})
+  set(used)
+  if(ARGN)
+    set(used --used-in ${ARGN})
+  endif()
+  qvpi_derive(${derived} FILES exports.txt ARGS --module ${used} DEPENDS ${ARGN}
+    HEADERS ${headers} ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
+  file(CONFIGURE OUTPUT ${derived}/module.c CONTENT "// Nothing but the exports of the archives.\n")
+  add_executable(${target} ${derived}/module.c ${derived}/exports.txt)
+  target_link_libraries(${target} PRIVATE qvpi_${cpu})
+  target_link_options(${target} PRIVATE -O3 --no-entry -sALLOW_MEMORY_GROWTH=1 -sTOTAL_STACK=131072
+    -sEXPORTED_FUNCTIONS=@${derived}/exports.txt)
+  set_target_properties(${target} PROPERTIES OUTPUT_NAME qvpi SUFFIX .wasm LINK_DEPENDS ${derived}/exports.txt
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${folder})
+endfunction()
+
+qvpi_module(qvpi_module module)
+file(GLOB scripts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/web/*.js)
+qvpi_module(qvpi_page page ${scripts})
 configure_file(${PROJECT_SOURCE_DIR}/platform/wasm/qvpi.mjs ${PROJECT_BINARY_DIR}/module/qvpi.mjs COPYONLY)
 
 qvpi_install_headers(archive)

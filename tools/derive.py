@@ -21,7 +21,7 @@ and for the tests
 
 and for the module for JavaScript
 
-  exports.txt  the names as emscripten takes them, a line each
+  exports.txt  the names as emscripten takes them, a line each: all, or those that scripts use
 """
 import argparse
 import re
@@ -169,6 +169,12 @@ def calls(functions):
     return "\n".join(lines + ["{nullptr, nullptr, nullptr}};", "}  // namespace test"]) + "\n"
 
 
+def used(names, scripts):
+    """Those of the names that the scripts have in them."""
+    words = {word for script in scripts for word in re.findall(r"\w+", script.read_text())}
+    return [name for name in names if name in words]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cpu", help="code of the CPU build, as in g9; without it only an exports.map is written")
@@ -178,6 +184,7 @@ def main():
                         help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
     parser.add_argument("--module", action="store_true", help="write the module's exports.txt instead")
+    parser.add_argument("--used-in", nargs="+", type=Path, help="export to the module what these scripts name alone")
     parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
     parser.add_argument("--out", type=Path, required=True, help="folder to write to")
     parser.add_argument("headers", nargs="+", type=Path)
@@ -191,6 +198,7 @@ def main():
         write(options.out / "calls.cpp", calls(functions))
         return
     if options.module:
+        names = used(names, options.used_in) if options.used_in else names
         write(options.out / "exports.txt", "".join(f"_{name}\n" for name in ["malloc", "free", *names]))
         return
     write(options.out / "exports.map", exports(names))
