@@ -104,7 +104,7 @@ class Blender {
     });
   }
 
-  Weigher<kTaps == 1 ? 2 : kTaps, float> weigh_;
+  Weigher<std::max(kTaps, 2), float> weigh_;
 };
 
 }  // namespace qvp::volume
