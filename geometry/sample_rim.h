@@ -67,7 +67,9 @@ class Rimmed {
   void Copy(Extent columns, Extent rows, ptrdiff_t step, int taps) {
     const Task<T> source(task_);
     Area& area = task_.area;
-    task_.src.data = reinterpret_cast<const T*>(bytes_ - rows.begin * step - columns.begin * source.src.PixelBytes());
+    // The pixel at 0, which may lie outside of the copy.
+    const ptrdiff_t origin = rows.begin * step + columns.begin * source.src.PixelBytes();
+    task_.src.data = reinterpret_cast<const T*>(reinterpret_cast<intptr_t>(bytes_) - origin);
     task_.src.step = step;
     task_.ahead = 0;
     for (ptrdiff_t y = rows.begin; y < rows.end; ++y) {
