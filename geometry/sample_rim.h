@@ -67,9 +67,8 @@ class Rimmed {
   void Copy(Extent columns, Extent rows, ptrdiff_t step, int taps) {
     const Task<T> source(task_);
     Area& area = task_.area;
-    // The pixel at 0, which may lie outside of the copy.
-    const ptrdiff_t origin = rows.begin * step + columns.begin * source.src.PixelBytes();
-    task_.src.data = reinterpret_cast<const T*>(reinterpret_cast<intptr_t>(bytes_) - origin);
+    const uint8_t* const first = bytes_;  // the pixel at 0 may lie outside of the copy
+    task_.src.data = reinterpret_cast<const T*>(first - rows.begin * step - columns.begin * source.src.PixelBytes());
     task_.src.step = step;
     task_.ahead = 0;
     for (ptrdiff_t y = rows.begin; y < rows.end; ++y) {
