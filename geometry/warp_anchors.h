@@ -85,14 +85,10 @@ struct AnchoredPoints {
 
   template <class D>
   HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
-    HWY_ALIGN double xs[hn::MaxLanes(D())], ys[hn::MaxLanes(D())];
-    for (size_t k = 0; k < hn::Lanes(d); ++k) {
-      const ptrdiff_t at = column + i + static_cast<ptrdiff_t>(k), place = at % kAnchorColumns;
-      xs[k] = At(u, at - place, steps->u[place]);
-      ys[k] = At(v, at - place, steps->v[place]);
-    }
-    x = hn::Load(d, xs);
-    y = hn::Load(d, ys);
+    const ptrdiff_t place = (column + i) % kAnchorColumns;
+    const auto anchor = AnchorOf(d, column + i);
+    x = At(d, u, anchor, steps->u + place);
+    y = At(d, v, anchor, steps->v + place);
   }
 
   // The anchors of n columns from the first one's on.
@@ -113,8 +109,17 @@ struct AnchoredPoints {
   }
 
  private:
-  static double At(const Line& line, ptrdiff_t anchor, int32_t offset) {
-    return (NearestWhole(line.At(static_cast<double>(anchor))) + offset) / kUnits;
+  // The anchors of as many columns as there are lanes.
+  template <class D>
+  HWY_INLINE static hn::Vec<D> AnchorOf(D d, ptrdiff_t first) {
+    const auto columns = hn::Iota(d, static_cast<double>(first));
+    const auto count = hn::Floor(hn::Mul(columns, hn::Set(d, 1.0 / kAnchorColumns)));
+    return hn::Mul(count, hn::Set(d, kAnchorColumns));
+  }
+  template <class D>
+  HWY_INLINE static hn::Vec<D> At(D d, const Line& line, hn::Vec<D> anchor, const int32_t* offsets) {
+    const auto units = hn::Round(line.At(d, anchor));
+    return hn::Mul(hn::Add(units, LoadWide(d, offsets)), hn::Set(d, 1 / kUnits));
   }
 
   // Stores the fractions of anchors, and gives their whole pixels.
@@ -125,6 +130,35 @@ struct AnchoredPoints {
     const hn::Rebind<int64_t, D> words;
     hn::StoreU(hn::BitCast(words, hn::And(units, hn::Set(bits, (1 << kUnitBits) - 1))), words, fraction);
     return hn::ShiftRight<kUnitBits>(units);
+  }
+};
+
+// Points of a row that need a test: which of them have a value is told by exact ones. Those within bounds stay there.
+struct TestedPoints {
+  using Coordinate = double;
+  static constexpr bool kAreAllWritten = true, kIsLong = false;
+  AffinePoints exact;
+  AnchoredPoints anchored;
+  const Area* area;
+
+  TestedPoints From(ptrdiff_t x) const { return {exact.From(x), anchored.From(x), area}; }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    anchored.Load(d, i, x, y);
+    if (!area->isBounded) return;
+    const Interval across{area->left, area->right}, down{area->top, area->bottom};
+    hn::Vec<D> exactX, exactY;
+    exact.Load(d, i, exactX, exactY);
+    const auto isIn = hn::And(IsIn(d, across, exactX), IsIn(d, down, exactY));
+    x = hn::IfThenElse(isIn, Clamped(d, across, x), exactX);
+    y = hn::IfThenElse(isIn, Clamped(d, down, y), exactY);
+  }
+
+ private:
+  template <class D>
+  HWY_INLINE static hn::Vec<D> Clamped(D d, const Interval& to, hn::Vec<D> x) {
+    return hn::Min(hn::Max(x, hn::Set(d, to.low)), hn::Set(d, to.high));
   }
 };
 

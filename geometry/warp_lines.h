@@ -35,8 +35,8 @@ struct Line {
   }
 
   // Whether no step before column x loses more than 2^-27 by rounding.
+  static constexpr double kSmall = 1 << 24;
   bool IsSmall(double x) const {
-    constexpr double kSmall = 1 << 24;
     return std::fabs(a * x) < kSmall && std::fabs(b) < kSmall && std::fabs(c) < kSmall;
   }
 

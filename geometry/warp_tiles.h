@@ -78,7 +78,8 @@ void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
     } else {
       anchorSteps.Set(points.u.a, points.v.a);
       if (anchorSteps.IsUsableFor(points, record.width)) {
-        WarpRow<kTaps>(sources, spans, points, AnchoredPoints(points, anchorSteps, call.x), size.width, row);
+        const AnchoredPoints anchored(points, anchorSteps, call.x);
+        WarpRow<kTaps>(sources, spans, TestedPoints{points, anchored, &task.area}, anchored, size.width, row);
       } else {
         SampleTested<kTaps>(sources, points, 0, size.width, row);
       }

@@ -263,37 +263,94 @@ TEST(VolumeWarps, ShiftsCopy) {
   }
 }
 
-// The bits of the warp of each plane.
-TEST(VolumeWarps, LeaveDepthAlone) {
-  constexpr int kWidth = 60, kHeight = 40, kDepth = 3;
-  const double flat[2][3] = {{0.9, 0.3, -1.5}, {-0.25, 1.1, 1.25}};
-  const Matrix space = {{0.9, 0.3, 0, -1.5}, {-0.25, 1.1, 0, 1.25}, {0, 0, 1, 0}};
-  std::vector<Qvp8u> src(kWidth * kHeight * kDepth), planes(src), volume(src);
-  test::Random(3).Fill(src.data(), src.size());
+// ---- Where depth is left alone, each plane is the image warped.
+
+template <class T>
+using WarpImage = QvpStatus (*)(const T*, int, T*, int, QvpiPoint, QvpiSize, const QvpiWarpSpec*, Qvp8u*);
+template <class T>
+using WarpVolume = QvpStatus (*)(const T*, int, int, T*, int, int, QvprPoint, QvprVolume, const QvprWarpSpec*, Qvp8u*);
+
+template <class T>
+struct Twins {
+  QvpDataType type;
+  WarpImage<T> nearest, linear, cubic;
+  WarpVolume<T> volume;
+};
+
+template <class T>
+std::vector<T> WarpedPlane(const Twins<T>& f, const std::vector<T>& src, const Manner& m, const double (&flat)[2][3]) {
+  const QvpiSize from{m.src.width, m.src.height}, size{m.dst.width, m.dst.height};
   int bytes = 0, init = 0, work = 0;
-  ASSERT_EQ(qvpiWarpAffineGetSize({kWidth, kHeight}, {kWidth, kHeight}, qvp8u, flat, qvpInterpolationLinear,
-                                  qvpWarpBackward, qvpBorderReplicate, &bytes, &init),
+  EXPECT_EQ(qvpiWarpAffineGetSize(from, size, f.type, flat, m.interpolation, qvpWarpBackward, m.border, &bytes, &init),
             0);
-  const Block spec(bytes);
-  auto* const ofPlanes = reinterpret_cast<QvpiWarpSpec*>(spec.data());
-  ASSERT_EQ(qvpiWarpAffineLinearInit({kWidth, kHeight}, {kWidth, kHeight}, qvp8u, flat, qvpWarpBackward, 1,
-                                     qvpBorderReplicate, nullptr, 0, ofPlanes),
+  const Block room(bytes), initRoom(init);
+  auto* const spec = reinterpret_cast<QvpiWarpSpec*>(room.data());
+  const auto other = m.interpolation == qvpInterpolationNearest ? qvpiWarpAffineNearestInit : qvpiWarpAffineLinearInit;
+  EXPECT_EQ(m.interpolation == qvpInterpolationCubic
+                ? qvpiWarpAffineCubicInit(from, size, f.type, flat, qvpWarpBackward, 1, m.b, m.c, m.border, &kValue, 0,
+                                          spec, initRoom.data())
+                : other(from, size, f.type, flat, qvpWarpBackward, 1, m.border, &kValue, 0, spec),
             0);
-  ASSERT_EQ(qvpiWarpGetBufferSize(ofPlanes, {kWidth, kHeight}, &work), 0);
+  EXPECT_EQ(qvpiWarpGetBufferSize(spec, size, &work), 0);
   const Block buffer(work);
-  for (int z = 0; z < kDepth; ++z) {
-    const ptrdiff_t at = ptrdiff_t{z} * kWidth * kHeight;
-    ASSERT_EQ(qvpiWarpAffineLinear_8u_C1R(&src[at], kWidth, &planes[at], kWidth, {0, 0}, {kWidth, kHeight}, ofPlanes,
-                                          buffer.data()),
-              0);
-  }
-  const QvprVolume size{kWidth, kHeight, kDepth};
-  const Record record({size, size, qvpInterpolationLinear, qvpBorderReplicate}, qvp8u, space);
-  const Block room(record.BufferSize(size));
-  ASSERT_EQ(qvprWarpAffine_8u_C1V(src.data(), kWidth, kWidth * kHeight, volume.data(), kWidth, kWidth * kHeight,
-                                  {0, 0, 0}, size, record.spec(), room.data()),
+  std::vector<T> dst(size.width * size.height, T{kLeft});
+  const auto warp = m.interpolation == qvpInterpolationNearest  ? f.nearest
+                    : m.interpolation == qvpInterpolationLinear ? f.linear
+                                                                : f.cubic;
+  EXPECT_EQ(warp(src.data(), from.width * int{sizeof(T)}, dst.data(), size.width * int{sizeof(T)}, {0, 0}, size, spec,
+                 buffer.data()),
             0);
-  EXPECT_EQ(volume, planes);
+  return dst;
+}
+
+template <class T>
+std::vector<T> WarpedVolume(const Twins<T>& f, const std::vector<T>& src, const Manner& m, const Matrix& space) {
+  const Record record(m, f.type, space);
+  const Block room(record.BufferSize(m.dst));
+  std::vector<T> dst(m.dst.width * m.dst.height, T{kLeft});
+  const int step = m.src.width * int{sizeof(T)}, dstStep = m.dst.width * int{sizeof(T)};
+  EXPECT_EQ(f.volume(src.data(), step, step * m.src.height, dst.data(), dstStep, dstStep * m.dst.height, {0, 0, 0},
+                     m.dst, record.spec(), room.data()),
+            0);
+  return dst;
+}
+
+template <class T>
+void ExpectTwins(const Twins<T>& f) {
+  test::Random random(sizeof(T) + 40);
+  const auto number = [&](double low, double high) { return low + (high - low) * (random.Next() % 10007) / 10006; };
+  for (int i = 0; i < 90; ++i) {
+    const bool isLarge = i % 3 == 0;  // small images are warped from a copy
+    const QvprVolume src{isLarge ? 301 : 2 + int(random.Next() % 70), isLarge ? 170 : 2 + int(random.Next() % 50), 1};
+    constexpr int kMethods[] = {qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubic};
+    constexpr int kBorders[] = {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent};
+    const Manner m{
+        src, {20 + int(random.Next() % 90), 40, 1}, kMethods[random.Next() % 3], kBorders[random.Next() % 3]};
+    const double turn = number(-3, 3), zoom = i % 5 == 0 ? 1 : number(0.3, 2);
+    const double c = i % 5 == 0 ? 0.5 : zoom * std::cos(turn), s = i % 5 == 0 ? 0.25 : zoom * std::sin(turn);
+    const double x = number(-9, src.width), y = std::floor(number(-9, src.height));
+    const double flat[2][3] = {{c, s, x}, {-s, c, y}};
+    std::vector<T> pixels(src.width * src.height);
+    for (T& pixel : pixels) pixel = static_cast<T>(random.Next() % 60001);
+    const Matrix space = {{c, s, 0, x}, {-s, c, 0, y}, {0, 0, 1, 0}};
+    const std::vector<T> plane = WarpedPlane(f, pixels, m, flat), volume = WarpedVolume(f, pixels, m, space);
+    const auto at = std::mismatch(plane.begin(), plane.end(), volume.begin());
+    EXPECT_TRUE(at.first == plane.end()) << i << ": method " << m.interpolation << " border " << m.border << ", "
+                                         << src.width << "x" << src.height << ", " << +*at.first << " and "
+                                         << +*at.second << " at " << at.first - plane.begin();
+  }
+}
+
+TEST(VolumeWarps, LeaveDepthAlone) {
+  const auto expect = [](const auto& twins) { ExpectTwins(twins); };
+#define TWINS(type)                                                                                         \
+  expect(Twins<Qvp##type>{qvp##type, qvpiWarpAffineNearest_##type##_C1R, qvpiWarpAffineLinear_##type##_C1R, \
+                          qvpiWarpAffineCubic_##type##_C1R, qvprWarpAffine_##type##_C1V})
+  TWINS(8u);
+  TWINS(16u);
+  TWINS(16s);
+  TWINS(32f);
+#undef TWINS
 }
 
 TEST(VolumeWarps, ChecksInOrder) {

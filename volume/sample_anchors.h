@@ -18,8 +18,12 @@ class AnchorSteps {
     }
   }
 
-  // Whether a row of the whole destination can be placed by anchors, no matter which part of it is computed.
-  bool IsUsableFor(const AffineRow& row, ptrdiff_t width) const { return isShort_ && row.IsSmall(width); }
+  // Whether a row of the whole destination can be placed by anchors, no matter which part of it is computed. Nearest
+  // voxels must not be lost; others are as of images.
+  template <int kTaps>
+  bool IsUsableFor(const AffineRow& row, ptrdiff_t width) const {
+    return isShort_ && row.IsBelow(kTaps == 1 ? 1 << 21 : warp::Line::kSmall, width);
+  }
 
   int32_t of[3][warp::AnchorSteps::kColumns];
 
@@ -39,18 +43,24 @@ class AnchoredPoints {
 
   ptrdiff_t Lead() const { return lead_; }
 
+  // Points beyond the interval are as at its ends, which are whole: their taps are one voxel.
   template <int kTaps, class F>
-  HWY_INLINE SplitPoint<F> Split(int axis, ptrdiff_t i, const Interval&) const {
+  HWY_INLINE SplitPoint<F> Split(int axis, ptrdiff_t i, const Interval& most) const {
     static_assert(kTaps > 1);
-    const auto units = UnitsAt(axis, i);
-    return {WholeAt(axis, i, units), warp::FractionIn<F>(units)};
+    const IntLanes d;
+    const auto units = UnitsAt(axis, i), whole = WholeAt(axis, i, units);
+    const auto end = [&](double at) HWY_ATTR { return hn::Set(d, static_cast<int32_t>(at)); };
+    const auto isBeyond = hn::Or(hn::Lt(whole, end(most.low)), hn::Gt(whole, end(most.high - 1)));
+    const hn::Rebind<F, FloatLanes> fractions;
+    return {whole, hn::IfThenZeroElse(hn::RebindMask(fractions, isBeyond), warp::FractionIn<F>(units))};
   }
   // Nearest voxels: the least distance of points from the middle between two is told, so that all can be computed
   // another way where it is less than their error.
   template <int kTaps, class F>
   HWY_INLINE SplitPoint<F> SplitInner(int axis, ptrdiff_t i, hn::Vec<IntLanes>& closest) const {
     if constexpr (kTaps > 1) {
-      return Split<kTaps, F>(axis, i, {});
+      const auto units = UnitsAt(axis, i);
+      return {WholeAt(axis, i, units), warp::FractionIn<F>(units)};
     } else {
       const IntLanes d;
       const auto units = hn::Add(UnitsAt(axis, i), hn::Set(d, kOne / 2 + kTolerance));

@@ -35,12 +35,11 @@ struct AffineRow {
     return hn::Add(hn::Add(hn::Mul(hn::Set(d, across[axis]), column), hn::Set(d, down[axis])), hn::Set(d, back[axis]));
   }
 
-  // Whether no step before a column loses more than 2^-31 by rounding.
-  bool IsSmall(ptrdiff_t columns) const {
-    constexpr double kSmall = 1 << 21;
+  // Whether each step before a column is below a number: doubles below 2^n lose 2^(n - 53) at most.
+  bool IsBelow(double most, ptrdiff_t columns) const {
     for (int k = 0; k < 3; ++k) {
-      const double most = std::fabs(across[k] * static_cast<double>(columns));
-      if (!(most < kSmall && std::fabs(down[k]) < kSmall && std::fabs(back[k]) < kSmall)) return false;
+      const double last = std::fabs(across[k] * static_cast<double>(columns));
+      if (!(last < most && std::fabs(down[k]) < most && std::fabs(back[k]) < most)) return false;
     }
     return true;
   }

@@ -88,7 +88,7 @@ class RowWarper {
   void operator()(const AffineRow& row, ptrdiff_t column, ptrdiff_t width, T* dst) {
     const AffinePoints points(row, column);
     const Extent inner = sampler_.InnerOf(points, width);
-    const bool isAnchored = steps_.IsUsableFor(row, width_);
+    const bool isAnchored = steps_.template IsUsableFor<kTaps>(row, width_);
     const auto sample = [&](ptrdiff_t x, ptrdiff_t n) { Sample(points.From(x), isAnchored, n, dst + x); };
     ForEachBlock(0, inner.begin, sample);
     ForEachBlock(inner.begin, inner.end,
