@@ -14,6 +14,12 @@ inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low
   return {static_cast<double>(extent.begin) - taps + 1 + before, static_cast<double>(extent.end) + before};
 }
 
+template <int kTaps>
+PointBox TouchingBox(const Area& area) {
+  return {TouchingOf(area, kTaps, area.columns, area.left, area.right),
+          TouchingOf(area, kTaps, area.rows, area.top, area.bottom)};
+}
+
 inline Interval Common(const Interval& a, const Interval& b) {
   return {std::max(a.low, b.low), std::min(a.high, b.high)};
 }

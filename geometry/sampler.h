@@ -26,15 +26,6 @@ void FillBeyond(const Task<T>& task, ptrdiff_t n, T* dst) {
   }
 }
 
-// Points outside of it take nothing from the image, whatever the method. What is no number is left to a test.
-template <int kTaps>
-PointBox ReachedBox(const Area& a) {
-  const auto around = [](double low, double high) { return Interval{low - kTaps - 1, high + kTaps + 1}; };
-  if (a.isBounded) return {around(a.left, a.right), around(a.top, a.bottom)};
-  return {around(static_cast<double>(a.columns.begin), static_cast<double>(a.columns.end)),
-          around(static_cast<double>(a.rows.begin), static_cast<double>(a.rows.end))};
-}
-
 // A box in vectors of coordinates.
 template <class C>
 class BoxLanes {
@@ -124,7 +115,7 @@ void Sample(const Sources<T>& sources, const C* u, const C* v, ptrdiff_t n, T* d
   const Task<T>&task = sources.tested, &inside = sources.inside;
   if (AreAllInside(inside.interior, u, v, n)) return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
   constexpr ptrdiff_t kFewest = 3;  // points for which vectors pay
-  const PointKinds kinds(inside.interior, ReachedBox<kTaps>(task.area), u, v, n);
+  const PointKinds kinds(inside.interior, TouchingBox<kTaps>(task.area), u, v, n);
   const bool isBeyondKnown = IsBeyondKnown(task.area);
   const int channels = Channels(task.src.layout);
   for (ptrdiff_t first = 0, end; first < n; first = end) {

@@ -56,13 +56,6 @@ struct Spans {
 };
 
 template <int kTaps, class T>
-PointBox TouchingBox(const Task<T>& task) {
-  const Area& area = task.area;
-  return {TouchingOf(area, kTaps, area.columns, area.left, area.right),
-          TouchingOf(area, kTaps, area.rows, area.top, area.bottom)};
-}
-
-template <int kTaps, class T>
 Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& points, ptrdiff_t n) {
   const Area& area = task.area;
   const double begin = points.columns.first, last = begin + static_cast<double>(n - 1);
@@ -70,7 +63,7 @@ Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& po
   Spans spans{{0, n}, {n, n}};
   if (!(ends - ends == 0)) return spans;
   if (area.isBounded || area.kind == BorderKind::kConst) {
-    spans.touching = SpanOf(points, TouchingBox<kTaps>(task), n);
+    spans.touching = SpanOf(points, TouchingBox<kTaps>(area), n);
   }
   const Span inside = SpanOf(points, inner, n);
   spans.inside = inside.first < inside.end ? inside : Span{spans.touching.end, spans.touching.end};

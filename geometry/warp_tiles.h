@@ -147,7 +147,7 @@ void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   Rimmed<T> rimmed(task, kTaps);
   const Sources<T> sources{task, rimmed.task()};
   const PointBox inner = SafeBox(WithinImage(rimmed.InnerBox(kTaps), record));
-  const Outlines outlines(record, WithRim(TouchingBox<kTaps>(task), kRim), kRim, inner);
+  const Outlines outlines(record, WithRim(TouchingBox<kTaps>(task.area), kRim), kRim, inner);
   const bool isBeyondKnown = IsBeyondKnown(task.area);
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     Spans spans = outlines.At(call.x, call.y + y, size.width);
