@@ -7,6 +7,9 @@
 
 namespace qvp::sampling {
 
+// Whether points far enough outside take nothing from the image: they are left alone, or get the constant.
+inline bool IsBeyondKnown(const Area& area) { return area.isBounded || area.kind == BorderKind::kConst; }
+
 // The points of which some tap lies in the extent, or that are within the bounds.
 inline Interval TouchingOf(const Area& area, int taps, Extent extent, double low, double high) {
   if (area.isBounded) return {low - area.isSmooth, high + area.isSmooth};

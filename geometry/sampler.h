@@ -7,9 +7,6 @@
 
 namespace qvp::sampling {
 
-// Whether points far enough outside take nothing from the image: they are left alone, or get the constant.
-inline bool IsBeyondKnown(const Area& area) { return area.isBounded || area.kind == BorderKind::kConst; }
-
 // Finishes n points that are all beyond.
 template <class T>
 void FillBeyond(const Task<T>& task, ptrdiff_t n, T* dst) {

@@ -62,7 +62,7 @@ Spans SpansOf(const Task<T>& task, const PointBox& inner, const AffinePoints& po
   const double ends = (points.u.At(begin) + points.v.At(begin)) + (points.u.At(last) + points.v.At(last));
   Spans spans{{0, n}, {n, n}};
   if (!(ends - ends == 0)) return spans;
-  if (area.isBounded || area.kind == BorderKind::kConst) {
+  if (IsBeyondKnown(area)) {
     spans.touching = SpanOf(points, TouchingBox<kTaps>(area), n);
   }
   const Span inside = SpanOf(points, inner, n);

@@ -3,6 +3,7 @@
 
 #include "geometry/warp_anchors.h"
 #include "geometry/warp_outline.h"
+#include "geometry/warp_row_spans.h"
 #include "geometry/warp_rows.h"
 
 namespace qvp::warp {
@@ -67,11 +68,11 @@ void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
   task.FetchAhead(down(0), down(1));
   Rimmed<T> rimmed(task, kTaps);
   const Sources<T> sources{task, rimmed.task()};
-  const PointBox inner = SafeBox(rimmed.InnerBox(kTaps));
+  RowSpans<kTaps, T> rowSpans(record, task, SafeBox(rimmed.InnerBox(kTaps)), call.x, size);
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     T* row = call.dst.Row(y);
     AffinePoints points(record, call.x, call.y + y);
-    const Spans spans = SpansOf<kTaps>(task, inner, points, size.width);
+    const Spans spans = rowSpans.At(y, call.y + y, points);
     if constexpr (kIsExact<kTaps, T>) {
       if (isPlaced && fixedSteps.Set(points.u.a, points.v.a)) points.steps = &fixedSteps;
       WarpRow<kTaps>(sources, spans, points, points, size.width, row);
