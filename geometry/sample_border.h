@@ -43,19 +43,18 @@ inline bool AreAllOutside(int64_t first, int taps, Extent extent) {
   return first + taps <= extent.begin || first >= extent.end;
 }
 
-// Points are moved to the bounds or, far outside, to where all taps are beyond the extents.
+// Points are moved to the bounds or, far outside, to the first place where all taps are beyond the extent.
 template <int kTaps>
 BorderPoint Locate(const Area& area, double u, double v) {
   BorderPoint point;
-  double left = static_cast<double>(area.columns.begin) - kTaps, right = static_cast<double>(area.columns.end) + kTaps;
-  double top = static_cast<double>(area.rows.begin) - kTaps, bottom = static_cast<double>(area.rows.end) + kTaps;
+  Interval across = FarthestOf(area.columns, kTaps), down = FarthestOf(area.rows, kTaps);
   if (area.isBounded) {
-    left = area.left, right = area.right, top = area.top, bottom = area.bottom;
-    const double dx = Beyond(u, left, right), dy = Beyond(v, top, bottom);
+    across = {area.left, area.right}, down = {area.top, area.bottom};
+    const double dx = Beyond(u, across.low, across.high), dy = Beyond(v, down.low, down.high);
     if (dx >= 1 || dy >= 1 || (!area.isSmooth && (dx > 0 || dy > 0))) return point;
     point.share = (1 - dx) * (1 - dy);
   }
-  const double x = Clamped(u, left, right), y = Clamped(v, top, bottom);
+  const double x = Clamped(u, across.low, across.high), y = Clamped(v, down.low, down.high);
   const int64_t column = PixelOf<kTaps>(x), row = PixelOf<kTaps>(y);
   point.column = column - kTapsBefore(kTaps);
   point.row = row - kTapsBefore(kTaps);

@@ -68,9 +68,9 @@ class Rimmed {
   // Of a copy on the stack, with what kernels load behind the last tap.
   static constexpr int64_t kMostBytes = 24 << 10, kElementsBehind = 8;
 
-  // Of the last pixel with all taps only the first half counts, which is why there is one more.
+  // The taps of all points that are not moved, and of those that are.
   static Extent WithRim(Extent extent, int taps, int further) {
-    return {extent.begin - (taps - 1), extent.end + taps + further};
+    return {extent.begin - taps, extent.end + taps + further};
   }
 
   void Copy(Extent columns, Extent rows, ptrdiff_t step, int taps) {
@@ -87,7 +87,8 @@ class Rimmed {
     const auto inner = [&](Extent rimmed, Extent extent, double low, double high) {
       const Interval all = InteriorOf(rimmed, taps, further, false, 0, 0);
       if (area.isBounded) return Common(all, {low, high});
-      return area.kind == BorderKind::kConst ? Common(all, TouchingOf(area, taps, extent, low, high)) : all;
+      return Common(
+          all, area.kind == BorderKind::kConst ? TouchingOf(area, taps, extent, low, high) : FarthestOf(extent, taps));
     };
     task_.interior = {inner(columns, area.columns, area.left, area.right),
                       inner(rows, area.rows, area.top, area.bottom)};

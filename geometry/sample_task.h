@@ -57,6 +57,12 @@ constexpr int kTapsBefore(int taps) { return (taps - 1) / 2; }
 // How far before a pixel its points begin: the nearest pixel is half a pixel away at most, and others begin with it.
 constexpr double kPointsBefore(int taps) { return taps == 1 ? 0.5 : 0; }
 
+// Where points farther outside of an extent are moved to: whole coordinates, with all taps beyond the extent.
+inline Interval FarthestOf(Extent extent, int taps) {
+  const int before = kTapsBefore(taps);
+  return {static_cast<double>(extent.begin - taps + before), static_cast<double>(extent.end + before)};
+}
+
 // Pixels that are read behind the last tap: kernels load four elements, or a word, at once.
 constexpr int kFurther(int taps, int channels) { return taps == 1 || channels == 4 ? 0 : channels == 3 ? 1 : 3; }
 

@@ -99,7 +99,7 @@ class BlockSampler {
       auto isApart = hn::Zero(d), isBeyond = hn::Zero(d), isWritten = hn::Set(d, -1);
       for (int k = 0; k < 3; ++k) {
         const Extent extent = source_.axes[k];
-        const Interval most{static_cast<double>(extent.begin - kTaps), static_cast<double>(extent.end + kTaps)};
+        const Interval most = sampling::FarthestOf(extent, kTaps);
         const auto tap = Store(points.template Split<kTaps, F>(k, i, most), k, i);
         isApart = hn::Or(isApart, IsOutside(tap, extent.begin, extent.end - ReadAlong(k)));
         isBeyond = hn::Or(isBeyond, IsOutside(tap, extent.begin - kTaps + 1, extent.end - 1));
