@@ -5,6 +5,22 @@
 
 namespace qvp::warp {
 
+// Whole pixels, both ends included.
+struct PixelBox {
+  int32_t low[2], high[2];
+
+  PixelBox(const Area& area, int taps) {
+    const Interval axes[2] = {FarthestOf(area.columns, taps), FarthestOf(area.rows, taps)};
+    for (int k = 0; k < 2; ++k)
+      low[k] = static_cast<int32_t>(axes[k].low), high[k] = static_cast<int32_t>(axes[k].high);
+  }
+
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V Moved(D d, int axis, int32_t origin, V pixel) const {
+    return hn::Min(hn::Max(pixel, hn::Set(d, low[axis] - origin)), hn::Set(d, high[axis] - origin));
+  }
+};
+
 // Nearest pixels of an affine transform in fixed point: the distances of a block's points from its first one, in units
 // of 2^-18. They are rounded by half a unit, as is the first point itself; together with the rounding of doubles a
 // position is wrong by less than two units. Where one comes closer than that to the middle between two pixels, the
@@ -29,29 +45,47 @@ class FixedSteps {
   // Offsets of n interior points from (u, v) on, or false.
   template <int kPixelBytes>
   bool Place(double u, double v, ptrdiff_t n, int32_t step, int32_t* offset) const {
+    return PlaceKept<kPixelBytes>(u, v, n, step, offset, [](auto pixel, int, int32_t) HWY_ATTR { return pixel; });
+  }
+  // The same of any points, which are moved to the pixels of a box.
+  template <int kPixelBytes>
+  bool PlaceIn(const PixelBox& box, double u, double v, ptrdiff_t n, int32_t step, int32_t* offset) const {
+    return PlaceKept<kPixelBytes>(u, v, n, step, offset, [&](auto pixel, int axis, int32_t origin) HWY_ATTR {
+      return box.Moved(hn::ScalableTag<int32_t>(), axis, origin, pixel);
+    });
+  }
+
+ private:
+  // With keep(pixels, axis, origin) of pixels that are counted from an origin.
+  template <int kPixelBytes, class Keep>
+  HWY_INLINE bool PlaceKept(double u, double v, ptrdiff_t n, int32_t step, int32_t* offset, const Keep& keep) const {
     const hn::ScalableTag<int32_t> d;
     const int32_t column = WholeBelowOf(u), row = WholeBelowOf(v);
-    const auto origin = hn::Set(d, row * step + column * kPixelBytes), stride = hn::Set(d, step);
+    const auto origin = hn::Set(d, OffsetOf(row, step) + OffsetOf(column, kPixelBytes)), stride = hn::Set(d, step);
     const auto firstU = hn::Set(d, Start(u - column)), firstV = hn::Set(d, Start(v - row));
     const auto fraction = hn::Set(d, kOne - 1), bytes = hn::Set(d, kPixelBytes);
     auto closest = fraction;
     for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
       const auto x = hn::Add(firstU, hn::LoadU(d, u_ + i)), y = hn::Add(firstV, hn::LoadU(d, v_ + i));
       closest = hn::Min(closest, hn::Min(hn::And(x, fraction), hn::And(y, fraction)));
-      const auto px = hn::ShiftRight<kBits>(x), across = kPixelBytes == 1 ? px : hn::Mul(px, bytes);
-      hn::StoreU(hn::Add(hn::Add(hn::Mul(hn::ShiftRight<kBits>(y), stride), across), origin), d, offset + i);
+      const auto px = keep(hn::ShiftRight<kBits>(x), 0, column), py = keep(hn::ShiftRight<kBits>(y), 1, row);
+      const auto across = kPixelBytes == 1 ? px : hn::Mul(px, bytes);
+      hn::StoreU(hn::Add(hn::Add(hn::Mul(py, stride), across), origin), d, offset + i);
     }
     return hn::AllTrue(d, hn::Gt(closest, hn::Set(d, 2 * kTolerance - 1)));
   }
 
- private:
   // Whether the longest block stays within 31 bits.
   static bool IsShort(double a) { return a >= -16 && a <= 16; }
   static void Fill(double a, int n, int32_t* steps) {
     for (int i = 0; i < n; ++i) steps[i] = Rounded(a * i);
   }
   static int32_t Rounded(double x) { return static_cast<int32_t>(NearestWhole(x * kOne)); }
-  static int32_t WholeBelowOf(double x) { return static_cast<int32_t>(x + 1) - 1; }  // of interior points, from -1 on
+  static int32_t WholeBelowOf(double x) { return static_cast<int32_t>(std::floor(x)); }
+  // May wrap: sums of offsets are taken to 32 bits.
+  static int32_t OffsetOf(int32_t pixels, int32_t bytes) {
+    return static_cast<int32_t>(static_cast<uint32_t>(pixels) * static_cast<uint32_t>(bytes));
+  }
   // Half a pixel on, so that the pixel is the whole number below, and by the tolerance, so that it is on one side of
   // it.
   static int32_t Start(double fraction) { return Rounded(fraction) + kOne / 2 + kTolerance; }

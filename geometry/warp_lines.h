@@ -36,9 +36,7 @@ struct Line {
 
   // Whether no step before column x loses more than 2^-27 by rounding.
   static constexpr double kSmall = 1 << 24;
-  bool IsSmall(double x) const {
-    return std::fabs(a * x) < kSmall && std::fabs(b) < kSmall && std::fabs(c) < kSmall;
-  }
+  bool IsSmall(double x) const { return std::fabs(a * x) < kSmall && std::fabs(b) < kSmall && std::fabs(c) < kSmall; }
 
   // No column up to x is farther from the exact value.
   double RoundingUpTo(double x) const { return (std::fabs(a * x) + std::fabs(b) + std::fabs(c)) * 0x1p-51; }

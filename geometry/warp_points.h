@@ -22,10 +22,15 @@ struct AffinePoints {
 
   template <int kPixelBytes>
   bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
-    const double end = columns.first + static_cast<double>(n);
-    if (steps == nullptr || !u.IsSmall(end) || !v.IsSmall(end)) return false;
-    return steps->Place<kPixelBytes>(u.At(columns.first), v.At(columns.first), n, step, offset);
+    return IsPlaced(n) && steps->Place<kPixelBytes>(FirstU(), FirstV(), n, step, offset);
   }
+  // Whether n points can be placed in fixed point.
+  bool IsPlaced(ptrdiff_t n) const {
+    const double end = columns.first + static_cast<double>(n);
+    return steps != nullptr && u.IsSmall(end) && v.IsSmall(end);
+  }
+  double FirstU() const { return u.At(columns.first); }
+  double FirstV() const { return v.At(columns.first); }
 
   ptrdiff_t MostAtOnce() const { return kBlock; }
 
@@ -41,6 +46,36 @@ struct AffinePoints {
     const auto column = columns.Load(d, i);
     x = u.At(d, column);
     y = v.At(d, column);
+  }
+};
+
+// Points of a row anywhere, moved to a box where they are outside of it. What is no number is at its begin.
+struct MovedAffinePoints {
+  using Coordinate = double;
+  AffinePoints points;
+  const PixelBox* box;
+
+  MovedAffinePoints From(ptrdiff_t x) const { return {points.From(x), box}; }
+  ptrdiff_t MostAtOnce() const { return kBlock; }
+  static constexpr bool kIsLong = false;
+
+  template <int kPixelBytes>
+  bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
+    return points.IsPlaced(n) &&
+           points.steps->PlaceIn<kPixelBytes>(*box, points.FirstU(), points.FirstV(), n, step, offset);
+  }
+
+  template <class D>
+  HWY_INLINE void Load(D d, ptrdiff_t i, hn::Vec<D>& x, hn::Vec<D>& y) const {
+    points.Load(d, i, x, y);
+    x = Moved(d, 0, x);
+    y = Moved(d, 1, y);
+  }
+
+ private:
+  template <class D, class V = hn::Vec<D>>
+  HWY_INLINE V Moved(D d, int axis, V x) const {
+    return hn::Min(MaxOrSecond(x, hn::Set(d, box->low[axis])), hn::Set(d, box->high[axis]));
   }
 };
 

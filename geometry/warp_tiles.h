@@ -54,6 +54,13 @@ Task<T> TaskOf(const Call<T>& call, const Record& record) {
 template <int kTaps, class T>
 constexpr bool kIsExact = kTaps == 1 || std::is_same_v<T, double>;
 
+// A row of the nearest pixels of any points in a copy, where all have a pixel: moved to the rim where they are farther
+// outside, so that none is told from others.
+template <class T>
+void MoveNearestRow(const Task<T>& copy, const AffinePoints& points, const PixelBox& box, ptrdiff_t width, T* row) {
+  SampleInterior<1>(copy, MovedAffinePoints{points, &box}, {0, width}, row);
+}
+
 // Affine transforms, and bilinear ones to the source, which are affine on each row.
 template <int kTaps, class T>
 void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
@@ -68,15 +75,21 @@ void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
   task.FetchAhead(down(0), down(1));
   Rimmed<T> rimmed(task, kTaps);
   const Sources<T> sources{task, rimmed.task()};
+  const bool isWhole = isPlaced && rimmed.isCopy() && !task.area.isBounded;
+  const PixelBox farthest(task.area, kTaps);
   RowSpans<kTaps, T> rowSpans(record, task, SafeBox(rimmed.InnerBox(kTaps)), call.x, size);
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     T* row = call.dst.Row(y);
     AffinePoints points(record, call.x, call.y + y);
-    const Spans spans = rowSpans.At(y, call.y + y, points);
     if constexpr (kIsExact<kTaps, T>) {
       if (isPlaced && fixedSteps.Set(points.u.a, points.v.a)) points.steps = &fixedSteps;
-      WarpRow<kTaps>(sources, spans, points, points, size.width, row);
+      if (isWhole) {
+        MoveNearestRow(sources.inside, points, farthest, size.width, row);
+      } else {
+        WarpRow<kTaps>(sources, rowSpans.At(y, call.y + y, points), points, points, size.width, row);
+      }
     } else {
+      const Spans spans = rowSpans.At(y, call.y + y, points);
       anchorSteps.Set(points.u.a, points.v.a);
       if (anchorSteps.IsUsableFor(points, record.width)) {
         const AnchoredPoints anchored(points, anchorSteps, call.x);
