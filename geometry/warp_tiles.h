@@ -138,8 +138,12 @@ void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
   const PointBox inner = SafeBox(rimmed.InnerBox(kTaps));
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     const PerspectivePoints points(record, call.x, call.y + y);
-    if (!rimmed.isCopy()) FetchBelow(rimmed.task(), record, points, size.width / 2, call.y + y);
-    WarpQuickly<kTaps>(sources, SpansOf(points, inner, size.width), inner, points, size.width, call.dst.Row(y));
+    Spans spans{{0, size.width}, {size.width, size.width}};
+    if (!rimmed.isCopy()) {
+      FetchBelow(rimmed.task(), record, points, size.width / 2, call.y + y);
+      spans = SpansOf(points, inner, size.width);
+    }
+    WarpQuickly<kTaps>(sources, spans, inner, points, size.width, call.dst.Row(y));
   }
 }
 
