@@ -158,6 +158,12 @@ inline PointBox WithRim(const PointBox& box, double rim) {
   return {{box.u.low - rim, box.u.high + rim}, {box.v.low - rim, box.v.high + rim}};
 }
 
+// Of a copy, a few tested points more cost less than parts of a row that are worked on by themselves.
+inline Spans AsOne(const Spans& spans) {
+  const bool isOnlyInside = spans.inside.first == spans.touching.first && spans.inside.end == spans.touching.end;
+  return isOnlyInside ? spans : Spans{spans.touching, {spans.touching.end, spans.touching.end}};
+}
+
 template <int kTaps, class T>
 void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   constexpr double kRim = 1.0 / (1 << 10);  // more than the tolerance at the edge
@@ -170,6 +176,7 @@ void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     Spans spans = outlines.At(call.x, call.y + y, size.width);
     if (!isBeyondKnown) spans.touching = {0, size.width};
+    if (rimmed.isCopy()) spans = AsOne(spans);
     WarpQuickly<kTaps>(sources, spans, inner, BilinearPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
   }
 }
@@ -202,7 +209,8 @@ void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) 
   const Span rows = outlines.Rows(call.y, size.height);
   for (ptrdiff_t y = rows.first; y < rows.end; ++y) {
     const Spans spans = outlines.At(call.x, call.y + y, size.width);
-    WarpQuickly<kTaps>(sources, spans, quick, QuadPoints(record, call.x, call.y + y), size.width, call.dst.Row(y));
+    WarpQuickly<kTaps>(sources, rimmed.isCopy() ? AsOne(spans) : spans, quick, QuadPoints(record, call.x, call.y + y),
+                       size.width, call.dst.Row(y));
   }
 }
 
