@@ -39,9 +39,11 @@ struct Case {
     return std::string(what) + " " + std::to_string(from.width) + "x" + std::to_string(from.height) + " to " +
            std::to_string(to.width) + "x" + std::to_string(to.height);
   }
+  // The least ratio of full frames; elsewhere no peer may be ahead.
+  double Least(double ofFrames) const { return from.width == kHd.width ? ofFrames : 1; }
   Peer OpenCv(const char* name, int interpolation, double atLeast) const {
     return {name, [c = *this, interpolation] { cv::resize(c.source, c.target, c.target.size(), 0, 0, interpolation); },
-            atLeast};
+            Least(atLeast)};
   }
 };
 
@@ -61,19 +63,20 @@ void AddLinear(const char* what, const Case<T>& c, Init init, Function function,
        {c.OpenCv("OpenCV INTER_LINEAR", cv::INTER_LINEAR, atLeast)}});
 }
 
-void Linear() {
-  AddLinear("linear 8u C1", Case<uint8_t>(kHd, 0.6, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 3.6);
-  AddLinear("linear 8u C3", Case<uint8_t>(kHd, 0.6, 3), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C3R, 3);
-  AddLinear("linear 8u C4", Case<uint8_t>(kHd, 0.6, 4), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C4R, 3);
-  AddLinear("linear 32f C1", Case<float>(kHd, 0.6, 1), qvpiResizeLinearInit_32f, qvpiResizeLinear_32f_C1R, 2);
-  AddLinear("linear 16u C1", Case<uint16_t>(kHd, 0.6, 1), qvpiResizeLinearInit_16u, qvpiResizeLinear_16u_C1R, 3);
-  AddLinear("linear 8u C1", Case<uint8_t>(kHd, 1.5, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 4);
-  AddLinear("linear 8u C1", Case<uint8_t>(kHd, 0.25, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 3);
-  AddLinear("linear 8u C1", Case<uint8_t>(kTile, 0.6, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 3);
+void Linear(QvpiSize size) {
+  AddLinear("linear 8u C1", Case<uint8_t>(size, 0.6, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 3.6);
+  AddLinear("linear 8u C3", Case<uint8_t>(size, 0.6, 3), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C3R, 3);
+  AddLinear("linear 8u C4", Case<uint8_t>(size, 0.6, 4), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C4R, 3);
+  AddLinear("linear 32f C1", Case<float>(size, 0.6, 1), qvpiResizeLinearInit_32f, qvpiResizeLinear_32f_C1R, 2);
+  AddLinear("linear 16u C1", Case<uint16_t>(size, 0.6, 1), qvpiResizeLinearInit_16u, qvpiResizeLinear_16u_C1R, 3);
+  AddLinear("linear 32f C1", Case<float>(size, 1.5, 1), qvpiResizeLinearInit_32f, qvpiResizeLinear_32f_C1R, 1);
+  AddLinear("linear 8u C1", Case<uint8_t>(size, 1.5, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 4);
+  AddLinear("linear 8u C4", Case<uint8_t>(size, 1.5, 4), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C4R, 1);
+  AddLinear("linear 8u C1", Case<uint8_t>(size, 0.25, 1), qvpiResizeLinearInit_8u, qvpiResizeLinear_8u_C1R, 3);
 }
 
-void Nearest() {
-  const Case<uint8_t> c(kHd, 0.6, 1);
+void Nearest(QvpiSize size) {
+  const Case<uint8_t> c(size, 0.6, 1);
   Require(qvpiResizeNearestInit_8u(c.from, c.to, c.spec()));
   Add({c.Name("nearest 8u C1"),
        c.traffic(),
@@ -87,11 +90,12 @@ void AddCubic(const char* what, const Case<T>& c, Init init, Function function, 
   Add({c.Name(what), c.traffic(), OURS(function, BORDER), {c.OpenCv("OpenCV INTER_CUBIC", cv::INTER_CUBIC, atLeast)}});
 }
 
-void Taps() {
-  AddCubic("cubic 8u C1", Case<uint8_t>(kHd, 0.6, 1), qvpiResizeCubicInit_8u, qvpiResizeCubic_8u_C1R, 10);
-  AddCubic("cubic 8u C3", Case<uint8_t>(kHd, 0.6, 3), qvpiResizeCubicInit_8u, qvpiResizeCubic_8u_C3R, 6);
-  AddCubic("cubic 32f C1", Case<float>(kHd, 0.6, 1), qvpiResizeCubicInit_32f, qvpiResizeCubic_32f_C1R, 5);
-  const Case<uint8_t> c(kHd, 0.6, 1);
+void Taps(QvpiSize size) {
+  AddCubic("cubic 8u C1", Case<uint8_t>(size, 0.6, 1), qvpiResizeCubicInit_8u, qvpiResizeCubic_8u_C1R, 10);
+  AddCubic("cubic 8u C3", Case<uint8_t>(size, 0.6, 3), qvpiResizeCubicInit_8u, qvpiResizeCubic_8u_C3R, 6);
+  AddCubic("cubic 8u C3", Case<uint8_t>(size, 1.5, 3), qvpiResizeCubicInit_8u, qvpiResizeCubic_8u_C3R, 1);
+  AddCubic("cubic 32f C1", Case<float>(size, 0.6, 1), qvpiResizeCubicInit_32f, qvpiResizeCubic_32f_C1R, 5);
+  const Case<uint8_t> c(size, 0.6, 1);
   Require(qvpiResizeLanczosInit_8u(c.from, c.to, 3, c.spec(), c.buffer.get()));
   Add({c.Name("Lanczos 3 lobes 8u C1"),
        c.traffic(),
@@ -110,17 +114,17 @@ void AddSuper(const char* what, const Case<T>& c, Init init, Function function, 
                              libyuv::ScalePlane(c.src.get(), c.srcStep(), c.from.width, c.from.height, c.dst.get(),
                                                 c.dstStep(), c.to.width, c.to.height, libyuv::kFilterBox);
                            },
-                           c.to.width * 2 == c.from.width ? 1.0 : 1.2});
+                           c.Least(c.to.width * 2 == c.from.width ? 1.0 : 1.2)});
     }
   }
   Add(row);
 }
 
-void Super() {
-  AddSuper("super 8u C1", Case<uint8_t>(kHd, 0.6, 1), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C1R, 7);
-  AddSuper("super 8u C1", Case<uint8_t>(kHd, 0.5, 1), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C1R, 1);
-  AddSuper("super 8u C3", Case<uint8_t>(kHd, 0.6, 3), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C3R, 5);
-  AddSuper("super 32f C1", Case<float>(kHd, 0.6, 1), qvpiResizeSuperInit_32f, qvpiResizeSuper_32f_C1R, 4);
+void Super(QvpiSize size) {
+  AddSuper("super 8u C1", Case<uint8_t>(size, 0.6, 1), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C1R, 7);
+  AddSuper("super 8u C1", Case<uint8_t>(size, 0.5, 1), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C1R, 1);
+  AddSuper("super 8u C3", Case<uint8_t>(size, 0.6, 3), qvpiResizeSuperInit_8u, qvpiResizeSuper_8u_C3R, 5);
+  AddSuper("super 32f C1", Case<float>(size, 0.6, 1), qvpiResizeSuperInit_32f, qvpiResizeSuper_32f_C1R, 4);
 }
 
 // The whole of libvips's reduction, to a new image: in one thread, and without remembering results.
@@ -156,10 +160,12 @@ void Antialiasing() {
 }
 
 const bool kRegistered = [] {
-  Nearest();
-  Linear();
-  Taps();
-  Super();
+  for (const QvpiSize size : {kTile, QvpiSize{640, 480}, kHd}) {
+    Nearest(size);
+    Linear(size);
+    Taps(size);
+    Super(size);
+  }
   Antialiasing();
   return true;
 }();
