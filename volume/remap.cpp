@@ -43,11 +43,15 @@ QvpStatus Check(const Call<T>& call) {
   }
 }
 
-// All planes of the source that taps of points in the cuboid lie in, and those of the others.
+// All planes of the source that taps of points in the cuboid lie in.
 template <class T>
-bool HasPlanes(const Call<T>& call, Extent planes, int taps) {
+Extent PlanesOf(const Call<T>& call, Extent planes, int taps) {
   const ptrdiff_t before = sampling::kTapsBefore(taps), behind = taps - 1 - before, depth = call.srcSize.depth;
-  const Extent read{std::max<ptrdiff_t>(planes.begin - before, 0), std::min(planes.end + behind, depth)};
+  return {std::max<ptrdiff_t>(planes.begin - before, 0), std::min(planes.end + behind, depth)};
+}
+
+template <class T>
+bool HasPlanes(const Call<T>& call, Extent read) {
   const Extent written{0, call.size.depth};
   return call.src.HasPlanes(read) && call.maps[0].HasPlanes(written) && call.maps[1].HasPlanes(written) &&
          call.maps[2].HasPlanes(written) && call.dst.HasPlanes(written);
@@ -88,13 +92,15 @@ QvpStatus Remap(const Call<T>& call) {
   const Extent bounds[3] = {call.Clipped(c.x, c.width, call.srcSize.width),
                             call.Clipped(c.y, c.height, call.srcSize.height),
                             call.Clipped(c.z, c.depth, call.srcSize.depth)};
-  if (!HasPlanes(call, bounds[2], taps)) return qvpStatusNullPointer;
+  const Extent planes = PlanesOf(call, bounds[2], taps);
+  if (!HasPlanes(call, planes)) return qvpStatusNullPointer;
   Source<T> source{call.src,
                    {{0, call.srcSize.width}, {0, call.srcSize.height}, {0, call.srcSize.depth}},
                    BorderKind::kReplicate,
                    {},
                    {0, call.interpolation == qvpInterpolationCubicClassic ? 0.75 : 0.5}};
   source.SetBounds(bounds);
+  source.planes = planes;
   taps == 1 ? RemapBy<1>(call, source) : taps == 2 ? RemapBy<2>(call, source) : RemapBy<4>(call, source);
   return qvpStatusNoError;
 }

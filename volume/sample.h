@@ -4,6 +4,7 @@
 
 #include "volume/sample_anchors.h"
 #include "volume/sample_patches.h"
+#include "volume/sample_planes.h"
 
 namespace qvp::volume {
 
@@ -12,7 +13,11 @@ using sampling::TapsOf;
 template <int kTaps, class T>
 class BlockSampler {
  public:
-  explicit BlockSampler(const Source<T>& source) : source_(source), patches_(source), blend_(source.cubic) {}
+  explicit BlockSampler(const Source<T>& source)
+      : source_(source),
+        patches_(source),
+        blend_(source.cubic),
+        areNear_(source.volume.isArray && planes_.Set(source.volume, source.planes)) {}
 
   // Values at n points of a block to as many voxels.
   template <class Points>
@@ -50,9 +55,6 @@ class BlockSampler {
   static constexpr int kBefore = sampling::kTapsBefore(kTaps);
   // Kernels load words: what they read of a row from the first tap on.
   static constexpr int kRead = kTaps == 1 ? 1 : std::max(kTaps, 4 / static_cast<int>(sizeof(T)));
-  // In memory planes anywhere may be so far from each other.
-  static constexpr int64_t kFarthest = INT32_MAX / 2;
-  static constexpr ptrdiff_t kMostPlanes = 512;  // under a block
   static constexpr int ReadAlong(int axis) { return axis == 0 ? kRead : kTaps; }
 
   // Where a point's value comes from: from nowhere, or the constant alone; from taps that all lie in memory; from taps
@@ -166,39 +168,23 @@ class BlockSampler {
     }
   }
 
-  // Of planes that lie anywhere, each tap's has an offset of its own, from the foremost one.
+  // Of planes that lie anywhere, each tap's has an offset of its own. Where a call may read more planes than are near
+  // each other, those of a block still may be.
   bool SamplePlanes(ptrdiff_t first, ptrdiff_t end, T* dst) {
-    int32_t least = tap_[2][first], most = least;
-    for (ptrdiff_t i = first; i < end; ++i) least = std::min(least, tap_[2][i]), most = std::max(most, tap_[2][i]);
-    const Extent planes{least, ptrdiff_t{most} + kTaps};
-    int32_t places[kMostPlanes];
     const int64_t step = source_.volume.front.step;
     const int64_t within = (source_.axes[1].end + 8) * step + source_.axes[0].end * int64_t{sizeof(T)};
-    if (within > kFarthest || !FindPlanes(planes, places)) return false;
-    FindOffsets(first, end - first, static_cast<int32_t>(step), 0);
-    for (ptrdiff_t i = 0; i < end - first; ++i) {
-      const int32_t inPlane = offset_[0][i];
-      const int32_t* const place = places + (tap_[2][first + i] - planes.begin);
-      for (int k = 0; k < kTaps; ++k) offset_[k][i] = inPlane + place[k];
+    if (within > PlanePlaces::kFarthest) return false;
+    if (!areNear_) {
+      int32_t least = tap_[2][first], most = least;
+      for (ptrdiff_t i = first; i < end; ++i) least = std::min(least, tap_[2][i]), most = std::max(most, tap_[2][i]);
+      if (!planes_.Set(source_.volume, {least, ptrdiff_t{most} + kTaps})) return false;
     }
+    FindOffsets(first, end - first, static_cast<int32_t>(step), 0);
+    planes_.template AddTo<kTaps>(tap_[2] + first, end - first, offset_);
     Taps taps{static_cast<ptrdiff_t>(step), {}, {}};
-    const auto* const base = reinterpret_cast<const uint8_t*>(source_.volume.Plane(planes.begin).data);
-    for (int k = 0; k < kTaps; ++k) taps.base[k] = base, taps.offset[k] = offset_[k];
+    for (int k = 0; k < kTaps; ++k) taps.base[k] = planes_.base(), taps.offset[k] = offset_[k];
     blend_(taps, first, end - first, Voxel(dst, first));
     return true;
-  }
-  bool FindPlanes(Extent planes, int32_t (&places)[kMostPlanes]) const {
-    if (planes.end - planes.begin > kMostPlanes) return false;
-    const auto addressOf = [&](ptrdiff_t z) -> int64_t {
-      return reinterpret_cast<intptr_t>(source_.volume.Plane(z).data);
-    };
-    bool isFar = false;
-    for (ptrdiff_t z = planes.begin; z < planes.end; ++z) {
-      const int64_t place = addressOf(z) - addressOf(planes.begin);
-      isFar |= place > kFarthest || place < -kFarthest;
-      places[z - planes.begin] = static_cast<int32_t>(place);
-    }
-    return !isFar;
   }
 
   // ---- Points whose taps need a test
@@ -217,6 +203,8 @@ class BlockSampler {
   Patches<kTaps, T> patches_;
   ptrdiff_t lead_ = 0;  // points of a block that are in front of its first one
   Blender<kTaps, T> blend_;
+  PlanePlaces planes_;
+  bool areNear_;  // all that may be read
   alignas(64) int32_t tap_[3][kBlockRoom], offset_[kTaps][kBlockRoom], origin_[kBlockRoom];
 };
 

@@ -18,6 +18,7 @@ struct Source {
   CubicPolynomials<float> cubic;
   bool isBounded = false;  // points beyond the bounds are left alone
   Interval bounds[3] = {};
+  Extent planes{};  // that the call may read
 
   void SetBounds(const Extent (&to)[3]) {
     isBounded = true;

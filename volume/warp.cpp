@@ -130,9 +130,10 @@ QvpStatus Warp(const Call<T>& call) {
   if (const QvpStatus failed = Check(call)) return failed;
   const WarpRecord& record = *RecordIn<WarpRecord>(call.spec);
   const VolumeTile tile(call.offset, call.size, record.dst);
-  const Source<T> source = SourceOf(call, record);
+  Source<T> source = SourceOf(call, record);
   const int taps = TapsFor(record);
-  if (!call.src.HasPlanes(PlanesOf(record, tile, source, taps)) || !call.dst.HasPlanes({0, tile.depth})) {
+  source.planes = PlanesOf(record, tile, source, taps);
+  if (!call.src.HasPlanes(source.planes) || !call.dst.HasPlanes({0, tile.depth})) {
     return qvpStatusNullPointer;
   }
   taps == 1   ? WarpBy<1>(call, record, tile, source)
