@@ -1,0 +1,134 @@
+"""Pages of the manual that are made from the headers and the README: start, words, the table of types, C++ names."""
+import re
+from collections import defaultdict
+from pathlib import Path
+
+from names import layouts, parts
+from sections import MODULES
+
+NAME = re.compile(r"\bqvp[ir][A-Za-z]\w*")
+OVERLOAD = re.compile(r"^inline [^\n(]*?(?P<name>\w+)\((?P<parameters>.*)\) \{\n(?P<body>(?:[^}\n].*\n|\n)*)", re.M)
+
+
+def family_of_name(name, families):
+    """The family that a text means which has the name of a function or of an operation, or the beginning of some."""
+    for family in families:
+        if name in family.functions or any(parts(function)[0] == name for function in family.functions):
+            return family
+    begun = [family for family in families if any(function.startswith(name) for function in family.functions)]
+    if not begun:
+        raise SystemExit(f"{name}: no function is called that")
+    return begun[0]
+
+
+def linked(text, families):
+    """Names of operations as links to their families."""
+    return NAME.sub(lambda match: f'@ref {family_of_name(match[0], families).id} "{match[0]}"', text)
+
+
+def table(head, rows):
+    lines = [head, ["---"] * len(head), *rows]
+    return "".join("| " + " | ".join(line) + " |\n" for line in lines)
+
+
+def readme_table(readme, heading):
+    """The rows of the first table below a heading of the README."""
+    text = readme.split(f"# {heading}\n")[1]
+    rows = re.search(r"(?:^\|.*\n)+", text, re.M)[0].splitlines()[2:]
+    return [[cell.strip() for cell in row.strip("|").split(" | ")] for row in rows]
+
+
+def start(mainpage, families):
+    """The start page: what is told there, and the families of each header."""
+    text = mainpage
+    for module, title in MODULES.items():
+        rows = [[f'@ref {family.id} "{family.name}"', family.about, str(len(family.functions))]
+                for family in families if family.module == module and family.groups]
+        if rows:
+            text += f'\n<h2><a href="{page_of(module)}">{title}</a></h2>\n\n' + table(["family", "", "functions"], rows)
+    return text
+
+
+def modules():
+    """The groups that families belong to, in their order."""
+    return "".join(f"/** @defgroup {module} {title}\n *  Declared in {module}.h.\n */\n" for module, title in MODULES.items())
+
+
+def words(readme, families):
+    """Which function for what. Each row is a heading, so that it is found and linked to."""
+    rows = [[what, linked(how, families)] for what, how in readme_table(readme, "Which function for what")]
+    return ("# Which function for what {#words}\n\nTypes and layouts are in the names; C3 and C4 stand for colour images, "
+            "C1 for grey ones.\n\n" + table(["what you want", "functions"], rows))
+
+
+def search_words(readme, families):
+    """Words of the README by the family that they lead to."""
+    found = defaultdict(list)
+    for what, how in readme_table(readme, "Which function for what"):
+        for name in NAME.findall(how):
+            found[family_of_name(name, families).id].append(what)
+    return found
+
+
+def cell(forms):
+    """Layouts of an operation for its types, `_L` forms marked by an L."""
+    shown = defaultdict(set)
+    for word, is_wide in forms:
+        shown[word or "any"].add(is_wide)
+    return " ".join(word + ("" if True not in wide else "ᴸ") for word, wide in shown.items())
+
+
+def grid_rows(family):
+    """Operation, types, layouts, of each form of a family."""
+    forms = defaultdict(lambda: defaultdict(list))
+    for function in family.functions:
+        operation, types, layout = parts(function)
+        if types and layout:
+            forms[operation]["→".join(types)].append((layout, function.endswith("_L")))
+    return forms
+
+
+def grid(families):
+    """Which types and layouts each operation has."""
+    text = ("# Operations, types and layouts {#grid}\n\nEvery function that has a type and a layout in its name: "
+            "`qvpiAdd` for 8u with C3RSfs is `qvpiAdd_8u_C3RSfs`; ᴸ marks that there is a form with `_L`, too. "
+            "The table is made from the headers.\n\n@htmlonly\n<table class=\"grid\">"
+            "<tr><th>operation</th><th>type</th><th>layouts and modes</th></tr>\n")
+    for family in families:
+        for operation, by_type in grid_rows(family).items():
+            for number, (types, forms) in enumerate(by_type.items()):
+                first = f'<td rowspan="{len(by_type)}"><a href="{page_of(family.id)}">{operation}</a></td>'
+                text += f"<tr>{'' if number else first}<td>{types}</td><td>{cell(forms)}</td></tr>\n"
+    return text + "</table>\n@endhtmlonly\n"
+
+
+def page_of(identifier):
+    """The file that doxygen puts a group into."""
+    return "group__" + identifier.replace("_", "__") + ".html"
+
+
+def parameter_names(parameters):
+    """Of a list of parameters of C++, whose types may have commas, and their values."""
+    bare = re.sub(r"<[^<>]*(?:<[^<>]*>[^<>]*)*>|\{[^{}]*\}", "", parameters)
+    return ", ".join(re.findall(r"(\w+)(?: = [^,]*)?(?:,|$)", bare))
+
+
+def cpp_names(folder):
+    """{name in C++: ({its lists of parameters}, {operations of C})} of the derived headers."""
+    found = defaultdict(lambda: (set(), set()))
+    for header in sorted(Path(folder).glob("*.hpp")):
+        for match in OVERLOAD.finditer(header.read_text()):
+            called = [name for name in NAME.findall(match["body"]) if not name.split("_")[0].endswith("BufferSize")]
+            lists, operations = found[match["name"]]
+            lists.add(parameter_names(match["parameters"]))
+            operations.update(parts(name)[0] for name in called)
+    return found
+
+
+def cpp(folder, families):
+    """The functions of C++, beside those of C."""
+    rows = [[f"`{name}({min(lists, key=len)})`", linked(", ".join(sorted(operations)), families)]
+            for name, (lists, operations) in sorted(cpp_names(folder).items()) if operations]
+    return ("# Functions in C++ {#cpp}\n\n`#include <qvpi.hpp>` has in the namespace `qvp` one name for all types and "
+            "layouts of an operation; views and images tell which function of C is called. What it computes, and what is "
+            "refused, is told there.\n\n" + table(["C++", "C"], rows))
