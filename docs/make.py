@@ -44,8 +44,8 @@ def write_site(families):
     header = (OUT / "header.html").read_text()
     (OUT / "header.html").write_text(header.replace("</head>", '<script src="$relpath^find.js"></script>\n</head>'))
     run("doxygen", "docs/Doxyfile")
-    words = pages.search_words(Path("README.md").read_text(), families)
-    return find_index.write_index(OUT / "names.tag", words, HTML)
+    readme = Path("README.md").read_text()
+    return find_index.write_index(OUT / "names.tag", pages.search_words(readme, families), pages.word_entries(readme), HTML)
 
 
 def check():

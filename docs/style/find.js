@@ -4,16 +4,15 @@
 
 const LIMIT = 30;
 
-// Where a term stands tells how well it suits.
+// How well a term suits an entry: by its title, or by its words, which are phrases between commas.
 function score(entry, term) {
-  const title = entry.title.toLowerCase();
+  const title = entry.title.toLowerCase(), words = `, ${entry.words ?? entry.about.toLowerCase()},`;
   if (title === term) return 100;
   if (title.startsWith(term)) return 60;
-  const at = title.search(new RegExp(`(^|[^a-z0-9])${term}`));
-  if (at >= 0) return 45;
-  const words = ` ${entry.words}`;
-  if (words.includes(` ${term} `) || words.includes(` ${term},`)) return 40;
-  if (words.includes(` ${term}`)) return 25;
+  if (new RegExp(`(^|[^a-z0-9])${term}`).test(title)) return 45;
+  if (words.includes(`, ${term},`)) return 40;
+  if (words.includes(`, ${term}`)) return 35;
+  if (words.includes(` ${term}`)) return 20;
   return title.includes(term) ? 15 : 0;
 }
 
@@ -26,7 +25,7 @@ function find(entries, query) {
     const scores = terms.map((term) => score(entry, term));
     if (scores.every(Boolean)) found.push([scores.reduce((sum, value) => sum + value) - 4 * entry.rank, entry]);
   }
-  found.sort((a, b) => b[0] - a[0] || a[1].title.length - b[1].title.length);
+  found.sort((a, b) => b[0] - a[0]);
   return found.slice(0, LIMIT).map(([, entry]) => entry);
 }
 

@@ -21,12 +21,12 @@ def compound(node, words):
     kind, name = node.get("kind"), text(node, "name")
     title = text(node, "title") or name.removeprefix("qvp::errors_returned::").removeprefix("qvp::")
     return {"title": title, "url": file_of(node), "about": ABOUT[kind], "rank": RANKS[kind],
-            "words": " ".join([*words.get(name, []), name.replace("_", " ")]).lower()}
+            "words": ", ".join([*words.get(name, []), name.replace("_", " ")]).lower()}
 
 
 def member(node, owner):
     url = f"{text(node, 'anchorfile')}#{text(node, 'anchor')}"
-    return {"title": text(node, "name"), "url": url, "about": owner, "rank": RANKS["function"], "words": owner.lower()}
+    return {"title": text(node, "name"), "url": url, "about": owner, "rank": RANKS["function"]}
 
 
 def members(node, owner):
@@ -51,14 +51,14 @@ def entries(tags, words):
 def headings(page):
     """(anchor, title) of what a page has headings for."""
     return [(anchor, re.sub(r"<[^>]+>", "", title).strip()) for anchor, title in re.findall(
-        r'<h[23][^>]*>\s*<a class="anchor" id="([^"]+)"></a>\s*(.*?)</h[23]>', page, re.S)]
+        r'<h[1-4][^>]*>\s*<a class="anchor" id="([^"]+)"></a>\s*(.*?)</h[1-4]>', page, re.S)]
 
 
-def write_index(tags, words, html):
-    """Writes find-index.js; words are of groups, by their names."""
-    found = entries(tags, words)
+def write_index(tags, words, rows, html):
+    """Writes find-index.js; words are of groups, by their names; rows are entries as they are."""
+    found = rows + entries(tags, words)
     for entry in [entry for entry in found if entry["about"] == "page"]:
         for anchor, title in headings((html / entry["url"]).read_text()):
-            found.append({"title": title, "url": f"{entry['url']}#{anchor}", "about": entry["title"], "rank": 1, "words": ""})
-    (html / "find-index.js").write_text("window.FIND_INDEX = " + json.dumps(found, ensure_ascii=False) + ";\n")
+            found.append({"title": title, "url": f"{entry['url']}#{anchor}", "about": entry["title"], "rank": 1})
+    (html / "find-index.js").write_text("window.FIND_INDEX = " + json.dumps(found, ensure_ascii=False, separators=(",", ":")) + ";\n")
     return len(found)

@@ -8,6 +8,7 @@ from sections import MODULES
 
 NAME = re.compile(r"\bqvp[ir][A-Za-z]\w*")
 OVERLOAD = re.compile(r"^inline [^\n(]*?(?P<name>\w+)\((?P<parameters>.*)\) \{\n(?P<body>(?:[^}\n].*\n|\n)*)", re.M)
+WORDS = "Which function for what"
 
 
 def family_of_name(name, families):
@@ -55,16 +56,23 @@ def modules():
 
 
 def words(readme, families):
-    """Which function for what. Each row is a heading, so that it is found and linked to."""
-    rows = [[what, linked(how, families)] for what, how in readme_table(readme, "Which function for what")]
-    return ("# Which function for what {#words}\n\nTypes and layouts are in the names; C3 and C4 stand for colour images, "
+    """Which function for what. Each row has a place that the search leads to."""
+    rows = [[f"@anchor word_{number} {what}", linked(how, families)]
+            for number, (what, how) in enumerate(readme_table(readme, WORDS))]
+    return (f"# {WORDS} {{#words}}\n\nTypes and layouts are in the names; C3 and C4 stand for colour images, "
             "C1 for grey ones.\n\n" + table(["what you want", "functions"], rows))
+
+
+def word_entries(readme):
+    """The rows of that page for the search."""
+    return [{"title": what, "url": f"words.html#word_{number}", "about": how, "rank": 0}
+            for number, (what, how) in enumerate(readme_table(readme, WORDS))]
 
 
 def search_words(readme, families):
     """Words of the README by the family that they lead to."""
     found = defaultdict(list)
-    for what, how in readme_table(readme, "Which function for what"):
+    for what, how in readme_table(readme, WORDS):
         for name in NAME.findall(how):
             found[family_of_name(name, families).id].append(what)
     return found
