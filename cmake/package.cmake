@@ -10,12 +10,6 @@ if(TARGET python)
     PATTERN __pycache__ EXCLUDE)
 endif()
 
-# The manual, once it was made.
-if(EXISTS ${PROJECT_BINARY_DIR}/docs/html/index.html)
-  install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION share/doc/libqvpi-doc COMPONENT libqvpi-doc EXCLUDE_FROM_ALL)
-  install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/man/ DESTINATION share/man COMPONENT libqvpi-doc EXCLUDE_FROM_ALL)
-endif()
-
 # Without a CPU build for it, a package has no files and is not made.
 get_cmake_property(CPACK_COMPONENTS_ALL COMPONENTS)
 list(FILTER CPACK_COMPONENTS_ALL INCLUDE REGEX "^(libqvp|python3-qvpi)")
@@ -70,14 +64,6 @@ else()
   set(CPACK_DEBIAN_LIBQVPI-DEV_DESCRIPTION "Headers for C and C++, static archives, and files for CMake and pkg-config.")
 endif()
 
-set(CPACK_DEBIAN_LIBQVPI-DOC_PACKAGE_NAME libqvpi-doc)
-set(CPACK_DEBIAN_LIBQVPI-DOC_PACKAGE_SECTION doc)
-set(CPACK_DEBIAN_LIBQVPI-DOC_PACKAGE_ARCHITECTURE all)
-set(CPACK_DEBIAN_LIBQVPI-DOC_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_DEBIAN_LIBQVPI-DOC_DESCRIPTION
-"The manual, in /usr/share/doc/libqvpi-doc/html/index.html.
-A man page for each function, too.")
-
 set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_NAME python3-qvpi)
 set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SECTION python)
 set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_ARCHITECTURE ${QVPI_DEBIAN_ARCHITECTURE})
@@ -91,6 +77,8 @@ set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SHLIBDEPS OFF)
 
 set(CPACK_PACKAGE_NAME qvpi)
 set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
+# The manual's package is made by `./dev package` with dpkg-deb: CPack would ask of each of its 4,000 files what it is.
+configure_file(cmake/doc-control.in ${PROJECT_BINARY_DIR}/install/doc-control @ONLY)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
