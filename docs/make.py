@@ -37,6 +37,7 @@ def write_pages(families, options):
         (PAGES / file.name).write_text(file.read_text().replace("\n", f" {{#{file.stem.replace('-', '_')}}}\n", 1))
     run(sys.executable, "docs/drawings.py", str(HTML))
     run(sys.executable, "docs/gallery.py", str(options.picture), str(HTML), str(PAGES / "gallery.md"))
+    run(sys.executable, "docs/accuracy.py", str(PAGES / "accuracy.md"))
 
 
 def write_site(families):
