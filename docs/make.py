@@ -16,6 +16,8 @@ from sections import all_families  # noqa: E402
 
 OUT = Path("build/docs")
 HTML, PAGES = OUT / "html", OUT / "pages"
+# Parts of the manual that are not always there, by what the start page calls them.
+OPTIONAL = {"@subpage trust": Path("docs/trust.md"), "try.html": Path("build/wasm/page/qvpi.html")}
 TEXTS = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs", "include", "build/docs/pages"]
 
 
@@ -24,20 +26,38 @@ def run(*command):
         raise SystemExit(f"{command[0]} failed")
 
 
+def mainpage():
+    """The start page without the lines on what is missing."""
+    missing = [name for name, file in OPTIONAL.items() if not file.exists()]
+    lines = Path("docs/mainpage.md").read_text().splitlines(keepends=True)
+    return "".join(line for line in lines if not any(name in line for name in missing))
+
+
+def copy_texts(families):
+    """Pages that are read outside of the manual, too, under a name for links."""
+    for file in [OUT / "python.md", *map(Path, ["docs/from-numpy.md", "docs/porting.md", "docs/trust.md"])]:
+        if file.exists():
+            text = file.read_text().replace("\n", f" {{#{file.stem.replace('-', '_')}}}\n", 1)
+            (PAGES / file.name).write_text(pages.linked(text, families) if file.stem == "porting" else text)
+    if OPTIONAL["try.html"].exists():
+        shutil.copy(OPTIONAL["try.html"], HTML / "try.html")
+
+
 def write_pages(families, options):
     """The pages that are made; those of docs/pages are as they are."""
     readme = Path("README.md").read_text()
-    for name, text in {"index": pages.start(Path("docs/mainpage.md").read_text(), families),
+    for name, text in {"index": pages.start(mainpage(), families),
                        "words": pages.words(readme, families), "grid": pages.grid(families),
                        "cpp": pages.cpp(options.cpp, families)}.items():
         (PAGES / f"{name}.md").write_text(text)
     (PAGES / "modules.dox").write_text(pages.modules())
     run(sys.executable, "tools/derive_stubs.py", "--pages", "python/qvpi", str(OUT))
-    for file in [OUT / "python.md", Path("docs/from-numpy.md")]:
-        (PAGES / file.name).write_text(file.read_text().replace("\n", f" {{#{file.stem.replace('-', '_')}}}\n", 1))
+    copy_texts(families)
     run(sys.executable, "docs/drawings.py", str(HTML))
     run(sys.executable, "docs/gallery.py", str(options.picture), str(HTML), str(PAGES / "gallery.md"))
-    run(sys.executable, "docs/accuracy.py", str(PAGES / "accuracy.md"))
+    run(sys.executable, "docs/accuracy.py", str(OUT / "accuracy.md"))
+    (PAGES / "accuracy.md").write_text(pages.linked((OUT / "accuracy.md").read_text(), families))
+    (PAGES / "speed.md").write_text(pages.speed(Path("build/bench/report.md"), Path("docs/speed.md")))
 
 
 def write_site(families):
@@ -46,17 +66,19 @@ def write_site(families):
     (OUT / "header.html").write_text(header.replace("</head>", '<script src="$relpath^find.js"></script>\n</head>'))
     run("doxygen", "docs/Doxyfile")
     readme = Path("README.md").read_text()
-    return find_index.write_index(OUT / "names.tag", pages.search_words(readme, families), pages.word_entries(readme), HTML)
+    words, rows = pages.search_words(readme, families), pages.word_entries(readme)
+    return find_index.write_index(OUT / "names.tag", words, rows, HTML)
 
 
 def check():
-    """Links that lead nowhere, words that are misspelt, parameters that are not documented."""
-    found = [f"{page}: {link} leads nowhere" for page, link in links.broken(HTML)]
+    """Links that lead nowhere, names that are none, words that are misspelt, parameters that are not documented."""
+    found = [f"{file}: there is no {name}" for file, name in pages.unknown_names("include", TEXTS)]
+    found += [f"{page}: {link} leads nowhere" for page, link in links.broken(HTML)]
     print("\n".join(found[:40]))
     run("codespell", "--ignore-words", "docs/spelling.txt", *TEXTS)
     run(sys.executable, "tools/check_docs.py")
     if found:
-        raise SystemExit(f"{len(found)} links lead nowhere")
+        raise SystemExit(f"{len(found)} mistakes")
 
 
 def main():

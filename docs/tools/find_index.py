@@ -59,6 +59,8 @@ def write_index(tags, words, rows, html):
     found = rows + entries(tags, words)
     for entry in [entry for entry in found if entry["about"] == "page"]:
         for anchor, title in headings((html / entry["url"]).read_text()):
-            found.append({"title": title, "url": f"{entry['url']}#{anchor}", "about": entry["title"], "rank": 1})
-    (html / "find-index.js").write_text("window.FIND_INDEX = " + json.dumps(found, ensure_ascii=False, separators=(",", ":")) + ";\n")
+            url = f"{entry['url']}#{anchor}"
+            found.append({"title": title, "url": url, "about": entry["title"], "rank": 1})
+    text = json.dumps(found, ensure_ascii=False, separators=(",", ":"))
+    (html / "find-index.js").write_text(f"window.FIND_INDEX = {text};\n")
     return len(found)

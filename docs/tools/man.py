@@ -37,7 +37,8 @@ def paragraph(text):
 
 
 def body(text):
-    text = re.sub(r"@code\n(.*?)@endcode", lambda match: re.sub(r"^", "    ", match[1].rstrip(), flags=re.M), text, flags=re.S)
+    text = re.sub(r"@code\n(.*?)@endcode", lambda code: re.sub(r"^", "    ", code[1].rstrip(), flags=re.M), text,
+                  flags=re.S)
     return "".join(paragraph(part) for part in re.split(r"\n\s*\n", text.strip("\n")) if part.strip())
 
 
@@ -77,8 +78,8 @@ def page(family, comment, prototypes, prototype, version):
 def overview(header, version):
     """qvpi(7): the conventions of every function, from the comment on a header."""
     text = plain(re.search(r"/\*\* @file \S+\n(.*?)\*/", header.read_text(), re.S)[1])
-    return (f'.TH qvpi 7 "" "qvpIP {version}" "Conventions"\n.nh\n.ad l\n.SH NAME\nqvpi \\- image\\-processing primitives for pixels in '
-            f"memory\n.SH DESCRIPTION\n{body(text)}")
+    return (f'.TH qvpi 7 "" "qvpIP {version}" "Conventions"\n.nh\n.ad l\n.SH NAME\n'
+            f"qvpi \\- image\\-processing primitives for pixels in memory\n.SH DESCRIPTION\n{body(text)}")
 
 
 def write(file, text):

@@ -3,10 +3,11 @@ import re
 
 TYPE = re.compile(r"(\d+)(uc|sc|fc|u|s|f)")
 TYPES = {"u": "unsigned", "s": "signed", "f": "float", "fc": "complex float", "sc": "complex signed"}
-LAYOUTS = {"C1": "1 channel", "C2": "2 channels", "C3": "3 channels", "C4": "4 channels", "AC4": "3 of 4 channels, alpha stays",
-           "P2": "2 planes", "P3": "3 planes", "P4": "4 planes", "V": "volume", "PV": "planes of a volume"}
+LAYOUTS = {"C1": "1 channel", "C2": "2 channels", "C3": "3 channels", "C4": "4 channels",
+           "AC4": "3 of 4 channels, alpha stays", "AP4": "4 planes, the last alpha", "P2": "2 planes",
+           "P3": "3 planes", "P4": "4 planes", "V": "volume", "PV": "planes of a volume"}
 ENDS = {"M": "under a mask", "I": "in place", "Sfs": "with a scale factor"}
-LAYOUT = re.compile(r"AC4|C[1234]|P[234]|PV|V")
+LAYOUT = re.compile(r"AC4|AP4|C[1234]|P[234]|PV|V")
 PART = re.compile(LAYOUT.pattern + "|Sfs|[MIR]")
 
 
@@ -17,7 +18,7 @@ def parts(name):
     for word in words[1:]:
         if re.fullmatch(r"(?:\d+(?:[usf]c?))+", word) and not layout:
             types = [a + b for a, b in TYPE.findall(word)]
-        elif types and re.fullmatch(r"(?:AC4|C\d|P\d|P?V)+(?:[A-Z]\w*)?", word) and not layout:
+        elif types and re.fullmatch(r"(?:A?C\d|A?P\d|P?V)+(?:[A-Z]\w*)?", word) and not layout:
             layout = word
         else:
             operation.append(word)

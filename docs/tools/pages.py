@@ -6,7 +6,7 @@ from pathlib import Path
 from names import layouts, parts
 from sections import MODULES
 
-NAME = re.compile(r"\bqvp[ir][A-Za-z]\w*")
+NAME = re.compile(r"(?<![`\w])qvp[ir][A-Za-z]\w*")  # not in code
 OVERLOAD = re.compile(r"^inline [^\n(]*?(?P<name>\w+)\((?P<parameters>.*)\) \{\n(?P<body>(?:[^}\n].*\n|\n)*)", re.M)
 WORDS = "Which function for what"
 
@@ -30,6 +30,33 @@ def linked(text, families):
 def table(head, rows):
     lines = [head, ["---"] * len(head), *rows]
     return "".join("| " + " | ".join(line) + " |\n" for line in lines)
+
+
+def unknown_names(include, texts):
+    """[(file, name)] of names in hand-written texts that begin like the library's, and that no name of a header begins."""
+    known = " ".join(sorted(set(re.findall(r"\bqvp\w+", "\n".join(file.read_text() for file in Path(include).glob("*.h"))))))
+    files = [file for text in map(Path, texts) for file in ([text] if text.is_file() else sorted(text.rglob("*.md")))]
+    return [(file, name) for file in files for name in sorted(set(re.findall(r"\bqvp[ir]?[A-Z]\w*", file.read_text())))
+            if f" {name}" not in f" {known}"]
+
+
+SPEED = """# Speed {{#speed}}
+
+{conditions}
+
+*GB/s* counts what is read and written; *of the limit* compares it with the fastest plain loops over as much memory on the
+same machine. *times* tells how many times as long the other library takes for the same work, with one thread each. `./dev
+bench` measures all of it on your machine; the manual then shows that.
+
+"""
+
+
+def speed(report, committed):
+    """The rows of the last benchmark of this tree, or of that which was committed, by their names."""
+    text = (report if report.exists() else committed).read_text()
+    rows = [line.strip("|").split("|")[:6] for line in text.splitlines() if line.count("|") == 9]
+    head, body = [cell.strip() for cell in rows[0]], sorted([cell.strip() for cell in row] for row in rows[2:])
+    return SPEED.format(conditions=text.splitlines()[0]) + table([*head[:5], "times"], body)
 
 
 def readme_table(readme, heading):
@@ -87,13 +114,17 @@ def cell(forms):
 
 
 def grid_rows(family):
-    """Operation, types, layouts, of each form of a family."""
+    """{operation: {layouts: [types]}} of each form of a family."""
     forms = defaultdict(lambda: defaultdict(list))
     for function in family.functions:
         operation, types, layout = parts(function)
         if types and layout:
             forms[operation]["→".join(types)].append((layout, function.endswith("_L")))
-    return forms
+    shown = defaultdict(lambda: defaultdict(list))
+    for operation, by_type in forms.items():
+        for types, found in by_type.items():
+            shown[operation][cell(found)].append(types)
+    return shown
 
 
 def grid(families):
@@ -101,12 +132,12 @@ def grid(families):
     text = ("# Operations, types and layouts {#grid}\n\nEvery function that has a type and a layout in its name: "
             "`qvpiAdd` for 8u with C3RSfs is `qvpiAdd_8u_C3RSfs`; ᴸ marks that there is a form with `_L`, too. "
             "The table is made from the headers.\n\n@htmlonly\n<table class=\"grid\">"
-            "<tr><th>operation</th><th>type</th><th>layouts and modes</th></tr>\n")
+            "<tr><th>operation</th><th>types</th><th>layouts and modes</th></tr>\n")
     for family in families:
-        for operation, by_type in grid_rows(family).items():
-            for number, (types, forms) in enumerate(by_type.items()):
-                first = f'<td rowspan="{len(by_type)}"><a href="{page_of(family.id)}">{operation}</a></td>'
-                text += f"<tr>{'' if number else first}<td>{types}</td><td>{cell(forms)}</td></tr>\n"
+        for operation, rows in grid_rows(family).items():
+            for number, (words, types) in enumerate(rows.items()):
+                first = f'<td rowspan="{len(rows)}"><a href="{page_of(family.id)}">{operation}</a></td>'
+                text += f"<tr>{'' if number else first}<td>{' '.join(types)}</td><td>{words}</td></tr>\n"
     return text + "</table>\n@endhtmlonly\n"
 
 

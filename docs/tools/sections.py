@@ -10,8 +10,8 @@ from pathlib import Path
 sys.path.append(str(Path(__file__).parents[2] / "tools"))
 from derive import GROUP  # noqa: E402
 
-SECTION = re.compile(r"/\*\* @name (?P<title>[^\n]*)\n(?P<text>(?: \*[^\n]*\n)*?) \*  @\{ \*/\n(?P<body>.*?)/\*\* @\} \*/\n",
-                     re.S)
+SECTION = re.compile(r"/\*\* @name (?P<title>[^\n]*)\n(?P<text>(?: \*[^\n]*\n)*?) \*  @\{ \*/\n"
+                     r"(?P<body>.*?)/\*\* @\} \*/\n", re.S)
 IMAGE = re.compile(r"_A?[CP]\dI?[A-Z]*\w*\(")
 FUNCTION = re.compile(r"(\w+)\([^()]*\);")
 
@@ -33,10 +33,12 @@ SHARED = [
     ("Norms of differences", "Norms of differences"), ("Relative norms", "Relative norms"),
     ("MulPack", "Packed spectra"), ("MagnitudePack", "Packed spectra"), ("PhasePack", "Packed spectra"),
     ("PackTo", "Packed spectra"), ("CplxExtend", "Packed spectra"),
-    ("Threshold: values above are", "Threshold with replacement"), ("Threshold: values below are", "Threshold with replacement"),
-    ("Threshold: values on", "Threshold with replacement"), ("Resize: nearest", "Resize: nearest"), ("Resize: linear", "Resize: linear"),
-    ("Resize: cubic", "Resize: cubic and Lanczos"), ("Resize: Lanczos", "Resize: cubic and Lanczos"),
-    ("Resize: super", "Resize: super-sampling"), ("Resize: antialiased", "Resize: antialiased"), ("Warp: affine", "Warp: affine"),
+    ("Threshold: values above are", "Threshold with replacement"),
+    ("Threshold: values below are", "Threshold with replacement"),
+    ("Threshold: values on", "Threshold with replacement"), ("Resize: nearest", "Resize: nearest"),
+    ("Resize: linear", "Resize: linear"), ("Resize: cubic", "Resize: cubic and Lanczos"),
+    ("Resize: Lanczos", "Resize: cubic and Lanczos"), ("Resize: super", "Resize: super-sampling"),
+    ("Resize: antialiased", "Resize: antialiased"), ("Warp: affine", "Warp: affine"),
     ("Warp: perspective", "Warp: perspective"), ("Warp: bilinear", "Warp: bilinear"),
     ("Warp: size of the record, bilinear", "Warp: bilinear"), ("Warp: size", "Warp: sizes and quadrangles"),
     ("Warp: quadrangle,", "Warp: sizes and quadrangles"), ("Warp:", "Warp: transforms and bounds"),
