@@ -14,7 +14,7 @@ WORDS = "Which function for what"
 def family_of_name(name, families):
     """The family that a text means which has the name of a function or of an operation, or the beginning of some."""
     for family in families:
-        if name in family.functions or any(parts(function)[0] == name for function in family.functions):
+        if name in family.operations or name in family.functions:
             return family
     begun = [family for family in families if any(function.startswith(name) for function in family.functions)]
     if not begun:
@@ -79,7 +79,8 @@ def start(mainpage, families):
 
 def modules():
     """The groups that families belong to, in their order."""
-    return "".join(f"/** @defgroup {module} {title}\n *  Declared in {module}.h.\n */\n" for module, title in MODULES.items())
+    groups = [f"/** @defgroup {module} {title}\n *  Declared in {module}.h.\n */\n" for module, title in MODULES.items()]
+    return "".join(groups) + "/** @namespace qvp\n *  Images, views and calls for C++20.\n */\n"
 
 
 def words(readme, families):

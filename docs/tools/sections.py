@@ -5,10 +5,13 @@ A section begins with `@name`. Below it, one comment stands for all the prototyp
 import re
 import sys
 from dataclasses import dataclass, field
+from functools import cached_property
 from pathlib import Path
 
 sys.path.append(str(Path(__file__).parents[2] / "tools"))
 from derive import GROUP  # noqa: E402
+
+from names import parts  # noqa: E402
 
 SECTION = re.compile(r"/\*\* @name (?P<title>[^\n]*)\n(?P<text>(?: \*[^\n]*\n)*?) \*  @\{ \*/\n"
                      r"(?P<body>.*?)/\*\* @\} \*/\n", re.S)
@@ -63,15 +66,19 @@ class Family:
     def id(self):
         return f"{self.module}_" + re.sub(r"\W+", "_", self.name.lower())
 
-    @property
+    @cached_property
     def groups(self):
         """(section, comment, prototypes) for each comment of functions."""
         return [(section, group["comment"], group["prototypes"])
                 for section in self.sections for group in GROUP.finditer(section.body)]
 
-    @property
+    @cached_property
     def functions(self):
         return [name for _, _, prototypes in self.groups for name in FUNCTION.findall(prototypes)]
+
+    @cached_property
+    def operations(self):
+        return {parts(function)[0] for function in self.functions}
 
     @property
     def about(self):
