@@ -7,11 +7,15 @@ one whose picture is of a single colour.
 """
 import argparse
 import html
+import sys
 from pathlib import Path
 
 import numpy
 import PIL.Image
 import qvpi
+
+sys.path.insert(0, str(Path(__file__).parent / "tools"))
+import pictures  # noqa: E402
 
 CHAPTERS = {
     "Borders": "What filters find beyond an image. The frame shows each kind.",
@@ -172,6 +176,7 @@ def main():
     chapters = [CHAPTER.format(title=title, number=number, text=text, figures="".join(figures[title]))
                 for number, (title, text) in enumerate(CHAPTERS.items())]
     options.page.write_text(PAGE.format(chapters="\n".join(chapters)))
+    pictures.write_list({title: f"gallery-{number}.png" for number, (_, title, _) in enumerate(PICTURES)})
     print(f"{len(PICTURES)} pictures in the gallery")
 
 

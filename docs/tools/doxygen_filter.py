@@ -8,6 +8,7 @@ import re
 import sys
 from pathlib import Path
 
+import pictures
 from names import described
 from sections import FUNCTION, GROUP, MODULES, SECTION, family_of, families, plain
 
@@ -41,6 +42,9 @@ def page(match, module):
     body = GROUP.sub(lambda found: group(next(titles, FUNCTION.search(found["prototypes"])[1]), found), match["body"])
     text = "".join(line[3:] + "\n" for line in match["text"].splitlines())
     about = f"@brief {family.about}\n\n" if family.groups and not text else ""
+    shown = pictures.figures(family) if match["title"] == family.sections[0].title else ""
+    if shown:
+        about += f'@htmlonly <div class="pictures">{shown}</div> @endhtmlonly\n\n'
     return comment(f"@addtogroup {family.id} {name}\n{about}{text}@{{") + body + "/** @} */\n"
 
 
