@@ -37,7 +37,9 @@ def copy_texts(families):
     """Pages that are read outside of the manual, too, under a name for links."""
     for file in [OUT / "python.md", *map(Path, ["docs/from-numpy.md", "docs/porting.md", "docs/trust.md"])]:
         if file.exists():
-            text = file.read_text().replace("\n", f" {{#{file.stem.replace('-', '_')}}}\n", 1)
+            title, text = file.read_text().split("\n", 1)
+            label = "" if "{#" in title else f" {{#{file.stem.replace('-', '_')}}}"
+            text = f"{title}{label}\n{text}"
             (PAGES / file.name).write_text(pages.linked(text, families) if file.stem == "porting" else text)
     if OPTIONAL["try.html"].exists():
         shutil.copy(OPTIONAL["try.html"], HTML / "try.html")
