@@ -18,7 +18,7 @@ RANDOM = numpy.random.default_rng(1)
 TYPES = {"f4": "32f", "f8": "64f", "u1": "8u", "u2": "16u", "c8": "32fc"}
 HEAD = """# Accuracy {{#accuracy}}
 
-The largest errors that were found against the formulas of the functions in extended precision, with 64 bits of mantissa,
+The largest errors that were found against the formulas of the functions in extended precision, with {bits} bits of mantissa,
 on random images and, of functions of one number, on 2 million floats over the whole range. They were measured when this
 manual was made, with the build {build}; every build gives the same results. Descriptions tell bounds where there are
 any.
@@ -196,7 +196,8 @@ def main():
     warnings.simplefilter("ignore", qvpi.Warning)  # of divisors that are 0
     parts = [of_numbers, of_resizing, of_warps, of_filters, of_transforms, of_statistics]
     rows = [line for part in parts for line in part()]
-    options.page.write_text(HEAD.format(build=qvpi.info()["build"].strip()) + "".join(rows))
+    head = HEAD.format(build=qvpi.info()["build"].strip(), bits=numpy.finfo(EXTENDED).nmant + 1)
+    options.page.write_text(head + "".join(rows))
 
 
 if __name__ == "__main__":

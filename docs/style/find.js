@@ -4,12 +4,17 @@
 
 const LIMIT = 30;
 
+// The words of a name: qvpiResizeLanczos has three.
+function spaced(name) {
+  return name.replace(/([a-z\d])(?=[A-Z])/g, '$1 ').toLowerCase();
+}
+
 // How well a term suits an entry: by its title, or by its words, which are phrases between commas.
 function score(entry, term) {
   const title = entry.title.toLowerCase(), words = `, ${entry.words ?? entry.about.toLowerCase()},`;
   if (title === term) return 100;
   if (title.startsWith(term)) return 60;
-  if (new RegExp(`(^|[^a-z0-9])${term}`).test(title)) return 45;
+  if (new RegExp(`(^|[^a-z0-9])${term}`).test(spaced(entry.title))) return 45;
   if (words.includes(`, ${term},`)) return 40;
   if (words.includes(`, ${term}`)) return 35;
   if (words.includes(` ${term}`)) return 20;
