@@ -42,8 +42,8 @@ def image():
     rows = [part for y in range(6) for part in (box(120, 40 + 26 * y, 360, 22, "out"), box(480, 40 + 26 * y, 60, 22, "gap"))]
     region = [box(210, 66 + 26 * y, 150, 22, "in") for y in range(3)]
     words = [text(120, 18, "first pixel of the image"), arrow(125, 22, 125, 40), text(486, 55, "padding", kind="small"),
-             text(10, 82, "pSrc: first pixel", kind="small"), text(10, 96, "of the region", kind="small"),
-             arrow(92, 80, 210, 77), text(285, 158, "roiSize {5, 3}", "middle", "small"),
+             text(10, 74, "pSrc: first pixel", kind="small"), text(10, 90, "of the region", kind="small"),
+             arrow(98, 78, 210, 77), text(285, 158, "roiSize {5, 3}", "middle", "small"),
              arrow(120, 210, 540, 210), arrow(540, 210, 120, 210), text(330, 228, "step: bytes from row to row", "middle")]
     return drawing(560, 240, "An image in memory: pointer, step and region", [HEAD, *rows, *region, *words])
 
