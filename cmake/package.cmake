@@ -77,6 +77,8 @@ set(CPACK_DEBIAN_PYTHON3-QVPI_PACKAGE_SHLIBDEPS OFF)
 
 set(CPACK_PACKAGE_NAME qvpi)
 set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
+# The manual's package is made by `./dev package` with dpkg-deb: CPack would ask of each of its 4,000 files what it is.
+configure_file(cmake/doc-control.in ${PROJECT_BINARY_DIR}/install/doc-control @ONLY)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)

@@ -7,11 +7,15 @@ one whose picture is of a single colour.
 """
 import argparse
 import html
+import sys
 from pathlib import Path
 
 import numpy
 import PIL.Image
 import qvpi
+
+sys.path.insert(0, str(Path(__file__).parent / "tools"))
+import pictures  # noqa: E402
 
 CHAPTERS = {
     "Borders": "What filters find beyond an image. The frame shows each kind.",
@@ -110,23 +114,20 @@ PICTURES = [
     ("Noise and patterns", "Jaehne's rings", 'result = qvpi.jaehne((256, 256))'),
 ]
 
-PAGE = """<!DOCTYPE html>
-<html lang="en"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">
-<title>qvpIP: gallery</title><style>
-:root {{ color-scheme: light dark; }}
-body {{ font: 16px/1.5 system-ui, sans-serif; max-width: 76rem; margin: 2rem auto; padding: 0 1rem; }}
-.row {{ display: grid; grid-template-columns: repeat(auto-fill, minmax(17rem, 1fr)); gap: 1.5rem; }}
-figure {{ margin: 0; }}
-img {{ width: 16rem; height: 16rem; object-fit: contain; image-rendering: pixelated; }}
-figcaption {{ font-weight: 600; }}
-pre {{ font-size: 0.75rem; white-space: pre-wrap; overflow-wrap: anywhere; margin: 0.25rem 0; }}
-</style></head><body>
-<h1>Gallery</h1>
-<p>All of it was made by the library when the manual was, from one photograph, by the code below each picture: that of
-the Python package, whose functions are those of the C interface. <a href="index.html">Back to the manual</a></p>
-<nav>{contents}</nav>
+PAGE = """# Gallery {{#gallery}}
+
+All of it was made by the library when the manual was, from one photograph, by the code below each picture: that of the
+Python package, whose functions are those of the C interface.
+
 {chapters}
-</body></html>
+"""
+CHAPTER = """## {title} {{#gallery-{number}}}
+
+{text}
+
+@htmlonly
+<div class="pictures">{figures}</div>
+@endhtmlonly
 """
 
 
@@ -166,17 +167,17 @@ def figure(number, title, code, photo, folder):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("picture", type=Path)
-    parser.add_argument("folder", type=Path, help="of the manual's pages")
+    parser.add_argument("folder", type=Path, help="of the manual's pages, for the pictures")
+    parser.add_argument("page", type=Path, help="the page to write, with the code")
     options = parser.parse_args()
-    options.folder.mkdir(parents=True, exist_ok=True)
     photo, figures = photograph(options.picture), {chapter: [] for chapter in CHAPTERS}
     for number, (chapter, title, code) in enumerate(PICTURES):
         figures[chapter].append(figure(number, title, code, photo, options.folder))
-    contents = " · ".join(f'<a href="#{i}">{html.escape(chapter)}</a>' for i, chapter in enumerate(CHAPTERS))
-    chapters = "\n".join(f'<h2 id="{i}">{html.escape(chapter)}</h2><p>{text}</p><div class="row">{"".join(figures[chapter])}</div>'
-                         for i, (chapter, text) in enumerate(CHAPTERS.items()))
-    (options.folder / "gallery.html").write_text(PAGE.format(contents=contents, chapters=chapters))
-    print(f"{len(PICTURES)} pictures in {options.folder / 'gallery.html'}")
+    chapters = [CHAPTER.format(title=title, number=number, text=text, figures="".join(figures[title]))
+                for number, (title, text) in enumerate(CHAPTERS.items())]
+    options.page.write_text(PAGE.format(chapters="\n".join(chapters)))
+    pictures.write_list({title: f"gallery-{number}.png" for number, (_, title, _) in enumerate(PICTURES)})
+    print(f"{len(PICTURES)} pictures in the gallery")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Check the parameters that the headers document, group by group.
+"""Check that the headers describe every function, and the parameters that they document, group by group.
 
 A group is one comment for prototypes that may differ in parameters: plain and in-place forms, forms with and without a
 constant. So every documented parameter has to be one of some prototype in the group, and every parameter of a prototype
@@ -9,7 +9,8 @@ import re
 import sys
 from pathlib import Path
 
-GROUP = re.compile(r"/\*\*(?P<comment>(?:(?!\*/).)*)\*/\n(?P<prototypes>(?:\w[^\n]*\([^()]*\);\n)+)", re.S)
+from derive import GROUP
+
 PROTOTYPE = re.compile(r"\w+\((?P<parameters>[^()]*)\);")
 NAME = re.compile(r"(\w+)(?:\[\w*\])*$")
 
@@ -29,6 +30,10 @@ def complaints(text):
         if documented:
             yield from ((line, f"{name} is documented, and no parameter") for name in sorted(documented - given))
             yield from ((line, f"{name} is not documented") for name in sorted(given - documented))
+    groups = "".join(group["prototypes"] for group in GROUP.finditer(text) if "@name" not in group["comment"])
+    for match in re.finditer(r"^\w.*\b(\w+)\([^()]*\);$", text, re.M):
+        if f"{match[1]}(" not in groups:
+            yield text[:match.start()].count("\n") + 1, f"{match[1]} is not described"
     for match in re.finditer(r"\n \*\n \*\n", text):
         yield text[:match.start()].count("\n") + 2, "two blank lines in a comment"
 

@@ -27,6 +27,8 @@ import argparse
 import re
 from pathlib import Path
 
+# One comment, and the prototypes that it describes.
+GROUP = re.compile(r"/\*\*(?P<comment>(?:(?!\*/).)*)\*/\n(?P<prototypes>(?:\w[^\n]*\([^()]*\);\n)+)", re.S)
 PROTOTYPE = re.compile(r"^(?P<result>\w[\w ]*?[ *]+)(?P<name>(?:qvp|own)\w+)\((?P<params>[^()]*)\);", re.M)
 
 

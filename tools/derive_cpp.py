@@ -16,10 +16,9 @@ from pathlib import Path
 
 from cpp_forms import Call, Form
 from cpp_names import LEFT_OUT
-from derive import prototypes, write
+from derive import GROUP, prototypes, write
 
 GUARD = "#ifndef QVPI_OPERATIONS_{0}_HPP\n#define QVPI_OPERATIONS_{0}_HPP\n\n{1}\n#endif\n"
-GROUP = re.compile(r"/\*\*(?P<comment>(?:(?!\*/).)*)\*/\n(?P<prototypes>(?:\w[^\n]*\([^()]*\);\n)+)", re.S)
 SELECTOR = re.compile(r"/\*\* (?P<comment>(?:(?!\*/).)*)\*/\ntypedef int (?P<type>Qvpi?\w+);\n"
                       r"enum \{\n(?P<rows>.*?)\};", re.S)
 # Constants whose names are words of the language.

@@ -5,6 +5,7 @@ Every row is timed several times, its parts taking turns, and the fastest time c
 ever adds. What was measured at several sizes in the caches also tells what a call, a row and a pixel cost.
 """
 import argparse
+import datetime
 import json
 import os
 import re
@@ -89,6 +90,13 @@ def fit_lines(rows):
     return [f"| {what} | {call:.0f} | {row:.1f} | {pixel:.3f} |" for what, (call, row, pixel) in ranked]
 
 
+def conditions(library):
+    """What was measured, when, and on what."""
+    model = re.search(r"model name\s*: (.*)", Path("/proc/cpuinfo").read_text())
+    return (f"Build {library.name}, {datetime.date.today()}, {model[1] if model else 'an unknown processor'}, "
+            f"{os.cpu_count()} cores. Times are the least of several runs.")
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--library", type=Path, required=True, help="folder of the CPU build to measure")
@@ -103,7 +111,7 @@ def main():
     if not rows:
         parser.error(f"no row matches {options.only}")
     machine = {name: row for name, row in rows.items() if "ours" not in row}
-    text = ["| machine limit | ordinary stores, GB/s | streaming stores, GB/s |", "|---|---|---|"]
+    text = [conditions(options.library), "", "| machine limit | ordinary stores, GB/s | streaming stores, GB/s |", "|---|---|---|"]
     text += [machine_line(name, row) for name, row in sorted(machine.items())]
     text += ["", "| row | ours, ns | GB/s | of the limit | peer | peer / ours | at least | |", "|---|---|---|---|---|---|---|---|"]
     compared = [ranked for name, row in rows.items() if "ours" in row for ranked in lines(name, row)]

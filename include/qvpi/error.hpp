@@ -22,7 +22,7 @@
 #include <stdexcept>
 #endif
 
-/** Programs may have sources of both kinds: the namespace keeps their functions apart. */
+// Programs may have sources of both kinds: the inner namespace keeps their functions apart.
 namespace qvp {
 inline namespace QVP_ERRORS {
 
