@@ -1,12 +1,16 @@
 # The machines, and the CPU builds for them. One build folder holds the builds of one machine: the machine that builds, or
 # with --toolchain cmake/machine.cmake -DQVPI_MACHINE=<machine> any other, whose programs then start in an emulator.
 #
-# Protection is of indirect jumps, with the hints of the instruction set that older CPUs pass over.
-#
-#            machine  processor  Debian's  compiler target    protection                   programs start with
-qvpi_machine(x86      x86_64     amd64     x86_64-linux-gnu   -fcf-protection              "")
-qvpi_machine(aarch64  aarch64    arm64     aarch64-linux-gnu  -mbranch-protection=standard "qemu-aarch64 -L /usr/aarch64-linux-gnu")
-qvpi_machine(wasm     wasm32     ""        wasm32-emscripten  ""                           node)
+# Protection is of indirect jumps, with the hints of the instruction set that older CPUs pass over. Windows is a machine
+# of its own, whose unions hold the CPU builds of the machine that its CPUs are. With wine's debugger a program that
+# crashes would seem to succeed.
+set(wine "env WINEPREFIX=${CMAKE_BINARY_DIR}/wine WINEDEBUG=-all WINEDLLOVERRIDES=winedbg.exe,mscoree,mshtml=d wine")
+
+#            machine  processor  CPUs     Debian's  compiler target    protection                   programs start with
+qvpi_machine(x86      x86_64     x86      amd64     x86_64-linux-gnu   -fcf-protection              "")
+qvpi_machine(aarch64  aarch64    aarch64  arm64     aarch64-linux-gnu  -mbranch-protection=standard "qemu-aarch64 -L /usr/aarch64-linux-gnu")
+qvpi_machine(wasm     wasm32     wasm     ""        wasm32-emscripten  ""                           node)
+qvpi_machine(windows  AMD64      x86      ""        x86_64-w64-mingw32 ""                           "${wine}")
 
 # i386 callers may keep the stack aligned to 4 bytes only, so g9 realigns it where a function needs more. clang has to be
 # told that arguments on the stack are no better aligned either: it copies several of them by one vector.
@@ -33,3 +37,4 @@ qvpi_cpu(w1    wasm     32    simd128    formulas  HWY_WASM       qvpi     .    
 #
 #          code machine  bits  runs with  tests     file     below the library folder in  levels
 qvpi_union(any  x86      64    sse4_2     calls     qvpi     qvpi-any                     v2 v3 v4)
+qvpi_union(win  windows  64    sse4_2     calls     qvpi     .                            v2 v3 v4)

@@ -69,6 +69,7 @@ function(qvpi_install_baseline code libdir runtime development)
   install(TARGETS qvpi_${code} qvpi_${code}_static qvpcore_${code} qvpcore_${code}_static EXPORT ${package}-${runtime}
     LIBRARY DESTINATION ${libdir} COMPONENT ${runtime} NAMELINK_COMPONENT ${development} ${ARGN}
     ARCHIVE DESTINATION ${libdir} COMPONENT ${development} ${ARGN}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${runtime} ${ARGN}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
   qvpi_install_cmake_package(${package} ${bits} ${package}-${runtime} ${libdir} ${development} ${ARGN})
   qvpi_install_pkgconfig(${package} qvpcore "${PROJECT_DESCRIPTION}" ${libdir} ${development} ${ARGN})
@@ -124,8 +125,28 @@ function(qvpi_install_libraries bits)
   endforeach()
 endfunction()
 
+# What `cpack` makes for machines without packages: one archive of all that is installed.
+macro(qvpi_pack_archive machine generator)
+  foreach(file README.md LICENSE CHANGELOG.md)
+    install(FILES ${PROJECT_SOURCE_DIR}/${file} DESTINATION .)
+  endforeach()
+  set(CPACK_GENERATOR ${generator})
+  set(CPACK_PACKAGE_FILE_NAME qvpi-${PROJECT_VERSION}-${machine})
+  set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+  set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
+  set(CPACK_STRIP_FILES ON)
+  include(CPack)
+endmacro()
+
 if(NOT QVPI_HAS_SHARED)
   include(cmake/module.cmake)
+  return()
+endif()
+if(WIN32)  # the DLLs in bin/, import libraries and archives in lib/
+  get_property(code GLOBAL PROPERTY QVPI_UNION_BUILDS)
+  qvpi_install_headers(archive)
+  qvpi_install_baseline(${code} lib archive archive)
+  qvpi_pack_archive(windows ZIP)
   return()
 endif()
 

@@ -26,10 +26,20 @@ file(CREATE_LINK ${HWY_INCLUDE_DIR}/hwy ${PROJECT_BINARY_DIR}/highway/hwy SYMBOL
 # WebAssembly has none: there a library is its archive, whose functions have their exported names.
 get_property(QVPI_HAS_SHARED GLOBAL PROPERTY TARGET_SUPPORTS_SHARED_LIBS)
 
+# The format of objects, and the file that tells the linker what a shared library exports.
+if(WIN32)
+  set(QVPI_FORMAT coff)
+  set(QVPI_EXPORTS exports.def)
+else()
+  set(QVPI_FORMAT elf)
+  set(QVPI_EXPORTS exports.map)
+endif()
+
 # A row of the table of machines: of the machine that this folder builds for, it sets what the rest needs to know.
-macro(qvpi_machine name processor debian target protection emulator)
+macro(qvpi_machine name processor cpus debian target protection emulator)
   if(CMAKE_SYSTEM_PROCESSOR STREQUAL "${processor}")
     set(QVPI_MACHINE ${name})
+    set(QVPI_MACHINE_OF_CPUS ${cpus})
     set(QVPI_DEBIAN_ARCHITECTURE ${debian})
     set(QVPI_COMPILER_TARGET ${target})
     set(QVPI_PROTECTION ${protection})
@@ -72,64 +82,77 @@ function(qvpi_static_alone name objects output code bits)
   target_link_libraries(${name} INTERFACE ${name}_static)
 endfunction()
 
-# A shared library and its static twin from one set of objects: <output>.so.10 and <output>.a in <build>/<code>/. Further
-# arguments are objects that only the shared one has.
-function(qvpi_shared_and_static name object_libraries output code bits map)
+# What the linker is told of a shared library: what it exports, that it is read-only once loaded, and that nothing may
+# be missing or in it for nothing.
+function(qvpi_link_options name exports)
+  target_sources(${name} PRIVATE ${exports})  # which is all that the linker for Windows has to be told of it
+  if(WIN32)
+    target_link_options(${name} PRIVATE LINKER:--gc-sections,--no-insert-timestamp)
+  else()
+    target_link_options(${name} PRIVATE LINKER:--version-script=${exports},-z,relro,-z,now,--as-needed,--gc-sections)
+    if(NOT QVPI_SANITIZE)
+      target_link_options(${name} PRIVATE LINKER:-z,defs)
+    endif()
+  endif()
+endfunction()
+
+# A shared library and its static twin from one set of objects: <output>.so.10 or <output>.dll, and <output>.a, in
+# <build>/<code>/. Further arguments are objects that only the shared one has.
+function(qvpi_shared_and_static name object_libraries output code bits exports)
   list(TRANSFORM object_libraries REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>" OUTPUT_VARIABLE objects)
   add_library(${name} SHARED ${objects} ${ARGN})
   add_library(${name}_static STATIC ${objects})
   foreach(target ${name} ${name}_static)
     qvpi_settings(${target} ${bits})
+    set(folder ${PROJECT_BINARY_DIR}/${code})
     set_target_properties(${target} PROPERTIES OUTPUT_NAME ${output} BUILD_RPATH_USE_ORIGIN ON
-      LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${code} ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${code})
+      LIBRARY_OUTPUT_DIRECTORY ${folder} ARCHIVE_OUTPUT_DIRECTORY ${folder} RUNTIME_OUTPUT_DIRECTORY ${folder})
   endforeach()
-  set_target_properties(${name} PROPERTIES VERSION ${QVPI_SOVERSION} SOVERSION ${QVPI_SOVERSION} LINK_DEPENDS ${map})
-  target_link_options(${name} PRIVATE LINKER:--version-script=${map},-z,relro,-z,now,--as-needed,--gc-sections)
-  target_link_options(${name}_static INTERFACE LINKER:--gc-sections)  # a program gets the functions that it calls
-  if(NOT QVPI_SANITIZE)
-    target_link_options(${name} PRIVATE LINKER:-z,defs)
+  set_target_properties(${name} PROPERTIES VERSION ${QVPI_SOVERSION} SOVERSION ${QVPI_SOVERSION}
+    LINK_DEPENDS ${exports})
+  if(WIN32)
+    set_target_properties(${name} PROPERTIES PREFIX "")
   endif()
+  qvpi_link_options(${name} ${exports})
+  target_link_options(${name}_static INTERFACE LINKER:--gc-sections)  # a program gets the functions that it calls
 endfunction()
 
 # The companion runs on any CPU of the machine: it gets no flags for a level, and on i386 no vector registers either.
 function(qvpi_companion code bits)
   set(derived ${PROJECT_BINARY_DIR}/derived/${code}/core)
   set(header ${PROJECT_SOURCE_DIR}/include/qvpcore.h)
-  qvpi_derive(${derived} FILES exports.map HEADERS ${header})
+  qvpi_derive(${derived} FILES ${QVPI_EXPORTS} ARGS --format ${QVPI_FORMAT} HEADERS ${header})
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.cpp
-    ${PROJECT_SOURCE_DIR}/platform/${QVPI_MACHINE}/*.cpp)
-  add_library(qvpcore_${code}_objects OBJECT ${sources} ${derived}/exports.map)
+    ${PROJECT_SOURCE_DIR}/platform/${QVPI_MACHINE_OF_CPUS}/*.cpp)
+  add_library(qvpcore_${code}_objects OBJECT ${sources})
   qvpi_settings(qvpcore_${code}_objects ${bits})
   target_include_directories(qvpcore_${code}_objects PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(qvpcore_${code}_objects PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION} -fvisibility=default -fvisibility-inlines-hidden
     $<$<AND:$<EQUAL:${bits},32>,$<STREQUAL:${QVPI_MACHINE},x86>>:-march=i686>)
   if(QVPI_HAS_SHARED)
-    qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits} ${derived}/exports.map)
+    qvpi_shared_and_static(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits}
+      ${derived}/${QVPI_EXPORTS})
   else()
     qvpi_static_alone(qvpcore_${code} qvpcore_${code}_objects qvpcore ${code} ${bits})
   endif()
 endfunction()
 
-# Whether the machine that builds can run what needs a CPU feature. Emulators have them all.
+# Whether the machine that builds can run what needs a CPU feature. Emulators have them all; wine is none.
 file(READ /proc/cpuinfo QVPI_CPUINFO)
 function(qvpi_runs_here feature result)
-  if(CMAKE_CROSSCOMPILING OR QVPI_CPUINFO MATCHES " ${feature} ")
+  if((CMAKE_CROSSCOMPILING AND NOT WIN32) OR QVPI_CPUINFO MATCHES " ${feature} ")
     set(${result} TRUE PARENT_SCOPE)
   else()
     set(${result} FALSE PARENT_SCOPE)
   endif()
 endfunction()
 
-function(qvpi_cpu code machine bits feature tests vectors output folder name)
-  if(NOT machine STREQUAL QVPI_MACHINE OR (QVPI_CPUS AND NOT code IN_LIST QVPI_CPUS))
-    return()
-  endif()
-  qvpi_companion(${code} ${bits})
-
+# What a build has of its own: the sources compiled for its CPUs, with the flags that follow.
+function(qvpi_cpu_objects code machine bits feature vectors name)
   set(derived ${PROJECT_BINARY_DIR}/derived/${code})
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
   set(derivatives rename.h)
-  if(QVPI_HAS_SHARED)
+  if(QVPI_HAS_SHARED AND machine STREQUAL QVPI_MACHINE)
     list(APPEND derivatives entries.S exports.map static.syms)
   endif()
   qvpi_derive(${derived} FILES ${derivatives} ARGS --cpu ${code} --machine ${machine} --bits ${bits}
@@ -140,6 +163,7 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
   set(objects qvpi_${code}_objects)
   add_library(${objects} OBJECT ${sources} ${derived}/rename.h)
   qvpi_settings(${objects} ${bits})
+  set_target_properties(${objects} PROPERTIES QVPI_FEATURE ${feature})
   # What a source of this build, or a test of headers with vectors, is compiled with.
   set(vector_settings qvpi_${code}_vectors)
   add_library(${vector_settings} INTERFACE)
@@ -155,7 +179,24 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
   target_compile_options(${objects} PRIVATE ${QVPI_FLAGS} ${QVPI_PROTECTION})
   # Every source begins with the precompiled header, and so with the renames.
   target_precompile_headers(${objects} PRIVATE <hwy/highway.h> ${derived}/rename.h)
+endfunction()
 
+function(qvpi_cpu code machine bits feature tests vectors output folder name)
+  if(NOT machine STREQUAL QVPI_MACHINE_OF_CPUS OR (QVPI_CPUS AND NOT code IN_LIST QVPI_CPUS))
+    return()
+  endif()
+  if(machine STREQUAL QVPI_MACHINE)
+    qvpi_cpu_objects(${code} ${machine} ${bits} ${feature} ${vectors} ${name} ${ARGN})
+    qvpi_cpu_libraries(${code} ${bits} ${feature} ${tests} ${output} ${folder})
+  elseif(bits EQUAL 64)  # another machine with these CPUs has unions alone
+    qvpi_cpu_objects(${code} ${machine} ${bits} ${feature} ${vectors} ${name} ${ARGN})
+  endif()
+endfunction()
+
+function(qvpi_cpu_libraries code bits feature tests output folder)
+  qvpi_companion(${code} ${bits})
+  set(derived ${PROJECT_BINARY_DIR}/derived/${code})
+  set(objects qvpi_${code}_objects)
   set(library qvpi_${code})
   if(QVPI_HAS_SHARED)
     set(entries qvpi_${code}_entries)
@@ -171,7 +212,7 @@ function(qvpi_cpu code machine bits feature tests vectors output folder name)
     qvpi_static_alone(${library} ${objects} ${output} ${code} ${bits})
   endif()
   target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
-  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests} QVPI_FOLDER ${folder})
+  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_TESTS ${tests} QVPI_FOLDER ${folder})
   set_property(GLOBAL APPEND PROPERTY QVPI_CPU_BUILDS ${code})
   qvpi_runs_here(${feature} runs)
   if(runs AND bits EQUAL 64)  # rows go upwards: the best one stays
@@ -187,7 +228,7 @@ function(qvpi_union code machine bits feature tests output folder)
     return()
   endif()
   foreach(level IN LISTS ARGN)
-    if(NOT TARGET qvpi_${level})
+    if(NOT TARGET qvpi_${level}_objects)
       message(FATAL_ERROR "The build ${code} holds ${level}, which QVPI_CPUS does not name")
     endif()
   endforeach()
@@ -195,10 +236,10 @@ function(qvpi_union code machine bits feature tests output folder)
 
   set(derived ${PROJECT_BINARY_DIR}/derived/${code})
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/qvpi_*.h)
-  qvpi_derive(${derived} FILES entries.S entry.S exports.map ARGS --machine ${machine} --bits ${bits} --levels ${ARGN}
-    HEADERS ${headers})
+  qvpi_derive(${derived} FILES entries.S entry.S ${QVPI_EXPORTS} ARGS --machine ${QVPI_MACHINE_OF_CPUS} --bits ${bits}
+    --format ${QVPI_FORMAT} --levels ${ARGN} HEADERS ${headers})
   set(library qvpi_${code})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/${machine}/${code}/*.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/${QVPI_MACHINE_OF_CPUS}/any/*.cpp)
   set_source_files_properties(${sources} PROPERTIES OBJECT_DEPENDS ${derived}/entry.S)  # a new archive for new entries
   add_library(${library}_objects OBJECT ${sources})
   add_library(${library}_entries OBJECT ${derived}/entries.S)
@@ -212,8 +253,8 @@ function(qvpi_union code machine bits feature tests output folder)
     $<$<CXX_COMPILER_ID:GNU>:-Wno-prio-ctor-dtor>)  # it comes before what programs may ask for
 
   list(TRANSFORM ARGN REPLACE "(.+)" "qvpi_\\1_objects" OUTPUT_VARIABLE levels)
-  qvpi_shared_and_static(${library} "${library}_objects;${levels}" ${output} ${code} ${bits} ${derived}/exports.map
-    $<TARGET_OBJECTS:${library}_entries>)
+  qvpi_shared_and_static(${library} "${library}_objects;${levels}" ${output} ${code} ${bits}
+    ${derived}/${QVPI_EXPORTS} $<TARGET_OBJECTS:${library}_entries>)
   set(tool ${PROJECT_SOURCE_DIR}/tools/entry_objects.py)
   add_dependencies(${library}_static ${library}_entry)
   add_custom_command(TARGET ${library}_static POST_BUILD VERBATIM
@@ -221,8 +262,8 @@ function(qvpi_union code machine bits feature tests output folder)
       --archive $<TARGET_FILE:${library}_static> --out ${derived}/objects ${headers})
   target_link_libraries(${library} PUBLIC qvpcore_${code})
   target_link_libraries(${library}_static INTERFACE qvpcore_${code}_static)
-  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_FEATURE ${feature} QVPI_TESTS ${tests}
-    QVPI_FOLDER ${folder} QVPI_LEVELS "${ARGN}")
+  set_target_properties(${library} PROPERTIES QVPI_BITS ${bits} QVPI_TESTS ${tests} QVPI_FOLDER ${folder}
+    QVPI_LEVELS "${ARGN}")
   set_property(GLOBAL APPEND PROPERTY QVPI_UNION_BUILDS ${code})
   add_custom_target(${code} DEPENDS ${library} ${library}_static)
 endfunction()

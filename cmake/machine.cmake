@@ -1,5 +1,6 @@
 # Toolchain file for another machine than the one that builds: QVPI_MACHINE is one of cmake/cpus.cmake. For CPUs clang
-# compiles, with the libraries of Debian's cross compilers; for WebAssembly emscripten does.
+# compiles, with the libraries of Debian's cross compilers, for Windows too, where GCC does not align the stack for
+# vectors of 32 bytes; for WebAssembly emscripten does.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QVPI_MACHINE)
 
 function(qvpi_cpu)
@@ -18,6 +19,18 @@ macro(qvpi_cross_clang target)
   set(CMAKE_SYSROOT_COMPILE /usr/${target})
 endmacro()
 
+# What clang does not find by itself: the folder of the cross compiler, whose name is more than a version. LLVM's linker
+# drops functions that nothing calls, and needs no order of libraries.
+macro(qvpi_mingw target)
+  set(CMAKE_SYSTEM_NAME Windows)
+  execute_process(COMMAND ${target}-g++-posix -print-libgcc-file-name OUTPUT_VARIABLE libgcc COMMAND_ERROR_IS_FATAL ANY)
+  get_filename_component(libgcc ${libgcc} DIRECTORY)
+  set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES ${libgcc}/include/c++ ${libgcc}/include/c++/${target})
+  foreach(kind EXE SHARED MODULE)
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -B${libgcc} -L${libgcc}")
+  endforeach()
+endmacro()
+
 macro(qvpi_emscripten processor)
   execute_process(COMMAND em-config EMSCRIPTEN_ROOT OUTPUT_VARIABLE root OUTPUT_STRIP_TRAILING_WHITESPACE
     COMMAND_ERROR_IS_FATAL ANY)
@@ -29,13 +42,16 @@ macro(qvpi_emscripten processor)
   endforeach()
 endmacro()
 
-macro(qvpi_machine name processor debian target protection emulator)
+macro(qvpi_machine name processor cpus debian target protection emulator)
   if("${name}" STREQUAL "${QVPI_MACHINE}")
     separate_arguments(CMAKE_CROSSCOMPILING_EMULATOR UNIX_COMMAND "${emulator}")
     if("${target}" MATCHES emscripten)
       qvpi_emscripten(${processor})
     else()
       qvpi_cross_clang(${target})
+    endif()
+    if("${target}" MATCHES mingw)
+      qvpi_mingw(${target})
     endif()
     set(CMAKE_SYSTEM_PROCESSOR ${processor})
   endif()

@@ -37,12 +37,4 @@ install(TARGETS qvpi_${cpu}_static qvpcore_${cpu}_static EXPORT qvpi-archive ARC
 set(baseline ${cpu})
 qvpi_install_cmake_package(qvpi 32 qvpi-archive lib archive)
 install(FILES ${PROJECT_BINARY_DIR}/module/qvpi.mjs ${PROJECT_BINARY_DIR}/module/qvpi.wasm DESTINATION module)
-foreach(file README.md LICENSE CHANGELOG.md)
-  install(FILES ${PROJECT_SOURCE_DIR}/${file} DESTINATION .)
-endforeach()
-
-set(CPACK_GENERATOR TXZ)
-set(CPACK_PACKAGE_FILE_NAME qvpi-${PROJECT_VERSION}-wasm)
-set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
-set(CPACK_PACKAGE_CONTACT "qvpIP maintainers <maintainers@qvpip.example>")
-include(CPack)
+qvpi_pack_archive(wasm TXZ)

@@ -78,10 +78,16 @@ def strange_exports(library):
     return [name for name in exports(library) if not re.fullmatch(rf"(?:qvp\w+|ownGetFeature){VERSION}", name)]
 
 
+def bare_jumps(listing, mark):
+    """Names of the functions that are a jump through a slot, behind a landing mark if there is one, and no more."""
+    padding = "nop|cs nop|data16|xchg|int3"
+    jump = rf"^[0-9a-f]+ <(\w+)[@\w]*>:\n{mark}.*\tjmp +\*0x\w+\(%rip\) .*\n(?!.*\t(?!{padding}))"
+    return set(re.findall(jump, listing, re.M))
+
+
 def strange_stubs(listing, library):
     """Those exports of a library of several levels that are more than a jump."""
-    stub = re.compile(r"^[0-9a-f]+ <(\w+)[@\w]*>:\n.*\tendbr64\s*\n.*\tjmp +\*0x\w+\(%rip\) .*\n(?!.*\t(?!nop|cs nop|data16|xchg|int3))", re.M)
-    return sorted(exports(library) - {name + VERSION for name in stub.findall(listing)})
+    return sorted(exports(library) - {name + VERSION for name in bare_jumps(listing, r".*\tendbr64\s*\n")})
 
 
 def strange_symbols(archive, levels):

@@ -17,4 +17,10 @@ TEST(RedZones, ReportWhatIsWrittenBesideABlock) {
 }
 
 }  // namespace
+#elif defined(_WIN32)
+// Has to fail, or a crash in an emulator would go unnoticed.
+TEST(Guards, DISABLED_EndAProgramThatReadsThem) {
+  const test::Block block(1000);
+  static_cast<void>(*const_cast<const volatile uint8_t*>(block.data() + 1000));
+}
 #endif

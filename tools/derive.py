@@ -6,14 +6,14 @@ The headers are the single list of exported names. For one CPU build this writes
   rename.h     one define per function: inside the library `name` means `<cpu>_name`; and one for the namespace of all
                that is internal, so that no symbol of one build is taken for one of another in a program with both
   entries.S    the entry table and the stub of each exported name, which jumps through its slot
-  exports.map  the linker's version script
+  exports.map  the linker's version script; exports.def for Windows
   static.syms  for the archive: the renames undone, so that a name stands for the function itself and not for a stub
 
 For a build that holds the code of several others, its levels, and chooses between them at load:
 
   entries.S    the table of entries and the stub of each exported name, for the shared library
   entry.S      one stub with its entry, for the archive: tools/entry_objects.py makes an object of it for each name
-  exports.map  the linker's version script
+  exports.map  as above
 
 and for the tests
 
@@ -79,43 +79,57 @@ def has_stubs(machine):
     return machine != "wasm"
 
 
-# Says that no code is put on the stack.
-EPILOGUE = '\t.section .note.GNU-stack, "", @progbits\n'
+# What formats of objects write differently. A build of several levels has its entries in a section of their own: the
+# slot, which begins as the code of the lowest level, and the way from each word to the code of a higher one. The linker
+# tells the bounds of the section or, for Windows, sorts what lies in it by what stands behind the dollar.
+FORMAT = {
+    "elf": {
+        "function": "\t.type {name}, @function\n", "end": "\t.size {name}, . - {name}\n", "internal": "\t.hidden {name}\n",
+        "entries": '\t.section qvpi_entries, "aw", @progbits\n',
+        # An excluded section makes a program that has an entry have what fills it, too.
+        "needs": '\t.section .qvpi_needs, "e", @progbits\n\t.quad {name}\n',
+        "epilogue": '\t.section .note.GNU-stack, "", @progbits\n',  # no code is put on the stack
+    },
+    "coff": {
+        "function": "\t.def {name}\n\t.scl 2\n\t.type 32\n\t.endef\n", "end": "", "internal": "",
+        "entries": '\t.section .qvpi$m, "dw"\n',
+        "needs": "\t.globl {name}\n",
+        "epilogue": "",
+    },
+}
 
 
-def stub(name, slot, machine, bits):
-    return (f"\t.p2align 4\n\t.globl {name}\n\t.type {name}, @function\n{name}:\n"
-            f"{STUB[machine, bits].format(slot=slot)}\t.size {name}, . - {name}\n")
+def stub(name, slot, machine, bits, form):
+    return (f"\t.p2align 4\n\t.globl {name}\n{form['function'].format(name=name)}{name}:\n"
+            f"{STUB[machine, bits].format(slot=slot)}{form['end'].format(name=name)}")
 
 
 def entries(names, cpu, machine, bits):
     """Assembly: stubs in header order, then the table, filled by the loader and read-only from then on."""
     size, word = bits // 8, ".quad" if bits == 64 else ".long"
+    form = FORMAT["elf"]
     text = [PROLOGUE[machine, bits], "\t.text\n"]
-    text += [stub(name, f"table + {size} * {i}", machine, bits) for i, name in enumerate(names)]
+    text += [stub(name, f"table + {size} * {i}", machine, bits, form) for i, name in enumerate(names)]
     text.append('\t.section .data.rel.ro, "aw", @progbits\n\t.p2align 6\n\t.type table, @object\ntable:\n')
     text += [f"\t.hidden {cpu}_{name}\n\t{word} {cpu}_{name}\n" for name in names]
-    return "".join([*text, "\t.size table, . - table\n", EPILOGUE])
+    return "".join([*text, "\t.size table, . - table\n", form["epilogue"]])
 
 
-# A build of several levels has these in a section whose bounds the linker tells: the slot, which begins as the code of
-# the lowest level, and the way from each word to the code of a higher one.
-ENTRIES = '\t.section qvpi_entries, "aw", @progbits\n'
 ENTRY_SIZE = 16
 
 
-def entry(name, levels):
+def entry(name, levels, form):
     lowest, *higher = [f"{level}_{name}" for level in levels]
-    text = "".join(f"\t.hidden {code}\n" for code in [lowest, *higher]) + f"\t.quad {lowest}\n"
+    text = "".join(form["internal"].format(name=code) for code in [lowest, *higher]) + f"\t.quad {lowest}\n"
     return text + "".join(f"\t.long {code} - .\n" for code in higher)
 
 
-def union_entries(names, levels, machine, bits):
+def union_entries(names, levels, machine, bits, form):
     """Assembly: stubs in header order, then the entries, on pages of their own, which can be made read-only."""
     text = [PROLOGUE[machine, bits], "\t.text\n"]
-    text += [stub(name, f"table + {ENTRY_SIZE} * {i}", machine, bits) for i, name in enumerate(names)]
-    text += [ENTRIES, "\t.p2align 12\ntable:\n", *(entry(name, levels) for name in names), "\t.p2align 12\n"]
-    return "".join([*text, EPILOGUE])
+    text += [stub(name, f"table + {ENTRY_SIZE} * {i}", machine, bits, form) for i, name in enumerate(names)]
+    text += [form["entries"], "\t.p2align 12\ntable:\n", *(entry(name, levels, form) for name in names)]
+    return "".join([*text, "\t.p2align 12\n", form["epilogue"]])
 
 
 def placeholder(names):
@@ -123,19 +137,26 @@ def placeholder(names):
     return "qvpi".ljust(max(map(len, names)), "_")
 
 
-def entry_template(names, levels, machine, bits):
-    """Assembly: one stub with its entry. The excluded section makes a program that has it have what fills it, too."""
+def entry_template(names, levels, machine, bits, form):
+    """Assembly: one stub with its entry."""
     name = placeholder(names)
-    return "".join([PROLOGUE[machine, bits], "\t.text\n", f"\t.hidden {name}\n", stub(name, "entry", machine, bits),
-                    ENTRIES, "\t.p2align 3\nentry:\n", entry(name, levels),
-                    '\t.section .qvpi_needs, "e", @progbits\n\t.quad qvpi_fill_entries\n', EPILOGUE])
+    return "".join([PROLOGUE[machine, bits], "\t.text\n", form["internal"].format(name=name),
+                    stub(name, "entry", machine, bits, form), form["entries"], "\t.p2align 3\nentry:\n",
+                    entry(name, levels, form), form["needs"].format(name="qvpi_fill_entries"), form["epilogue"]])
 
 
 # Of all symbols: programs name it, so that the next interface could live beside this one in a process.
 VERSION = "QVPI_10"
 
 
-def exports(names):
+def write_exports(folder, names, form):
+    if form is FORMAT["coff"]:
+        write(folder / "exports.def", "EXPORTS\n" + "".join(f"  {name}\n" for name in names))
+    else:
+        write(folder / "exports.map", version_script(names))
+
+
+def version_script(names):
     return VERSION + " {\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n"
 
 
@@ -185,6 +206,7 @@ def main():
     parser.add_argument("--machine", choices=sorted({machine for machine, _ in STUB} | {"wasm"}),
                         help="what that build runs on")
     parser.add_argument("--bits", type=int, choices=(32, 64), help="width of a pointer in that build")
+    parser.add_argument("--format", choices=FORMAT, default="elf", help="that of the objects of that build")
     parser.add_argument("--module", action="store_true", help="write the module's exports.txt instead")
     parser.add_argument("--used-in", nargs="+", type=Path, help="export to the module what these scripts name alone")
     parser.add_argument("--calls", action="store_true", help="write the tests' calls.cpp instead")
@@ -203,15 +225,17 @@ def main():
         names = used(names, options.used_in) if options.used_in else names
         write(options.out / "exports.txt", "".join(f"_{name}\n" for name in ["malloc", "free", *names]))
         return
-    write(options.out / "exports.map", exports(names))
+    form = FORMAT[options.format]
+    write_exports(options.out, names, form)
     if options.cpu:
         write(options.out / "rename.h", rename(names, options.cpu, options.machine))
     if options.cpu and has_stubs(options.machine):
         write(options.out / "entries.S", entries(names, options.cpu, options.machine, options.bits))
         write(options.out / "static.syms", "".join(f"{options.cpu}_{name} {name}\n" for name in names))
     if options.levels:
-        write(options.out / "entries.S", union_entries(names, options.levels, options.machine, options.bits))
-        write(options.out / "entry.S", entry_template(names, options.levels, options.machine, options.bits))
+        build = options.levels, options.machine, options.bits, form
+        write(options.out / "entries.S", union_entries(names, *build))
+        write(options.out / "entry.S", entry_template(names, *build))
 
 
 if __name__ == "__main__":

@@ -7,11 +7,10 @@ import os
 import re
 import shutil
 import sys
-import tarfile
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "support"))
-from commands import require, run  # noqa: E402
+from commands import require, run, unpacked  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
@@ -20,15 +19,6 @@ ROOT = HERE.parents[1]
 os.environ["NODE_PATH"] = "/usr/share/nodejs"
 FLAGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 LINK_FLAGS = ["-sSINGLE_FILE=1"]
-
-
-def unpacked(options, scratch):
-    run(options.cpack, "-B", scratch, cwd=options.build)
-    archive, = scratch.glob("*.tar.xz")
-    with tarfile.open(archive) as tar:
-        tar.extractall(scratch / "unpacked")
-    folder, = (scratch / "unpacked").iterdir()
-    return folder
 
 
 def try_module(module, exports):
@@ -77,7 +67,7 @@ def main():
     options = parser.parse_args()
     scratch = options.build.resolve() / "archive_test"
     shutil.rmtree(scratch, ignore_errors=True)
-    folder = unpacked(options, scratch)
+    folder = unpacked(options.cpack, options.build, scratch)
 
     try_module(folder / "module", (options.build / "derived/module/exports.txt").read_text())
     try_example(folder / "module")

@@ -1,5 +1,6 @@
 """Commands that a test runs, and what it requires of them."""
 import os
+import shutil
 import subprocess
 
 
@@ -14,3 +15,12 @@ def run(*command, cwd=None, **environment):
 def require(condition, *explanation):
     if not condition:
         raise SystemExit("failed: " + " ".join(map(str, explanation)))
+
+
+def unpacked(cpack, build, scratch):
+    """The folder in the archive that `cpack` makes of a build folder."""
+    run(cpack, "-B", scratch, cwd=build)
+    archive, = [*scratch.glob("*.tar.xz"), *scratch.glob("*.zip")]
+    shutil.unpack_archive(archive, scratch / "unpacked")
+    folder, = (scratch / "unpacked").iterdir()
+    return folder

@@ -13,12 +13,12 @@
 #include <mutex>
 #include <vector>
 
+#include "tests/support/rights.h"
+
 #ifdef __wasm__
 #define QVP_CAN_PROTECT 0
 #else
 #define QVP_CAN_PROTECT 1
-#include <sys/mman.h>
-#include <unistd.h>
 #endif
 
 namespace test {
@@ -41,7 +41,7 @@ class Pages {
     const size_t room = RoomFor(bytes);
     uint8_t* const pages = data - reinterpret_cast<uintptr_t>(data) % Page();
     if (room > kMostKept) {
-      munmap(pages - Page(), room + 2 * Page());
+      Unmap(pages - Page(), room + 2 * Page());
       return;
     }
     const std::lock_guard lock(mutex_);
@@ -49,15 +49,14 @@ class Pages {
   }
   // Makes the pages that the bytes lie in read-only, or lets them be written again.
   static void SetReadOnly(const void* data, size_t bytes, bool isReadOnly) {
-    const auto page = reinterpret_cast<uintptr_t>(data) / Page() * Page();
-    const int access = isReadOnly ? PROT_READ : PROT_READ | PROT_WRITE;
-    if (mprotect(reinterpret_cast<void*>(page), RoomFor(bytes), access) != 0) abort();
+    auto* const page = reinterpret_cast<uint8_t*>(reinterpret_cast<uintptr_t>(data) / Page() * Page());
+    MakeReadable(page, RoomFor(bytes), !isReadOnly);
   }
 
  private:
   static constexpr size_t kMostKept = 1 << 16;
 
-  static size_t Page() { return static_cast<size_t>(sysconf(_SC_PAGESIZE)); }
+  static size_t Page() { return PageBytes(); }
   static size_t RoomFor(size_t bytes) { return (bytes + Page() - 1) / Page() * Page(); }
   static uint8_t* TakeKept(size_t room) {
     const std::lock_guard lock(mutex_);
@@ -68,9 +67,8 @@ class Pages {
     return pages;
   }
   static uint8_t* Map(size_t room) {
-    void* const base = mmap(nullptr, room + 2 * Page(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    uint8_t* const pages = static_cast<uint8_t*>(base) + Page();
-    if (base == MAP_FAILED || mprotect(pages, room, PROT_READ | PROT_WRITE) != 0) abort();
+    uint8_t* const pages = MapUnreadable(room + 2 * Page()) + Page();
+    MakeReadable(pages, room, true);
     return pages;
   }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <numbers>
 
 #include "tests/support/element.h"
 
@@ -65,7 +66,7 @@ inline double CubicWeight(double t, double b, double c) {
 
 // In Lanczos interpolation; not yet divided by the sum of all weights.
 inline double LanczosWeight(double t, double lobes) {
-  const auto sinc = [](double x) { return x == 0 ? 1 : std::sin(M_PI * x) / (M_PI * x); };
+  const auto sinc = [](double x) { return x == 0 ? 1 : std::sin(std::numbers::pi * x) / (std::numbers::pi * x); };
   return std::fabs(t) < lobes ? sinc(t) * sinc(t / lobes) : 0;
 }
 
