@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Audit a built library by disassembly: it uses no instruction beyond its CPU level, none whose result differs between
 makers of CPUs, imports nothing that could allocate, print, wait or depend on the environment, exports its own functions
-only, and is read-only once loaded. Archives give no symbol a name that something else could have, too: the linker takes
+only, and is read-only once loaded: it keeps nothing between calls, so that threads need no locks. Archives give no symbol a name that something else could have, too: the linker takes
 one definition of each, and that of a higher level would crash on a CPU of a lower one.
 """
 import argparse
@@ -38,6 +38,8 @@ IMPORTS = {
     "library": r"mem(?:cpy|set|move|cmp)|qvpFree|qvpMalloc|qvpMalloc_L|qvpGetMaxCacheSizeB|qvp_get_cache_line_size",
 }
 VERSION = "@@QVPI_10"  # every export has it
+VARIABLES = {"core": r".*largestCache.*"}  # found out once, and the same whoever does
+START_FILES_VARIABLES = r"completed\.\d+|__dso_handle"
 FROM_START_FILES = r"_ITM_\w+|__cxa_finalize|__gmon_start__|__stack_chk_fail"
 INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(?:(?:notrack|rep\w*|lock|bnd|data16|[cdefgs]s)\s+)*(\w+)\s*([^<#]*)")
 
@@ -102,17 +104,27 @@ def is_read_only(library):
     return "TEXTREL" not in dynamic and "BIND_NOW" in dynamic and ("core" in library.name or bool(relocated) or bool(paged))
 
 
+def variables(options, library, kind):
+    """What the library could write to after it is loaded, but for what the start files of C have."""
+    allowed = re.compile(f"{VARIABLES.get(kind, '(?!)')}|{START_FILES_VARIABLES}")
+    names = re.findall(r"\s\.(?:data|bss|tdata|tbss)(?:\.(?!rel\.ro)\S+)?\t[0-9a-f]*[1-9a-f][0-9a-f]* +(?:\.hidden )?(\S+)$",
+                       run(options.objdump, "-t", str(library)), re.M)
+    return sorted(name for name in names if not allowed.fullmatch(name))
+
+
 def audit_library(options, library):
     kind = "core" if "core" in library.name else options.cpu
     listing = run(options.objdump, "-d", "--no-show-raw-insn", str(library))
     count, found = offences(listing, kind)
     imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
     stubs = strange_stubs(listing, library) if options.levels and kind != "core" else []
+    static = variables(options, library, kind)
     print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
-          f"exports not allowed: {exports}; more than a jump: {stubs}; read-only: {fixed}")
+          f"exports not allowed: {exports}; more than a jump: {stubs}; variables: {static}; "
+          f"read-only: {fixed}")
     for line in found.values():
         print("   ", line)
-    return not (found or imports or exports or stubs) and fixed and count >= 100
+    return not (found or imports or exports or stubs or static) and fixed and count >= 100
 
 
 def main():
