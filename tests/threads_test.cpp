@@ -1,10 +1,12 @@
-// What lets threads share a record without locks: calls write to their destination and their buffer, and to nothing else.
+// What lets threads share a record without locks: calls write to their destination and their buffer, and to nothing
+// else.
+#include "tests/support/threads.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "tests/support/exports.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Export;
