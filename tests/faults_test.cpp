@@ -1,5 +1,5 @@
-// What a caller's surroundings may do to any function, and it to them: little stack, signals in the middle, flags of
-// floating-point exceptions that somebody else has left.
+// What a caller's surroundings may do to the code of any function, and it to them: little stack, signals in the middle,
+// flags of floating-point exceptions that somebody else has left.
 #include <gtest/gtest.h>
 
 #ifdef __linux__
@@ -51,7 +51,7 @@ int StackOf(const Scene& scene) {
 
 // Programs choose the size of a thread's stack, for WebAssembly that of the whole program, and nothing tells there when
 // it is too small: newer releases of emscripten take 64 KiB.
-TEST(EveryFunction, NeedsLittleStack) {
+TEST(EveryKernel, NeedsLittleStack) {
   if (kHasSanitizer) GTEST_SKIP();
 #ifdef __wasm__
   constexpr int kMost = 48 << 10;
@@ -71,7 +71,7 @@ TEST(EveryFunction, NeedsLittleStack) {
 }
 
 // Whoever has computed before may have left flags of exceptions.
-TEST(EveryFunction, TakesNoNoticeOfExceptionFlags) {
+TEST(EveryKernel, TakesNoNoticeOfExceptionFlags) {
   for (const Export& function : Exports()) {
     const Scene expected(function, kRoi, 10), scene(function, kRoi, 10);
     const QvpStatus status = expected.Call();
@@ -150,7 +150,7 @@ bool CallUntilDisturbed(const Scene& scene, QvpStatus* status) {
   return false;
 }
 
-TEST(EveryFunction, GivesTheSameWithASignalInTheMiddle) {
+TEST(EveryKernel, GivesTheSameWithASignalInTheMiddle) {
   if (kHasSanitizer) GTEST_SKIP();
   const Alarm alarm;
   int disturbed = 0;

@@ -24,7 +24,7 @@ bool IsImage(const Export& function, size_t place) {
 
 #if QVP_CAN_PROTECT
 // Sources, records and tables lie in pages that cannot be written while a call runs.
-TEST(EveryFunction, WritesToNothingThatItTakesAsConst) {
+TEST(EveryKernel, WritesToNothingThatItTakesAsConst) {
   for (const Export& function : Exports()) {
     Scene scene(function, kRoi, 8);
     const auto setReadOnly = [&](bool isReadOnly) {
@@ -114,7 +114,7 @@ class Team {
   std::vector<Bands> bands_;
 };
 
-TEST(EveryFunction, ServesThreadsThatShareWhatItReads) {
+TEST(EveryKernel, ServesThreadsThatShareWhatItReads) {
   for (const Export& function : Exports()) {
     Team team(function);
     std::vector<QvpStatus> statuses(kThreads);
