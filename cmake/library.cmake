@@ -90,7 +90,8 @@ function(qvpi_shared_and_static name object_libraries output code bits map)
   target_link_options(${name} PRIVATE LINKER:--version-script=${map},-z,relro,-z,now,--as-needed,--gc-sections)
   target_link_options(${name}_static INTERFACE LINKER:--gc-sections)  # a program gets the functions that it calls
   if(NOT QVPI_SANITIZE)
-    target_link_options(${name} PRIVATE LINKER:-z,defs)
+    # A library needs no start files, and Debian's are not marked as protected: with them no library would be.
+    target_link_options(${name} PRIVATE -nostartfiles LINKER:-z,defs)
   endif()
 endfunction()
 
