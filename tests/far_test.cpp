@@ -1,5 +1,5 @@
-// Images that take more memory than 32 bits can tell: rows that lie gigabytes apart, of which only those pages exist that
-// are touched, and rows of gigabytes whose pages are the same few again and again.
+// Images that take more memory than 32 bits can tell: rows that lie gigabytes apart, of which only those pages exist
+// that are touched, and rows of gigabytes whose pages are the same few again and again.
 #include "tests/support/exports.h"
 
 #if defined(__linux__) && defined(__LP64__)
