@@ -56,7 +56,7 @@ TEST(EveryKernel, NeedsLittleStack) {
 #ifdef __wasm__
   constexpr int kMost = 48 << 10;
 #else
-  constexpr int kMost = 56 << 10;
+  constexpr int kMost = 64 << 10;
 #endif
   int most = 0, beyond16K = 0;
   for (const Export& function : Exports()) {
