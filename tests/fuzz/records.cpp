@@ -24,8 +24,8 @@ constexpr const char* kNames[] = {"refused", "same", "other", "read out", "wrote
 using Counts = std::array<size_t, kOutcomes>;
 
 constexpr QvpiSize kRegion{37, 5};
-constexpr size_t kMostHangs = 5;  // of a function
-constexpr int kMostFunctions = 2;  // of a family, if none is named
+constexpr size_t kMostHangs = 5;    // of a function
+constexpr int kMostFunctions = 2;   // of a family, if none is named
 constexpr size_t kMostWords = 256;  // of a record: the first half of them, and as many of the rest
 
 sigjmp_buf before;
@@ -57,7 +57,8 @@ void SetAlarm(int milliseconds) {
 
 bool TakesRecord(const Export& function, size_t place) {
   const std::string_view type = function.parameters[place].type;
-  return fuzz::IsPointer(type) && fuzz::IsConst(type) && (type.find("Spec") != type.npos || type.find("State") != type.npos);
+  return fuzz::IsPointer(type) && fuzz::IsConst(type) &&
+         (type.find("Spec") != type.npos || type.find("State") != type.npos);
 }
 
 // A scene whose memory can be put back.
@@ -129,8 +130,8 @@ class Subject {
 
 void TryRecord(const Export& function, Counts& counts, bool isVerbose) {
   constexpr uint32_t (*kChanges[])(uint32_t) = {
-      [](uint32_t w) { return w ^ 1; },           [](uint32_t w) { return w ^ 1u << 31; },
-      [](uint32_t w) { return w ^ 1u << 16; },    [](uint32_t) { return 0u; },
+      [](uint32_t w) { return w ^ 1; },        [](uint32_t w) { return w ^ 1u << 31; },
+      [](uint32_t w) { return w ^ 1u << 16; }, [](uint32_t) { return 0u; },
       [](uint32_t) { return UINT32_MAX; },
   };
   Subject& subject = *new Subject(function);  // never returned: the heap may be spoilt
@@ -150,29 +151,31 @@ void TryRecord(const Export& function, Counts& counts, bool isVerbose) {
 
 std::string FamilyOf(const std::string& function) { return function.substr(0, function.find('_')); }
 
-// Waits for a child, for a few seconds.
-void Await(pid_t child) {
+// Whether a child ends by itself, in a few seconds. One whose stack has been written over does not.
+bool IsOver(pid_t child) {
   for (int i = 0; i < 4000; ++i) {
-    if (waitpid(child, nullptr, WNOHANG) != 0) return;
+    int result = 0;
+    if (waitpid(child, &result, WNOHANG) != 0) return WIFEXITED(result);
     usleep(1000);
   }
-  std::printf("a process had to be stopped\n");
   kill(child, SIGKILL);
   waitpid(child, nullptr, 0);
+  return false;
 }
 
 }  // namespace
 
 int main(int count, char** words) {
   const std::vector<std::string> wanted(words + 1, words + count);
-  auto* const counts = static_cast<Counts*>(
-      mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+  auto* const counts =
+      static_cast<Counts*>(mmap(nullptr, sizeof(Counts), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
   std::map<std::string, Counts> families;
   std::map<std::string, int> tried;
   for (const Export& function : test::Exports()) {
     const auto isMeant = [&](const std::string& w) { return function.name.starts_with(w); };
     if (!wanted.empty() && std::none_of(wanted.begin(), wanted.end(), isMeant)) continue;
-    if ((!function.Has("pSpec") && !function.Has("pState")) || function.name.find("Init") != std::string::npos) continue;
+    if ((!function.Has("pSpec") && !function.Has("pState")) || function.name.find("Init") != std::string::npos)
+      continue;
     if (wanted.empty() && ++tried[FamilyOf(function.name)] > kMostFunctions) continue;
     *counts = {};
     std::fflush(stdout);
@@ -182,7 +185,7 @@ int main(int count, char** words) {
       std::fflush(stdout);
       _exit(0);
     } else {
-      Await(child);
+      (*counts)[kWrites] += !IsOver(child);
     }
     Counts& family = families[FamilyOf(function.name)];
     for (int i = 0; i < kOutcomes; ++i) family[i] += (*counts)[i];
