@@ -6,6 +6,8 @@ set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function,poi
                     -fno-omit-frame-pointer -g1 -O1)
 if(QVPI_SANITIZE STREQUAL threads)
   set(QVPI_SANITIZERS -fsanitize=thread -g1 -O1)
+elseif(QVPI_SANITIZE STREQUAL coverage)
+  set(QVPI_SANITIZERS -fprofile-instr-generate -fcoverage-mapping -O1)
 endif()
 set(QVPI_SOVERSION 10)
 
