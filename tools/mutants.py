@@ -16,6 +16,7 @@ import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
+from threading import Lock
 
 BUILD, CPU = Path("build"), "v3"
 MOST_OBJECTS = 3  # that see a place: headers that nearly all include would take minutes
@@ -148,8 +149,8 @@ def filter_for(folder):
     names = []
     for test in sorted(Path("tests").glob("*_test.cpp")):
         if test.stem.startswith(tuple(TESTS[folder])):
-            names += [f"{suite}.{name}" for suite, name in re.findall(r"^TEST\((\w+), (\w+)\)", test.read_text(), re.M)
-                      if suite != "EveryKernel"]
+            tests = re.findall(r"^(?:TYPED_)?TEST(?:_[FP])?\((\w+), (\w+)\)", test.read_text(), re.M)
+            names += [f"*{suite}*.{name}*" for suite, name in tests if suite != "EveryKernel"]
     return ":".join(["EveryFunction.Refuses*", *names])
 
 
@@ -167,6 +168,28 @@ def judge(library, mutant, scratch, seconds):
     return verdict
 
 
+def examine(library, candidates, options):
+    """How many of the candidates, until the sample is full, are killed, survive, or are no mutants."""
+    counts, left, turn = {"killed": 0, "SURVIVES": 0, "no mutant": 0}, iter(candidates), Lock()
+
+    def work():
+        while counts["killed"] + counts["SURVIVES"] < options.sample:
+            with turn:
+                mutant = next(left, None)
+            if mutant is None:
+                return
+            verdict = judge(library, mutant, BUILD / "mutants", options.seconds)
+            with turn:
+                counts[verdict] += 1
+                if verdict == "SURVIVES":
+                    print(mutant, flush=True)
+
+    with ThreadPoolExecutor(options.jobs) as pool:
+        for worker in [pool.submit(work) for _ in range(options.jobs)]:
+            worker.result()
+    return counts
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("folders", nargs="*", help=f"of the library; by default all: {' '.join(TESTS)}")
@@ -175,23 +198,13 @@ def main():
     parser.add_argument("--seconds", type=int, default=120, help="for the tests of a mutant")
     parser.add_argument("--jobs", type=int, default=1)
     options = parser.parse_args()
-    library, scratch = Library(), BUILD / "mutants"
+    library = Library()
     files = [file for folder in options.folders or TESTS for file in sorted(Path(folder).glob("*"))
              if 1 <= len(library.objects_of(file)) <= MOST_OBJECTS]
     candidates = [mutant for file in files for mutant in mutants_of(file)]
     random.Random(options.seed).shuffle(candidates)
-    counts = {"killed": 0, "SURVIVES": 0, "no mutant": 0}
-    with ThreadPoolExecutor(options.jobs) as pool:
-        for begin in range(0, len(candidates), options.jobs):
-            batch = candidates[begin:begin + options.jobs]
-            verdicts = pool.map(lambda mutant: judge(library, mutant, scratch, options.seconds), batch)
-            for mutant, verdict in zip(batch, verdicts):
-                counts[verdict] += 1
-                if verdict == "SURVIVES":
-                    print(mutant, flush=True)
-            if counts["killed"] + counts["SURVIVES"] >= options.sample:
-                break
-    print(f"of {len(candidates)} places: {counts}")
+    counts = examine(library, candidates, options)
+    print(f"of {len(candidates)} places, seed {options.seed}: {counts}")
     sys.exit(counts["killed"] + counts["SURVIVES"] == 0)
 
 
