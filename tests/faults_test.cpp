@@ -86,7 +86,7 @@ volatile std::sig_atomic_t signals = 0;
 
 // Changes what a call may have in use: vector registers, and the stack below it.
 void Disturb(int) {
-  volatile uint8_t stack[4096];
+  volatile uint8_t stack[1024];
   for (volatile uint8_t& byte : stack) byte = 0xC3;
 #if defined(__x86_64__) || defined(__i386__)
   __asm__ volatile(
