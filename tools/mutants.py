@@ -195,7 +195,7 @@ def main():
     parser.add_argument("folders", nargs="*", help=f"of the library; by default all: {' '.join(TESTS)}")
     parser.add_argument("--sample", type=int, default=30, help="mutants that count")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--seconds", type=int, default=120, help="for the tests of a mutant")
+    parser.add_argument("--seconds", type=int, default=300, help="for the tests of a mutant")
     parser.add_argument("--jobs", type=int, default=1)
     options = parser.parse_args()
     library = Library()
