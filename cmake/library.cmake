@@ -4,6 +4,11 @@ set(QVPI_WARNINGS -Wall -Wextra -Wshadow -Wcast-qual -Wmissing-declarations -Wer
 # To look for sums of pointers that wrap takes four times the compiler's time, and what they lead to is seen anyway.
 set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function,pointer-overflow -fno-sanitize-recover=all
                     -fno-omit-frame-pointer -g1 -O1)
+if(QVPI_SANITIZE STREQUAL threads)
+  set(QVPI_SANITIZERS -fsanitize=thread -g1 -O1)
+elseif(QVPI_SANITIZE STREQUAL coverage)
+  set(QVPI_SANITIZERS -fprofile-instr-generate -fcoverage-mapping -O1)
+endif()
 set(QVPI_SOVERSION 10)
 
 # No exceptions, no run-time type information and no C++ run-time library; float results must not depend on the CPU.
@@ -63,7 +68,7 @@ function(qvpi_settings target bits)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ${QVPI_HAS_SHARED} LINKER_LANGUAGE C)
   if(QVPI_SANITIZE)
     target_compile_options(${target} PRIVATE ${QVPI_SANITIZERS}
-      $<$<CXX_COMPILER_ID:Clang>:-fsanitize-coverage=inline-8bit-counters,pc-table>)  # the fuzzer sees what it reaches
+      $<$<AND:$<CXX_COMPILER_ID:Clang>,$<STREQUAL:${QVPI_SANITIZE},memory>>:-fsanitize-coverage=inline-8bit-counters,pc-table>)  # the fuzzer sees what it reaches
     target_link_options(${target} PRIVATE ${QVPI_SANITIZERS})
   endif()
   if(bits EQUAL 32 AND QVPI_MACHINE STREQUAL x86)
@@ -91,7 +96,8 @@ function(qvpi_link_options name exports)
   else()
     target_link_options(${name} PRIVATE LINKER:--version-script=${exports},-z,relro,-z,now,--as-needed,--gc-sections)
     if(NOT QVPI_SANITIZE)
-      target_link_options(${name} PRIVATE LINKER:-z,defs)
+      # A library needs no start files, and Debian's are not marked as protected: with them no library would be.
+      target_link_options(${name} PRIVATE -nostartfiles LINKER:-z,defs)
     endif()
   endif()
 endfunction()

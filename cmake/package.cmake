@@ -23,6 +23,16 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     COMPONENT ${component} EXCLUDE_FROM_ALL)
 endforeach()
 
+# The list of a package's files with their hashes is made of the files as they are packed, so it comes last.
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  install(CODE "
+    set(root \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
+    execute_process(COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/sbom.py --name ${component}
+      --version ${PROJECT_VERSION} --highway ${PROJECT_BINARY_DIR}/highway --root \"\${root}\"
+      --out \"\${root}/share/doc/${component}/${component}.spdx.json\" COMMAND_ERROR_IS_FATAL ANY)"
+    COMPONENT ${component} EXCLUDE_FROM_ALL)
+endforeach()
+
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_NAME libqvpi10)
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBQVPI10_PACKAGE_ARCHITECTURE ${QVPI_DEBIAN_ARCHITECTURE})

@@ -1,6 +1,12 @@
 // Image allocation, the version record, and the companion library.
 #include <gtest/gtest.h>
 
+#ifdef __linux__
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
 #include <climits>
 #include <cstring>
 #include <filesystem>
@@ -89,6 +95,28 @@ TEST(Malloc, GivesImagesBeyondTwoGigabytes) {
   }
   qvpiFree(image);
 }
+
+#if defined(__linux__)
+// Of a process that may have no more memory. The step is told all the same.
+TEST(Malloc, GivesNullWhereMemoryEnds) {
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  GTEST_SKIP() << "the sanitizer reserves memory of its own";
+#endif
+#endif
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit limit{1 << 20, 1 << 20};
+    int step = 0;
+    bool isRefused = setrlimit(RLIMIT_AS, &limit) == 0 && qvpMalloc(1 << 30) == nullptr;
+    isRefused &= qvpiMalloc_8u_C1(32000, 32000, &step) == nullptr && step == 32000;
+    _exit(isRefused ? 0 : 1);
+  }
+  int result = 0;
+  ASSERT_EQ(waitpid(child, &result, 0), child);
+  EXPECT_TRUE(WIFEXITED(result) && WEXITSTATUS(result) == 0) << result;
+}
+#endif
 
 TEST(Version, NamesTheBuild) {
   const QvpLibraryVersion* version = qvpiGetLibVersion();

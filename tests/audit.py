@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Audit a built library by disassembly: it uses no instruction beyond its CPU level, none whose result differs between
 makers of CPUs, imports nothing that could allocate, print, wait or depend on the environment, exports its own functions
-only, and is read-only once loaded. Archives give no symbol a name that something else could have, too: the linker takes
-one definition of each, and that of a higher level would crash on a CPU of a lower one.
+only, and is read-only once loaded. It keeps nothing between calls, so that threads need no locks. No data can be run as
+code, and jumps through pointers land where they may. Archives give no symbol a name that something else could have, too:
+the linker takes one definition of each, and that of a higher level would crash on a CPU of a lower one.
 """
 import argparse
 import re
@@ -38,7 +39,8 @@ IMPORTS = {
     "library": r"mem(?:cpy|set|move|cmp)|qvpFree|qvpMalloc|qvpMalloc_L|qvpGetMaxCacheSizeB|qvp_get_cache_line_size",
 }
 VERSION = "@@QVPI_10"  # every export has it
-FROM_START_FILES = r"_ITM_\w+|__cxa_finalize|__gmon_start__|__stack_chk_fail"
+VARIABLES = {"core": r".*largestCache.*"}  # found out once, and the same whoever does
+PROTECTION = {"n8": "BTI"}  # that every object has; elsewhere both of x86
 INSTRUCTION = re.compile(r"^\s+[0-9a-f]+:\s+(?:(?:notrack|rep\w*|lock|bnd|data16|[cdefgs]s)\s+)*(\w+)\s*([^<#]*)")
 
 
@@ -63,7 +65,7 @@ def offences(listing, kind):
 
 def strange_imports(library, kind):
     own = IMPORTS["core"] if kind == "core" else IMPORTS["library"] + "|" + IMPORTS.get(kind, "(?!)")
-    allowed = re.compile(f"(?:{own}|{FROM_START_FILES})")
+    allowed = re.compile(f"(?:{own}|__stack_chk_fail)")
     names = {line.split()[-1].split("@")[0] for line in run("nm", "-D", "--undefined-only", str(library)).splitlines()}
     return sorted(name for name in names if not allowed.fullmatch(name))
 
@@ -108,17 +110,34 @@ def is_read_only(library):
     return "TEXTREL" not in dynamic and "BIND_NOW" in dynamic and ("core" in library.name or bool(relocated) or bool(paged))
 
 
+def variables(options, library, kind):
+    """What the library could write to after it is loaded."""
+    allowed = re.compile(VARIABLES.get(kind, "(?!)"))
+    names = re.findall(r"\s\.(?:data|bss|tdata|tbss)(?:\.(?!rel\.ro)\S+)?\t[0-9a-f]*[1-9a-f][0-9a-f]* +(?:\.hidden )?(\S+)$",
+                       run(options.objdump, "-t", str(library)), re.M)
+    return sorted(name for name in names if not allowed.fullmatch(name))
+
+
+def is_protected(library, cpu):
+    """No stack or segment is both code and data, and indirect jumps land where a marked instruction is."""
+    segments, notes = run("readelf", "-lW", str(library)), run("readelf", "-nW", str(library))
+    stack = re.search(r"GNU_STACK .* (\w+) +0x\w+$", segments, re.M)
+    return bool(stack and stack.group(1) == "RW" and " RWE " not in segments and PROTECTION.get(cpu, "IBT, SHSTK") in notes)
+
+
 def audit_library(options, library):
     kind = "core" if "core" in library.name else options.cpu
     listing = run(options.objdump, "-d", "--no-show-raw-insn", str(library))
     count, found = offences(listing, kind)
     imports, exports, fixed = strange_imports(library, kind), strange_exports(library), is_read_only(library)
     stubs = strange_stubs(listing, library) if options.levels and kind != "core" else []
+    static, protected = variables(options, library, kind), is_protected(library, options.cpu)
     print(f"{library.name} for {kind}: {count} instructions, {len(found)} not allowed; imports not allowed: {imports}; "
-          f"exports not allowed: {exports}; more than a jump: {stubs}; read-only: {fixed}")
+          f"exports not allowed: {exports}; more than a jump: {stubs}; variables: {static}; "
+          f"protected: {protected}; read-only: {fixed}")
     for line in found.values():
         print("   ", line)
-    return not (found or imports or exports or stubs) and fixed and count >= 100
+    return not (found or imports or exports or stubs or static) and protected and fixed and count >= 100
 
 
 def main():

@@ -147,29 +147,6 @@ TEST(EveryFunction, WorksAtEveryAlignmentOfTheStack) {
 }
 #endif
 
-#ifdef __wasm__
-// Bytes of the stack that a call writes to, of this many that are marked before it.
-constexpr size_t kMarked = 1 << 17;
-
-__attribute__((noinline)) size_t StackOf(const Scene& scene) {
-  auto* const top = static_cast<uint8_t*>(__builtin_frame_address(0)) - 256;
-  auto* const bottom = top - kMarked;
-  std::memset(bottom, 0x5A, kMarked);
-  scene.Call();
-  return top - std::find_if(bottom, top, [](uint8_t byte) { return byte != 0x5A; });
-}
-
-// Programs for WebAssembly choose the size of their stack, and nothing tells when it is too small: newer releases of
-// emscripten take 64 KiB, of which a call leaves the program a quarter.
-TEST(EveryFunction, NeedsLittleStack) {
-  for (const Export& function : Exports()) {
-    for (const QvpiSize size : {kRoi, QvpiSize{1030, 2}, {259, 67}}) {
-      EXPECT_LE(StackOf(Scene(function, size, 7)), 49152u) << function.name << ' ' << size.width;
-    }
-  }
-}
-#endif
-
 #ifdef __linux__
 // In strict mode any system call but read, write and exit kills the process.
 TEST(EveryFunction, MakesNoSystemCall) {

@@ -155,6 +155,28 @@ TEST(FilterSeparable, NeverWrapsAround) {
   }
 }
 
+// Taps so large that sums may take 64 bits, which cancel each other but for one.
+TEST(FilterSeparable, RoundsTiesOfLongSums) {
+  const Export& function = FunctionNamed("qvpiFilterSeparableBorder_16s_C1R");
+  std::vector<Real> taps{1};
+  for (int i = 0; i < 10; ++i) taps.insert(taps.end(), {32767, -32767});
+  for (const QvpRoundMode mode : {qvpRoundZero, qvpRoundNear, qvpRoundFinancial}) {
+    for (const int divisor : {2, -2, 6}) {
+      const Axes axes{true, taps, taps, divisor, mode};
+      const Name name(function.name);
+      Bordered scene(name.From(), {}, {{33, 1}, 1, qvpBorderReplicate});
+      const Prepared prepared = Prepare(axes, name, scene.region.size);
+      for (const int pixel : {-9, -5, -3, -2, -1, 1, 2, 3, 4, 5, 9}) {
+        scene.image.Fill([&](int, int) { return pixel; });
+        const Real expected = test::Quotient(name.To(), int64_t{pixel}, divisor, mode);
+        test::ExpectResults(
+            function, scene, FilterAll(function, scene, prepared), [&](int, int, int) { return expected; },
+            std::to_string(pixel) + " / " + std::to_string(divisor));
+      }
+    }
+  }
+}
+
 TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
   const Axes axes = RandomAxes(true, {5, 4}, 9, 37);
   const Export& function = FunctionNamed("qvpiFilterSeparableBorder_8u_C3R");

@@ -720,6 +720,7 @@ TEST(Resize, FailedInitsClearRecords) {
       },
       [&] { return qvpiResizeSuperShiftInit_8u(n, n, NAN, 0, spec); },
       [&] { return qvpiResizeAntialiasingLinearInit(none, n, spec, nullptr); },
+      [&] { return qvpiResizeAntialiasingLinearInit(small, n, spec, b); },
   };
   int size = 0;
   for (const auto& init : failing) {

@@ -21,8 +21,9 @@ uint32_t HashOf(std::string_view name) {
 }
 
 // Mostly short rows and few of them: what differs between widths lies around the lengths of vectors.
-QvpiSize RegionFrom(Choices& choices) {
+QvpiSize RegionFrom(Choices& choices, const std::optional<QvpiSize>& given) {
   const int width = choices.Next(), height = choices.Next();
+  if (given) return *given;
   return {1 + width % (width < 240 ? 70 : 131), 1 + height % (height < 248 ? 6 : 67)};
 }
 
@@ -110,7 +111,7 @@ Trial::Trial(size_t function, Choices& choices, Workshop& workshop)
     : number_(function),
       function_(Exports()[function]),
       workshop_(workshop),
-      scene_{function_, RegionFrom(choices), choices.Next<uint16_t>()},  // in this order
+      scene_{function_, RegionFrom(choices, workshop.region), choices.Next<uint16_t>()},  // in this order
       pieces_(scene_.Pieces()),
       arguments_(scene_.arguments) {
   isComparable_ = !GivesAddresses(function_);

@@ -18,6 +18,7 @@ struct Workshop {
   std::vector<Build> others;  // beside the build that the program is linked with
   // Any byte of a record, not only what identifies it.
   const bool spoilsRecords = std::getenv("QVPI_FUZZ_RECORDS") != nullptr;
+  std::optional<QvpiSize> region;  // instead of one that the choices make
   const bool isVerbose = std::getenv("QVPI_FUZZ_VERBOSE") != nullptr;
   // Of each function whether its results are made of pixels, once that is known; see Trial::IsMadeOfPixels.
   std::vector<std::optional<bool>> madeOfPixels = std::vector<std::optional<bool>>(test::Exports().size());

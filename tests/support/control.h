@@ -1,4 +1,4 @@
-// The control state of floating point: rounding, subnormals, traps; without the flags of what happened.
+// The control state of floating point: rounding, subnormals, traps; apart from that, the flags of what happened.
 #pragma once
 
 #include <cstdint>
@@ -23,6 +23,7 @@ inline Control GetControl() {
 }
 inline void SetControl(const Control& control) { _mm_setcsr(static_cast<unsigned>(control.vectors)); }
 inline Control TowardZeroWithoutSubnormals(const Control& usual) { return {usual.vectors | 0xE040, usual.x87}; }
+inline void RaiseExceptionFlags() { _mm_setcsr(_mm_getcsr() | 0x3F); }
 #elif defined(__aarch64__)
 inline Control GetControl() {
   Control control;
@@ -31,10 +32,12 @@ inline Control GetControl() {
 }
 inline void SetControl(const Control& control) { __asm__ volatile("msr fpcr, %0" : : "r"(control.vectors)); }
 inline Control TowardZeroWithoutSubnormals(const Control& usual) { return {usual.vectors | 7u << 22}; }
+inline void RaiseExceptionFlags() { __asm__ volatile("msr fpsr, %0" : : "r"(uint64_t{0x9F})); }
 #else  // no such state
 inline Control GetControl() { return {}; }
 inline void SetControl(const Control&) {}
 inline Control TowardZeroWithoutSubnormals(const Control& usual) { return usual; }
+inline void RaiseExceptionFlags() {}
 #endif
 
 }  // namespace test
