@@ -49,7 +49,7 @@ class FixedSteps {
   }
   // The same of any points, which are moved to the pixels of a box.
   template <int kPixelBytes>
-  bool PlaceIn(const PixelBox& box, double u, double v, ptrdiff_t n, int32_t step, int32_t* offset) const {
+  HWY_INLINE bool PlaceIn(const PixelBox& box, double u, double v, ptrdiff_t n, int32_t step, int32_t* offset) const {
     return PlaceKept<kPixelBytes>(u, v, n, step, offset, [&](auto pixel, int axis, int32_t origin) HWY_ATTR {
       return box.Moved(hn::ScalableTag<int32_t>(), axis, origin, pixel);
     });

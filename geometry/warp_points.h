@@ -53,16 +53,16 @@ struct AffinePoints {
 struct MovedAffinePoints {
   using Coordinate = double;
   AffinePoints points;
-  const PixelBox* box;
+  PixelBox box;
 
   MovedAffinePoints From(ptrdiff_t x) const { return {points.From(x), box}; }
   ptrdiff_t MostAtOnce() const { return kBlock; }
   static constexpr bool kIsLong = false;
 
   template <int kPixelBytes>
-  bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
+  HWY_INLINE bool PlaceNearest(ptrdiff_t n, int32_t step, int32_t* offset) const {
     return points.IsPlaced(n) &&
-           points.steps->PlaceIn<kPixelBytes>(*box, points.FirstU(), points.FirstV(), n, step, offset);
+           points.steps->PlaceIn<kPixelBytes>(box, points.FirstU(), points.FirstV(), n, step, offset);
   }
 
   template <class D>
@@ -75,7 +75,7 @@ struct MovedAffinePoints {
  private:
   template <class D, class V = hn::Vec<D>>
   HWY_INLINE V Moved(D d, int axis, V x) const {
-    return hn::Min(MaxOrSecond(x, hn::Set(d, box->low[axis])), hn::Set(d, box->high[axis]));
+    return hn::Min(MaxOrSecond(x, hn::Set(d, box.low[axis])), hn::Set(d, box.high[axis]));
   }
 };
 

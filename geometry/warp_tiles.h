@@ -54,51 +54,94 @@ Task<T> TaskOf(const Call<T>& call, const Record& record) {
 template <int kTaps, class T>
 constexpr bool kIsExact = kTaps == 1 || std::is_same_v<T, double>;
 
-// A row of the nearest pixels of any points in a copy, where all have a pixel: moved to the rim where they are farther
-// outside, so that none is told from others.
-template <class T>
-void MoveNearestRow(const Task<T>& copy, const AffinePoints& points, const PixelBox& box, ptrdiff_t width, T* row) {
-  SampleInterior<1>(copy, MovedAffinePoints{points, &box}, {0, width}, row);
-}
-
-// Affine transforms, and bilinear ones to the source, which are affine on each row.
+// With what the rows that follow will take fetched ahead.
 template <int kTaps, class T>
-void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
+Task<T> AffineTaskOf(const Call<T>& call, const Record& record, Size size) {
   Task<T> task = TaskOf<kTaps>(call, record);
-  const bool isPlaced = kTaps == 1 && !task.isShift;
-  FixedSteps fixedSteps(isPlaced ? size.width : 0);
-  AnchorSteps anchorSteps;
   const ptrdiff_t middle = call.x + size.width / 2;
   const auto down = [&](int i) {
     return (record.twist[i] * static_cast<double>(middle) + record.c[i][1]) * kRowsAhead;
   };
   task.FetchAhead(down(0), down(1));
-  Rimmed<T> rimmed(task, kTaps);
-  const Sources<T> sources{task, rimmed.task()};
-  const bool isWhole = isPlaced && rimmed.isCopy() && !task.area.isBounded;
-  const PixelBox farthest(task.area, kTaps);
-  RowSpans<kTaps, T> rowSpans(record, task, SafeBox(rimmed.InnerBox(kTaps)), call.x, size);
-  for (ptrdiff_t y = 0; y < size.height; ++y) {
-    T* row = call.dst.Row(y);
-    AffinePoints points(record, call.x, call.y + y);
-    if constexpr (kIsExact<kTaps, T>) {
-      if (isPlaced && fixedSteps.Set(points.u.a, points.v.a)) points.steps = &fixedSteps;
-      if (isWhole) {
-        MoveNearestRow(sources.inside, points, farthest, size.width, row);
+  return task;
+}
+
+// Rows of affine transforms, and of bilinear ones to the source, which are affine on each row.
+template <int kTaps, class T>
+class AffineTile {
+ public:
+  AffineTile(const Call<T>& call, const Record& record, Size size)
+      : call_(call),
+        record_(record),
+        width_(size.width),
+        task_(AffineTaskOf<kTaps>(call, record, size)),
+        rimmed_(task_, kTaps),
+        sources_{task_, rimmed_.task()},
+        spans_(record, task_, SafeBox(rimmed_.InnerBox(kTaps)), call.x, size),
+        fixedSteps_(IsPlaced() ? size.width : 0) {}
+
+  void Warp(ptrdiff_t height) {
+    if constexpr (kTaps == 1) {
+      if (IsPlaced() && rimmed_.isCopy() && !task_.area.isBounded) return MoveNearest(height);
+    }
+    for (ptrdiff_t y = 0; y < height; ++y) {
+      if constexpr (kIsExact<kTaps, T>) {
+        WarpExactly(y, PointsOf(y));
       } else {
-        WarpRow<kTaps>(sources, rowSpans.At(y, call.y + y, points), points, points, size.width, row);
-      }
-    } else {
-      const Spans spans = rowSpans.At(y, call.y + y, points);
-      anchorSteps.Set(points.u.a, points.v.a);
-      if (anchorSteps.IsUsableFor(points, record.width)) {
-        const AnchoredPoints anchored(points, anchorSteps, call.x);
-        WarpRow<kTaps>(sources, spans, TestedPoints{points, anchored, &task.area}, anchored, size.width, row);
-      } else {
-        SampleTested<kTaps>(sources, points, 0, size.width, row);
+        WarpByAnchors(y, PointsOf(y));
       }
     }
   }
+
+ private:
+  bool IsPlaced() const { return kTaps == 1 && !task_.isShift; }
+  AffinePoints PointsOf(ptrdiff_t y) const { return {record_, call_.x, call_.y + y}; }
+  Spans SpansOf(ptrdiff_t y, const AffinePoints& points) { return spans_.At(y, call_.y + y, points); }
+  void Place(AffinePoints& points) {
+    if (fixedSteps_.Set(points.u.a, points.v.a)) points.steps = &fixedSteps_;
+  }
+
+  // In a copy all points have a nearest pixel, moved to the rim where they are farther outside, so that none is told
+  // from others.
+  void MoveNearest(ptrdiff_t height) {
+    const PixelBox box(task_.area, 1);
+    for (ptrdiff_t y = 0; y < height; ++y) {
+      AffinePoints points = PointsOf(y);
+      Place(points);
+      SampleInterior<1>(sources_.inside, MovedAffinePoints{points, box}, {0, width_}, call_.dst.Row(y));
+    }
+  }
+
+  void WarpExactly(ptrdiff_t y, AffinePoints points) {
+    if (IsPlaced()) Place(points);
+    WarpRow<kTaps>(sources_, SpansOf(y, points), points, points, width_, call_.dst.Row(y));
+  }
+
+  void WarpByAnchors(ptrdiff_t y, const AffinePoints& points) {
+    T* const row = call_.dst.Row(y);
+    const Spans spans = SpansOf(y, points);
+    anchorSteps_.Set(points.u.a, points.v.a);
+    if (!anchorSteps_.IsUsableFor(points, record_.width)) {
+      return SampleTested<kTaps>(sources_, points, 0, width_, row);
+    }
+    const AnchoredPoints anchored(points, anchorSteps_, call_.x);
+    WarpRow<kTaps>(sources_, spans, TestedPoints{points, anchored, &task_.area}, anchored, width_, row);
+  }
+
+  const Call<T>& call_;
+  const Record& record_;
+  ptrdiff_t width_;
+  Task<T> task_;
+  Rimmed<T> rimmed_;
+  Sources<T> sources_;
+  RowSpans<kTaps, T> spans_;
+  FixedSteps fixedSteps_;
+  AnchorSteps anchorSteps_;
+};
+
+template <int kTaps, class T>
+void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
+  AffineTile<kTaps, T>(call, record, size).Warp(size.height);
 }
 
 // From a point of a row to the one that many rows below it.
