@@ -69,7 +69,7 @@ class BoxedRows {
         hn::Or(hn::And(hn::Ge(before, first), isIn(before)), hn::And(hn::Le(behind, last), isIn(behind)));
     const auto isSpan = hn::And(hn::Le(low, high), hn::And(isIn(low), isIn(high)));
     hn::StoreU(low, d, low_ + i);
-    hn::StoreU(hn::IfThenElse(hn::AndNot(isBeyond, isSpan), high, hn::Sub(low, one)), d, high_ + i);
+    hn::StoreU(hn::IfThenElse(hn::AndNot(isBeyond, isSpan), high, hn::Set(d, -INFINITY)), d, high_ + i);
   }
 
   const Record& record_;

@@ -84,13 +84,14 @@ constexpr double kMatrices[][3][3] = {
     {{1e9, 0, -1e10}, {0, 1e12, -1e13}, {0, 0, 1}},          // huge coordinates
     {{0.2, 0.1, 1}, {0.02, 0.5, 2}, {0.012, -0.0013, 0.6}},  // a tilt
     {{0.2, 0.1, -11}, {0.02, 0.5, -2}, {0.025, 0, -1}},      // the horizon at column 40
+    {{1, 1e-308, -2.5}, {-1e-308, 1, -1.5}, {0, 0, 1}},      // hardly a turn
 };
 
 void CheckWarp(const Element& element, int channels, double tolerance) {
   for (const int border : {qvpBorderReplicate, qvpBorderConst, qvpBorderTransparent}) {
     for (const int taps : {1, 2, 4}) {
       for (size_t m = 0; m < std::size(kMatrices); ++m) {
-        const bool isPerspective = m >= 5;
+        const bool isPerspective = kMatrices[m][2][0] != 0;
         Rule rule{.taps = taps, .isConstant = border == qvpBorderConst};
         const Warp warp(channels, element, taps, kMatrices[m], isPerspective, border, kSource, kTarget, rule);
         ASSERT_EQ(warp.status, 0) << m;
