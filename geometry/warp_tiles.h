@@ -140,7 +140,7 @@ class AffineTile {
 };
 
 template <int kTaps, class T>
-void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
+HWY_NOINLINE void WarpAffineTile(const Call<T>& call, const Record& record, Size size) {
   AffineTile<kTaps, T>(call, record, size).Warp(size.height);
 }
 
@@ -174,7 +174,7 @@ inline Spans SpansOf(const PerspectivePoints& points, const PointBox& inner, ptr
 }
 
 template <int kTaps, class T>
-void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
+HWY_NOINLINE void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
   const Task<T> task = TaskOf<kTaps>(call, record);
   Rimmed<T> rimmed(task, kTaps);
   const Sources<T> sources{task, rimmed.task()};
@@ -208,7 +208,7 @@ inline Spans AsOne(const Spans& spans) {
 }
 
 template <int kTaps, class T>
-void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
+HWY_NOINLINE void WarpBilinearTile(const Call<T>& call, const Record& record, Size size) {
   constexpr double kRim = 1.0 / (1 << 10);  // more than the tolerance at the edge
   const Task<T> task = TaskOf<kTaps>(call, record);
   Rimmed<T> rimmed(task, kTaps);
@@ -240,7 +240,7 @@ inline PointBox InnerSquare(const BilinearMap& toSource, const PointBox& inner) 
 
 // Only the quadrangle is written.
 template <int kTaps, class T>
-void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) {
+HWY_NOINLINE void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) {
   constexpr double kRim = 10 * QuadPoints::kTolerance;
   constexpr PointBox kSquare{{0, 1}, {0, 1}};
   const Task<T> task = TaskOf<kTaps>(call, record);
@@ -257,7 +257,8 @@ void WarpBilinearQuadTile(const Call<T>& call, const Record& record, Size size) 
   }
 }
 
-// Whole pixels are moved as the nearest ones, whatever the method.
+// Whole pixels are moved as the nearest ones, whatever the method. The tiles are functions of their own, as each has a
+// copy on the stack.
 template <int kTaps, class T>
 void WarpTile(const Call<T>& call, const Record& record, Size size) {
   if (record.isShift) return WarpAffineTile<1>(call, record, size);
