@@ -90,7 +90,7 @@ void RemapRows(const Task<T>& task, const Call<T>& call) {
   using Map = WorkOf<T>;
   const int channels = Channels(call.dst.layout);
   Rimmed<T> rimmed(task, kTaps);
-  const Sources<T> sources{task, rimmed.task()};
+  const Sources<T> sources = rimmed.sources(task);
   Map u[kBlock + kSpare], v[kBlock + kSpare];
   for (ptrdiff_t y = 0; y < call.size.height; ++y) {
     const Map *mapX = call.x.Row(y), *mapY = call.y.Row(y);

@@ -42,6 +42,7 @@ template <class T>
 struct Sources {
   const Task<T>& tested;
   const Task<T>& inside;
+  bool areMoved = false;  // whether points outside of the interior are what the nearest one in it is
 };
 
 // What interior points are taken from: the source or, if it is small, a copy with as many pixels around it as taps can
@@ -61,6 +62,8 @@ class Rimmed {
 
   Task<T>& task() { return task_; }
   bool isCopy() const { return isCopy_; }
+  // With what the copy was made of. Where the edge goes on forever, the interior ends where nothing changes any more.
+  Sources<T> sources(const Task<T>& tested) const { return {tested, task_, isCopy_ && !IsBeyondKnown(task_.area)}; }
   // The points that need no test.
   PointBox InnerBox(int taps) const { return isCopy_ ? task_.interior : task_.InnerBox(taps); }
 

@@ -105,11 +105,27 @@ void SampleEach(const Task<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst
   }
 }
 
+// Moves coordinates to an interval. What is not a number gets its lower end.
+template <class C>
+void MoveTo(const Interval& interval, C* x, ptrdiff_t n) {
+  const hn::ScalableTag<C> d;
+  const auto low = hn::Set(d, static_cast<C>(interval.low)), high = hn::Set(d, static_cast<C>(interval.high));
+  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
+    const auto at = hn::LoadU(d, x + i);
+    hn::StoreU(hn::IfThenElse(hn::Ge(at, low), hn::Min(at, high), low), d, x + i);
+  }
+}
+
 // Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) + kSpare points; those
-// behind the n-th are copies of it. Points of one kind come in runs.
+// behind the n-th are copies of it. Points of one kind come in runs. The coordinates may be changed.
 template <int kTaps, class T, class C>
-void Sample(const Sources<T>& sources, const C* u, const C* v, ptrdiff_t n, T* dst) {
+void Sample(const Sources<T>& sources, C* u, C* v, ptrdiff_t n, T* dst) {
   const Task<T>&task = sources.tested, &inside = sources.inside;
+  if (sources.areMoved) {
+    MoveTo(inside.interior.u, u, Padded(n) + kSpare);
+    MoveTo(inside.interior.v, v, Padded(n) + kSpare);
+    return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
+  }
   if (AreAllInside(inside.interior, u, v, n)) return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
   constexpr ptrdiff_t kFewest = 3;  // points for which vectors pay
   const PointKinds kinds(inside.interior, TouchingBox<kTaps>(task.area), u, v, n);

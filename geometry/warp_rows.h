@@ -8,13 +8,13 @@ namespace qvp::warp {
 
 // ---- Rows
 
-// Sample, for the points among n that are there at all.
+// Sample, for the points among n that are there at all; from the last run on, as coordinates behind one may change.
 template <int kTaps, class T>
-void SampleRuns(const Sources<T>& sources, const double* u, const double* v, ptrdiff_t n, T* dst) {
+void SampleRuns(const Sources<T>& sources, double* u, double* v, ptrdiff_t n, T* dst) {
   const auto isThere = [&](ptrdiff_t i) { return u[i] == u[i]; };
-  for (ptrdiff_t first = 0, end; first < n; first = end) {
-    while (first < n && !isThere(first)) ++first;
-    for (end = first; end < n && isThere(end);) ++end;
+  for (ptrdiff_t first, end = n; end > 0; end = first) {
+    while (end > 0 && !isThere(end - 1)) --end;
+    for (first = end; first > 0 && isThere(first - 1);) --first;
     if (first < end) {
       Sample<kTaps>(sources, u + first, v + first, end - first, dst + first * Channels(sources.tested.src.layout));
     }

@@ -76,7 +76,7 @@ class AffineTile {
         width_(size.width),
         task_(AffineTaskOf<kTaps>(call, record, size)),
         rimmed_(task_, kTaps),
-        sources_{task_, rimmed_.task()},
+        sources_(rimmed_.sources(task_)),
         spans_(record, task_, SafeBox(rimmed_.InnerBox(kTaps)), call.x, size),
         fixedSteps_(IsPlaced() ? size.width : 0) {}
 
@@ -177,7 +177,7 @@ template <int kTaps, class T>
 HWY_NOINLINE void WarpPerspectiveTile(const Call<T>& call, const Record& record, Size size) {
   const Task<T> task = TaskOf<kTaps>(call, record);
   Rimmed<T> rimmed(task, kTaps);
-  const Sources<T> sources{task, rimmed.task()};
+  const Sources<T> sources = rimmed.sources(task);
   const PointBox inner = SafeBox(rimmed.InnerBox(kTaps));
   for (ptrdiff_t y = 0; y < size.height; ++y) {
     const PerspectivePoints points(record, call.x, call.y + y);
@@ -212,7 +212,7 @@ HWY_NOINLINE void WarpBilinearTile(const Call<T>& call, const Record& record, Si
   constexpr double kRim = 1.0 / (1 << 10);  // more than the tolerance at the edge
   const Task<T> task = TaskOf<kTaps>(call, record);
   Rimmed<T> rimmed(task, kTaps);
-  const Sources<T> sources{task, rimmed.task()};
+  const Sources<T> sources = rimmed.sources(task);
   const PointBox inner = SafeBox(WithinImage(rimmed.InnerBox(kTaps), record));
   const Outlines outlines(record, WithRim(TouchingBox<kTaps>(task.area), kRim), kRim, inner);
   const bool isBeyondKnown = IsBeyondKnown(task.area);
@@ -245,7 +245,7 @@ HWY_NOINLINE void WarpBilinearQuadTile(const Call<T>& call, const Record& record
   constexpr PointBox kSquare{{0, 1}, {0, 1}};
   const Task<T> task = TaskOf<kTaps>(call, record);
   Rimmed<T> rimmed(task, kTaps);
-  const Sources<T> sources{task, rimmed.task()};
+  const Sources<T> sources = rimmed.sources(task);
   const PointBox quick = SafeBox(kSquare), within = SafeBox(WithinImage(rimmed.InnerBox(kTaps), record));
   const PointBox inner = InnerSquare(record.toSource, within);
   const Outlines outlines(record, WithRim(kSquare, kRim), kRim, inner);
