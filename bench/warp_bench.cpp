@@ -57,23 +57,25 @@ auto Ours(const Case<T>& c, Function function) {
 }
 
 template <class T, class Function>
-void AddAffine(const char* what, QvpiSize size, int channels, int method, Function function, double atLeast) {
+void AddAffine(const char* what, QvpiSize size, int channels, int method, Function function, double atLeast,
+               QvpiBorderType border = qvpBorderConst) {
   const Case<T> c(size, channels);
   const Rotation r(size);
   if (method == cv::INTER_NEAREST) {
-    Require(qvpiWarpAffineNearestInit(size, size, kType<T>, r.c, 1, channels, qvpBorderConst, kZero, 0, c.spec()));
+    Require(qvpiWarpAffineNearestInit(size, size, kType<T>, r.c, 1, channels, border, kZero, 0, c.spec()));
   } else if (method == cv::INTER_LINEAR) {
-    Require(qvpiWarpAffineLinearInit(size, size, kType<T>, r.c, 1, channels, qvpBorderConst, kZero, 0, c.spec()));
+    Require(qvpiWarpAffineLinearInit(size, size, kType<T>, r.c, 1, channels, border, kZero, 0, c.spec()));
   } else {
-    Require(qvpiWarpAffineCubicInit(size, size, kType<T>, r.c, 1, channels, 0, 0.75, qvpBorderConst, kZero, 0, c.spec(),
+    Require(qvpiWarpAffineCubicInit(size, size, kType<T>, r.c, 1, channels, 0, 0.75, border, kZero, 0, c.spec(),
                                     c.buffer.get()));
   }
   const cv::Mat matrix = cv::Mat(2, 3, CV_64F, const_cast<double*>(&r.c[0][0])).clone();
+  const int flags = method | cv::WARP_INVERSE_MAP,
+            edge = border == qvpBorderConst ? cv::BORDER_CONSTANT : cv::BORDER_REPLICATE;
   Add({Name(what, size),
        c.traffic(),
        Ours(c, function),
-       {{"OpenCV warpAffine",
-         [=] { cv::warpAffine(c.src.mat, c.dst.mat, matrix, c.dst.mat.size(), method | cv::WARP_INVERSE_MAP); },
+       {{"OpenCV warpAffine", [=] { cv::warpAffine(c.src.mat, c.dst.mat, matrix, c.dst.mat.size(), flags, edge); },
          atLeast}}});
 }
 
@@ -118,6 +120,10 @@ void AddAll(QvpiSize size) {
   AddAffine<uint8_t>("affine linear 8u C3", size, 3, cv::INTER_LINEAR, qvpiWarpAffineLinear_8u_C3R, 3);
   AddAffine<float>("affine linear 32f C1", size, 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_32f_C1R, 3.3);
   AddAffine<uint16_t>("affine linear 16u C1", size, 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_16u_C1R, 3);
+  AddAffine<uint8_t>("affine linear edges 8u C1", size, 1, cv::INTER_LINEAR, qvpiWarpAffineLinear_8u_C1R, 1,
+                     qvpBorderReplicate);
+  AddAffine<uint8_t>("affine nearest edges 8u C3", size, 3, cv::INTER_NEAREST, qvpiWarpAffineNearest_8u_C3R, 1,
+                     qvpBorderReplicate);
   AddAffine<uint8_t>("affine cubic 8u C1", size, 1, cv::INTER_CUBIC, qvpiWarpAffineCubic_8u_C1R, 3);
   AddPerspective<uint8_t>("perspective linear 8u C1", size, 1, qvpiWarpPerspectiveLinear_8u_C1R, 3);
   AddPerspective<float>("perspective linear 32f C3", size, 3, qvpiWarpPerspectiveLinear_32f_C3R, 2);

@@ -34,6 +34,18 @@ void Fetch(const Task<T>& task, const int32_t* offset, ptrdiff_t n) {
   for (ptrdiff_t i = 0; i < n; i += std::max(4, 16 / kPixelBytes)) hwy::Prefetch(base + offset[i]);
 }
 
+template <int kTaps, int kChannels, class T, class F>
+HWY_INLINE void Blend(const Task<T>& task, const Places<F>& places, ptrdiff_t n, T* dst) {
+  constexpr bool kAreWords = kChannels == 1 || (kTaps <= 4 && sizeof(T) == 1);
+  if constexpr (kIsWhole<F>) {
+    BlendBytes<kChannels>(task, places, n, dst);
+  } else if constexpr (kAreWords) {
+    BlendPoints<kTaps, kChannels>(task, places, n, dst);
+  } else {
+    BlendPixels<kTaps, kChannels>(task, places, n, dst);
+  }
+}
+
 template <int kTaps, int kChannels, class T, class Points>
 void SampleChannelsInside(const Task<T>& task, const Points& points, ptrdiff_t n, T* dst) {
   constexpr int kPixelBytes = kChannels * int{sizeof(T)};
@@ -48,14 +60,7 @@ void SampleChannelsInside(const Task<T>& task, const Points& points, ptrdiff_t n
   } else {
     Place<kTaps, kPixelBytes>(points, n, step, places);
     Fetch<kPixelBytes>(task, places.offset + places.first, n);
-    constexpr bool kAreWords = kChannels == 1 || (kTaps <= 4 && sizeof(T) == 1);
-    if constexpr (kIsWhole<FractionOf<kTaps, T>>) {
-      BlendBytes<kChannels>(task, places, n, dst);
-    } else if constexpr (kAreWords) {
-      BlendPoints<kTaps, kChannels>(task, places, n, dst);
-    } else {
-      BlendPixels<kTaps, kChannels>(task, places, n, dst);
-    }
+    Blend<kTaps, kChannels>(task, places, n, dst);
   }
 }
 

@@ -63,7 +63,9 @@ class Rimmed {
   Task<T>& task() { return task_; }
   bool isCopy() const { return isCopy_; }
   // With what the copy was made of. Where the edge goes on forever, the interior ends where nothing changes any more.
-  Sources<T> sources(const Task<T>& tested) const { return {tested, task_, isCopy_ && !IsBeyondKnown(task_.area)}; }
+  Sources<T> sources(const Task<T>& tested) const {
+    return {tested, task_, !IsBeyondKnown(task_.area) && (isCopy_ || task_.HasNearestInside())};
+  }
   // The points that need no test.
   PointBox InnerBox(int taps) const { return isCopy_ ? task_.interior : task_.InnerBox(taps); }
 

@@ -115,6 +115,14 @@ struct Task {
   // Finds the interior for a method. It is empty where offsets are too long.
   void SetInterior(int taps) { interior = HasShortOffsets() ? InnerBox(taps) : PointBox{}; }
 
+  // Whether any point moved into the interior has its nearest pixel there.
+  bool HasNearestInside() const {
+    const auto hasAll = [](const Interval& inner, Extent extent) {
+      return inner.low < extent.begin && inner.high >= extent.end - 1;
+    };
+    return !isShift && hasAll(interior.u, area.columns) && hasAll(interior.v, area.rows);
+  }
+
   // A row of the destination crosses many rows of the source, too many for a CPU to foresee. The rows that follow cross
   // them in about the same way, at points this far away.
   void FetchAhead(double columns, double rows) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "geometry/sample_border.h"
-#include "geometry/sample_inside.h"
+#include "geometry/sample_patches.h"
 
 namespace qvp::sampling {
 
@@ -105,15 +105,18 @@ void SampleEach(const Task<T>& task, const C* u, const C* v, ptrdiff_t n, T* dst
   }
 }
 
-// Moves coordinates to an interval. What is not a number gets its lower end.
-template <class C>
-void MoveTo(const Interval& interval, C* x, ptrdiff_t n) {
-  const hn::ScalableTag<C> d;
-  const auto low = hn::Set(d, static_cast<C>(interval.low)), high = hn::Set(d, static_cast<C>(interval.high));
-  for (ptrdiff_t i = 0; i < n; i += hn::Lanes(d)) {
-    const auto at = hn::LoadU(d, x + i);
-    hn::StoreU(hn::IfThenElse(hn::Ge(at, low), hn::Min(at, high), low), d, x + i);
+inline constexpr ptrdiff_t kFewest = 3;  // points for which vectors pay
+
+// Points at the border.
+template <int kTaps, class T, class C>
+void SampleTaps(const Task<T>& task, C* u, C* v, ptrdiff_t n, T* dst) {
+  if constexpr (kTaps > 1) {
+    if (n >= kFewest && !IsBeyondKnown(task.area) && HasShortSides(task.area)) {
+      MoveToEdges<kTaps>(task.area, u, v, n);
+      return SampleByPatches<kTaps>(task, u, v, n, dst);
+    }
   }
+  SampleEach<kTaps>(task, u, v, n, dst);
 }
 
 // Values at n points, up to kBlock, to as many pixels. Coordinates have room for Padded(n) + kSpare points; those
@@ -127,20 +130,20 @@ void Sample(const Sources<T>& sources, C* u, C* v, ptrdiff_t n, T* dst) {
     return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
   }
   if (AreAllInside(inside.interior, u, v, n)) return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
-  constexpr ptrdiff_t kFewest = 3;  // points for which vectors pay
   const PointKinds kinds(inside.interior, TouchingBox<kTaps>(task.area), u, v, n);
   const bool isBeyondKnown = IsBeyondKnown(task.area);
   const int channels = Channels(task.src.layout);
   for (ptrdiff_t first = 0, end; first < n; first = end) {
     const bool isInside = kinds.inside[first], isBeyond = isBeyondKnown && kinds.beyond[first];
-    end = isInside ? kinds.inside.EndOfRun(first, n) : kinds.beyond.EndOfRun(first, kinds.inside.EndOfRun(first, n));
+    end = kinds.inside.EndOfRun(first, n);
+    if (isBeyondKnown && !isInside) end = kinds.beyond.EndOfRun(first, end);
     T* const to = dst + first * channels;
     if (isInside && end - first >= kFewest) {
       SampleInside<kTaps>(inside, PointArray<C>{u + first, v + first}, end - first, to);
     } else if (isBeyond) {
       FillBeyond(task, end - first, to);
     } else {
-      SampleEach<kTaps>(task, u + first, v + first, end - first, to);
+      SampleTaps<kTaps>(task, u + first, v + first, end - first, to);
     }
   }
 }
