@@ -130,8 +130,8 @@ HWY_INLINE hn::Vec<Mask> ChannelOfThree(const hn::Vec<Mask> (&blocks)[3]) {
     return order;
   }();
   const Mask d;
-  const auto isIn = [&](int k) HWY_ATTR { return hn::MaskFromVec(hn::LoadDup128(d, kThirds[k].data())); };
-  const auto channel = hn::IfThenElse(isIn(0), blocks[0], hn::IfThenElse(isIn(1), blocks[1], blocks[2]));
+  const auto isIn = [&](int k) HWY_ATTR { return hn::LoadDup128(d, kThirds[k].data()); };
+  const auto channel = hn::IfVecThenElse(isIn(0), blocks[0], hn::IfVecThenElse(isIn(1), blocks[1], blocks[2]));
   return hn::TableLookupBytes(channel, hn::LoadDup128(d, kOrder.data()));
 }
 
