@@ -1,5 +1,6 @@
 // Comparison of two images, or of an image with a constant, into a mask of bytes: 255 where the relation holds for all
 // channels of a pixel.
+#include "base/blocks.h"
 #include "base/check.h"
 #include "base/export.h"
 #include "base/map.h"
@@ -75,7 +76,6 @@ template <class D>
 struct OtherRow {
   const hn::TFromD<D>* row;
   HWY_INLINE hn::Vec<D> At(ptrdiff_t i, ptrdiff_t) const { return hn::LoadU(D(), row + i); }
-  OtherRow From(ptrdiff_t i) const { return {row + i}; }
   OtherRow Staged(Partial<hn::TFromD<D>>& stage, size_t n) const {
     std::memcpy(stage.lanes, row, n * sizeof(hn::TFromD<D>));
     return {stage.lanes};
@@ -85,80 +85,112 @@ template <class D>
 struct Constants {
   const PerChannel<D>* values;
   HWY_INLINE hn::Vec<D> At(ptrdiff_t, ptrdiff_t phase) const { return values->From(phase); }
-  Constants From(ptrdiff_t) const { return *this; }
   Constants Staged(Partial<hn::TFromD<D>>&, size_t) const { return *this; }
 };
+
+// The mask bytes of a vector of samples, of which `phase` tells the channels.
+template <class T, class Relation, class Other>
+HWY_INLINE hn::Vec<Mask> MaskAt(const Relation& relation, const T* src, const Other& other, ptrdiff_t i,
+                                ptrdiff_t phase) {
+  const hn::ScalableTag<T> d;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
+  return Narrowed<T>([&](ptrdiff_t k) HWY_ATTR {
+    return relation(d, hn::LoadU(d, src + i + k * kLanes), other.At(i + k * kLanes, phase + k * kLanes));
+  });
+}
 
 // One mask byte for each of n samples. The first one belongs to the first channel.
 template <class T, class Relation, class Other>
 HWY_INLINE void MaskSamples(const Relation& relation, const T* src, const Other& other, uint8_t* mask, ptrdiff_t n) {
-  const hn::ScalableTag<T> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
-  const auto at = [&](const T* from, const Other& to, ptrdiff_t i, ptrdiff_t phase) HWY_ATTR {
-    return Narrowed<T>([&](ptrdiff_t k) HWY_ATTR {
-      return relation(d, hn::LoadU(d, from + i + k * kLanes), to.At(i + k * kLanes, phase + k * kLanes));
-    });
-  };
   if (n < kMaskLanes) {
     const Partial<T> left(src, n);
     Partial<T> right;
     Partial<uint8_t> out;
-    hn::StoreU(at(left.lanes, other.Staged(right, n), 0, 0), Mask(), out.lanes);
+    hn::StoreU(MaskAt(relation, left.lanes, other.Staged(right, n), 0, 0), Mask(), out.lanes);
     return out.CopyTo(mask, n);
   }
-  const auto inRow = [&](ptrdiff_t i, ptrdiff_t phase) HWY_ATTR { return at(src, other, i, phase); };
-  ForEachVectorInPlace<3, kMaskLanes>(n, inRow, [&](ptrdiff_t i, auto v) HWY_ATTR { hn::StoreU(v, Mask(), mask + i); });
+  const auto at = [&](ptrdiff_t i, ptrdiff_t phase) HWY_ATTR { return MaskAt(relation, src, other, i, phase); };
+  ForEachVectorInPlace<3, kMaskLanes>(n, at, [&](ptrdiff_t i, auto v) HWY_ATTR { hn::StoreU(v, Mask(), mask + i); });
 }
 
-// A pixel's mask byte from those of its three channels.
-void MergeThree(const uint8_t* mask, uint8_t* dst, ptrdiff_t pixels) {
-  const auto at = [&](const uint8_t* from) HWY_ATTR {
-    hn::Vec<Mask> a, b, c;
-    hn::LoadInterleaved3(Mask(), from, a, b, c);
-    return hn::And(hn::And(a, b), c);
-  };
-  for (ptrdiff_t i = 0; i < pixels; i += kMaskLanes) hn::StoreU(at(mask + 3 * i), Mask(), dst + i);
-}
-
-// The same of four channels; `ignored` has ones where an alpha channel is.
-void MergeFour(const uint8_t* mask, uint8_t* dst, ptrdiff_t pixels, uint32_t ignored) {
-  const hn::ScalableTag<uint32_t> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint32_t>());
-  const auto alpha = hn::Set(d, ignored), ones = hn::Set(d, 0xFFFFFFFF);
-  for (ptrdiff_t i = 0; i < pixels; i += kMaskLanes) {
-    const auto whole = Narrowed<uint32_t>([&](ptrdiff_t k) HWY_ATTR {
-      const auto channels = hn::LoadU(d, reinterpret_cast<const uint32_t*>(mask + 4 * (i + k * kLanes)));
-      return hn::VecFromMask(d, hn::Eq(hn::Or(channels, alpha), ones));
-    });
-    hn::StoreU(whole, Mask(), dst + i);
-  }
-}
-
-// Rows of more than one channel go by chunks, whose sample masks stay in the first-level cache.
-constexpr ptrdiff_t kChunkPixels = 768;
-
-template <class T, class Relation, class Other>
-HWY_NOINLINE void MaskChunks(const Relation& relation, Layout layout, const T* src, Other other, uint8_t* dst,
-                             ptrdiff_t pixels) {
-  const int channels = Channels(layout);
-  HWY_ALIGN uint8_t samples[4 * kChunkPixels + 4 * kMaskLanes], merged[kChunkPixels + kMaskLanes];
-  for (ptrdiff_t i = 0; i < pixels; i += kChunkPixels) {
-    const ptrdiff_t count = std::min(kChunkPixels, pixels - i);
-    MaskSamples(relation, src + i * channels, other.From(i * channels), samples, count * channels);
-    if (channels == 3) {
-      MergeThree(samples, merged, count);
-    } else {
-      MergeFour(samples, merged, count, KeepsAlpha(layout) ? 0xFF000000 : 0);
+// Of three blocks, which hold 16 pixels of three channels: the channel c, pixel after pixel. Its bytes lie at other
+// places in each block, so that together they take one.
+template <int c>
+HWY_INLINE hn::Vec<Mask> ChannelOfThree(const hn::Vec<Mask> (&blocks)[3]) {
+  alignas(16) static constexpr auto kThirds = [] {
+    std::array<std::array<uint8_t, kBlockBytes>, 2> thirds{};
+    for (int k = 0; k < 2; ++k) {
+      for (int i = 0; i < kBlockBytes; ++i) thirds[k][i] = (kBlockBytes * k + i) % 3 == c ? 0xFF : 0;
     }
-    std::memcpy(dst + i, merged, count);
+    return thirds;
+  }();
+  alignas(16) static constexpr auto kOrder = [] {
+    std::array<uint8_t, kBlockBytes> order{};
+    for (int i = 0; i < kBlockBytes; ++i) order[i] = static_cast<uint8_t>((3 * i + c) % kBlockBytes);
+    return order;
+  }();
+  const Mask d;
+  const auto isIn = [&](int k) HWY_ATTR { return hn::LoadDup128(d, kThirds[k].data()); };
+  const auto channel = hn::IfVecThenElse(isIn(0), blocks[0], hn::IfVecThenElse(isIn(1), blocks[1], blocks[2]));
+  return hn::TableLookupBytes(channel, hn::LoadDup128(d, kOrder.data()));
+}
+
+// The mask bytes of a vector of pixels from those of their channels, whose k-th vector is part(k).
+struct OfThree {
+  static constexpr int kChannels = 3;
+
+  template <class Part>
+  HWY_INLINE hn::Vec<Mask> operator()(const Part& part) const {
+    hn::Vec<Mask> blocks[3] = {part(0), part(1), part(2)};
+    DealBlocks(blocks);
+    return hn::And(hn::And(ChannelOfThree<0>(blocks), ChannelOfThree<1>(blocks)), ChannelOfThree<2>(blocks));
   }
+};
+struct OfFour {
+  static constexpr int kChannels = 4;
+  uint32_t ignored;  // ones where an alpha channel is
+
+  template <class Part>
+  HWY_INLINE hn::Vec<Mask> operator()(const Part& part) const {
+    const hn::ScalableTag<uint32_t> d;
+    const auto alpha = hn::Set(d, ignored), ones = hn::Set(d, 0xFFFFFFFF);
+    return Narrowed<uint32_t>(
+        [&](ptrdiff_t k) HWY_ATTR { return hn::VecFromMask(d, hn::Eq(hn::Or(hn::BitCast(d, part(k)), alpha), ones)); });
+  }
+};
+
+// Fewer pixels than a vector has, by way of the masks of their channels.
+template <class Merged, class T, class Relation, class Other>
+HWY_NOINLINE void MaskFewPixels(Merged merged, const Relation& relation, const T* src, Other other, uint8_t* dst,
+                                ptrdiff_t pixels) {
+  HWY_ALIGN uint8_t masks[Merged::kChannels * kMaskLanes] = {};
+  MaskSamples(relation, src, other, masks, pixels * Merged::kChannels);
+  Partial<uint8_t> out;
+  const auto part = [&](ptrdiff_t k) HWY_ATTR { return hn::Load(Mask(), masks + k * kMaskLanes); };
+  hn::StoreU(merged(part), Mask(), out.lanes);
+  out.CopyTo(dst, pixels);
+}
+
+template <class Merged, class T, class Relation, class Other>
+HWY_NOINLINE void MaskChannels(Merged merged, const Relation& relation, const T* src, Other other, uint8_t* dst,
+                               ptrdiff_t pixels) {
+  if (pixels < kMaskLanes) return MaskFewPixels(merged, relation, src, other, dst, pixels);
+  constexpr ptrdiff_t kChannels = Merged::kChannels;
+  const auto at = [&](ptrdiff_t i, ptrdiff_t phase) HWY_ATTR {
+    return merged([&](ptrdiff_t k) HWY_ATTR {
+      return MaskAt(relation, src, other, i * kChannels + k * kMaskLanes, phase * kChannels + k * kMaskLanes);
+    });
+  };
+  ForEachVectorInPlace<1, kMaskLanes>(pixels, at,
+                                      [&](ptrdiff_t i, auto v) HWY_ATTR { hn::StoreU(v, Mask(), dst + i); });
 }
 
 template <class T, class Relation, class Other>
 HWY_INLINE void MaskPixels(const Relation& relation, Layout layout, const T* src, const Other& other, uint8_t* dst,
                            ptrdiff_t pixels) {
   if (Channels(layout) == 1) return MaskSamples(relation, src, other, dst, pixels);
-  MaskChunks(relation, layout, src, other, dst, pixels);
+  if (Channels(layout) == 3) return MaskChannels(OfThree(), relation, src, other, dst, pixels);
+  MaskChannels(OfFour{KeepsAlpha(layout) ? 0xFF000000 : 0}, relation, src, other, dst, pixels);
 }
 
 template <class T, class Relation>

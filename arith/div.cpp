@@ -42,6 +42,21 @@ HWY_INLINE V ByteQuotient(V a, V b) {
   return hn::IfThenElse(isZero, hn::VecFromMask(bytes, hn::Ne(b, hn::Zero(bytes))), quotient);
 }
 
+// Divisors come first.
+struct Quotient {
+  template <class V>
+  HWY_INLINE V operator()(V a, V b) const {
+    return hn::Div(b, a);
+  }
+};
+
+// Whether a lane is set; with kKeepAlpha, one of the first three of four.
+template <bool kKeepAlpha, class D>
+HWY_INLINE bool IsAny(D d, hn::Mask<D> lanes) {
+  if constexpr (kKeepAlpha) lanes = hn::AndNot(FourthLanes(d, 0), lanes);
+  return !hn::AllFalse(d, lanes);
+}
+
 // Whether an element is zero; with kKeepAlpha, one of the first three of four.
 template <bool kKeepAlpha, class T>
 bool ContainsZero(const T* elements, ptrdiff_t n) {
@@ -56,9 +71,25 @@ bool ContainsZero(const T* elements, ptrdiff_t n) {
   }
   auto zeros = hn::Zero(d);
   ForEachVector<kLanes>(n, [&](ptrdiff_t i) HWY_ATTR { zeros = hn::Or(zeros, zerosAt(elements + i)); });
-  auto found = hn::MaskFromVec(zeros);
-  if constexpr (kKeepAlpha) found = hn::AndNot(FourthLanes(d, 0), found);
-  return !hn::AllFalse(d, found);
+  return IsAny<kKeepAlpha>(d, hn::MaskFromVec(zeros));
+}
+
+// The quotients of a row of floats, and whether a divisor was zero: dividing takes long enough to look at once.
+template <bool kKeepAlpha>
+HWY_INLINE bool DivideFloatRow(float* to, ptrdiff_t n, const float* divisors, const float* dividends) {
+  const hn::ScalableTag<float> d;
+  if (n < static_cast<ptrdiff_t>(hn::MaxLanes(d))) {
+    const bool containsZero = ContainsZero<kKeepAlpha>(divisors, n);
+    MapRow<kKeepAlpha>(d, to, n, Quotient(), divisors, dividends);
+    return containsZero;
+  }
+  auto zeros = hn::Zero(d);
+  const auto divide = [&](auto a, auto b) HWY_ATTR {
+    zeros = hn::Or(zeros, hn::VecFromMask(d, hn::Eq(a, hn::Zero(d))));
+    return Quotient()(a, b);
+  };
+  MapRow<kKeepAlpha>(d, to, n, divide, divisors, dividends);
+  return IsAny<kKeepAlpha>(d, hn::MaskFromVec(zeros));
 }
 
 // Divides and returns whether a divisor was zero. Divisors are looked through piece by piece while they are in the
@@ -113,8 +144,15 @@ QvpStatus Divide(const Image<const T>& a, const Image<const T>& b, const Image<T
 
 QvpStatus DivideFloats(const Image<const float>& a, const Image<const float>& b, const Image<float>& dst, Size roi) {
   if (const QvpStatus failed = Validate<kPointers, kSize, kSteps>(roi, {a, b, dst})) return failed;
-  const auto kernel = [](auto x, auto y) HWY_ATTR { return hn::Div(y, x); };
-  return DivideImages(hn::ScalableTag<float>(), kernel, roi, a, b, dst);
+  const auto divide = [&](auto keepAlpha) {
+    bool foundZero = false;
+    const auto row = [&](ptrdiff_t n, float* to, const float* divisors, const float* dividends) HWY_ATTR {
+      foundZero |= DivideFloatRow<decltype(keepAlpha)::value>(to, n, divisors, dividends);
+    };
+    ForEachPiece(roi, row, dst, a, b);
+    return foundZero ? qvpStatusDivideByZero : qvpStatusNoError;
+  };
+  return KeepsAlpha(dst.layout) ? divide(std::true_type()) : divide(std::false_type());
 }
 
 template <class T>
@@ -137,8 +175,7 @@ QvpStatus DivideBy(const T* values, const Image<const T>& src, const Image<T>& d
                             [&](auto d, const auto& kernel) { MapImagesWith(d, kernel, roi, values, dst, src); });
     });
   } else {
-    const auto kernel = [](auto a, auto b) HWY_ATTR { return hn::Div(b, a); };
-    MapImagesWith(hn::ScalableTag<T>(), kernel, roi, values, dst, src);
+    MapImagesWith(hn::ScalableTag<T>(), Quotient(), roi, values, dst, src);
   }
   return qvpStatusNoError;
 }

@@ -21,6 +21,29 @@ HWY_INLINE hn::Vec<D> FromBlocks(D d, const Block& block) {
   }
 }
 
+// Rearranges the blocks of three vectors, counted from the first one's on: block 3 i + k becomes block i of vector k.
+template <class V>
+HWY_INLINE void DealBlocks(V (&v)[3]) {
+  const hn::DFromV<V> d;
+  constexpr int kBlocks = kBlocksOf<decltype(d)>;
+  static_assert(kBlocks == 1 || kBlocks == 2 || kBlocks == 4);
+  if constexpr (kBlocks == 2) {
+    const V first = hn::ConcatUpperLower(d, v[1], v[0]), second = hn::ConcatLowerUpper(d, v[2], v[0]);
+    v[2] = hn::ConcatUpperLower(d, v[2], v[1]), v[1] = second, v[0] = first;
+  }
+#if HWY_TARGET <= HWY_AVX3
+  if constexpr (kBlocks == 4) {  // words 8 and on are those of the second operand
+    const auto two = [](V a, __m512i words, V b) { return V{_mm512_permutex2var_epi64(a.raw, words, b.raw)}; };
+    const auto pairs = [](int a, int b, int c, int e) {
+      return _mm512_setr_epi64(2 * a, 2 * a + 1, 2 * b, 2 * b + 1, 2 * c, 2 * c + 1, 2 * e, 2 * e + 1);
+    };
+    const V first = two(two(v[0], pairs(0, 3, 6, 0), v[1]), pairs(0, 1, 2, 5), v[2]);
+    const V second = two(two(v[0], pairs(1, 4, 7, 0), v[1]), pairs(0, 1, 2, 6), v[2]);
+    v[2] = two(two(v[0], pairs(2, 5, 0, 0), v[1]), pairs(0, 1, 4, 7), v[2]), v[1] = second, v[0] = first;
+  }
+#endif
+}
+
 // Indices for TableLookupBytesOr0 from places: those of the block, 0 to 15, stay, and all others yield zero. Between 16
 // and 127, CPUs differ: some take an index modulo 16.
 template <class V>

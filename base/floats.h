@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "base/simd.h"
 
@@ -60,6 +61,20 @@ HWY_INLINE auto RoundToIntInRange(V v) {
   return RoundToInt(v);
 #else
   return hn::NearestInt(v);
+#endif
+}
+
+// Rounds to the nearest integer, ties to even, for packing to T of 8 or 16 bits: what saturates to the nearest of T.
+// NaN gives the lowest.
+template <class T, class V>
+HWY_INLINE auto RoundForPacking(V v) {
+  using Limits = std::numeric_limits<T>;
+  const hn::DFromV<V> d;
+  const V most = hn::Set(d, static_cast<float>(Limits::max()));
+#if HWY_ARCH_X86
+  return RoundToInt(MinOrSecond(most, v));  // what lies too low, and NaN, becomes the lowest integer
+#else
+  return RoundToIntInRange(hn::Min(MaxOrSecond(v, hn::Set(d, static_cast<float>(Limits::lowest()))), most));
 #endif
 }
 

@@ -59,14 +59,13 @@ HWY_INLINE auto NarrowReal(D d, V v) {
   using Limits = std::numeric_limits<T>;
   const hn::Rebind<T, D> to;
   const hn::Rebind<int32_t, D> ints;
+  if constexpr (std::is_same_v<F, float> && sizeof(T) < sizeof(int32_t)) return hn::DemoteTo(to, RoundForPacking<T>(v));
   const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<F>(Limits::lowest())));
   if constexpr (std::is_same_v<F, double>) {
     const auto whole = hn::DemoteTo(ints, hn::Round(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
     if constexpr (sizeof(T) < sizeof(int32_t)) return hn::DemoteTo(to, whole);
     if constexpr (sizeof(T) == sizeof(int32_t)) return whole;
-  } else if constexpr (sizeof(T) < sizeof(int32_t)) {
-    return hn::DemoteTo(to, RoundToIntInRange(hn::Min(bounded, hn::Set(d, static_cast<F>(Limits::max())))));
-  } else {
+  } else if constexpr (sizeof(T) == sizeof(int32_t)) {
     const auto isAbove = hn::RebindMask(ints, hn::Ge(v, hn::Set(d, 2147483648.0f)));
     return hn::IfThenElse(isAbove, hn::Set(ints, INT32_MAX), RoundToIntInRange(bounded));
   }

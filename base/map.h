@@ -67,11 +67,10 @@ constexpr int kVectorsAtOnce = std::is_integral_v<T> && sizeof(T) < sizeof(int32
                                    : 1;
 
 // 32-bit integers that saturate to the element that the lane rounds to.
-template <class T, class D, class V = hn::Vec<D>>
-HWY_INLINE auto Whole(D d, V v) {
-  if constexpr (std::is_same_v<hn::TFromD<D>, float>) {
-    const V bounded = MaxOrSecond(v, hn::Set(d, static_cast<float>(std::numeric_limits<T>::lowest())));
-    return RoundToIntInRange(hn::Min(bounded, hn::Set(d, static_cast<float>(std::numeric_limits<T>::max()))));
+template <class T, class V>
+HWY_INLINE auto Whole(V v) {
+  if constexpr (std::is_same_v<hn::TFromV<V>, float>) {
+    return RoundForPacking<T>(v);
   } else {
     return v;
   }
@@ -84,10 +83,10 @@ HWY_INLINE auto NarrowParts(D d, const Part& part) {
   if constexpr (kParts == 1) {
     return Narrow<T>(d, part(0));
   } else if constexpr (kParts == 2) {
-    return PackedInOrder<T>(Whole<T>(d, part(0)), Whole<T>(d, part(1)));
+    return PackedInOrder<T>(Whole<T>(part(0)), Whole<T>(part(1)));
   } else {
-    const auto lower = Packed(int16_t(), Whole<T>(d, part(0)), Whole<T>(d, part(1)));
-    const auto upper = Packed(int16_t(), Whole<T>(d, part(2)), Whole<T>(d, part(3)));
+    const auto lower = Packed(int16_t(), Whole<T>(part(0)), Whole<T>(part(1)));
+    const auto upper = Packed(int16_t(), Whole<T>(part(2)), Whole<T>(part(3)));
     return InOrder<4>(Packed(T(), lower, upper));
   }
 }

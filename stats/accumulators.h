@@ -77,6 +77,7 @@ class Accumulators {
   }
 
   const Lane* operator[](int sum) const { return lanes_[sum]; }
+  Lane At(int place) const { return lanes_[place / kSumLanes][place % kSumLanes]; }
   void Clear() { std::memset(lanes_, 0, sizeof(lanes_)); }
 
  private:

@@ -49,14 +49,9 @@ class RunningSums {
   // Adds the partial sums of each channel in ascending order, in their own precision.
   void Finish(int channels, double* sums) {
     if (waiting_ > 0) AddWaiting();
-    typename Accumulators<Kernel>::Lane totals[4] = {};
-    for (int s = 0, channel = 0; s < Kernel::kSums; ++s) {
-      for (int lane = 0; lane < Accumulators<Kernel>::kSumLanes; ++lane) {
-        totals[channel] += lanes_[s][lane];
-        channel = channel + 1 == channels ? 0 : channel + 1;
-      }
-    }
-    for (int c = 0; c < channels; ++c) sums[c] = static_cast<double>(totals[c]);
+    if (channels == 1) AddPartials<1>(sums);
+    if (channels == 3) AddPartials<3>(sums);
+    if (channels == 4) AddPartials<4>(sums);
   }
 
  private:
@@ -65,6 +60,15 @@ class RunningSums {
   struct Round {
     S samples[kRound];
   };
+
+  template <int kChannels>
+  void AddPartials(double* sums) const {
+    typename Accumulators<Kernel>::Lane totals[kChannels] = {};
+    for (int i = 0; i < kRound; i += kChannels) {
+      for (int c = 0; c < kChannels; ++c) totals[c] += lanes_.At(i + c);
+    }
+    for (int c = 0; c < kChannels; ++c) sums[c] = static_cast<double>(totals[c]);
+  }
 
   void Wait(ptrdiff_t n, const T*... rows) {
     const auto copy = [&](auto&... stage) { (std::memcpy(stage.samples + waiting_, rows, n * sizeof(T)), ...); };
