@@ -8,28 +8,30 @@
 namespace {
 using namespace qvp;
 
-// Float lanes hold the rounded quotient of 8-bit integers, double lanes that of 16-bit ones, so that its rounding is
-// the exact one's in every mode and with every scale factor: two quotients of n-bit integers, or a quotient and a tie,
-// that are not equal differ by a part in 2^(2n+1) or more.
-template <class T>
-using QuotientLane = std::conditional_t<sizeof(T) == 1, float, double>;
+// Whether quotients in single precision, scaled and rounded in any mode, are the exact ones'. A quotient b / a that is
+// no integer or tie differs from these by 1 / 2a or more, or by 2^(scale-1) / a for a negative scale. That of 16 bits
+// is rounded by less than 2^-8 / a. Bytes of any scale are exact, as results beyond 255 do not count.
+inline bool IsExactInFloats(int scale) { return scale >= -6; }
 
-// Calls then(d, kernel) with the lanes of d in which the kernel computes second / first * 2^-scale. A zero divisor
-// gives an infinity, 0 / 0 a NaN, which saturates to 0 if unsigned and is replaced otherwise.
-template <class T, class Rounding, class Then>
-auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
-  using F = QuotientLane<T>;
-  const auto kernel = [factor = ScaleFactor<F>(scale), rounding](auto a, auto b) HWY_ATTR {
+// second / first * 2^-scale in lanes of F. A zero divisor gives an infinity, 0 / 0 a NaN, which saturates to 0 if
+// unsigned and is replaced otherwise.
+template <class T, class F, class Rounding>
+auto QuotientKernel(int scale, const Rounding& rounding) {
+  return [factor = ScaleFactor<F>(scale), rounding](auto a, auto b) HWY_ATTR {
     const hn::DFromV<decltype(a)> d;
     const auto quotient = rounding(hn::Mul(hn::Div(b, a), hn::Set(d, factor)));
     if constexpr (std::is_signed_v<T>) return hn::IfThenElseZero(hn::Ne(b, hn::Zero(d)), quotient);
     return quotient;
   };
-  if constexpr (sizeof(T) == 1) {
-    return then(hn::ScalableTag<T>(), InFloatLanes(kernel));
-  } else {
-    return then(hn::ScalableTag<F>(), kernel);
-  }
+}
+
+// Calls then(d, kernel) with the lanes of d in which the kernel computes the quotient.
+template <class T, class Rounding, class Then>
+auto WithQuotientKernel(int scale, const Rounding& rounding, const Then& then) {
+  if constexpr (sizeof(T) == 1)
+    return then(hn::ScalableTag<T>(), InFloatLanes(QuotientKernel<T, float>(scale, rounding)));
+  if (IsExactInFloats(scale)) return then(hn::ScalableTag<float>(), QuotientKernel<T, float>(scale, rounding));
+  return then(hn::ScalableTag<double>(), QuotientKernel<T, double>(scale, rounding));
 }
 
 // second / first of bytes, to the nearest. Zero divisors become ones first, so that no quotient leaves the range.
