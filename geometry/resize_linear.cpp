@@ -2,6 +2,7 @@
 // point.
 #include "base/export.h"
 #include "base/map.h"
+#include "geometry/resize_halves.h"
 #include "geometry/resize_linear_columns.h"
 #include "geometry/resize_passes.h"
 
@@ -155,7 +156,15 @@ void LinearTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
     return ResizeDouble(call, record, tile);
   else {
     if constexpr (sizeof(T) == 1) {
-      if (record.weights == WeightKind::kFixed) return ResizeFixed(call, record, tile);
+      if (record.weights == WeightKind::kFixed) {
+        if (!Halve<TiesUp>(call, record, tile)) ResizeFixed(call, record, tile);
+        return;
+      }
+    }
+    if constexpr (sizeof(T) == 2) {
+      if (Halve<TiesToEven>(call, record, tile)) return;
+    } else if constexpr (sizeof(T) == 4) {
+      if (Halve<HalfSums>(call, record, tile)) return;
     }
     ResizeFloat(call, record, tile);
   }

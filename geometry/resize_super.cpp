@@ -1,6 +1,4 @@
 // Resize by averages over the area that a destination pixel covers in the source.
-#include <hwy/cache_control.h>
-
 #include "base/export.h"
 #include "base/map.h"
 #include "geometry/resize_area_exact.h"
@@ -8,50 +6,11 @@
 #include "geometry/resize_area_strips.h"
 #include "geometry/resize_areas.h"
 #include "geometry/resize_filter.h"
+#include "geometry/resize_halves.h"
 #include "geometry/resize_passes.h"
 
 namespace qvp::resize {
 namespace {
-
-// Half the size of one-channel bytes: sums of 2x2 pixels in 16-bit lanes, divided by 4, ties to even. Their averages in
-// floating point are exact, too, so that this is the same result.
-uint8_t Quarter(int sum) { return static_cast<uint8_t>((sum + 1 + (sum >> 2 & 1)) >> 2); }
-
-HWY_INLINE auto Quarters(const uint8_t* upper, const uint8_t* lower) {
-  const hn::ScalableTag<uint8_t> d;
-  const hn::ScalableTag<int16_t> d16;
-  const auto ones = hn::Set(hn::ScalableTag<int8_t>(), 1);
-  const auto sum = hn::Add(MulAddPairs(hn::LoadU(d, upper), ones), MulAddPairs(hn::LoadU(d, lower), ones));
-  const auto one = hn::Set(d16, 1);
-  return hn::ShiftRight<2>(hn::Add(hn::Add(sum, one), hn::And(hn::ShiftRight<2>(sum), one)));
-}
-
-// `ahead` is where the next two rows lie, which are fetched meanwhile: new rows are too short for the CPU to notice
-// their pattern in time.
-void HalveRow(const uint8_t* upper, const uint8_t* lower, ptrdiff_t ahead, uint8_t* dst, ptrdiff_t n) {
-  const hn::ScalableTag<uint8_t> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<uint8_t>());
-  ptrdiff_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) {
-    hwy::Prefetch(upper + 2 * i + ahead);
-    hwy::Prefetch(lower + 2 * i + ahead);
-    const auto left = Quarters(upper + 2 * i, lower + 2 * i);
-    const auto right = Quarters(upper + 2 * i + kLanes, lower + 2 * i + kLanes);
-    hn::StoreU(PackedInOrder<uint8_t>(left, right), d, dst + i);
-  }
-  for (; i < n; ++i) dst[i] = Quarter(upper[2 * i] + upper[2 * i + 1] + lower[2 * i] + lower[2 * i + 1]);
-}
-
-bool IsHalf(const ResizeRecord& record) {
-  return record.columns.p == 2 && record.columns.q == 1 && record.rows.p == 2 && record.rows.q == 1 &&
-         !record.IsShifted();
-}
-
-void Halve(const ResizeCall<uint8_t>& call, const Tile& tile) {
-  for (ptrdiff_t y = 0; y < tile.height; ++y) {
-    HalveRow(call.src.Row(2 * y), call.src.Row(2 * y + 1), 2 * call.src.step, call.dst.Row(y), tile.width);
-  }
-}
 
 // Bytes of work memory that every caller has for a tile.
 int64_t RoomFor(const Tile& tile, int channels) {
@@ -127,8 +86,9 @@ bool ResizeChroma(const ResizeCall<T>& call, const ResizeRecord& record, const T
 
 template <class T>
 void AreaTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  // Means of integers in floating point are exact: this is the same result.
+  if (Halve<std::conditional_t<std::is_integral_v<T>, TiesToEven, Midpoints>>(call, record, tile)) return;
   if constexpr (sizeof(T) == 1) {
-    if (IsHalf(record) && call.src.layout == Layout::kC1) return Halve(call, tile);
     if (AreAreasWhole(record) && ResizeWhole(call, record, tile)) return;
   }
   if constexpr (std::is_integral_v<T>) {

@@ -1,4 +1,5 @@
-// Points at the border and beyond of images that go on with their edge: their taps are gathered, and blended like others.
+// Points at the border and beyond of images that go on with their edge: their taps are gathered, and blended like
+// others.
 #pragma once
 
 #include "geometry/sample_inside.h"
