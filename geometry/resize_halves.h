@@ -73,8 +73,8 @@ HWY_INLINE hn::Vec<hn::ScalableTag<T>> Means(const T* upper, const T* lower) {
   }
 }
 
-// n samples. `ahead` is how many bytes on the next two rows lie, which are fetched meanwhile: new rows are too short for
-// the CPU to notice their pattern in time.
+// n samples. `ahead` is how many bytes on the next two rows lie, which are fetched meanwhile: new rows are too short
+// for the CPU to notice their pattern in time.
 template <int kChannels, class Rounding, class T>
 bool HalveRow(const T* upper, const T* lower, ptrdiff_t ahead, T* dst, ptrdiff_t n) {
   constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());

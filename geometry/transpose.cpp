@@ -103,8 +103,12 @@ struct Tile {
   }
 };
 
-// Tiles are taken by blocks of 64 x 64 pixels, whose lines stay in the first-level cache.
-constexpr ptrdiff_t kBlockSide = 64;
+// Tiles are taken by blocks, whose lines stay in the first-level cache with those that are fetched.
+template <int kBytes>
+constexpr ptrdiff_t kSideOf = kBytes <= 3   ? 64
+                              : kBytes <= 6 ? 32
+                                            : 16;
+constexpr ptrdiff_t kBlockSide = 64;  // of images beyond the caches
 
 // Asks for bytes of n rows, ahead of their use: a CPU does not guess the next of lines that lie a step apart.
 template <class Bytes>
@@ -119,14 +123,14 @@ void Prefetch(const Bytes& image, ptrdiff_t row, ptrdiff_t n, ptrdiff_t offset, 
 // Calls at(x, y) for tiles that cover an area of at least one tile. The last ones of a row or column may overlap their
 // neighbours: pixels are then written twice with one value. Before each row of tiles, the `row`th of its block,
 // comes ahead(x, y, row) with the place of the next block to the right, if that is a whole one.
-template <class Ahead, class At>
+template <ptrdiff_t kSide, class Ahead, class At>
 void ForEachTile(Size size, ptrdiff_t columns, ptrdiff_t rows, const Ahead& ahead, const At& at) {
-  for (ptrdiff_t top = 0; top < size.height; top += kBlockSide) {
-    for (ptrdiff_t left = 0; left < size.width; left += kBlockSide) {
-      const bool hasNext = left + 2 * kBlockSide <= size.width && top + kBlockSide <= size.height;
-      for (ptrdiff_t y = top; y < std::min(top + kBlockSide, size.height); y += rows) {
-        if (hasNext) ahead(left + kBlockSide, top, y - top);
-        for (ptrdiff_t x = left; x < std::min(left + kBlockSide, size.width); x += columns) {
+  for (ptrdiff_t top = 0; top < size.height; top += kSide) {
+    for (ptrdiff_t left = 0; left < size.width; left += kSide) {
+      const bool hasNext = left + 2 * kSide <= size.width && top + kSide <= size.height;
+      for (ptrdiff_t y = top; y < std::min(top + kSide, size.height); y += rows) {
+        if (hasNext) ahead(left + kSide, top, y - top);
+        for (ptrdiff_t x = left; x < std::min(left + kSide, size.width); x += columns) {
           at(std::min(x, size.width - columns), std::min(y, size.height - rows));
         }
       }
@@ -141,10 +145,10 @@ void TransposeTiles(const ConstBytes& src, const Bytes& dst, Size size) {
   const ptrdiff_t spare = T::U::kIsSpread ? kBlockBytes - T::U::kUsed : 0;
   const auto ahead = [&](ptrdiff_t x, ptrdiff_t y, ptrdiff_t row) {
     if (kBytes < 3) return;  // a line for each row: asking for it takes longer than is gained
-    Prefetch(src, y + row, T::kRows, x * kBytes, kBlockSide * kBytes);
-    Prefetch(dst, x + row, T::kRows, y * kBytes, kBlockSide * kBytes);
+    Prefetch(src, y + row, T::kRows, x * kBytes, kSideOf<kBytes> * kBytes);
+    Prefetch(dst, x + row, T::kRows, y * kBytes, kSideOf<kBytes> * kBytes);
   };
-  ForEachTile(size, T::kColumns, T::kRows, ahead, [&](ptrdiff_t x, ptrdiff_t y) {
+  ForEachTile<kSideOf<kBytes>>(size, T::kColumns, T::kRows, ahead, [&](ptrdiff_t x, ptrdiff_t y) {
     const bool isLast = (x + T::kColumns) * kBytes + spare > size.width * kBytes;
     (isLast ? lastTile : tile)(src.Row(y) + x * kBytes, src.step, dst.Row(x) + y * kBytes, dst.step);
   });
@@ -159,8 +163,25 @@ void TransposeSmall(const ConstBytes& src, const Bytes& dst, Size size) {
   }
 }
 
+// Pixels of three floats, moved with the next bytes, which the next pixel replaces.
+void TransposeTriples(const ConstBytes& src, const Bytes& dst, Size size) {
+  constexpr ptrdiff_t kBytes = 12, kSide = kSideOf<kBytes>;
+  const Block d;
+  const auto column = [&](ptrdiff_t x, ptrdiff_t top, ptrdiff_t end) HWY_ATTR {
+    const ptrdiff_t wide = x + 1 < size.width ? end - 1 : top;  // nothing is read or written behind the last pixel
+    uint8_t* const to = dst.Row(x);
+    for (ptrdiff_t y = top; y < wide; ++y) hn::StoreU(hn::LoadU(d, src.Row(y) + x * kBytes), d, to + y * kBytes);
+    for (ptrdiff_t y = wide; y < end; ++y) std::memcpy(to + y * kBytes, src.Row(y) + x * kBytes, kBytes);
+  };
+  for (ptrdiff_t top = 0; top < size.height; top += kSide) {
+    const ptrdiff_t end = std::min(top + kSide, size.height);
+    for (ptrdiff_t x = 0; x < size.width; ++x) column(x, top, end);
+  }
+}
+
 template <int kBytes, bool kAlpha>
 void Transpose(const ConstBytes& src, const Bytes& dst, Size size) {
+  if constexpr (kBytes == 12) return TransposeTriples(src, dst, size);
   const bool isWide = size.width * kBytes >= kBlockBytes;
   if (isWide && size.height >= Tile<kBytes, kAlpha, Wide>::kRows) {
     TransposeTiles<kBytes, kAlpha, Wide>(src, dst, size);

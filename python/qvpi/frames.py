@@ -1,7 +1,8 @@
-"""Frames whose chroma is subsampled: 4:2:0, as video and JPEG files have it.
+"""Frames whose chroma is subsampled: 4:2:0, as video and JPEG files have it, and packed 4:2:2.
 
 A frame is a sequence of planes of uint8 or uint16: luma of shape (H, W), and chroma either as pairs, of shape
-((H + 1) // 2, (W + 1) // 2, 2), or as two planes of shape ((H + 1) // 2, (W + 1) // 2).
+((H + 1) // 2, (W + 1) // 2, 2), or as two planes of shape ((H + 1) // 2, (W + 1) // 2). A packed frame has the shape
+(H, W, 2), W even: luma, and chroma of both kinds by turns.
 """
 import numpy
 
@@ -12,12 +13,13 @@ from ._records import addresses, cached, memory, size_of
 from .arithmetic import choice
 from .raw import lib
 
-__all__ = ["decimate_frame", "resize_frame"]
+__all__ = ["decimate_frame", "resize_frame", "resize_packed"]
 
 _FRACTIONS = {"1/2": lib.qvpDecimate1of2, "1/3": lib.qvpDecimate1of3, "1/4": lib.qvpDecimate1of4,
               "1/8": lib.qvpDecimate1of8, "2/3": lib.qvpDecimate2of3, "3/4": lib.qvpDecimate3of4,
               "3/8": lib.qvpDecimate3of8}
 _SITES = {"centre": lib.qvpChromaCentre, "left": lib.qvpChromaLeft, "top-left": lib.qvpChromaTopLeft}
+_PLACES = {"first": lib.qvpLumaFirst, "second": lib.qvpLumaSecond}
 _EDGES = {"replicate": lib.qvpBorderReplicate, "mirror": lib.qvpBorderMirror}
 _METHODS = {"linear": "Linear", "lanczos": "Lanczos", "super": "Super"}
 
@@ -107,3 +109,19 @@ def resize_frame(frame, shape, method="linear", *, site="left", border="replicat
     sizes = planes[0].shape[1::-1], tuple(shape)[::-1]
     _resize(420, f"P{len(planes)}", sizes, planes[0].dtype, method, options, arguments)
     return results
+
+
+def resize_packed(a, shape, method="linear", *, luma="first", site="left", border="replicate", lobes=3):
+    """The packed 4:2:2 frame `a` of shape (H, W, 2) in another shape (h, w), w even; see resize_frame().
+
+    luma: 'first' for Y U Y V, 'second' for U Y V Y.
+    """
+    a = numpy.ascontiguousarray(image(a, name="a"))
+    if a.ndim != 3 or a.shape[2] != 2:
+        raise ValueError(f"a has the shape {a.shape}, expected (H, W, 2)")
+    result = numpy.empty((*shape, 2), a.dtype)
+    places = [choice(_SITES, site, "site"), choice(_PLACES, luma, "luma")]
+    options = lobes, places, choice(_EDGES, border, "border")
+    arguments = a, a.strides[0], result, result.strides[0]
+    _resize(422, "C2", (a.shape[1::-1], tuple(shape)[::-1]), a.dtype, method, options, arguments)
+    return result
