@@ -1,6 +1,6 @@
 // Histograms. Three ways lead to the same counts:
 //   a table of all values, from which the bins are added up: 8-bit and 16-bit integers
-//   a guess by arithmetic, put right by the levels next to it: bins of equal width
+//   a guess by arithmetic, put right by the levels next to it: bins of about equal width, however they were given
 //   a binary search among the levels: all other floats
 #include "base/byte_counts.h"
 #include "base/check.h"
@@ -70,22 +70,80 @@ ptrdiff_t LevelsUpTo(const HistogramRecord& record, int channel, T v) {
   return first;
 }
 
-void CountBySearch(const HistogramTask<float>& task) {
-  const int channels = task.channels();
-  Rows(task.src).ForEach(task.roi, [&](ptrdiff_t pixels, const float* row) {
-    for (ptrdiff_t i = 0; i < pixels * channels; ++i) {
-      const int c = static_cast<int>(i % channels);
-      const ptrdiff_t k = LevelsUpTo(task.record, c, LoadScalar(row + i)) - 1;
-      if (k >= 0 && k < task.record.Bins(c)) AddTo(task.Counts(c), k, 1);
+// The levels of a channel, filled up with infinities to one less than a power of two: every search takes the same
+// steps, in all lanes at once.
+class LevelTable {
+ public:
+  static constexpr ptrdiff_t kMost = 1023, kBlock = 64;
+
+  LevelTable(const HistogramRecord& record, int channel) {
+    const ptrdiff_t n = record.Levels(channel);
+    while (2 * half_ <= n) half_ *= 2;
+    for (ptrdiff_t k = 0; k < 2 * half_ - 1; ++k) {
+      levels_[k] = k < n ? record.Level<float>(channel, k) : __builtin_inff();
     }
-  });
+  }
+
+  // Counts n values that lie `step` apart.
+  void Count(const float* values, ptrdiff_t step, ptrdiff_t n) {
+    float block[kBlock] = {};
+    int32_t levels[kBlock];
+    for (ptrdiff_t i = 0; i < n; i += kBlock) {
+      const ptrdiff_t m = std::min(n - i, kBlock);
+      for (ptrdiff_t k = 0; k < m; ++k) block[k] = LoadScalar(values + (i + k) * step);
+      FindLevels(block, levels);
+      for (ptrdiff_t k = 0; k < m; ++k) ++counts_[levels[k]];
+    }
+  }
+  void AddToBins(ptrdiff_t bins, uint32_t* counts) const {
+    for (ptrdiff_t k = 0; k < bins; ++k) AddTo(counts, k, counts_[k + 1]);
+  }
+
+ private:
+  // How many levels are not above each value of a block.
+  void FindLevels(const float* values, int32_t* levels) const {
+    const hn::ScalableTag<float> d;
+    const hn::ScalableTag<int32_t> ints;
+    for (ptrdiff_t i = 0; i < kBlock; i += hn::Lanes(d)) {
+      const auto v = hn::LoadU(d, values + i);
+      auto first = hn::Zero(ints);
+      for (int32_t step = half_; step > 0; step /= 2) {
+        const auto level = hn::GatherIndex(d, levels_, hn::Add(first, hn::Set(ints, step - 1)));
+        const auto isUpTo = hn::VecFromMask(ints, hn::RebindMask(ints, hn::Le(level, v)));
+        first = hn::Add(first, hn::And(isUpTo, hn::Set(ints, step)));
+      }
+      hn::StoreU(first, ints, levels + i);
+    }
+  }
+
+  int32_t half_ = 1;
+  float levels_[kMost];
+  uint32_t counts_[kMost + 1] = {};
+};
+
+void CountOneByOne(const HistogramTask<float>& task, int channel, const float* row, ptrdiff_t pixels) {
+  for (ptrdiff_t i = 0; i < pixels; ++i) {
+    const ptrdiff_t k = LevelsUpTo(task.record, channel, LoadScalar(row + i * task.channels() + channel));
+    if (k > 0 && k <= task.record.Bins(channel)) AddTo(task.Counts(channel), k - 1, 1);
+  }
+}
+
+void CountBySearch(const HistogramTask<float>& task, int channel) {
+  const ptrdiff_t bins = task.record.Bins(channel);
+  if (bins >= LevelTable::kMost) {
+    return Rows(task.src).ForEach(
+        task.roi, [&](ptrdiff_t pixels, const float* row) { CountOneByOne(task, channel, row, pixels); });
+  }
+  LevelTable table(task.record, channel);
+  Rows(task.src).ForEach(
+      task.roi, [&](ptrdiff_t pixels, const float* row) { table.Count(row + channel, task.channels(), pixels); });
+  table.AddToBins(bins, task.Counts(channel));
 }
 
 // Small regions are not worth a table of 65536 counters.
 template <class T>
 bool IsGuessed(const HistogramTask<T>& task) {
-  return task.record.header().isUniform &&
-         (sizeof(T) == 4 || static_cast<int64_t>(task.roi.width) * task.roi.height < 65536);
+  return sizeof(T) == 4 || static_cast<int64_t>(task.roi.width) * task.roi.height < 65536;
 }
 
 template <class T>
@@ -104,7 +162,7 @@ void CountPixels(const HistogramTask<T>& task, uint32_t* buffer) {
     if constexpr (sizeof(T) == 2) {
       CountWords(task, buffer);
     } else {
-      CountBySearch(task);
+      for (int c = 0; c < task.channels(); ++c) CountBySearch(task, c);
     }
   }
 }

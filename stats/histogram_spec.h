@@ -13,7 +13,7 @@ struct HistogramHeader {
   int32_t dataType, channels, isUniform;
   uint32_t identification;
   int32_t levels[4];
-  const void* arrays[4];  // for whoever looks at a record: the library counts its way
+  const void* arrays[4];  // as isUniform for whoever looks at a record: the library counts its way
 };
 
 class HistogramRecord {
