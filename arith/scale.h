@@ -24,7 +24,8 @@ struct Unscaled {
 };
 
 // scale > 0: (exact + 2^(scale-1) - 1 + odd) >> scale, where odd is the lowest bit of exact >> scale.
-template <class L>
+// kHasRoom: the lane holds what is shifted.
+template <class L, bool kHasRoom = std::is_signed_v<L>>
 class ScaleDown {
  public:
   explicit ScaleDown(int scale)
@@ -37,7 +38,7 @@ class ScaleDown {
     const hn::DFromV<V> d;
     const V odd = hn::And(hn::ShiftRightSame(exact, count_ % kBits<L>), hn::Set(d, odd_));
     const V bias = hn::Add(odd, hn::Set(d, bias_));
-    if constexpr (std::is_signed_v<L>) {
+    if constexpr (kHasRoom) {
       return hn::ShiftRightSame(hn::Add(exact, bias), count_);
     } else {
       return hn::ShiftRightSame(HalfOfSum(exact, bias), count_ - 1);
@@ -90,11 +91,17 @@ class ScaleUp {
   L lowest_, highest_;
 };
 
-// Calls then(scaling) with the scaling of lanes L for results of type T.
+// Up to this scale a product of two elements, at most (2^16 - 1)^2, leaves room for half a unit beside it.
+constexpr int kLastWithRoom = 17;
+
+// Calls then(scaling) with the scaling of lanes L for results of type T. Unsigned lanes of 32 bits are products of two
+// elements.
 template <class L, class T, class Then>
 void WithScaling(int scale, const Then& then) {
   if (scale == 0) {
     then(Unscaled());
+  } else if (std::is_same_v<L, uint32_t> && scale > 0 && scale <= kLastWithRoom) {
+    then(ScaleDown<L, true>(scale));
   } else if (scale > 0) {
     then(ScaleDown<L>(scale));
   } else {

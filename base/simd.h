@@ -12,11 +12,16 @@ static_assert(HWY_TARGET == QVP_VECTOR_TARGET, "the compiler's flags do not sele
 // For lambdas: one that is called makes memory of what it refers to.
 #define QVP_INLINED __attribute__((always_inline))
 
-// For loops that are taken a few times only: what compilers make of others has a long way to the first turn.
+// QVP_SCATTERED is for loops over words that lie apart: AVX-512 has instructions that load and store a vector of them,
+// which take longer than one word after the other.
+// QVP_ROLLED is for loops that are taken a few times only: what compilers make of others has a long way to the first
+// turn.
 #ifdef __clang__
 #define QVP_ROLLED _Pragma("clang loop vectorize(disable) unroll(disable)")
+#define QVP_SCATTERED _Pragma("clang loop vectorize(disable)")
 #else
 #define QVP_ROLLED _Pragma("GCC unroll 1")
+#define QVP_SCATTERED _Pragma("GCC unroll 4")
 #endif
 
 namespace qvp {

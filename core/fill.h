@@ -1,6 +1,7 @@
 // Fills with one pixel, whatever its type and layout, and its repetition along a row.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -34,6 +35,9 @@ struct FillPixel {
   }
 
   bool Keeps() const { return keep[size - 1] != 0; }
+  bool IsOneByte() const {
+    return !Keeps() && std::all_of(bytes, bytes + size, [&](uint8_t b) { return b == *bytes; });
+  }
 
   // One vector of the repeated pixel, or of what it keeps, that begins `phase` bytes into a pixel. `phase` leaves a
   // vector's length to kPhaseCount.

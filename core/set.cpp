@@ -13,6 +13,8 @@ using namespace qvp;
 using D = hn::ScalableTag<uint8_t>;
 constexpr int kVector = static_cast<int>(hn::MaxLanes(D()));
 
+int64_t BytesOf(const Bytes& dst, Size roi) { return static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height; }
+
 // One vector of a filled row.
 template <bool kKeep>
 struct Stretch {
@@ -59,9 +61,16 @@ void FillRow(const FillPixel& pixel, uint8_t* dst, ptrdiff_t n) {
   last.template WriteTo<Store::kOrdinary>(dst + n - kVector);
 }
 
+// Beyond the second-level cache the C library fills faster: machines have an instruction that does not read lines
+// first.
+constexpr int64_t kManyBytes = 524288;
+
+void FillWithByte(const FillPixel& pixel, uint8_t* dst, ptrdiff_t n) { std::memset(dst, *pixel.bytes, n); }
+
 template <Store kStore>
 void FillRows(const FillPixel& pixel, const Bytes& dst, Size roi) {
-  const auto row = pixel.Keeps() ? FillRow<kStore, true> : FillRow<kStore, false>;
+  const bool isForMemset = kStore == Store::kOrdinary && BytesOf(dst, roi) > kManyBytes && pixel.IsOneByte();
+  const auto row = isForMemset ? FillWithByte : pixel.Keeps() ? FillRow<kStore, true> : FillRow<kStore, false>;
   Rows(dst).ForEach(roi, [&](ptrdiff_t width, uint8_t* to) { row(pixel, to, dst.RowBytes(width)); });
 }
 
@@ -74,7 +83,7 @@ QvpStatus Set(const void* value, const Bytes& dst, Size roi) {
 }  // namespace
 
 void qvp::FillPixels(const void* value, const Bytes& dst, Size roi) {
-  const Store store = StoreFor(static_cast<int64_t>(dst.RowBytes(roi.width)) * roi.height);
+  const Store store = StoreFor(BytesOf(dst, roi));
   const FillPixel pixel(value, dst);
   (store == Store::kStreaming ? FillRows<Store::kStreaming> : FillRows<Store::kOrdinary>)(pixel, dst, roi);
   Fence(store);

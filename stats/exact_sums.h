@@ -12,6 +12,8 @@ namespace qvp::stats {
 //   Position(sum, lane)   the place in a round of the samples that a lane adds up, or one a multiple of 12 away
 //   Shift(sum)            by what power of two a sum is to be multiplied
 //   kPairBias             what each pair of samples adds beyond its sum
+// and, if sums come in pairs of lanes of 64 bits, the first of which has what the second one adds up in its upper half,
+//   kEvenWithOdd
 template <class Kernel>
 class ExactSums {
  public:
@@ -66,7 +68,10 @@ class ExactSums {
     const Totals d;
     const auto mask = hn::Set(d, ~uint64_t{0} >> (64 - kBits));
     for (int s = 0; s < kSums; ++s) {
-      const auto lanes = hn::Load(d, reinterpret_cast<const uint64_t*>(lanes_[s]));
+      auto lanes = hn::Load(d, reinterpret_cast<const uint64_t*>(lanes_[s]));
+      if constexpr (requires { Kernel::kEvenWithOdd; }) {
+        if (s % 2 == 0) lanes = hn::Sub(lanes, hn::ShiftLeft<32>(hn::Load(d, lanes_[s + 1])));
+      }
       for (int field = 0; field < kFields; ++field) {
         const auto part = hn::And(hn::ShiftRightSame(lanes, field * kBits), mask);
         hn::Store(hn::Add(hn::Load(d, totals_[s][field]), part), d, totals_[s][field]);
@@ -200,7 +205,8 @@ HWY_INLINE void AddWidePairProducts(V& even, V& odd, W a, W b) {
   odd = hn::Add(odd, halves.odd);
 }
 
-// Sums of products of signed 16-bit integers of one channel; each pair of samples has a bias.
+// Sums of products of signed 16-bit integers of one channel; each pair of samples has a bias. Even ones need not be
+// parted from odd ones, which are known: what they add, modulo 2^64, is taken away at the end.
 struct WordProducts {
   using D = hn::ScalableTag<uint16_t>;  // their bits
   using Sums = hn::ScalableTag<uint64_t>;
@@ -209,12 +215,16 @@ struct WordProducts {
   static constexpr int Position(int, int) { return 0; }
   static constexpr int Shift(int) { return 0; }
   static constexpr uint32_t kPairBias = kWordPairBias;
+  static constexpr bool kEvenWithOdd = true;
 
   template <class At>
   static HWY_INLINE void Round(hn::Vec<Sums>* sums, const At& at) {
+    const auto bias = hn::Set(hn::ScalableTag<uint32_t>(), kPairBias);
     for (int k = 0; k < kVectors; ++k) {
       const auto factors = at(k);
-      AddWidePairProducts(sums[2 * k], sums[2 * k + 1], factors.a, factors.b);
+      const auto both = hn::BitCast(Sums(), AddPairProducts(bias, factors.a, factors.b));
+      sums[2 * k] = hn::Add(sums[2 * k], both);
+      sums[2 * k + 1] = hn::Add(sums[2 * k + 1], hn::ShiftRight<32>(both));
     }
   }
 };

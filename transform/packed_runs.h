@@ -81,10 +81,12 @@ struct Numbers {
 };
 
 inline void Gather(const uint8_t* from, ptrdiff_t stride, ptrdiff_t n, float* to) {
+  QVP_SCATTERED
   for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i, from + i * stride, sizeof(float));
 }
 inline void Scatter(const float* from, ptrdiff_t n, uint8_t* to, ptrdiff_t stride) {
   if (stride == sizeof(float)) return static_cast<void>(std::memcpy(to, from, n * sizeof(float)));
+  QVP_SCATTERED
   for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(to + i * stride, from + i, sizeof(float));
 }
 
