@@ -17,31 +17,24 @@ struct Frame {
   int left, top, front;
 };
 
-QvpStatus Call(const Export& function, const Frame& f, const Volume& src, const Volume& dst, const uint8_t* value) {
-  const test::Element& element = Name(function.name).From();
-  return function({{"pSrc", {src.block.data()}},
-                   {"srcStep", src.step},
-                   {"srcPlaneStep", src.planeStep},
-                   {"srcVolume", f.src},
-                   {"pDst", {dst.block.data()}},
-                   {"dstStep", dst.step},
-                   {"dstPlaneStep", dst.planeStep},
-                   {"dstVolume", f.dst},
-                   {"topBorderHeight", f.top},
-                   {"leftBorderWidth", f.left},
-                   {"frontBorderDepth", f.front},
-                   {"value", element.read(value)}});
-}
-
 void Check(const Export& function, const Frame& f, bool isCoronal) {
   const Name name(function.name);
   const int bytes = name.From().bytes,
             kind = name.operation == "qvprCopyConstBorder" ? +qvpBorderConst : +qvpBorderReplicate;
   const uint8_t value[4] = {7, 1, 2, 3};
   const Volume src(f.src, bytes, 3, isCoronal), dst(f.dst, bytes, 0, isCoronal);
-  test::Random random(f.src.width);
-  src.ForEach([&](int x, int y, int z) { random.Fill(src.At(x, y, z), bytes); });
-  ASSERT_EQ(Call(function, f, src, dst, value), 0) << function.name;
+  src.Fill(name.From(), test::ModestVoxel);
+  test::VolumeCall call(function);
+  call.Add("pSrc", src);
+  call.Add("pDst", dst);
+  ASSERT_EQ(call({{"srcVolume", f.src},
+                  {"dstVolume", f.dst},
+                  {"topBorderHeight", f.top},
+                  {"leftBorderWidth", f.left},
+                  {"frontBorderDepth", f.front},
+                  {"value", name.From().read(value)}}),
+            0)
+      << function.name;
   dst.ForEach([&](int x, int y, int z) {
     const int u = test::BorderPosition(kind, x - f.left, 0, f.src.width - 1);
     const int v = test::BorderPosition(kind, y - f.top, 0, f.src.height - 1);

@@ -43,18 +43,20 @@ Manner MannerOf(const Scene& scene) {
 QvpDataType TypeOf(const Scene& scene) { return Has(scene, "_16u") ? qvp16u : qvp8u; }
 
 QvpStatus Init(const Scene& scene, QvpiResizeChromaSpec* spec) {
-  const auto [s, d, method, border, site, place, lobes] = MannerOf(scene);
-  const QvpDataType type = TypeOf(scene);
+  const Manner m = MannerOf(scene);
+  const std::string operation = std::string("qvpiResize") + (IsPacked(scene) ? "422" : "420");
+  const char* const method = m.method == qvpInterpolationLanczos ? "Lanczos"
+                             : m.method == qvpInterpolationSuper ? "Super"
+                                                                 : "Linear";
   Qvp8u buffer[64];
-  if (method == qvpInterpolationLanczos) {
-    return IsPacked(scene) ? qvpiResize422LanczosInit(s, d, type, lobes, site, place, spec, buffer)
-                           : qvpiResize420LanczosInit(s, d, type, lobes, site, spec, buffer);
-  }
-  const bool isLinear = method == qvpInterpolationLinear;
-  if (IsPacked(scene)) {
-    return (isLinear ? qvpiResize422LinearInit : qvpiResize422SuperInit)(s, d, type, site, place, spec);
-  }
-  return (isLinear ? qvpiResize420LinearInit : qvpiResize420SuperInit)(s, d, type, site, spec);
+  return CallNamed(operation + method + "Init", {{"srcSize", m.from},
+                                                 {"dstSize", m.to},
+                                                 {"dataType", TypeOf(scene)},
+                                                 {"numLobes", m.lobes},
+                                                 {"site", m.site},
+                                                 {"lumaPlace", m.lumaPlace},
+                                                 {"pSpec", {spec}},
+                                                 {"pInitBuf", {buffer}}});
 }
 
 const void* Record(Scene& scene) {
