@@ -109,23 +109,21 @@ Argument Steps(Scene& scene, int width, int more) {
 
 bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument) {
   const Manner m = MannerOf(scene);
-  const Named choices[] = {{"border", m.border},
-                           {"site", m.site},
-                           {"lumaPlace", m.lumaPlace},
-                           {"numLobes", m.lobes},
-                           {"interpolation", m.method},
-                           {"antialiasing", 0},
-                           {"dataType", TypeOf(scene)},
-                           {"xFactor", 0.4},
-                           {"yFactor", 1.7},
-                           {"srcSize", m.from},
-                           {"dstSize", m.to},
-                           {"dstOffset", QvpiPoint{0, 0}},
-                           {"dstRoi", {nullptr, 0, 0, (m.to.width + 3) / 4 * 2, m.to.height}}};
-  for (const Named& choice : choices) {
-    if (choice.name == name) return argument = choice.value, true;
-  }
-  return false;
+  return Choose(name,
+                {{"border", m.border},
+                 {"site", m.site},
+                 {"lumaPlace", m.lumaPlace},
+                 {"numLobes", m.lobes},
+                 {"interpolation", m.method},
+                 {"antialiasing", 0},
+                 {"dataType", TypeOf(scene)},
+                 {"xFactor", 0.4},
+                 {"yFactor", 1.7},
+                 {"srcSize", m.from},
+                 {"dstSize", m.to},
+                 {"dstOffset", QvpiPoint{0, 0}},
+                 {"dstRoi", {nullptr, 0, 0, (m.to.width + 3) / 4 * 2, m.to.height}}},
+                argument);
 }
 
 bool LearnPlanes(Scene& scene, size_t place, Argument& argument) {

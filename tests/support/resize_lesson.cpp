@@ -119,28 +119,23 @@ const void* Buffer(Scene& scene) {
 
 bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument) {
   const Manner m = MannerOf(scene);
-  if (name == "border") {
-    argument = m.border;
-  } else if (name == "interpolation") {
-    argument = IsDouble(scene) ? +qvpInterpolationLinear : +qvpInterpolationCubic;
-  } else if (name == "antialiasing") {
-    argument = 0;
-  } else if (name == "dataType") {
-    argument = qvp32f;
-  } else if (name == "numChannels") {
-    argument = 3;
-  } else if (name == "hint") {
-    argument = qvpAlgHintAccurate;
-  } else if (name == "numLobes") {
-    argument = m.lobes;
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? m.b : m.c;
-  } else if (name == "shiftX" || name == "shiftY") {
-    argument = name == "shiftX" ? 0.25 : -1.5;
-  } else {
-    return false;
-  }
-  return true;
+  const QvpiSize to = m.target;
+  return Choose(name,
+                {{"border", m.border},
+                 {"interpolation", IsDouble(scene) ? +qvpInterpolationLinear : +qvpInterpolationCubic},
+                 {"antialiasing", 0},
+                 {"dataType", qvp32f},
+                 {"numChannels", 3},
+                 {"hint", qvpAlgHintAccurate},
+                 {"numLobes", m.lobes},
+                 {"valueB", m.b},
+                 {"valueC", m.c},
+                 {"shiftX", 0.25},
+                 {"shiftY", -1.5},
+                 {"dstOffset", QvpiPoint{0, 0}},
+                 {"dstRoi", {nullptr, 0, 0, (to.width + 1) / 2, to.height}},
+                 {"pBorderValue", {nullptr, 0}}},
+                argument);
 }
 
 }  // namespace
@@ -148,20 +143,13 @@ bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument)
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   const QvpiSize to = MannerOf(scene).target;
-  if (name == "dstOffset") {
-    argument = QvpiPoint{0, 0};
-  } else if (name == "dstRoi") {
-    argument = {nullptr, 0, 0, (to.width + 1) / 2, to.height};
-  } else if (name == "pSpec") {
+  if (LearnChoices(scene, name, argument) || LearnImages(scene, name, to, argument)) return true;
+  if (name == "pSpec") {
     argument = {Record(scene)};
   } else if (name == "pInitBuf") {
     argument = {scene.Input(64)};
   } else if (name == "pBuffer") {
     argument = {Buffer(scene)};
-  } else if (name == "pBorderValue") {
-    argument = Argument(nullptr, 0);
-  } else if (LearnChoices(scene, name, argument) || LearnImages(scene, name, to, argument)) {
-    return true;
   } else if (type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};  // of a query
   } else {

@@ -142,37 +142,31 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   const Manner m = MannerOf(scene);
   const bool isQuery = Has(scene, "GetSize");
-  if (name == "dstRoiOffset") {
-    argument = QvpiPoint{0, 0};
-  } else if (name == "pSpec") {
+  if (name == "pSpec") {
     argument = {Record(scene)};
-  } else if (name == "borderType") {
-    argument = isQuery ? +qvpBorderReplicate : m.border;
-  } else if (name == "pBorderValue") {
-    argument = {kValue};
-  } else if (name == "interpolation") {
-    argument = qvpInterpolationCubic;
-  } else if (name == "direction") {
-    argument = m.direction;
   } else if (name == "dataType") {
     const bool hasDoubles = !Has(scene, "Bilinear") || !IsWide(scene);
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f, hasDoubles ? +qvp64f : +qvp32f});
-  } else if (name == "numChannels") {
-    argument = 3;
-  } else if (name == "smoothEdge") {
-    argument = m.isSmooth;
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? m.b : m.c;
-  } else if (name == "srcQuad" || name == "dstQuad") {
-    argument = {name == "srcQuad" ? m.from : m.to};
-  } else if (name == "coeffs") {
-    argument = {Has(scene, "Bilinear") ? &m.bilinear[0][0] : &m.matrix[0][0]};
   } else if (name.ends_with("Size") && type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};
   } else if (name == "pBuffer" || name == "pInitBuf") {
     argument = {scene.Input(kRoom)};
   } else {
-    return LearnImages(scene, name, scene.roi(), argument);
+    return Choose(name,
+                  {{"dstRoiOffset", QvpiPoint{0, 0}},
+                   {"borderType", isQuery ? +qvpBorderReplicate : m.border},
+                   {"pBorderValue", {kValue}},
+                   {"interpolation", qvpInterpolationCubic},
+                   {"direction", m.direction},
+                   {"numChannels", 3},
+                   {"smoothEdge", m.isSmooth},
+                   {"valueB", m.b},
+                   {"valueC", m.c},
+                   {"srcQuad", {m.from}},
+                   {"dstQuad", {m.to}},
+                   {"coeffs", {Has(scene, "Bilinear") ? &m.bilinear[0][0] : &m.matrix[0][0]}}},
+                  argument) ||
+           LearnImages(scene, name, scene.roi(), argument);
   }
   return true;
 }
