@@ -207,13 +207,10 @@ TEST(FrameResize, HasTheBitsOfImages) {
             const QvpiSize s = format.SizeOf(from, c.isChroma), d = format.SizeOf(to, c.isChroma);
             test::Bordered plane(element, {}, {s, 1, qvpBorderReplicate}, test::Guard::kAfter, 2);
             plane.image.Fill([&](int x, int y) { return src(c, x, y); });
-            const test::Samples expected =
-                Resized(test::FunctionOf(r.Operation(), element, 1), test::ImageResize(r, type, s, d), plane);
-            for (int i = 0; i < d.width * d.height; ++i) {
-              ASSERT_EQ(dst(c, i % d.width, i / d.width), expected(i % d.width, i / d.width))
-                  << format.layout << ' ' << r.name << ' ' << type << ", plane " << c.plane << ", " << from.width
-                  << " to " << to.width;
-            }
+            test::Samples found(element, d.width, d.height, 0);
+            found.Fill([&](int x, int y) { return dst(c, x, y); });
+            ExpectSame(found, Resized(FunctionOf(r, type, 1), test::ImageResize(r, type, s, d), plane),
+                       format.layout + ' ' + r.name + ' ' + type + ", plane " + std::to_string(c.plane));
           }
         }
       }
@@ -315,11 +312,6 @@ TEST(FrameResize, ChecksCallsInOrder) {
   };
   for (const int border : {0, 2, 6, 0x101, 0x10, -1}) {
     EXPECT_EQ(call(nullptr, {1, 1}, {0, 0}, border, nullptr), qvpStatusBorder) << border;
-  }
-  for (const Qvp16u*& plane : from) {
-    const Qvp16u* const kept = std::exchange(plane, nullptr);
-    EXPECT_EQ(call(odd, {1, 1}, {0, -1}, 1, foreign), qvpStatusNullPointer);
-    plane = kept;
   }
   EXPECT_EQ(call(nullptr, {1, 1}, {0, -1}, 1, foreign), qvpStatusNullPointer);
   EXPECT_EQ(call(odd, {1, 1}, {0, -1}, 1, foreign), qvpStatusNoOperation);

@@ -8,17 +8,13 @@ using test::ElementOf;
 using test::Export;
 using test::ImageResize;
 using test::kLinear;
+using test::kShifted;
+using test::kSmoothCubic;
+using test::kSmoothLanczos;
+using test::kSmoothLinear;
 using test::kSuper;
 using test::Resizing;
 using test::Samples;
-
-const Resizing kShifted{"Super", qvpInterpolationSuper, false, 0, 0, 0, {0.25, -1.5}},
-    kSmoothLinear{"Linear", qvpInterpolationLinear, true}, kSmoothCubic{"Cubic", qvpInterpolationCubic, true, 0, 0.5},
-    kSmoothLanczos{"Lanczos", qvpInterpolationLanczos, true, 0, 0, 3};
-
-const Export& Find(const Resizing& m, std::string_view type, int channels) {
-  return test::FunctionOf(m.Operation(), ElementOf(type), channels);
-}
 
 // Averages of integers are the nearest to the exact ones, ties to even; so are those of bytes, but for ties of areas
 // that are no powers of two.
@@ -39,7 +35,7 @@ TEST(Resize, AveragesAreExact) {
         const QvpiSize from{n * across.width, down.width}, to{n * across.height, down.height};
         const ImageResize resize(kSuper, type, from, to);
         const test::Bordered src(ElementOf(type), {}, {from, channels, qvpBorderReplicate}, test::Guard::kAfter, 4);
-        const Samples dst = Resized(Find(kSuper, type, channels), resize, src);
+        const Samples dst = Resized(FunctionOf(kSuper, type, channels), resize, src);
         const auto columns = AllTapsOf(kSuper, {from.width, to.width}, to.width);
         const auto rows = AllTapsOf(kSuper, {from.height, to.height}, to.height);
         for (int i = 0; i < dst.width() * to.height; ++i) {
@@ -85,10 +81,10 @@ void CheckConstant(const Resizing& m, std::string_view type, int channels, QvpiS
   const Samples dst(element, to.width * channels, to.height, 0);
   const QvpiPoint at = resize.SourceOf({0, 0});
   const int step = from.width * channels * element.bytes;
-  ASSERT_EQ(
-      resize(Find(m, type, channels), {src.data() + size_t{1} * at.y * step + at.x * channels * element.bytes, step},
-             dst, {0, 0, to.width, to.height}, qvpBorderReplicate),
-      0);
+  ASSERT_EQ(resize(FunctionOf(m, type, channels),
+                   {src.data() + size_t{1} * at.y * step + at.x * channels * element.bytes, step}, dst,
+                   {0, 0, to.width, to.height}, qvpBorderReplicate),
+            0);
   const auto stored = static_cast<double>(element.read(src.data()));
   for (int i = 0; i < dst.width() * to.height; ++i) {
     ASSERT_NEAR(static_cast<double>(dst(i % dst.width(), i / dst.width())), stored, tolerance)
@@ -150,7 +146,7 @@ TEST(Resize, AveragesOfExtremeFloats) {
       src[0][0] = big;
       src[1][1] = other;
       const ImageResize resize(kSuper, "32f", {12, 10}, to);
-      ASSERT_EQ(resize(Find(kSuper, "32f", 1), {src, 48}, {dst, 24}, {0, 0, to.width, to.height}, 0), 0);
+      ASSERT_EQ(resize(FunctionOf(kSuper, "32f", 1), {src, 48}, {dst, 24}, {0, 0, to.width, to.height}, 0), 0);
       const double w = 12.0 / to.width, h = 10.0 / to.height;
       const double exact = (double{big} + other + w * h - 2) / (w * h);
       for (int y = 0; y < to.height; ++y) {
@@ -172,7 +168,7 @@ TEST(Resize, DoublesAreInterpolatedToTheLastBits) {
   for (int i = 0; i < n; ++i) src[i] = src[n + i] = i % 2;
   for (const Resizing& method : {kLinear, kSmoothLinear}) {
     const ImageResize resize(method, "64f", {n, 2}, {m, 1});
-    ASSERT_EQ(resize(Find(method, "64f", 1), {src.data(), n * 8}, {dst.data(), m * 8}, {0, 0, m, 1}, 1), 0);
+    ASSERT_EQ(resize(FunctionOf(method, "64f", 1), {src.data(), n * 8}, {dst.data(), m * 8}, {0, 0, m, 1}, 1), 0);
     for (int d = 10; d < m - 10; d += 997) {
       const int64_t of2m = (2 * int64_t{d} + 1) * n - m,
                     first = of2m / (2 * int64_t{m});  // the position, in units of 1 / (2 m)
@@ -193,17 +189,14 @@ TEST(Resize, DoublesAreInterpolatedToTheLastBits) {
 TEST(Resize, SwitchesModes) {
   const QvpiSize from{57, 9}, to{41, 7};
   const test::Bordered src(ElementOf("8u"), {}, {from, 1, qvpBorderMirror});
-  const auto areSame = [](const Samples& a, const Samples& b) {
-    return std::memcmp(a.bytes(), b.bytes(), a.step() * a.height() - 3) == 0;
-  };
   for (const Resizing& m : {kLinear, test::kCubic, test::kLanczos2, test::kLanczos3}) {
-    const Export& function = Find(m, "8u", 1);
+    const Export& function = FunctionOf(m, "8u", 1);
     const ImageResize resize(m, "8u", from, to), accurate(m, "16u", from, to);
     const Samples fast = Resized(function, resize, src);
     ASSERT_EQ(qvpiResizeSetMode(qvpAlgHintAccurate, resize.spec()), 0);
-    EXPECT_TRUE(areSame(Resized(function, resize, src), Resized(function, accurate, src))) << m.name;
+    ExpectSame(Resized(function, resize, src), Resized(function, accurate, src), m.name);
     ASSERT_EQ(qvpiResizeSetMode(qvpAlgHintFast, resize.spec()), 0);
-    EXPECT_TRUE(areSame(Resized(function, resize, src), fast)) << m.name;
+    ExpectSame(Resized(function, resize, src), fast, m.name);
     EXPECT_EQ(qvpiResizeSetMode(qvpAlgHintFast, accurate.spec()), qvpStatusNotSupportedMode);
     EXPECT_EQ(qvpiResizeSetMode(3, resize.spec()), qvpStatusNotSupportedMode);
   }

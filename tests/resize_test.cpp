@@ -8,22 +8,26 @@ using test::Bordered;
 using test::Element;
 using test::ElementOf;
 using test::Export;
+using test::FunctionOf;
 using test::ImageResize;
+using test::kCubic;
+using test::kLanczos2;
+using test::kLanczos3;
+using test::kLinear;
+using test::kNearest;
+using test::kShifted;
+using test::kSmoothCubic;
+using test::kSmoothLanczos;
+using test::kSmoothLinear;
+using test::kSuper;
 using test::Name;
 using test::Resizing;
 using test::Samples;
 
 const Resizing kSharp{"Cubic", qvpInterpolationCubic, false, 0, 0.75},
-    kWild{"Cubic", qvpInterpolationCubic, false, 0, 9},
-    kShifted{"Super", qvpInterpolationSuper, false, 0, 0, 0, {0.25, -1.5}},
-    kSmoothLinear{"Linear", qvpInterpolationLinear, true}, kSmoothCubic{"Cubic", qvpInterpolationCubic, true, 0, 0.5},
-    kSmoothLanczos{"Lanczos", qvpInterpolationLanczos, true, 0, 0, 3};
-const Resizing kAll[] = {test::kNearest,  test::kLinear, test::kCubic, kSharp,        kWild,        test::kLanczos2,
-                         test::kLanczos3, test::kSuper,  kShifted,     kSmoothLinear, kSmoothCubic, kSmoothLanczos};
-
-const Export& Find(const Resizing& m, std::string_view type, int channels) {
-  return test::FunctionOf(m.Operation(), ElementOf(type), channels);
-}
+    kWild{"Cubic", qvpInterpolationCubic, false, 0, 9};
+const Resizing kAll[] = {kNearest,  kLinear, kCubic,   kSharp,        kWild,        kLanczos2,
+                         kLanczos3, kSuper,  kShifted, kSmoothLinear, kSmoothCubic, kSmoothLanczos};
 
 bool IsInWholeNumbers(const Resizing& m, const Element& element) {
   return element.name == "8u" && m.Is(qvpInterpolationLinear) && !m.isAntialiasing;
@@ -95,8 +99,8 @@ TEST(Resize, EveryPairOfLengths) {
     for (int source = 1; source <= 24; ++source) {
       for (int destination = 1; destination <= 24; ++destination) {
         if (!m.Fits(source, destination)) continue;
-        Check(m, Find(m, "32f", 1), {source, source}, {destination, destination});
-        Check(m, Find(m, "8u", 1), {source, 6}, {destination, 6});
+        Check(m, FunctionOf(m, "32f", 1), {source, source}, {destination, destination});
+        Check(m, FunctionOf(m, "8u", 1), {source, 6}, {destination, 6});
       }
     }
   }
@@ -107,10 +111,9 @@ TEST(Resize, EveryBorder) {
     const char* type;
     int channels;
   } kImages[] = {{"8u", 1}, {"8u", 3}, {"32f", 4}, {"16u", 1}, {"16s", 3}};
-  for (const Resizing& m :
-       {test::kLinear, kSharp, test::kLanczos2, test::kLanczos3, kSmoothLinear, kSmoothCubic, kSmoothLanczos}) {
+  for (const Resizing& m : {kLinear, kSharp, kLanczos2, kLanczos3, kSmoothLinear, kSmoothCubic, kSmoothLanczos}) {
     for (const auto& [type, channels] : kImages) {
-      const Export& function = Find(m, type, channels);
+      const Export& function = FunctionOf(m, type, channels);
       for (int flags = 0; flags < 256; flags += 16) {
         for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderReplicateAlt}) {
           Check(m, function, {9, 7}, {23, 15}, kind | flags);
@@ -126,14 +129,14 @@ TEST(Resize, EveryBorder) {
 // sample, rows that begin on either one of a pair, and more samples than a strip has.
 TEST(Resize, RatiosOfBytes) {
   for (const int channels : {1, 3, 4}) {
-    for (const Resizing& m : {test::kLinear, kSharp, test::kLanczos2, test::kLanczos3}) {
+    for (const Resizing& m : {kLinear, kSharp, kLanczos2, kLanczos3}) {
       for (const int width : {20, 60, 80, 100, 120, 150, 200, 260, 330, 420, 700, 1400}) {
-        Check(m, Find(m, "8u", channels), {width, 7}, {100, 5}, qvpBorderMirror);
-        Check(m, Find(m, "8u", channels), {width, 6}, {101, 9});
+        Check(m, FunctionOf(m, "8u", channels), {width, 7}, {100, 5}, qvpBorderMirror);
+        Check(m, FunctionOf(m, "8u", channels), {width, 6}, {101, 9});
       }
     }
-    Check(test::kLinear, Find(test::kLinear, "8u", channels), {1600, 6}, {1301, 4});
-    Check(test::kLinear, Find(test::kLinear, "8u", channels), {1600, 6}, {1999, 7});
+    Check(kLinear, FunctionOf(kLinear, "8u", channels), {1600, 6}, {1301, 4});
+    Check(kLinear, FunctionOf(kLinear, "8u", channels), {1600, 6}, {1999, 7});
   }
 }
 
@@ -141,10 +144,10 @@ TEST(Resize, RatiosOfBytes) {
 TEST(Resize, WideRows) {
   for (const char* type : {"8u", "16u", "16s", "32f"}) {
     for (const int channels : {1, 3, 4}) {
-      for (const Resizing& m : {kSmoothLinear, kSmoothCubic, kSharp, test::kLanczos3}) {
-        Check(m, Find(m, type, channels), {900, 7}, {230, 3}, qvpBorderMirror);
+      for (const Resizing& m : {kSmoothLinear, kSmoothCubic, kSharp, kLanczos3}) {
+        Check(m, FunctionOf(m, type, channels), {900, 7}, {230, 3}, qvpBorderMirror);
       }
-      Check(test::kSuper, Find(test::kSuper, type, channels), {2800, 4}, {1999, 3});
+      Check(kSuper, FunctionOf(kSuper, type, channels), {2800, 4}, {1999, 3});
     }
   }
 }
@@ -214,7 +217,7 @@ TEST(Resize, BuffersAreLargeEnough) {
 // Every kind of weights in every function: within the memory, and near the function's own.
 TEST(Resize, RecordsOfOtherTypesWork) {
   const QvpiSize from{57, 9}, to{41, 7};
-  for (const Resizing& m : {test::kLinear, test::kCubic, test::kLanczos3}) {
+  for (const Resizing& m : {kLinear, kCubic, kLanczos3}) {
     for (const Export* function : test::FunctionsOf({m.Operation()})) {
       const Name name(function->name);
       if (name.isWide) continue;

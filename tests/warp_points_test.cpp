@@ -7,6 +7,7 @@
 namespace {
 using test::Element;
 using test::ElementOf;
+using test::ExpectSame;
 using test::ImageWarp;
 using test::Kind;
 using test::Map;
@@ -17,12 +18,6 @@ using test::Samples;
 
 constexpr QvpiSize kSource{23, 17}, kTarget{83, 21};
 const Element &k8u = ElementOf("8u"), &k64f = ElementOf("64f");
-
-void ExpectSame(const Samples& a, const Samples& b) {
-  for (int i = 0; i < a.width() * a.height(); ++i) {
-    ASSERT_EQ(a(i % a.width(), i / a.width()), b(i % a.width(), i / a.width())) << i;
-  }
-}
 
 // A map by where the source's corners go.
 Map Forward(const double (&to)[4][2], QvpiSize src) {

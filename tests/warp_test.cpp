@@ -125,10 +125,7 @@ void Check(const Request& r, int tileHeight) {
       ASSERT_GE(warp(src, {tiles.At(x * r.channels, y), tiles.step()}, {x, y, width, tileHeight}), 0);
     }
   }
-  for (int i = 0; i < dst.width() * r.to.height; ++i) {
-    const int x = i % dst.width(), y = i / dst.width();
-    ASSERT_EQ(dst(x, y), tiles(x, y)) << x << ',' << y;
-  }
+  ExpectSame(dst, tiles, "in tiles");
   CheckPixels(r, src, dst, before);
 }
 

@@ -7,6 +7,8 @@
 
 #include "tests/support/bordered.h"
 #include "tests/support/exports.h"
+#include "tests/support/name.h"
+#include "tests/support/same.h"
 
 namespace test {
 
@@ -29,7 +31,15 @@ inline const Resizing kNearest{"Nearest", qvpInterpolationNearest}, kLinear{"Lin
     kSpline{"Cubic", qvpInterpolationCubic, false, 0, 0.5},
     kCubic{"Cubic", qvpInterpolationCubic, false, 1 / 3.0f, 1 / 3.0f},
     kLanczos2{"Lanczos", qvpInterpolationLanczos, false, 0, 0, 2},
-    kLanczos3{"Lanczos", qvpInterpolationLanczos, false, 0, 0, 3}, kSuper{"Super", qvpInterpolationSuper};
+    kLanczos3{"Lanczos", qvpInterpolationLanczos, false, 0, 0, 3}, kSuper{"Super", qvpInterpolationSuper},
+    kShifted{"Super", qvpInterpolationSuper, false, 0, 0, 0, {0.25, -1.5}},
+    kSmoothLinear{"Linear", qvpInterpolationLinear, true}, kSmoothCubic{"Cubic", qvpInterpolationCubic, true, 0, 0.5},
+    kSmoothLanczos{"Lanczos", qvpInterpolationLanczos, true, 0, 0, 3};
+
+// Of images, with sizes of 32 bits.
+inline const Export& FunctionOf(const Resizing& method, std::string_view type, int channels) {
+  return FunctionOf(method.Operation(), ElementOf(type), channels);
+}
 
 struct Axis {
   int from, to;

@@ -7,6 +7,7 @@
 
 #include "tests/support/exports.h"
 #include "tests/support/reference.h"
+#include "tests/support/same.h"
 
 namespace test {
 
