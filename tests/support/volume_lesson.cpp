@@ -158,19 +158,20 @@ struct ResizeManner {
   unsigned lobes;
   QvpiBorderType border;
 };
-constexpr std::pair<const char*, int> kMethods[] = {{"Nearest", qvpInterpolationNearest},
-                                                    {"Linear", qvpInterpolationLinear},
-                                                    {"Cubic", qvpInterpolationCubic},
-                                                    {"Lanczos", qvpInterpolationLanczos},
-                                                    {"Super", qvpInterpolationSuper}};
+constexpr std::pair<const char*, int> kNamedMethods[] = {{"Nearest", qvpInterpolationNearest},
+                                                         {"Linear", qvpInterpolationLinear},
+                                                         {"Cubic", qvpInterpolationCubic},
+                                                         {"Lanczos", qvpInterpolationLanczos},
+                                                         {"Super", qvpInterpolationSuper}};
 const char* NameOf(int method) {
-  return std::find_if(std::begin(kMethods), std::end(kMethods), [&](const auto& m) { return m.second == method; })
+  return std::find_if(std::begin(kNamedMethods), std::end(kNamedMethods),
+                      [&](const auto& m) { return m.second == method; })
       ->first;
 }
 ResizeManner ResizeMannerOf(const Scene& scene) {
   Random random = scene.choices();
-  int method = kMethods[random.Next() % std::size(kMethods)].second;
-  for (const auto& [name, named] : kMethods) method = scene.Has(name) ? named : method;
+  int method = kNamedMethods[random.Next() % std::size(kNamedMethods)].second;
+  for (const auto& [name, named] : kNamedMethods) method = scene.Has(name) ? named : method;
   const QvprVolume dst{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
   const auto along = [&](int n) {
     const int lengths[] = {n, n + 1 + n / 2, 2 * n, std::max(1, n / 2)};
