@@ -1,139 +1,84 @@
 // Warps: what is refused, in the documented order.
+#include <utility>
 #include <vector>
 
+#include "tests/support/faults.h"
 #include "tests/support/name.h"
 #include "tests/support/warped.h"
 
 namespace {
+using test::Argument;
 using test::Export;
-using test::ImageWarp;
+using test::Fault;
 using test::Kind;
-using test::Named;
+using test::Scene;
 
 constexpr double kUnit[9] = {1, 0, 0.5, 0, 1, 0, 0, 0, 1}, kFlat[9] = {}, kNan[9] = {1, 0, NAN, NAN, 1},
                  kPlain[8] = {0, 1, 0, 3, 0, 0, 1, -2}, kCrossed[8] = {-1, 1, 0, 0, 0, 0, 1, 0};
-constexpr double kSquare[4][2] = {{0, 0}, {4, 0}, {4, 4}, {0, 4}}, kTriangle[4][2] = {{0, 0}, {4, 0}, {8, 0}, {0, 4}},
-                 kBent[4][2] = {{0, 0}, {4, 0}, {1, 1}, {0, 4}};
-constexpr double kValue[4] = {};
+constexpr double kTriangle[4][2] = {{0, 0}, {4, 0}, {8, 0}, {0, 4}}, kBent[4][2] = {{0, 0}, {4, 0}, {1, 1}, {0, 4}};
 
-struct Fault {
-  QvpStatus status;
-  std::vector<Named> arguments;
-  const char* only = "";  // of functions with this in their names
-};
-
-// Each function refuses the first of those faults that concern it, whatever comes after. The first of two arguments of
-// a name counts.
-template <class Expect>
-void ForEachFault(const Export& function, const std::vector<Fault>& faults, const std::vector<Named>& good,
-                  const Expect& expect) {
-  std::vector<Named> arguments = good;
-  expect(function(arguments), 0);
-  for (auto fault = faults.rbegin(); fault != faults.rend(); ++fault) {
-    if (!function.Has(fault->arguments[0].name) || function.name.find(fault->only) == std::string::npos) continue;
-    arguments.insert(arguments.begin(), fault->arguments.begin(), fault->arguments.end());
-    expect(function(arguments), fault->status);
+// A scene whose arguments all faults are about.
+void Prepare(Scene& scene) {
+  for (const auto& [name, value] : {std::pair<const char*, Argument>{"borderType", qvpBorderConst},
+                                    {"smoothEdge", 0},
+                                    {"dataType", qvp8u},
+                                    {"coeffs", {scene.Has("Bilinear") ? kPlain : kUnit}}}) {
+    const int place = scene.function().Find(name);
+    if (place >= 0) scene.arguments[place] = value;
   }
-}
-
-std::vector<const Export*> FunctionsWith(std::string_view start, std::string_view part) {
-  std::vector<const Export*> functions;
-  for (const Export& function : test::Exports()) {
-    if (function.name.starts_with(start) && function.name.find(part) != std::string::npos)
-      functions.push_back(&function);
-  }
-  return functions;
-}
-
-const double* GoodFor(const Export& function) {
-  return function.name.find("Bilinear") == std::string::npos ? kUnit : kPlain;
+  EXPECT_EQ(scene.Call(), 0) << scene.function().name;
 }
 
 // What an Init refuses is no record afterwards.
 TEST(Warp, InitsRefuseInOrder) {
-  test::Block record(576), room(64);
-  auto* const spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
   const std::vector<Fault> faults = {
-      {qvpStatusBorder, {{"borderType", 256}}},
-      {qvpStatusBorder, {{"borderType", qvpBorderMirror}}},
-      {qvpStatusNullPointer, {{"coeffs", {nullptr}}}},
-      {qvpStatusNullPointer, {{"srcQuad", {nullptr}}}},
-      {qvpStatusNullPointer, {{"dstQuad", {nullptr}}}},
-      {qvpStatusNullPointer, {{"pInitBuf", {nullptr}}}},
-      {qvpStatusSize, {{"srcSize", QvpiSize{0, 5}}}},
-      {qvpStatusDataType, {{"dataType", 3}}},
-      {qvpStatusWarpDirection, {{"direction", 2}}},
-      {qvpStatusCoefficient, {{"coeffs", {kNan}}}},
-      {qvpStatusCoefficient, {{"coeffs", {kFlat}}}},
-      {qvpStatusQuad, {{"srcQuad", {kTriangle}}}},
-      {qvpStatusQuad, {{"dstQuad", {kBent}}}},
-      {qvpStatusNullPointer, {{"pBorderValue", {nullptr}}}},
-      {qvpStatusNumChannels, {{"numChannels", 2}}},
-      {qvpStatusBadArgument, {{"valueB", NAN}}},
-      {qvpStatusBadArgument, {{"valueC", -INFINITY}}},
-      {qvpStatusNotSupportedMode, {{"smoothEdge", 1}}},
-      {qvpStatusSize, {{"srcSize", QvpiSize{1, 5}}}, "Linear"},
-      {qvpStatusSizeOverflow, {{"srcSize", QvpiSize{33554432, 5}}}},
+      {qvpStatusBorder, "borderType", 256},
+      {qvpStatusBorder, "borderType", qvpBorderMirror},
+      {qvpStatusNullPointer, "coeffs", {nullptr}},
+      {qvpStatusNullPointer, "srcQuad", {nullptr}},
+      {qvpStatusNullPointer, "dstQuad", {nullptr}},
+      {qvpStatusNullPointer, "pInitBuf", {nullptr}},
+      {qvpStatusSize, "srcSize", QvpiSize{0, 5}},
+      {qvpStatusDataType, "dataType", 3},
+      {qvpStatusWarpDirection, "direction", 2},
+      {qvpStatusCoefficient, "coeffs", {kNan}},
+      {qvpStatusCoefficient, "coeffs", {kFlat}},
+      {qvpStatusQuad, "srcQuad", {kTriangle}},
+      {qvpStatusQuad, "dstQuad", {kBent}},
+      {qvpStatusNullPointer, "pBorderValue", {nullptr}},
+      {qvpStatusNumChannels, "numChannels", 2},
+      {qvpStatusBadArgument, "valueB", NAN},
+      {qvpStatusBadArgument, "valueC", -INFINITY},
+      {qvpStatusNotSupportedMode, "smoothEdge", 1},
+      {qvpStatusSize, "srcSize", QvpiSize{1, 5}, "Linear"},
+      {qvpStatusSizeOverflow, "srcSize", QvpiSize{33554432, 5}},
   };
-  for (const Export* init : FunctionsWith("qvpiWarp", "Init")) {
-    const bool isWide = init->name.ends_with("_L");
-    ForEachFault(
-        *init, faults,
-        {{"srcSize", QvpiSize{5, 5}},
-         {"dstSize", QvpiSize{5, 5}},
-         {"srcQuad", {kSquare}},
-         {"dstQuad", {kSquare}},
-         {"dataType", qvp8u},
-         {"coeffs", {GoodFor(*init)}},
-         {"direction", qvpWarpForward},
-         {"numChannels", 3},
-         {"valueB", 0},
-         {"valueC", 0.5},
-         {"borderType", qvpBorderConst},
-         {"pBorderValue", {kValue}},
-         {"smoothEdge", 0},
-         {"pSpec", {spec}},
-         {"pInitBuf", {room.data()}}},
-        [&](QvpStatus status, QvpStatus expected) {
-          int bytes = 0;
-          QvpSizeL wide = 0;
-          EXPECT_EQ(status, expected) << init->name;
-          EXPECT_EQ(isWide ? qvpiWarpGetBufferSize_L(spec, {5, 5}, &wide) : qvpiWarpGetBufferSize(spec, {5, 5}, &bytes),
-                    expected == 0 ? 0 : qvpStatusContextMatch)
-              << init->name << " after " << expected;
-        });
+  for (const Export* init : test::FunctionsWith("qvpiWarp", "Init")) {
+    Scene scene(*init, {37, 5}, 1);
+    Prepare(scene);
+    const auto* const spec = static_cast<const QvpiWarpSpec*>(scene.arguments[init->Find("pSpec")].pointer);
+    ExpectInOrder(scene, faults, [&](QvpStatus status) {
+      int bytes = 0;
+      EXPECT_EQ(qvpiWarpGetBufferSize(spec, {5, 5}, &bytes), qvpStatusContextMatch) << init->name << ' ' << status;
+    });
   }
 }
 
 TEST(Warp, SizeQueriesRefuseInOrder) {
-  int size = 0, room = 0;
-  QvpSizeL wide = 0, wideRoom = 0;
   const std::vector<Fault> faults = {
-      {qvpStatusNullPointer, {{"coeffs", {nullptr}}}},  {qvpStatusNullPointer, {{"srcQuad", {nullptr}}}},
-      {qvpStatusSize, {{"srcSize", QvpiSize{0, 5}}}},   {qvpStatusDataType, {{"dataType", 3}}},
-      {qvpStatusInterpolation, {{"interpolation", 3}}}, {qvpStatusWarpDirection, {{"direction", 2}}},
-      {qvpStatusCoefficient, {{"coeffs", {kNan}}}},     {qvpStatusBorder, {{"borderType", 0}}},
-      {qvpStatusSize, {{"srcSize", QvpiSize{1, 5}}}},   {qvpStatusSizeOverflow, {{"srcSize", QvpiSize{33554432, 5}}}},
+      {qvpStatusNullPointer, "coeffs", {nullptr}},  {qvpStatusNullPointer, "srcQuad", {nullptr}},
+      {qvpStatusSize, "srcSize", QvpiSize{0, 5}},   {qvpStatusDataType, "dataType", 3},
+      {qvpStatusInterpolation, "interpolation", 3}, {qvpStatusWarpDirection, "direction", 2},
+      {qvpStatusCoefficient, "coeffs", {kNan}},     {qvpStatusBorder, "borderType", 0},
+      {qvpStatusSize, "srcSize", QvpiSize{1, 5}},   {qvpStatusSizeOverflow, "srcSize", QvpiSize{33554432, 5}},
   };
-  for (const Export* query : FunctionsWith("qvpiWarp", "GetSize")) {
-    const bool isWide = query->name.ends_with("_L");
-    ForEachFault(*query, faults,
-                 {{"srcSize", QvpiSize{5, 5}},
-                  {"dstSize", QvpiSize{5, 5}},
-                  {"srcQuad", {kSquare}},
-                  {"dstQuad", {kSquare}},
-                  {"dataType", qvp8u},
-                  {"coeffs", {GoodFor(*query)}},
-                  {"interpolation", qvpInterpolationCubic},
-                  {"direction", qvpWarpForward},
-                  {"borderType", qvpBorderReplicate},
-                  {"pSpecSize", {isWide ? static_cast<void*>(&wide) : &size}},
-                  {"pInitBufSize", {isWide ? static_cast<void*>(&wideRoom) : &room}}},
-                 [&](QvpStatus status, QvpStatus expected) {
-                   EXPECT_EQ(status, expected) << query->name;
-                   if (expected != 0) return;
-                   EXPECT_EQ(isWide ? wide + wideRoom : size + room, 576 + 64) << query->name;
-                 });
+  for (const Export* query : test::FunctionsWith("qvpiWarp", "GetSize")) {
+    Scene scene(*query, {37, 5}, 1);
+    Prepare(scene);
+    int bytes = 0;
+    std::memcpy(&bytes, scene.arguments[query->Find("pSpecSize")].pointer, sizeof(bytes));
+    EXPECT_EQ(bytes, 576) << query->name;
+    ExpectInOrder(scene, faults, [](QvpStatus) {});
   }
 }
 
@@ -159,30 +104,26 @@ TEST(Warp, OtherInits) {
 }
 
 TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
-  const test::Element& words = test::ElementOf("16u");
-  uint16_t pixels[64] = {};
-  for (const Kind kind : {Kind::kAffine, Kind::kPerspective, Kind::kBilinear, Kind::kBilinearBack}) {
-    test::Map map{kind};
-    std::copy(map.IsBilinear() ? kPlain : kUnit, (map.IsBilinear() ? kPlain : kUnit) + 8, map.c);
-    map.c[8] = 1;
-    const ImageWarp warp(map, words, 1, {.taps = 2}, 1, {2, 2}, {2, 2});
-    const test::Block buffer(1024);
-    const std::vector<Fault> faults = {{qvpStatusNoOperation, {{"dstRoiSize", QvpiSize{0, -1}}}},
-                                       {qvpStatusSize, {{"dstRoiSize", QvpiSize{1, -1}}}},
-                                       {qvpStatusStep, {{"srcStep", 1}}},
-                                       {qvpStatusOutOfRange, {{"dstRoiOffset", QvpiPoint{2, 0}}}},
-                                       {qvpStatusSizeWarning, {{"dstRoiSize", QvpiSize{3, 1}}}}};
-    const std::vector<Named> good = {{"pSrc", {pixels, 8}},          {"srcStep", 8},
-                                     {"pDst", {pixels, 8}},          {"dstRoiOffset", QvpiPoint{0, 0}},
-                                     {"dstRoiSize", QvpiSize{1, 1}}, {"pSpec", {warp.spec()}},
-                                     {"pBuffer", {buffer.data()}}};
-    ForEachFault(warp.function(), faults, good,
-                 [&](QvpStatus status, QvpStatus expected) { EXPECT_EQ(status, expected) << warp.function().name; });
-    for (const Export* other : test::FunctionsOf({"WarpAffineCubic", "WarpPerspectiveLinear", "WarpBilinear",
-                                                  "WarpBilinearBack", "WarpBilinearQuad", "WarpAffineLinear"})) {
-      const bool isOwn = other->name == warp.function().name;
-      EXPECT_EQ((*other)(good), isOwn ? 0 : qvpStatusContextMatch) << other->name;
-    }
+  const std::vector<Fault> faults = {{qvpStatusNoOperation, "dstRoiSize", QvpiSize{0, -1}},
+                                     {qvpStatusSize, "dstRoiSize", QvpiSize{1, -1}},
+                                     {qvpStatusStep, "srcStep", 1, "_16u"},
+                                     {qvpStatusOutOfRange, "dstRoiOffset", QvpiPoint{37, 0}},
+                                     {qvpStatusSizeWarning, "dstRoiSize", QvpiSize{38, 5}}};
+  const std::vector<const Export*> calls =
+      test::FunctionsOf({"WarpAffineNearest", "WarpAffineLinear", "WarpAffineCubic", "WarpPerspectiveLinear",
+                         "WarpBilinear", "WarpBilinearBack", "WarpBilinearQuad"});
+  const void* foreign = nullptr;
+  std::unique_ptr<Scene> last;
+  for (const Export* call : calls) {
+    if (test::Name(call->name).isWide) continue;
+    auto scene = std::make_unique<Scene>(*call, QvpiSize{37, 5}, 1);
+    EXPECT_EQ(scene->Call(), 0) << call->name;
+    Argument& spec = scene->arguments[call->Find("pSpec")];
+    const void* const own = std::exchange(spec.pointer, foreign);
+    if (foreign != nullptr) EXPECT_EQ(scene->Call(), qvpStatusContextMatch) << call->name;
+    foreign = spec.pointer = own;
+    ExpectInOrder(*scene, faults, [](QvpStatus) {});
+    last = std::move(scene);  // whose record the next one is given
   }
 }
 
