@@ -16,41 +16,49 @@ using test::kSuper;
 using test::Resizing;
 using test::Samples;
 
+// By whole numbers: the parts of a pixel that are covered across and down.
+double SumAt(const test::Bordered& src, const std::vector<test::Tap>& columns, const std::vector<test::Tap>& rows,
+             QvpiSize parts, int channel) {
+  double sum = 0;
+  for (const auto& v : rows) {
+    for (const auto& h : columns) {
+      sum += std::round(v.weight * parts.height) * std::round(h.weight * parts.width) *
+             static_cast<double>(src.Pixel(h.at, v.at, channel));
+    }
+  }
+  return sum;
+}
+
+void CheckAverages(std::string_view type, int channels, QvpiSize across, QvpiSize down) {
+  const int n = across.width < 20 ? 19 : 3;
+  const QvpiSize from{n * across.width, down.width}, to{n * across.height, down.height};
+  const ImageResize resize(kSuper, type, from, to);
+  const test::Bordered src(ElementOf(type), {}, {from, channels, qvpBorderReplicate}, test::Guard::kAfter, 4);
+  const Samples dst = Resized(FunctionOf(kSuper, type, channels), resize, src);
+  const auto columns = AllTapsOf(kSuper, {from.width, to.width}, to.width);
+  const auto rows = AllTapsOf(kSuper, {from.height, to.height}, to.height);
+  for (int i = 0; i < dst.width() * to.height; ++i) {
+    const int x = i % dst.width(), y = i / dst.width();
+    const double sum = SumAt(src, columns[x / channels], rows[y], {across.width, down.width}, x % channels);
+    ASSERT_EQ(dst(x, y), std::nearbyint(sum / (across.width * down.width)))
+        << type << ' ' << channels << ' ' << across.width << ':' << across.height << ' ' << down.width << ':'
+        << down.height << " at " << x << ',' << y;
+  }
+}
+
 // Averages of integers are the nearest to the exact ones, ties to even; so are those of bytes, but for ties of areas
 // that are no powers of two.
 TEST(Resize, AveragesAreExact) {
-  constexpr struct {
-    const char* type;
-    int channels;
-  } kImages[] = {{"8u", 1}, {"8u", 3}, {"8u", 4}, {"16u", 1}, {"16s", 3}};
-  const QvpiSize ratios[] = {{5, 3}, {3, 2}, {3, 1}, {7, 5},  {13, 3}, {15, 13}, {2, 1},  {4, 1},
-                             {1, 1}, {4, 3}, {6, 5}, {16, 1}, {40, 3}, {9, 2},   {270, 1}};
+  constexpr std::pair<const char*, int> kImages[] = {{"8u", 1}, {"8u", 3}, {"8u", 4}, {"16u", 1}, {"16s", 3}};
+  const QvpiSize ratios[] = {{5, 3}, {3, 2}, {3, 1}, {7, 5}, {13, 3}, {15, 13}, {2, 1}, {4, 1},
+                             {1, 1}, {4, 3}, {6, 5}, {5, 1}, {16, 1}, {40, 3},  {9, 2}, {270, 1}};
   for (const auto& [type, channels] : kImages) {
     for (const QvpiSize across : ratios) {
       for (const QvpiSize down : ratios) {
         const int parts = across.width * down.width;
         const bool isOfTwo = (parts & (parts - 1)) == 0 && across.height == 1 && down.height == 1;
         if (type[0] == '8' && parts % 2 == 0 && !isOfTwo) continue;
-        const int n = across.width < 20 ? 19 : 3;
-        const QvpiSize from{n * across.width, down.width}, to{n * across.height, down.height};
-        const ImageResize resize(kSuper, type, from, to);
-        const test::Bordered src(ElementOf(type), {}, {from, channels, qvpBorderReplicate}, test::Guard::kAfter, 4);
-        const Samples dst = Resized(FunctionOf(kSuper, type, channels), resize, src);
-        const auto columns = AllTapsOf(kSuper, {from.width, to.width}, to.width);
-        const auto rows = AllTapsOf(kSuper, {from.height, to.height}, to.height);
-        for (int i = 0; i < dst.width() * to.height; ++i) {
-          const int x = i % dst.width(), y = i / dst.width();
-          double sum = 0;
-          for (const auto& v : rows[y]) {
-            for (const auto& h : columns[x / channels]) {
-              sum += std::round(v.weight * down.width) * std::round(h.weight * across.width) *
-                     static_cast<double>(src.Pixel(h.at, v.at, x % channels));
-            }
-          }
-          ASSERT_EQ(dst(x, y), std::nearbyint(sum / parts))
-              << type << ' ' << channels << ' ' << across.width << ':' << across.height << ' ' << down.width << ':'
-              << down.height << " at " << x << ',' << y;
-        }
+        CheckAverages(type, channels, across, down);
       }
     }
   }

@@ -186,6 +186,21 @@ TEST(VolumeWarps, ShiftsCopy) {
   }
 }
 
+// A volume of one plane.
+void WarpPlane(const Matrix& matrix, const Manner& m, const Samples& src, const Samples& dst) {
+  const Record record(m, src.element().code, matrix);
+  const Block buffer(record.BufferSize(m.dst));
+  ASSERT_EQ(CallNamed("qvprWarpAffine_" + std::string(src.element().name) + "_C1V", {{"pSrc", src},
+                                                                                     {"srcPlaneStep", 1},
+                                                                                     {"pDst", dst},
+                                                                                     {"dstPlaneStep", 1},
+                                                                                     {"dstOffset", QvprPoint{0, 0, 0}},
+                                                                                     {"dstVolume", m.dst},
+                                                                                     {"pSpec", {record.spec()}},
+                                                                                     {"pBuffer", {buffer.data()}}}),
+            0);
+}
+
 // Where depth is left alone, each plane is the image warped, to the bit.
 TEST(VolumeWarps, LeaveDepthAlone) {
   constexpr const char* kTypes[] = {"8u", "16u", "16s", "32f"};
@@ -209,17 +224,7 @@ TEST(VolumeWarps, LeaveDepthAlone) {
     Rule rule{.taps = TapsOf(m.interpolation)};
     rule.constant[0] = kValue;
     test::ImageWarp({test::Kind::kAffine, {c, s, x, -s, c, y}}, element, 1, rule, m.border, from, to).Whole(src, flat);
-    const Record record(m, element.code, {{c, s, 0, x}, {-s, c, 0, y}, {0, 0, 1, 0}});
-    const Block buffer(record.BufferSize(m.dst));
-    ASSERT_EQ(CallNamed("qvprWarpAffine_" + std::string(element.name) + "_C1V", {{"pSrc", src},
-                                                                                 {"srcPlaneStep", 1},
-                                                                                 {"pDst", deep},
-                                                                                 {"dstPlaneStep", 1},
-                                                                                 {"dstOffset", QvprPoint{0, 0, 0}},
-                                                                                 {"dstVolume", m.dst},
-                                                                                 {"pSpec", {record.spec()}},
-                                                                                 {"pBuffer", {buffer.data()}}}),
-              0);
+    WarpPlane({{c, s, 0, x}, {-s, c, 0, y}, {0, 0, 1, 0}}, m, src, deep);
     ExpectSame(flat, deep, std::string(element.name) + " method " + std::to_string(m.interpolation));
   }
 }
