@@ -46,20 +46,14 @@ void CheckAverages(std::string_view type, int channels, QvpiSize across, QvpiSiz
   }
 }
 
-// Averages of integers are the nearest to the exact ones, ties to even; so are those of bytes, but for ties of areas
-// that are no powers of two.
+// Averages of integers are the exact ones, rounded to the nearest, with ties to even.
 TEST(Resize, AveragesAreExact) {
   constexpr std::pair<const char*, int> kImages[] = {{"8u", 1}, {"8u", 3}, {"8u", 4}, {"16u", 1}, {"16s", 3}};
   const QvpiSize ratios[] = {{5, 3}, {3, 2}, {3, 1}, {7, 5}, {13, 3}, {15, 13}, {2, 1}, {4, 1},
                              {1, 1}, {4, 3}, {6, 5}, {5, 1}, {16, 1}, {40, 3},  {9, 2}, {270, 1}};
   for (const auto& [type, channels] : kImages) {
     for (const QvpiSize across : ratios) {
-      for (const QvpiSize down : ratios) {
-        const int parts = across.width * down.width;
-        const bool isOfTwo = (parts & (parts - 1)) == 0 && across.height == 1 && down.height == 1;
-        if (type[0] == '8' && parts % 2 == 0 && !isOfTwo) continue;
-        CheckAverages(type, channels, across, down);
-      }
+      for (const QvpiSize down : ratios) CheckAverages(type, channels, across, down);
     }
   }
 }
