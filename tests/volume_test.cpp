@@ -74,25 +74,6 @@ TEST(VolumeBorders, AroundASourceInItsPlace) {
   apart.ForEach([&](int x, int y, int z) { ASSERT_EQ(std::memcmp(apart.At(x, y, z), around.At(x, y, z), 2), 0); });
 }
 
-TEST(VolumeBorders, ChecksInOrder) {
-  Qvp8u voxels[8] = {};
-  const QvprVolume one{1, 1, 1};
-  const auto copy = [&](const Qvp8u* src, int step, QvprVolume srcVolume, QvprVolume dst, int top, int left,
-                        int front) {
-    return qvprCopyReplicateBorder_8u_C1V(src, step, 1, srcVolume, voxels, 1, 1, dst, top, left, front);
-  };
-  EXPECT_EQ(copy(nullptr, 0, {0, 1, 1}, one, -1, 0, 0), qvpStatusNullPointer);
-  for (const QvprVolume bad : {QvprVolume{0, 1, 1}, {1, -1, 1}, {1, 1, 0}}) {
-    EXPECT_EQ(copy(voxels, 0, bad, one, -1, 0, 0), qvpStatusSize);
-    EXPECT_EQ(copy(voxels, 0, one, bad, -1, 0, 0), qvpStatusSize);
-  }
-  EXPECT_EQ(copy(voxels, 0, one, one, -1, 0, 0), qvpStatusStep);
-  EXPECT_EQ(copy(voxels, 1, one, one, -1, 0, 0), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, one, 0, 0, -1), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, {1, 1, 4}, 0, 0, 4), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, {4, 1, 1}, 0, INT32_MAX, 0), qvpStatusSize);
-}
-
 // ---- Transforms.
 
 using Matrix = double[3][4];
