@@ -120,7 +120,9 @@ TEST(Warp, CallsRefuseForeignRecordsAndBadTiles) {
     EXPECT_EQ(scene->Call(), 0) << call->name;
     Argument& spec = scene->arguments[call->Find("pSpec")];
     const void* const own = std::exchange(spec.pointer, foreign);
-    if (foreign != nullptr) EXPECT_EQ(scene->Call(), qvpStatusContextMatch) << call->name;
+    if (foreign != nullptr) {
+      EXPECT_EQ(scene->Call(), qvpStatusContextMatch) << call->name;
+    }
     foreign = spec.pointer = own;
     ExpectInOrder(*scene, faults, [](QvpStatus) {});
     last = std::move(scene);  // whose record the next one is given
