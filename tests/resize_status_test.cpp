@@ -9,7 +9,10 @@ using test::kLinear;
 // Any failure of an Init makes the record that was there unusable; an empty size leaves it.
 TEST(Resize, InitsRefuseInOrder) {
   const std::vector<test::Fault> faults = {{qvpStatusSize, "srcSize", QvpiSize{-1, 5}},
+                                           {qvpStatusSize, "srcSize", QvpiSize{3, 9}, "Cubic"},
+                                           {qvpStatusSize, "srcSize", QvpiSize{9, 3}, "Lanczos"},
                                            {qvpStatusNotSupportedMode, "numLobes", 4},
+                                           {qvpStatusSize, "srcSize", QvpiSize{5, 9}, "Lanczos"},
                                            {qvpStatusBadArgument, "valueB", NAN},
                                            {qvpStatusBadArgument, "valueC", INFINITY},
                                            {qvpStatusSize, "dstSize", QvpiSize{1000, 1}, "SuperShift"},
@@ -21,6 +24,7 @@ TEST(Resize, InitsRefuseInOrder) {
   for (const test::Export* init : test::FunctionsWith("qvpiResize", "Init")) {
     if (init->name.starts_with("qvpiResize42")) continue;
     test::Scene scene(*init, {37, 9}, 1);
+    if (const int lobes = init->Find("numLobes"); lobes >= 0) scene.arguments[lobes] = 3;
     EXPECT_EQ(scene.Call(), 0) << init->name;
     const auto* const spec = static_cast<const QvpiResizeSpec*>(scene.arguments[init->Find("pSpec")].pointer);
     const auto isRecord = [&] {
