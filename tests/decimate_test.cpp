@@ -1,10 +1,13 @@
 // Decimations of frames, by their definition.
 #include <vector>
 
+#include "tests/support/frames.h"
 #include "tests/support/name.h"
 
 namespace {
+using test::Component;
 using test::Export;
+using test::Frame;
 using test::Name;
 
 struct Fraction {
@@ -24,92 +27,42 @@ std::vector<std::pair<int, int>> WeightsOf(const Fraction& f, int j, int count) 
   return weights;
 }
 
-// Samples of one axis: of the destination, and of the source that are read.
-struct Lengths {
-  int to, from;
-};
-Lengths LengthsOf(const Fraction& f, int luma, bool isChroma) {
-  const int read = (luma * f.from + f.to - 1) / f.to;
-  return isChroma ? Lengths{(luma + 1) / 2, (read + 1) / 2} : Lengths{luma, read};
-}
-
-template <class T>
-struct Planes {
-  std::vector<std::unique_ptr<test::Image<T>>> images;
-  T* data[3] = {};
-  int step[3] = {};
-
-  // Every plane has a step of its own; those that go upwards begin with the last row in memory.
-  void Add(int samples, int height, int gap, test::Guard guard, bool isUpwards) {
-    const size_t i = images.size();
-    images.push_back(std::make_unique<test::Image<T>>(samples, height, gap, guard));
-    const int up = isUpwards ? (height - 1) * images[i]->step() : 0;
-    data[i] = reinterpret_cast<T*>(images[i]->bytes() + up);
-    step[i] = isUpwards ? -images[i]->step() : images[i]->step();
-  }
-  T operator()(size_t plane, int x, int y) const {
-    T value;
-    const uint8_t* row = reinterpret_cast<const uint8_t*>(data[plane]) + ptrdiff_t{y} * step[plane];
-    std::memcpy(&value, row + x * sizeof(T), sizeof(T));
-    return value;
-  }
-};
-
-// The definition, for sample x of row y of a plane; `unit` samples make a pixel.
-template <class T>
-int64_t Expected(const Planes<T>& src, size_t plane, const Fraction& f, int x, int y, int unit, Lengths across,
-                 Lengths down) {
+int64_t Expected(const Frame& src, const Component& c, const Fraction& f, int x, int y) {
+  const QvpiSize size = src.format.SizeOf(src.luma, c.isChroma);
   int64_t sum = 0;
-  for (const auto& [column, weight] : WeightsOf(f, x / unit, across.from)) {
-    for (const auto& [row, factor] : WeightsOf(f, y, down.from)) {
-      sum += weight * factor * src(plane, column * unit + x % unit, row);
+  for (const auto& [column, weight] : WeightsOf(f, x, size.width)) {
+    for (const auto& [row, factor] : WeightsOf(f, y, size.height)) {
+      sum += weight * factor * static_cast<int64_t>(src(c, column, row));
     }
   }
   const int all = f.from * f.from;
   return (2 * sum + all) / (2 * all);
 }
 
-enum class Values { kRandom, kHighest };
-
-template <class T>
-void Check(const Export& function, int planes, const Fraction& f, QvpiSize size, Values values, bool isUpwards) {
-  Planes<T> src, dst;
-  for (int i = 0; i < planes; ++i) {
-    const Lengths across = LengthsOf(f, size.width, i > 0), down = LengthsOf(f, size.height, i > 0);
-    const int unit = planes == 2 && i == 1 ? 2 : 1, bytes = sizeof(T);
-    const auto guard = i % 2 ? test::Guard::kBefore : test::Guard::kAfter;
-    src.Add(across.from * unit, down.from, i * 3 * bytes, guard, isUpwards);
-    dst.Add(across.to * unit, down.to, (4 - i) * bytes, guard, isUpwards && i == 1);
-    for (int y = 0; values == Values::kHighest && y < down.from; ++y) {
-      for (int x = 0; x < across.from * unit; ++x) src.images[i]->Put(x, y, static_cast<T>(-1));
-    }
+void Check(const Export& function, const Fraction& f, QvpiSize size, bool isHighest, bool isUpwards) {
+  const Name name(function.name);
+  const auto read = [&](int length) { return (length * f.from + f.to - 1) / f.to; };
+  const auto guard = size.width % 4 < 2 ? test::Guard::kAfter : test::Guard::kBefore;
+  const Frame src(name.From(), {name.layout}, {read(size.width), read(size.height)}, 0, guard, isUpwards);
+  const Frame dst(name.From(), {name.layout}, size, 0, guard, size.height % 3 == 0);
+  if (isHighest) {
+    src.ForEach([&](const Component& c, int x, int y) { name.From().write(src.At(c, x, y), name.From().highest); });
   }
   const test::Argument arguments[] = {{src.data}, {src.step}, {dst.data}, {dst.step}, size, f.code};
   ASSERT_EQ(function.call(arguments), qvpStatusNoError) << function.name;
-  for (int i = 0; i < planes; ++i) {
-    const Lengths across = LengthsOf(f, size.width, i > 0), down = LengthsOf(f, size.height, i > 0);
-    const int unit = planes == 2 && i == 1 ? 2 : 1;
-    for (int y = 0; y < down.to; ++y) {
-      for (int x = 0; x < across.to * unit; ++x) {
-        ASSERT_EQ(dst(i, x, y), Expected(src, i, f, x, y, unit, across, down))
-            << function.name << ' ' << f.to << " of " << f.from << ", " << size.width << 'x' << size.height
-            << ", plane " << i << " at " << x << ',' << y;
-      }
-    }
-  }
-}
-
-void CheckAny(const Export& function, const Fraction& f, QvpiSize size, Values values, bool isUpwards) {
-  const Name name(function.name);
-  (name.type == "8u" ? Check<uint8_t> : Check<uint16_t>)(function, name.channels, f, size, values, isUpwards);
+  dst.ForEach([&](const Component& c, int x, int y) {
+    ASSERT_EQ(dst(c, x, y), Expected(src, c, f, x, y))
+        << function.name << ' ' << f.to << " of " << f.from << ", " << size.width << 'x' << size.height << ", plane "
+        << c.plane << " at " << x << ',' << y;
+  });
 }
 
 TEST(Decimate, IsTheMeanOfWhatEachSampleCovers) {
   for (const Export* function : test::FunctionsOf({"Decimate420"})) {
     for (const Fraction& f : kFractions) {
-      for (int w = 1; w <= 40; ++w) CheckAny(*function, f, {w, 1 + w * 3 % 8}, Values::kRandom, w % 2);
-      for (int h = 1; h <= 9; ++h) CheckAny(*function, f, {70 + h, h}, Values::kRandom, false);
-      CheckAny(*function, f, {201, 7}, Values::kHighest, false);
+      for (int w = 1; w <= 40; ++w) Check(*function, f, {w, 1 + w * 3 % 8}, false, w % 2);
+      for (int h = 1; h <= 9; ++h) Check(*function, f, {70 + h, h}, false, false);
+      Check(*function, f, {201, 7}, true, false);
     }
   }
 }

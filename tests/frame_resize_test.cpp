@@ -1,453 +1,217 @@
 // Resizes of frames, by the definition: taps and weights of each sample, in double.
-#include <cmath>
-#include <memory>
-#include <stdexcept>
 #include <utility>
 #include <vector>
 
+#include "tests/support/frames.h"
 #include "tests/support/name.h"
-#include "tests/support/reference.h"
+#include "tests/support/resizes.h"
 
 namespace {
-using test::Export;
-using test::Name;
-
-// Where the samples of luma and of both chroma components lie: place(x) = offset + stride * x in a row of a plane.
-struct Component {
-  int plane, offset, stride;
-  bool isChroma;
-};
-
-struct Format {
-  std::string layout;
-  int lumaPlace = qvpLumaFirst;
-
-  bool IsPacked() const { return layout == "C2"; }
-  int Planes() const { return IsPacked() ? 1 : layout[1] - '0'; }
-  std::vector<Component> Components() const {
-    const int luma = lumaPlace == qvpLumaFirst ? 0 : 1;
-    if (IsPacked()) return {{0, luma, 2, false}, {0, 1 - luma, 4, true}, {0, 3 - luma, 4, true}};
-    if (layout == "P2") return {{0, 0, 1, false}, {1, 0, 2, true}, {1, 1, 2, true}};
-    return {{0, 0, 1, false}, {1, 0, 1, true}, {2, 0, 1, true}};
-  }
-  QvpiSize SizeOf(QvpiSize luma, bool isChroma) const {
-    if (!isChroma) return luma;
-    return {(luma.width + 1) / 2, IsPacked() ? luma.height : (luma.height + 1) / 2};
-  }
-};
-
-// Planes with steps of their own and pixels around them; those that go upwards begin with the last row in memory.
-template <class T>
-struct Frame {
-  Format format;
-  int margin;  // in the pixels of each plane, or in pairs of packed ones
-  std::vector<std::unique_ptr<test::Image<T>>> images;
-  T* data[3] = {};
-  int step[3] = {};
-
-  Frame(const Format& f, QvpiSize luma, int around, test::Guard guard, bool isUpwards = false)
-      : format(f), margin(around) {
-    for (int i = 0; i < f.Planes(); ++i) {
-      const QvpiSize size = f.SizeOf(luma, i > 0);
-      const int unit = UnitOf(i), rows = size.height + 2 * margin, gap = (3 * i + 2) * static_cast<int>(sizeof(T));
-      images.push_back(std::make_unique<test::Image<T>>(RowOf(i, size.width) + 2 * margin * unit, rows, gap, guard));
-      step[i] = images[i]->step();
-      data[i] = reinterpret_cast<T*>(images[i]->bytes() + ptrdiff_t{margin} * step[i]) + margin * unit;
-      if (!isUpwards) continue;
-      data[i] = At(i, 0, size.height - 1);
-      step[i] = -step[i];
-    }
-  }
-
-  int UnitOf(int plane) const { return format.IsPacked() ? 4 : format.layout == "P2" && plane > 0 ? 2 : 1; }
-  int RowOf(int plane, int width) const { return format.IsPacked() ? 2 * width : UnitOf(plane) * width; }
-  T* At(int plane, int sample, int y) const {
-    return reinterpret_cast<T*>(reinterpret_cast<uint8_t*>(data[plane]) + ptrdiff_t{y} * step[plane]) + sample;
-  }
-  T operator()(const Component& c, int x, int y) const {
-    T value;
-    std::memcpy(&value, At(c.plane, c.offset + c.stride * x, y), sizeof(T));
-    return value;
-  }
-  // Pointers at the luma pixel x, y, whose coordinates are even on the axes on which chroma is halved.
-  void PointTo(int x, int y, T** out) const {
-    for (int i = 0; i < format.Planes(); ++i) {
-      const int column = format.IsPacked() ? 2 * x : i > 0 ? x / 2 * UnitOf(i) : x;
-      out[i] = At(i, column, i > 0 ? y / 2 : y);
-    }
-  }
-};
+using test::Axis;
+using test::CallNamed;
+using test::Component;
+using test::Element;
+using test::ElementOf;
+using test::Format;
+using test::Frame;
+using test::kLinear;
+using test::kSuper;
+using test::Resizing;
 
 struct Manner {
-  int method = qvpInterpolationLinear, lobes = 2, site = qvpChromaCentre, border = qvpBorderReplicate;
+  Resizing resizing;
+  int site = qvpChromaCentre, border = qvpBorderReplicate;
 };
 
-int LobesOf(const Manner& m) { return m.method == qvpInterpolationLinear ? 1 : m.lobes; }
-
-// One axis of a component.
-struct Axis {
-  int from, to;  // of luma
-  int length;    // of the source
-  bool isCosited;
-  bool isBeforeInMemory, isAfterInMemory;
-};
-
-struct Tap {
-  int at;
-  double weight;
-};
-
-double Lanczos(double t, int lobes) {
-  const double pi = 3.14159265358979323846;
-  if (t == 0) return 1;
-  if (std::abs(t) >= lobes) return 0;
-  return std::sin(pi * t) / (pi * t) * std::sin(pi * t / lobes) / (pi * t / lobes);
+std::ostream& operator<<(std::ostream& out, const Manner& m) {
+  return out << m.resizing.name << m.resizing.lobes << ", site " << m.site << ", border " << m.border;
 }
 
-std::vector<Tap> TapsOf(const Manner& m, const Axis& axis, int d) {
-  std::vector<Tap> taps;
-  const double ratio = static_cast<double>(axis.from) / axis.to;
-  if (m.method == qvpInterpolationSuper) {
-    const double shift = axis.isCosited ? (1 - 1 / ratio) / 4 : 0;
-    const double begin = std::max(0.0, (d - shift) * ratio),
-                 end = std::min<double>(axis.length, (d + 1 - shift) * ratio);
-    for (int i = static_cast<int>(begin); i < end; ++i) {
-      taps.push_back({i, (std::min<double>(end, i + 1) - std::max<double>(begin, i)) / (end - begin)});
-    }
-    return taps;
-  }
-  const double o = axis.isCosited ? 0.25 : 0.5, x = (d + o) * axis.from / axis.to - o;
-  const int reach = LobesOf(m), first = static_cast<int>(std::floor(x)) - (reach - 1);
-  double sum = 0;
-  for (int i = first; i < first + 2 * reach; ++i) {
-    const double t = x - i;
-    const double weight = reach == 1 ? 1 - std::abs(t) : Lanczos(t, reach);
-    const int low = axis.isBeforeInMemory ? -reach : 0, high = axis.length - 1 + (axis.isAfterInMemory ? reach : 0);
-    const int kind = (m.border & 0xF) == qvpBorderMirror ? +qvpBorderMirror : +qvpBorderReplicate;
-    taps.push_back({test::BorderPosition(kind, i, low, high), weight});
-    sum += weight;
-  }
-  for (Tap& tap : taps) tap.weight /= sum;
-  return taps;
-}
-
-// Linear interpolation of bytes has integer weights and two roundings.
-int FixedWeight(const Tap& second) { return static_cast<int>(second.weight * 16384 + 1e-7); }
-
-template <class T>
-double Expected(const Frame<T>& src, const Manner& m, const Component& c, const std::vector<Tap>& across,
-                const std::vector<Tap>& down) {
-  if (sizeof(T) == 1 && m.method == qvpInterpolationLinear) {
-    const int w = FixedWeight(across[1]), v = FixedWeight(down[1]);
-    const auto row = [&](int y) {
-      return (src(c, across[0].at, y) * (16384 - w) + src(c, across[1].at, y) * w + 128) >> 8;
-    };
-    return (row(down[0].at) * (16384 - v) + row(down[1].at) * v + (1 << 19)) >> 20;
-  }
-  double sum = 0;
-  for (const Tap& y : down) {
-    for (const Tap& x : across) sum += y.weight * x.weight * src(c, x.at, y.at);
-  }
-  return std::clamp<double>(sum, 0, std::numeric_limits<T>::max());
-}
-
-// How far a result may be from the exact value: half a unit for the last rounding, and what inner ones make.
-template <class T>
-double ToleranceOf(const Manner& m) {
-  const bool isByte = sizeof(T) == 1;
-  if (m.method == qvpInterpolationLinear) return isByte ? 0 : 0.51;
-  if (m.method == qvpInterpolationSuper) return 0.58;
-  return isByte ? 0.6 : 12;  // the kernel comes from a table
-}
-
-class Record {
+// A record at the end of a page.
+class FrameResize {
  public:
-  Record(const Format& f, const Manner& m, QvpiSize src, QvpiSize dst, int type) : format_(f) {
+  FrameResize(const Element& element, const Format& f, const Manner& m, QvpiSize from, QvpiSize to)
+      : format_(f), manner_(m) {
     int bytes = 0, init = 0;
-    const auto query = f.IsPacked() ? qvpiResize422GetSize : qvpiResize420GetSize;
-    EXPECT_EQ(query(src, dst, type, m.method, 0, &bytes, &init), 0) << src.width << 'x' << src.height;
-    memory_ = std::make_unique<test::Block>(bytes, test::Guard::kAfter);
-    status = Init(m, src, dst, type);
+    std::vector<test::Named> arguments{{"srcSize", from},          {"dstSize", to},
+                                       {"dataType", element.code}, {"interpolation", m.resizing.interpolation},
+                                       {"antialiasing", 0},        {"numLobes", m.resizing.lobes},
+                                       {"site", m.site},           {"lumaPlace", f.lumaPlace},
+                                       {"pSpecSize", {&bytes}},    {"pInitBufSize", {&init}}};
+    EXPECT_EQ(CallNamed(Prefix() + "GetSize", arguments), 0);
+    memory_ = std::make_unique<test::Block>(bytes);
+    const test::Block buffer(init);
+    arguments.insert(arguments.end(), {{"pSpec", {spec()}}, {"pInitBuf", {buffer.data()}}});
+    EXPECT_EQ(CallNamed(Prefix() + m.resizing.name + "Init", arguments), 0) << m;
   }
-  QvpiResizeChromaSpec* get() const { return reinterpret_cast<QvpiResizeChromaSpec*>(memory_->data()); }
+  QvpiResizeChromaSpec* spec() const { return reinterpret_cast<QvpiResizeChromaSpec*>(memory_->data()); }
 
-  // At the end of a page.
-  test::Block Buffer(QvpiSize tile) const {
+  // A tile to where it belongs in `dst`, with a buffer at the end of a page.
+  QvpStatus operator()(const Frame& src, const Frame& dst, QvpiRect tile) const {
+    QvpiPoint at{};
     int bytes = 0;
-    const auto query = format_.IsPacked() ? qvpiResize422GetBufferSize : qvpiResize420GetBufferSize;
-    EXPECT_EQ(query(get(), tile, &bytes), 0);
-    return test::Block(bytes, test::Guard::kAfter);
+    const QvpiPoint offset{tile.x, tile.y};
+    const QvpiSize size{tile.width, tile.height};
+    EXPECT_EQ(CallNamed(Prefix() + "GetSrcOffset", {{"pSpec", {spec()}}, {"dstOffset", offset}, {"pSrcOffset", {&at}}}),
+              0);
+    EXPECT_EQ(CallNamed(Prefix() + "GetBufferSize", {{"pSpec", {spec()}}, {"dstSize", size}, {"pBufSize", {&bytes}}}),
+              0);
+    const test::Block buffer(bytes);
+    const test::FrameArguments from(src, at), to(dst, offset);
+    return CallNamed(
+        Prefix() + manner_.resizing.name + "_" + std::string(src.element().name) + "_" + format_.layout + "R",
+        {{"pSrc", from.planes()},
+         {"srcStep", from.steps()},
+         {"pDst", to.planes()},
+         {"dstStep", to.steps()},
+         {"dstOffset", offset},
+         {"dstSize", size},
+         {"border", manner_.border},
+         {"pSpec", {spec()}},
+         {"pBuffer", {buffer.data()}}});
   }
-
-  QvpStatus status;
 
  private:
-  QvpStatus Init(const Manner& m, QvpiSize s, QvpiSize d, int type) const {
-    Qvp8u buffer[64];
-    if (format_.IsPacked()) return InitPacked(m, s, d, type, buffer);
-    if (m.method == qvpInterpolationLanczos) {
-      return qvpiResize420LanczosInit(s, d, type, m.lobes, m.site, get(), buffer);
-    }
-    const auto init = m.method == qvpInterpolationLinear ? qvpiResize420LinearInit : qvpiResize420SuperInit;
-    return init(s, d, type, m.site, get());
-  }
-
-  QvpStatus InitPacked(const Manner& m, QvpiSize s, QvpiSize d, int type, Qvp8u* buffer) const {
-    if (m.method == qvpInterpolationLanczos) {
-      return qvpiResize422LanczosInit(s, d, type, m.lobes, m.site, format_.lumaPlace, get(), buffer);
-    }
-    const auto init = m.method == qvpInterpolationLinear ? qvpiResize422LinearInit : qvpiResize422SuperInit;
-    return init(s, d, type, m.site, format_.lumaPlace, get());
-  }
+  std::string Prefix() const { return format_.IsPacked() ? "qvpiResize422" : "qvpiResize420"; }
 
   Format format_;
+  Manner manner_;
   std::unique_ptr<test::Block> memory_;
 };
 
-const Export& FunctionOf(const Format& f, const Manner& m, std::string_view type) {
-  const char* const method = m.method == qvpInterpolationLinear    ? "Linear"
-                             : m.method == qvpInterpolationLanczos ? "Lanczos"
-                                                                   : "Super";
-  const std::string operation = std::string(f.IsPacked() ? "Resize422" : "Resize420") + method;
-  for (const Export* function : test::FunctionsOf({operation})) {
-    if (Name(function->name).type == type && Name(function->name).layout == f.layout) return *function;
-  }
-  throw std::runtime_error(operation);
+// How far a result may be from the exact value: half a unit for the last rounding, and what inner ones make.
+double ToleranceOf(const Resizing& r, bool isByte) {
+  if (r.Is(qvpInterpolationLinear)) return isByte ? 0 : 0.51;
+  if (r.Is(qvpInterpolationSuper)) return 0.58;
+  return isByte ? 0.6 : 12;  // the kernel comes from a table
 }
 
-// A tile to where it belongs in `dst`.
-template <class T>
-QvpStatus RunTile(const Frame<T>& src, const Frame<T>& dst, const Manner& m, const Record& record, QvpiRect tile) {
-  const Export& function = FunctionOf(src.format, m, sizeof(T) == 1 ? "8u" : "16u");
-  QvpiPoint at{};
-  const auto query = src.format.IsPacked() ? qvpiResize422GetSrcOffset : qvpiResize420GetSrcOffset;
-  EXPECT_EQ(query(record.get(), {tile.x, tile.y}, &at), 0);
-  T *from[3], *to[3];
-  src.PointTo(at.x, at.y, from);
-  dst.PointTo(tile.x, tile.y, to);
-  const test::Block buffer = record.Buffer({tile.width, tile.height});
-  std::vector<test::Argument> arguments;
-  if (src.format.IsPacked()) {
-    arguments = {{from[0]}, src.step[0], {to[0]}, dst.step[0]};
-  } else {
-    arguments = {{from}, {src.step}, {to}, {dst.step}};
-  }
-  arguments.push_back(QvpiPoint{tile.x, tile.y});
-  arguments.push_back(QvpiSize{tile.width, tile.height});
-  if (m.method != qvpInterpolationSuper) arguments.push_back(m.border);
-  arguments.push_back({record.get()});
-  arguments.push_back({buffer.data()});
-  return function.call(arguments.data());
+// Of a component: where chroma lies on luma samples, its own positions and areas are moved.
+Axis AxisOf(int from, int to, int length, bool isCosited) {
+  Axis axis{from, to, length};
+  if (isCosited) axis.origin = 0.25, axis.shift = (1 - static_cast<double>(to) / from) / 4;
+  return axis;
 }
 
-std::ostream& operator<<(std::ostream& out, const Manner& m) {
-  return out << "method " << m.method << ", lobes " << m.lobes << ", site " << m.site << ", border " << m.border;
-}
-
-template <class T>
-void ExpectByDefinition(const Frame<T>& src, const Frame<T>& dst, const Manner& m, QvpiSize from, QvpiSize to) {
-  for (const Component& c : src.format.Components()) {
-    const QvpiSize s = src.format.SizeOf(from, c.isChroma), d = src.format.SizeOf(to, c.isChroma);
-    const bool isLeft = c.isChroma && m.site != qvpChromaCentre;
-    const bool isTop = c.isChroma && m.site == qvpChromaTopLeft && !src.format.IsPacked();
-    const Axis columns{from.width,
-                       to.width,
-                       s.width,
-                       isLeft,
-                       (m.border & qvpBorderInMemLeft) != 0,
-                       (m.border & qvpBorderInMemRight) != 0};
-    const Axis rows{from.height,
-                    to.height,
-                    s.height,
-                    isTop,
-                    (m.border & qvpBorderInMemTop) != 0,
-                    (m.border & qvpBorderInMemBottom) != 0};
-    for (int y = 0; y < d.height; ++y) {
-      const std::vector<Tap> down = TapsOf(m, rows, y);
-      for (int x = 0; x < d.width; ++x) {
-        const double expected = Expected(src, m, c, TapsOf(m, columns, x), down);
-        ASSERT_LE(std::abs(dst(c, x, y) - expected), ToleranceOf<T>(m))
-            << src.format.layout << ' ' << m << ", " << from.width << 'x' << from.height << " to " << to.width << 'x'
-            << to.height << ", plane " << c.plane << " at " << x << ',' << y << ": " << +dst(c, x, y) << ", "
-            << expected;
-      }
-    }
+void ExpectByDefinition(const Frame& src, const Frame& dst, const Manner& m) {
+  const Resizing& r = m.resizing;
+  const bool isByte = src.element().bytes == 1;
+  std::vector<std::vector<test::Tap>> across[2], down[2];
+  for (const bool isChroma : {false, true}) {
+    const QvpiSize s = src.format.SizeOf(src.luma, isChroma), d = src.format.SizeOf(dst.luma, isChroma);
+    const bool isLeft = isChroma && m.site != qvpChromaCentre;
+    const bool isTop = isChroma && m.site == qvpChromaTopLeft && !src.format.IsPacked();
+    across[isChroma] = AllTapsOf(r, AxisOf(src.luma.width, dst.luma.width, s.width, isLeft), d.width);
+    down[isChroma] = AllTapsOf(r, AxisOf(src.luma.height, dst.luma.height, s.height, isTop), d.height);
   }
-}
-
-template <class T>
-void ExpectEqual(const Frame<T>& a, const Frame<T>& b, QvpiSize luma, const Manner& m) {
-  for (const Component& c : a.format.Components()) {
-    const QvpiSize size = a.format.SizeOf(luma, c.isChroma);
-    for (int y = 0; y < size.height; ++y) {
-      for (int x = 0; x < size.width; ++x) {
-        ASSERT_EQ(a(c, x, y), b(c, x, y)) << a.format.layout << ' ' << m << ", plane " << c.plane << " at " << x << ','
-                                          << y << " of " << luma.width << 'x' << luma.height;
-      }
-    }
-  }
+  const auto place = [&](int i, int length, int before, int after) {
+    const int high = length - 1 + (m.border & after ? r.Reach() : 0);
+    return test::BorderPosition(m.border & 15, i, m.border & before ? -r.Reach() : 0, high);
+  };
+  dst.ForEach([&](const Component& c, int x, int y) {
+    const QvpiSize size = src.format.SizeOf(src.luma, c.isChroma);
+    const auto at = [&](int u, int v) {
+      return src(c, place(u, size.width, qvpBorderInMemLeft, qvpBorderInMemRight),
+                 place(v, size.height, qvpBorderInMemTop, qvpBorderInMemBottom));
+    };
+    const auto &columns = across[c.isChroma][x], &rows = down[c.isChroma][y];
+    const double sum =
+        isByte && r.Is(qvpInterpolationLinear) ? InterpolatedBytes(columns, rows, at) : Interpolated(columns, rows, at);
+    const double expected = std::clamp(sum, 0.0, static_cast<double>(src.element().highest));
+    ASSERT_NEAR(static_cast<double>(dst(c, x, y)), expected, ToleranceOf(r, isByte))
+        << src.format.layout << ' ' << m << ", " << src.luma.width << 'x' << src.luma.height << " to " << dst.luma.width
+        << 'x' << dst.luma.height << ", plane " << c.plane << " at " << x << ',' << y;
+  });
 }
 
 // The whole by the definition, and tiles by the whole.
-template <class T>
-void Check(const Format& format, const Manner& m, QvpiSize from, QvpiSize to, QvpiSize tile) {
-  const int margin = m.border & qvpBorderInMem ? LobesOf(m) : 0;
+void Check(const Element& element, const Format& format, const Manner& m, QvpiSize from, QvpiSize to, QvpiSize tile) {
+  const int margin = m.border & qvpBorderInMem ? m.resizing.Reach() : 0;
   const auto guard = from.width % 4 < 2 ? test::Guard::kAfter : test::Guard::kBefore;
-  const Frame<T> src(format, from, margin, guard, from.height % 2 != 0), dst(format, to, 0, guard, to.height % 3 == 0);
-  const Frame<T> tiled(format, to, 0, guard);
-  const Record record(format, m, from, to, sizeof(T) == 1 ? qvp8u : qvp16u);
-  ASSERT_EQ(record.status, 0) << m << ' ' << from.width << 'x' << from.height;
-  ASSERT_EQ(RunTile(src, dst, m, record, {0, 0, to.width, to.height}), 0);
-  ExpectByDefinition(src, dst, m, from, to);
+  const Frame src(element, format, from, margin, guard, from.height % 2 != 0),
+      dst(element, format, to, 0, guard, to.height % 3 == 0), tiled(element, format, to, 0, guard);
+  const FrameResize resize(element, format, m, from, to);
+  ASSERT_EQ(resize(src, dst, {0, 0, to.width, to.height}), 0);
+  ExpectByDefinition(src, dst, m);
   for (int y = 0; y < to.height; y += tile.height) {
     for (int x = 0; x < to.width; x += tile.width) {
-      const QvpiRect part{x, y, std::min(tile.width, to.width - x), std::min(tile.height, to.height - y)};
-      ASSERT_EQ(RunTile(src, tiled, m, record, part), 0);
+      ASSERT_EQ(resize(src, tiled, {x, y, std::min(tile.width, to.width - x), std::min(tile.height, to.height - y)}),
+                0);
     }
   }
-  ExpectEqual(tiled, dst, to, m);
+  dst.ForEach([&](const Component& c, int x, int y) {
+    ASSERT_EQ(tiled(c, x, y), dst(c, x, y))
+        << format.layout << ' ' << m << " plane " << c.plane << ' ' << x << ',' << y;
+  });
 }
 
-std::vector<Manner> Manners(int method) {
-  std::vector<Manner> manners;
-  for (const int site : {qvpChromaCentre, qvpChromaLeft, qvpChromaTopLeft}) {
-    manners.push_back({method, 2, site, qvpBorderReplicate});
-    if (method != qvpInterpolationSuper) manners.push_back({method, 3, site, qvpBorderMirror | (0x10 << site)});
-    if (method != qvpInterpolationSuper) manners.push_back({method, 2, site, qvpBorderInMem});
-  }
-  return manners;
-}
+const Format kFormats[] = {{"P2"}, {"P3"}, {"C2"}, {"C2", qvpLumaSecond}};
+const Resizing kMethods[] = {kLinear, test::kLanczos2, test::kLanczos3, kSuper};
 
-std::vector<Format> Formats() { return {{"P2"}, {"P3"}, {"C2"}, {"C2", qvpLumaSecond}}; }
+// Packed frames have whole pairs of columns.
+struct Sizes {
+  QvpiSize from, to;
+};
+const std::vector<Sizes> kAny = {{{12, 12}, {70, 21}}, {{150, 12}, {46, 11}}, {{22, 24}, {23, 14}},
+                                 {{13, 11}, {24, 24}}, {{133, 13}, {80, 8}},  {{91, 15}, {210, 7}},
+                                 {{22, 7}, {24, 14}},  {{20, 6}, {2100, 5}}},
+                         kReduced = {{{150, 20}, {90, 12}}, {{24, 23}, {22, 14}}, {{300, 8}, {150, 4}},
+                                     {{92, 15}, {6, 3}},    {{72, 15}, {72, 15}}, {{90, 14}, {90, 7}},
+                                     {{70, 14}, {50, 14}},  {{133, 13}, {80, 8}}, {{91, 15}, {7, 3}},
+                                     {{5, 5}, {3, 4}},      {{71, 15}, {71, 15}}, {{150, 12}, {46, 11}}};
 
-template <class T>
-void CheckSizes(const Format& format, int method, std::initializer_list<std::pair<QvpiSize, QvpiSize>> sizes) {
-  for (const Manner& m : Manners(method)) {
-    for (const auto& [from, to] : sizes) {
-      Check<T>(format, m, from, to, {6, 4});
-      Check<T>(format, m, from, to, {(to.width / 2 + 1) / 2 * 2, 2});
-      if (testing::Test::HasFatalFailure()) return;
-    }
-  }
-}
-
-template <class T>
-void CheckPacked(const Format& format, int method) {
-  if (method != qvpInterpolationSuper) {
-    CheckSizes<T>(format, method,
-                  {{{12, 12}, {70, 21}}, {{22, 7}, {24, 14}}, {{150, 12}, {46, 11}}, {{20, 6}, {2100, 5}}});
-  } else {
-    CheckSizes<T>(format, method,
-                  {{{150, 20}, {90, 12}},
-                   {{24, 23}, {22, 14}},
-                   {{300, 8}, {150, 4}},
-                   {{92, 15}, {6, 3}},
-                   {{72, 15}, {72, 15}},
-                   {{90, 14}, {90, 7}},
-                   {{70, 14}, {50, 14}}});
-  }
-}
-
-template <class T>
-void CheckMethod(const Format& format, int method) {
-  if (format.IsPacked()) return CheckPacked<T>(format, method);
-  if (method != qvpInterpolationSuper) {
-    CheckSizes<T>(format, method, {{{12, 12}, {70, 21}}, {{22, 24}, {23, 14}}, {{150, 12}, {46, 11}}});
-    CheckSizes<T>(format, method, {{{13, 11}, {24, 24}}, {{133, 13}, {80, 8}}, {{91, 15}, {210, 7}}});
-  } else {
-    CheckSizes<T>(format, method, {{{150, 20}, {90, 12}}, {{24, 22}, {22, 14}}, {{150, 12}, {46, 11}}});
-    CheckSizes<T>(format, method,
-                  {{{133, 13}, {80, 8}},
-                   {{91, 15}, {7, 3}},
-                   {{300, 8}, {150, 4}},
-                   {{5, 5}, {3, 4}},
-                   {{71, 15}, {71, 15}},
-                   {{90, 14}, {90, 7}},
-                   {{70, 14}, {50, 14}}});
+void CheckSizes(const Element& element, const Format& format, const Manner& m) {
+  const bool isSuper = m.resizing.Is(qvpInterpolationSuper);
+  for (const auto& [from, to] : isSuper ? kReduced : kAny) {
+    const bool isPairs = from.width % 2 == 0 && to.width % 2 == 0;
+    if (format.IsPacked() ? !isPairs : !m.resizing.Fits((std::min(from.width, from.height) + 1) / 2, 1)) continue;
+    Check(element, format, m, from, to, {6, 4});
+    Check(element, format, m, from, to, {(to.width / 2 + 1) / 2 * 2, 2});
   }
 }
 
 TEST(FrameResize, IsEachComponentByItsDefinition) {
-  for (const Format& format : Formats()) {
-    for (const int method : {qvpInterpolationLinear, qvpInterpolationLanczos, qvpInterpolationSuper}) {
-      CheckMethod<uint8_t>(format, method);
-      CheckMethod<uint16_t>(format, method);
-      if (HasFatalFailure()) return;
+  for (const Format& format : kFormats) {
+    for (const char* type : {"8u", "16u"}) {
+      for (const int site : {qvpChromaCentre, qvpChromaLeft, qvpChromaTopLeft}) {
+        for (const Resizing& r : kMethods) {
+          const int border = r.lobes == 3 ? qvpBorderMirror | (0x10 << site) : +qvpBorderReplicate;
+          CheckSizes(ElementOf(type), format, {r, site, border});
+          if (r.Is(qvpInterpolationLinear)) {
+            CheckSizes(ElementOf(type), format, {r, site, qvpBorderMirror | (0x10 << site)});
+          }
+          if (r.Reach() > 0 && r.lobes < 3) CheckSizes(ElementOf(type), format, {r, site, qvpBorderInMem});
+          if (HasFatalFailure()) return;
+        }
+      }
     }
-  }
-}
-
-// A component as an image of one channel.
-template <class T>
-std::vector<T> PlaneOf(const Frame<T>& frame, const Component& c, QvpiSize size) {
-  std::vector<T> plane;
-  for (int y = 0; y < size.height; ++y) {
-    for (int x = 0; x < size.width; ++x) plane.push_back(frame(c, x, y));
-  }
-  return plane;
-}
-
-template <class T>
-std::vector<T> Resized(const std::vector<T>& src, const Manner& m, QvpiSize from, QvpiSize to) {
-  std::vector<T> dst(to.width * to.height);
-  int bytes = 0, init = 0;
-  EXPECT_EQ(qvpiResizeGetSize_8u(from, to, m.method, 0, &bytes, &init), 0);
-  std::vector<uint8_t> memory(bytes), scratch(init);
-  auto* const spec = reinterpret_cast<QvpiResizeSpec*>(memory.data());
-  constexpr bool kIsByte = sizeof(T) == 1;
-  if (m.method == qvpInterpolationLinear) {
-    EXPECT_EQ((kIsByte ? qvpiResizeLinearInit_8u : qvpiResizeLinearInit_16u)(from, to, spec), 0);
-  } else if (m.method == qvpInterpolationSuper) {
-    EXPECT_EQ(qvpiResizeSuperInit_8u(from, to, spec), 0);
-  } else {
-    const auto make = kIsByte ? qvpiResizeLanczosInit_8u : qvpiResizeLanczosInit_16u;
-    EXPECT_EQ(make(from, to, m.lobes, spec, scratch.data()), 0);
-  }
-  EXPECT_EQ(qvpiResizeGetBufferSize_8u(spec, to, 1, &bytes), 0);
-  std::vector<uint8_t> buffer(bytes);
-  const char* const method = m.method == qvpInterpolationLinear  ? "Linear"
-                             : m.method == qvpInterpolationSuper ? "Super"
-                                                                 : "Lanczos";
-  const int srcStep = from.width * static_cast<int>(sizeof(T)), dstStep = to.width * static_cast<int>(sizeof(T));
-  std::vector<test::Argument> arguments{{src.data()}, srcStep, {dst.data()}, dstStep, QvpiPoint{0, 0}, to};
-  if (m.method != qvpInterpolationSuper) arguments.insert(arguments.end(), {m.border, {nullptr}});
-  arguments.insert(arguments.end(), {{spec}, {buffer.data()}});
-  for (const Export* function : test::FunctionsOf({std::string("Resize") + method})) {
-    const std::string end = kIsByte ? "_8u_C1R" : "_16u_C1R";
-    if (function->name.ends_with(end)) {
-      EXPECT_EQ(function->call(arguments.data()), 0);
-    }
-  }
-  return dst;
-}
-
-template <class T>
-void CheckBits(const Format& format, const Manner& m, QvpiSize from, QvpiSize to) {
-  const Frame<T> src(format, from, 0, test::Guard::kAfter), dst(format, to, 0, test::Guard::kAfter);
-  const Record record(format, m, from, to, sizeof(T) == 1 ? qvp8u : qvp16u);
-  ASSERT_EQ(RunTile(src, dst, m, record, {0, 0, to.width, to.height}), 0);
-  for (const Component& c : format.Components()) {
-    const QvpiSize s = format.SizeOf(from, c.isChroma), d = format.SizeOf(to, c.isChroma);
-    ASSERT_EQ(PlaneOf(dst, c, d), Resized(PlaneOf(src, c, s), m, s, d))
-        << format.layout << ' ' << m << ' ' << sizeof(T) << ", plane " << c.plane << ", " << from.width << " to "
-        << to.width;
   }
 }
 
 // Luma, and with even sizes chroma between it, has the bits of its own resize as an image.
 TEST(FrameResize, HasTheBitsOfImages) {
-  for (const Format& format : Formats()) {
-    for (const int method : {qvpInterpolationLinear, qvpInterpolationLanczos, qvpInterpolationSuper}) {
-      for (const int lobes : {2, 3}) {
-        const Manner m{method, lobes};
-        for (const auto& [from, to] : {std::pair<QvpiSize, QvpiSize>{{190, 60}, {114, 36}},
-                                       {{256, 34}, {128, 18}},
-                                       {{194, 26}, {62, 22}},
-                                       {{700, 40}, {16, 10}},
-                                       {{88, 32}, {88, 32}}}) {
-          CheckBits<uint8_t>(format, m, from, to);
-          CheckBits<uint16_t>(format, m, from, to);
-          if (HasFatalFailure()) return;
+  constexpr QvpiSize kSizes[][2] = {{{190, 60}, {114, 36}},
+                                    {{256, 34}, {128, 18}},
+                                    {{194, 26}, {62, 22}},
+                                    {{700, 40}, {16, 10}},
+                                    {{88, 32}, {88, 32}}};
+  for (const Format& format : kFormats) {
+    for (const char* type : {"8u", "16u"}) {
+      for (const Resizing& r : kMethods) {
+        for (const auto& [from, to] : kSizes) {
+          const Element& element = ElementOf(type);
+          const Frame src(element, format, from), dst(element, format, to);
+          const FrameResize resize(element, format, {r}, from, to);
+          ASSERT_EQ(resize(src, dst, {0, 0, to.width, to.height}), 0);
+          for (const Component& c : format.Components()) {
+            const QvpiSize s = format.SizeOf(from, c.isChroma), d = format.SizeOf(to, c.isChroma);
+            test::Bordered plane(element, {}, {s, 1, qvpBorderReplicate}, test::Guard::kAfter, 2);
+            plane.image.Fill([&](int x, int y) { return src(c, x, y); });
+            test::Samples found(element, d.width, d.height, 0);
+            found.Fill([&](int x, int y) { return dst(c, x, y); });
+            ExpectSame(found, Resized(FunctionOf(r, type, 1), test::ImageResize(r, type, s, d), plane),
+                       format.layout + ' ' + r.name + ' ' + type + ", plane " + std::to_string(c.plane));
+          }
         }
       }
     }
@@ -456,15 +220,16 @@ TEST(FrameResize, HasTheBitsOfImages) {
 
 TEST(FrameResize, GivesTheValuesOfItsText) {
   const auto chroma = [](int site) {
-    const Frame<uint16_t> src({"P3"}, {8, 4}, 0, test::Guard::kAfter), dst({"P3"}, {6, 4}, 0, test::Guard::kAfter);
-    for (int i = 0; i < 8; ++i) src.images[1]->Put(i % 4, i / 4, static_cast<uint16_t>(60000 + 600 * (i % 4)));
-    const Manner m{qvpInterpolationLinear, 2, site};
-    const Record record({"P3"}, m, {8, 4}, {6, 4}, qvp16u);
-    EXPECT_EQ(RunTile(src, dst, m, record, {0, 0, 6, 4}), 0);
-    return std::vector<int>{dst({1, 0, 1, true}, 0, 0), dst({1, 0, 1, true}, 1, 0), dst({1, 0, 1, true}, 2, 1)};
+    const Element& words = ElementOf("16u");
+    const Frame src(words, {"P3"}, {8, 4}), dst(words, {"P3"}, {6, 4});
+    for (int i = 0; i < 8; ++i) src.images[1]->Put(i % 4, i / 4, 60000 + 600 * (i % 4));
+    const FrameResize resize(words, {"P3"}, {kLinear, site}, {8, 4}, {6, 4});
+    EXPECT_EQ(resize(src, dst, {0, 0, 6, 4}), 0);
+    const Component u = src.format.Components()[1];
+    return std::vector<test::Real>{dst(u, 0, 0), dst(u, 1, 0), dst(u, 2, 1)};
   };
-  EXPECT_EQ(chroma(qvpChromaCentre), (std::vector<int>{60100, 60900, 61700}));
-  EXPECT_EQ(chroma(qvpChromaLeft), (std::vector<int>{60050, 60850, 61650}));
+  EXPECT_EQ(chroma(qvpChromaCentre), (std::vector<test::Real>{60100, 60900, 61700}));
+  EXPECT_EQ(chroma(qvpChromaLeft), (std::vector<test::Real>{60050, 60850, 61650}));
   const auto size = [](QvpiSize src, double x, double y) {
     QvpiSize dst{};
     EXPECT_EQ(qvpiResize420GetDstSize(src, x, y, &dst), 0);
@@ -532,77 +297,66 @@ TEST(FrameResize, ChecksInitsInOrder) {
 }
 
 TEST(FrameResize, ChecksCallsInOrder) {
-  const Manner m{qvpInterpolationLinear};
-  const Record words({"P3"}, m, {16, 16}, {10, 10}, qvp16u), bytes({"P3"}, m, {16, 16}, {10, 10}, qvp8u);
-  const Frame<uint16_t> src({"P3"}, {16, 16}, 0, test::Guard::kAfter), dst({"P3"}, {10, 10}, 0, test::Guard::kAfter);
+  const Element &two = ElementOf("16u"), &one = ElementOf("8u");
+  const FrameResize words(two, {"P3"}, {kLinear}, {16, 16}, {10, 10}),
+      bytes(one, {"P3"}, {kLinear}, {16, 16}, {10, 10});
+  const Frame src(two, {"P3"}, {16, 16}), dst(two, {"P3"}, {10, 10});
   Qvp8u buffer[4096], foreign[256] = {};
   const int odd[] = {32, 17, 16};
-  const Qvp16u* from[] = {src.data[0], src.data[1], src.data[2]};
+  const Qvp16u* from[3];
+  Qvp16u* to[3];
+  for (int i = 0; i < 3; ++i) from[i] = src.images[i]->As<Qvp16u>(), to[i] = dst.images[i]->As<Qvp16u>();
   const auto call = [&](const int* step, QvpiPoint at, QvpiSize size, int border, const void* spec) {
-    return qvpiResize420Linear_16u_P3R(from, step, dst.data, dst.step, at, size, border,
+    return qvpiResize420Linear_16u_P3R(from, step, to, dst.step, at, size, border,
                                        static_cast<const QvpiResizeChromaSpec*>(spec), buffer);
   };
   for (const int border : {0, 2, 6, 0x101, 0x10, -1}) {
     EXPECT_EQ(call(nullptr, {1, 1}, {0, 0}, border, nullptr), qvpStatusBorder) << border;
   }
-  for (const Qvp16u*& plane : from) {
-    const Qvp16u* const kept = std::exchange(plane, nullptr);
-    EXPECT_EQ(call(odd, {1, 1}, {0, -1}, 1, foreign), qvpStatusNullPointer);
-    plane = kept;
-  }
   EXPECT_EQ(call(nullptr, {1, 1}, {0, -1}, 1, foreign), qvpStatusNullPointer);
   EXPECT_EQ(call(odd, {1, 1}, {0, -1}, 1, foreign), qvpStatusNoOperation);
   EXPECT_EQ(call(odd, {1, 1}, {1, -1}, 1, foreign), qvpStatusContextMatch);
-  EXPECT_EQ(call(odd, {1, -1}, {1, -1}, 4, words.get()), qvpStatusSize);
-  EXPECT_EQ(call(odd, {1, -1}, {1, 1}, 3, words.get()), qvpStatusStep);
-  EXPECT_EQ(call(src.step, {1, 10}, {1, 1}, 3, words.get()), qvpStatusOutOfRange);
-  EXPECT_EQ(call(src.step, {2, 1}, {1, 1}, 3, bytes.get()), qvpStatusMisalignedOffset);
-  EXPECT_EQ(call(src.step, {2, 2}, {1, 1}, 3, bytes.get()), qvpStatusContextMatch);
-  EXPECT_EQ(qvpiResize420Super_16u_P3R(from, src.step, dst.data, dst.step, {0, 0}, {1, 1}, words.get(), buffer),
+  EXPECT_EQ(call(odd, {1, -1}, {1, -1}, 4, words.spec()), qvpStatusSize);
+  EXPECT_EQ(call(odd, {1, -1}, {1, 1}, 3, words.spec()), qvpStatusStep);
+  EXPECT_EQ(call(src.step, {1, 10}, {1, 1}, 3, words.spec()), qvpStatusOutOfRange);
+  EXPECT_EQ(call(src.step, {2, 1}, {1, 1}, 3, bytes.spec()), qvpStatusMisalignedOffset);
+  EXPECT_EQ(call(src.step, {2, 2}, {1, 1}, 3, bytes.spec()), qvpStatusContextMatch);
+  EXPECT_EQ(qvpiResize420Super_16u_P3R(from, src.step, to, dst.step, {0, 0}, {1, 1}, words.spec(), buffer),
             qvpStatusContextMatch);
-  EXPECT_EQ(call(src.step, {0, 0}, {11, 4}, 0x33, words.get()), qvpStatusSizeWarning);
+  EXPECT_EQ(call(src.step, {0, 0}, {11, 4}, 0x33, words.spec()), qvpStatusSizeWarning);
 }
 
 // What a tile reads lies in the rectangle that is told for it, widened by the border: pixels elsewhere do not count.
 TEST(FrameResize, ReadsWhatItTells) {
-  for (const int method : {qvpInterpolationLinear, qvpInterpolationLanczos, qvpInterpolationSuper}) {
+  const Element& bytes = ElementOf("8u");
+  const QvpiSize from{61, 45}, to{38, 31};
+  for (const Resizing& r : {kLinear, test::kLanczos3, kSuper}) {
     for (const int site : {qvpChromaCentre, qvpChromaLeft, qvpChromaTopLeft}) {
-      const Manner m{method, 3, site};
-      const Format format{"P2"};
-      const QvpiSize from{61, 45}, to{38, 31};
-      const Record record(format, m, from, to, qvp8u);
+      const FrameResize resize(bytes, {"P2"}, {r, site}, from, to);
       QvpiBorderSize border{};
-      ASSERT_EQ(qvpiResize420GetBorderSize(record.get(), &border), 0);
+      ASSERT_EQ(qvpiResize420GetBorderSize(resize.spec(), &border), 0);
       for (int x = 0; x < to.width; x += 10) {
         const QvpiRect tile{x, 12, std::min(10, to.width - x), 6};
         QvpiPoint at{};
         QvpiSize size{};
-        ASSERT_EQ(qvpiResize420GetSrcRoi(record.get(), tile, &at, &size), 0);
-        const Frame<uint8_t> src(format, from, 0, test::Guard::kAfter), dst(format, to, 0, test::Guard::kAfter);
-        const Frame<uint8_t> other(format, from, 0, test::Guard::kAfter), again(format, to, 0, test::Guard::kAfter);
-        for (const Component& c : format.Components()) {
+        ASSERT_EQ(qvpiResize420GetSrcRoi(resize.spec(), tile, &at, &size), 0);
+        const Frame src(bytes, {"P2"}, from), other(bytes, {"P2"}, from), dst(bytes, {"P2"}, to),
+            again(bytes, {"P2"}, to);
+        const auto isTold = [](int i, int first, int n, unsigned before, unsigned after) {
+          return i >= first - static_cast<int>(before) && i < first + n + static_cast<int>(after);
+        };
+        src.ForEach([&](const Component& c, int u, int v) {
           const int half = c.isChroma ? 2 : 1;
-          const QvpiSize n = format.SizeOf(from, c.isChroma);
-          for (int i = 0; i < n.width * n.height; ++i) {
-            const int column = i % n.width * half, row = i / n.width * half;
-            const bool isTold = column >= at.x - static_cast<int>(border.left) &&
-                                row >= at.y - static_cast<int>(border.top) &&
-                                column < at.x + size.width + static_cast<int>(border.right) &&
-                                row < at.y + size.height + static_cast<int>(border.bottom);
-            if (isTold)
-              *other.At(c.plane, c.offset + c.stride * (i % n.width), i / n.width) = src(c, i % n.width, i / n.width);
+          if (isTold(u * half, at.x, size.width, border.left, border.right) &&
+              isTold(v * half, at.y, size.height, border.top, border.bottom)) {
+            *other.At(c, u, v) = *src.At(c, u, v);
           }
-        }
-        ASSERT_EQ(RunTile(src, dst, m, record, tile), 0);
-        ASSERT_EQ(RunTile(other, again, m, record, tile), 0);
-        for (const Component& c : format.Components()) {
-          const QvpiSize n = format.SizeOf({tile.width, tile.height}, c.isChroma);
-          const int half = c.isChroma ? 2 : 1;
-          for (int i = 0; i < n.width * n.height; ++i) {
-            const int column = tile.x / half + i % n.width, row = tile.y / half + i / n.width;
-            ASSERT_EQ(dst(c, column, row), again(c, column, row)) << m << ", tile at " << x << ", plane " << c.plane;
-          }
-        }
+        });
+        ASSERT_EQ(resize(src, dst, tile), 0);
+        ASSERT_EQ(resize(other, again, tile), 0);
+        dst.ForEach(tile, [&](const Component& c, int u, int v) {
+          ASSERT_EQ(dst(c, u, v), again(c, u, v)) << r.name << ", tile at " << x << ", plane " << c.plane;
+        });
       }
     }
   }

@@ -17,31 +17,24 @@ struct Frame {
   int left, top, front;
 };
 
-QvpStatus Call(const Export& function, const Frame& f, const Volume& src, const Volume& dst, const uint8_t* value) {
-  const test::Element& element = Name(function.name).From();
-  return function({{"pSrc", {src.block.data()}},
-                   {"srcStep", src.step},
-                   {"srcPlaneStep", src.planeStep},
-                   {"srcVolume", f.src},
-                   {"pDst", {dst.block.data()}},
-                   {"dstStep", dst.step},
-                   {"dstPlaneStep", dst.planeStep},
-                   {"dstVolume", f.dst},
-                   {"topBorderHeight", f.top},
-                   {"leftBorderWidth", f.left},
-                   {"frontBorderDepth", f.front},
-                   {"value", element.read(value)}});
-}
-
 void Check(const Export& function, const Frame& f, bool isCoronal) {
   const Name name(function.name);
   const int bytes = name.From().bytes,
             kind = name.operation == "qvprCopyConstBorder" ? +qvpBorderConst : +qvpBorderReplicate;
   const uint8_t value[4] = {7, 1, 2, 3};
   const Volume src(f.src, bytes, 3, isCoronal), dst(f.dst, bytes, 0, isCoronal);
-  test::Random random(f.src.width);
-  src.ForEach([&](int x, int y, int z) { random.Fill(src.At(x, y, z), bytes); });
-  ASSERT_EQ(Call(function, f, src, dst, value), 0) << function.name;
+  src.Fill(name.From(), test::ModestVoxel);
+  test::VolumeCall call(function);
+  call.Add("pSrc", src);
+  call.Add("pDst", dst);
+  ASSERT_EQ(call({{"srcVolume", f.src},
+                  {"dstVolume", f.dst},
+                  {"topBorderHeight", f.top},
+                  {"leftBorderWidth", f.left},
+                  {"frontBorderDepth", f.front},
+                  {"value", name.From().read(value)}}),
+            0)
+      << function.name;
   dst.ForEach([&](int x, int y, int z) {
     const int u = test::BorderPosition(kind, x - f.left, 0, f.src.width - 1);
     const int v = test::BorderPosition(kind, y - f.top, 0, f.src.height - 1);
@@ -79,25 +72,6 @@ TEST(VolumeBorders, AroundASourceInItsPlace) {
   copy(pixels, src.step, src.planeStep, apart);
   copy(reinterpret_cast<const Qvp16u*>(around.At(2, 1, 2)), around.step, around.planeStep, around);
   apart.ForEach([&](int x, int y, int z) { ASSERT_EQ(std::memcmp(apart.At(x, y, z), around.At(x, y, z), 2), 0); });
-}
-
-TEST(VolumeBorders, ChecksInOrder) {
-  Qvp8u voxels[8] = {};
-  const QvprVolume one{1, 1, 1};
-  const auto copy = [&](const Qvp8u* src, int step, QvprVolume srcVolume, QvprVolume dst, int top, int left,
-                        int front) {
-    return qvprCopyReplicateBorder_8u_C1V(src, step, 1, srcVolume, voxels, 1, 1, dst, top, left, front);
-  };
-  EXPECT_EQ(copy(nullptr, 0, {0, 1, 1}, one, -1, 0, 0), qvpStatusNullPointer);
-  for (const QvprVolume bad : {QvprVolume{0, 1, 1}, {1, -1, 1}, {1, 1, 0}}) {
-    EXPECT_EQ(copy(voxels, 0, bad, one, -1, 0, 0), qvpStatusSize);
-    EXPECT_EQ(copy(voxels, 0, one, bad, -1, 0, 0), qvpStatusSize);
-  }
-  EXPECT_EQ(copy(voxels, 0, one, one, -1, 0, 0), qvpStatusStep);
-  EXPECT_EQ(copy(voxels, 1, one, one, -1, 0, 0), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, one, 0, 0, -1), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, {1, 1, 4}, 0, 0, 4), qvpStatusSize);
-  EXPECT_EQ(copy(voxels, 1, one, {4, 1, 1}, 0, INT32_MAX, 0), qvpStatusSize);
 }
 
 // ---- Transforms.

@@ -27,7 +27,7 @@ TESTS = {
     "core": ["alloc", "fill", "moves", "streaming"],
     "feature": ["hog", "jaehne", "lbp", "noise", "ramp"],
     "filter": ["copy_border", "filter"],
-    "geometry": ["decimate", "frame", "mirror", "resize", "warp"],
+    "geometry": ["decimate", "frame", "mirror", "remap", "resize", "transforms", "warp"],
     "signal": ["arith", "dct", "fourier", "noise", "window"],
     "stats": ["histogram", "match", "moments", "quality_index", "ssim", "stats"],
     "transform": ["convolve", "dct", "deconvolve", "fourier", "wavelet", "window"],

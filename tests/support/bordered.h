@@ -39,13 +39,13 @@ struct Bordered {
   Samples image;
   uint8_t value[32];  // beyond the image
 
-  Bordered(const Element& element, const Reach& reach, const Region& r, Guard guard = Guard::kAfter)
+  Bordered(const Element& element, const Reach& reach, const Region& r, Guard guard = Guard::kAfter, int gap = 3)
       : left(r.border & qvpBorderInMemLeft ? reach.left : 0),
         top(r.border & qvpBorderInMemTop ? reach.above : 0),
         right(r.border & qvpBorderInMemRight ? reach.right : 0),
         bottom(r.border & qvpBorderInMemBottom ? reach.below : 0),
         region(r),
-        image(element, (left + r.size.width + right) * r.channels, top + r.size.height + bottom, 3, guard) {
+        image(element, (left + r.size.width + right) * r.channels, top + r.size.height + bottom, gap, guard) {
     Random random(7);
     if (!element.isInteger) image.Fill([&](int, int) { return static_cast<int>(random.Next()) / 1000; });
     constexpr Real kValue[4] = {250, 3, 77, 128};
@@ -92,11 +92,6 @@ class Prepared {
 
 inline void ExpectModest(int buffer, QvpiSize mask, QvpiSize roi, int channels) {
   EXPECT_LE(buffer, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
-}
-
-inline const Export& FunctionNamed(const std::string& name) {
-  const auto& all = Exports();
-  return *std::find_if(all.begin(), all.end(), [&](const Export& e) { return e.name == name; });
 }
 
 // Filters a part of a scene; `others` are its destination and what else it takes.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <stdexcept>
+#include <unordered_map>
 
 #include "tests/support/calls.h"
 #include "tests/support/lessons.h"
@@ -162,6 +163,15 @@ const std::vector<Export>& Exports() {
     return list;
   }();
   return exports;
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  static const auto all = [] {
+    std::unordered_map<std::string_view, const Export*> functions;
+    for (const Export& function : Exports()) functions[function.name] = &function;
+    return functions;
+  }();
+  return *all.at(name);
 }
 
 int Export::Find(std::string_view parameter) const {

@@ -83,6 +83,12 @@ struct Export {
 };
 
 const std::vector<Export>& Exports();
+// By its whole name. Throws std::out_of_range if there is none.
+const Export& FunctionNamed(const std::string& name);
+// Calls it with those of the arguments that it takes.
+inline QvpStatus CallNamed(const std::string& name, const std::vector<Named>& arguments) {
+  return FunctionNamed(name)(arguments);
+}
 
 class Scene;
 // What a family's parameters mean, where the common rules do not know: sets `argument` for the parameter at `place` and

@@ -43,18 +43,20 @@ Manner MannerOf(const Scene& scene) {
 QvpDataType TypeOf(const Scene& scene) { return Has(scene, "_16u") ? qvp16u : qvp8u; }
 
 QvpStatus Init(const Scene& scene, QvpiResizeChromaSpec* spec) {
-  const auto [s, d, method, border, site, place, lobes] = MannerOf(scene);
-  const QvpDataType type = TypeOf(scene);
+  const Manner m = MannerOf(scene);
+  const std::string operation = std::string("qvpiResize") + (IsPacked(scene) ? "422" : "420");
+  const char* const method = m.method == qvpInterpolationLanczos ? "Lanczos"
+                             : m.method == qvpInterpolationSuper ? "Super"
+                                                                 : "Linear";
   Qvp8u buffer[64];
-  if (method == qvpInterpolationLanczos) {
-    return IsPacked(scene) ? qvpiResize422LanczosInit(s, d, type, lobes, site, place, spec, buffer)
-                           : qvpiResize420LanczosInit(s, d, type, lobes, site, spec, buffer);
-  }
-  const bool isLinear = method == qvpInterpolationLinear;
-  if (IsPacked(scene)) {
-    return (isLinear ? qvpiResize422LinearInit : qvpiResize422SuperInit)(s, d, type, site, place, spec);
-  }
-  return (isLinear ? qvpiResize420LinearInit : qvpiResize420SuperInit)(s, d, type, site, spec);
+  return CallNamed(operation + method + "Init", {{"srcSize", m.from},
+                                                 {"dstSize", m.to},
+                                                 {"dataType", TypeOf(scene)},
+                                                 {"numLobes", m.lobes},
+                                                 {"site", m.site},
+                                                 {"lumaPlace", m.lumaPlace},
+                                                 {"pSpec", {spec}},
+                                                 {"pInitBuf", {buffer}}});
 }
 
 const void* Record(Scene& scene) {
@@ -107,23 +109,21 @@ Argument Steps(Scene& scene, int width, int more) {
 
 bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument) {
   const Manner m = MannerOf(scene);
-  const Named choices[] = {{"border", m.border},
-                           {"site", m.site},
-                           {"lumaPlace", m.lumaPlace},
-                           {"numLobes", m.lobes},
-                           {"interpolation", m.method},
-                           {"antialiasing", 0},
-                           {"dataType", TypeOf(scene)},
-                           {"xFactor", 0.4},
-                           {"yFactor", 1.7},
-                           {"srcSize", m.from},
-                           {"dstSize", m.to},
-                           {"dstOffset", QvpiPoint{0, 0}},
-                           {"dstRoi", {nullptr, 0, 0, (m.to.width + 3) / 4 * 2, m.to.height}}};
-  for (const Named& choice : choices) {
-    if (choice.name == name) return argument = choice.value, true;
-  }
-  return false;
+  return Choose(name,
+                {{"border", m.border},
+                 {"site", m.site},
+                 {"lumaPlace", m.lumaPlace},
+                 {"numLobes", m.lobes},
+                 {"interpolation", m.method},
+                 {"antialiasing", 0},
+                 {"dataType", TypeOf(scene)},
+                 {"xFactor", 0.4},
+                 {"yFactor", 1.7},
+                 {"srcSize", m.from},
+                 {"dstSize", m.to},
+                 {"dstOffset", QvpiPoint{0, 0}},
+                 {"dstRoi", {nullptr, 0, 0, (m.to.width + 3) / 4 * 2, m.to.height}}},
+                argument);
 }
 
 bool LearnPlanes(Scene& scene, size_t place, Argument& argument) {

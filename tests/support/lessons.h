@@ -5,6 +5,14 @@
 
 namespace test {
 
+// The argument of a name, if it is among these.
+inline bool Choose(std::string_view name, std::initializer_list<Named> choices, Argument& argument) {
+  for (const Named& choice : choices) {
+    if (choice.name == name) return argument = choice.value, true;
+  }
+  return false;
+}
+
 bool BilateralLesson(Scene& scene, size_t place, Argument& argument);
 bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
 bool ConvolveLesson(Scene& scene, size_t place, Argument& argument);

@@ -3,6 +3,7 @@
 #include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
+#include "tests/support/resizes.h"
 
 namespace test {
 namespace {
@@ -13,7 +14,7 @@ struct Manner {
   int border;
   float b, c;
   unsigned lobes;
-  int smoothMethod;
+  int smoothMethod;  // linear, cubic, Lanczos
   bool isAccurate, isShifted;
 };
 
@@ -21,7 +22,7 @@ bool IsAntialiased(const Scene& scene) { return Has(scene, "Antialiasing"); }
 
 Manner MannerOf(const Scene& scene) {
   constexpr float kCubic[][2] = {{0, 0.75f}, {1 / 3.0f, 1 / 3.0f}, {0.25f, 0.5f}};
-  constexpr int kSmooth[] = {qvpInterpolationLinear, qvpInterpolationCubic, qvpInterpolationLanczos};
+  constexpr int kSmooth[] = {0, 1, 2};
   constexpr int kRatios[][2] = {{3, 5}, {1, 1}, {1, 4}, {1, 2}, {7, 4}, {3, 1}};
   Random random = scene.choices();
   const auto any = [&](const auto& list) -> const auto& { return list[random.Next() % std::size(list)]; };
@@ -49,75 +50,43 @@ Manner MannerOf(const Scene& scene) {
 }
 
 // Of the pixels; queries are asked about bytes.
-QvpDataType TypeOf(const Scene& scene) {
+std::string TypeOf(const Scene& scene) {
   for (const char* type : {"64f", "32f", "16u", "16s"}) {
-    if (Has(scene, type)) return ElementOf(type).code;
+    if (Has(scene, type)) return type;
   }
-  return qvp8u;
+  return "8u";
 }
 
-int MethodOf(const Scene& scene) {
-  for (const auto& [name, method] : {std::pair{"Linear", qvpInterpolationLinear},
-                                     {"Cubic", qvpInterpolationCubic},
-                                     {"Lanczos", qvpInterpolationLanczos},
-                                     {"Super", qvpInterpolationSuper},
-                                     {"Nearest", qvpInterpolationNearest}}) {
-    if (Has(scene, name)) return method;
-  }
-  return IsAntialiased(scene) ? MannerOf(scene).smoothMethod : +qvpInterpolationLinear;
-}
-
-QvpStatus InitSmooth(const Scene& scene, QvpiSize s, QvpiSize d, QvpiResizeSpec* spec, Qvp8u* buffer) {
+// By the function's name.
+Resizing ResizingOf(const Scene& scene) {
   const Manner m = MannerOf(scene);
-  const QvpiSizeL sl{s.width, s.height}, dl{d.width, d.height};
-  const QvpDataType type = TypeOf(scene);
-  switch (MethodOf(scene)) {
-    case qvpInterpolationLinear:
-      if (IsWide(scene)) return qvpiResizeAntialiasingLinearInit_L(sl, dl, type, spec, buffer);
-      return (type == qvp64f ? qvpiResizeAntialiasingLinearInit_64f : qvpiResizeAntialiasingLinearInit)(s, d, spec,
-                                                                                                        buffer);
-    case qvpInterpolationCubic:
-      if (IsWide(scene)) return qvpiResizeAntialiasingCubicInit_L(sl, dl, type, m.b, m.c, spec, buffer);
-      return (type == qvp64f ? qvpiResizeAntialiasingCubicInit_64f : qvpiResizeAntialiasingCubicInit)(s, d, m.b, m.c,
-                                                                                                      spec, buffer);
-    default:
-      if (IsWide(scene)) return qvpiResizeAntialiasingLanczosInit_L(sl, dl, type, m.lobes, spec, buffer);
-      return (type == qvp64f ? qvpiResizeAntialiasingLanczosInit_64f : qvpiResizeAntialiasingLanczosInit)(s, d, m.lobes,
-                                                                                                          spec, buffer);
+  const auto lobes = static_cast<int>(m.lobes);
+  const bool isShifted = m.isShifted && !IsWide(scene) && Has(scene, "Super");
+  const Resizing all[] = {{"Linear", qvpInterpolationLinear},
+                          {"Cubic", qvpInterpolationCubic, false, m.b, m.c},
+                          {"Lanczos", qvpInterpolationLanczos, false, 0, 0, lobes},
+                          {"Super", qvpInterpolationSuper, false, 0, 0, 0, {isShifted * 0.25, isShifted * -1.5}},
+                          {"Nearest", qvpInterpolationNearest}};
+  Resizing resizing = all[IsAntialiased(scene) ? m.smoothMethod : 0];
+  for (const Resizing& one : all) {
+    if (Has(scene, one.name)) resizing = one;
   }
+  resizing.isAntialiasing = IsAntialiased(scene);
+  return resizing;
 }
 
-// The record of a call, by the Init that belongs to the function's name; records of bytes serve all but doubles.
 QvpStatus Init(const Scene& scene, QvpiResizeSpec* spec) {
-  const Manner m = MannerOf(scene);
-  const QvpiSize s = SourceSize(scene), d = m.target;
-  const QvpiSizeL sl{s.width, s.height}, dl{d.width, d.height};
-  const QvpDataType type = TypeOf(scene);
   Qvp8u buffer[64];
-  if (IsAntialiased(scene)) return InitSmooth(scene, s, d, spec, buffer);
-  switch (MethodOf(scene)) {
-    case qvpInterpolationNearest:
-      return IsWide(scene) ? qvpiResizeNearestInit_L(sl, dl, type, spec) : qvpiResizeNearestInit_8u(s, d, spec);
-    case qvpInterpolationSuper:
-      if (IsWide(scene)) return qvpiResizeSuperInit_L(sl, dl, type, spec);
-      return m.isShifted ? qvpiResizeSuperShiftInit_8u(s, d, 0.25, -1.5, spec) : qvpiResizeSuperInit_8u(s, d, spec);
-    case qvpInterpolationCubic:
-      return IsWide(scene) ? qvpiResizeCubicInit_L(sl, dl, type, m.b, m.c, spec, buffer)
-                           : qvpiResizeCubicInit_32f(s, d, m.b, m.c, spec, buffer);
-    case qvpInterpolationLanczos:
-      return IsWide(scene) ? qvpiResizeLanczosInit_L(sl, dl, type, m.lobes, spec, buffer)
-                           : qvpiResizeLanczosInit_16u(s, d, m.lobes, spec, buffer);
-    default:
-      if (IsWide(scene)) return qvpiResizeLinearInit_L(sl, dl, type, spec);
-      return (type == qvp64f ? qvpiResizeLinearInit_64f : qvpiResizeLinearInit_8u)(s, d, spec);
-  }
+  return InitResize(ResizingOf(scene), TypeOf(scene), SourceSize(scene), MannerOf(scene).target, IsWide(scene), spec,
+                    buffer);
 }
 
 int RecordBytes(const Scene& scene) {
   int bytes = 0, init = 0;
   const bool isOfDoubles = IsDouble(scene) && !IsAntialiased(scene);
   const auto query = isOfDoubles ? qvpiResizeGetSize_64f : qvpiResizeGetSize_8u;
-  if (query(SourceSize(scene), MannerOf(scene).target, MethodOf(scene), IsAntialiased(scene), &bytes, &init) < 0) {
+  if (query(SourceSize(scene), MannerOf(scene).target, ResizingOf(scene).interpolation, IsAntialiased(scene), &bytes,
+            &init) < 0) {
     throw std::runtime_error("qvpiResizeGetSize");
   }
   return bytes;
@@ -150,28 +119,23 @@ const void* Buffer(Scene& scene) {
 
 bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument) {
   const Manner m = MannerOf(scene);
-  if (name == "border") {
-    argument = m.border;
-  } else if (name == "interpolation") {
-    argument = IsDouble(scene) ? +qvpInterpolationLinear : +qvpInterpolationCubic;
-  } else if (name == "antialiasing") {
-    argument = 0;
-  } else if (name == "dataType") {
-    argument = qvp32f;
-  } else if (name == "numChannels") {
-    argument = 3;
-  } else if (name == "hint") {
-    argument = qvpAlgHintAccurate;
-  } else if (name == "numLobes") {
-    argument = m.lobes;
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? m.b : m.c;
-  } else if (name == "shiftX" || name == "shiftY") {
-    argument = name == "shiftX" ? 0.25 : -1.5;
-  } else {
-    return false;
-  }
-  return true;
+  const QvpiSize to = m.target;
+  return Choose(name,
+                {{"border", m.border},
+                 {"interpolation", IsDouble(scene) ? +qvpInterpolationLinear : +qvpInterpolationCubic},
+                 {"antialiasing", 0},
+                 {"dataType", qvp32f},
+                 {"numChannels", 3},
+                 {"hint", qvpAlgHintAccurate},
+                 {"numLobes", m.lobes},
+                 {"valueB", m.b},
+                 {"valueC", m.c},
+                 {"shiftX", 0.25},
+                 {"shiftY", -1.5},
+                 {"dstOffset", QvpiPoint{0, 0}},
+                 {"dstRoi", {nullptr, 0, 0, (to.width + 1) / 2, to.height}},
+                 {"pBorderValue", {nullptr, 0}}},
+                argument);
 }
 
 }  // namespace
@@ -179,20 +143,13 @@ bool LearnChoices(const Scene& scene, std::string_view name, Argument& argument)
 bool ResizeLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   const QvpiSize to = MannerOf(scene).target;
-  if (name == "dstOffset") {
-    argument = QvpiPoint{0, 0};
-  } else if (name == "dstRoi") {
-    argument = {nullptr, 0, 0, (to.width + 1) / 2, to.height};
-  } else if (name == "pSpec") {
+  if (LearnChoices(scene, name, argument) || LearnImages(scene, name, to, argument)) return true;
+  if (name == "pSpec") {
     argument = {Record(scene)};
   } else if (name == "pInitBuf") {
     argument = {scene.Input(64)};
   } else if (name == "pBuffer") {
     argument = {Buffer(scene)};
-  } else if (name == "pBorderValue") {
-    argument = Argument(nullptr, 0);
-  } else if (LearnChoices(scene, name, argument) || LearnImages(scene, name, to, argument)) {
-    return true;
   } else if (type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};  // of a query
   } else {

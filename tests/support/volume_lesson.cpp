@@ -85,28 +85,30 @@ const void* Region(Scene& scene, size_t place, const QvprVolume& size, Scene::Va
   return planes + kReach;
 }
 
-// What is the same for all filters.
-bool FilterArgument(Scene& scene, size_t place, const FilterManner& m, Argument& argument) {
-  const auto& [type, name] = scene.function().parameters[place];
-  const QvprVolume around = Around(m.size);
+// Volumes and their steps.
+bool LearnVolumes(Scene& scene, size_t place, const QvprVolume& src, const QvprVolume& dst, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  const QvprVolume& volume = name.starts_with("pSrc") || name.starts_with("src") ? src : dst;
   if (name == "pSrc" || name == "pDst") {
-    argument = {Region(scene, place, m.size)};
-  } else if (name == "srcStep" || name == "dstStep") {
-    argument = StepOf(around, place - 1);
-  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
-    argument = PlaneStepOf(around, place - 2);
-  } else if (name == "dstVolume") {
-    argument = m.size;
-  } else if (name == "maskVolume" || name == "kernelVolume") {
-    argument = m.mask;
-  } else if (name == "borderType") {
-    argument = m.border;
-  } else if (name == "borderValue") {
-    argument = scene.Constants(type);
+    argument = {Region(scene, place, volume)};
+  } else if (name.ends_with("PlaneStep")) {
+    argument = PlaneStepOf(Around(volume), place - 2);
+  } else if (name.ends_with("Step")) {
+    argument = StepOf(Around(volume), place - 1);
   } else {
     return false;
   }
   return true;
+}
+
+// What is the same for all filters.
+bool FilterArgument(Scene& scene, size_t place, const FilterManner& m, Argument& argument) {
+  const auto& [type, name] = scene.function().parameters[place];
+  if (LearnVolumes(scene, place, m.size, m.size, argument)) return true;
+  if (name == "borderValue") return argument = scene.Constants(type), true;
+  return Choose(name,
+                {{"dstVolume", m.size}, {"maskVolume", m.mask}, {"kernelVolume", m.mask}, {"borderType", m.border}},
+                argument);
 }
 
 // ---- General filter
@@ -156,13 +158,20 @@ struct ResizeManner {
   unsigned lobes;
   QvpiBorderType border;
 };
+constexpr std::pair<const char*, int> kNamedMethods[] = {{"Nearest", qvpInterpolationNearest},
+                                                         {"Linear", qvpInterpolationLinear},
+                                                         {"Cubic", qvpInterpolationCubic},
+                                                         {"Lanczos", qvpInterpolationLanczos},
+                                                         {"Super", qvpInterpolationSuper}};
+const char* NameOf(int method) {
+  return std::find_if(std::begin(kNamedMethods), std::end(kNamedMethods),
+                      [&](const auto& m) { return m.second == method; })
+      ->first;
+}
 ResizeManner ResizeMannerOf(const Scene& scene) {
-  constexpr int kMethods[] = {qvpInterpolationNearest, qvpInterpolationLinear, qvpInterpolationCubic,
-                              qvpInterpolationLanczos, qvpInterpolationSuper};
-  constexpr const char* kNames[] = {"Nearest", "Linear", "Cubic", "Lanczos", "Super"};
   Random random = scene.choices();
-  int method = kMethods[random.Next() % std::size(kMethods)];
-  for (size_t i = 0; i < std::size(kNames); ++i) method = scene.Has(kNames[i]) ? kMethods[i] : method;
+  int method = kNamedMethods[random.Next() % std::size(kNamedMethods)].second;
+  for (const auto& [name, named] : kNamedMethods) method = scene.Has(name) ? named : method;
   const QvprVolume dst{scene.roi().width, scene.roi().height, 1 + static_cast<int>(random.Next() % 3)};
   const auto along = [&](int n) {
     const int lengths[] = {n, n + 1 + n / 2, 2 * n, std::max(1, n / 2)};
@@ -199,14 +208,13 @@ const void* Record(Scene& scene, const ResizeManner& m) {
   const int bytes = RecordBytes(scene, m);
   if (scene.Has("Init")) return scene.Output(bytes);
   auto* const spec = reinterpret_cast<QvprResizeSpec*>(scene.Input(bytes));
-  const QvpDataType type = TypeOf(scene);
-  switch (m.method) {
-    case qvpInterpolationNearest: qvprResizeNearestInit(m.src, m.dst, type, spec); break;
-    case qvpInterpolationLinear: qvprResizeLinearInit(m.src, m.dst, type, spec); break;
-    case qvpInterpolationCubic: qvprResizeCubicInit(m.src, m.dst, type, m.b, 0.5f, spec); break;
-    case qvpInterpolationLanczos: qvprResizeLanczosInit(m.src, m.dst, type, m.lobes, spec); break;
-    default: qvprResizeSuperInit(m.src, m.dst, type, spec); break;
-  }
+  CallNamed(std::string("qvprResize") + NameOf(m.method) + "Init", {{"srcVolume", m.src},
+                                                                    {"dstVolume", m.dst},
+                                                                    {"dataType", TypeOf(scene)},
+                                                                    {"valueB", m.b},
+                                                                    {"valueC", 0.5},
+                                                                    {"numLobes", m.lobes},
+                                                                    {"pSpec", {spec}}});
   return spec;
 }
 
@@ -220,21 +228,14 @@ const void* ResizeBuffer(Scene& scene, const ResizeManner& m) {
 // The volumes with their steps, and other memory.
 bool ResizeMemory(Scene& scene, size_t place, const ResizeManner& m, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
-  const QvprVolume& volume = name.starts_with("pSrc") || name.starts_with("src") ? m.src : m.tile;
-  if (name == "pSrc" || name == "pDst") {
-    argument = {Region(scene, place, volume)};
-  } else if (name == "srcStep" || name == "dstStep") {
-    argument = StepOf(Around(volume), place - 1);
-  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
-    argument = PlaneStepOf(Around(volume), place - 2);
-  } else if (name == "pSrcCuboid") {
+  if (name == "pSrcCuboid") {
     argument = {scene.Output(sizeof(QvprCuboid))};
   } else if (name == "pSpec") {
     argument = {Record(scene, m)};
   } else if (name == "pBuffer") {
     argument = {ResizeBuffer(scene, m)};
   } else {
-    return false;
+    return LearnVolumes(scene, place, m.src, m.tile, argument);
   }
   return true;
 }
@@ -287,26 +288,19 @@ bool VolumeFilterLesson(Scene& scene, size_t place, Argument& argument) {
 bool VolumeLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
   const Manner m = MannerOf(scene);
-  const bool isSource = name.starts_with("pSrc") || name.starts_with("src");
-  const QvprVolume& volume = isSource ? m.src : m.dst;
-  if (name == "pSrc" || name == "pDst") {
-    argument = {Voxels(scene, place, volume)};
-  } else if (name == "srcStep" || name == "dstStep") {
-    argument = StepOf(volume, place - 1);
-  } else if (name == "srcPlaneStep" || name == "dstPlaneStep") {
-    argument = PlaneStepOf(volume, place - 2);
-  } else if (name == "srcVolume" || name == "dstVolume") {
-    argument = volume;
-  } else if (name == "topBorderHeight") {
-    argument = m.top;
-  } else if (name == "leftBorderWidth") {
-    argument = m.left;
-  } else if (name == "frontBorderDepth") {
-    argument = m.front;
-  } else {
-    return false;
-  }
-  return true;
+  const QvprVolume& volume = name.starts_with("pSrc") || name.starts_with("src") ? m.src : m.dst;
+  if (name == "pSrc" || name == "pDst") return argument = {Voxels(scene, place, volume)}, true;
+  return Choose(name,
+                {{"srcStep", StepOf(volume, place - 1)},
+                 {"dstStep", StepOf(volume, place - 1)},
+                 {"srcPlaneStep", PlaneStepOf(volume, place - 2)},
+                 {"dstPlaneStep", PlaneStepOf(volume, place - 2)},
+                 {"srcVolume", m.src},
+                 {"dstVolume", m.dst},
+                 {"topBorderHeight", m.top},
+                 {"leftBorderWidth", m.left},
+                 {"frontBorderDepth", m.front}},
+                argument);
 }
 
 // ---- Warps and remaps: the source is a region with voxels around it.
@@ -334,19 +328,21 @@ static const std::vector<double>& CoefficientsOf(const Scene& scene) {
 }
 
 static const void* WarpRecord(Scene& scene) {
-  using Coefficients = const double(*)[4];
   const WarpManner m = WarpMannerOf(scene);
   const Name name(scene.function().name);
-  const QvpDataType type = name.layout.empty() ? qvp8u : name.From().code;
-  auto* const spec = reinterpret_cast<QvprWarpSpec*>(scene.Input(576));  // no output: a refused Init changes it
-  const auto coefficients = static_cast<Coefficients>(Numbers(scene, CoefficientsOf(scene)));
+  auto* const spec = scene.Input(576);  // no output: a refused Init changes it
   const double value = 77;
-  if (m.interpolation == qvpInterpolationCubic) {
-    qvprWarpAffineCubicInit(m.src, m.dst, type, coefficients, qvpWarpBackward, 0, 0.5, m.border, &value, spec);
-  } else {
-    (m.interpolation == qvpInterpolationLinear ? qvprWarpAffineLinearInit : qvprWarpAffineNearestInit)(
-        m.src, m.dst, type, coefficients, qvpWarpBackward, m.border, &value, spec);
-  }
+  CallNamed(std::string("qvprWarpAffine") + NameOf(m.interpolation) + "Init",
+            {{"srcVolume", m.src},
+             {"dstVolume", m.dst},
+             {"dataType", name.layout.empty() ? qvp8u : name.From().code},
+             {"coeffs", {Numbers(scene, CoefficientsOf(scene))}},
+             {"direction", qvpWarpBackward},
+             {"valueB", 0},
+             {"valueC", 0.5},
+             {"borderType", m.border},
+             {"pBorderValue", {&value}},
+             {"pSpec", {spec}}});
   return spec;
 }
 
@@ -359,41 +355,20 @@ static Real Coordinate(const Element&, Random& random) {
 static bool SampledLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
   const WarpManner m = WarpMannerOf(scene);
-  const bool isSource = name.starts_with("src") || name == "pSrc";
-  const QvprVolume around = Around(isSource ? m.src : m.dst);
-  if (name == "pSrc" || name == "pDst") {
-    argument = {Region(scene, place, isSource ? m.src : m.dst)};
-  } else if (name.ends_with("Map")) {
-    argument = {Region(scene, place, m.dst, Coordinate)};
-  } else if (name.ends_with("PlaneStep")) {
-    argument = PlaneStepOf(around, place - 2);
-  } else if (name.ends_with("Step")) {
-    argument = StepOf(around, place - 1);
-  } else if (name == "srcVolume" || name == "dstVolume") {
-    argument = isSource ? m.src : m.dst;
-  } else if (name == "interpolation") {
-    argument = m.interpolation;
-  } else {
-    return false;
-  }
-  return true;
+  if (name.ends_with("Map")) return argument = {Region(scene, place, m.dst, Coordinate)}, true;
+  return LearnVolumes(scene, place, m.src, m.dst, argument) ||
+         Choose(name, {{"srcVolume", m.src}, {"dstVolume", m.dst}, {"interpolation", m.interpolation}}, argument);
 }
 
 bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
   const WarpManner m = WarpMannerOf(scene);
-  if (name == "dstOffset") {
-    argument = QvpiPoint{0, 0};
-  } else if (name == "dataType") {
+  if (name == "dataType") {
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "coeffs") {
     argument = {Numbers(scene, CoefficientsOf(scene))};
   } else if (name == "direction") {
     argument = scene.Any({qvpWarpForward, qvpWarpBackward});
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? 0.25 : 0.5;
-  } else if (name == "borderType") {
-    argument = m.border;
   } else if (name == "pBorderValue") {
     argument = {Numbers(scene, {77})};
   } else if (name == "pSpec") {
@@ -403,48 +378,37 @@ bool VolumeWarpLesson(Scene& scene, size_t place, Argument& argument) {
     qvprWarpGetBufferSize(static_cast<const QvprWarpSpec*>(WarpRecord(scene)), m.dst, &bytes);
     argument = {scene.Input(bytes)};
   } else {
-    return SampledLesson(scene, place, argument);
+    return SampledLesson(scene, place, argument) ||
+           Choose(name,
+                  {{"dstOffset", QvprPoint{0, 0, 0}}, {"valueB", 0.25}, {"valueC", 0.5}, {"borderType", m.border}},
+                  argument);
   }
   return true;
 }
 
 bool VolumeRemapLesson(Scene& scene, size_t place, Argument& argument) {
-  const std::string_view name = scene.function().parameters[place].name;
   const QvprVolume src = WarpMannerOf(scene).src;
-  if (name == "srcCuboid") {
-    argument = QvprCuboid{0, 0, 0, src.width, src.height, src.depth};
-  } else {
-    return SampledLesson(scene, place, argument);
-  }
-  return true;
+  const QvprCuboid all{0, 0, 0, src.width, src.height, src.depth};
+  return Choose(scene.function().parameters[place].name, {{"srcCuboid", all}}, argument) ||
+         SampledLesson(scene, place, argument);
 }
 
 bool VolumeResizeLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
   const ResizeManner m = ResizeMannerOf(scene);
   if (ResizeMemory(scene, place, m, argument)) return true;
-  if (name == "srcVolume") {
-    argument = m.src;
-  } else if (name == "dstVolume") {
-    argument = scene.Has("GetSize") || scene.Has("Init") ? m.dst : m.tile;
-  } else if (name == "dstOffset") {
-    argument = m.at;
-  } else if (name == "dstCuboid") {
-    argument = QvprCuboid{m.at.x, m.at.y, m.at.z, m.tile.width, m.tile.height, m.tile.depth};
-  } else if (name == "dataType") {
-    argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
-  } else if (name == "interpolation") {
-    argument = m.method;
-  } else if (name == "numLobes") {
-    argument = m.lobes;
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? m.b : 0.5f;
-  } else if (name == "borderType") {
-    argument = m.border;
-  } else {
-    return false;
-  }
-  return true;
+  if (name == "dataType") return argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f}), true;
+  return Choose(name,
+                {{"srcVolume", m.src},
+                 {"dstVolume", scene.Has("GetSize") || scene.Has("Init") ? m.dst : m.tile},
+                 {"dstOffset", m.at},
+                 {"dstCuboid", QvprCuboid{m.at.x, m.at.y, m.at.z, m.tile.width, m.tile.height, m.tile.depth}},
+                 {"interpolation", m.method},
+                 {"numLobes", m.lobes},
+                 {"valueB", m.b},
+                 {"valueC", 0.5},
+                 {"borderType", m.border}},
+                argument);
 }
 
 bool SpaceLesson(Scene& scene, size_t place, Argument& argument) {

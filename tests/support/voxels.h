@@ -26,6 +26,11 @@ struct Voxels {
   uint8_t* At(int x, int y, int z) const {
     return block.data() + x * bytes + ptrdiff_t{y} * step + ptrdiff_t{z} * planeStep;
   }
+  // With value(element, random).
+  void Fill(const Element& element, Scene::Value value) const {
+    Random random(size.width);
+    ForEach([&](int x, int y, int z) { element.write(At(x, y, z), value(element, random)); });
+  }
   template <class Visit>
   void ForEach(const Visit& visit) const {
     for (int z = 0; z < size.depth; ++z) {
@@ -107,5 +112,48 @@ class Planes {
   std::vector<std::unique_ptr<Block>> blocks_;
   std::vector<uint8_t*> pointers_, moved_;
 };
+
+// A call with volumes as its function takes them: voxels with two steps, or the planes.
+class VolumeCall {
+ public:
+  explicit VolumeCall(const Export& function) : function_(function) {}
+
+  // The argument of a name, which begins at a voxel.
+  void Add(std::string_view name, const Voxels& voxels, QvprPoint at = {}) {
+    const std::string_view step = name == "pSrc" ? "srcStep" : name == "pDst" ? "dstStep" : "mapStep";
+    const std::string_view planeStep = name == "pSrc"   ? "srcPlaneStep"
+                                       : name == "pDst" ? "dstPlaneStep"
+                                                        : "mapPlaneStep";
+    if (function_.name.ends_with("PV")) {
+      planes_.push_back(std::make_unique<Planes>(voxels, at.z));
+      arguments_.insert(arguments_.end(), {{name, {planes_.back()->at(at.x, at.y)}}, {step, planes_.back()->step()}});
+    } else {
+      arguments_.insert(arguments_.end(), {{name, {voxels.At(at.x, at.y, at.z)}}, {step, voxels.step}});
+    }
+    arguments_.push_back({planeStep, voxels.planeStep});
+  }
+  QvpStatus operator()(const std::vector<Named>& others) {
+    arguments_.insert(arguments_.end(), others.begin(), others.end());
+    const QvpStatus status = function_(arguments_);
+    for (const auto& planes : planes_) planes->CopyBack();
+    return status;
+  }
+
+ private:
+  const Export& function_;
+  std::vector<Named> arguments_;
+  std::vector<std::unique_ptr<Planes>> planes_;
+};
+
+// Integers of any value, and modest floats.
+inline Real ModestVoxel(const Element& element, Random& random) {
+  const uint32_t number = random.Next();
+  if (element.isInteger) return element.lowest + number % static_cast<int>(element.highest - element.lowest + 1);
+  return static_cast<float>(number % 20001) / 100 - 100;
+}
+
+inline std::string Shown(QvprVolume v) {
+  return std::to_string(v.width) + 'x' + std::to_string(v.height) + 'x' + std::to_string(v.depth);
+}
 
 }  // namespace test

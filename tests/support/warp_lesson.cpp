@@ -1,6 +1,7 @@
 #include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
+#include "tests/support/warped.h"
 
 namespace test {
 namespace {
@@ -50,44 +51,33 @@ Manner MannerOf(const Scene& scene) {
           kind | sides, isSmooth, cubic[0], cubic[1], any(kMethods) | (random.Next() % 2 ? qvpSmoothEdge : 0)};
 }
 
+Kind KindOf(const Scene& scene) {
+  if (Has(scene, "Quad")) return Kind::kBilinearQuad;
+  if (Has(scene, "Back")) return Kind::kBilinearBack;
+  return Has(scene, "Bilinear") ? Kind::kBilinear : Has(scene, "Perspective") ? Kind::kPerspective : Kind::kAffine;
+}
+
+int TapsOf(const Scene& scene, const Manner& m) {
+  const bool isNamed = !Has(scene, "Bilinear");
+  if (isNamed ? Has(scene, "Cubic") : m.interpolation == qvpInterpolationCubic) return 4;
+  return (isNamed ? Has(scene, "Nearest") : m.interpolation == qvpInterpolationNearest) ? 1 : 2;
+}
+
 // A record for the call, made by the Init that belongs to the function's name.
 QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
-  const QvpiSize s = SourceSize(scene), d = scene.roi();
-  const QvpiSizeL sl{s.width, s.height}, dl{d.width, d.height};
   const Name name(scene.function().name);
   const bool isCall = !name.layout.empty();  // or else asks for a size
-  const QvpDataType type = isCall ? name.From().code : +qvp32f;
-  const int channels = isCall ? name.channels : 1;
   const Manner m = MannerOf(scene);
-  const int direction = Has(scene, "Back") ? qvpWarpBackward : qvpWarpForward;
-  Qvp8u buffer[64];
-#define INIT(Kind, Method, ...)                                                                                   \
-  (IsWide(scene)                                                                                                  \
-       ? qvpiWarp##Kind##Method##Init_L(sl, dl, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL) \
-       : qvpiWarp##Kind##Method##Init(s, d, type, m.matrix, m.direction, channels, __VA_ARGS__ spec OPTIONAL))
-#define INIT_BILINEAR(Method, ...)                                                                                   \
-  (Has(scene, "Quad")                                                                                                \
-       ? IsWide(scene)                                                                                               \
-             ? qvpiWarpBilinearQuad##Method##Init_L(sl, m.from, dl, m.to, type, channels, __VA_ARGS__ spec OPTIONAL) \
-             : qvpiWarpBilinearQuad##Method##Init(s, m.from, d, m.to, type, channels, __VA_ARGS__ spec OPTIONAL)     \
-   : IsWide(scene)                                                                                                   \
-       ? qvpiWarpBilinear##Method##Init_L(sl, dl, type, m.bilinear, direction, channels, __VA_ARGS__ spec OPTIONAL)  \
-       : qvpiWarpBilinear##Method##Init(s, d, type, m.bilinear, direction, channels, __VA_ARGS__ spec OPTIONAL))
-#define BORDER m.border, kValue, m.isSmooth,
-#define OPTIONAL , buffer
-  if (Has(scene, "AffineCubic")) return INIT(Affine, Cubic, m.b, m.c, BORDER);
-  if (Has(scene, "PerspectiveCubic")) return INIT(Perspective, Cubic, m.b, m.c, BORDER);
-  if (Has(scene, "Bilinear") && m.interpolation == qvpInterpolationCubic) {
-    return INIT_BILINEAR(Cubic, m.b, m.c, BORDER);
-  }
-#undef OPTIONAL
-#define OPTIONAL
-  if (Has(scene, "Bilinear") && m.interpolation == qvpInterpolationNearest) return INIT_BILINEAR(Nearest, BORDER);
-  if (Has(scene, "Bilinear")) return INIT_BILINEAR(Linear, BORDER);
-  if (Has(scene, "AffineNearest")) return INIT(Affine, Nearest, BORDER);
-  if (Has(scene, "PerspectiveNearest")) return INIT(Perspective, Nearest, BORDER);
-  if (Has(scene, "PerspectiveLinear")) return INIT(Perspective, Linear, BORDER);
-  return INIT(Affine, Linear, BORDER);
+  Map map{KindOf(scene)};
+  const double* const c = map.IsBilinear() ? m.bilinear[0] : m.matrix[0];
+  std::copy(c, c + (map.IsBilinear() ? 8 : 9), map.c);
+  std::copy(m.from[0], m.from[0] + 8, map.from[0]);
+  std::copy(m.to[0], m.to[0] + 8, map.to[0]);
+  map.direction = map.kind == Kind::kBilinearBack ? +qvpWarpBackward : m.direction;
+  Rule rule{.taps = TapsOf(scene, m), .b = m.b, .c = m.c};
+  std::copy(kValue, kValue + 4, rule.constant);
+  return InitWarp(map, rule, isCall ? name.From().code : +qvp32f, isCall ? name.channels : 1, m.border,
+                  SourceSize(scene), scene.roi(), m.isSmooth, IsWide(scene), spec);
 }
 
 const void* Record(Scene& scene) {
@@ -152,37 +142,31 @@ bool WarpLesson(Scene& scene, size_t place, Argument& argument) {
   const auto [type, name] = scene.function().parameters[place];
   const Manner m = MannerOf(scene);
   const bool isQuery = Has(scene, "GetSize");
-  if (name == "dstRoiOffset") {
-    argument = QvpiPoint{0, 0};
-  } else if (name == "pSpec") {
+  if (name == "pSpec") {
     argument = {Record(scene)};
-  } else if (name == "borderType") {
-    argument = isQuery ? +qvpBorderReplicate : m.border;
-  } else if (name == "pBorderValue") {
-    argument = {kValue};
-  } else if (name == "interpolation") {
-    argument = qvpInterpolationCubic;
-  } else if (name == "direction") {
-    argument = m.direction;
   } else if (name == "dataType") {
     const bool hasDoubles = !Has(scene, "Bilinear") || !IsWide(scene);
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f, hasDoubles ? +qvp64f : +qvp32f});
-  } else if (name == "numChannels") {
-    argument = 3;
-  } else if (name == "smoothEdge") {
-    argument = m.isSmooth;
-  } else if (name == "valueB" || name == "valueC") {
-    argument = name == "valueB" ? m.b : m.c;
-  } else if (name == "srcQuad" || name == "dstQuad") {
-    argument = {name == "srcQuad" ? m.from : m.to};
-  } else if (name == "coeffs") {
-    argument = {Has(scene, "Bilinear") ? &m.bilinear[0][0] : &m.matrix[0][0]};
   } else if (name.ends_with("Size") && type.ends_with("*")) {
     argument = {IsWide(scene) ? scene.Input(32) : scene.Output(32)};
   } else if (name == "pBuffer" || name == "pInitBuf") {
     argument = {scene.Input(kRoom)};
   } else {
-    return LearnImages(scene, name, scene.roi(), argument);
+    return Choose(name,
+                  {{"dstRoiOffset", QvpiPoint{0, 0}},
+                   {"borderType", isQuery ? +qvpBorderReplicate : m.border},
+                   {"pBorderValue", {kValue}},
+                   {"interpolation", qvpInterpolationCubic},
+                   {"direction", m.direction},
+                   {"numChannels", 3},
+                   {"smoothEdge", m.isSmooth},
+                   {"valueB", m.b},
+                   {"valueC", m.c},
+                   {"srcQuad", {m.from}},
+                   {"dstQuad", {m.to}},
+                   {"coeffs", {Has(scene, "Bilinear") ? &m.bilinear[0][0] : &m.matrix[0][0]}}},
+                  argument) ||
+           LearnImages(scene, name, scene.roi(), argument);
   }
   return true;
 }

@@ -1,16 +1,36 @@
-// Values of an image between its pixels, by the formulas in double precision.
+// Warps by the formulas in double precision: where pixels come from, and values of an image between its pixels.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
+#include "tests/support/exports.h"
 #include "tests/support/reference.h"
+#include "tests/support/same.h"
 
 namespace test {
 
 struct Point {
   double u, v;
 };
+
+enum class Kind { kAffine, kPerspective, kBilinear, kBilinearBack, kBilinearQuad };
+
+// Coefficients, row after row, or the corners of source and destination.
+struct Map {
+  Kind kind;
+  double c[9] = {};
+  double from[4][2] = {}, to[4][2] = {};
+  int direction = qvpWarpBackward;
+
+  bool IsBilinear() const { return kind >= Kind::kBilinear; }
+  // As in names of functions, for as many taps.
+  std::string Operation(int taps) const;
+};
+
+// Where the pixel at (x, y) comes from; not a number where nothing is written, or beyond the fold.
+Point PointOf(const Map& map, QvpiSize src, double x, double y);
 
 // What is known about a point's surroundings.
 struct Rule {
@@ -33,24 +53,66 @@ inline double PixelAt(const Samples& src, QvpiSize size, const Rule& rule, int c
   return static_cast<double>(src(column * channels + c, row));
 }
 
-inline double ValueAt(const Samples& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
-  p = {std::clamp(p.u, -999.0, 999.0), std::clamp(p.v, -999.0, 999.0)};
-  if (rule.taps == 1) {
-    return PixelAt(src, size, rule, channels, std::lround(std::floor(p.u + 0.5)), std::lround(std::floor(p.v + 0.5)),
-                   c);
+// What the pixels along an axis count for a point.
+struct AxisWeights {
+  int first;
+  double weights[6], sum = 0;
+
+  AxisWeights(const Rule& rule, double at) {
+    const double x = std::clamp(at, -999.0, 999.0), whole = std::floor(x);
+    first = static_cast<int>(whole) - (rule.taps - 1) / 2 + (rule.taps == 1 && x - whole >= 0.5);
+    for (int i = 0; i < rule.taps; ++i) sum += weights[i] = rule.taps == 1 ? 1 : Weight(rule, x - (first + i));
   }
-  const int before = rule.taps / 2 - 1;
-  const long x = std::lround(std::floor(p.u)) - before, y = std::lround(std::floor(p.v)) - before;
-  double sum = 0, weights = 0;
-  for (long j = y; j < y + rule.taps; ++j) {
-    for (long i = x; i < x + rule.taps; ++i) {
-      const double w = Weight(rule, p.u - i) * Weight(rule, p.v - j);
-      sum += w * PixelAt(src, size, rule, channels, i, j, c);
-      weights += w;
+};
+
+inline double ValueAt(const Samples& src, QvpiSize size, const Rule& rule, int channels, Point p, int c) {
+  const AxisWeights x(rule, p.u), y(rule, p.v);
+  double sum = 0;
+  for (int j = 0; j < rule.taps; ++j) {
+    for (int i = 0; i < rule.taps; ++i) {
+      sum += x.weights[i] * y.weights[j] * PixelAt(src, size, rule, channels, x.first + i, y.first + j, c);
     }
   }
-  return rule.taps == 6 ? sum / weights : sum;
+  return rule.taps == 6 ? sum / (x.sum * y.sum) : sum;
 }
+
+// A warp as a record in memory of its size, at the end of a page.
+class ImageWarp {
+ public:
+  ImageWarp(const Map& map, const Element& element, int channels, const Rule& rule, int border, QvpiSize src,
+            QvpiSize dst, int smooth = 0, bool isWide = false);
+
+  QvpiWarpSpec* spec() const { return reinterpret_cast<QvpiWarpSpec*>(record_.data()); }
+  const Export& function() const { return function_; }
+  // To an image that begins with the tile.
+  QvpStatus operator()(const Argument& src, const Argument& dst, QvpiRect tile) const {
+    return function_({{"pSrc", src},
+                      {"pDst", dst},
+                      {"dstRoiOffset", QvpiPoint{tile.x, tile.y}},
+                      {"dstRoiSize", QvpiSize{tile.width, tile.height}},
+                      {"pSpec", {spec()}},
+                      {"pBuffer", {buffer_->data()}}});
+  }
+  void Whole(const Argument& src, const Argument& dst) const {
+    ASSERT_EQ((*this)(src, dst, {0, 0, size_.width, size_.height}), 0) << function_.name;
+  }
+
+ private:
+  const Export& function_;
+  QvpiSize size_;
+  Block record_;
+  std::unique_ptr<Block> buffer_;
+};
+
+// Makes a record of a warp by a method.
+QvpStatus InitWarp(const Map& map, const Rule& rule, QvpDataType type, int channels, int border, QvpiSize src,
+                   QvpiSize dst, int smooth, bool isWide, void* spec);
+
+// How near results are to the formulas.
+constexpr struct {
+  std::string_view type;
+  double tolerance;
+} kTypes[] = {{"8u", 1}, {"16u", 1}, {"16s", 1}, {"32f", 2e-3}, {"64f", 1e-9}};
 
 // An image of random numbers.
 inline Samples Numbers(const Element& element, int samples, int height, int gap) {
