@@ -101,25 +101,4 @@ TEST(Shift, FloorsNegativeNumbers) {
   EXPECT_EQ(shifted(40), (std::vector<int>{-1, -1, -1, 0}));
 }
 
-// One of each shape: the order of pointers and sizes holds for all functions and is tested with them.
-TEST(Logic, RefusesStepsBelowOneAfterTheSize) {
-  Qvp8u a[16] = {}, b[16] = {};
-  const QvpiSize one{1, 1}, none{0, 1};
-  const Qvp32u counts[3] = {1, 2, 3};
-  for (const int step : {0, -4}) {
-    EXPECT_EQ(qvpiAnd_8u_C1R(a, step, a, 4, b, 4, none), qvpStatusSize);
-    EXPECT_EQ(qvpiAnd_8u_C1R(a, step, a, 4, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOr_8u_AC4R(a, 4, a, step, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiXor_8u_C1R(a, 4, a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiAnd_8u_C1IR(a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOrC_8u_C1R(a, step, 255, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOrC_8u_C1IR(255, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiNot_8u_C1R(a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiNot_8u_C1IR(b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiShiftLeftC_8u_C3R(a, step, counts, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiShiftRightC_8u_C3IR(counts, b, step, one), qvpStatusStep);
-  }
-  for (const Qvp8u byte : b) EXPECT_EQ(byte, 0);
-}
-
 }  // namespace

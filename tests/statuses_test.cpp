@@ -73,18 +73,30 @@ class WrongArguments {
       for (const int step : {0, 1, static_cast<int>(right_.number) - 1}) Add(&Argument::number, step);
     } else if (name != "turns") {
       Add(&Argument::number, name == "divisor" ? 0 : -1);
+      if (IsQuery(function_)) Add(&Argument::number, 1000);
     }
   }
 
   void AddSelectorsAndSizes() {
-    const int huge = INT_MAX - 100 + static_cast<int>(place_);  // a filter is larger than its image
-    const bool isSize = Contains(type_, "Size") || Contains(type_, "Volume");
-    for (const auto member : {&Argument::number, &Argument::second, &Argument::third, &Argument::fourth,
-                              &Argument::fifth, &Argument::sixth}) {
+    constexpr auto kFirst = &Argument::number, kSecond = &Argument::second;
+    for (const auto member :
+         {kFirst, kSecond, &Argument::third, &Argument::fourth, &Argument::fifth, &Argument::sixth}) {
       Add(member, -1);
     }
-    Add(&Argument::number, isSize ? 0 : 99);
-    if (isSize && IsQuery(function_)) list.push_back(QvprVolume{huge, huge, huge});
+    const bool isSize = Contains(type_, "Size") || Contains(type_, "Volume");
+    if (isSize) AddSizes();
+    if (Contains(type_, "Border")) Add(kFirst, 2);
+    if (!isSize) Add(kFirst, 0x10F);
+  }
+
+  void AddSizes() {
+    const bool isMask = Contains(function_.parameters[place_].name, "mask");
+    const int huge = INT_MAX - 100 + static_cast<int>(place_);  // a filter is larger than its image
+    Add(&Argument::number, 0);
+    if (isMask) Add(&Argument::second, int{right_.second} - 1);
+    if (!IsQuery(function_)) return;
+    list.push_back(QvprVolume{huge, huge, huge});
+    if (isMask) list.insert(list.end(), {QvpiSize{1, 257}, QvpiSize{1, 1025}});
   }
 
   const Export& function_;
@@ -220,6 +232,41 @@ TEST(EveryFunction, RefusesEachNullPlane) {
         Scene scene(function, kRoi, 1);
         const_cast<const void**>(static_cast<const void* const*>(scene.arguments[i].pointer))[plane] = nullptr;
         EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << " plane " << plane;
+      }
+    }
+  }
+}
+
+// What a query tells of growing regions or masks; what it refuses is left out.
+void ExpectGrowth(Scene& scene, size_t place, QvpiSize other) {
+  const Export& function = scene.function();
+  for (size_t i = 0; i < scene.arguments.size(); ++i) {
+    if (function.parameters[i].type == "QvpiSize") scene.arguments[i] = other;
+  }
+  std::vector<int> before;
+  for (const int side : {1, 3, 5, 7, 9, 15, 17, 31, 33, 63, 65, 99, 127, 129, 255, 1001, 4097, 20001, 1000001}) {
+    scene.arguments[place] = QvpiSize{side, std::min(side, 1001)};
+    if (scene.Call() != qvpStatusNoError) continue;
+    std::vector<int> sizes;
+    for (size_t i = 0; i < scene.arguments.size(); ++i) {
+      if (function.parameters[i].name == "pBufferSize")
+        sizes.push_back(*static_cast<const int*>(scene.arguments[i].pointer));
+    }
+    for (size_t i = 0; i < before.size(); ++i) EXPECT_GE(sizes[i], before[i]) << function.name << ' ' << side;
+    before = sizes;
+  }
+}
+
+TEST(EveryFunction, TellsBuffersThatServeSmallerRegionsAndMasks) {
+  for (const Export& function : Exports()) {
+    if (!IsQuery(function) || !(function.Has("maskSize") || function.Has("radius"))) continue;
+    for (size_t place = 0; place < function.parameters.size(); ++place) {
+      if (function.parameters[place].type != "QvpiSize") continue;
+      for (const int side : {1, 3, 15, 127, 1001}) {
+        for (const uint64_t seed : {1, 2, 3, 4}) {  // for types and channels
+          Scene scene(function, kRoi, seed);
+          ExpectGrowth(scene, place, {side, std::min(side, 127)});
+        }
       }
     }
   }
