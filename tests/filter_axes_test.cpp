@@ -273,16 +273,4 @@ TEST(FilterGauss, KeepsConstants) {
   }
 }
 
-TEST(FilterGauss, TilesEqualTheWhole) {
-  const Export& function = FunctionNamed("qvpiFilterGaussBorder_32f_C1R");
-  const QvpiSize size{700, 40}, mask{9, 7};
-  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const Bordered scene(ElementOf("32f"), {}, {size, 1, kind});
-    const Prepared prepared = PrepareGauss(mask, 2, 1.5f, Name(function.name), size);
-    test::ExpectTilesEqualTheWhole(scene, {58, 18}, [&](const Part& part, const test::Argument& dst) {
-      return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
-    });
-  }
-}
-
 }  // namespace

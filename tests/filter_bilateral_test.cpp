@@ -141,20 +141,7 @@ TEST(FilterBilateral, EveryMemberEqualsItsFormula) {
   }
 }
 
-TEST(FilterBilateral, WideRegionsAndTiles) {
-  for (const auto& [name, radius] : {std::pair{"qvpiFilterBilateralBorder_32f_C1R", 9},
-                                     {"qvpiFilterBilateralBorder_8u_C1R", 5},
-                                     {"qvpiFilterBilateralBorder_16u_C1R", 12}}) {
-    const Export& function = test::FunctionNamed(name);
-    const Disc disc{radius, qvpNormL1, 50, 3};
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(Name(name).From(), {}, {{700, 40}, 1, kind});
-      const Prepared prepared = Prepare(disc, Name(name), {700, 40});
-      test::ExpectTilesEqualTheWhole(scene, {47, 20}, [&](const Part& part, const test::Argument& dst) {
-        return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
-      });
-    }
-  }
+TEST(FilterBilateral, FarReach) {
   const Disc far{127, qvpNormL2, 100, 60};
   Check(test::FunctionNamed("qvpiFilterBilateralBorder_8u_C3R"), far,
         Bordered(test::ElementOf("8u"), far.reach(), {{3, 1}, 3, qvpBorderMirror}));

@@ -226,25 +226,6 @@ TEST(FilterBorder, NeverWrapsAround) {
   }
 }
 
-// Tiles whose inner sides are in memory, filtered with one buffer of the whole image.
-void CheckTiles(std::string_view type, const Filter& f, QvpiSize size, QvpiSize tile, int kind) {
-  const Bordered scene(ElementOf(type), {}, {size, 1, kind});
-  const Prepared prepared = Prepare(f, size, scene.element().code, 1);
-  test::ExpectTilesEqualTheWhole(
-      scene, tile, [&](const Part& part, const test::Argument& dst) { return Apply(scene, prepared, part, dst); });
-}
-
-TEST(FilterBorder, TilesEqualTheWhole) {
-  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    for (const QvpiSize tile : {QvpiSize{16, 8}, {32, 24}, {96, 8}}) {
-      CheckTiles("8u", RandomFilter("16s", {5, 5}, 3, 16), {96, 48}, tile, kind);
-      CheckTiles("16s", RandomFilter("16s", {15, 3}, 300, 77), {96, 48}, tile, kind);
-      CheckTiles("32f", RandomFilter("32f", {4, 6}, 300), {96, 48}, tile, kind);
-    }
-    CheckTiles("32f", RandomFilter("32f", {4, 4}, 300), {34, 18}, {32, 16}, kind);  // the least for even sides
-  }
-}
-
 TEST(FilterBorder, IntegerResultsOfFloatsSaturateAndNaNIsTheLowest) {
   const float nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
   for (const float k : {nan, inf, -inf, 1e30f, -1e30f, 2.5f, -0.5f}) {

@@ -190,23 +190,6 @@ TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
   check("qvpiFilterMaxBorder_32f_C1R", {2, 2, 2, 0.0, 0.0, -INFINITY, -INFINITY});
 }
 
-TEST(FilterExtremes, TilesEqualTheWhole) {
-  const QvpiSize size{700, 60};
-  for (const auto& filter : {std::pair{"qvpiFilterMaxBorder_8u_C1R", Full({15, 9})},
-                             {"qvpiFilterMinBorder_32f_C1R", Full({6, 12})},
-                             {"qvpiFilterErodeBorder_16s_C1R", Disc(13)}}) {
-    const Export& function = FunctionNamed(filter.first);
-    const Mask& mask = filter.second;
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
-      const Prepared prepared = Prepare(function, mask, size);
-      test::ExpectTilesEqualTheWhole(scene, {60, 17}, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, mask, prepared, part, dst);
-      });
-    }
-  }
-}
-
 // By a mask without symmetry, which is turned for the second step: no pixel rises, and a second opening changes
 // nothing. Borders are never taken.
 TEST(FilterExtremes, OpeningsLowerOnceAndForAll) {

@@ -384,18 +384,6 @@ TEST(Gradients, AnglesOfZerosInfinitiesAndNaN) {
 
 // ---- Tiles, refusals
 
-TEST(FilterFixed, TilesEqualTheWhole) {
-  const Export& function = test::FunctionNamed("qvpiFilterLaplaceBorder_32f_C1R");
-  const QvpiSize mask{5, 5};
-  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const Bordered scene(ElementOf("32f"), {}, {{700, 40}, 1, kind});
-    const auto buffer = BufferFor(mask, scene.region.size, scene.element(), 1);
-    test::ExpectTilesEqualTheWhole(scene, {38, 19}, [&](const test::Part& part, const test::Argument& dst) {
-      return test::Filter(function, scene, part, buffer, {{"pDst", dst}, {"maskSize", mask}});
-    });
-  }
-}
-
 TEST(FilterFixed, TakesTheMasksAndBordersOfEachKernel) {
   Qvp16u src[16] = {};
   Qvp32f dst[16];

@@ -180,17 +180,4 @@ TEST(LocalThreshold, KnownValues) {
   EXPECT_EQ(peak(-90.9f), (std::vector<int>{0, 0, 0}));
 }
 
-TEST(LocalThreshold, TilesEqualTheWhole) {
-  for (const auto& [types, sigma] : {std::pair{"8u", 0.0f}, {"32f", 0.0f}, {"8u", 3.0f}, {"16u", 3.0f}}) {
-    const Demand demand{{21, 19}, 2.5f, sigma};
-    const Export& function = test::FunctionNamed(demand.name(types + std::string("_C1R")));
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(test::ElementOf(types), {}, {{1500, 50}, 1, kind});
-      test::ExpectTilesEqualTheWhole(scene, {70, 25}, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, demand, part, dst);
-      });
-    }
-  }
-}
-
 }  // namespace

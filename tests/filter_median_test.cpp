@@ -290,21 +290,4 @@ TEST(FilterMedian, GivesTheDocumentedExamples) {
   EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kMixed, {{3, 3}, 1, qvpNormL2}), (Pixel{20, 50, 60}));
 }
 
-TEST(FilterMedian, TilesEqualTheWhole) {
-  const QvpiSize size{400, 52}, most{45, 13};
-  for (const auto& filter : {std::pair{"qvpiFilterMedianBorder_8u_C1R", Manner{{5, 5}}},
-                             {"qvpiFilterMedianBorder_8u_C1R", {{23, 21}}},
-                             {"qvpiFilterMedianCenterBorder_16u_C1R", {{7, 9}, 4}},
-                             {"qvpiFilterMedianBorder_32f_C1R", {{19, 21}}}}) {
-    const Export& function = FunctionNamed(filter.first);
-    for (const int kind : {qvpBorderReplicate, qvpBorderConst}) {
-      Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
-      FillScene(scene, 2);
-      test::ExpectTilesEqualTheWhole(scene, most, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, filter.second, part, dst);
-      });
-    }
-  }
-}
-
 }  // namespace

@@ -216,18 +216,4 @@ TEST(FilterSums, NotANumberReachesItsWindowsAlone) {
   }
 }
 
-TEST(FilterSums, TilesEqualTheWhole) {
-  const QvpiSize size{700, 40};
-  const Mask mask{{9, 12}, {3, 8}};
-  for (const char* const type : {"32f", "8u"}) {
-    const Export& function = FunctionNamed(std::string("qvpiFilterBoxBorder_") + type + "_C1R");
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(ElementOf(type), {}, {size, 1, kind});
-      test::ExpectTilesEqualTheWhole(scene, {70, 20}, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, mask, part, dst);
-      });
-    }
-  }
-}
-
 }  // namespace

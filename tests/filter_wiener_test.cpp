@@ -134,17 +134,4 @@ TEST(FilterWiener, KnownValues) {
   }
 }
 
-TEST(FilterWiener, TilesEqualTheWhole) {
-  for (const char* const type : {"32f", "16u"}) {
-    const Export& function = test::FunctionNamed(std::string("qvpiFilterWienerBorder_") + type + "_C1R");
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(test::ElementOf(type), {}, {{1500, 40}, 1, kind});
-      test::ExpectTilesEqualTheWhole(scene, {70, 20}, [&](const Part& part, const test::Argument& dst) {
-        return test::Filter(function, scene, part, Buffer(Name(function.name), {11, 9}, part.size),
-                            {{"pDst", dst}, {"maskSize", QvpiSize{11, 9}}, {"noise", 0.02f}});
-      });
-    }
-  }
-}
-
 }  // namespace

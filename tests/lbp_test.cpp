@@ -153,16 +153,6 @@ TEST(LocalPatterns, KnownValues) {
   EXPECT_EQ(wide[12], 65025);
 }
 
-TEST(LocalPatterns, TilesEqualTheWhole) {
-  const Export& function = test::FunctionNamed("qvpiFilterLBPBorder_8u_C1R");
-  for (const int border : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const Bordered scene(test::ElementOf("8u"), test::ReachOf({5, 5}), {{101, 30}, 1, border});
-    test::ExpectTilesEqualTheWhole(scene, {33, 7}, [&](const test::Part& part, const test::Argument& dst) {
-      return Call(function, scene, part, dst, {5, 5}, qvpLBPUniform);
-    });
-  }
-}
-
 TEST(LocalPatterns, TakesTheMasksOfItsResults) {
   uint8_t in[64] = {}, out[64] = {}, buffer[8192];
   auto* const wide = reinterpret_cast<Qvp16u*>(out);
