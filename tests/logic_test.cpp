@@ -1,13 +1,12 @@
 // Bitwise operations and shifts: each member against one formula in 64 bits, over its whole grid.
 #include <array>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
 using test::Export;
-using test::Guard;
-using test::Image;
 using test::Name;
+using test::Real;
 
 // Constants or counts of the channels; two's complement makes numbers of any type of them.
 using Values = std::array<uint32_t, 4>;
@@ -33,33 +32,15 @@ void Check(const Export& function, int pixels, const Values& values) {
   const Name name(function.name);
   const bool hasConstant = function.Has("value"), isShift = name.operation.starts_with("Shift");
   const std::string operation = name.operation.substr(0, name.operation.size() - hasConstant);
-  const int samples = pixels * name.channels, height = pixels == 7 ? 700 : 3;  // more narrow rows than go together
-  const Image<T> a(samples, height, 7), b(samples, height, 3);
-  Image<T> dst(samples, height, 5, Guard::kBefore), both(b);
-  const Image<T> before(dst);
-  auto& out = name.inPlace ? both : dst;
-  const bool isBinary = function.Has(name.inPlace ? "pSrc" : "pSrc2");
+  const int height = pixels == 7 ? 700 : 3;  // more narrow rows than go together
   T constants[4];
   for (int c = 0; c < 4; ++c) constants[c] = static_cast<T>(values[c]);
   const auto value = isShift ? test::Argument(values.data(), values[0]) : test::Argument(constants, constants[0]);
-  ASSERT_EQ(function({{"pSrc", isBinary ? a : b},
-                      {"pSrc1", a},
-                      {"pSrc2", b},
-                      {"pDst", out},
-                      {"pSrcDst", out},
-                      {"value", value},
-                      {"roiSize", QvpiSize{pixels, height}}}),
-            qvpStatusNoError)
-      << function.name;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) {
-      const int c = x % name.channels;
-      const T kept = name.inPlace ? b(x, y) : before(x, y), first = isBinary ? a(x, y) : constants[c];
-      const T expected = c < name.written ? Expected<T>(operation, first, b(x, y), values[c]) : kept;
-      ASSERT_EQ(out(x, y), expected) << function.name << " at " << x << ',' << y << " of " << +b(x, y) << " and "
-                                     << values[c];
-    }
-  }
+  test::CheckElements(
+      function, {pixels, height}, {{"value", value}}, [](const test::Samples&) {},
+      [&](Real a, Real b, int c) {
+        return Expected<T>(operation, hasConstant ? constants[c] : static_cast<T>(a), static_cast<T>(b), values[c]);
+      });
 }
 
 void CheckAll(std::initializer_list<std::string_view> operations, std::initializer_list<int> widths,

@@ -2,7 +2,7 @@
 #include <array>
 #include <numeric>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
 using test::Block;
@@ -32,30 +32,15 @@ struct Table {
 template <class T>
 void Check(const Export& function, int pixels, const Table<T> (&tables)[4], const std::array<int, 4>& of) {
   const Name name(function.name);
-  const int samples = pixels * name.channels, height = 3;
-  Image<T> src(samples, height, 7), dst(samples, height, 2, Guard::kBefore);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) src.Put(x, y, static_cast<T>(x / name.channels * 7 + y * 85));
-  }
-  Image<T> both(src);
-  const Image<T> before(dst);
-  auto& out = name.inPlace ? both : dst;
   const T* pointers[4];
   for (int c = 0; c < 4; ++c) pointers[c] = c < name.written ? tables[of[c]].data() : nullptr;
   const void* const table = name.channels == 1 ? static_cast<const void*>(pointers[0]) : pointers;
-  ASSERT_EQ(
-      function(
-          {{"pSrc", src}, {"pDst", out}, {"pSrcDst", out}, {"roiSize", QvpiSize{pixels, height}}, {"pTable", table}}),
-      qvpStatusNoError)
-      << function.name;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) {
-      const int c = x % name.channels;
-      const T kept = name.inPlace ? src(x, y) : before(x, y);
-      const T expected = c < name.written ? tables[of[c]][static_cast<size_t>(src(x, y))] : kept;
-      ASSERT_EQ(out(x, y), expected) << function.name << " at " << x << ',' << y << " of " << +src(x, y);
-    }
-  }
+  test::CheckElements(
+      function, {pixels, 3}, {{"pTable", table}},
+      [&](test::Samples& image) {
+        image.Fill([&](int x, int y) { return static_cast<T>(x / name.channels * 7 + y * 85); });
+      },
+      [&](test::Real, test::Real v, int c) { return tables[of[c]][static_cast<size_t>(v)]; });
 }
 
 template <class T>

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
 using test::Export;
@@ -35,37 +35,23 @@ std::vector<T> Specials() {
 
 template <class T>
 void Check(const Export& function, int pixels, const Constants<T>& k, QvpCmpOp relation) {
-  const Name name(function.name);
-  const int samples = pixels * name.channels, height = 3;
-  test::Image<T> src(samples, height, 7), dst(samples, height, 2, test::Guard::kBefore);
+  const std::string operation = Name(function.name).operation;
+  const bool isGreater = operation == "Threshold" ? relation == qvpCmpGreater : IsAboveForm(operation);
   const auto specials = Specials<T>();
-  for (int i = 0; i < samples * height; ++i)
-    src.Put(i % samples, i / samples, specials[(i * 7 + i / 13) % specials.size()]);
-  test::Image<T> both(src);
-  const test::Image<T> before(dst);
-  auto& out = name.inPlace ? both : dst;
-  const bool isGreater = name.operation == "Threshold" ? relation == qvpCmpGreater : IsAboveForm(name.operation);
   const auto constants = [](const T* values) { return test::Argument(values, values[0]); };
-  ASSERT_EQ(function({{"pSrc", src},
-                      {"pDst", out},
-                      {"pSrcDst", out},
-                      {"roiSize", QvpiSize{pixels, height}},
-                      {"cmpOp", relation},
-                      {"threshold", constants(k.lower)},
-                      {"value", constants(k.below)},
-                      {"thresholdLT", constants(k.lower)},
-                      {"valueLT", constants(k.below)},
-                      {"thresholdGT", constants(k.upper)},
-                      {"valueGT", constants(k.above)}}),
-            qvpStatusNoError)
-      << function.name;
-  for (int i = 0; i < samples * height; ++i) {
-    const int x = i % samples, y = i / samples, c = x % name.channels;
-    const T kept = name.inPlace ? src(x, y) : before(x, y);
-    const T expected = c < name.written ? Expected(name.operation, isGreater, src(x, y), k, c) : kept;
-    ASSERT_TRUE(test::SameBits(out(x, y), expected)) << function.name << " at " << x << ',' << y << " src "
-                                                     << +src(x, y) << " is " << +out(x, y) << " not " << +expected;
-  }
+  test::CheckElements(
+      function, {pixels, 3},
+      {{"cmpOp", relation},
+       {"threshold", constants(k.lower)},
+       {"value", constants(k.below)},
+       {"thresholdLT", constants(k.lower)},
+       {"valueLT", constants(k.below)},
+       {"thresholdGT", constants(k.upper)},
+       {"valueGT", constants(k.above)}},
+      [&](test::Samples& image) {
+        image.Fill([&](int x, int y) { return specials[(x * 7 + x / 13 + y * 5) % specials.size()]; });
+      },
+      [&](test::Real, test::Real v, int c) { return Expected(operation, isGreater, static_cast<T>(v), k, c); });
 }
 
 TEST(Threshold, TreatsSpecialValuesInEveryLaneOfEveryMember) {
