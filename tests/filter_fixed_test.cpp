@@ -172,27 +172,6 @@ TEST(FilterFixed, EveryMemberEqualsItsTable) {
   EXPECT_EQ(turn, 8 * (32 * 2 + 96 * 2 - 24));  // Scharr and Roberts have one mask
 }
 
-TEST(FilterFixed, EveryBorderAndSideInMemory) {
-  for (const char* types : {"8u16s_C1R", "32f_C3R", "16u32f_C1R"}) {
-    for (const char* kind : {"SobelX", "Laplace", "RobertsUp"}) {
-      for (const Export* function : FixedFunctions()) {
-        if (function->name != std::string("qvpiFilter") + kind + "Border_" + types) continue;
-        for (int flags = 0; flags < 256; flags += 16) {
-          for (const QvpiSize roi : {QvpiSize{1, 1}, {2, 7}, {66, 5}, {300, 3}}) {
-            const auto& sides = kKernels.at(kind);
-            for (const int border : {1, 3, 6}) {
-              CheckFixed(*function, sides.rbegin()->first, {roi, Name(function->name).channels, flags | border},
-                         test::Guard::kAfter);
-            }
-          }
-        }
-        CheckFixed(*function, kKernels.at(kind).begin()->first, {{40, 4}, Name(function->name).channels, 0xF0},
-                   test::Guard::kBefore);
-      }
-    }
-  }
-}
-
 // One NaN or infinity spoils the results that have it under a coefficient, and no others.
 TEST(FilterFixed, NaNReachesWhatItsCoefficientsReach) {
   for (const float bad : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {

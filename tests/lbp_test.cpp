@@ -90,19 +90,6 @@ TEST(LocalPatterns, EveryMemberEqualsItsDefinition) {
   EXPECT_EQ(turn, 24 * 24);
 }
 
-TEST(LocalPatterns, EveryBorderAndSideInMemory) {
-  for (const char* name : {"qvpiFilterLBPBorder_8u_C3R", "qvpiFilterLBPBorder_32f16u_C1R"}) {
-    for (int border = 0; border < 256; border += 16) {
-      for (const QvpiSize size : {QvpiSize{1, 1}, {2, 3}, {40, 4}}) {
-        for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-          const Export& function = test::FunctionNamed(name);
-          Check(function, 5, qvpLBPCode, {size, Name(name).channels, border | kind}, test::Guard::kAfter);
-        }
-      }
-    }
-  }
-}
-
 // Squares of pixels, each of which has another code in its middle.
 TEST(LocalPatterns, EveryCodeHasItsLabel) {
   for (const int neighbours : {8, 16}) {

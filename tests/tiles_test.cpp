@@ -76,7 +76,7 @@ int CheckTiles(const Export& function, uint64_t seed, QvpiBorderType kind, int t
   return std::size(kTiles);
 }
 
-TEST(EveryFunction, FiltersTilesAsTheWhole) {
+TEST(Tiles, AreFilteredAsTheWhole) {
   int tiles = 0;
   for (const Export& function : Exports()) {
     if (!IsFilter(function)) continue;
