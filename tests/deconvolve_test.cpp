@@ -7,7 +7,6 @@
 #include "tests/support/bordered.h"
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Export;

@@ -1,6 +1,5 @@
 // The general filter against a direct convolution.
 #include <cmath>
-#include <functional>
 
 #include "tests/support/bordered.h"
 

@@ -67,6 +67,7 @@ Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
     return Prepared(buffer);
   }
   EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
+  test::ExpectModest(buffer, mask.size, roi, name.channels);
   EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
   Prepared prepared(spec, buffer);
   EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor,

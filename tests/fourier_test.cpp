@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "tests/support/name.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Block;

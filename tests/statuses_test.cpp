@@ -92,7 +92,7 @@ class WrongArguments {
   void AddSizes() {
     const bool isMask = Contains(function_.parameters[place_].name, "mask");
     const int huge = INT_MAX - 100 + static_cast<int>(place_);  // a filter is larger than its image
-    Add(&Argument::number, 0);
+    for (const auto member : {&Argument::number, &Argument::second}) Add(member, 0);
     if (isMask) Add(&Argument::second, int{right_.second} - 1);
     if (!IsQuery(function_)) return;
     list.push_back(QvprVolume{huge, huge, huge});
@@ -149,7 +149,10 @@ std::vector<Refusal> RefusalsOf(Scene& scene) {
       if (status < 0) refusals.push_back({place, wrong, status});
       const std::string about = function.name + " with another " + std::string(function.parameters[place].name);
       if (status < 0 && !Contains(function.name, "Get")) ExpectUntouched(scene, isInit && !isRecord, before, about);
+      const bool isRegion = function.parameters[place].name == "roiSize";
+      const bool isEmpty = isRegion && (int{wrong.number} < 1 || int{wrong.second} < 1);
       EXPECT_TRUE(status == qvpStatusNullPointer || !right.pointer || wrong.pointer) << about;
+      EXPECT_TRUE(status == qvpStatusSize || !isEmpty) << about;
     }
   }
   return refusals;

@@ -4,7 +4,6 @@
 
 #include "gtest/gtest.h"
 #include "tests/support/bordered.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Export;
