@@ -13,7 +13,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 using test::Region;

@@ -8,7 +8,6 @@ using test::Bordered;
 using test::Element;
 using test::Export;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 

@@ -10,7 +10,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Random;
 using test::Real;
@@ -76,14 +75,9 @@ Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
   return prepared;
 }
 
-// Filters a part of a scene, or all of it.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Prepared& prepared,
-                const Part& part, const test::Argument& dst) {
-  return test::Filter(function, scene, part, prepared,
-                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
-}
 QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Argument& dst) {
-  return Apply(function, scene, mask, Prepare(function, mask, scene.region.size), test::WholeOf(scene), dst);
+  return test::Filter(function, scene, test::WholeOf(scene), Prepare(function, mask, scene.region.size),
+                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
 }
 
 bool IsBelow(Real a, Real b) { return a < b || (a == b && std::signbit(a) && !std::signbit(b)); }

@@ -11,7 +11,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Random;
 using test::Real;
 using test::Region;
@@ -36,14 +35,11 @@ int BufferSize(const Export& function, const Manner& manner, QvpiSize roi) {
   return bytes;
 }
 
-// Filters a part of a scene, or all of it, with a buffer of the reported size before an unreadable page.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const Part& part,
-                const test::Argument& dst) {
-  return test::Filter(function, scene, part, test::Prepared(BufferSize(function, manner, part.size)),
-                      {{"pDst", dst}, {"maskSize", manner.mask}, {"weight", manner.weight}, {"normType", manner.norm}});
-}
+// Filters a scene with a buffer of the reported size before an unreadable page.
 QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const test::Argument& dst) {
-  return Apply(function, scene, manner, test::WholeOf(scene), dst);
+  return test::Filter(function, scene, test::WholeOf(scene),
+                      test::Prepared(BufferSize(function, manner, scene.region.size)),
+                      {{"pDst", dst}, {"maskSize", manner.mask}, {"weight", manner.weight}, {"normType", manner.norm}});
 }
 
 // ---- The definition

@@ -7,7 +7,6 @@ namespace {
 using test::Bordered;
 using test::Export;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 
