@@ -325,29 +325,18 @@ TEST(Arithmetic, DividesFloatsCorrectly) {
   }
 }
 
-// Refusals of a step, of a constant of zero and of a rounding mode, in this order; nothing is written.
-TEST(Arithmetic, ChecksOfDivision) {
-  const Image<Qvp8u> a(8, 2, 0), b(8, 2, 0), dst(8, 2, 0), before(dst);
+// One channel's zero is enough, of either sign.
+TEST(Arithmetic, RefusesConstantsOfZero) {
+  const Image<Qvp8u> b(8, 2, 0), dst(8, 2, 0);
   Image<Qvp8u> zero(1, 1, 0);
   zero.Put(0, 0, 0);
   for (const Function& f : Functions("8u")) {
-    if (f.channels != 1 || f.inPlace) continue;
-    if (f.operation == "Div" && f.hasConstant) {
-      EXPECT_EQ(Call(f, zero, b, dst, {8, 2}, 0, 1), qvpStatusDivideByZeroError);
-    }
-    if (f.operation == "Div_Round") {
-      for (const int mode : {-1, 3, INT32_MIN}) EXPECT_EQ(Call(f, a, b, dst, {8, 2}, 0, mode), qvpStatusRoundMode);
-    }
+    if (f.channels != 1 || f.inPlace || f.operation != "Div" || !f.hasConstant) continue;
+    EXPECT_EQ(Call(f, zero, b, dst, {8, 2}, 0, 1), qvpStatusDivideByZeroError);
   }
   const Qvp32f constants[3] = {1, -0.0f, 2}, values[3] = {5, 6, 7};
-  Qvp32f out[3] = {5, 6, 7};
+  Qvp32f out[3];
   EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 12, {1, 1}), qvpStatusDivideByZeroError);
-  EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 0, {1, 1}), qvpStatusStep);
-  EXPECT_EQ(qvpiDivC_32f_C3R(values, 12, constants, out, 0, {0, 1}), qvpStatusSize);
-  EXPECT_EQ(std::memcmp(out, values, sizeof(out)), 0);
-  EXPECT_EQ(qvpiDiv_8u_C1RSfs(a.data(), 0, b.data(), 8, dst.data(), 8, {8, 2}, 0), qvpStatusStep);
-  EXPECT_EQ(qvpiDiv_Round_8u_C1RSfs(a.data(), 8, b.data(), -8, dst.data(), 8, {8, 2}, 7, 0), qvpStatusStep);
-  EXPECT_EQ(std::memcmp(dst.bytes(), before.bytes(), 16), 0);
 }
 
 // Results that go past the caches leave in whole lines from any start, and are the same.

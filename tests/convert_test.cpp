@@ -2,16 +2,13 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 #include "tests/support/reference.h"
 
 namespace {
-using test::Argument;
-using test::Export;
-
-using test::AreSame;
 using test::Converted;
 using test::Element;
+using test::Export;
 using test::Real;
 
 // All values of small types; of others the ends, powers of two, halves and their neighbours, and random bits.
@@ -64,36 +61,18 @@ std::vector<Conversion> ConversionsOf(const std::string& operation, std::string_
   return found;
 }
 
-// Calls the function on rows of all values and compares every element. Further arguments follow the size, but for some
-// that follow the source.
+// Calls the function on rows of all values and compares every element.
 template <class Expected>
-void Check(const Conversion& c, const std::vector<Argument>& further, const Expected& expected, size_t before = 0) {
-  const std::string& name = c.function->name;
-  const int channels = name.find("C4") != std::string::npos ? 4 : name.find("_C3") != std::string::npos ? 3 : 1;
-  const int written = name.find("_AC4") != std::string::npos ? 3 : channels;
-  const auto values = Values(*c.from);
-  const int height = 3, pixels = static_cast<int>(values.size()) / channels / height + 1, samples = pixels * channels;
-  const bool inPlace = c.function->Find("pSrcDst") >= 0;
-  test::Image<uint8_t> src(samples * c.from->bytes, height, 3);
-  test::Image<uint8_t> dst(samples * c.to->bytes, height, 5, test::Guard::kBefore);
-  const auto at = [&](const test::Image<uint8_t>& image, int i, size_t bytes) {
-    return image.bytes() + i / samples * image.step() + i % samples * bytes;
-  };
-  for (int i = 0; i < samples * height; ++i) c.from->write(at(src, i, c.from->bytes), values[i % values.size()]);
-  const test::Image<uint8_t> given(src), kept(dst);
-  std::vector<Argument> arguments{{src.data()}, {nullptr, src.step()}};
-  arguments.insert(arguments.end(), further.begin(), further.begin() + before);
-  if (!inPlace) arguments.insert(arguments.end(), {{dst.data()}, {nullptr, dst.step()}});
-  arguments.push_back({nullptr, pixels, height});
-  arguments.insert(arguments.end(), further.begin() + before, further.end());
-  ASSERT_EQ(c.function->call(arguments.data()), qvpStatusNoError) << name;
-  for (int i = 0; i < samples * height; ++i) {
-    const Real v = c.from->read(at(given, i, c.from->bytes));
-    const Real is = c.to->read(inPlace ? at(src, i, c.from->bytes) : at(dst, i, c.to->bytes));
-    const bool isWritten = i % channels < written;
-    const Real wanted = isWritten ? expected(v) : c.to->read(at(kept, i, c.to->bytes));
-    ASSERT_TRUE(AreSame(is, wanted)) << name << " of " << v << " is " << is << ", not " << wanted;
-  }
+void Check(const Conversion& c, const std::vector<test::Named>& more, const Expected& expected) {
+  const std::vector<Real> values = Values(*c.from);
+  const int channels = test::Name(c.function->name).channels, height = 3;
+  const int pixels = static_cast<int>(values.size()) / channels / height + 1, samples = pixels * channels;
+  test::CheckElements(
+      *c.function, {pixels, height}, more,
+      [&](test::Samples& image) {
+        image.Fill([&](int x, int y) { return values[(y * samples + x) % values.size()]; });
+      },
+      [&](Real, Real v, int) { return expected(v); });
 }
 
 TEST(Convert, SaturatesEveryValue) {
@@ -109,7 +88,7 @@ TEST(Convert, RoundsFloatsInEveryMode) {
   for (const auto& c : ConversionsOf("qvpiConvert", "R")) {
     if (c.function->Find("roundMode") < 0) continue;
     for (const int mode : {0, 1, 2, 7, -1}) {
-      Check(c, {{nullptr, mode}}, [&](Real v) { return Converted(*c.to, v, mode); });
+      Check(c, {{"roundMode", mode}}, [&](Real v) { return Converted(*c.to, v, mode); });
     }
   }
 }
@@ -118,7 +97,7 @@ TEST(Convert, ScalesByPowersOfTwoInEveryMode) {
   for (const auto& c : ConversionsOf("qvpiConvert", "RSfs")) {
     for (const int mode : {0, 1, 2}) {
       for (const int scale : {INT32_MIN, -160, -33, -8, -1, 0, 1, 4, 7, 8, 9, 16, 31, 32, 33, 160, INT32_MAX}) {
-        Check(c, {{nullptr, mode}, {nullptr, scale}},
+        Check(c, {{"roundMode", mode}, {"scaleFactor", scale}},
               [&](Real v) { return Converted(*c.to, std::ldexp(v, -std::clamp(scale, -3000, 3000)), mode); });
       }
     }
@@ -149,12 +128,11 @@ TEST(Scale, MapsFullRangesOntoEachOther) {
   }
 }
 
-// The functions take the bounds as floats: arguments of the list are whole numbers.
 TEST(Scale, MapsRangesOfFloats) {
   for (const auto& c : ConversionsOf("qvpiScale", "R")) {
     if (c.function->Find("vMin") < 0) continue;
     for (const auto& [low, high] : {std::pair{-3, 1000}, {0, 100}, {7, 8}}) {
-      Check(c, {{nullptr, low}, {nullptr, high}}, [&, first = Real(low), range = Real(high - low)](Real v) {
+      Check(c, {{"vMin", low}, {"vMax", high}}, [&, first = Real(low), range = Real(high - low)](Real v) {
         if (!c.from->isInteger) return Converted(*c.to, (v - first) * 255 / range);
         return Converted(*c.to,
                          static_cast<double>(first) + static_cast<double>(v) * (static_cast<double>(range) / 255));
@@ -201,9 +179,8 @@ TEST(ScaleC, ComputesInThePrecisionOfHintAndTypes) {
   for (const auto& c : ConversionsOf("qvpiScaleC", "R")) {
     for (const auto& k : {std::pair{3, -7}, {-2, 100}, {1, 0}, {0, 70000}}) {
       for (const int hint : {0, 1, 2}) {
-        Check(
-            c, {{nullptr, k.first}, {nullptr, k.second}, {nullptr, hint}},
-            [&](Real v) { return ScaledByConstant(c, v, k.first, k.second, hint); }, 2);
+        Check(c, {{"mVal", k.first}, {"aVal", k.second}, {"hint", hint}},
+              [&](Real v) { return ScaledByConstant(c, v, k.first, k.second, hint); });
       }
     }
   }

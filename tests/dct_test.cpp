@@ -4,7 +4,6 @@
 
 #include "gtest/gtest.h"
 #include "tests/support/bordered.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Export;
@@ -133,20 +132,6 @@ TEST(Dct, EveryMemberFlagAndPlace) {
   }
 }
 
-TEST(Dct, SharesARecordBetweenThreads) {
-  constexpr QvpiSize kSize{60, 47};
-  const Transform shared(kSize, 4);
-  const int bytes = Transform::SizesOf(kSize, 4).second;
-  std::vector<float> image(kSize.width * kSize.height);
-  for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<float>(i * 37 % 101);
-  std::vector<std::vector<float>> results(8, std::vector<float>(image.size()));
-  test::InThreads(8, [&](int thread) {
-    std::vector<uint8_t> buffer(bytes);
-    qvpiDCTFwd_32f_C1R(image.data(), 240, results[thread].data(), 240, shared.spec(), buffer.data());
-  });
-  for (const auto& result : results) EXPECT_EQ(result, results[0]);
-}
-
 TEST(Dct, KnownValues) {
   const float pixels[8] = {1, 2, 3, 4, 5, 6, 7, 8};
   const auto transformed = [&](int flag) {
@@ -161,31 +146,6 @@ TEST(Dct, KnownValues) {
   expect(transformed(8), {36, -6.308644f, 0, -0.448342f, -11.313708f, 0, 0, 0});
   expect(transformed(4), {12.727922f, -3.154322f, 0, -0.224171f, -5.656854f, 0, 0, 0});
   EXPECT_EQ(transformed(1)[0], 4.5f);
-}
-
-TEST(Dct, RefusesInTheDocumentedOrder) {
-  int spec = 7, init = 7, buffer = 7;
-  EXPECT_EQ(qvpiDCTGetSize_32f({0, 1}, 3, 0, nullptr, &init, &buffer), qvpStatusNullPointer);
-  EXPECT_EQ(qvpiDCTGetSize_32f({0, 1}, 3, 0, &spec, &init, &buffer), qvpStatusSize);
-  EXPECT_EQ(qvpiDCTGetSize_32f({1, 1}, 3, 0, &spec, &init, &buffer), qvpStatusFftFlag);
-  EXPECT_EQ(qvpiDCTGetSize_32f({INT_MAX, 1}, 4, 0, &spec, &init, &buffer), qvpStatusSizeOverflow);
-  EXPECT_EQ(spec, 0);
-  EXPECT_EQ(qvpiDCTInit_32f({0, 1}, 3, 0, nullptr, nullptr), qvpStatusNullPointer);
-  const Transform transform({8, 8}, 8);
-  float pixels[64] = {};
-  const auto call = [&](const float* src, int step, const QvpiDCTSpec_32f* record, Qvp8u* work) {
-    return qvpiDCTFwd_32f_C1R(src, step, pixels, 32, record, work);
-  };
-  EXPECT_EQ(call(nullptr, 0, nullptr, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(call(pixels, 0, transform.spec(), nullptr), qvpStatusStep);
-  EXPECT_EQ(call(pixels, 32, transform.spec(), nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(call(pixels, 32, transform.spec(), transform.buffer()), 0);
-  EXPECT_EQ(
-      qvpiDFTFwd_RToPack_32f_C1R(pixels, 32, pixels, 32, reinterpret_cast<const QvpiDFTSpec_R_32f*>(transform.spec()),
-                                 transform.buffer()),
-      qvpStatusContextMatch);
-  EXPECT_EQ(qvpiDCTInit_32f({8, 8}, 5, 0, transform.spec(), nullptr), qvpStatusFftFlag);
-  EXPECT_EQ(call(nullptr, 0, transform.spec(), nullptr), qvpStatusContextMatch);
 }
 
 }  // namespace

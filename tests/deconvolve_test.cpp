@@ -7,7 +7,6 @@
 #include "tests/support/bordered.h"
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
-#include "tests/support/threads.h"
 
 namespace {
 using test::Export;
@@ -285,23 +284,6 @@ TEST(Deconvolve, FlatPicturesAndNoBlur) {
   EXPECT_NEAR(found[2], 5, 4e-6);
   ASSERT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 12, found.data(), 12, 1, 0, none.spec(), none.buffer()), 0);
   EXPECT_TRUE(std::isnan(found[0]));
-}
-
-TEST(Deconvolve, SharesARecordBetweenThreads) {
-  constexpr int kWidth = 40, kHeight = 24;
-  const Spread spread = SpreadOf({7, 5});
-  const Deconvolution shared({kWidth, kHeight}, spread, qvpBorderMirror);
-  int spec, init, bytes;
-  ASSERT_EQ(qvpiDeconvolveGetSize_32f({kWidth, kHeight}, spread.size, qvpBorderMirror, &spec, &init, &bytes), 0);
-  std::vector<float> image(kWidth * kHeight);
-  for (size_t i = 0; i < image.size(); ++i) image[i] = static_cast<float>(i * 37 % 101);
-  std::vector<std::vector<float>> results(8, std::vector<float>(image.size()));
-  test::InThreads(8, [&](int thread) {
-    std::vector<uint8_t> buffer(bytes);
-    qvpiDeconvolveIterative_32f_C1R(image.data(), 4 * kWidth, results[thread].data(), 4 * kWidth, 5, 1e-6F,
-                                    shared.spec(), buffer.data());
-  });
-  for (const auto& result : results) EXPECT_EQ(result, results[0]);
 }
 
 TEST(Deconvolve, RefusesWhatItsParametersForbid) {

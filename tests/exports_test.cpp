@@ -1,5 +1,5 @@
-// What holds for every function alike: the order of the first checks, untouched outputs after a refusal, no system
-// call, no change of the floating-point control state, and any alignment of the stack.
+// What holds for every function alike: no system call, no change of the floating-point control state, and any alignment
+// of the stack.
 #include "tests/support/exports.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,6 @@
 
 #include "qvpcore.h"
 #include "tests/support/control.h"
-#include "tests/support/name.h"
 
 namespace {
 using test::Export;
@@ -21,89 +20,6 @@ using test::Exports;
 using test::Scene;
 
 constexpr QvpiSize kRoi{37, 5};
-
-bool IsPointer(const test::Parameter& parameter) {
-  return parameter.type.ends_with("*") || parameter.type.ends_with("]");
-}
-
-// Whether a refused call has left its outputs as they were. An Init takes the identification, a word, of the record
-// away.
-bool IsUntouched(const Scene& scene, const std::vector<uint8_t>& before) {
-  const std::vector<uint8_t> after = scene.Outputs();
-  size_t first = 0, end = after.size();
-  while (first < end && before[first] == after[first]) ++first;
-  while (end > first && before[end - 1] == after[end - 1]) --end;
-  const bool isCleared =
-      std::all_of(after.begin() + first, after.begin() + end, [](uint8_t byte) { return byte == 0; });
-  const bool isInit = scene.function().name.find("Init") != std::string::npos;
-  return first == end || (isInit && isCleared && end - first <= sizeof(uint32_t));
-}
-
-TEST(EveryFunction, RefusesEachNullPointerAndWritesNothing) {
-  for (const Export& function : Exports()) {
-    const int border = function.Find("borderType");
-    for (size_t i = 0; i < function.parameters.size(); ++i) {
-      if (!IsPointer(function.parameters[i]) || function.MayBeNull(i)) continue;
-      Scene scene(function, kRoi, 1);
-      const std::vector<uint8_t> before = scene.Outputs();
-      scene.arguments[i].pointer = nullptr;
-      // No other kind takes a value.
-      if (function.parameters[i].name == "borderValue" && border >= 0) scene.arguments[border] = qvpBorderConst;
-      EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << " argument " << i;
-      EXPECT_TRUE(IsUntouched(scene, before)) << function.name << " argument " << i;
-    }
-  }
-}
-
-// Pointers that an array of them has for a call.
-int PlanesOf(const std::string& function) {
-  const test::Name name(function);
-  if (!name.layout.empty()) return name.written;
-  return function == "qvpiHistogramInit" || function == "qvpiLookupInit" ? 3 : 4;
-}
-
-TEST(EveryFunction, RefusesEachNullPlane) {
-  for (const Export& function : Exports()) {
-    for (size_t i = 0; i < function.parameters.size(); ++i) {
-      if (!function.parameters[i].type.ends_with("* const*")) continue;
-      for (int plane = 0; plane < PlanesOf(function.name); ++plane) {
-        Scene scene(function, kRoi, 1);
-        const_cast<const void**>(static_cast<const void* const*>(scene.arguments[i].pointer))[plane] = nullptr;
-        EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << " plane " << plane;
-      }
-    }
-  }
-}
-
-TEST(EveryFunction, RefusesSizesBelowOneAndWritesNothing) {
-  for (const Export& function : Exports()) {
-    const int roi = function.Find("roiSize");
-    if (roi < 0) continue;
-    for (const QvpiSize size : {QvpiSize{0, 5}, {37, 0}, {-1, 5}, {37, -1}, {INT32_MIN, 5}, {-3, -3}}) {
-      Scene scene(function, kRoi, 2);
-      const std::vector<uint8_t> before = scene.Outputs();
-      scene.arguments[roi].number = size.width;
-      scene.arguments[roi].second = size.height;
-      EXPECT_EQ(scene.Call(), qvpStatusSize) << function.name << ' ' << size.width << 'x' << size.height;
-      EXPECT_TRUE(IsUntouched(scene, before)) << function.name;
-    }
-  }
-}
-
-// The first pointer of an image comes before the size in every family.
-TEST(EveryFunction, ChecksImagePointersBeforeTheSize) {
-  for (const Export& function : Exports()) {
-    const int roi = function.Find("roiSize");
-    for (const char* image : {"pSrc", "pDst", "pSrcDst"}) {
-      const int place = function.Find(image);
-      if (roi < 0 || place < 0) continue;
-      Scene scene(function, kRoi, 3);
-      scene.arguments[roi].number = 0;
-      scene.arguments[place].pointer = nullptr;
-      EXPECT_EQ(scene.Call(), qvpStatusNullPointer) << function.name << ' ' << image;
-    }
-  }
-}
 
 TEST(EveryFunction, LeavesTheFloatingPointControlStateAlone) {
   for (const bool isUnusual : {false, true}) {

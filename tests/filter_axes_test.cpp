@@ -13,7 +13,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 using test::Region;
@@ -199,40 +198,6 @@ TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
   EXPECT_EQ(std::memcmp(dst.bytes(), other.bytes(), 900 * 7), 0);
 }
 
-TEST(FilterSeparable, RefusesInTheDocumentedOrder) {
-  int spec = 1, buffer = 1;
-  const auto size = [&](QvpiSize kernel, QvpiSize roi, int src, int dst, int kernelType, int channels) {
-    return qvpiFilterSeparableBorderGetSize(kernel, roi, src, dst, kernelType, channels, &spec, &buffer);
-  };
-  EXPECT_EQ(qvpiFilterSeparableBorderGetSize({}, {}, 0, 0, 0, 0, &spec, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(size({}, {1, 0}, 0, 0, 0, 0), qvpStatusSize);
-  EXPECT_EQ(size({256, 257}, {1, 1}, 0, 0, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size({256, 256}, {1, 1}, qvp32f, qvp32f, qvp16s, 0), qvpStatusDataType);
-  EXPECT_EQ(size({256, 256}, {1, 1}, qvp16u, qvp16s, qvp16s, 0), qvpStatusDataType);
-  EXPECT_EQ(size({256, 256}, {1, 1}, qvp8u, qvp16s, qvp32f, 2), qvpStatusNumChannels);
-  const Qvp16s k[9] = {};
-  const Block block(4096), work(65536);
-  auto* const record = reinterpret_cast<QvpiFilterSeparableBorderSpec*>(block.data());
-  const auto init = [&](const Qvp16s* row, QvpiSize kernel, int divisor, int src, int channels, int mode) {
-    return qvpiFilterSeparableBorderInit_16s(row, k, kernel, divisor, src, src, channels, mode, record);
-  };
-  const auto filter = [&](int channels) {
-    Qvp8u pixels[64] = {}, out[64];
-    return channels == 1 ? qvpiFilterSeparableBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data())
-                         : qvpiFilterSeparableBorder_8u_C3R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data());
-  };
-  EXPECT_EQ(init(k, {3, 3}, 1, qvp8u, 1, 1), 0);
-  EXPECT_EQ(filter(1), 0);
-  EXPECT_EQ(filter(3), qvpStatusContextMatch);
-  EXPECT_EQ(init(nullptr, {0, 3}, 0, 0, 0, 9), qvpStatusNullPointer);
-  EXPECT_EQ(filter(1), qvpStatusContextMatch);
-  EXPECT_EQ(init(k, {0, 3}, 0, 0, 0, 9), qvpStatusMaskSize);
-  EXPECT_EQ(init(k, {3, 3}, 0, 0, 0, 9), qvpStatusDataType);
-  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 0, 9), qvpStatusNumChannels);
-  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 1, 9), qvpStatusRoundMode);
-  EXPECT_EQ(init(k, {3, 3}, 0, qvp8u, 1, 1), qvpStatusDivisor);
-}
-
 // ---- Gauss
 
 Prepared PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& name, QvpiSize roi) {
@@ -305,44 +270,6 @@ TEST(FilterGauss, KeepsConstants) {
           std::to_string(side));
     }
   }
-}
-
-TEST(FilterGauss, TilesEqualTheWhole) {
-  const Export& function = FunctionNamed("qvpiFilterGaussBorder_32f_C1R");
-  const QvpiSize size{700, 40}, mask{9, 7};
-  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const Bordered scene(ElementOf("32f"), {}, {size, 1, kind});
-    const Prepared prepared = PrepareGauss(mask, 2, 1.5f, Name(function.name), size);
-    test::ExpectTilesEqualTheWhole(scene, {58, 18}, [&](const Part& part, const test::Argument& dst) {
-      return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
-    });
-  }
-}
-
-TEST(FilterGauss, RefusesInTheDocumentedOrder) {
-  const Block block(4096), work(65536);
-  auto* const record = reinterpret_cast<QvpiFilterGaussBorderSpec*>(block.data());
-  const auto init = [&](QvpiSize mask, float x, float y, int type, int channels) {
-    return qvpiFilterGaussBorderInit(mask, x, y, type, channels, record);
-  };
-  Qvp8u pixels[64] = {}, out[64];
-  const auto filter = [&] {
-    return qvpiFilterGaussBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, 1, nullptr, record, work.data());
-  };
-  EXPECT_EQ(init({3, 3}, 1, 1, qvp8u, 1), 0);
-  EXPECT_EQ(filter(), 0);
-  EXPECT_EQ(qvpiFilterGaussBorderInit({}, 0, 0, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(init({2, 3}, 0, 1, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(filter(), qvpStatusContextMatch);
-  EXPECT_EQ(init({3, 1025}, 0, 1, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(init({3, 3}, 0, 1, 99, 0), qvpStatusDataType);
-  EXPECT_EQ(init({3, 3}, 0, 1, qvp8u, 2), qvpStatusNumChannels);
-  for (const float sigma : {0.0f, -1.0f, NAN, INFINITY}) {
-    EXPECT_EQ(init({3, 3}, sigma, 1, qvp8u, 1), qvpStatusBadArgument);
-    EXPECT_EQ(init({3, 3}, 1, sigma, qvp8u, 1), qvpStatusBadArgument);
-  }
-  EXPECT_EQ(init({3, 3}, 1, 1, qvp16u, 1), 0);
-  EXPECT_EQ(filter(), qvpStatusContextMatch);
 }
 
 }  // namespace

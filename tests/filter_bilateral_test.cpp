@@ -8,7 +8,6 @@ using test::Bordered;
 using test::Element;
 using test::Export;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 
@@ -141,20 +140,7 @@ TEST(FilterBilateral, EveryMemberEqualsItsFormula) {
   }
 }
 
-TEST(FilterBilateral, WideRegionsAndTiles) {
-  for (const auto& [name, radius] : {std::pair{"qvpiFilterBilateralBorder_32f_C1R", 9},
-                                     {"qvpiFilterBilateralBorder_8u_C1R", 5},
-                                     {"qvpiFilterBilateralBorder_16u_C1R", 12}}) {
-    const Export& function = test::FunctionNamed(name);
-    const Disc disc{radius, qvpNormL1, 50, 3};
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(Name(name).From(), {}, {{700, 40}, 1, kind});
-      const Prepared prepared = Prepare(disc, Name(name), {700, 40});
-      test::ExpectTilesEqualTheWhole(scene, {47, 20}, [&](const Part& part, const test::Argument& dst) {
-        return test::Filter(function, scene, part, prepared, {{"pDst", dst}});
-      });
-    }
-  }
+TEST(FilterBilateral, FarReach) {
   const Disc far{127, qvpNormL2, 100, 60};
   Check(test::FunctionNamed("qvpiFilterBilateralBorder_8u_C3R"), far,
         Bordered(test::ElementOf("8u"), far.reach(), {{3, 1}, 3, qvpBorderMirror}));
@@ -204,48 +190,6 @@ TEST(FilterBilateral, KnownValues) {
               0);
     for (int c = 0; c < 3; ++c) EXPECT_EQ(dst(3 + c, 1), expected[c]);
   }
-}
-
-TEST(FilterBilateral, RefusesInTheDocumentedOrder) {
-  int spec = 1, buffer = 1;
-  const auto size = [&](int radius, QvpiSize roi, int type, int channels) {
-    return qvpiFilterBilateralBorderGetSize(radius, roi, type, channels, &spec, &buffer);
-  };
-  EXPECT_EQ(qvpiFilterBilateralBorderGetSize(0, {}, 0, 0, &spec, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(size(0, {1, 0}, 0, 0), qvpStatusSize);
-  EXPECT_EQ(size(128, {1, 1}, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size(127, {1, 1}, qvp16s, 0), qvpStatusDataType);
-  EXPECT_EQ(size(127, {1, 1}, qvp32f, 2), qvpStatusNumChannels);
-  int before = 0;
-  for (int radius = 1; radius <= 127; ++radius) {
-    ASSERT_EQ(size(radius, {3000, 10}, qvp8u, 3), 0);
-    EXPECT_LE(std::exchange(before, buffer), buffer) << radius;
-  }
-  const test::Block block(8192), work(1 << 20);
-  auto* const record = reinterpret_cast<QvpiFilterBilateralBorderSpec*>(block.data());
-  Qvp8u pixels[64] = {}, out[64];
-  const auto filter = [&](int border = qvpBorderReplicate) {
-    return qvpiFilterBilateralBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, border, nullptr, record, work.data());
-  };
-  const auto init = [&](int radius, int norm, float range, float space, int type, int channels) {
-    EXPECT_EQ(qvpiFilterBilateralBorderInit(1, qvpNormL1, 1, 1, qvp8u, 1, record), 0);
-    EXPECT_EQ(filter(), 0);
-    const QvpStatus status = qvpiFilterBilateralBorderInit(radius, norm, range, space, type, channels, record);
-    EXPECT_EQ(filter(), qvpStatusContextMatch);
-    EXPECT_EQ(filter(2), qvpStatusBorder);
-    return status;
-  };
-  EXPECT_EQ(qvpiFilterBilateralBorderInit(0, 0, 0, 0, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(init(0, 3, 0, 0, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(init(1, 3, 0, 0, qvp16s, 0), qvpStatusDataType);
-  EXPECT_EQ(init(1, 3, 0, 0, qvp8u, 2), qvpStatusNumChannels);
-  EXPECT_EQ(init(1, 3, 0, 0, qvp8u, 1), qvpStatusNotSupportedMode);
-  for (const float sigma : {0.0f, -1.0f, NAN}) {
-    EXPECT_EQ(init(1, 1, sigma, 1, qvp8u, 1), qvpStatusBadArgument);
-    EXPECT_EQ(init(1, 2, 1, sigma, qvp8u, 1), qvpStatusBadArgument);
-  }
-  EXPECT_EQ(init(1, 1, 1, 1, qvp16u, 1), 0);
-  EXPECT_EQ(init(1, 1, 1, 1, qvp8u, 3), 0);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Random;
 using test::Real;
@@ -67,6 +66,7 @@ Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
     return Prepared(buffer);
   }
   EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
+  test::ExpectModest(buffer, mask.size, roi, name.channels);
   EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
   Prepared prepared(spec, buffer);
   EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor,
@@ -75,14 +75,9 @@ Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
   return prepared;
 }
 
-// Filters a part of a scene, or all of it.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Prepared& prepared,
-                const Part& part, const test::Argument& dst) {
-  return test::Filter(function, scene, part, prepared,
-                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
-}
 QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Argument& dst) {
-  return Apply(function, scene, mask, Prepare(function, mask, scene.region.size), test::WholeOf(scene), dst);
+  return test::Filter(function, scene, test::WholeOf(scene), Prepare(function, mask, scene.region.size),
+                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
 }
 
 bool IsBelow(Real a, Real b) { return a < b || (a == b && std::signbit(a) && !std::signbit(b)); }
@@ -190,23 +185,6 @@ TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
   check("qvpiFilterMaxBorder_32f_C1R", {2, 2, 2, 0.0, 0.0, -INFINITY, -INFINITY});
 }
 
-TEST(FilterExtremes, TilesEqualTheWhole) {
-  const QvpiSize size{700, 60};
-  for (const auto& filter : {std::pair{"qvpiFilterMaxBorder_8u_C1R", Full({15, 9})},
-                             {"qvpiFilterMinBorder_32f_C1R", Full({6, 12})},
-                             {"qvpiFilterErodeBorder_16s_C1R", Disc(13)}}) {
-    const Export& function = FunctionNamed(filter.first);
-    const Mask& mask = filter.second;
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
-      const Prepared prepared = Prepare(function, mask, size);
-      test::ExpectTilesEqualTheWhole(scene, {60, 17}, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, mask, prepared, part, dst);
-      });
-    }
-  }
-}
-
 // By a mask without symmetry, which is turned for the second step: no pixel rises, and a second opening changes
 // nothing. Borders are never taken.
 TEST(FilterExtremes, OpeningsLowerOnceAndForAll) {
@@ -235,81 +213,6 @@ TEST(FilterExtremes, OpeningsLowerOnceAndForAll) {
     isLower = isLower || once(x, y) < src(x, y);
   }
   EXPECT_TRUE(isLower);
-}
-
-TEST(FilterExtremes, BuffersGrowWithRegionAndMaskWithinTheirBound) {
-  constexpr int kSides[] = {1, 2, 8, 9, 64, 300, 5000};
-  for (const int w : kSides) {
-    for (const int h : kSides) {
-      for (const int channels : {1, 3, 4}) {
-        int before[2] = {};
-        for (const int width : {1, 64, 1000, 20000, 1000000}) {
-          int minimum = 0, spec = 0, morphology = 0;
-          const QvpStatus status =
-              qvpiFilterMorphologyBorderGetSize({w, h}, {width, 7}, qvp32f, channels, &spec, &morphology);
-          if (status) {
-            EXPECT_EQ(status, qvpStatusSizeOverflow);
-            EXPECT_EQ(morphology * int64_t{spec}, 0);
-            continue;
-          }
-          ASSERT_EQ(qvpiFilterMaxBorderGetBufferSize({w, h}, {width, 7}, qvp32f, channels, &minimum), 0);
-          EXPECT_LE(morphology, 64LL * (h + 4) * (width + w) * channels + 65536) << w << 'x' << h << ' ' << width;
-          EXPECT_LE(minimum, morphology);
-          EXPECT_GE(minimum, before[0]);
-          EXPECT_GE(morphology, before[1]);
-          before[0] = minimum, before[1] = morphology;
-        }
-      }
-    }
-  }
-}
-
-TEST(FilterExtremes, RefuseInTheDocumentedOrder) {
-  int size = 1;
-  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({}, {1, 0}, 0, 0, &size), qvpStatusSize);
-  EXPECT_EQ(qvpiFilterMinBorderGetBufferSize({1, 0}, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
-  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({1, 1}, {1, 1}, 99, 0, &size), qvpStatusDataType);
-  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({1, 1}, {1, 1}, qvp8u, 2, &size), qvpStatusNumChannels);
-  EXPECT_EQ(qvpiFilterMaxBorderGetBufferSize({INT32_MAX, INT32_MAX}, {INT32_MAX, 1}, qvp32f, 4, &size),
-            qvpStatusSizeOverflow);
-  EXPECT_EQ(size, 0);
-  Qvp8u pixels[64] = {}, out[64], buffer[65536];
-  const auto filter = [&](QvpiSize mask, QvpiPoint anchor, int border) {
-    return qvpiFilterMinBorder_8u_C1R(pixels, 8, out, 8, {4, 4}, mask, anchor, border, nullptr, buffer);
-  };
-  EXPECT_EQ(filter({0, 0}, {9, 9}, qvpBorderConst), qvpStatusNullPointer);
-  EXPECT_EQ(filter({3, 0}, {0, 0}, 2), qvpStatusMaskSize);
-  EXPECT_EQ(filter({3, 3}, {3, 0}, 2), qvpStatusAnchor);
-  EXPECT_EQ(filter({3, 3}, {0, -1}, 2), qvpStatusAnchor);
-  EXPECT_EQ(filter({3, 3}, {2, 2}, qvpBorderReplicateAlt), qvpStatusBorder);
-  EXPECT_EQ(filter({3, 3}, {2, 2}, qvpBorderMirror), 0);
-}
-
-TEST(FilterExtremes, RecordsOfFailedInitsAreRefused) {
-  const Block block(4096), work(65536);
-  auto* const record = reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(block.data());
-  Qvp8u none[9] = {}, all[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1}, pixels[64] = {}, out[64];
-  const auto filter = [&](int border = qvpBorderReplicate) {
-    return qvpiFilterErodeBorder_8u_C1R(pixels, 8, out, 8, {2, 2}, border, nullptr, record, work.data());
-  };
-  const auto init = [&](const Qvp8u* mask, QvpiSize size, QvpiPoint anchor) {
-    EXPECT_EQ(qvpiFilterMorphologyBorderInit(all, {3, 3}, {1, 1}, record), 0);
-    EXPECT_EQ(filter(), 0);
-    const QvpStatus status = qvpiFilterMorphologyBorderInit(mask, size, anchor, record);
-    EXPECT_EQ(filter(), qvpStatusContextMatch);
-    EXPECT_EQ(filter(2), qvpStatusBorder);
-    return status;
-  };
-  EXPECT_EQ(init(nullptr, {0, 3}, {9, 9}), qvpStatusNullPointer);
-  EXPECT_EQ(init(none, {0, 3}, {9, 9}), qvpStatusMaskSize);
-  EXPECT_EQ(init(none, {3, 3}, {0, 3}), qvpStatusAnchor);
-  EXPECT_EQ(init(none, {3, 3}, {0, 2}), qvpStatusBadArgument);
-  EXPECT_EQ(qvpiFilterMorphologyBorderInit(all, {3, 3}, {0, 0}, nullptr), qvpStatusNullPointer);
-  // A Gauss record is none of these.
-  EXPECT_EQ(
-      qvpiFilterGaussBorderInit({3, 3}, 1, 1, qvp8u, 1, reinterpret_cast<QvpiFilterGaussBorderSpec*>(block.data())), 0);
-  EXPECT_EQ(filter(), qvpStatusContextMatch);
 }
 
 }  // namespace

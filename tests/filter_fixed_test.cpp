@@ -172,27 +172,6 @@ TEST(FilterFixed, EveryMemberEqualsItsTable) {
   EXPECT_EQ(turn, 8 * (32 * 2 + 96 * 2 - 24));  // Scharr and Roberts have one mask
 }
 
-TEST(FilterFixed, EveryBorderAndSideInMemory) {
-  for (const char* types : {"8u16s_C1R", "32f_C3R", "16u32f_C1R"}) {
-    for (const char* kind : {"SobelX", "Laplace", "RobertsUp"}) {
-      for (const Export* function : FixedFunctions()) {
-        if (function->name != std::string("qvpiFilter") + kind + "Border_" + types) continue;
-        for (int flags = 0; flags < 256; flags += 16) {
-          for (const QvpiSize roi : {QvpiSize{1, 1}, {2, 7}, {66, 5}, {300, 3}}) {
-            const auto& sides = kKernels.at(kind);
-            for (const int border : {1, 3, 6}) {
-              CheckFixed(*function, sides.rbegin()->first, {roi, Name(function->name).channels, flags | border},
-                         test::Guard::kAfter);
-            }
-          }
-        }
-        CheckFixed(*function, kKernels.at(kind).begin()->first, {{40, 4}, Name(function->name).channels, 0xF0},
-                   test::Guard::kBefore);
-      }
-    }
-  }
-}
-
 // One NaN or infinity spoils the results that have it under a coefficient, and no others.
 TEST(FilterFixed, NaNReachesWhatItsCoefficientsReach) {
   for (const float bad : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
@@ -384,78 +363,19 @@ TEST(Gradients, AnglesOfZerosInfinitiesAndNaN) {
 
 // ---- Tiles, refusals
 
-TEST(FilterFixed, TilesEqualTheWhole) {
-  const Export& function = test::FunctionNamed("qvpiFilterLaplaceBorder_32f_C1R");
-  const QvpiSize mask{5, 5};
-  for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-    const Bordered scene(ElementOf("32f"), {}, {{700, 40}, 1, kind});
-    const auto buffer = BufferFor(mask, scene.region.size, scene.element(), 1);
-    test::ExpectTilesEqualTheWhole(scene, {38, 19}, [&](const test::Part& part, const test::Argument& dst) {
-      return test::Filter(function, scene, part, buffer, {{"pDst", dst}, {"maskSize", mask}});
-    });
-  }
-}
-
-TEST(FilterFixed, RefusesInTheDocumentedOrder) {
-  Qvp16u src[16] = {}, result;
-  Qvp32f dst[16] = {}, *const none = nullptr;
+TEST(FilterFixed, TakesTheMasksAndBordersOfEachKernel) {
+  Qvp16u src[16] = {};
+  Qvp32f dst[16];
   Qvp8u buffer[4096];
-  const auto laplace = [&](int srcStep, int dstStep, QvpiSize roi, QvpiSize mask, int border, const Qvp16u* value) {
-    return qvpiFilterLaplaceBorder_16u32f_C1R(src, srcStep, dst, dstStep, roi, mask, border, value, buffer);
+  const auto laplace = [&](QvpiSize mask, int border) {
+    return qvpiFilterLaplaceBorder_16u32f_C1R(src, 8, dst, 16, {4, 4}, mask, border, nullptr, buffer);
   };
-  EXPECT_EQ(laplace(0, 0, {0, 4}, {}, qvpBorderConst, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(laplace(0, 0, {0, 4}, {}, 99, nullptr), qvpStatusSize);
-  EXPECT_EQ(laplace(7, 16, {4, 4}, {}, 99, nullptr), qvpStatusStep);
-  EXPECT_EQ(laplace(8, 15, {4, 4}, {}, 99, nullptr), qvpStatusStep);
-  EXPECT_EQ(laplace(8, 18, {4, 4}, {}, 99, nullptr), qvpStatusNotEvenStep);
-  EXPECT_EQ(laplace(8, 16, {4, 4}, {3, 5}, 99, nullptr), qvpStatusMaskSize);
-  EXPECT_EQ(laplace(8, 16, {4, 4}, {5, 5}, qvpBorderReplicateAlt, nullptr), qvpStatusBorder);
-  EXPECT_EQ(laplace(8, 16, {4, 4}, {3, 3}, qvpBorderReplicateAlt, nullptr), qvpStatusNoError);
-  EXPECT_EQ(laplace(8, 16, {4, 4}, {3, 3}, 2, nullptr), qvpStatusBorder);
-  EXPECT_EQ(laplace(8, 16, {4, 4}, {3, 3}, 0x101, nullptr), qvpStatusBorder);
+  EXPECT_EQ(laplace({3, 5}, qvpBorderReplicate), qvpStatusMaskSize);
+  EXPECT_EQ(laplace({5, 5}, qvpBorderReplicateAlt), qvpStatusBorder);
+  EXPECT_EQ(laplace({3, 3}, qvpBorderReplicateAlt), qvpStatusNoError);
+  for (const int border : {2, 0x101}) EXPECT_EQ(laplace({3, 3}, border), qvpStatusBorder);
   EXPECT_EQ(qvpiFilterScharrXBorder_16u32f_C1R(src, 8, dst, 16, {4, 4}, {5, 5}, 1, nullptr, buffer), qvpStatusMaskSize);
   EXPECT_EQ(qvpiFilterRobertsUpBorder_16u32f_C1R(src, 8, dst, 16, {4, 4}, {2, 2}, 4, nullptr, buffer), qvpStatusBorder);
-
-  const auto vectors = [&](Qvp32f* gx, int gxStep, QvpiSize mask, int norm, int border) {
-    return qvpiFilterGradientSobelBorder_16u32f_C1R(src, 8, gx, gxStep, none, 0, none, -5, none, 1, {4, 4}, mask, norm,
-                                                    border, nullptr, buffer);
-  };
-  EXPECT_EQ(vectors(nullptr, 16, {}, 0, 99), qvpStatusNullPointer);
-  EXPECT_EQ(vectors(dst, 12, {}, 0, 99), qvpStatusStep);
-  EXPECT_EQ(vectors(dst, 17, {}, 0, 99), qvpStatusNotEvenStep);
-  EXPECT_EQ(vectors(dst, 16, {4, 4}, 0, 99), qvpStatusMaskSize);
-  EXPECT_EQ(vectors(dst, 16, {3, 3}, 4, 99), qvpStatusNotSupportedMode);
-  EXPECT_EQ(vectors(dst, 16, {5, 5}, 1, 4), qvpStatusBorder);
-  EXPECT_EQ(vectors(dst, 16, {5, 5}, 1, 3), qvpStatusNoError);
-  const auto magnitude = [&](int norm, int border) {
-    return qvpiFilterSobel_16u_C1R(src + 5, 8, &result, 8, {1, 1}, {3, 3}, norm, border, nullptr, buffer);
-  };
-  EXPECT_EQ(magnitude(0, 3), qvpStatusNotSupportedMode);
-  EXPECT_EQ(magnitude(2, 3), qvpStatusBorder);
-  EXPECT_EQ(magnitude(2, 4), qvpStatusBorder);
-  EXPECT_EQ(magnitude(2, 0xF0), qvpStatusNoError);
-}
-
-TEST(FilterFixed, BufferSizesGrowAndAreRefusedInOrder) {
-  int bytes = 7;
-  const auto size = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
-    return qvpiFilterFixedBorderGetBufferSize(mask, roi, type, channels, &bytes);
-  };
-  EXPECT_EQ(qvpiFilterFixedBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(size({}, {0, 1}, 0, 0), qvpStatusSize);
-  EXPECT_EQ(size({3, 2}, {1, 1}, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size({2, 2}, {1, 1}, 99, 0), qvpStatusDataType);
-  EXPECT_EQ(size({2, 2}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
-  int before = 0;
-  for (const int width : {1, 2, 63, 64, 65, 100, 1000, 4095, 4096, 5000, 100000, INT32_MAX}) {
-    for (const int side : {2, 3, 5}) {
-      ASSERT_EQ(size({side, side}, {width, 1}, qvp8u, 4), 0);
-      if (side > 2) {
-        EXPECT_GE(bytes, before);
-      }
-      before = bytes;
-    }
-  }
 }
 
 }  // namespace

@@ -297,42 +297,4 @@ TEST(FilterGuided, TilesEqualTheWhole) {
   }
 }
 
-TEST(FilterGuided, RefusesInTheDocumentedOrder) {
-  int bytes = 1;
-  const auto size = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
-    return qvpiFilterGuidedBorderGetBufferSize(mask, roi, type, channels, &bytes);
-  };
-  EXPECT_EQ(qvpiFilterGuidedBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(size({}, {1, 0}, 0, 0), qvpStatusSize);
-  EXPECT_EQ(size({3, 257}, {1, 1}, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size({3, 3}, {1, 1}, qvp16s, 0), qvpStatusDataType);
-  EXPECT_EQ(size({3, 3}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
-  EXPECT_EQ(qvpiFilterGuidedColorBorderGetBufferSize({}, {}, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(qvpiFilterGuidedColorBorderGetBufferSize({2, 3}, {1, 1}, 0, &bytes), qvpStatusMaskSize);
-  EXPECT_EQ(qvpiFilterGuidedColorBorderGetBufferSize({3, 3}, {1, 1}, qvp16s, &bytes), qvpStatusDataType);
-  for (const QvpDataType type : {qvp8u, qvp16u, qvp32f}) {
-    for (const int width : {1, 500, 5000}) {
-      int before = 0;
-      for (int side = 1; side <= 255; side += 2) {
-        ASSERT_EQ(size({side, side}, {width, 10}, type, 3), 0);
-        EXPECT_LE(std::exchange(before, bytes), bytes) << side;
-      }
-    }
-  }
-  const test::Block work(1 << 20);
-  Qvp8u pixels[64] = {}, out[64];
-  const auto filter = [&](const Qvp8u* guide, int guideStep, QvpiSize roi, QvpiSize mask, float eps, int border) {
-    return qvpiFilterGuidedColorBorder_8u_C1R(pixels, 4, guide, guideStep, out, 4, roi, mask, eps, border, work.data());
-  };
-  EXPECT_EQ(filter(nullptr, 0, {}, {}, -1, 99), qvpStatusNullPointer);
-  EXPECT_EQ(filter(pixels, 0, {}, {}, -1, 99), qvpStatusSize);
-  EXPECT_EQ(filter(pixels, 11, {4, 2}, {}, -1, 99), qvpStatusStep);
-  for (const float bad : {-0.1f, INFINITY, NAN}) {
-    EXPECT_EQ(filter(pixels, 12, {4, 2}, {4, 3}, bad, 99), qvpStatusMaskSize);
-    EXPECT_EQ(filter(pixels, 12, {4, 2}, {3, 3}, bad, 99), qvpStatusEps);
-  }
-  EXPECT_EQ(filter(pixels, 12, {4, 2}, {3, 3}, 0, qvpBorderConst), qvpStatusBorder);
-  EXPECT_EQ(filter(pixels, 12, {4, 2}, {3, 3}, 0, qvpBorderMirror), 0);
-}
-
 }  // namespace

@@ -11,7 +11,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Random;
 using test::Real;
 using test::Region;
@@ -36,14 +35,11 @@ int BufferSize(const Export& function, const Manner& manner, QvpiSize roi) {
   return bytes;
 }
 
-// Filters a part of a scene, or all of it, with a buffer of the reported size before an unreadable page.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const Part& part,
-                const test::Argument& dst) {
-  return test::Filter(function, scene, part, test::Prepared(BufferSize(function, manner, part.size)),
-                      {{"pDst", dst}, {"maskSize", manner.mask}, {"weight", manner.weight}, {"normType", manner.norm}});
-}
+// Filters a scene with a buffer of the reported size before an unreadable page.
 QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const test::Argument& dst) {
-  return Apply(function, scene, manner, test::WholeOf(scene), dst);
+  return test::Filter(function, scene, test::WholeOf(scene),
+                      test::Prepared(BufferSize(function, manner, scene.region.size)),
+                      {{"pDst", dst}, {"maskSize", manner.mask}, {"weight", manner.weight}, {"normType", manner.norm}});
 }
 
 // ---- The definition
@@ -288,80 +284,6 @@ TEST(FilterMedian, GivesTheDocumentedExamples) {
                               0, 0,  10, 0,  60, 40, 50, 20, 50, 60, 30, 40, 80};
   EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kMixed, {{3, 3}, 1, qvpNormL1}), (Pixel{0, 20, 40}));
   EXPECT_EQ(MiddleOf(kVectors, {3, 3}, kMixed, {{3, 3}, 1, qvpNormL2}), (Pixel{20, 50, 60}));
-}
-
-TEST(FilterMedian, TilesEqualTheWhole) {
-  const QvpiSize size{400, 52}, most{45, 13};
-  for (const auto& filter : {std::pair{"qvpiFilterMedianBorder_8u_C1R", Manner{{5, 5}}},
-                             {"qvpiFilterMedianBorder_8u_C1R", {{23, 21}}},
-                             {"qvpiFilterMedianCenterBorder_16u_C1R", {{7, 9}, 4}},
-                             {"qvpiFilterMedianBorder_32f_C1R", {{19, 21}}}}) {
-    const Export& function = FunctionNamed(filter.first);
-    for (const int kind : {qvpBorderReplicate, qvpBorderConst}) {
-      Bordered scene(Name(function.name).From(), {}, {size, 1, kind});
-      FillScene(scene, 2);
-      test::ExpectTilesEqualTheWhole(scene, most, [&](const Part& part, const test::Argument& dst) {
-        return Apply(function, scene, filter.second, part, dst);
-      });
-    }
-  }
-}
-
-// A buffer serves every smaller mask and region.
-TEST(FilterMedian, BuffersGrowWithRegionAndMaskWithinTheirBound) {
-  constexpr int kSides[] = {1, 3, 5, 7, 9, 15, 17, 63, 127, 255};
-  for (const int w : kSides) {
-    for (const int h : kSides) {
-      for (const auto type : {qvp8u, qvp16u, qvp32f}) {
-        int before = 0;
-        for (const int width : {1, 64, 1000, 20000, 100000}) {
-          int bytes = 0, taller = 0, wider = 0;
-          ASSERT_EQ(qvpiFilterMedianBorderGetBufferSize({w, h}, {width, 7}, type, 3, &bytes), 0);
-          EXPECT_LE(bytes, 192LL * (h + 4) * (width + w) * 3 + (1 << 20)) << w << 'x' << h << ' ' << width;
-          qvpiFilterMedianBorderGetBufferSize({w, std::min(h + 2, 255)}, {width, 7}, type, 3, &taller);
-          qvpiFilterMedianBorderGetBufferSize({std::min(w + 2, 255), h}, {width, 7}, type, 3, &wider);
-          EXPECT_GE(std::min(taller, wider), bytes);
-          EXPECT_GE(bytes, before);
-          before = bytes;
-        }
-      }
-    }
-  }
-}
-
-TEST(FilterMedian, RefusesInTheDocumentedOrder) {
-  int size = 1;
-  const auto query = qvpiFilterMedianBorderGetBufferSize;
-  const auto ofVectors = qvpiFilterMedianVectorBorderGetBufferSize;
-  EXPECT_EQ(query({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(query({2, 2}, {1, 0}, 0, 0, &size), qvpStatusSize);
-  for (const QvpiSize mask : {QvpiSize{2, 1}, {1, 0}, {257, 1}, {-1, 3}}) {
-    EXPECT_EQ(query(mask, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
-  }
-  EXPECT_EQ(query({255, 255}, {1, 1}, qvp64f, 0, &size), qvpStatusDataType);
-  EXPECT_EQ(query({1, 1}, {1, 1}, qvp16s, 2, &size), qvpStatusNumChannels);
-  EXPECT_EQ(ofVectors({9, 1}, {1, 1}, 99, 0, &size), qvpStatusMaskSize);
-  EXPECT_EQ(ofVectors({7, 1}, {1, 1}, qvp16s, 0, &size), qvpStatusDataType);
-  EXPECT_EQ(ofVectors({7, 1}, {1, 1}, qvp8u, 1, &size), qvpStatusNumChannels);
-  const Block buffer(1 << 20);
-  Qvp8u pixels[64] = {}, out[64] = {};
-  const auto centre = [&](QvpiSize mask, int weight, int border) {
-    return qvpiFilterMedianCenterBorder_8u_C1R(pixels, 8, out, 8, {4, 4}, mask, weight, border, nullptr, buffer.data());
-  };
-  EXPECT_EQ(centre({2, 3}, 0, qvpBorderConst), qvpStatusNullPointer);
-  EXPECT_EQ(centre({2, 3}, 0, qvpBorderMirror), qvpStatusMaskSize);
-  EXPECT_EQ(centre({3, 3}, 0, qvpBorderMirror), qvpStatusWeight);
-  EXPECT_EQ(centre({3, 3}, 1, qvpBorderMirror), qvpStatusBorder);
-  EXPECT_EQ(centre({3, 3}, 1, qvpBorderReplicateAlt), qvpStatusBorder);
-  EXPECT_EQ(centre({3, 3}, 1, qvpBorderReplicate), 0);
-  const auto vectors = [&](QvpiSize mask, QvpNormType norm, int step) {
-    return qvpiFilterMedianVectorBorder_8u_C3R(pixels, step, out, 12, {4, 4}, mask, norm, qvpBorderMirror, nullptr,
-                                               buffer.data());
-  };
-  EXPECT_EQ(vectors({9, 9}, qvpNormInf, 11), qvpStatusStep);
-  EXPECT_EQ(vectors({9, 9}, qvpNormInf, 12), qvpStatusMaskSize);
-  EXPECT_EQ(vectors({7, 7}, qvpNormInf, 12), qvpStatusNotSupportedMode);
-  EXPECT_EQ(vectors({7, 7}, qvpNormL2, 12), qvpStatusBorder);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@ namespace {
 using test::Bordered;
 using test::Export;
 using test::Name;
-using test::Part;
 using test::Prepared;
 using test::Real;
 
@@ -132,54 +131,6 @@ TEST(FilterWiener, KnownValues) {
     EXPECT_EQ(dst(1, 2), beside) << noise;
     EXPECT_EQ(dst(0, 0), 10) << noise;
   }
-}
-
-TEST(FilterWiener, TilesEqualTheWhole) {
-  for (const char* const type : {"32f", "16u"}) {
-    const Export& function = test::FunctionNamed(std::string("qvpiFilterWienerBorder_") + type + "_C1R");
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror, qvpBorderConst}) {
-      const Bordered scene(test::ElementOf(type), {}, {{1500, 40}, 1, kind});
-      test::ExpectTilesEqualTheWhole(scene, {70, 20}, [&](const Part& part, const test::Argument& dst) {
-        return test::Filter(function, scene, part, Buffer(Name(function.name), {11, 9}, part.size),
-                            {{"pDst", dst}, {"maskSize", QvpiSize{11, 9}}, {"noise", 0.02f}});
-      });
-    }
-  }
-}
-
-TEST(FilterWiener, RefusesInTheDocumentedOrder) {
-  int bytes = 1;
-  const auto size = [&](QvpiSize mask, QvpiSize roi, int type, int channels) {
-    return qvpiFilterWienerBorderGetBufferSize(mask, roi, type, channels, &bytes);
-  };
-  EXPECT_EQ(qvpiFilterWienerBorderGetBufferSize({}, {}, 0, 0, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(size({}, {1, 0}, 0, 0), qvpStatusSize);
-  EXPECT_EQ(size({3, 257}, {1, 1}, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size({2, 3}, {1, 1}, 0, 0), qvpStatusMaskSize);
-  EXPECT_EQ(size({3, 3}, {1, 1}, 99, 0), qvpStatusDataType);
-  EXPECT_EQ(size({3, 3}, {1, 1}, qvp8u, 2), qvpStatusNumChannels);
-  int before = 0;
-  for (int side = 1; side <= 255; side += 2) {
-    ASSERT_EQ(size({side, side}, {3000, 10}, qvp8u, 3), 0);
-    EXPECT_LE(std::exchange(before, bytes), bytes) << side;
-  }
-  const test::Block work(1 << 20);
-  Qvp8u pixels[64] = {}, out[64];
-  const auto filter = [&](int step, QvpiSize roi, QvpiSize mask, const float* noise, int border) {
-    return qvpiFilterWienerBorder_8u_C3R(pixels, 12, out, step, roi, mask, noise, border, nullptr, work.data());
-  };
-  constexpr float kNoise[3] = {0.1f, 0.2f, 0.3f};
-  EXPECT_EQ(filter(0, {}, {}, nullptr, 99), qvpStatusNullPointer);
-  EXPECT_EQ(filter(0, {}, {}, kNoise, qvpBorderConst), qvpStatusNullPointer);
-  EXPECT_EQ(filter(0, {}, {}, kNoise, 99), qvpStatusSize);
-  EXPECT_EQ(filter(11, {4, 2}, {}, kNoise, 99), qvpStatusStep);
-  for (const float bad : {-0.1f, 1.0f, NAN}) {
-    const float noise[3] = {0.1f, 0.1f, bad};
-    EXPECT_EQ(filter(12, {4, 2}, {4, 3}, noise, 99), qvpStatusMaskSize);
-    EXPECT_EQ(filter(12, {4, 2}, {3, 3}, noise, 99), qvpStatusNoiseRange);
-  }
-  EXPECT_EQ(filter(12, {4, 2}, {3, 3}, kNoise, qvpBorderReplicateAlt), qvpStatusBorder);
-  EXPECT_EQ(filter(12, {4, 2}, {3, 3}, kNoise, qvpBorderMirror), 0);
 }
 
 }  // namespace

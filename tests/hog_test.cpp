@@ -349,27 +349,4 @@ TEST(Hog, TellsSizesAndRefusesConfigurations) {
   }
 }
 
-TEST(Hog, RefusesCallsInTheDocumentedOrder) {
-  const Record record(kPeople);
-  const Block foreign(4);  // all that is looked at, as records of other families may be shorter
-  std::memset(foreign.data(), 0, 4);
-  std::vector<uint8_t> src(64 * 128), buffer(12 * 64 * 128);
-  std::vector<float> dst(3780, -1);
-  const uint8_t outside = 0;
-  const auto call = [&](const void* spec, int step, QvpiSize roi, const QvpiPoint* at, int n, int border) {
-    return qvpiHOG_8u32f_C1R(src.data(), step, roi, at, n, dst.data(), static_cast<const QvpiHOGSpec*>(spec), border,
-                             &outside, buffer.data());
-  };
-  const QvpiSize whole{64, 128};
-  EXPECT_EQ(call(foreign.data(), 0, {1, 1}, nullptr, 0, 0), qvpStatusContextMatch);
-  EXPECT_EQ(call(record.spec(), 0, {1, 1}, nullptr, 0, 0), qvpStatusStep);
-  EXPECT_EQ(call(record.spec(), 64, {63, 128}, nullptr, 0, 0), qvpStatusSize);
-  EXPECT_EQ(call(record.spec(), 64, whole, nullptr, 0, 0), qvpStatusBadArgument);
-  EXPECT_EQ(call(record.spec(), 64, whole, nullptr, 2, 0), qvpStatusNullPointer);
-  for (const int border : {0, 2, 4, 5, 7, 8, 0x10, 0x101, -1}) {
-    EXPECT_EQ(call(record.spec(), 64, whole, nullptr, 1, border), qvpStatusBorder) << border;
-  }
-  for (const float v : dst) ASSERT_EQ(v, -1);
-}
-
 }  // namespace

@@ -1,13 +1,12 @@
 // Bitwise operations and shifts: each member against one formula in 64 bits, over its whole grid.
 #include <array>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
 using test::Export;
-using test::Guard;
-using test::Image;
 using test::Name;
+using test::Real;
 
 // Constants or counts of the channels; two's complement makes numbers of any type of them.
 using Values = std::array<uint32_t, 4>;
@@ -33,33 +32,15 @@ void Check(const Export& function, int pixels, const Values& values) {
   const Name name(function.name);
   const bool hasConstant = function.Has("value"), isShift = name.operation.starts_with("Shift");
   const std::string operation = name.operation.substr(0, name.operation.size() - hasConstant);
-  const int samples = pixels * name.channels, height = pixels == 7 ? 700 : 3;  // more narrow rows than go together
-  const Image<T> a(samples, height, 7), b(samples, height, 3);
-  Image<T> dst(samples, height, 5, Guard::kBefore), both(b);
-  const Image<T> before(dst);
-  auto& out = name.inPlace ? both : dst;
-  const bool isBinary = function.Has(name.inPlace ? "pSrc" : "pSrc2");
+  const int height = pixels == 7 ? 700 : 3;  // more narrow rows than go together
   T constants[4];
   for (int c = 0; c < 4; ++c) constants[c] = static_cast<T>(values[c]);
   const auto value = isShift ? test::Argument(values.data(), values[0]) : test::Argument(constants, constants[0]);
-  ASSERT_EQ(function({{"pSrc", isBinary ? a : b},
-                      {"pSrc1", a},
-                      {"pSrc2", b},
-                      {"pDst", out},
-                      {"pSrcDst", out},
-                      {"value", value},
-                      {"roiSize", QvpiSize{pixels, height}}}),
-            qvpStatusNoError)
-      << function.name;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) {
-      const int c = x % name.channels;
-      const T kept = name.inPlace ? b(x, y) : before(x, y), first = isBinary ? a(x, y) : constants[c];
-      const T expected = c < name.written ? Expected<T>(operation, first, b(x, y), values[c]) : kept;
-      ASSERT_EQ(out(x, y), expected) << function.name << " at " << x << ',' << y << " of " << +b(x, y) << " and "
-                                     << values[c];
-    }
-  }
+  test::CheckElements(
+      function, {pixels, height}, {{"value", value}}, [](const test::Samples&) {},
+      [&](Real a, Real b, int c) {
+        return Expected<T>(operation, hasConstant ? constants[c] : static_cast<T>(a), static_cast<T>(b), values[c]);
+      });
 }
 
 void CheckAll(std::initializer_list<std::string_view> operations, std::initializer_list<int> widths,
@@ -99,27 +80,6 @@ TEST(Shift, FloorsNegativeNumbers) {
   EXPECT_EQ(shifted(1), (std::vector<int>{-3, -1, -16384, 16383}));
   EXPECT_EQ(shifted(15), (std::vector<int>{-1, -1, -1, 0}));
   EXPECT_EQ(shifted(40), (std::vector<int>{-1, -1, -1, 0}));
-}
-
-// One of each shape: the order of pointers and sizes holds for all functions and is tested with them.
-TEST(Logic, RefusesStepsBelowOneAfterTheSize) {
-  Qvp8u a[16] = {}, b[16] = {};
-  const QvpiSize one{1, 1}, none{0, 1};
-  const Qvp32u counts[3] = {1, 2, 3};
-  for (const int step : {0, -4}) {
-    EXPECT_EQ(qvpiAnd_8u_C1R(a, step, a, 4, b, 4, none), qvpStatusSize);
-    EXPECT_EQ(qvpiAnd_8u_C1R(a, step, a, 4, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOr_8u_AC4R(a, 4, a, step, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiXor_8u_C1R(a, 4, a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiAnd_8u_C1IR(a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOrC_8u_C1R(a, step, 255, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiOrC_8u_C1IR(255, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiNot_8u_C1R(a, 4, b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiNot_8u_C1IR(b, step, one), qvpStatusStep);
-    EXPECT_EQ(qvpiShiftLeftC_8u_C3R(a, step, counts, b, 4, one), qvpStatusStep);
-    EXPECT_EQ(qvpiShiftRightC_8u_C3IR(counts, b, step, one), qvpStatusStep);
-  }
-  for (const Qvp8u byte : b) EXPECT_EQ(byte, 0);
 }
 
 }  // namespace

@@ -136,34 +136,23 @@ TEST(Moments, OfOneFigureStayTheSame) {
   EXPECT_NEAR(original.hu[0], original.normalised[2] + original.normalised[8], 1e-15);
 }
 
-TEST(Moments, RefuseInTheDocumentedOrder) {
+TEST(Moments, AreRefusedWhereThereAreNone) {
   alignas(8) uint8_t record[400] = {};
   auto* const raw = reinterpret_cast<QvpiMomentState_64f*>(record);
   const uint8_t image[12] = {};
   double v = 9, hu[7];
-  const test::Block word(4);  // all that is looked at, as records of other families may be shorter
-  std::memset(word.data(), 0, word.size());
-  auto* const foreign = reinterpret_cast<QvpiMomentState_64f*>(word.data());
-  EXPECT_EQ(qvpiMoments64f_8u_C1R(image, 0, {0, 1}, foreign), qvpStatusContextMatch);
-  EXPECT_EQ(qvpiGetHuMoments_64f(foreign, 0, hu), qvpStatusContextMatch);
   ASSERT_EQ(qvpiMomentInit_64f(raw, 7), qvpStatusNoError);
   EXPECT_EQ(qvpiGetSpatialMoment_64f(raw, 0, 0, 0, {0, 0}, &v), qvpStatusChannel);
-  EXPECT_EQ(qvpiMoments64f_8u_C1R(image, 0, {0, 1}, raw), qvpStatusStep);
-  EXPECT_EQ(qvpiMoments64f_8u_C1R(image, 3, {4, 0}, raw), qvpStatusSize);
   EXPECT_EQ(qvpiMoments64f_8u_C1R(image, 3, {4, 1}, raw), qvpStatusStride);
-  EXPECT_EQ(qvpiMoments64f_8u_C3R(image, 11, {4, 1}, raw), qvpStatusStride);
   ASSERT_EQ(qvpiMoments64f_8u_C1R(image, 4, {4, 3}, raw), qvpStatusNoError);
   for (const QvpiPoint orders : {QvpiPoint{2, 2}, {-1, 0}, {5, -2}, {INT32_MAX, 1}}) {
     EXPECT_EQ(qvpiGetSpatialMoment_64f(raw, orders.x, orders.y, 9, {0, 0}, &v), qvpStatusSize);
   }
   EXPECT_EQ(qvpiGetCentralMoment_64f(raw, 0, 0, 1, &v), qvpStatusChannel);
-  EXPECT_EQ(qvpiGetCentralMoment_64f(raw, 0, 0, -1, &v), qvpStatusChannel);
   EXPECT_EQ(qvpiGetCentralMoment_64f(raw, 0, 0, 0, &v), qvpStatusMoment00Zero);
   EXPECT_EQ(qvpiGetNormalizedSpatialMoment_64f(raw, 0, 0, 0, {0, 0}, &v), qvpStatusMoment00Zero);
   EXPECT_EQ(qvpiGetHuMoments_64f(raw, 0, hu), qvpStatusMoment00Zero);
   EXPECT_EQ(v, 9);
-  EXPECT_EQ(qvpiGetSpatialMoment_64f(raw, 3, 0, 0, {1, 1}, &v), qvpStatusNoError);
-  EXPECT_EQ(v, 0);
 }
 
 }  // namespace

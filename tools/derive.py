@@ -17,7 +17,8 @@ For a build that holds the code of several others, its levels, and chooses betwe
 
 and for the tests
 
-  calls.cpp    one row per function: its name, its parameters, and a way to call it with arguments made at run time
+  calls.cpp    one row per function: its name, its parameters, the statuses of its comment in the order of the checks,
+               and a way to call it with arguments made at run time
 
 and for the module for JavaScript
 
@@ -180,7 +181,19 @@ def argument(index, kind):
     return f"static_cast<{kind}>(a[{index}].number)"
 
 
-def calls(functions):
+def documented_statuses(headers):
+    """{name: the statuses that its comment lists, each before a colon or a full stop, in that order}."""
+    listed = re.compile(r"qvpStatus\w+(?=(?:, qvpStatus\w+)*(?:, a warning[^:.]*)?[:.])")
+    found = {}
+    for header in headers:
+        for group in GROUP.finditer(header.read_text()):
+            statuses = listed.findall(group["comment"].partition("@return")[2].replace("\n *", " "))
+            for match in PROTOTYPE.finditer(group["prototypes"]):
+                found[match["name"]] = [status for status in statuses if status != "qvpStatusNoError"]
+    return found
+
+
+def calls(functions, statuses):
     lines = ['#include "tests/support/calls.h"', "namespace test {", "const Call kCalls[] = {"]
     for result, name, params in functions:
         if result != "QvpStatus":
@@ -188,8 +201,10 @@ def calls(functions):
         split = [parameter(p) for p in params]
         arguments = ", ".join(argument(i, kind) for i, (kind, _) in enumerate(split))
         described = ";".join(f"{kind}|{label}" for kind, label in split)
-        lines.append(f'{{"{name}", "{described}", [](const Argument* a) {{ return {name}({arguments}); }}}},')
-    return "\n".join(lines + ["{nullptr, nullptr, nullptr}};", "}  // namespace test"]) + "\n"
+        order = ", ".join([*statuses.get(name, []), "qvpStatusNoError"])
+        lines.append(f'{{"{name}", "{described}", {{{order}}}, '
+                     f"[](const Argument* a) {{ return {name}({arguments}); }}}},")
+    return "\n".join(lines + ["{nullptr, nullptr, {}, nullptr}};", "}  // namespace test"]) + "\n"
 
 
 def used(names, scripts):
@@ -219,7 +234,7 @@ def main():
         raise SystemExit("a name is declared twice: " + ", ".join(sorted({n for n in names if names.count(n) > 1})))
     options.out.mkdir(parents=True, exist_ok=True)
     if options.calls:
-        write(options.out / "calls.cpp", calls(functions))
+        write(options.out / "calls.cpp", calls(functions, documented_statuses(options.headers)))
         return
     if options.module:
         names = used(names, options.used_in) if options.used_in else names

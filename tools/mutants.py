@@ -25,8 +25,8 @@ MOST_OBJECTS = 3  # that see a place: headers that nearly all include would take
 TESTS = {
     "arith": ["arith", "compare", "composite", "convert", "logic", "table", "threshold"],
     "core": ["alloc", "fill", "moves", "streaming"],
-    "feature": ["hog", "jaehne", "lbp", "noise", "ramp"],
-    "filter": ["copy_border", "filter"],
+    "feature": ["hog", "jaehne", "lbp", "noise", "ramp", "tiles"],
+    "filter": ["copy_border", "filter", "tiles"],
     "geometry": ["decimate", "frame", "mirror", "remap", "resize", "transforms", "warp"],
     "signal": ["arith", "dct", "fourier", "noise", "window"],
     "stats": ["histogram", "match", "moments", "quality_index", "ssim", "stats"],

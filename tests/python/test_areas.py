@@ -399,12 +399,18 @@ def test_resized_frames():
             numpy.testing.assert_array_equal(small[0], qvpi.resize(luma, (30, 52), method=method))
             u = small[1][..., 0] if len(frame) == 2 else small[1]
             numpy.testing.assert_array_equal(u, qvpi.resize(chroma[0], (15, 26), method=method))
+        packed = numpy.dstack((luma, random((48, 80), dtype, 4)))
+        for place, pixels in (("first", packed), ("second", packed[..., ::-1])):
+            result = qvpi.resize_packed(pixels, (30, 52), method, luma=place, site="centre")
+            numpy.testing.assert_array_equal(result[..., 0 if place == "first" else 1], small[0])
     ramp = numpy.tile(numpy.arange(60000, 62000, 600).astype("u2"), (2, 1))
     frame = numpy.zeros((4, 8), "u2"), ramp, ramp
     assert qvpi.resize_frame(frame, (4, 6))[1][0].tolist() == [60050, 60850, 61650]
     assert qvpi.resize_frame(frame, (4, 6), site="centre")[1][0].tolist() == [60100, 60900, 61700]
     with pytest.raises(qvpi.Error):
         qvpi.resize_frame(frame, (5, 6), "super")
+    with pytest.raises(qvpi.Error):
+        qvpi.resize_packed(packed, (30, 51))
 
 
 def test_hog():

@@ -8,6 +8,7 @@ namespace test {
 
 struct Call {
   const char *name, *parameters;  // "type|name" of each parameter, with semicolons between
+  QvpStatus statuses[16];         // other than success, in the documented order; ends with that
   QvpStatus (*call)(const Argument*);
 };
 

@@ -159,7 +159,7 @@ const std::vector<Export>& Exports() {
   static const std::vector<Export> exports = [] {
     std::vector<Export> list;
     for (const Call* row = kCalls; row->name; ++row)
-      list.push_back({row->name, ParametersOf(row->parameters), row->call});
+      list.push_back({row->name, ParametersOf(row->parameters), row->statuses, row->call});
     return list;
   }();
   return exports;

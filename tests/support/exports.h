@@ -71,6 +71,7 @@ struct Named {
 struct Export {
   std::string name;
   std::vector<Parameter> parameters;
+  const QvpStatus* statuses;  // other than success, in the documented order of the checks; ends with that
   QvpStatus (*call)(const Argument*);
 
   // The place of a parameter by its name, or -1.
