@@ -76,7 +76,7 @@ def decimate_frame(frame, fraction):
 
 
 def _resize(form, layout, sizes, dtype, method, options, planes):
-    """Runs one resize: planes are the arguments from pSrc to dstStep."""
+    """Runs one resize: planes are the arguments for source and destination."""
     name = choice(_METHODS, method, "method")
     kind, family = NAMES.get(dtype.num), f"qvpiResize{form}"
     if kind not in ("8u", "16u"):
@@ -91,8 +91,10 @@ def _resize(form, layout, sizes, dtype, method, options, planes):
     make(*sizes, code, *[lobes] * is_lanczos, *places, spec, *[init] * is_lanczos)
     buffer = memory(size_of(make_call(f"{family}GetBufferSize", "spec dstSize bufSize"), spec, sizes[1]))
     has_border = method != "super"
-    roles = "src srcStep dst dstStep dstOffset dstSize" + " border" * has_border + " spec buffer"
-    call = make_call(f"{family}{name}_{kind}_{layout}R", roles)
+    is_packed = layout == "C2"  # an image, not a list of planes with their steps
+    roles = "src dst" if is_packed else "src srcStep dst dstStep"
+    roles += " dstOffset dstSize" + " border" * has_border + " spec buffer"
+    call = make_call(f"{family}{name}_{kind}_{layout}R", roles, layout if is_packed else "", ("src", "dst"))
     call(*planes, (0, 0), sizes[1], *[border] * has_border, spec, buffer)
 
 
@@ -122,6 +124,5 @@ def resize_packed(a, shape, method="linear", *, luma="first", site="left", borde
     result = numpy.empty((*shape, 2), a.dtype)
     places = [choice(_SITES, site, "site"), choice(_PLACES, luma, "luma")]
     options = lobes, places, choice(_EDGES, border, "border")
-    arguments = a, a.strides[0], result, result.strides[0]
-    _resize(422, "C2", (a.shape[1::-1], tuple(shape)[::-1]), a.dtype, method, options, arguments)
+    _resize(422, "C2", (a.shape[1::-1], tuple(shape)[::-1]), a.dtype, method, options, (a, result))
     return result
