@@ -44,7 +44,7 @@ HWY_INLINE V SamplesInPairs(D d, V v) {
 
 // Sums of samples and those of the next pixel. Those of unsigned 16 bits are of samples less 2^15.
 template <int kChannels, class T>
-HWY_INLINE auto PairSums(const T* from) {
+HWY_INLINE auto SumsOfPairs(const T* from) {
   const hn::ScalableTag<T> d;
   const auto v = SamplesInPairs<kChannels>(d, hn::LoadU(d, from));
   if constexpr (sizeof(T) == 1) {
@@ -62,7 +62,7 @@ HWY_INLINE hn::Vec<hn::ScalableTag<T>> Means(const T* upper, const T* lower) {
   const hn::ScalableTag<T> d;
   constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
   const auto half = [&](ptrdiff_t i) HWY_ATTR {
-    const auto sum = hn::Add(PairSums<kChannels>(upper + i), PairSums<kChannels>(lower + i));
+    const auto sum = hn::Add(SumsOfPairs<kChannels>(upper + i), SumsOfPairs<kChannels>(lower + i));
     return Rounding::Quarter(hn::DFromV<decltype(sum)>(), sum);
   };
   if constexpr (sizeof(T) == 1) {
