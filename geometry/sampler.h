@@ -125,8 +125,8 @@ template <int kTaps, class T, class C>
 void Sample(const Sources<T>& sources, C* u, C* v, ptrdiff_t n, T* dst) {
   const Task<T>&task = sources.tested, &inside = sources.inside;
   if (sources.areMoved) {
-    MoveTo(inside.interior.u, u, Padded(n) + kSpare);
-    MoveTo(inside.interior.v, v, Padded(n) + kSpare);
+    MoveTo(inside.interior.u, u, Padded(n));
+    MoveTo(inside.interior.v, v, Padded(n));
     return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
   }
   if (AreAllInside(inside.interior, u, v, n)) return SampleInside<kTaps>(inside, PointArray<C>{u, v}, n, dst);
