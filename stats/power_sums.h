@@ -50,16 +50,23 @@ class GroupSums {
 
   // `groups` groups; at(place) gives the vector of values of 0 to 255 at a place of the stretch.
   template <class At>
-  static HWY_INLINE PowerSums<int64_t> Of(ptrdiff_t groups, const At& at) {
+  HWY_INLINE PowerSums<int64_t> Of(ptrdiff_t groups, const At& at) {
     V a0 = hn::Zero(Sums()), a1 = a0, a2 = a0, a3 = a0, b0 = a0, b1 = a0, b2 = a0, c0 = a0, c1 = a0, d0 = a0;
     for (ptrdiff_t g = 0; g < groups; ++g) {
-      V t0, t1, t2, t3;
-      AddGroup([&](int i) HWY_ATTR { return at(g * kGroup + i); }, t0, t1, t2, t3);
+      V t0 = hn::Zero(Sums()), t1 = t0, t2 = t0, t3 = t0;
+      for (int i = 0; i < kGroup; i += kLanes) {
+        const auto v = at(g * kGroup + i);
+        t0 = MultiplyAdd(v, hn::Set(D(), int16_t{1}), t0);
+        t1 = MultiplyAdd(v, hn::Load(D(), kPowers.u[0] + i), t1);
+        t2 = MultiplyAdd(v, hn::Load(D(), kPowers.u[1] + i), t2);
+        t3 = MultiplyAdd(v, hn::Load(D(), kPowers.u[2] + i), t3);
+      }
       a3 = hn::Add(a3, a2), a2 = hn::Add(a2, a1), a1 = hn::Add(a1, a0), a0 = hn::Add(a0, t0);
       b2 = hn::Add(b2, b1), b1 = hn::Add(b1, b0), b0 = hn::Add(b0, t1);
       c1 = hn::Add(c1, c0), c0 = hn::Add(c0, t2);
       d0 = hn::Add(d0, t3);
     }
+    if (groups == 1) return Shifted<int64_t>({{Sum(a0), Sum(b0), Sum(c0), Sum(d0)}}, kGroup / 2);
     // Powers of k from its binomials: k^2 = 2 C(k, 2) + k, k^3 = 6 C(k, 3) + 6 C(k, 2) + k.
     const int64_t k0 = Sum(a0), k1 = Sum(a1), k2 = 2 * Sum(a2) + k1, k3 = 6 * (Sum(a3) + Sum(a2)) + k1;
     const int64_t u0 = Sum(b0), u1 = Sum(b1), u2 = 2 * Sum(b2) + u1, w0 = Sum(c0), w1 = Sum(c1);
@@ -70,51 +77,11 @@ class GroupSums {
     return Shifted<int64_t>(fromLast, (groups - 1) * kGroup + kGroup / 2);
   }
 
-  // One group. Its sums stay below 2^28, so that lanes of 32 bits hold them: all four at once.
-  template <class At>
-  static HWY_INLINE PowerSums<int64_t> OfOne(const At& at) {
-    V t0, t1, t2, t3;
-    AddGroup(at, t0, t1, t2, t3);
-    const auto lower = SumPairs(SumOfBlocks(Sums(), t0), SumOfBlocks(Sums(), t1));
-    const auto upper = SumPairs(SumOfBlocks(Sums(), t2), SumOfBlocks(Sums(), t3));
-    const Block d;
-    HWY_ALIGN int32_t sums[4];
-    hn::Store(hn::Add(hn::ConcatLowerLower(d, upper, lower), hn::ConcatUpperUpper(d, upper, lower)), d, sums);
-    return Shifted<int64_t>({{sums[0], sums[1], sums[2], sums[3]}}, kGroup / 2);
-  }
-
   static constexpr int kLanes = static_cast<int>(hn::MaxLanes(D()));
 
  private:
-  using Block = hn::Full128<int32_t>;
-
-  template <class At>
-  static HWY_INLINE void AddGroup(const At& at, V& t0, V& t1, V& t2, V& t3) {
-    t0 = t1 = t2 = t3 = hn::Zero(Sums());
-    for (int i = 0; i < kGroup; i += kLanes) {
-      const auto v = at(i);
-      t0 = MultiplyAdd(v, hn::Set(D(), int16_t{1}), t0);
-      t1 = MultiplyAdd(v, hn::Load(D(), kPowers.u[0] + i), t1);
-      t2 = MultiplyAdd(v, hn::Load(D(), kPowers.u[1] + i), t2);
-      t3 = MultiplyAdd(v, hn::Load(D(), kPowers.u[2] + i), t3);
-    }
-  }
   static HWY_INLINE V MultiplyAdd(hn::Vec<D> v, hn::Vec<D> powers, V sum) {
     return hn::Add(sum, MulAddPairs(v, powers));
-  }
-  template <class D>
-  static HWY_INLINE hn::Vec<Block> SumOfBlocks(D d, hn::Vec<D> v) {
-    if constexpr (hn::MaxLanes(D()) == hn::MaxLanes(Block())) {
-      (void)d;
-      return v;
-    } else {
-      const hn::Half<D> half;
-      return SumOfBlocks(half, hn::Add(hn::LowerHalf(half, v), hn::UpperHalf(half, v)));
-    }
-  }
-  // a0 + a2, b0 + b2, a1 + a3, b1 + b3
-  static HWY_INLINE hn::Vec<Block> SumPairs(hn::Vec<Block> a, hn::Vec<Block> b) {
-    return hn::Add(hn::InterleaveLower(Block(), a, b), hn::InterleaveUpper(Block(), a, b));
   }
   static HWY_INLINE int64_t Sum(V v) {
     const hn::RepartitionToWide<Sums> wide;
@@ -125,33 +92,21 @@ class GroupSums {
   }
 };
 
-// What sum(at) gives for samples; of 16 bits, which are 256 times their upper bytes plus their lower ones, in two sums.
-template <class Sum>
-HWY_INLINE PowerSums<int64_t> SumsOfValues(const uint8_t* row, const Sum& sum) {
-  return sum([&](ptrdiff_t i) HWY_ATTR { return LoadWide(GroupSums::D(), row + i); });
+// Whole groups of samples. Those of 16 bits are 256 times their upper bytes plus their lower ones. The sums take all
+// vector registers: inlined into a larger function, they would not stay there.
+HWY_NOINLINE inline PowerSums<int64_t> SumsOfGroups(const uint8_t* row, ptrdiff_t groups) {
+  return GroupSums().Of(groups, [&](ptrdiff_t i) HWY_ATTR { return LoadWide(GroupSums::D(), row + i); });
 }
-template <class Sum>
-HWY_INLINE PowerSums<int64_t> SumsOfValues(const uint16_t* row, const Sum& sum) {
+HWY_NOINLINE inline PowerSums<int64_t> SumsOfGroups(const uint16_t* row, ptrdiff_t groups) {
   const hn::ScalableTag<uint16_t> d;
   const GroupSums::D signedD;
-  PowerSums<int64_t> sums = sum([&](ptrdiff_t i) HWY_ATTR {
+  PowerSums<int64_t> sums = GroupSums().Of(groups, [&](ptrdiff_t i) HWY_ATTR {
     return hn::BitCast(signedD, hn::And(hn::LoadU(d, row + i), hn::Set(d, uint16_t{0xFF})));
   });
-  const PowerSums<int64_t> upper =
-      sum([&](ptrdiff_t i) HWY_ATTR { return hn::BitCast(signedD, hn::ShiftRight<8>(hn::LoadU(d, row + i))); });
+  const PowerSums<int64_t> upper = GroupSums().Of(
+      groups, [&](ptrdiff_t i) HWY_ATTR { return hn::BitCast(signedD, hn::ShiftRight<8>(hn::LoadU(d, row + i))); });
   for (int m = 0; m < 4; ++m) sums.s[m] += 256 * upper.s[m];
   return sums;
-}
-
-// Several groups. Their sums take all vector registers: inlined into a larger function, they would not stay there.
-template <class T>
-HWY_NOINLINE PowerSums<int64_t> SumsOfGroups(const T* row, ptrdiff_t groups) {
-  return SumsOfValues(row, [&](const auto& at) HWY_ATTR { return GroupSums::Of(groups, at); });
-}
-// One group needs few registers, and less time than a result that is written by a call and read by the caller at once.
-template <class T>
-HWY_INLINE PowerSums<int64_t> SumsOfGroup(const T* row) {
-  return SumsOfValues(row, [](const auto& at) HWY_ATTR { return GroupSums::OfOne(at); });
 }
 
 // A stretch of n integers, the last group filled up with zeros.
@@ -159,12 +114,11 @@ template <class T>
 PowerSums<double> SumsOfStretch(const T* row, ptrdiff_t n) {
   const ptrdiff_t groups = n / kGroup, whole = groups * kGroup;
   PowerSums<int64_t> sums;
-  if (groups == 1) sums = SumsOfGroup(row);
-  if (groups > 1) sums = SumsOfGroups(row, groups);
+  if (groups > 0) sums = SumsOfGroups(row, groups);
   if (whole < n) {
     HWY_ALIGN T rest[kGroup] = {};
     std::memcpy(rest, row + whole, (n - whole) * sizeof(T));
-    const PowerSums<int64_t> more = Shifted<int64_t>(SumsOfGroup(rest), whole);
+    const PowerSums<int64_t> more = Shifted<int64_t>(SumsOfGroups(rest, 1), whole);
     for (int m = 0; m < 4; ++m) sums.s[m] += more.s[m];
   }
   PowerSums<double> exact;

@@ -55,7 +55,7 @@ class WrongArguments {
     list.back().pointer = pointer;
   }
 
-  // Null; what is no record; arrays of zeros, and of NaN or negative numbers.
+  // Null; what is no record; arrays of zeros, and of NaN or negative numbers, but for steps, which may be negative.
   void AddPointers() {
     static std::vector<uint8_t> zeros(1 << 20), ones(1 << 20, 0xFF);
     const bool isRecord = IsRecord(type_);
@@ -64,7 +64,7 @@ class WrongArguments {
     if (isRecord && !Contains(function_.name, "Init")) AddPointer(zeros.data());
     if (isRecord || !isArray) return;
     AddPointer(zeros.data());
-    AddPointer(ones.data());
+    if (!function_.parameters[place_].name.ends_with("Step")) AddPointer(ones.data());
   }
 
   // A number of quarter turns is any, and tells the shape of the destination.
