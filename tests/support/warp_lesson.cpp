@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "tests/support/geometry_lesson.h"
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
@@ -71,8 +73,8 @@ QvpStatus Init(const Scene& scene, QvpiWarpSpec* spec) {
   Map map{KindOf(scene)};
   const double* const c = map.IsBilinear() ? m.bilinear[0] : m.matrix[0];
   std::copy(c, c + (map.IsBilinear() ? 8 : 9), map.c);
-  std::copy(m.from[0], m.from[0] + 8, map.from[0]);
-  std::copy(m.to[0], m.to[0] + 8, map.to[0]);
+  std::memcpy(map.from, m.from, sizeof(map.from));
+  std::memcpy(map.to, m.to, sizeof(map.to));
   map.direction = map.kind == Kind::kBilinearBack ? +qvpWarpBackward : m.direction;
   Rule rule{.taps = TapsOf(scene, m), .b = m.b, .c = m.c};
   std::copy(kValue, kValue + 4, rule.constant);
