@@ -6,6 +6,7 @@
 #include "base/blocks.h"
 #include "base/pack.h"
 #include "base/pairs.h"
+#include "base/scalar.h"
 #include "geometry/resize_call.h"
 
 namespace qvp::resize {
@@ -87,7 +88,8 @@ bool HalveRow(const T* upper, const T* lower, ptrdiff_t ahead, T* dst, ptrdiff_t
   }
   for (; i < n; ++i) {
     const ptrdiff_t at = 2 * (i - i % kChannels) + i % kChannels;
-    dst[i] = static_cast<T>(Rounding::Quarter(upper[at] + upper[at + kChannels] + lower[at] + lower[at + kChannels]));
+    const auto pair = [&](const T* row) { return LoadScalar(row + at) + LoadScalar(row + at + kChannels); };
+    StoreScalar(dst + i, static_cast<T>(Rounding::Quarter(pair(upper) + pair(lower))));
   }
   return true;
 }
