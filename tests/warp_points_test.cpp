@@ -1,6 +1,4 @@
 // Warps: points that are known, and what is the same by two ways.
-#include <cstring>
-
 #include "tests/support/name.h"
 #include "tests/support/warped.h"
 
@@ -8,29 +6,18 @@ namespace {
 using test::Element;
 using test::ElementOf;
 using test::ExpectSame;
+using test::Forward;
 using test::ImageWarp;
 using test::Kind;
 using test::Map;
 using test::Numbers;
 using test::Point;
+using test::Quad;
 using test::Rule;
 using test::Samples;
 
-constexpr QvpiSize kSource{23, 17}, kTarget{83, 21};
+constexpr QvpiSize kSource = test::kWarpSource, kTarget = test::kWarpTarget;
 const Element &k8u = ElementOf("8u"), &k64f = ElementOf("64f");
-
-// A map by where the source's corners go.
-Map Forward(const double (&to)[4][2], QvpiSize src) {
-  Map m{Kind::kBilinear};
-  EXPECT_EQ(qvpiGetBilinearTransform({0, 0, src.width, src.height}, to, reinterpret_cast<double(*)[4]>(m.c)), 0);
-  return m;
-}
-Map Quad(const double (&from)[4][2], const double (&to)[4][2]) {
-  Map m{Kind::kBilinearQuad};
-  std::memcpy(m.from, from, sizeof(m.from));
-  std::memcpy(m.to, to, sizeof(m.to));
-  return m;
-}
 
 // An image of coordinates tells the points.
 Point Taken(const Map& m, QvpiSize src, QvpiSize dst, QvpiPoint at) {

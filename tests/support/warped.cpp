@@ -1,5 +1,7 @@
 #include "tests/support/warped.h"
 
+#include <cstring>
+
 #include "tests/support/name.h"
 
 namespace test {
@@ -57,6 +59,18 @@ std::string Map::Operation(int taps) const {
                                     "WarpBilinearQuad"};
   const char* const name = kNames[static_cast<int>(kind)];
   return IsBilinear() ? name : std::string(name) + NameOf(taps);
+}
+
+Map Forward(const double (&to)[4][2], QvpiSize src) {
+  Map m{Kind::kBilinear};
+  EXPECT_EQ(qvpiGetBilinearTransform({0, 0, src.width, src.height}, to, reinterpret_cast<double(*)[4]>(m.c)), 0);
+  return m;
+}
+Map Quad(const double (&from)[4][2], const double (&to)[4][2]) {
+  Map m{Kind::kBilinearQuad};
+  std::memcpy(m.from, from, sizeof(m.from));
+  std::memcpy(m.to, to, sizeof(m.to));
+  return m;
 }
 
 Point PointOf(const Map& m, QvpiSize src, double x, double y) {

@@ -29,6 +29,13 @@ struct Map {
   std::string Operation(int taps) const;
 };
 
+// The sizes of most images that tests warp.
+constexpr QvpiSize kWarpSource{23, 17}, kWarpTarget{83, 21};
+
+// The bilinear map by where the source's corners go, and one by corners on both sides.
+Map Forward(const double (&to)[4][2], QvpiSize src = kWarpSource);
+Map Quad(const double (&from)[4][2], const double (&to)[4][2]);
+
 // Where the pixel at (x, y) comes from; not a number where nothing is written, or beyond the fold.
 Point PointOf(const Map& map, QvpiSize src, double x, double y);
 
