@@ -4,6 +4,7 @@
 
 #include "geometry/frame_record.h"
 #include "geometry/resize_linear_columns.h"
+#include "geometry/resize_walk.h"
 
 namespace qvp::resize {
 

@@ -3,7 +3,7 @@
 
 #include "base/map.h"
 #include "geometry/resize_area_strips.h"
-#include "geometry/resize_filter.h"
+#include "geometry/resize_rows.h"
 
 namespace qvp::resize {
 

@@ -6,7 +6,7 @@
 
 #include "base/map.h"
 #include "geometry/resize_coverage.h"
-#include "geometry/resize_filter.h"
+#include "geometry/resize_singles.h"
 
 namespace qvp::resize {
 

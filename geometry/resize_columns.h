@@ -44,6 +44,23 @@ struct ColumnPlan {
 // In place of a number of taps: any up to a block, and any above that.
 inline constexpr int kFew = 0, kMany = -1;
 
+// filter(n) for a number n that is known when it is compiled: that of the taps if it is one of kOwn, for which there
+// are loops of their own, and if all taps are read, else kFew or kMany.
+template <class Weights, int... kOwn, class Filter>
+HWY_INLINE void FilterByCount(int count, bool areAllRead, const Filter& filter) {
+  const auto isOwn = [&](auto own) {
+    if constexpr (own.value <= Weights::kMostTaps) {
+      if (areAllRead && count == own.value) return filter(own), true;
+    }
+    return false;
+  };
+  if ((isOwn(std::integral_constant<int, kOwn>()) || ...)) return;
+  if constexpr (Weights::kMostTaps > kBlockTaps) {
+    if (count > kBlockTaps) return filter(std::integral_constant<int, kMany>());
+  }
+  filter(std::integral_constant<int, kFew>());
+}
+
 constexpr int kMostChannels = 4;
 
 // Adds up the taps [begin, end) one by one: the products of samples(k), as many as there are channels, with weight(k).
@@ -109,14 +126,14 @@ template <class T, class Weights>
 void FilterOneByOne(const ColumnPlan<T>& plan, const Weights& weights, const T* row, ptrdiff_t begin, ptrdiff_t end,
                     float* out) {
   if (begin >= end) return;
-  const bool areMany = plan.taps.count > kBlockTaps;
-  const auto filter =
-      plan.channels == 1   ? areMany ? FilterEach<1, true, T, Weights> : FilterEach<1, false, T, Weights>
-        : plan.channels == 2 ? areMany ? FilterEach<2, true, T, Weights> : FilterEach<2, false, T, Weights>
-        : plan.channels == 3 ? areMany ? FilterEach<3, true, T, Weights> : FilterEach<3, false, T, Weights>
-        : areMany ? FilterEach<4, true, T, Weights>
-                           : FilterEach<4, false, T, Weights>;
-  filter(plan, weights, row, begin, end, out);
+  FilterByCount<Weights>(plan.taps.count, false, [&](auto n) {
+    constexpr bool kAreMany = n.value == kMany;
+    const auto filter = plan.channels == 1   ? FilterEach<1, kAreMany, T, Weights>
+                        : plan.channels == 2 ? FilterEach<2, kAreMany, T, Weights>
+                        : plan.channels == 3 ? FilterEach<3, kAreMany, T, Weights>
+                                             : FilterEach<4, kAreMany, T, Weights>;
+    filter(plan, weights, row, begin, end, out);
+  });
 }
 
 // The columns on both sides of those that vector kernels computed, [taps.from, done).

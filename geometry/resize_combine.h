@@ -2,19 +2,10 @@
 #pragma once
 
 #include "geometry/block_sum.h"
+#include "geometry/resize_rows.h"
 #include "geometry/resize_store.h"
-#include "geometry/resize_walk.h"
-#include "geometry/resize_weights.h"
 
 namespace qvp::resize {
-
-// Taps of destination position y but for the last ones, which are not read where their weight is 0.
-template <class Weights>
-int CountRead(const Taps& taps, const Weights& weights, ptrdiff_t y) {
-  int count = taps.count;
-  while (count > taps.certain && weights.At(count - 1, y) == 0) --count;
-  return count;
-}
 
 // dst = the weighted sum of kRows rows, as many as there are taps.
 template <int kRows, class T, class Weights>
@@ -89,20 +80,6 @@ void AddBlocks(const RowRing<float>& ring, const Weights& weights, const Taps& t
     for (int v = 0; v < vectors; ++v) sums[v] = totals[v].Rounded();
   };
   StoreRowByFours(d, dst, n, add);
-}
-
-// The row at destination position y. The usual numbers of taps have loops of their own.
-template <class T, class Weights>
-void CombineRows(const RowRing<float>& ring, const Weights& weights, const Taps& taps, ptrdiff_t y, T* dst,
-                 ptrdiff_t n) {
-  const int count = taps.certain < taps.count ? 0 : taps.count;
-  const auto add = count == 2                ? AddRows<2, T, Weights>
-                   : count == 3              ? AddRows<3, T, Weights>
-                   : count == 4              ? AddRows<4, T, Weights>
-                   : count == 6              ? AddRows<6, T, Weights>
-                   : taps.count > kBlockTaps ? AddBlocks<T, Weights>
-                                             : AddRing<T, Weights>;
-  add(ring, weights, taps, y, dst, n);
 }
 
 }  // namespace qvp::resize

@@ -2,61 +2,11 @@
 // Every output is the sum of its products in the order of the taps, each rounded; of many taps in blocks.
 #pragma once
 
-#include "geometry/resize_combine.h"
-#include "geometry/resize_pairs.h"
-#include "geometry/resize_pixels.h"
-#include "geometry/resize_singles.h"
+#include "geometry/resize_rows.h"
 
 namespace qvp::resize {
 
-// The columns from taps.from on that there are vectors for.
-template <size_t kRows, class T, class Weights>
-void FilterVectors(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
-                   const std::array<float*, kRows>& out) {
-  if constexpr (kCanPick<T>) {
-    if (plan.arePicked) return PickAcross<kRows>(plan, weights, rows, out);
-  }
-  if (plan.channels == 1) return FilterSinglesAcross(plan, weights, rows, out);
-  if constexpr (kHasPairs<T>) {
-    if (plan.channels == 2) return FilterPairsAcross(plan, weights, rows, out);
-  }
-  using TwoBlocks = hn::CappedTag<float, 8>;
-  if (kRows == 2 && hn::MaxLanes(TwoBlocks()) == 8) {
-    return FilterPixelsAcross(TwoBlocks(), plan, weights, rows.data(), out.data());
-  }
-  for (size_t i = 0; i < kRows; ++i) FilterPixelsAcross(hn::Full128<float>(), plan, weights, &rows[i], &out[i]);
-}
-
-// Whether there are as many columns as FilterVectors takes at least.
-template <class T>
-bool HasVectors(const ColumnPlan<T>& plan) {
-  if (plan.channels > 2) return true;
-  if (plan.channels == 2 && !kHasPairs<T>) return false;
-  return plan.to - plan.taps.from >= ptrdiff_t{hn::MaxLanes(hn::CappedTag<float, 8>())};
-}
-
-// Source rows, across.
-template <size_t kRows, class T, class Weights>
-void FilterAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
-                  const std::array<float*, kRows>& out) {
-  const bool hasVectors = HasVectors(plan);
-  const ptrdiff_t done = hasVectors ? plan.to : plan.taps.from;
-  if (hasVectors) FilterVectors(plan, weights, rows, out);
-  for (size_t i = 0; i < kRows; ++i) FilterEnds(plan, weights, done, rows[i], out[i]);
-}
-
-// Four rows of pixels that are staged: they share the loads of weights.
-template <class T, class Weights>
-void FilterFourAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, 4>& rows,
-                      const std::array<float*, 4>& out) {
-  const hn::CappedTag<float, 8> d;
-  const PixelRows<hn::CappedTag<float, 8>, T, 2> pixels(rows.data(), out.data(), plan.channels);
-  FilterStagedAcross(d, plan.taps, plan.to, weights, pixels);
-  for (size_t i = 0; i < 4; ++i) FilterEnds(plan, weights, plan.to, rows[i], out[i]);
-}
-
 // A tile, by weights across and down. The rows of the ring need places * RowFloats(samples) floats at `rows`.
-
 template <class T, class Across, class Down>
 void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Across& across,
                 const Down& down, float* rows) {
@@ -70,14 +20,12 @@ void FilterTile(const ResizeCall<T>& call, const ResizeRecord& record, const Til
   const RowRing<float> ring{rows, RowFloats(samples), rowTaps.count};
   const auto source = [&](ptrdiff_t p) { return SourceRow(call, tile, rowEdge(p)); };
   const auto place = [&](ptrdiff_t p) { return ring.Row(p); };
+  const bool byFours = TakesFours(plan);
   const auto filter = [&](ptrdiff_t position, ptrdiff_t end) {
-    if constexpr (hn::MaxLanes(hn::CappedTag<float, 8>()) == 8) {
-      const bool byFours = channels > 2 && AreStaged<T>(plan.taps);
-      for (; byFours && position + 4 <= end; position += 4) {
-        const ptrdiff_t p = position;
-        FilterFourAcross(plan, across, std::array{source(p), source(p + 1), source(p + 2), source(p + 3)},
-                         std::array{place(p), place(p + 1), place(p + 2), place(p + 3)});
-      }
+    for (; byFours && position + 4 <= end; position += 4) {
+      const ptrdiff_t p = position;
+      FilterFourAcross(plan, across, std::array{source(p), source(p + 1), source(p + 2), source(p + 3)},
+                       std::array{place(p), place(p + 1), place(p + 2), place(p + 3)});
     }
     ForTwo(position, end, source, place,
            [&](const auto& sources, const auto& out) { FilterAcross(plan, across, sources, out); });

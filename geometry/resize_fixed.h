@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "geometry/resize_filter.h"
+#include "geometry/resize_columns.h"
 #include "geometry/resize_gather.h"
 
 namespace qvp::resize {

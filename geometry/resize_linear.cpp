@@ -2,9 +2,11 @@
 // point.
 #include "base/export.h"
 #include "base/map.h"
+#include "geometry/resize_filter.h"
 #include "geometry/resize_halves.h"
 #include "geometry/resize_linear_columns.h"
 #include "geometry/resize_passes.h"
+#include "geometry/resize_store.h"
 
 namespace qvp::resize {
 namespace {

@@ -190,8 +190,8 @@ void FilterStagedBy(D d, const Taps taps, ptrdiff_t to, const Weights weights, c
 template <class D, class T, class Weights, int kVectors>
 void FilterStagedAcross(D d, const Taps& taps, ptrdiff_t to, const Weights& weights,
                         const PixelRows<D, T, kVectors>& rows) {
-  if (taps.count > kBlockTaps) return FilterStagedBy<true>(d, taps, to, weights, rows);
-  FilterStagedBy<false>(d, taps, to, weights, rows);
+  FilterByCount<Weights>(taps.count, false,
+                         [&](auto n) { FilterStagedBy<n.value == kMany>(d, taps, to, weights, rows); });
 }
 
 // With 2 or 3 taps that are known all are read; kCount is kFew or kMany else.
@@ -213,13 +213,11 @@ void FilterPixelsAcross(D d, const ColumnPlan<T>& plan, const Weights& weights, 
                         float* const* out) {
   const PixelRows<D, T, 1> rows(from, out, plan.channels);
   const Taps& taps = plan.taps;
-  if (AreStaged<T>(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
-  const bool areKnown = taps.certain == taps.count;
-  const auto filter = taps.count > kBlockTaps       ? FilterDirectly<kMany, D, T, Weights>
-                      : areKnown && taps.count == 2 ? FilterDirectly<2, D, T, Weights>
-                      : areKnown && taps.count == 3 ? FilterDirectly<3, D, T, Weights>
-                                                    : FilterDirectly<kFew, D, T, Weights>;
-  filter(d, taps, plan.to, weights, rows);
+  if constexpr (Weights::kMostTaps > 2) {
+    if (AreStaged<T>(taps)) return FilterStagedAcross(d, taps, plan.to, weights, rows);
+  }
+  FilterByCount<Weights, 2, 3>(taps.count, taps.certain == taps.count,
+                               [&](auto n) { FilterDirectly<n.value>(d, taps, plan.to, weights, rows); });
 }
 
 }  // namespace qvp::resize

@@ -157,14 +157,9 @@ template <size_t kRows, class T, class Weights>
 void FilterSinglesAcross(const ColumnPlan<T>& plan, const Weights& weights, const std::array<const T*, kRows>& rows,
                          const std::array<float*, kRows>& out) {
   const Taps& taps = plan.taps;
-  const int count = taps.certain == taps.count || taps.count == 3 ? taps.count : 0;
-  const auto filter = count == 2                ? FilterSinglesBy<2, kRows, T, Weights>
-                      : count == 3              ? FilterSinglesBy<3, kRows, T, Weights>
-                      : count == 4              ? FilterSinglesBy<4, kRows, T, Weights>
-                      : count == 6              ? FilterSinglesBy<6, kRows, T, Weights>
-                      : taps.count > kBlockTaps ? FilterSinglesBy<kMany, kRows, T, Weights>
-                                                : FilterSinglesBy<kFew, kRows, T, Weights>;
-  filter(plan, weights, rows, out);
+  const bool areKnown = taps.certain == taps.count || taps.count == 3;
+  FilterByCount<Weights, 2, 3, 4, 6>(taps.count, areKnown,
+                                     [&](auto n) { FilterSinglesBy<n.value>(plan, weights, rows, out); });
 }
 
 }  // namespace qvp::resize

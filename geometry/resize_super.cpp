@@ -5,7 +5,6 @@
 #include "geometry/resize_area_near.h"
 #include "geometry/resize_area_strips.h"
 #include "geometry/resize_areas.h"
-#include "geometry/resize_filter.h"
 #include "geometry/resize_halves.h"
 #include "geometry/resize_passes.h"
 

@@ -2,8 +2,10 @@
 // pixels and weights in units of 1/16384, else in floating point.
 #include "base/export.h"
 #include "base/map.h"
+#include "geometry/resize_filter.h"
 #include "geometry/resize_fixed.h"
 #include "geometry/resize_passes.h"
+#include "geometry/resize_store.h"
 
 namespace qvp::resize {
 namespace {

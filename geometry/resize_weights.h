@@ -1,6 +1,8 @@
 // Weights of a tile's positions, by the way in which a record keeps them: At(k, d) is the weight of tap k at position
-// d, Load(k, d) the weights of as many positions as there are lanes, from d on.
+// d, Load(k, d) the weights of as many positions as there are lanes, from d on. There are kMostTaps at most.
 #pragma once
+
+#include <limits>
 
 #include "base/lanes.h"
 #include "geometry/resize_call.h"
@@ -10,6 +12,7 @@ namespace qvp::resize {
 // One floating-point number for each tap.
 template <class W>
 struct TapPlanes {
+  static constexpr int kMostTaps = std::numeric_limits<int>::max();
   const W* at;
   ptrdiff_t plane;
 
@@ -20,8 +23,9 @@ struct TapPlanes {
   }
 };
 
-// Pairs of integers in units of 1/16384.
+// Pairs of integers in units of 1/16384, of methods that are not widened.
 struct FixedTapPlanes {
+  static constexpr int kMostTaps = 6;
   const int16_t* at;
   ptrdiff_t plane;
 
@@ -64,6 +68,7 @@ struct LinearWeights {
 // The same as single floating-point numbers.
 template <class F>
 struct LinearPlane {
+  static constexpr int kMostTaps = 2;
   const F* second;
 
   F At(int k, ptrdiff_t d) const { return k == 0 ? 1 - second[d] : second[d]; }

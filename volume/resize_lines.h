@@ -2,8 +2,9 @@
 // passed over.
 #pragma once
 
-#include "geometry/resize_filter.h"
 #include "geometry/resize_linear_columns.h"
+#include "geometry/resize_rows.h"
+#include "geometry/resize_store.h"
 #include "volume/border.h"
 #include "volume/resize_record.h"
 
