@@ -2,20 +2,6 @@
 #include "base/export.h"
 #include "geometry/warp_call.h"
 
-namespace qvp::warp {
-
-#define LOOPS(type)                                                              \
-  extern template void WarpTile<1>(const Call<type>& call, const Record&, Size); \
-  extern template void WarpTile<2>(const Call<type>& call, const Record&, Size); \
-  extern template void WarpTile<4>(const Call<type>& call, const Record&, Size);
-LOOPS(uint8_t)
-LOOPS(uint16_t)
-LOOPS(int16_t)
-LOOPS(float)
-LOOPS(double)
-
-}  // namespace qvp::warp
-
 using namespace qvp;
 using namespace qvp::warp;
 

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "base/types.h"
-#include "geometry/warp_tiles.h"
+#include "geometry/sample_task.h"
+#include "geometry/warp_passes.h"
 
 namespace qvp::warp {
 
@@ -39,7 +40,7 @@ struct By {
   static QvpStatus Warp(const Call<T>& call) {
     if (const QvpStatus failed = Check(call)) return failed;
     if (RecordOf(call.spec)->interpolation != kMethod) return qvpStatusContextMatch;
-    return MakeTile(call, [&](const Record& record, Size size) { WarpTile<TapsOf(kMethod)>(call, record, size); });
+    return MakeTile(call, [&](const Record& record, Size size) { WarpTile<sampling::TapsOf(kMethod)>(call, record, size); });
   }
 };
 
@@ -49,7 +50,7 @@ struct ByRecord {
   static QvpStatus Warp(const Call<T>& call) {
     if (const QvpStatus failed = Check(call)) return failed;
     return MakeTile(call, [&](const Record& record, Size size) {
-      switch (TapsOf(record.interpolation)) {
+      switch (sampling::TapsOf(record.interpolation)) {
         case 1: return WarpTile<1>(call, record, size);
         case 2: return WarpTile<2>(call, record, size);
         default: return WarpTile<4>(call, record, size);
@@ -75,7 +76,7 @@ struct ByRecord {
   QVP_WARP(Kind_, Method, type, layout, , int, , Form::kPlain) \
   QVP_WARP(Kind_, Method, type, layout, _L, QvpSizeL, L, Form::kWide)
 #define QVP_WARP_TYPE(Method, type)                                                                                 \
-  template void qvp::warp::WarpTile<TapsOf(qvpInterpolation##Method)>(const Call<Qvp##type>&, const Record&, Size); \
+  template void qvp::warp::WarpTile<sampling::TapsOf(qvpInterpolation##Method)>(const Call<Qvp##type>&, const Record&, Size); \
   QVP_C1_C3_C4(QVP_WARP_LAYOUT, Affine, Method, type)                                                               \
   QVP_C1_C3_C4(QVP_WARP_LAYOUT, Perspective, Method, type)
 #define QVP_WARP_TYPES(Method) \

@@ -3,22 +3,11 @@
 
 #include "geometry/warp_anchors.h"
 #include "geometry/warp_outline.h"
+#include "geometry/warp_passes.h"
 #include "geometry/warp_row_spans.h"
 #include "geometry/warp_rows.h"
 
 namespace qvp::warp {
-
-template <class T>
-struct Call {
-  Image<const T> src;
-  Image<T> dst;
-  ptrdiff_t x, y;  // of the tile's first pixel
-  Size size;
-  const QvpiWarpSpec* spec;
-  const uint8_t* buffer;
-  Kind kind;
-  Form form;
-};
 
 // ---- What is sampled
 
@@ -257,11 +246,13 @@ HWY_NOINLINE void WarpBilinearQuadTile(const Call<T>& call, const Record& record
   }
 }
 
-// Whole pixels are moved as the nearest ones, whatever the method. The tiles are functions of their own, as each has a
-// copy on the stack.
+// The tiles are functions of their own, as each has a copy on the stack.
 template <int kTaps, class T>
 void WarpTile(const Call<T>& call, const Record& record, Size size) {
-  if (record.isShift) return WarpAffineTile<1>(call, record, size);
+  if (record.isShift) {  // whole pixels are moved as the nearest ones, whatever the method
+    if constexpr (kTaps == 1) return WarpAffineTile<1>(call, record, size);
+    return WarpTile<1>(call, record, size);
+  }
   switch (record.kind) {
     case Kind::kPerspective: return WarpPerspectiveTile<kTaps>(call, record, size);
     case Kind::kBilinear: return WarpBilinearTile<kTaps>(call, record, size);
