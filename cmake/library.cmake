@@ -1,9 +1,10 @@
 # How the libraries of one CPU build are made. A new source file needs no line here.
 set(QVPI_SOURCE_FOLDERS base core arith filter geometry stats transform feature signal volume)
 set(QVPI_WARNINGS -Wall -Wextra -Wshadow -Wcast-qual -Wmissing-declarations -Werror)
-# To look for sums of pointers that wrap takes four times the compiler's time, and what they lead to is seen anyway.
-set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function,pointer-overflow -fno-sanitize-recover=all
-                    -fno-omit-frame-pointer -g1 -O1)
+# To look for sums of pointers that wrap, for null and for what lies behind objects takes most of the compiler's time, and
+# what they lead to is seen by the watch over memory.
+set(QVPI_SANITIZERS -fsanitize=address,undefined -fno-sanitize=vptr,function,pointer-overflow,null,object-size
+                    -fno-sanitize-recover=all -fno-omit-frame-pointer -g1 -O1)
 if(QVPI_SANITIZE STREQUAL threads)
   set(QVPI_SANITIZERS -fsanitize=thread -g1 -O1)
 elseif(QVPI_SANITIZE STREQUAL coverage)
