@@ -4,125 +4,52 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
+using test::Element;
 using test::Export;
-using test::Image;
 using test::Name;
+using test::Pixels;
+using test::Real;
 
 template <class T>
 using Pixel = std::array<T, 4>;
 
 template <class T>
-constexpr uint64_t kMost = std::numeric_limits<T>::max();
-
-// Calls use.template operator()<T>() with the type of a function of these families.
-template <class Use>
-void WithType(const Export& function, const Use& use) {
-  const std::string type = Name(function.name).type;
-  if (type == "8u") use.template operator()<uint8_t>();
-  if (type == "16u") use.template operator()<uint16_t>();
-  if (type == "32f") use.template operator()<float>();
+Pixel<T> To(const test::Pixel& v) {
+  return {static_cast<T>(v[0]), static_cast<T>(v[1]), static_cast<T>(v[2]), static_cast<T>(v[3])};
 }
+
+template <class T>
+constexpr uint64_t kMost = std::numeric_limits<T>::max();
 
 // n / d to the nearest, halves up
 uint64_t Nearest(uint64_t n, uint64_t d) { return (2 * n + d) / (2 * d); }
 
-// Pixels in a row of an image of four channels, or of four planes, with all they need for a call.
-template <class T>
-class Layers {
- public:
-  Layers(bool isPlanar, int pixels, int height, int gap, test::Guard guard = test::Guard::kAfter) {
-    for (int p = 0; p < (isPlanar ? 4 : 1); ++p) {
-      images_.push_back(std::make_unique<Image<T>>(isPlanar ? pixels : 4 * pixels, height, gap, guard));
-      planes_[p] = images_[p]->data();
-    }
-  }
-  Pixel<T> operator()(int x, int y) const {
-    Pixel<T> pixel;
-    for (int c = 0; c < 4; ++c) pixel[c] = IsPlanar() ? (*images_[c])(x, y) : (*images_[0])(4 * x + c, y);
-    return pixel;
-  }
-  void Put(int x, int y, const Pixel<T>& pixel) {
-    for (int c = 0; c < 4; ++c) IsPlanar() ? images_[c]->Put(x, y, pixel[c]) : images_[0]->Put(4 * x + c, y, pixel[c]);
-  }
-  test::Argument argument() const {
-    return {IsPlanar() ? static_cast<const void*>(planes_) : images_[0]->data(), images_[0]->step()};
-  }
-
- private:
-  bool IsPlanar() const { return images_.size() == 4; }
-
-  std::vector<std::unique_ptr<Image<T>>> images_;
-  const void* planes_[4];
-};
-
-// A function on pixels: src2 is the source in place, and of functions of one source.
-template <class T>
-struct Call {
-  const Export& function;
-  int pixels, height = 1;
-  std::vector<test::Named> more = {};
-
-  // first(x, y) and second(x, y) make the sources; expected(a, b) the result.
-  template <class First, class Second, class Expected>
-  void Check(const First& first, const Second& second, const Expected& expected) const {
-    const Name name(function.name);
-    const bool isPlanar = name.layout == "AP4", isBinary = function.Has(name.inPlace ? "pSrc" : "pSrc2");
-    Layers<T> a(isPlanar, pixels, height, 7), b(isPlanar, pixels, height, 3);
-    Layers<T> dst(isPlanar, pixels, height, 5, test::Guard::kBefore);
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < pixels; ++x) {
-        a.Put(x, y, first(x, y));
-        b.Put(x, y, second(x, y));
-        if (name.inPlace) dst.Put(x, y, b(x, y));
-      }
-    }
-    std::vector<test::Named> arguments = more;
-    arguments.insert(arguments.end(), {{"pSrc", (isBinary ? a : b).argument()},
-                                       {"pSrc1", a.argument()},
-                                       {"pSrc2", b.argument()},
-                                       {"pDst", dst.argument()},
-                                       {"pSrcDst", dst.argument()},
-                                       {"roiSize", QvpiSize{pixels, height}}});
-    ASSERT_EQ(function(arguments), qvpStatusNoError) << function.name;
-    for (int y = 0; y < height; ++y) {
-      for (int x = 0; x < pixels; ++x) {
-        const Pixel<T> should = expected(a(x, y), b(x, y)), is = dst(x, y);
-        for (int c = 0; c < 4; ++c) {
-          ASSERT_TRUE(test::AreSame(is[c], should[c]))
-              << function.name << " at " << x << ',' << y << " channel " << c << ": " << +is[c] << " not " << +should[c]
-              << " of " << +a(x, y)[c] << " alpha " << +a(x, y)[3] << " and " << +b(x, y)[c] << " alpha "
-              << +b(x, y)[3];
-        }
-      }
-    }
-  }
-};
-
 constexpr int kWidths[] = {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 33, 47, 64, 67, 130};
 
-// Pixels with values at which something changes.
-template <class T>
-Pixel<T> EdgePixel(test::Random& random) {
-  constexpr T kValues[] = {0, 1, 2, 3, 100, 127, 128, 200, 254, 255, std::numeric_limits<T>::max()};
-  Pixel<T> pixel;
-  for (T& value : pixel) {
-    random.Fill(reinterpret_cast<uint8_t*>(&value), sizeof(T));
-    if (random.Next() % 2) value = kValues[random.Next() % std::size(kValues)];
-  }
-  return pixel;
-}
-template <>
-Pixel<float> EdgePixel<float>(test::Random& random) {
+// Values at which something changes; floats are mostly shares.
+Real EdgeOf(const Element& element, test::Random& random) {
+  if (element.isInteger) return EdgeValue(element, random);
   constexpr float kInf = std::numeric_limits<float>::infinity();
   constexpr float kValues[] = {0, -0.0f, 1, 0.5f, 0.3f, 0.7f, -0.2f, 1.5f, kInf, -kInf, NAN, 1e-40f, 3e38f};
-  Pixel<float> pixel;
-  for (float& value : pixel) {
-    value = random.Next() % 2 ? static_cast<float>(random.Next() * 0x1p-32) : kValues[random.Next() % 13];
+  return random.Next() % 2 ? static_cast<float>(random.Next() * 0x1p-32) : kValues[random.Next() % 13];
+}
+
+// Calls use.template operator()<T>(function, fill) for functions of the operations, with their type and what fills
+// their sources with such values.
+template <class Use>
+void ForEach(std::initializer_list<std::string_view> operations, const Use& use) {
+  for (const Export* function : test::FunctionsOf(operations)) {
+    const Element& element = Name(function->name).From();
+    test::Random random(5);
+    const auto fill = [&](test::Samples& image) { image.Fill([&](int, int) { return EdgeOf(element, random); }); };
+    test::WithType(element, [&]<class T>() {
+      constexpr bool isTheirs = std::is_same_v<T, float> || (std::is_unsigned_v<T> && sizeof(T) < 4);
+      if constexpr (isTheirs) use.template operator()<T>(*function, fill);
+    });
   }
-  return pixel;
 }
 
 template <class T>
@@ -151,49 +78,34 @@ Pixel<T> Unpremultiplied(const Pixel<T>& v) {
   return result;
 }
 
+template <class T>
+Pixel<T> Result(const Export& function, const test::Pixel& v) {
+  return function.name.starts_with("qvpiUn") ? Unpremultiplied(To<T>(v)) : Premultiplied(To<T>(v));
+}
+
 TEST(Premultiply, AndBackInEveryLaneOfEveryMember) {
-  for (const Export* function : test::FunctionsOf({"Premultiply", "Unpremultiply"})) {
-    const bool isBack = function->name.starts_with("qvpiUn");
-    WithType(*function, [&]<class T>() {
-      test::Random random(3);
-      const auto pixel = [&](int, int) { return EdgePixel<T>(random); };
-      const auto result = [&](const auto&, const Pixel<T>& v) {
-        return isBack ? Unpremultiplied(v) : Premultiplied(v);
-      };
-      for (const int width : kWidths) Call<T>{*function, width, 3}.Check(pixel, pixel, result);
-    });
-  }
+  ForEach({"Premultiply", "Unpremultiply"}, []<class T>(const Export& function, const auto& fill) {
+    for (const int width : kWidths) {
+      test::CheckPixels(function, {width, 3}, {}, fill,
+                        [&](const auto&, const auto& v, const auto&) { return Result<T>(function, v); });
+    }
+  });
 }
 
-TEST(Premultiply, AndBackOfEachColorAndAlphaOfBytes) {
-  for (const Export* function : test::FunctionsOf({"Premultiply", "Unpremultiply"})) {
-    if (Name(function->name).type != "8u") continue;
-    const bool isBack = function->name.starts_with("qvpiUn");
-    const auto pair = [](int x, int y) {
-      const auto color = static_cast<uint8_t>(x);
-      return Pixel<uint8_t>{color, static_cast<uint8_t>(color + 85), static_cast<uint8_t>(255 - color),
-                            static_cast<uint8_t>(y)};
-    };
-    Call<uint8_t>{*function, 256, 256}.Check(pair, pair, [&](const auto&, const Pixel<uint8_t>& v) {
-      return isBack ? Unpremultiplied(v) : Premultiplied(v);
-    });
-  }
-}
-
-// Colors at and beside each tie of every 16-bit alpha: color 65535 / alpha = k + 1/2 at color = (2k + 1) alpha /
-// 131070.
-TEST(Unpremultiply, RoundsTiesOf16BitsUp) {
-  const auto pixel = [](int x, int y) {
-    const auto alpha = static_cast<uint64_t>(256 * y + x);
-    const uint64_t k = (alpha * 40503) % 65535, color = (2 * k + 1) * alpha / 131070;
-    return Pixel<uint16_t>{static_cast<uint16_t>(color), static_cast<uint16_t>(std::min(color + 1, alpha)),
-                           static_cast<uint16_t>(alpha / 2), static_cast<uint16_t>(alpha)};
+// Each color with each alpha of bytes. Of words colors at and beside each tie of every alpha: color 65535 / alpha =
+// k + 1/2 at color = (2k + 1) alpha / 131070.
+TEST(Premultiply, AndBackOfBytesAndOfTies) {
+  const auto bytes = [](uint64_t x, uint64_t y) { return std::array{x, (x + 85) % 256, 255 - x, y}; };
+  const auto words = [](uint64_t x, uint64_t y) {
+    const uint64_t alpha = 256 * y + x, k = (alpha * 40503) % 65535, color = (2 * k + 1) * alpha / 131070;
+    return std::array{color, std::min(color + 1, alpha), alpha / 2, alpha};
   };
-  for (const Export* function : test::FunctionsOf({"Unpremultiply"})) {
-    if (Name(function->name).type != "16u") continue;
-    Call<uint16_t>{*function, 256, 256}.Check(pixel, pixel,
-                                              [](const auto&, const Pixel<uint16_t>& v) { return Unpremultiplied(v); });
-  }
+  ForEach({"Premultiply", "Unpremultiply"}, [&]<class T>(const Export& function, const auto&) {
+    const auto fill = [&](Pixels&, Pixels& image) { sizeof(T) == 1 ? image.Fill(bytes) : image.Fill(words); };
+    if (!std::is_integral_v<T>) return;
+    test::CheckPixels(function, {256, 256}, {}, fill,
+                      [&](const auto&, const auto& v, const auto&) { return Result<T>(function, v); });
+  });
 }
 
 // ---- Operators. What 1 is, is told by `one`: M or 1.
@@ -278,24 +190,21 @@ Pixel<T> Expected(bool isStraight, QvpiCompositeOp op, const Pixel<T>& a, const 
 
 // Also over backgrounds all of whose pixels are opaque.
 TEST(Composite, EveryOperatorInEveryLaneOfEveryMember) {
-  for (const Export* function : test::FunctionsOf({"Composite", "CompositeStraight"})) {
-    const bool isStraight = function->name.starts_with("qvpiCompositeStraight");
-    WithType(*function, [&]<class T>() {
-      test::Random random(5);
-      for (int i = 0; i < 12 * 17; ++i) {
-        const int op = i % 12;
-        const bool isOpaque = i % 5 == 0;
-        const auto pixel = [&](int, int) { return EdgePixel<T>(random); };
-        const auto background = [&](int, int) {
-          Pixel<T> v = EdgePixel<T>(random);
-          if (isOpaque) v[3] = std::is_floating_point_v<T> ? T{1} : std::numeric_limits<T>::max();
-          return v;
-        };
-        Call<T>{*function, kWidths[i % 17], 2, {{"op", op}}}.Check(
-            pixel, background, [&](const Pixel<T>& a, const Pixel<T>& b) { return Expected(isStraight, op, a, b); });
-      }
-    });
-  }
+  ForEach({"Composite", "CompositeStraight"}, []<class T>(const Export& function, const auto& fill) {
+    const bool isStraight = function.name.starts_with("qvpiCompositeStraight");
+    const Real opaque = std::is_integral_v<T> ? std::numeric_limits<T>::max() : T{1};
+    for (int i = 0; i < 12 * 17; ++i) {
+      const auto fillBoth = [&](Pixels& a, Pixels& b) {
+        a.FillPlanes(fill), b.FillPlanes(fill);
+        const Pixels any(b);
+        if (i % 5 != 0) return;
+        b.Fill([&](int x, int y) { return test::Pixel{any(x, y, 0), any(x, y, 1), any(x, y, 2), opaque}; });
+      };
+      test::CheckPixels(
+          function, {kWidths[i % 17], 2}, {{"op", i % 12}}, fillBoth,
+          [&](const auto& a, const auto& b, const auto&) { return Expected(isStraight, i % 12, To<T>(a), To<T>(b)); });
+    }
+  });
 }
 
 // Three colors of each layer at every pair of alphas.
@@ -360,59 +269,25 @@ T Blended(QvpiCompositeOp op, T first, T a, T second, T b) {
   }
 }
 
-// Samples of an image with the alpha of AC4 kept: compares dst with expected(a sample, b sample, channel).
-template <class T, class Expected>
-void CheckSamples(const Export& function, int pixels, const Image<T>& a, const Image<T>& b,
-                  std::vector<test::Named> arguments, const Expected& expected) {
-  const Name name(function.name);
-  const int samples = pixels * name.channels, height = 2;
-  const bool isBinary = function.Has(name.inPlace ? "pSrc" : "pSrc2");
-  Image<T> dst(samples, height, 5, test::Guard::kBefore), both(isBinary ? b : a);
-  const Image<T> before(dst);
-  auto& out = name.inPlace ? both : dst;
-  arguments.insert(arguments.end(), {{"pSrc", a},
-                                     {"pSrc1", a},
-                                     {"pSrc2", b},
-                                     {"pDst", out},
-                                     {"pSrcDst", out},
-                                     {"roiSize", QvpiSize{pixels, height}}});
-  ASSERT_EQ(function(arguments), qvpStatusNoError) << function.name;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x) {
-      const T kept = name.inPlace ? (isBinary ? b : a)(x, y) : before(x, y);
-      const T should = x % name.channels < name.written ? expected(x, y) : kept;
-      ASSERT_TRUE(test::AreSame(out(x, y), should) || test::SameBits(out(x, y), should))
-          << function.name << " at " << x << ',' << y << ": " << +out(x, y) << " not " << +should;
-    }
-  }
-}
-
-template <class T>
-void FillWithEdges(Image<T>& image, int samples, int height, test::Random& random) {
-  for (int i = 0; i < samples * height; ++i) image.Put(i % samples, i / samples, EdgePixel<T>(random)[0]);
-}
-
 TEST(CompositeC, EveryOperatorInEveryLaneOfEveryMember) {
-  for (const Export* function : test::FunctionsOf({"CompositeC"})) {
-    const Name name(function->name);
-    WithType(*function, [&]<class T>() {
-      test::Random random(9);
-      for (int i = 0; i < 12 * 17; ++i) {
-        const int op = i % 12, pixels = kWidths[i % 17], samples = pixels * name.channels;
-        Image<T> a(samples, 2, 3), b(samples, 2, 7);
-        FillWithEdges(a, samples, 2, random), FillWithEdges(b, samples, 2, random);
-        T alpha[2];
-        for (T& v : alpha) {
-          if constexpr (std::is_integral_v<T>)
-            v = EdgePixel<T>(random)[0];
-          else
-            v = random.Next() % 4 ? static_cast<float>(random.Next() * 0x1p-32) : random.Next() % 2;
-        }
-        CheckSamples<T>(*function, pixels, a, b, {{"alpha1", alpha[0]}, {"alpha2", alpha[1]}, {"op", op}},
-                        [&](int x, int y) { return Blended(op, a(x, y), alpha[0], b(x, y), alpha[1]); });
+  ForEach({"CompositeC"}, []<class T>(const Export& function, const auto& fill) {
+    test::Random random(9);
+    for (int i = 0; i < 12 * 17; ++i) {
+      const int op = i % 12;
+      T alpha[2];
+      for (T& v : alpha) {
+        if constexpr (std::is_integral_v<T>)
+          v = static_cast<T>(EdgeOf(Name(function.name).From(), random));
+        else
+          v = random.Next() % 4 ? static_cast<float>(random.Next() * 0x1p-32) : random.Next() % 2;
       }
-    });
-  }
+      const auto expected = [&](Real a, Real b, int) {
+        return Blended(op, static_cast<T>(a), alpha[0], static_cast<T>(b), alpha[1]);
+      };
+      test::CheckElements(function, {kWidths[i % 17], 2}, {{"alpha1", alpha[0]}, {"alpha2", alpha[1]}, {"op", op}},
+                          fill, expected);
+    }
+  });
 }
 
 // All opacities; colors that reach the extremes of sums.
@@ -430,66 +305,57 @@ TEST(CompositeC, EveryPairOfOpacitiesOfBytes) {
 
 // ---- Color keys
 
-// Values at and beside the bounds, in every channel of every lane.
-template <class T>
-void CheckKeys(const Export& function, int pixels, test::Random& random) {
-  const Name name(function.name);
-  const int n = name.channels, samples = pixels * n;
-  const bool isConstant = function.Has("value");
-  const T high = std::numeric_limits<T>::max() - 5;
-  const T lower[4] = {10, 0, 7, 20}, upper[4] = {20, std::numeric_limits<T>::max(), 7, high}, value[4] = {1, 2, 3, 4};
-  Image<T> a(samples, 2, 3), b(samples, 2, 7);
-  for (int i = 0; i < samples * 2; ++i) {
-    const int x = i % samples, c = x % n;
-    const T around[] = {lower[c], upper[c], static_cast<T>(lower[c] - 1), static_cast<T>(upper[c] + 1)};
-    a.Put(x, i / samples, around[random.Next() % 8 ? random.Next() % 2 : 2 + random.Next() % 2]);
-  }
-  const auto expected = [&](int x, int y) {
-    bool isInside = true;
-    for (int c = 0; c < name.written; ++c) {
-      const T v = a(x - x % n + c, y);
-      isInside &= lower[c] <= v && v <= upper[c];
-    }
-    return !isInside ? a(x, y) : isConstant ? value[x % n] : b(x, y);
-  };
-  CheckSamples<T>(function, pixels, a, b,
-                  {{"value", test::Argument(value, value[0])},
-                   {"lowerBound", test::Argument(lower, lower[0])},
-                   {"upperBound", test::Argument(upper, upper[0])}},
-                  expected);
+bool IsInside(const test::Pixel& v, int channels, const auto* lower, const auto* upper) {
+  bool isInside = true;
+  for (int c = 0; c < channels; ++c) isInside &= lower[c] <= v[c] && v[c] <= upper[c];
+  return isInside;
 }
 
+// Values at and beside the bounds, in every channel of every lane; of the wide ones there is more than one piece.
 TEST(ColorKey, EachBoundAndItsNeighborsInEveryLaneOfEveryMember) {
   test::Random random(11);
-  for (const Export* function : test::FunctionsOf({"ColorKey", "ColorKeyC"})) {
-    WithType(*function, [&]<class T>() {
-      for (int i = 0; i < 4; ++i) {
-        for (const int width : kWidths) CheckKeys<T>(*function, width, random);
+  ForEach({"ColorKey", "ColorKeyC"}, [&]<class T>(const Export& function, const auto& fillAny) {
+    const int written = Name(function.name).written;
+    const bool isConstant = function.Has("value");
+    const T high = std::numeric_limits<T>::max() - 5;
+    const T lower[4] = {10, 0, 7, 20}, upper[4] = {20, std::numeric_limits<T>::max(), 7, high}, value[4] = {1, 2, 3, 4};
+    const auto near = [&](int, int) {
+      test::Pixel pixel;
+      for (int c = 0; c < 4; ++c) {
+        const T around[] = {lower[c], upper[c], static_cast<T>(lower[c] - 1), static_cast<T>(upper[c] + 1)};
+        pixel[c] = around[random.Next() % 8 ? random.Next() % 2 : 2 + random.Next() % 2];
       }
-      CheckKeys<T>(*function, 3000, random);  // more than one piece
-    });
-  }
+      return pixel;
+    };
+    const auto fill = [&](Pixels& a, Pixels& b) { b.FillPlanes(fillAny), (isConstant ? b : a).Fill(near); };
+    const auto expected = [&](const test::Pixel& a, const test::Pixel& b, test::Pixel result) {
+      const test::Pixel& v = isConstant ? b : a;
+      const bool isInside = IsInside(v, written, lower, upper);
+      for (int c = 0; c < written; ++c) result[c] = !isInside ? v[c] : isConstant ? value[c] : b[c];
+      return result;
+    };
+    for (int i = 0; i < 4 * 17 + 1; ++i) {
+      test::CheckPixels(function, {i == 68 ? 3000 : kWidths[i % 17], 2},
+                        {{"value", test::Argument(value, value[0])},
+                         {"lowerBound", test::Argument(lower, lower[0])},
+                         {"upperBound", test::Argument(upper, upper[0])}},
+                        fill, expected);
+    }
+  });
 }
 
 TEST(ColorKeyComposite, TakesTheAlphaOfPixelsInside) {
-  for (const Export* function : test::FunctionsOf({"ColorKeyComposite"})) {
-    WithType(*function, [&]<class T>() {
-      test::Random random(13);
-      const T lower[] = {100, 0, 2}, upper[] = {200, 128, 255};
-      for (int i = 0; i < 12 * 17; ++i) {
-        const int op = i % 12;
-        const auto pixel = [&](int, int) { return EdgePixel<T>(random); };
-        const auto expected = [&](Pixel<T> a, const Pixel<T>& b) {
-          bool isInside = true;
-          for (int c = 0; c < 3; ++c) isInside &= lower[c] <= a[c] && a[c] <= upper[c];
-          if (isInside) a[3] = 0;
-          return Straight(op, a, b);
-        };
-        Call<T>{*function, kWidths[i % 17], 2, {{"op", op}, {"lowerBound", {lower}}, {"upperBound", {upper}}}}.Check(
-            pixel, pixel, expected);
-      }
-    });
-  }
+  ForEach({"ColorKeyComposite"}, []<class T>(const Export& function, const auto& fill) {
+    const T lower[] = {100, 0, 2}, upper[] = {200, 128, 255};
+    for (int i = 0; i < 12 * 17; ++i) {
+      const auto expected = [&](test::Pixel a, const test::Pixel& b, const test::Pixel&) {
+        if (IsInside(a, 3, lower, upper)) a[3] = 0;
+        return Straight(i % 12, To<T>(a), To<T>(b));
+      };
+      test::CheckPixels(function, {kWidths[i % 17], 2},
+                        {{"op", i % 12}, {"lowerBound", {lower}}, {"upperBound", {upper}}}, fill, expected);
+    }
+  });
 }
 
 // ---- Refusals, in the documented order
