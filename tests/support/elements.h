@@ -23,6 +23,7 @@ class Pixels {
       planes_.emplace_back(element, size.width * channels_ / count, size.height, gap, guard);
     }
   }
+  const Element& element() const { return *element_; }
   Real operator()(int x, int y, int c) const {
     return element_->read(IsPlanar() ? planes_[c].At(x, y) : planes_[0].At(x * channels_ + c, y));
   }
