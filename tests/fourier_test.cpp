@@ -10,6 +10,7 @@
 namespace {
 using test::Block;
 using test::Guard;
+using Image = test::Image<float>;
 using Value = std::complex<double>;
 
 // A record and a work buffer of exactly the reported sizes, at odd addresses before pages that cannot be read.
@@ -36,12 +37,21 @@ using ComplexPowerPlan = Plan<QvpiFFTSpec_C_32fc>;
 RealPlan RealOf(QvpiSize size, int flag) { return {qvpiDFTGetSize_R_32f, qvpiDFTInit_R_32f, flag, size}; }
 ComplexPlan ComplexOf(QvpiSize size, int flag) { return {qvpiDFTGetSize_C_32fc, qvpiDFTInit_C_32fc, flag, size}; }
 
+// With the arguments that most functions have.
+template <class Of = RealPlan>
+void Call(const std::string& name, const Image& in, const Image& out, const Of& plan) {
+  ASSERT_EQ(
+      test::CallNamed(
+          name, {{"pSrc", in}, {"pDst", out}, {"pSrcDst", out}, {"pSpec", {plan.spec()}}, {"pBuffer", {plan.work()}}}),
+      qvpStatusNoError)
+      << name;
+}
+
 // Numbers in [-1, 1).
-void Fill(test::Image<float>& image, int samples, int height) {
+void Fill(Image& image, int samples, int height) {
   test::Random random(samples * 31 + height);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < samples; ++x)
-      image.Put(x, y, static_cast<float>(static_cast<int32_t>(random.Next()) * 0x1p-31));
+  for (int i = 0; i < samples * height; ++i) {
+    image.Put(i % samples, i / samples, static_cast<float>(static_cast<int32_t>(random.Next()) * 0x1p-31));
   }
 }
 
@@ -63,7 +73,15 @@ std::vector<Value> Definition(std::vector<Value> x, QvpiSize size, int sign) {
   return x;
 }
 
-std::vector<Value> RealPixels(const test::Image<float>& image, QvpiSize size, int channels, int channel) {
+// Of an image of complex numbers, or of real ones; one channel of several.
+std::vector<Value> ComplexPixels(const Image& image, QvpiSize size) {
+  std::vector<Value> x;
+  for (int i = 0; i < size.width * size.height; ++i) {
+    x.emplace_back(image(i % size.width * 2, i / size.width), image(i % size.width * 2 + 1, i / size.width));
+  }
+  return x;
+}
+std::vector<Value> RealPixels(const Image& image, QvpiSize size, int channels = 1, int channel = 0) {
   std::vector<Value> x;
   for (int i = 0; i < size.width * size.height; ++i) {
     x.emplace_back(image(i % size.width * channels + channel, i / size.width));
@@ -82,59 +100,37 @@ double Packed(const std::vector<Value>& x, QvpiSize s, int row, int column) {
   return row % 2 ? at(u, (row + 1) / 2).real() : at(u, row / 2).imag();
 }
 
-struct Difference {
+void ExpectNear(const std::vector<Value>& result, const std::vector<Value>& expected, QvpiSize s, const char* what) {
   double error = 0, power = 0;
-  void Add(double got, double expected) {
-    error += (got - expected) * (got - expected);
-    power += expected * expected;
+  for (size_t i = 0; i < expected.size(); ++i) {
+    error += std::norm(result[i] - expected[i]);
+    power += std::norm(expected[i]);
   }
-  void ExpectSmall(QvpiSize s, const char* what) const {
-    const double bound = 4 * 0x1p-24 * std::max(1.0, std::log2(1.0 * s.width * s.height));
-    EXPECT_LE(std::sqrt(error), bound * std::sqrt(power)) << what << ' ' << s.width << 'x' << s.height;
-  }
-};
+  const double bound = 4 * 0x1p-24 * std::max(1.0, std::log2(1.0 * s.width * s.height));
+  EXPECT_LE(std::sqrt(error), bound * std::sqrt(power)) << what << ' ' << s.width << 'x' << s.height;
+}
 
 void TestReal(QvpiSize s) {
   const RealPlan plan = RealOf(s, 2);
-  test::Image<float> image(s.width, s.height, 5), spectrum(s.width, s.height, 9), back(s.width, s.height, 3);
+  Image image(s.width, s.height, 5), spectrum(s.width, s.height, 9), back(s.width, s.height, 3);
   Fill(image, s.width, s.height);
-  ASSERT_EQ(qvpiDFTFwd_RToPack_32f_C1R(image.data(), image.step(), spectrum.data(), spectrum.step(), plan.spec(),
-                                       plan.work()),
-            qvpStatusNoError);
-  ASSERT_EQ(
-      qvpiDFTInv_PackToR_32f_C1R(spectrum.data(), spectrum.step(), back.data(), back.step(), plan.spec(), plan.work()),
-      qvpStatusNoError);
-  const auto expected = Definition(RealPixels(image, s, 1, 0), s, -1);
-  Difference forward, both;
-  for (int y = 0; y < s.height; ++y) {
-    for (int x = 0; x < s.width; ++x) {
-      forward.Add(spectrum(x, y), Packed(expected, s, y, x));
-      both.Add(back(x, y), image(x, y));
-    }
-  }
-  forward.ExpectSmall(s, "forward");
-  both.ExpectSmall(s, "forward and back");
+  Call("qvpiDFTFwd_RToPack_32f_C1R", image, spectrum, plan);
+  Call("qvpiDFTInv_PackToR_32f_C1R", spectrum, back, plan);
+  const auto pixels = RealPixels(image, s), expected = Definition(pixels, s, -1);
+  std::vector<Value> packed;
+  for (int i = 0; i < s.width * s.height; ++i) packed.emplace_back(Packed(expected, s, i / s.width, i % s.width));
+  ExpectNear(RealPixels(spectrum, s), packed, s, "forward");
+  ExpectNear(RealPixels(back, s), pixels, s, "forward and back");
 }
 
 void TestComplex(QvpiSize s) {
   const ComplexPlan plan = ComplexOf(s, 8);
-  test::Image<float> image(2 * s.width, s.height, 5), spectrum(2 * s.width, s.height, 9);
+  Image image(2 * s.width, s.height, 5), spectrum(2 * s.width, s.height, 9);
   Fill(image, 2 * s.width, s.height);
-  const auto in = reinterpret_cast<const Qvp32fc*>(image.data());
-  const auto out = reinterpret_cast<Qvp32fc*>(spectrum.data());
-  std::vector<Value> pixels;
-  for (int i = 0; i < s.width * s.height; ++i) {
-    pixels.emplace_back(image(i % s.width * 2, i / s.width), image(i % s.width * 2 + 1, i / s.width));
-  }
-  for (const auto transform : {qvpiDFTFwd_CToC_32fc_C1R, qvpiDFTInv_CToC_32fc_C1R}) {
-    ASSERT_EQ(transform(in, image.step(), out, spectrum.step(), plan.spec(), plan.work()), qvpStatusNoError);
-    const auto expected = Definition(pixels, s, transform == qvpiDFTFwd_CToC_32fc_C1R ? -1 : 1);
-    Difference difference;
-    for (int i = 0; i < s.width * s.height; ++i) {
-      difference.Add(spectrum(i % s.width * 2, i / s.width), expected[i].real());
-      difference.Add(spectrum(i % s.width * 2 + 1, i / s.width), expected[i].imag());
-    }
-    difference.ExpectSmall(s, "complex");
+  for (const bool isForward : {true, false}) {
+    Call(isForward ? "qvpiDFTFwd_CToC_32fc_C1R" : "qvpiDFTInv_CToC_32fc_C1R", image, spectrum, plan);
+    const auto expected = Definition(ComplexPixels(image, s), s, isForward ? -1 : 1);
+    ExpectNear(ComplexPixels(spectrum, s), expected, s, "complex");
   }
 }
 
@@ -152,17 +148,9 @@ TEST(Fourier, EqualsItsDefinitionForLargerAndPrimeSizes) {
     TestReal({n, 57 - n});
     TestComplex({57 - n, n});
   }
-  for (const QvpiSize s : {QvpiSize{509, 3},
-                           {3, 509},
-                           {1, 361},
-                           {37 * 8, 9},
-                           {128, 64},
-                           {120, 90},
-                           {143, 62},
-                           {74, 41},
-                           {1024, 2},
-                           {2, 1018},
-                           {97, 97}}) {
+  constexpr QvpiSize kSizes[] = {{509, 3},  {3, 509}, {1, 361},  {37 * 8, 9}, {128, 64}, {120, 90},
+                                 {143, 62}, {74, 41}, {1024, 2}, {2, 1018},   {97, 97}};
+  for (const QvpiSize s : kSizes) {
     TestReal(s);
     TestComplex(s);
   }
@@ -171,18 +159,15 @@ TEST(Fourier, EqualsItsDefinitionForLargerAndPrimeSizes) {
 TEST(Fourier, KeepsThePowerOfAnImage) {  // Parseval's theorem, at sizes whose definition would take too long
   for (const QvpiSize s : {QvpiSize{512, 256}, {509, 120}, {96, 1000}, {1021, 64}}) {
     const ComplexPlan plan = ComplexOf(s, 4);
-    test::Image<float> image(2 * s.width, s.height, 5), spectrum(2 * s.width, s.height, 3);
+    Image image(2 * s.width, s.height, 5), spectrum(2 * s.width, s.height, 3);
     Fill(image, 2 * s.width, s.height);
-    const auto in = reinterpret_cast<const Qvp32fc*>(image.data());
-    const auto out = reinterpret_cast<Qvp32fc*>(spectrum.data());
-    ASSERT_EQ(qvpiDFTFwd_CToC_32fc_C1R(in, image.step(), out, spectrum.step(), plan.spec(), plan.work()), 0);
-    double before = 0, after = 0;
-    for (int i = 0; i < 2 * s.width * s.height; ++i) {
-      const int x = i % (2 * s.width), y = i / (2 * s.width);
-      before += std::pow(image(x, y), 2);
-      after += std::pow(spectrum(x, y), 2);
-    }
-    EXPECT_NEAR(after / before, 1, 1e-5) << s.width << 'x' << s.height;
+    Call("qvpiDFTFwd_CToC_32fc_C1R", image, spectrum, plan);
+    const auto power = [&](const Image& of) {
+      double sum = 0;
+      for (const Value& v : ComplexPixels(of, s)) sum += std::norm(v);
+      return sum;
+    };
+    EXPECT_NEAR(power(spectrum) / power(image), 1, 1e-5) << s.width << 'x' << s.height;
   }
 }
 
@@ -190,22 +175,14 @@ TEST(Fourier, KeepsThePowerOfAnImage) {  // Parseval's theorem, at sizes whose d
 TEST(Fourier, SpreadsNaNOverItsOwnChannelOnly) {
   for (const QvpiSize s : {QvpiSize{32, 16}, {30, 21}, {17, 8}}) {
     const RealPlan plan = RealOf(s, 8);
-    test::Image<float> image(3 * s.width, s.height, 5), clean(3 * s.width, s.height, 1), out(clean);
+    Image image(3 * s.width, s.height, 5), clean(3 * s.width, s.height, 1), out(clean);
     Fill(image, 3 * s.width, s.height);
-    const auto transform = [&](test::Image<float>& to) {
-      return qvpiDFTFwd_RToPack_32f_C3R(image.data(), image.step(), to.data(), to.step(), plan.spec(), plan.work());
-    };
-    ASSERT_EQ(transform(clean), 0);
-    image.Put(3 * (s.width - 2) + 1, s.height / 2, std::numeric_limits<float>::quiet_NaN());
-    ASSERT_EQ(transform(out), 0);
+    Call("qvpiDFTFwd_RToPack_32f_C3R", image, clean, plan);
+    image.Put(3 * (s.width - 2) + 1, s.height / 2, NAN);
+    Call("qvpiDFTFwd_RToPack_32f_C3R", image, out, plan);
     for (int i = 0; i < 3 * s.width * s.height; ++i) {
       const int x = i % (3 * s.width), y = i / (3 * s.width);
-      if (x % 3 == 1) {
-        ASSERT_TRUE(std::isnan(out(x, y))) << x << ',' << y;
-      } else {
-        const float found = out(x, y), expected = clean(x, y);
-        ASSERT_EQ(std::memcmp(&found, &expected, sizeof(found)), 0) << x << ',' << y;
-      }
+      ASSERT_TRUE(x % 3 == 1 ? std::isnan(out(x, y)) : test::SameBits(out(x, y), clean(x, y))) << x << ',' << y;
     }
   }
 }
@@ -215,12 +192,12 @@ TEST(Fourier, TransformsLongLines) {
   for (const QvpiSize s : {QvpiSize{1 << 18, 1}, {2 * 65537, 2}, {1, 65539}}) {
     const RealPlan plan = RealOf(s, 1);
     const int n = std::max(s.width, s.height), frequency = n / 5;
-    test::Image<float> image(s.width, s.height, 0);
+    Image image(s.width, s.height, 0);
     for (int i = 0; i < s.width * s.height; ++i) {
       const double turns = static_cast<double>(int64_t{i % n} * frequency % n) / n;
       image.Put(i % s.width, i / s.width, static_cast<float>(std::cos(2 * M_PI * turns)));
     }
-    ASSERT_EQ(qvpiDFTFwd_RToPack_32f_C1IR(image.data(), image.step(), plan.spec(), plan.work()), 0);
+    Call("qvpiDFTFwd_RToPack_32f_C1IR", image, image, plan);
     for (int i = 0; i < n; ++i) {
       const float got = s.width == 1 ? image(0, i) : image(i, 0);
       ASSERT_NEAR(got, i == 2 * frequency - 1 ? 0.5 : 0, 1e-6) << s.width << 'x' << s.height << ' ' << i;
@@ -228,52 +205,39 @@ TEST(Fourier, TransformsLongLines) {
   }
 }
 
-const test::Export& Function(const std::string& name) {
-  for (const test::Export& function : test::Exports()) {
-    if (function.name == name) return function;
+Image ChannelOf(const Image& image, QvpiSize s, int channels, int channel) {
+  Image one(s.width, s.height, channel);
+  for (int i = 0; i < s.width * s.height; ++i) {
+    one.Put(i % s.width, i / s.width, image(i % s.width * channels + channel, i / s.width));
   }
-  throw std::invalid_argument(name);
+  return one;
 }
+
+std::string ForOneChannel(std::string name) { return name.replace(name.rfind('_'), std::string::npos, "_C1R"); }
 
 TEST(Fourier, OfPowersOfTwoIsTheGeneralOneInEveryLayoutFlagAndInPlace) {
   const QvpiSize s{32, 16};
   for (const test::Export* power : test::FunctionsOf({"FFTFwd_RToPack", "FFTInv_PackToR"})) {
     const test::Name name(power->name);
     if (name.inPlace) continue;
-    std::string text = power->name;
-    const test::Export& inPlace = Function(std::string(text).insert(text.size() - 1, "I"));
-    const test::Export& general = Function(text.replace(4, 3, "DFT"));
-    const test::Export& single = Function(text.replace(text.rfind('_'), std::string::npos, "_C1R"));
+    const std::string general = std::string(power->name).replace(4, 3, "DFT");
     for (const int flag : {1, 2, 4, 8}) {
       const RealPowerPlan plan(qvpiFFTGetSize_R_32f, qvpiFFTInit_R_32f, flag, 5, 4);
       const RealPlan generalPlan = RealOf(s, flag);
-      const auto call = [&](const test::Export& function, const test::Image<float>& in, const test::Image<float>& out,
-                            const auto& by) {
-        ASSERT_EQ(
-            function({{"pSrc", in}, {"pDst", out}, {"pSrcDst", out}, {"pSpec", {by.spec()}}, {"pBuffer", {by.work()}}}),
-            0)
-            << function.name;
-      };
-      test::Image<float> in(s.width * name.channels, s.height, 5), out(s.width * name.channels, s.height, 7),
-          other(out), one(s.width, s.height, 1), oneOut(s.width, s.height, 2);
+      Image in(s.width * name.channels, s.height, 5);
       Fill(in, s.width * name.channels, s.height);
-      const test::Image<float> before(out), self(in);
-      call(*power, in, out, plan);
-      call(general, in, other, generalPlan);
-      call(inPlace, in, self, plan);
+      const Image out(in), other(in), self(in);
+      Call(power->name, in, out, plan);
+      Call(general, in, other, generalPlan);
+      Call(std::string(power->name).insert(power->name.size() - 1, "I"), in, self, plan);
       for (int c = 0; c < name.channels; ++c) {
-        for (int i = 0; i < s.width * s.height; ++i) {
-          one.Put(i % s.width, i / s.width, in(i % s.width * name.channels + c, i / s.width));
-        }
-        call(single, one, oneOut, generalPlan);
-        for (int i = 0; i < s.width * s.height; ++i) {
-          const int x = i % s.width * name.channels + c, y = i / s.width;
-          const bool isAlpha = c >= name.written;
-          ASSERT_TRUE(test::SameBits(out(x, y), isAlpha ? before(x, y) : oneOut(i % s.width, y)))
-              << power->name << ' ' << flag;
-          ASSERT_TRUE(test::SameBits(other(x, y), out(x, y))) << general.name;
-          ASSERT_TRUE(test::SameBits(self(x, y), isAlpha ? in(x, y) : out(x, y))) << inPlace.name;
-        }
+        const auto of = [&](const Image& image) { return RealPixels(image, s, name.channels, c); };
+        const Image one(s.width, s.height, 2);
+        Call(ForOneChannel(general), ChannelOf(in, s, name.channels, c), one, generalPlan);
+        const bool isAlpha = c >= name.written;
+        EXPECT_EQ(of(out), isAlpha ? of(in) : RealPixels(one, s)) << power->name << ' ' << flag;
+        EXPECT_EQ(of(other), of(out)) << general;
+        EXPECT_EQ(of(self), of(out)) << power->name << " in place";
       }
     }
   }
@@ -310,21 +274,17 @@ TEST(PackedSpectrum, ExtendsPacksMultipliesAndShows) {
   for (int n = 0; n < 81; ++n) sizes.push_back({n % 9 + 1, n / 9 + 1});
   for (const QvpiSize s : sizes) {
     const RealPlan plan = RealOf(s, 8);
-    test::Image<float> a(s.width, s.height, 5), b(s.width, s.height, 1), whole(2 * s.width, s.height, 3),
+    Image a(s.width, s.height, 5), b(s.width, s.height, 1), whole(2 * s.width, s.height, 3),
         packed(s.width, s.height, 2), product(s.width, s.height, 4), shown(s.width, s.height, 6);
-    for (test::Image<float>* image : {&a, &b}) {
+    for (Image* image : {&a, &b}) {
       Fill(*image, s.width, s.height);
-      qvpiDFTFwd_RToPack_32f_C1IR(image->data(), image->step(), plan.spec(), plan.work());
+      Call("qvpiDFTFwd_RToPack_32f_C1IR", *image, *image, plan);
       b.Put(0, 0, 3);
     }
     const auto complex = reinterpret_cast<Qvp32fc*>(whole.data());
-    const auto extended = [&](const test::Image<float>& image) {
+    const auto extended = [&](const Image& image) {
       EXPECT_EQ(qvpiPackToCplxExtend_32f32fc_C1R(image.data(), image.step(), complex, whole.step(), s), 0);
-      std::vector<Value> x;
-      for (int i = 0; i < s.width * s.height; ++i) {
-        x.emplace_back(whole(i % s.width * 2, i / s.width), whole(i % s.width * 2 + 1, i / s.width));
-      }
-      return x;
+      return ComplexPixels(whole, s);
     };
     const auto xb = extended(b), xa = extended(a);
     ASSERT_EQ(qvpiCplxExtendToPack_32fc32f_C1R(complex, whole.step(), packed.data(), packed.step(), s), 0);
@@ -356,60 +316,52 @@ TEST(PackedSpectrum, ExtendsPacksMultipliesAndShows) {
 
 TEST(PackedSpectrum, TreatsEachChannelAlone) {
   const QvpiSize s{6, 5};
-  for (const bool keepsAlpha : {false, true}) {
-    test::Image<float> a(s.width * 4, s.height, 5), b(s.width * 4, s.height, 1), both(s.width * 4, s.height, 3),
-        one(s.width, s.height, 2), other(s.width, s.height, 7), product(s.width, s.height, 4);
-    Fill(a, s.width * 4, s.height);
-    Fill(b, s.width * 4, s.height);
-    Fill(both, s.width * 4, s.height);
-    const test::Image<float> before(both);
-    const auto multiply = keepsAlpha ? qvpiMulPackConj_32f_AC4R : qvpiMulPackConj_32f_C4R;
-    ASSERT_EQ(multiply(a.data(), a.step(), b.data(), b.step(), both.data(), both.step(), s), 0);
-    for (int c = 0; c < 4; ++c) {
-      for (int i = 0; i < s.width * s.height; ++i) {
-        one.Put(i % s.width, i / s.width, a(i % s.width * 4 + c, i / s.width));
-        other.Put(i % s.width, i / s.width, b(i % s.width * 4 + c, i / s.width));
-      }
-      ASSERT_EQ(qvpiMulPackConj_32f_C1R(one.data(), one.step(), other.data(), other.step(), product.data(),
-                                        product.step(), s),
-                0);
-      for (int i = 0; i < s.width * s.height; ++i) {
-        const int x = i % s.width, y = i / s.width;
-        ASSERT_EQ(both(x * 4 + c, y), keepsAlpha && c == 3 ? before(x * 4 + c, y) : product(x, y));
-      }
+  for (const test::Export* function : test::FunctionsOf({"MulPack", "MulPackConj"})) {
+    const test::Name name(function->name);
+    if (name.inPlace) continue;
+    Image a(s.width * name.channels, s.height, 5), b(s.width * name.channels, s.height, 1), both(a);
+    Fill(both, s.width * name.channels, s.height), Fill(a, s.width * name.channels, s.height);
+    Fill(b, s.width * name.channels, s.height), b.Put(0, 0, 3), b.Put(9, 2, -3);
+    const Image before(both), one(s.width, s.height, 3);
+    const auto multiply = [&](const std::string& by, const Image& first, const Image& second, const Image& dst) {
+      ASSERT_EQ(test::CallNamed(by, {{"pSrc1", first}, {"pSrc2", second}, {"pDst", dst}, {"roiSize", s}}), 0) << by;
+    };
+    multiply(function->name, a, b, both);
+    for (int c = 0; c < name.channels; ++c) {
+      const auto of = [&](const Image& image) { return ChannelOf(image, s, name.channels, c); };
+      multiply(ForOneChannel(function->name), of(a), of(b), one);
+      const auto expected = c < name.written ? RealPixels(one, s) : RealPixels(before, s, name.channels, c);
+      EXPECT_EQ(RealPixels(both, s, name.channels, c), expected) << function->name;
     }
   }
 }
 
-bool IsSame(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
-
 TEST(PackedSpectrum, ShowsExtremes) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity(), kLarge = 3e38f, kPi = 3.14159265f;
-  const float nan = std::numeric_limits<float>::quiet_NaN();
   const QvpiSize s{3, 1};
   Qvp8u buffer[76];
   float shown[3];
-  for (const auto& [re, im, magnitude, phase] :
-       std::vector<std::array<float, 4>>{{kLarge, 0, kLarge, 0},
-                                         {-1, 0, 1, kPi},
-                                         {-1, -0.0f, 1, kPi},
-                                         {0, 0, 0, 0},
-                                         {kInfinity, 1, kInfinity, 0},
-                                         {kInfinity, 3e38f, kInfinity, 0},
-                                         {-kInfinity, 3e38f, kInfinity, kPi},
-                                         {-kInfinity, -kInfinity, kInfinity, -3 * kPi / 4},
-                                         {2, kInfinity, kInfinity, kPi / 2},
-                                         {kInfinity, kInfinity, kInfinity, kPi / 4},
-                                         {1e-40f, 0, 1e-40f, 0},
-                                         {0, -2, 2, -kPi / 2},
-                                         {nan, 1, nan, nan}}) {
+  constexpr std::array<float, 4> kCases[] = {{kLarge, 0, kLarge, 0},
+                                             {-1, 0, 1, kPi},
+                                             {-1, -0.0f, 1, kPi},
+                                             {0, 0, 0, 0},
+                                             {kInfinity, 1, kInfinity, 0},
+                                             {kInfinity, 3e38f, kInfinity, 0},
+                                             {-kInfinity, 3e38f, kInfinity, kPi},
+                                             {-kInfinity, -kInfinity, kInfinity, -3 * kPi / 4},
+                                             {2, kInfinity, kInfinity, kPi / 2},
+                                             {kInfinity, kInfinity, kInfinity, kPi / 4},
+                                             {1e-40f, 0, 1e-40f, 0},
+                                             {0, -2, 2, -kPi / 2},
+                                             {NAN, 1, NAN, NAN}};
+  for (const auto& [re, im, magnitude, phase] : kCases) {
     const float packed[3] = {-7, re, im};
     qvpiMagnitudePack_32f_C1R(packed, 12, shown, 12, s, buffer);
     EXPECT_EQ(shown[0], 7);
-    EXPECT_TRUE(IsSame(shown[1], magnitude)) << re << ' ' << im << ' ' << shown[1];
+    EXPECT_TRUE(test::AreSame(shown[1], magnitude)) << re << ' ' << im << ' ' << shown[1];
     qvpiPhasePack_32f_C1R(packed, 12, shown, 12, s);
     EXPECT_EQ(shown[0], kPi);
-    EXPECT_TRUE(IsSame(shown[1], phase)) << re << ' ' << im << ' ' << shown[1];
+    EXPECT_TRUE(std::isnan(phase) ? std::isnan(shown[1]) : shown[1] == phase) << re << ' ' << im << ' ' << shown[1];
   }
   int bytes = 0;
   EXPECT_EQ(qvpiMagnitudePackGetBufferSize_32f(2, s, &bytes), qvpStatusNumChannels);
