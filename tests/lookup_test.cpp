@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/support/name.h"
+#include "tests/support/elements.h"
 
 namespace {
 using test::Block;
@@ -78,27 +78,16 @@ class Record {
 const char* const kTypes[] = {"8u", "16u", "16s", "32f"};
 constexpr QvpiLookupMethod kMethods[] = {qvpLookupStep, qvpLookupLinear, qvpLookupCubic};
 
-// A function of the grid by the type and what follows it, with a record and images as arguments.
-template <class T>
-void Call(const std::string& name, const Record& record, const Image<T>& src, const Image<T>& dst, QvpiSize roi) {
-  for (const Export* function : test::FamilyOf({"Lookup"})) {
-    if (function->name != "qvpiLookup_" + name) continue;
-    ASSERT_EQ((*function)({{"pSrc", src}, {"pDst", dst}, {"pSrcDst", dst}, {"roiSize", roi}, {"pSpec", record.spec()}}),
-              qvpStatusNoError)
-        << name;
-    return;
-  }
-  FAIL() << name;
-}
-
 // What a curve makes of each number, in one row.
 template <class T>
 std::vector<T> Mapped(const std::string& type, QvpiLookupMethod method, const Curve& curve, const std::vector<T>& v) {
   const int n = static_cast<int>(v.size());
-  const Image<T> src(n, 1, 0);
-  const Image<T> dst(n, 1, 0, Guard::kBefore);
+  const Record record(test::ElementOf(type).code, method, {curve});
+  const Image<T> src(n, 1, 0), dst(n, 1, 0, Guard::kBefore);
   std::memcpy(src.bytes(), v.data(), n * sizeof(T));
-  Call(type + "_C1R", Record(test::ElementOf(type).code, method, {curve}), src, dst, {n, 1});
+  EXPECT_EQ(test::CallNamed("qvpiLookup_" + type + "_C1R",
+                            {{"pSrc", src}, {"pDst", dst}, {"roiSize", QvpiSize{n, 1}}, {"pSpec", record.spec()}}),
+            qvpStatusNoError);
   std::vector<T> result(n);
   std::memcpy(result.data(), dst.bytes(), n * sizeof(T));
   return result;
@@ -220,45 +209,42 @@ TEST(Lookup, KeepsFloatsWithinTheDocumentedErrors) {
 
 // Each member, with a curve for each channel and with one, gives what one channel gives alone.
 template <class T>
-void CheckLayouts(const std::string& type, QvpiLookupMethod method, int pixels) {
+void CheckLayouts(const Export& function, QvpiLookupMethod method, int pixels) {
+  const Name name(function.name);
   Random random(pixels + method);
   std::vector<Curve> curves;
   for (const int n : {5, 40, 3, 31}) curves.push_back(RealCurve(random, n, true));
-  for (const std::string layout : {"C1", "C3", "C4", "AC4"}) {
-    const int channels = layout[layout.size() - 1] - '0', written = layout == "AC4" ? 3 : channels;
-    for (const int count : {1, written}) {
-      const Record record(test::ElementOf(type).code, method, {curves.begin(), curves.begin() + count});
-      Image<T> src(pixels * channels, 2, 5);
-      const Image<T> dst(pixels * channels, 2, 3, Guard::kBefore);
-      for (int i = 0; i < 2 * pixels * channels; ++i) {
-        src.Put(i / 2, i % 2, static_cast<T>(random.Next() % 1600) / static_cast<T>(std::is_integral_v<T> ? 1 : 16));
-      }
-      const Image<T> both(src), before(dst);
-      Call(type + "_" + layout + "R", record, src, dst, {pixels, 2});
-      Call(type + "_" + layout + "IR", record, src, both, {pixels, 2});
-      for (int c = 0; c < channels; ++c) {
-        for (int y = 0; y < 2; ++y) {
-          std::vector<T> plane;
-          for (int x = c; x < pixels * channels; x += channels) plane.push_back(src(x, y));
-          const auto expected = Mapped<T>(type, method, curves[count == 1 ? 0 : c], plane);
-          for (int x = 0; x < pixels; ++x) {
-            const int at = x * channels + c;
-            ASSERT_TRUE(test::SameBits(dst(at, y), c < written ? expected[x] : before(at, y))) << type << layout << at;
-            ASSERT_TRUE(test::SameBits(both(at, y), c < written ? expected[x] : src(at, y))) << type << layout << at;
-          }
-        }
-      }
-    }
+  for (const int count : {1, name.written}) {
+    const Record record(name.From().code, method, {curves.begin(), curves.begin() + count});
+    std::vector<Record> alone;
+    for (int c = 0; c < count; ++c) alone.emplace_back(name.From().code, method, std::vector{curves[c]});
+    const Export& forOne = test::FunctionNamed("qvpiLookup_" + name.type + "_C1R");
+    test::CheckElements(
+        function, {pixels, 2}, {{"pSpec", record.spec()}},
+        [&](test::Samples& image) {
+          image.Fill([&](int, int) { return Real(random.Next() % 1600) / (std::is_integral_v<T> ? 1 : 16); });
+        },
+        [&](Real, Real v, int c) {
+          const T from = static_cast<T>(v);
+          T to;
+          EXPECT_EQ(forOne({{"pSrc", {&from, 8}},
+                            {"pDst", {&to, 8}},
+                            {"roiSize", QvpiSize{1, 1}},
+                            {"pSpec", alone[count == 1 ? 0 : c].spec()}}),
+                    qvpStatusNoError);
+          return to;
+        });
   }
 }
 
 TEST(Lookup, HasACurveForEachChannelOrOneForAll) {
-  for (const auto method : kMethods) {
-    for (const int pixels : {1, 3, 7, 8, 9, 33, 70}) CheckLayouts<float>("32f", method, pixels);
-    CheckLayouts<uint8_t>("8u", method, 45);
+  for (const Export* function : test::FamilyOf({"Lookup"})) {
+    test::WithType(Name(function->name).From(), [&]<class T>() {
+      for (const auto method : kMethods) {
+        for (const int pixels : {1, 3, 7, 8, 9, 33, 70}) CheckLayouts<T>(*function, method, pixels);
+      }
+    });
   }
-  CheckLayouts<uint16_t>("16u", qvpLookupLinear, 21);
-  CheckLayouts<int16_t>("16s", qvpLookupLinear, 21);
 }
 
 TEST(LookupRecord, HasTheDocumentedSizes) {
@@ -273,6 +259,7 @@ TEST(LookupRecord, HasTheDocumentedSizes) {
   EXPECT_EQ(size(qvp16s, qvpLookupStep, {2, 2, 2, 2}), fits(192 + 4 * 131072));
   EXPECT_EQ(size(qvp32f, qvpLookupLinear, {16}), fits(512));
   EXPECT_EQ(size(qvp32f, qvpLookupCubic, {5, 5, 5}), fits(1536));
+  for (const int method : {3, -1}) EXPECT_EQ(size(qvp32f, method, {16}).first, qvpStatusInterpolation);
   const int most[] = {178956944, 107374160, 76695824};
   for (const auto method : kMethods) {
     EXPECT_EQ(size(qvp32f, method, {most[method]}).first, qvpStatusNoError) << method;
@@ -281,8 +268,8 @@ TEST(LookupRecord, HasTheDocumentedSizes) {
   EXPECT_EQ(size(qvp32f, qvpLookupStep, {INT32_MAX, INT32_MAX, INT32_MAX}).first, qvpStatusSizeOverflow);
 }
 
-// One fault after the other in the order of the checks: each call has all those that come later, too.
-TEST(LookupRecord, RefusesInTheDocumentedOrder) {
+// In the last channel; whatever fails leaves no record.
+TEST(LookupRecord, RefusesCurvesThatAreNone) {
   const float nan = NAN, far = 3e38f, x[3] = {0, 1, 2}, y[3] = {0, 1, 2}, equal[3] = {0, 1, 1},
               unknown[3] = {0, nan, 2};
   const float infinite[3] = {0, 1, INFINITY}, steep[3] = {-far, far, 0}, close[3] = {0, 1e-39f, 1},
@@ -291,45 +278,26 @@ TEST(LookupRecord, RefusesInTheDocumentedOrder) {
     QvpDataType type;
     QvpiLookupMethod method;
     const float *levels, *values;
-    int count, channels;
     QvpStatus expected;
-  } cases[] = {{qvp64f, 3, nullptr, infinite, 1, 2, qvpStatusDataType},
-               {qvp32f, 3, nullptr, infinite, 1, 2, qvpStatusInterpolation},
-               {qvp32f, -1, nullptr, infinite, 1, 2, qvpStatusInterpolation},
-               {qvp32f, 1, nullptr, infinite, 1, 2, qvpStatusNumChannels},
-               {qvp32f, 1, nullptr, infinite, 1, 0, qvpStatusNumChannels},
-               {qvp32f, 1, nullptr, infinite, 1, 3, qvpStatusNullPointer},
-               {qvp32f, 1, equal, nullptr, 1, 1, qvpStatusNullPointer},
-               {qvp32f, 1, equal, infinite, 1, 4, qvpStatusLutLevels},
-               {qvp32f, 1, equal, infinite, INT32_MAX, 4, qvpStatusSizeOverflow},
-               {qvp8u, 0, equal, infinite, 3, 1, qvpStatusRange},
-               {qvp32f, 0, unknown, infinite, 3, 3, qvpStatusRange},
-               {qvp16u, 1, infinite, infinite, 3, 1, qvpStatusRange},
-               {qvp16s, 2, x, infinite, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 0, x, unknown, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 1, x, steep, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 2, x, steep, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 1, close, y, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 2, wide, y, 3, 1, qvpStatusBadArgument},
-               {qvp32f, 0, wide, steep, 3, 1, qvpStatusNoError},
-               {qvp32f, 0, close, steep, 3, 3, qvpStatusNoError},
-               {qvp8u, 2, close, steep, 3, 1, qvpStatusNoError}};
+  } cases[] = {{qvp8u, 0, equal, infinite, qvpStatusRange},     {qvp32f, 0, unknown, infinite, qvpStatusRange},
+               {qvp16u, 1, infinite, infinite, qvpStatusRange}, {qvp16s, 2, x, infinite, qvpStatusBadArgument},
+               {qvp32f, 0, x, unknown, qvpStatusBadArgument},   {qvp32f, 1, x, steep, qvpStatusBadArgument},
+               {qvp32f, 2, x, steep, qvpStatusBadArgument},     {qvp32f, 1, close, y, qvpStatusBadArgument},
+               {qvp32f, 2, wide, y, qvpStatusBadArgument},      {qvp32f, 0, wide, steep, qvpStatusNoError},
+               {qvp32f, 0, close, steep, qvpStatusNoError},     {qvp8u, 2, close, steep, qvpStatusNoError}};
+  const int counts[3] = {3, 3, 3};
   for (const auto& c : cases) {
-    const float* const levels[4] = {c.levels, c.levels, c.levels, c.levels};
-    const float* const values[4] = {c.values, c.values, c.values, c.values};
-    const int counts[4] = {c.count, c.count, c.count, c.count};
-    const Record record(qvp32f, qvpLookupCubic, {{{0, 1}, {0, 1}}, {{0, 1}, {0, 1}}, {{0, 1}, {0, 1}}});
-    std::vector<uint8_t> memory(65536);
-    auto* const spec = reinterpret_cast<QvpiLookupSpec*>(memory.data() + 5);
-    std::memcpy(memory.data() + 5, record.spec(), 64);
-    EXPECT_EQ(qvpiLookupInit(c.type, c.method, levels, values, counts, c.channels, spec), c.expected);
-    float pixel[3] = {1, 1, 1};
-    const QvpStatus used = qvpiLookup_32f_C3IR(pixel, 12, {1, 1}, spec);
-    EXPECT_EQ(used, c.expected == qvpStatusNoError && c.type == qvp32f ? qvpStatusNoError : qvpStatusContextMatch);
-    if (c.levels == nullptr || c.values == nullptr || c.expected == qvpStatusRange) continue;
-    if (c.expected == qvpStatusBadArgument || c.expected == qvpStatusNoError) continue;
-    int bytes;
-    EXPECT_EQ(qvpiLookupGetSize(c.type, c.method, counts, c.channels, &bytes), c.expected);
+    for (const int channels : {1, 3}) {
+      const float *const levels[3] = {x, x, c.levels}, *const values[3] = {y, y, c.values};
+      const Record record(c.type, qvpLookupCubic, std::vector(3, Curve{{0, 1, 2}, {0, 1, 2}}));
+      EXPECT_EQ(qvpiLookupInit(c.type, c.method, levels + 3 - channels, values + 3 - channels, counts, channels,
+                               record.spec()),
+                c.expected);
+      float pixel[3] = {1, 1, 1};
+      const bool isRecord = c.expected == qvpStatusNoError && c.type == qvp32f;
+      EXPECT_EQ(qvpiLookup_32f_C3IR(pixel, 12, {1, 1}, record.spec()),
+                isRecord ? qvpStatusNoError : qvpStatusContextMatch);
+    }
   }
 }
 
@@ -343,15 +311,13 @@ TEST(LookupRecord, ServesItsTypeAndNumberOfChannels) {
         const Name name(function->name);
         const Image<double> src(8, 1, 0), dst(8, 1, 0);
         const bool isServed = name.type == type && (of.size() == 1 || of.size() == static_cast<size_t>(name.written));
-        const auto call = [&](int step) {
-          return (*function)({{"pSrc", test::Argument(src.data(), 64)},
-                              {"pDst", test::Argument(dst.data(), step)},
-                              {"pSrcDst", test::Argument(dst.data(), step)},
-                              {"roiSize", QvpiSize{1, 1}},
-                              {"pSpec", record.spec()}});
-        };
-        EXPECT_EQ(call(64), isServed ? qvpStatusNoError : qvpStatusContextMatch) << function->name;
-        EXPECT_EQ(call(0), qvpStatusStep) << function->name;
+        EXPECT_EQ((*function)({{"pSrc", {src.data(), 64}},
+                               {"pDst", {dst.data(), 64}},
+                               {"pSrcDst", {dst.data(), 64}},
+                               {"roiSize", QvpiSize{1, 1}},
+                               {"pSpec", record.spec()}}),
+                  isServed ? qvpStatusNoError : qvpStatusContextMatch)
+            << function->name;
       }
     }
   }
