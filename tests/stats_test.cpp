@@ -5,9 +5,10 @@
 #include "tests/support/name.h"
 
 namespace {
-using test::Argument;
 using test::Export;
 using test::Name;
+using test::Real;
+using test::Samples;
 
 // The norm of Norm_L1, or none.
 std::string NormOf(const Name& name) {
@@ -15,31 +16,22 @@ std::string NormOf(const Name& name) {
 }
 
 // Mostly the ends of an integer type; small floats, whose sums are exact in single precision.
-template <class T>
-T ValueAt(test::Random& random) {
-  using L = std::numeric_limits<T>;
-  if constexpr (!L::is_integer) return static_cast<T>(static_cast<int>(random.Next() % 41) - 20);
+Real ValueOf(const test::Element& element, test::Random& random) {
   const uint32_t r = random.Next();
-  return r % 4 == 0 ? static_cast<T>(r >> 8) : r % 4 == 1 ? L::lowest() : L::max();
-}
-
-template <class T>
-void Fill(test::Image<T>& image, int samples, int height, test::Random& random) {
-  for (int i = 0; i < samples * height; ++i) image.Put(i % samples, i / samples, ValueAt<T>(random));
+  if (!element.isInteger) return static_cast<int>(r % 41) - 20;
+  return r % 4 == 0 ? EdgeValue(element, random) : r % 4 == 1 ? element.lowest : element.highest;
 }
 
 // Sums of one channel, in numbers wide enough for all that the tests add up.
 struct Sums {
-  long double plain = 0, magnitudes = 0, squares = 0, largest = 0;
-  void Add(long double v) {
+  Real plain = 0, magnitudes = 0, squares = 0, largest = 0;
+  void Add(Real v) {
     plain += v;
     magnitudes += std::fabs(v);
     squares += v * v;
     largest = std::max(largest, std::fabs(v));
   }
-  long double Of(const std::string& norm) const {
-    return norm == "Inf" ? largest : norm == "L1" ? magnitudes : squares;
-  }
+  Real Of(const std::string& norm) const { return norm == "Inf" ? largest : norm == "L1" ? magnitudes : squares; }
 };
 
 double Expected(const Name& name, const Sums& a, const Sums& b, const Sums& difference, const Sums& product,
@@ -53,29 +45,29 @@ double Expected(const Name& name, const Sums& a, const Sums& b, const Sums& diff
   return norm == "L2" ? std::sqrt(value) : value;
 }
 
-template <class T>
 void Check(const Export& function, int pixels, int height, int hint) {
-  const Name member(function.name);
-  const int samples = pixels * member.channels;
+  const Name name(function.name);
   test::Random random(pixels * 7 + hint);
-  test::Image<T> a(samples, height, 3), b(samples, height, 8, test::Guard::kBefore);
-  Fill(a, samples, height, random);
-  Fill(b, samples, height, random);
+  Samples a(name.From(), pixels * name.channels, height, 3), b(name.From(), a.width(), height, 8, test::Guard::kBefore);
+  for (Samples* const image : {&a, &b}) image->Fill([&](int, int) { return ValueOf(name.From(), random); });
   double values[4] = {-7, -7, -7, -7};
-  std::vector<Argument> arguments{{a.data()}, {nullptr, a.step()}};
-  if (function.Find("pSrc2") >= 0) arguments.insert(arguments.end(), {{b.data()}, {nullptr, b.step()}});
-  arguments.insert(arguments.end(), {{nullptr, pixels, height}, {values}, {nullptr, hint}});
-  ASSERT_EQ(function.call(arguments.data()), qvpStatusNoError) << function.name;
+  const std::string_view result = function.parameters[function.parameters.size() - 1 - function.Has("hint")].name;
+  ASSERT_EQ(function({{"pSrc", a},
+                      {"pSrc1", a},
+                      {"pSrc2", b},
+                      {"roiSize", QvpiSize{pixels, height}},
+                      {result, {values}},
+                      {"hint", hint}}),
+            qvpStatusNoError)
+      << function.name;
   for (int c = 0; c < 4; ++c) {
     Sums sums[4];
-    for (int i = c; i < samples * height && c < member.channels; i += member.channels) {
-      const long double x = a(i % samples, i / samples), y = b(i % samples, i / samples);
+    for (int i = c; i < a.width() * height && c < name.channels; i += name.channels) {
+      const Real x = a(i % a.width(), i / a.width()), y = b(i % a.width(), i / a.width());
       sums[0].Add(x), sums[1].Add(y), sums[2].Add(x - y), sums[3].Add(x * y);
     }
-    const double expected =
-        c < member.written ? Expected(member, sums[0], sums[1], sums[2], sums[3], pixels * height) : -7;
-    const bool isRounded =
-        member.From().bytes == 4 && member.From().isInteger;  // sums beyond 53 bits, in double precision
+    const double expected = c < name.written ? Expected(name, sums[0], sums[1], sums[2], sums[3], pixels * height) : -7;
+    const bool isRounded = name.From().bytes == 4 && name.From().isInteger;  // sums beyond 53 bits, in doubles
     ASSERT_NEAR(values[c], expected, isRounded ? std::fabs(expected) * 1e-11 + 1e7 : 0)
         << function.name << ' ' << pixels << 'x' << height << " channel " << c;
   }
@@ -83,13 +75,10 @@ void Check(const Export& function, int pixels, int height, int hint) {
 
 TEST(Reductions, AreExactForExtremeValuesInEveryLane) {
   for (const Export* function : test::FamilyOf({"Norm", "NormDiff", "NormRel", "Sum", "Mean", "DotProd"})) {
-    test::WithType(Name(function->name).From(), [&]<class T>() {
-      for (int hint = 1; hint <= (function->Has("hint") ? 2 : 1); ++hint) {
-        for (const int pixels : {1, 2, 5, 16, 23, 31, 33, 64, 100, 131, 400, 1031})
-          Check<T>(*function, pixels, 3, hint);
-        for (const int pixels : {8255, 8257, 16448}) Check<T>(*function, pixels, 1, hint);
-      }
-    });
+    for (int hint = 1; hint <= (function->Has("hint") ? 2 : 1); ++hint) {
+      for (const int pixels : {1, 2, 5, 16, 23, 31, 33, 64, 100, 131, 400, 1031}) Check(*function, pixels, 3, hint);
+      for (const int pixels : {8255, 8257, 16448}) Check(*function, pixels, 1, hint);
+    }
   }
 }
 
@@ -208,102 +197,84 @@ TEST(Mean, CountsPixelsBeyond32Bits) {
   EXPECT_EQ(mean, 8.0 / 65536);
 }
 
-// What one call finds in one channel, by a scalar search.
-template <class T>
-struct Extreme {
-  T value;
-  int x = 0, y = 0;
-
-  Extreme(const test::Image<T>& image, int pixels, int height, int channels, int c, bool isMin) : value(image(c, 0)) {
-    bool isFound = false;
-    for (int i = 0; i < pixels * height; ++i) {
-      const T v = image(i % pixels * channels + c, i / pixels);
-      if (v != v || (isFound && !(isMin ? v < value : v > value))) continue;
-      value = v;
-      x = i % pixels;
-      y = i / pixels;
-      isFound = true;
+// Where a channel has its least or greatest value, which NaN is not.
+QvpiPoint Extreme(const Samples& image, int channels, int c, bool isMin) {
+  QvpiPoint at{};
+  Real best = NAN;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width() / channels; ++x) {
+      const Real v = image(x * channels + c, y);
+      if (std::isnan(v) || (isMin ? v >= best : v <= best)) continue;
+      best = v;
+      at = {x, y};
     }
   }
-};
+  return at;
+}
 
-template <class T>
-void CheckExtremes(const Export& function, const test::Image<T>& image, int pixels, int height) {
-  const Name member(function.name);
-  T first[4] = {}, second[4] = {};
+void CheckExtremes(const Export& function, const Samples& image) {
+  const Name name(function.name);
+  const Samples results(name.From(), 4, 2, 0);
   int x[4] = {}, y[4] = {};
-  const bool isBoth = member.operation == "MinMax", isIndexed = member.operation.ends_with("Indx");
-  const Argument arguments[] = {{image.data()},
-                                {nullptr, image.step()},
-                                {nullptr, pixels, height},
-                                {first},
-                                {isBoth ? static_cast<void*>(second) : x},
-                                {y}};
-  ASSERT_EQ(function.call(arguments), qvpStatusNoError) << function.name;
-  for (int c = 0; c < member.written; ++c) {
-    const Extreme<T> expected(image, pixels, height, member.channels, c, member.operation.starts_with("Min"));
-    ASSERT_TRUE(test::SameBits(first[c], expected.value))
-        << function.name << ' ' << pixels << 'x' << height << " channel " << c << ' ' << +first[c] << ' '
-        << +expected.value;
-    if (isIndexed) {
-      ASSERT_EQ(x[c], expected.x) << function.name << ' ' << pixels << 'x' << height << " channel " << c;
-      ASSERT_EQ(y[c], expected.y) << function.name << ' ' << pixels << 'x' << height << " channel " << c;
-    }
-    if (isBoth) {
-      const Extreme<T> greatest(image, pixels, height, member.channels, c, false);
-      ASSERT_TRUE(test::SameBits(second[c], greatest.value)) << function.name << " channel " << c;
+  std::memset(results.bytes(), 0, results.height() * results.step());
+  const bool isMinimum = name.operation.starts_with("Min");
+  const int width = image.width() / name.channels;
+  ASSERT_EQ(function({{"pSrc", image},
+                      {"roiSize", QvpiSize{width, image.height()}},
+                      {"pMin", {results.At(0, 0)}},
+                      {"pMax", {results.At(0, isMinimum)}},
+                      {"pIndexX", {x}},
+                      {"pIndexY", {y}}}),
+            qvpStatusNoError)
+      << function.name;
+  for (int c = 0; c < 4; ++c) {
+    for (const bool isSecond : {false, name.operation == "MinMax"}) {
+      const QvpiPoint at = c < name.written ? Extreme(image, name.channels, c, isMinimum && !isSecond) : QvpiPoint{};
+      const Real expected = c < name.written ? image(at.x * name.channels + c, at.y) : 0;
+      ASSERT_TRUE(test::AreSame(results(c, isSecond), expected)) << function.name << ' ' << width << " pixels, channel "
+                                                                 << c << ' ' << results(c, isSecond) << ' ' << expected;
+      if (!name.operation.ends_with("Indx")) continue;
+      ASSERT_EQ(x[c], at.x) << function.name << ' ' << width << " pixels, channel " << c;
+      ASSERT_EQ(y[c], at.y) << function.name << ' ' << width << " pixels, channel " << c;
     }
   }
-  for (int c = member.written; c < 4; ++c) EXPECT_TRUE(test::SameBits(first[c], T{})) << function.name;
 }
 
 // Few different values, so that there are many ties.
-template <class T>
-T TiedValue(test::Random& random, int kind) {
-  using L = std::numeric_limits<T>;
-  if (kind == 0) return static_cast<T>(1 + random.Next() % 5);
-  if constexpr (!L::is_integer) {
-    const T specials[] = {NAN, NAN, 0.0f, -0.0f, 1, -1, INFINITY, -INFINITY};
-    return kind == 1 ? specials[random.Next() % 4] : kind == 2 ? specials[random.Next() % 8] : specials[0];
-  }
-  const T specials[] = {L::lowest(), L::max(), 0, 1};
-  return kind == 1 ? specials[random.Next() % 4] : kind == 2 ? L::max() : L::lowest();
+Real TiedValue(const test::Element& element, test::Random& random, int kind) {
+  const Real integers[] = {element.lowest, element.highest, 0, 1};
+  const Real reals[] = {NAN, NAN, 0.0L, -0.0L, 1, -1, INFINITY, -INFINITY};
+  if (kind == 0) return 1 + random.Next() % 5;
+  if (element.isInteger) return kind == 1 ? integers[random.Next() % 4] : integers[kind == 2];
+  return reals[kind == 3 ? 0 : random.Next() % (kind * 4)];
 }
 
 TEST(Extrema, AreThoseOfTheFirstPixelThatHasThem) {
   for (const Export* function : test::FamilyOf({"Min", "Max", "MinMax", "MinIndx", "MaxIndx"})) {
-    const Name member(function->name);
-    test::WithType(Name(function->name).From(), [&]<class T>() {
-      for (const QvpiSize size : {QvpiSize{1, 1}, {1, 9}, {7, 3}, {16, 2}, {37, 4}, {100, 3}, {4100, 2}, {13000, 1}}) {
-        for (int kind = 0; kind < 4; ++kind) {
-          for (const int gap : {0, 5}) {
-            const int samples = size.width * member.channels;
-            test::Image<T> image(samples, size.height, gap);
-            test::Random random(size.width + kind);
-            for (int i = 0; i < samples * size.height; ++i)
-              image.Put(i % samples, i / samples, TiedValue<T>(random, kind));
-            CheckExtremes(*function, image, size.width, size.height);
-          }
-        }
+    const Name name(function->name);
+    for (const QvpiSize size : {QvpiSize{1, 1}, {1, 9}, {7, 3}, {16, 2}, {37, 4}, {100, 3}, {4100, 2}, {13000, 1}}) {
+      for (int kind = 0; kind < 8; ++kind) {
+        Samples image(name.From(), size.width * name.channels, size.height, kind < 4 ? 0 : 5);
+        test::Random random(size.width + kind);
+        image.Fill([&](int, int) { return TiedValue(name.From(), random, kind % 4); });
+        CheckExtremes(*function, image);
       }
-    });
+    }
   }
 }
 
 TEST(Extrema, AreFoundInEveryPlace) {
   for (const Export* function : test::FamilyOf({"MinIndx", "MaxIndx", "MinMax"})) {
-    const Name member(function->name);
-    test::WithType(Name(function->name).From(), [&]<class T>() {
-      for (const int pixels : {33, 150}) {
-        const int samples = pixels * member.channels;
-        for (int place = 0; place < samples; place += 1 + place / 40) {
-          test::Image<T> image(samples, 2, 3);
-          for (int i = 0; i < 2 * samples; ++i) image.Put(i % samples, i / samples, 5);
-          image.Put(place, 1, member.operation == "MaxIndx" ? 6 : 4);
-          CheckExtremes(*function, image, pixels, 2);
-        }
+    const Name name(function->name);
+    for (const int samples : {33 * name.channels, 150 * name.channels}) {
+      Samples image(name.From(), samples, 2, 3);
+      image.Fill([](int, int) { return 5; });
+      for (int place = 0; place < samples; place += 1 + place / 40) {
+        image.Put(place, 1, name.operation == "MaxIndx" ? 6 : 4);
+        CheckExtremes(*function, image);
+        image.Put(place, 1, 5);
       }
-    });
+    }
   }
 }
 
