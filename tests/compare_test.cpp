@@ -5,66 +5,59 @@
 #include "tests/support/name.h"
 
 namespace {
-using test::Argument;
+using test::Element;
 using test::Export;
 using test::Name;
+using test::Real;
+using test::Samples;
 
-bool Holds(double a, double b, int relation) {
+bool Holds(Real a, Real b, int relation) {
   const bool relations[] = {a<b, a <= b, a == b, a >= b, a> b};
   return relations[relation];
 }
 
 // Few different values, so that all orders and equality come up in every lane; the ends of the type among them.
-template <class T>
-T ValueAt(test::Random& random) {
-  using L = std::numeric_limits<T>;
-  std::vector<T> values{0, 1, 2, 127, 128, L::lowest(), L::max()};
-  if constexpr (!L::is_integer) values.insert(values.end(), {-0.0f, L::quiet_NaN(), L::infinity(), -L::infinity()});
-  return random.Next() % 3 == 0 ? values[random.Next() % values.size()] : values[random.Next() % 2];
+Real ValueOf(const Element& element, test::Random& random) {
+  const Real values[] = {0, 1, 2, 127, 128, element.lowest, element.highest, -0.0L, NAN, INFINITY, -INFINITY};
+  return values[random.Next() % (random.Next() % 3 != 0 ? 2 : element.isInteger ? 7 : 11)];
 }
 
-template <class T>
 void Check(const Export& function, int pixels, int relation) {
   const Name name(function.name);
-  const bool isConstant = function.Find("value") >= 0, isEps = function.Find("eps") >= 0;
-  const int samples = pixels * name.channels, height = 3;
-  test::Image<T> a(samples, height, 3), b(samples, height, 8);
-  test::Image<uint8_t> dst(pixels, height, 1);
+  const bool isConstant = function.Has("value"), isEps = function.Has("eps");
+  Samples a(name.From(), pixels * name.channels, 3, 3), b(name.From(), pixels * name.channels, 3, 8),
+      constant(name.From(), 4, 1, 0);
+  const test::Image<uint8_t> dst(pixels, 3, 1);
   test::Random random(pixels + relation);
-  const T constant[4] = {1, ValueAt<T>(random), 0, 1};
-  for (int i = 0; i < samples * height; ++i) {
-    a.Put(i % samples, i / samples, ValueAt<T>(random));
-    b.Put(i % samples, i / samples, ValueAt<T>(random));
-  }
-  std::vector<Argument> arguments{{a.data()}, {nullptr, a.step()}};
-  if (isConstant)
-    arguments.push_back({constant, static_cast<ptrdiff_t>(constant[0])});
-  else
-    arguments.insert(arguments.end(), {{b.data()}, {nullptr, b.step()}});
-  arguments.insert(arguments.end(),
-                   {{dst.data()}, {nullptr, dst.step()}, {nullptr, pixels, height}, {nullptr, relation}});
-  ASSERT_EQ(function.call(arguments.data()), qvpStatusNoError) << function.name;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < pixels; ++x) {
-      bool all = true;
-      for (int c = 0; c < name.written; ++c) {
-        const T left = a(x * name.channels + c, y), right = isConstant ? constant[c] : b(x * name.channels + c, y);
-        const float difference = static_cast<float>(left) - static_cast<float>(right);
-        all &= isEps ? std::fabs(difference) <= relation : Holds(left, right, relation);
-      }
-      ASSERT_EQ(dst(x, y), all ? 255 : 0) << function.name << " relation " << relation << " at " << x << ',' << y;
+  for (Samples* const image : {&a, &b, &constant}) image->Fill([&](int, int) { return ValueOf(name.From(), random); });
+  ASSERT_EQ(function({{"pSrc", a},
+                      {"pSrc1", a},
+                      {"pSrc2", b},
+                      {"value", {constant.data(), static_cast<double>(constant(0, 0))}},
+                      {"pDst", dst},
+                      {"roiSize", QvpiSize{pixels, 3}},
+                      {"cmpOp", relation},
+                      {"eps", relation}}),
+            qvpStatusNoError)
+      << function.name;
+  for (int i = 0; i < pixels * 3; ++i) {
+    const int x = i % pixels, y = i / pixels;
+    bool all = true;
+    for (int c = 0; c < name.written; ++c) {
+      const Real left = a(x * name.channels + c, y), right = isConstant ? constant(c, 0) : b(x * name.channels + c, y);
+      all &= isEps ? std::fabs(static_cast<float>(left) - static_cast<float>(right)) <= relation
+                   : Holds(left, right, relation);
     }
+    ASSERT_EQ(dst(x, y), all ? 255 : 0) << function.name << " relation " << relation << " at " << x << ',' << y;
   }
 }
 
 TEST(Compare, HoldsForAllChannelsInEveryMember) {
   for (const Export* function : test::FunctionsOf({"Compare", "CompareC", "CompareEqualEps", "CompareEqualEpsC"})) {
-    const bool isEps = function->Find("eps") >= 0;
-    test::WithType(Name(function->name).From(), [&]<class T>() {
-      for (int relation = 0; relation < (isEps ? 2 : 5); ++relation) {
-        for (const int pixels : {1, 3, 16, 21, 31, 32, 65, 200, 1700}) Check<T>(*function, pixels, relation);
-      }
-    });
+    const bool isEps = function->Has("eps");
+    for (int relation = 0; relation < (isEps ? 2 : 5); ++relation) {
+      for (const int pixels : {1, 3, 16, 21, 31, 32, 65, 200, 1700}) Check(*function, pixels, relation);
+    }
   }
 }
 
@@ -79,34 +72,34 @@ TEST(Compare, DoesNothingSilentlyWithoutARelation) {
   EXPECT_EQ(qvpiCompareC_8u_C1R(src, 4, 2, dst, 4, {4, 0}, 7), qvpStatusSize);
 }
 
-template <class T>
 void CheckCount(const Export& function, int pixels, int height) {
   const Name name(function.name);
-  const int samples = pixels * name.channels;
-  test::Image<T> src(samples, height, 5);
+  Samples src(name.From(), pixels * name.channels, height, 5), lower(name.From(), 3, 1, 0), upper(lower);
   test::Random random(pixels);
-  const T lower[3] = {0, 1, 2}, upper[3] = {0, 127, 128};
-  int64_t expected[4] = {};
-  for (int i = 0; i < samples * height; ++i) {
-    const int c = i % samples % name.channels;
-    const T v = ValueAt<T>(random);
-    src.Put(i % samples, i / samples, v);
-    if (c < 3) expected[c] += v >= lower[c] && v <= upper[c];
+  src.Fill([&](int, int) { return ValueOf(name.From(), random); });
+  lower.Fill([](int c, int) { return c; });
+  upper.Fill([](int c, int) { return c == 0 ? 0 : 126 + c; });
+  int counts[4] = {-1, -1, -1, -1}, expected[4] = {-1, -1, -1, -1};
+  for (int c = 0; c < name.written; ++c) {
+    expected[c] = 0;
+    for (int i = 0; i < pixels * height; ++i) {
+      const Real v = src(i % pixels * name.channels + c, i / pixels);
+      expected[c] += v >= lower(c, 0) && v <= upper(c, 0);
+    }
   }
-  int counts[4] = {-1, -1, -1, -1};
-  const Argument arguments[] = {{src.data()}, {nullptr, src.step()}, {nullptr, pixels, height}, {counts}, {lower, 0},
-                                {upper, 0}};
-  ASSERT_EQ(function.call(arguments), qvpStatusNoError);
-  for (int c = 0; c < 4; ++c)
-    EXPECT_EQ(counts[c], c < name.written ? expected[c] : -1) << function.name << ' ' << pixels;
+  ASSERT_EQ(function({{"pSrc", src},
+                      {"roiSize", QvpiSize{pixels, height}},
+                      {"pCounts", {counts}},
+                      {"lowerBound", {lower.data()}},
+                      {"upperBound", {upper.data()}}}),
+            qvpStatusNoError);
+  for (int c = 0; c < 4; ++c) EXPECT_EQ(counts[c], expected[c]) << function.name << ' ' << pixels;
 }
 
 TEST(CountInRange, CountsEachChannelAtEveryWidth) {
   for (const Export* function : test::FunctionsOf({"CountInRange"})) {
-    test::WithType(Name(function->name).From(), [&]<class T>() {
-      for (int pixels = 1; pixels < 200; pixels += 1 + pixels / 16) CheckCount<T>(*function, pixels, 3);
-      CheckCount<T>(*function, 40000, 2);
-    });
+    for (int pixels = 1; pixels < 200; pixels += 1 + pixels / 16) CheckCount(*function, pixels, 3);
+    CheckCount(*function, 40000, 2);
   }
 }
 

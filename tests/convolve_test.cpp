@@ -137,11 +137,6 @@ std::vector<const Export*> Convolutions() {
   return test::FunctionsOf({"ConvolveFull", "ConvolveSame", "ConvolveValid"});
 }
 
-const Export& FunctionNamed(std::string_view name) {
-  const auto functions = Convolutions();
-  return **std::find_if(functions.begin(), functions.end(), [&](const Export* f) { return f->name == name; });
-}
-
 void ExpectExact(const Export& function, const Request& request) {
   const auto full = FullOfEach<int64_t>(request.a, request.b);
   ForEachResult(function, request, [&](int channel, Real result, size_t at) {
@@ -171,7 +166,7 @@ TEST(Convolve, IntegersAreExactByEveryMethod) {
 
 // Sums that leave 32 bits, of every sign, and coefficients that do not.
 TEST(Convolve, WordsOfAnySumAreExact) {
-  const Export& function = FunctionNamed("qvpiConvolveSame_16s_C1R");
+  const Export& function = test::FunctionNamed("qvpiConvolveSame_16s_C1R");
   for (const Pair& pair : {Pair{{70, 60}, {40, 37}}, {{40, 3}, {600, 2}}, {{64, 64}, {64, 64}}}) {
     for (const Content content : {Content::kRandom, Content::kExtremes, Content::kLowest}) {
       Operand a(test::ElementOf("16s"), pair.a, 1, 3), b(test::ElementOf("16s"), pair.b, 1, 4);
@@ -195,7 +190,7 @@ TEST(Convolve, PartsOfBothImagesAreExact) {
     const int x = static_cast<int>(random.Next() % 700), y = static_cast<int>(random.Next() % 650);
     b.pixels.Put(x, y, ValueOf(Content::kRandom, b.pixels.element(), random));
   }
-  ExpectExact(FunctionNamed("qvpiConvolveSame_16s_C1R"), {a, b, 100003, qvpMethodFourier});
+  ExpectExact(test::FunctionNamed("qvpiConvolveSame_16s_C1R"), {a, b, 100003, qvpMethodFourier});
 }
 
 // check(function, a, b) for random images of all float members and sizes.
@@ -251,7 +246,7 @@ TEST(Convolve, TilesMeet) {
     const Name name(function);
     Operand a(name.From(), pair.a, name.channels, 3), b(name.From(), pair.b, name.channels, 4);
     a.Fill(Content::kRandom, 5), b.Fill(Content::kRandom, 6);
-    ExpectExact(FunctionNamed(function), {a, b, 63, qvpMethodFourier});
+    ExpectExact(test::FunctionNamed(function), {a, b, 63, qvpMethodFourier});
   }
 }
 

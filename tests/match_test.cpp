@@ -276,11 +276,6 @@ void ExpectDefinition(const Export& function, const Request& request) {
 }
 
 std::vector<const Export*> Matches() { return test::FunctionsOf({"MatchDistance", "MatchCorrelation"}); }
-const Export& FunctionNamed(std::string_view name) {
-  const auto functions = Matches();
-  return **std::find_if(functions.begin(), functions.end(), [&](const Export* f) { return f->name == name; });
-}
-
 struct Pair {
   QvpiSize src, tpl;
 };
@@ -314,7 +309,7 @@ void ExpectExact(const char* name, const Pair& pair, std::initializer_list<QvpiM
     src.Fill(content, 1), tpl.Fill(content, 2);
     for (const QvpiMatchNorm norm : {qvpMatchPlain, qvpMatchNormed, qvpMatchCentred, qvpMatchCoefficient}) {
       for (const QvpiMethod method : methods) {
-        ExpectDefinition(FunctionNamed(name), {src, tpl, qvpMatchValid, norm, method});
+        ExpectDefinition(test::FunctionNamed(name), {src, tpl, qvpMatchValid, norm, method});
       }
     }
   }
@@ -339,7 +334,7 @@ TEST(Match, TilesMeet) {
     Operand src(element, kSize, 1, 4), tpl(element, kTpl, 1, 4);
     src.Fill(Content::kRandom, 1), tpl.Fill(Content::kRandom, 2);
     for (const char* operation : {"Distance", "Correlation"}) {
-      const Export& function = FunctionNamed("qvpiMatch" + std::string(operation) + '_' + types + "_C1R");
+      const Export& function = test::FunctionNamed("qvpiMatch" + std::string(operation) + '_' + types + "_C1R");
       for (const QvpiMethod method : {qvpMethodDirect, qvpMethodFourier}) {
         ExpectDefinition(function, {src, tpl, qvpMatchSame, qvpMatchCoefficient, method});
       }
@@ -358,9 +353,10 @@ TEST(Match, OthersThanNumbersStayInTheirWindows) {
     for (int choice = 0; choice < 16; ++choice) {
       const auto name = choice % 2 ? "qvpiMatchDistance_32f_C1R" : "qvpiMatchCorrelation_32f_C1R";
       const Request request{src, tpl, qvpMatchSame, choice / 4, choice / 2 % 2 ? qvpMethodDirect : qvpMethodFourier};
-      ForEachResult(FunctionNamed(name), request, [&](float result, Group, int left, int top) {
+      ForEachResult(test::FunctionNamed(name), request, [&](float result, Group, int left, int top) {
         const bool isIn = left <= 30 && left + kTpl.width > 30 && top <= 20 && top + kTpl.height > 20;
-        ASSERT_EQ(std::isfinite(result), !isIn) << Told(FunctionNamed(name), request) << ": " << left << ' ' << top;
+        ASSERT_EQ(std::isfinite(result), !isIn)
+            << Told(test::FunctionNamed(name), request) << ": " << left << ' ' << top;
       });
     }
   }
