@@ -24,8 +24,8 @@ namespace {
 
 template <class Length, class T>
 void CheckLayout(T* (*allocate)(Length, Length, Length*), int pixelBytes) {
+  Length step = -1;
   for (const Length width : {1, 5, 64, 100}) {
-    Length step = -1;
     T* image = allocate(width, 3, &step);
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(reinterpret_cast<uintptr_t>(image) % 64, 0u);
@@ -33,12 +33,11 @@ void CheckLayout(T* (*allocate)(Length, Length, Length*), int pixelBytes) {
     std::memset(static_cast<void*>(image), 1, 3 * step);
     qvpiFree(image);
   }
-  Length step = -1;
-  EXPECT_EQ(allocate(0, 3, &step), nullptr);
-  EXPECT_EQ(step, 0);
-  step = -1;
-  EXPECT_EQ(allocate(3, -1, &step), nullptr);
-  EXPECT_EQ(step, 0);
+  for (const auto& [width, height] : {std::pair{0, 3}, {3, -1}}) {
+    step = -1;
+    EXPECT_EQ(allocate(width, height, &step), nullptr);
+    EXPECT_EQ(step, 0);
+  }
   EXPECT_EQ(allocate(3, 3, nullptr), nullptr);
 }
 
@@ -52,30 +51,20 @@ TEST(Malloc, EveryMember) {
 }
 
 TEST(Malloc, RefusesWhatItsStepCannotTell) {
-  struct {
-    int width, height, step;
-  } cases[] = {
-      {INT_MAX, 1, 0},                  // a row of 2147483647 bytes cannot be rounded up
-      {INT_MAX - 63, 2, INT_MAX - 63},  // the row fits, the image does not: the step stays
-      {46341, 46341, 46400},
+  const auto expect = [](const auto& allocate, auto width, auto height, auto expected) {
+    auto step = expected;
+    step = -1;
+    EXPECT_EQ(allocate(width, height, &step), nullptr);
+    EXPECT_EQ(step, expected) << width;
   };
-  for (const auto& c : cases) {
-    int step = -1;
-    EXPECT_EQ(qvpiMalloc_8u_C1(c.width, c.height, &step), nullptr);
-    EXPECT_EQ(step, c.step) << c.width;
-  }
-  int step = -1;
-  EXPECT_EQ(qvpiMalloc_32f_C3(INT_MAX / 12 + 1, 1, &step), nullptr);
-  EXPECT_EQ(step, 0);
-  EXPECT_EQ(qvpiMalloc_32fc_C4(INT_MAX, 1, &step), nullptr);
-  EXPECT_EQ(step, 0);
-  QvpSizeL stepL = -1;
-  EXPECT_EQ(qvpiMalloc_8u_C1_L(PTRDIFF_MAX, 1, &stepL), nullptr);
-  EXPECT_EQ(stepL, 0);
-  EXPECT_EQ(qvpiMalloc_32s_C4_L(PTRDIFF_MAX / 8, 1, &stepL), nullptr);
-  EXPECT_EQ(stepL, 0);
-  EXPECT_EQ(qvpiMalloc_8u_C1_L(PTRDIFF_MAX / 2, 4, &stepL), nullptr);
-  EXPECT_EQ(stepL, PTRDIFF_MAX / 2 / 64 * 64 + 64);
+  expect(qvpiMalloc_8u_C1, INT_MAX, 1, 0);                  // a row of so many bytes cannot be rounded up
+  expect(qvpiMalloc_8u_C1, INT_MAX - 63, 2, INT_MAX - 63);  // the row fits, the image does not: the step stays
+  expect(qvpiMalloc_8u_C1, 46341, 46341, 46400);
+  expect(qvpiMalloc_32f_C3, INT_MAX / 12 + 1, 1, 0);
+  expect(qvpiMalloc_32fc_C4, INT_MAX, 1, 0);
+  expect(qvpiMalloc_8u_C1_L, PTRDIFF_MAX, 1, QvpSizeL{0});
+  expect(qvpiMalloc_32s_C4_L, PTRDIFF_MAX / 8, 1, QvpSizeL{0});
+  expect(qvpiMalloc_8u_C1_L, PTRDIFF_MAX / 2, 4, QvpSizeL{PTRDIFF_MAX / 2 / 64 * 64 + 64});
 }
 
 // Rows that are 1 GiB apart: the fourth is out of reach of 32-bit products, in the forms of either width.

@@ -258,31 +258,14 @@ TEST(Deconvolve, KnownValues) {
   expect({1, 1.8F, 1, 0.2F}, inverse(0, 0.25F));
 }
 
-// A flat picture has the mean alone; a spread of one pixel is no blur.
-TEST(Deconvolve, FlatPicturesAndNoBlur) {
-  const std::vector<float> flat(20 * 14, 3);
-  std::vector<float> found(flat.size());
-  const Deconvolution mean({20, 14}, {{3, 3}, std::vector<float>(9, 1 / 9.F)}, qvpBorderMirror);
-  const auto all = [&](float expected) {
-    for (const float v : found) ASSERT_NEAR(v, expected, 4e-6);
-  };
-  for (const auto& [noise, smoothness, expected] : {std::tuple{0.5F, 0.F, 2.F}, {0.F, 1.F, 3.F}}) {
-    ASSERT_EQ(
-        qvpiDeconvolveInverse_32f_C1R(flat.data(), 80, found.data(), 80, noise, smoothness, mean.spec(), mean.buffer()),
-        0);
-    all(expected);
-  }
-  ASSERT_EQ(qvpiDeconvolveIterative_32f_C1R(flat.data(), 80, found.data(), 80, 9, 1e-6F, mean.spec(), mean.buffer()),
-            0);
-  all(3);
-
+// A spread of one pixel is no blur; what is not above 0 counts as 0.
+TEST(Deconvolve, NoBlurOfNumbersThatAreNone) {
   const Deconvolution none({3, 1}, {{1, 1}, {1}}, qvpBorderConst);
-  const float image[] = {-2, NAN, 5};  // what is not above 0 counts as 0
-  ASSERT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 12, found.data(), 12, 3, 0, none.spec(), none.buffer()), 0);
-  EXPECT_NEAR(found[0], 0, 2e-6);
-  EXPECT_NEAR(found[1], 0, 2e-6);
-  EXPECT_NEAR(found[2], 5, 4e-6);
-  ASSERT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 12, found.data(), 12, 1, 0, none.spec(), none.buffer()), 0);
+  const float image[] = {-2, NAN, 5};
+  float found[3];
+  ASSERT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 12, found, 12, 3, 0, none.spec(), none.buffer()), 0);
+  for (int i = 0; i < 3; ++i) EXPECT_NEAR(found[i], i == 2 ? 5 : 0, 4e-6);
+  ASSERT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 12, found, 12, 1, 0, none.spec(), none.buffer()), 0);
   EXPECT_TRUE(std::isnan(found[0]));
 }
 
