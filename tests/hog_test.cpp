@@ -117,31 +117,44 @@ template <class T>
 using Function = QvpStatus (*)(const T*, int, QvpiSize, const QvpiPoint*, int, Qvp32f*, const QvpiHOGSpec*,
                                QvpiBorderType, const T*, Qvp8u*);
 
-// Buffer and descriptors of exactly the reported sizes, each on both sides of unreadable pages in turn.
+// The descriptors of windows; null stands for one at the origin. Their memory and the buffer are of the reported sizes,
+// before and after unreadable pages.
+template <class T>
+std::vector<float> Describe(Function<T> hog, const Picture<T>& picture, const QvpiHOGConfig& config,
+                            const std::vector<QvpiPoint>& locations, int border = qvpBorderReplicate,
+                            const T* outside = nullptr) {
+  const Record record(config);
+  const T none[3] = {};
+  const bool isOrigin = locations.size() == 1 && locations[0].x == 0 && locations[0].y == 0;
+  int bufferBytes = 0, descriptorBytes = 0;
+  EXPECT_EQ(qvpiHOGGetBufferSize(record.spec(), picture.size, &bufferBytes), qvpStatusNoError);
+  EXPECT_EQ(qvpiHOGGetDescriptorSize(record.spec(), &descriptorBytes), qvpStatusNoError);
+  const Guard guard = border % 2 ? Guard::kAfter : Guard::kBefore;
+  const Block buffer(bufferBytes, guard), dst(descriptorBytes * locations.size(), guard);
+  std::vector<float> result(dst.size() / sizeof(float), -1);
+  std::memcpy(dst.data(), result.data(), dst.size());
+  EXPECT_EQ(hog(picture.data(), picture.pixels.step(), picture.size, isOrigin ? nullptr : locations.data(),
+                static_cast<int>(locations.size()), reinterpret_cast<float*>(dst.data()), record.spec(), border,
+                outside ? outside : none, buffer.data()),
+            qvpStatusNoError);
+  std::memcpy(result.data(), dst.data(), dst.size());
+  return result;
+}
+
 template <class T>
 void Check(Function<T> hog, const QvpiHOGConfig& config, QvpiSize size, int channels, double amplitude, int border,
            const std::vector<QvpiPoint>& locations) {
   const Picture<T> picture(size, channels, amplitude);
-  const Record record(config);
-  int bufferBytes = 0, descriptorBytes = 0;
-  ASSERT_EQ(qvpiHOGGetBufferSize(record.spec(), size, &bufferBytes), qvpStatusNoError);
-  ASSERT_EQ(qvpiHOGGetDescriptorSize(record.spec(), &descriptorBytes), qvpStatusNoError);
   const T outside[3] = {static_cast<T>(amplitude / 3), 1, static_cast<T>(amplitude / 5)};
   std::vector<double> expected;
   for (const QvpiPoint at : locations) {
     const auto one = Descriptor(picture, at, config, border, outside);
     expected.insert(expected.end(), one.begin(), one.end());
   }
-  ASSERT_EQ(expected.size() * sizeof(float), descriptorBytes * locations.size());
-  const Guard guard = border % 2 ? Guard::kAfter : Guard::kBefore;
-  const Block buffer(bufferBytes, guard), dst(descriptorBytes * locations.size(), guard);
-  ASSERT_EQ(hog(picture.data(), picture.pixels.step(), size, locations.data(), static_cast<int>(locations.size()),
-                reinterpret_cast<float*>(dst.data()), record.spec(), border, outside, buffer.data()),
-            qvpStatusNoError);
+  const std::vector<float> result = Describe(hog, picture, config, locations, border, outside);
+  ASSERT_EQ(result.size(), expected.size());
   for (size_t i = 0; i < expected.size(); ++i) {
-    float value;
-    std::memcpy(&value, dst.data() + i * sizeof(float), sizeof(float));
-    ASSERT_NEAR(value, expected[i], 2e-4) << "at " << i << " border " << border << " amplitude " << amplitude;
+    ASSERT_NEAR(result[i], expected[i], 2e-4) << "at " << i << " border " << border << " amplitude " << amplitude;
   }
 }
 
@@ -184,104 +197,59 @@ TEST(Hog, DescribesManyWindowsAsOneByOne) {
   locations.push_back({8, 8});
   const QvpiHOGConfig config{0, 8, 16, 8, 9, 4.0f, 0.2f, {32, 24}};
   const Picture<uint8_t> picture({312, 48}, 1, 256);
-  const Record record(config);
-  const Block buffer(12 * 312 * 48);
-  std::vector<float> all(locations.size() * 3 * 2 * 36), one(3 * 2 * 36);
-  const uint8_t outside = 0;
-  const auto call = [&](const QvpiPoint* at, size_t n, float* dst) {
-    return qvpiHOG_8u32f_C1R(picture.data(), picture.pixels.step(), picture.size, at, static_cast<int>(n), dst,
-                             record.spec(), qvpBorderReplicate, &outside, buffer.data());
-  };
-  ASSERT_EQ(call(locations.data(), locations.size(), all.data()), qvpStatusNoError);
+  const std::vector<float> all = Describe(qvpiHOG_8u32f_C1R, picture, config, locations);
   for (size_t i = 0; i < locations.size(); ++i) {
-    ASSERT_EQ(call(&locations[i], 1, one.data()), qvpStatusNoError);
+    const std::vector<float> one = Describe(qvpiHOG_8u32f_C1R, picture, config, {locations[i]});
     ASSERT_EQ(std::memcmp(one.data(), all.data() + i * one.size(), one.size() * sizeof(float)), 0) << "window " << i;
   }
 }
 
 TEST(Hog, SkipsWindowsBeyondTheTrimmedRegion) {
   const QvpiHOGConfig config{0, 2, 4, 4, 3, 2.0f, 0.2f, {8, 4}};  // the region of 11 x 6 is trimmed to 8 x 4
-  const Record record(config);
   const Picture<uint8_t> picture({11, 6}, 1, 256);
-  const Block buffer(12 * 11 * 6);
-  const uint8_t outside = 0;
-  const QvpiPoint locations[] = {{1, 0}, {0, 0}, {0, 1}, {-1, 0}, {0, -1}, {INT32_MAX, 0}, {0, 0}};
-  float dst[3 * 24], expected[24];
-  std::fill_n(dst, 72, -1.0f);
-  const auto call = [&](const QvpiPoint* at, int n, float* to) {
-    return qvpiHOG_8u32f_C1R(picture.data(), picture.pixels.step(), picture.size, at, n, to, record.spec(),
-                             qvpBorderReplicate, &outside, buffer.data());
-  };
-  ASSERT_EQ(call(locations, 7, dst), qvpStatusNoError);
-  ASSERT_EQ(call(nullptr, 1, expected), qvpStatusNoError);
-  EXPECT_EQ(std::memcmp(dst, expected, sizeof(expected)), 0);
-  EXPECT_EQ(std::memcmp(dst + 24, expected, sizeof(expected)), 0);
-  for (int i = 48; i < 72; ++i) EXPECT_EQ(dst[i], -1);
+  std::vector<float> expected = Describe(qvpiHOG_8u32f_C1R, picture, config, {{0, 0}});
+  expected.insert(expected.end(), expected.begin(), expected.begin() + 24);
+  expected.resize(7 * 24, -1);
+  EXPECT_EQ(
+      Describe(qvpiHOG_8u32f_C1R, picture, config, {{1, 0}, {0, 0}, {0, 1}, {-1, 0}, {0, -1}, {INT32_MAX, 0}, {0, 0}}),
+      expected);
 }
 
-// A square of 16 pixels with one float or three to a pixel, one window of 7 x 7 blocks of 4 x 4 pixels, and its
-// descriptor.
-class FloatWindow {
- public:
-  explicit FloatWindow(int channels) : channels_(channels) { std::fill_n(pixels_, 16 * 16 * 3, 3.5f); }
-
-  float& At(int x, int y, int c = 0) { return pixels_[(y * 16 + x) * channels_ + c]; }
-
-  const std::vector<float>& Describe() {
-    const float outside[3] = {};
-    const auto hog = channels_ == 1 ? qvpiHOG_32f_C1R : qvpiHOG_32f_C3R;
-    EXPECT_EQ(hog(pixels_, 16 * channels_ * static_cast<int>(sizeof(float)), {16, 16}, nullptr, 1, descriptor_.data(),
-                  record_.spec(), qvpBorderReplicate, outside, buffer_.data()),
-              qvpStatusNoError);
-    return descriptor_;
-  }
-
-  // The values of the block that is `across` and `down` from the first.
-  static std::vector<float> BlockAt(const std::vector<float>& descriptor, int across, int down) {
-    const auto first = descriptor.begin() + (down * 7 + across) * 36;
-    return {first, first + 36};
-  }
-
- private:
-  Record record_{QvpiHOGConfig{0, 2, 4, 2, 9, 2.0f, 0.2f, {16, 16}}};
-  Block buffer_{12 * 16 * 16};
-  int channels_;
-  float pixels_[16 * 16 * 3];
-  std::vector<float> descriptor_ = std::vector<float>(7 * 7 * 36);
-};
+// One window of 7 x 7 blocks of 4 x 4 pixels.
+constexpr QvpiHOGConfig kWindow{0, 2, 4, 2, 9, 2.0f, 0.2f, {16, 16}};
 
 TEST(Hog, DescribesConstantImagesByZeros) {
-  FloatWindow window(1);
-  for (const float v : window.Describe()) ASSERT_EQ(v, 0);
+  Picture<float> flat({16, 16}, 1, 0);
+  for (int i = 0; i < 18 * 18; ++i) flat.pixels.Put(i % 18, i / 18, 3.5f);
+  for (const float v : Describe(qvpiHOG_32f_C1R, flat, kWindow, {{0, 0}})) ASSERT_EQ(v, 0);
 }
 
-// A pixel that is not finite spoils the gradients of its four neighbours, and with them all blocks that have one.
+// A pixel that is not finite spoils the gradients of its four neighbours, and with them all blocks that have one. The
+// border repeats a pixel at the edge, which spoils its own.
+void ExpectSpoiltBlocks(int channels, int x, int channel, float bad) {
+  const auto hog = channels == 1 ? qvpiHOG_32f_C1R : qvpiHOG_32f_C3R;
+  Picture<float> picture({16, 16}, channels, 0);
+  for (int y = 0; y < 16; ++y)
+    picture.pixels.Put((y + 1) * channels + (channel + 1) % channels, y + 1, static_cast<float>(y));
+  const std::vector<float> clean = Describe(hog, picture, kWindow, {{0, 0}});
+  picture.pixels.Put((x + 1) * channels + channel, 8, bad);
+  const std::vector<float> spoilt = Describe(hog, picture, kWindow, {{0, 0}});
+  for (int block = 0; block < 49; ++block) {
+    const int left = block % 7 * 2, top = block / 7 * 2;
+    const auto has = [&](int px, int py) { return px >= left && px < left + 4 && py >= top && py < top + 4; };
+    const bool isEdge = (x == 0 || x == 15) && has(x, 7);
+    const bool isSpoilt = has(x - 1, 7) || has(x + 1, 7) || has(x, 6) || has(x, 8) || isEdge;
+    for (int i = block * 36; i < block * 36 + 36; ++i) {
+      ASSERT_TRUE(isSpoilt ? std::isnan(spoilt[i]) : spoilt[i] == clean[i]) << bad << " block " << block;
+    }
+  }
+}
+
 TEST(Hog, BlocksWithGradientsThatAreNotFiniteAreNaN) {
-  constexpr float kInf = std::numeric_limits<float>::infinity();
   for (const int channels : {1, 3}) {
-    for (const float bad : {NAN, -NAN, kInf, -kInf, 1e20f}) {
+    for (const float bad : {NAN, -NAN, INFINITY, -INFINITY, 1e20f}) {
       for (int c = 0; c < channels; ++c) {
-        for (const int x : {0, 6, 15}) {
-          FloatWindow window(channels);
-          for (int y = 0; y < 16; ++y) window.At(y, y, (c + 1) % channels) = static_cast<float>(y);
-          const std::vector<float> clean = window.Describe();
-          window.At(x, 7, c) = bad;
-          const std::vector<float> spoilt = window.Describe();
-          for (int down = 0; down < 7; ++down) {
-            for (int across = 0; across < 7; ++across) {
-              const int left = 2 * across, top = 2 * down;
-              const auto has = [&](int px, int py) { return px >= left && px < left + 4 && py >= top && py < top + 4; };
-              const bool isBeside = has(x - 1, 7) || has(x + 1, 7) || has(x, 6) || has(x, 8);
-              const bool isEdge = (x == 0 || x == 15) && has(x, 7);  // the border repeats the pixel
-              const auto block = FloatWindow::BlockAt(spoilt, across, down);
-              if (isBeside || isEdge) {
-                for (const float v : block) ASSERT_TRUE(std::isnan(v)) << bad << " block " << across << ',' << down;
-              } else {
-                ASSERT_EQ(block, FloatWindow::BlockAt(clean, across, down)) << bad;
-              }
-            }
-          }
-        }
+        for (const int x : {0, 6, 15}) ExpectSpoiltBlocks(channels, x, c, bad);
       }
     }
   }
@@ -289,23 +257,12 @@ TEST(Hog, BlocksWithGradientsThatAreNotFiniteAreNaN) {
 
 // Lengths do not overflow where gradients do not: descriptors do not hang on the magnitude.
 TEST(Hog, DescribesLargePixelsLikeSmallOnes) {
-  const auto describe = [](const QvpiHOGConfig& config, float factor) {
-    const Record record(config);
-    const QvpiSize size = config.winSize;
-    const Block buffer(size_t{12} * size.width * size.height);
-    std::vector<float> src(size_t{1} * size.width * size.height), dst(4 * config.nbins);
-    test::Random random(3);
-    for (float& v : src) v = (static_cast<float>(random.Next() % 2001) - 1000) / 1000 * factor;
-    const float outside = 0;
-    EXPECT_EQ(qvpiHOG_32f_C1R(src.data(), size.width * static_cast<int>(sizeof(float)), size, nullptr, 1, dst.data(),
-                              record.spec(), qvpBorderMirror, &outside, buffer.data()),
-              qvpStatusNoError);
-    return dst;
-  };
   for (const QvpiHOGConfig& config :
        {QvpiHOGConfig{0, 2, 4, 2, 9, 2.0f, 0.2f, {4, 4}}, QvpiHOGConfig{0, 16, 32, 16, 4, 100.0f, 9.0f, {32, 32}}}) {
-    const std::vector<float> small = describe(config, 1e6f), large = describe(config, 1e18f);
-    for (size_t i = 0; i < small.size(); ++i) ASSERT_NEAR(large[i], small[i], 1e-5);
+    const Picture<float> small(config.winSize, 1, 2e6), large(config.winSize, 1, 2e18);
+    const std::vector<float> expected = Describe(qvpiHOG_32f_C1R, small, config, {{0, 0}}, qvpBorderMirror),
+                             result = Describe(qvpiHOG_32f_C1R, large, config, {{0, 0}}, qvpBorderMirror);
+    for (size_t i = 0; i < expected.size(); ++i) ASSERT_NEAR(result[i], expected[i], 1e-5);
   }
 }
 
