@@ -34,32 +34,18 @@ Spread SpreadOf(QvpiSize size) {
   return spread;
 }
 
-class Deconvolution {
- public:
-  Deconvolution(QvpiSize size, const Spread& spread, QvpiBorderType border)
-      : Deconvolution(size, spread, border, SizesOf(size, spread, border)) {}
-  QvpiDeconvolveSpec_32f* spec() const { return reinterpret_cast<QvpiDeconvolveSpec_32f*>(spec_.data()); }
-  Qvp8u* buffer() const { return buffer_.data(); }
+test::Prepared Prepare(QvpiSize size, const Spread& spread, QvpiBorderType border) {
+  int spec = 0, init = 0, buffer = 0;
+  EXPECT_EQ(qvpiDeconvolveGetSize_32f(size, spread.size, border, &spec, &init, &buffer), 0);
+  test::Prepared prepared(spec, buffer);
+  const test::Block work(init);
+  EXPECT_EQ(qvpiDeconvolveInit_32f(size, spread.pixels.data(), spread.size.width * 4, spread.size, border,
+                                   prepared.record<QvpiDeconvolveSpec_32f>(), work.data()),
+            0);
+  return prepared;
+}
 
- private:
-  struct Sizes {
-    int spec, init, buffer;
-  };
-  static Sizes SizesOf(QvpiSize size, const Spread& spread, QvpiBorderType border) {
-    Sizes s;
-    EXPECT_EQ(qvpiDeconvolveGetSize_32f(size, spread.size, border, &s.spec, &s.init, &s.buffer), 0);
-    return s;
-  }
-  Deconvolution(QvpiSize size, const Spread& spread, QvpiBorderType border, const Sizes& sizes)
-      : spec_(sizes.spec), buffer_(sizes.buffer) {
-    const test::Block init(sizes.init);
-    EXPECT_EQ(qvpiDeconvolveInit_32f(size, spread.pixels.data(), spread.size.width * 4, spread.size, border, spec(),
-                                     init.data()),
-              0);
-  }
-
-  test::Block spec_, buffer_;
-};
+QvpiDeconvolveSpec_32f* SpecOf(const test::Prepared& prepared) { return prepared.record<QvpiDeconvolveSpec_32f>(); }
 
 // ---- The definition.
 
@@ -185,7 +171,7 @@ constexpr int kIterations = 20;
 void Check(const Export& function, QvpiSize size, QvpiSize spreadSize, QvpiBorderType border) {
   const Name name(function.name);
   const Spread spread = SpreadOf(spreadSize);
-  const Deconvolution deconvolution(size, spread, border);
+  const test::Prepared prepared = Prepare(size, spread, border);
   const bool isInverse = function.name.find("Inverse") != std::string::npos;
   Samples src(name.From(), size.width * name.channels, size.height, 12),
       dst(name.From(), size.width * name.channels, size.height, 20);
@@ -197,8 +183,8 @@ void Check(const Export& function, QvpiSize size, QvpiSize spreadSize, QvpiBorde
                       {"smoothness", kSmoothness},
                       {"iterations", kIterations},
                       {"threshold", kThreshold},
-                      {"pSpec", {deconvolution.spec()}},
-                      {"pBuffer", {deconvolution.buffer()}}}),
+                      {"pSpec", {SpecOf(prepared)}},
+                      {"pBuffer", {prepared.buffer()}}}),
             0);
   for (int c = 0; c < name.channels; ++c) {
     Numbers channel;
@@ -237,19 +223,19 @@ TEST(Deconvolve, EqualsItsStepsInDouble) {
 
 TEST(Deconvolve, KnownValues) {
   const Spread spread{{3, 1}, {0.25F, 0.5F, 0.25F}};
-  const Deconvolution row({4, 1}, spread, qvpBorderWrap);
+  const test::Prepared row = Prepare({4, 1}, spread, qvpBorderWrap);
   const float image[] = {0, 4, 0, 0};
   const auto expect = [](const std::vector<float>& expected, const float* found) {
     for (size_t i = 0; i < expected.size(); ++i) EXPECT_NEAR(found[i], expected[i], 3e-6) << i;
   };
   const auto inverse = [&](float noise, float smoothness) {
     static float found[4];
-    EXPECT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 16, found, 16, noise, smoothness, row.spec(), row.buffer()), 0);
+    EXPECT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 16, found, 16, noise, smoothness, SpecOf(row), row.buffer()), 0);
     return found;
   };
   const auto iterative = [&](int n) {
     static float found[4];
-    EXPECT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 16, found, 16, n, 1e-6F, row.spec(), row.buffer()), 0);
+    EXPECT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 16, found, 16, n, 1e-6F, SpecOf(row), row.buffer()), 0);
     return found;
   };
   expect({1, 2, 1, 0}, iterative(1));
@@ -260,24 +246,25 @@ TEST(Deconvolve, KnownValues) {
 
 // A spread of one pixel is no blur; what is not above 0 counts as 0.
 TEST(Deconvolve, NoBlurOfNumbersThatAreNone) {
-  const Deconvolution none({3, 1}, {{1, 1}, {1}}, qvpBorderConst);
+  const test::Prepared none = Prepare({3, 1}, {{1, 1}, {1}}, qvpBorderConst);
   const float image[] = {-2, NAN, 5};
   float found[3];
-  ASSERT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 12, found, 12, 3, 0, none.spec(), none.buffer()), 0);
+  ASSERT_EQ(qvpiDeconvolveIterative_32f_C1R(image, 12, found, 12, 3, 0, SpecOf(none), none.buffer()), 0);
   for (int i = 0; i < 3; ++i) EXPECT_NEAR(found[i], i == 2 ? 5 : 0, 4e-6);
-  ASSERT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 12, found, 12, 1, 0, none.spec(), none.buffer()), 0);
+  ASSERT_EQ(qvpiDeconvolveInverse_32f_C1R(image, 12, found, 12, 1, 0, SpecOf(none), none.buffer()), 0);
   EXPECT_TRUE(std::isnan(found[0]));
 }
 
 TEST(Deconvolve, RefusesWhatItsParametersForbid) {
-  const Deconvolution row({2, 1}, {{1, 1}, {1}}, qvpBorderWrap), dark({2, 1}, {{1, 1}, {0}}, qvpBorderWrap);
+  const test::Prepared row = Prepare({2, 1}, {{1, 1}, {1}}, qvpBorderWrap),
+                       dark = Prepare({2, 1}, {{1, 1}, {0}}, qvpBorderWrap);
   const float image[] = {1, 2};
   float found[2];
   const auto inverse = [&](float noise, float smoothness) {
-    return qvpiDeconvolveInverse_32f_C1R(image, 8, found, 8, noise, smoothness, row.spec(), row.buffer());
+    return qvpiDeconvolveInverse_32f_C1R(image, 8, found, 8, noise, smoothness, SpecOf(row), row.buffer());
   };
-  const auto iterative = [&](int n, float threshold, const Deconvolution& by) {
-    return qvpiDeconvolveIterative_32f_C1R(image, 8, found, 8, n, threshold, by.spec(), by.buffer());
+  const auto iterative = [&](int n, float threshold, const test::Prepared& by) {
+    return qvpiDeconvolveIterative_32f_C1R(image, 8, found, 8, n, threshold, SpecOf(by), by.buffer());
   };
   for (const float bad : {-1.F, INFINITY, NAN}) {
     EXPECT_EQ(inverse(bad, 1), qvpStatusBadArgument);
@@ -288,9 +275,9 @@ TEST(Deconvolve, RefusesWhatItsParametersForbid) {
   EXPECT_EQ(iterative(1, NAN, row), qvpStatusBadArgument);
   EXPECT_EQ(iterative(1, 0, dark), qvpStatusBadArgument);
   const float spread[] = {1, NAN, 1};
-  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 4, {1, 2}, qvpBorderWrap, row.spec(), row.buffer()), qvpStatusSize);
-  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 8, {2, 1}, 4, row.spec(), row.buffer()), qvpStatusBorder);
-  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 8, {2, 1}, 8, row.spec(), row.buffer()), qvpStatusBadArgument);
+  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 4, {1, 2}, qvpBorderWrap, SpecOf(row), row.buffer()), qvpStatusSize);
+  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 8, {2, 1}, 4, SpecOf(row), row.buffer()), qvpStatusBorder);
+  EXPECT_EQ(qvpiDeconvolveInit_32f({2, 1}, spread, 8, {2, 1}, 8, SpecOf(row), row.buffer()), qvpStatusBadArgument);
   EXPECT_EQ(inverse(1, 0), qvpStatusContextMatch);
   int s[3];
   EXPECT_EQ(qvpiDeconvolveGetSize_32f({1 << 30, 3}, {1, 1}, 1, s, s + 1, s + 2), qvpStatusSizeOverflow);
