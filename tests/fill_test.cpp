@@ -66,14 +66,6 @@ TEST(Set, EveryMember) {
   }
 }
 
-TEST(Set, FillsUpwardsWithANegativeStep) {
-  const Bytes dst(50, 3, 4);
-  ASSERT_EQ(qvpiSet_8u_C1R(9, dst.data() + 2 * dst.step(), -dst.step(), {50, 3}), qvpStatusNoError);
-  for (int y = 0; y < 3; ++y) {
-    for (int i = 0; i < 50; ++i) ASSERT_EQ(dst(i, y), 9);
-  }
-}
-
 TEST(Masked, EveryMember) {
   for (const Export* function : test::FunctionsOf({"Copy", "Set"})) {
     const Member m(*function);

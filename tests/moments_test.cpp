@@ -56,46 +56,24 @@ TEST(Moments, AreSumsOfPowersTimesValues) {
   }
 }
 
-TEST(Moments, OfOnePixel) {
-  std::vector<uint8_t> image(64);
-  image[8 * 5 + 3] = 1;
-  const State state;
-  ASSERT_EQ(qvpiMoments64f_8u_C1R(image.data(), 8, {8, 8}, state.get()), qvpStatusNoError);
-  const auto spatial = [&](int m, int n, QvpiPoint offset) {
-    double v = -1;
-    EXPECT_EQ(qvpiGetSpatialMoment_64f(state.get(), m, n, 0, offset, &v), qvpStatusNoError);
-    return v;
-  };
-  EXPECT_EQ(spatial(1, 0, {0, 0}), 3);
-  EXPECT_EQ(spatial(0, 1, {0, 0}), 5);
-  EXPECT_EQ(spatial(1, 0, {10, 0}), 13);
-  EXPECT_EQ(spatial(2, 1, {-1, 2}), 4 * 7);
-  for (int m = 0; m < 4; ++m) {
-    for (int n = 0; m + n < 4; ++n) {
-      double v = -1;
-      EXPECT_EQ(qvpiGetCentralMoment_64f(state.get(), m, n, 0, &v), qvpStatusNoError);
-      EXPECT_EQ(v, m + n == 0 ? 1 : 0);
-    }
-  }
-}
-
-// Moments of a figure, all by their definitions: normalised about the centroid, and Hu's of them.
+// Moments of a figure by their definitions: normalised ones about the origin and the centroid, and Hu's.
 struct Described {
-  double central[4][4] = {}, normalised[4][4] = {}, hu[7];
+  double spatial[4][4] = {}, central[4][4] = {}, normalised[4][4] = {}, hu[7];
 
   explicit Described(const std::vector<uint8_t>& image, int side) {
-    double mass = 0, x0 = 0, y0 = 0;
     const auto sum = [&](const auto& of) {
       double all = 0;
       for (int i = 0; i < side * side; ++i) all += of(i % side, i / side) * image[i];
       return all;
     };
-    mass = sum([](int, int) { return 1; });
-    x0 = sum([](int x, int) { return x; }) / mass, y0 = sum([](int, int y) { return y; }) / mass;
+    const double mass = sum([](int, int) { return 1; });
+    const double x0 = sum([](int x, int) { return x; }) / mass, y0 = sum([](int, int y) { return y; }) / mass;
     auto& e = normalised;
     for (int i = 0; i < 16; ++i) {
       const int m = i % 4, n = i / 4;
       central[m][n] = sum([&](int x, int y) { return std::pow(x - x0, m) * std::pow(y - y0, n); });
+      spatial[m][n] =
+          sum([&](int x, int y) { return std::pow(x, m) * std::pow(y, n); }) / std::pow(mass, 1 + (m + n) / 2.0);
       e[m][n] = central[m][n] / std::pow(mass, 1 + (m + n) / 2.0);
     }
     const double a = e[3][0] + e[1][2], b = e[2][1] + e[0][3], c = e[3][0] - 3 * e[1][2], d = 3 * e[2][1] - e[0][3],
@@ -120,6 +98,8 @@ TEST(Moments, OfAFigureFollowTheirFormulas) {
     for (int n = 0; m + n < 4; ++n) {
       EXPECT_EQ(qvpiGetCentralMoment_64f(state.get(), m, n, 0, &value), 0);
       EXPECT_NEAR(value, expected.central[m][n], 1e-6) << m << n;
+      EXPECT_EQ(qvpiGetNormalizedSpatialMoment_64f(state.get(), m, n, 0, {0, 0}, &value), 0);
+      EXPECT_NEAR(value, expected.spatial[m][n], 1e-12 * expected.spatial[m][n]) << m << n;
       EXPECT_EQ(qvpiGetNormalizedCentralMoment_64f(state.get(), m, n, 0, &value), 0);
       EXPECT_NEAR(value, expected.normalised[m][n], 1e-12) << m << n;
     }
