@@ -82,42 +82,46 @@ TEST(Reductions, AreExactForExtremeValuesInEveryLane) {
   }
 }
 
+// The last channel's result, of pixels that are alike in both images, with a hint where there is one.
+double ResultOf(const std::string& function, const void* pixels, int step, QvpiSize roi, int hint = qvpAlgHintFast) {
+  double v[4];
+  const test::Argument image(pixels, step);
+  EXPECT_EQ(test::CallNamed("qvpi" + function, {{"pSrc", image},
+                                                {"pSrc1", image},
+                                                {"pSrc2", image},
+                                                {"roiSize", roi},
+                                                {"pValue", {v}},
+                                                {"pSum", {v}},
+                                                {"pMean", {v}},
+                                                {"pDp", {v}},
+                                                {"hint", hint}}),
+            qvpStatusNoError)
+      << function;
+  return v[Name(function).written - 1];
+}
+
 // The largest values, over the lengths at which lanes have to be emptied, and rows repeated until the sums pass 2^32.
 TEST(Reductions, NeverOverflow) {
-  const std::vector<uint8_t> ones(4 * 70000 * sizeof(int16_t), 0xFF);
-  const auto* bytes = ones.data();
-  const auto* words = reinterpret_cast<const Qvp16u*>(ones.data());
-  double v[4];
+  const std::vector<uint8_t> bits(4 * 70000 * sizeof(int16_t), 0xFF);
+  const std::vector<int16_t> lowest(70000, INT16_MIN);
+  const auto* const ones = bits.data();
   for (const int width : {32767, 32768, 32769, 33024, 33025, 33026, 65536, 65537, 65538, 70000}) {
     const double n = width;
-    ASSERT_EQ(qvpiNorm_L1_8u_C3R(bytes, 1, {width, 1}, v), 0);
-    EXPECT_EQ(v[2], 255 * n);
-    ASSERT_EQ(qvpiNorm_L1_16u_C1R(words, 1, {width, 1}, v), 0);
-    EXPECT_EQ(v[0], 65535 * n);
-    ASSERT_EQ(qvpiNorm_L2_16u_C4R(words, 1, {width, 1}, v), 0);
-    EXPECT_EQ(v[3], std::sqrt(65535.0 * 65535 * n));
-    ASSERT_EQ(qvpiDotProd_8u64f_C1R(bytes, 1, bytes, 1, {width, 1}, v), 0);
-    EXPECT_EQ(v[0], 65025 * n);
-    ASSERT_EQ(qvpiDotProd_8u64f_AC4R(bytes, 1, bytes, 1, {width, 1}, v), 0);
-    EXPECT_EQ(v[2], 65025 * n);
+    EXPECT_EQ(ResultOf("Norm_L1_8u_C3R", ones, 1, {width, 1}), 255 * n);
+    EXPECT_EQ(ResultOf("Norm_L1_16u_C1R", ones, 1, {width, 1}), 65535 * n);
+    EXPECT_EQ(ResultOf("Norm_L2_16u_C4R", ones, 1, {width, 1}), std::sqrt(65535.0 * 65535 * n));
+    EXPECT_EQ(ResultOf("DotProd_8u64f_C1R", ones, 1, {width, 1}), 65025 * n);
+    EXPECT_EQ(ResultOf("DotProd_8u64f_AC4R", ones, 1, {width, 1}), 65025 * n);
   }
-  const QvpiSize many{70000, 1000};
+  const QvpiSize many{70000, 1000}, fewer{70000, 70};
   const double pixels = 7e7;
-  ASSERT_EQ(qvpiSum_8u_C1R(bytes, 0, many, v), 0);
-  EXPECT_EQ(v[0], 255 * pixels);
-  ASSERT_EQ(qvpiSum_16u_C3R(words, 0, many, v), 0);
-  EXPECT_EQ(v[1], 65535 * pixels);
-  ASSERT_EQ(qvpiNorm_L2_16u_C1R(words, 1, {70000, 70}, v), 0);
-  EXPECT_EQ(v[0], std::sqrt(65535.0 * 65535 * 70000 * 70));
-  ASSERT_EQ(qvpiDotProd_16u64f_C1R(words, 1, words, 1, {70000, 70}, v), 0);
-  EXPECT_EQ(v[0], 65535.0 * 65535 * 70000 * 70);
-  ASSERT_EQ(qvpiDotProd_8u64f_C3R(bytes, 1, bytes, 1, {70000, 500}, v), 0);
-  EXPECT_EQ(v[0], 65025.0 * 70000 * 500);
-  const std::vector<int16_t> lowest(70000, INT16_MIN);
-  ASSERT_EQ(qvpiDotProd_16s64f_C1R(lowest.data(), 2, lowest.data(), 2, {60000, 500}, v), 0);
-  EXPECT_EQ(v[0], 0x1p30 * 60000 * 500);
-  ASSERT_EQ(qvpiSum_16s_C1R(lowest.data(), 0, many, v), 0);
-  EXPECT_EQ(v[0], -32768 * pixels);
+  EXPECT_EQ(ResultOf("Sum_8u_C1R", ones, 0, many), 255 * pixels);
+  EXPECT_EQ(ResultOf("Sum_16u_C3R", ones, 0, many), 65535 * pixels);
+  EXPECT_EQ(ResultOf("Norm_L2_16u_C1R", ones, 1, fewer), std::sqrt(65535.0 * 65535 * 70000 * 70));
+  EXPECT_EQ(ResultOf("DotProd_16u64f_C1R", ones, 1, fewer), 65535.0 * 65535 * 70000 * 70);
+  EXPECT_EQ(ResultOf("DotProd_8u64f_C3R", ones, 1, {70000, 500}), 65025.0 * 70000 * 500);
+  EXPECT_EQ(ResultOf("DotProd_16s64f_C1R", lowest.data(), 2, {60000, 500}), 0x1p30 * 60000 * 500);
+  EXPECT_EQ(ResultOf("Sum_16s_C1R", lowest.data(), 0, many), -32768 * pixels);
 }
 
 TEST(Norms, OfWideBytesGoThroughStrips) {
@@ -159,22 +163,17 @@ TEST(Norms, SkipNaNOnlyWhenTheyLookForTheLargest) {
   for (int place = 0; place < 70; ++place) {
     std::vector<float> pixels(70, -2);
     pixels[place] = NAN;
-    double v;
-    ASSERT_EQ(qvpiNorm_Inf_32f_C1R(pixels.data(), 280, {70, 1}, &v), 0);
-    EXPECT_EQ(v, 2);
-    ASSERT_EQ(qvpiNorm_L1_32f_C1R(pixels.data(), 280, {70, 1}, &v, qvpAlgHintFast), 0);
-    EXPECT_TRUE(std::isnan(v));
+    EXPECT_EQ(ResultOf("Norm_Inf_32f_C1R", pixels.data(), 280, {70, 1}), 2);
+    EXPECT_TRUE(std::isnan(ResultOf("Norm_L1_32f_C1R", pixels.data(), 280, {70, 1})));
     pixels[(place + 5) % 70] = -INFINITY;
-    ASSERT_EQ(qvpiNorm_Inf_32f_C1R(pixels.data(), 280, {70, 1}, &v), 0);
-    EXPECT_EQ(v, INFINITY);
+    EXPECT_EQ(ResultOf("Norm_Inf_32f_C1R", pixels.data(), 280, {70, 1}), INFINITY);
   }
 }
 
 TEST(Norms, DifferBetweenFastAndAccurateButNotByMuch) {
   const std::vector<float> pixels(1000000, 0.1f);
-  double fast, accurate;
-  ASSERT_EQ(qvpiNorm_L1_32f_C1R(pixels.data(), 4000, {1000, 1000}, &fast, qvpAlgHintFast), 0);
-  ASSERT_EQ(qvpiNorm_L1_32f_C1R(pixels.data(), 4000, {1000, 1000}, &accurate, qvpAlgHintAccurate), 0);
+  const double fast = ResultOf("Norm_L1_32f_C1R", pixels.data(), 4000, {1000, 1000}, qvpAlgHintFast),
+               accurate = ResultOf("Norm_L1_32f_C1R", pixels.data(), 4000, {1000, 1000}, qvpAlgHintAccurate);
   EXPECT_NE(fast, accurate);
   EXPECT_NEAR(fast, accurate, accurate * 1e-3);
   EXPECT_NEAR(accurate, 1e6 * double{0.1f}, 1e-6);
@@ -192,9 +191,7 @@ TEST(Reductions, TakeAnyStepThatIsNotChecked) {
 
 TEST(Mean, CountsPixelsBeyond32Bits) {
   const uint8_t row[65536] = {8};
-  double mean;
-  ASSERT_EQ(qvpiMean_8u_C1R(row, 0, {65536, 65536}, &mean), 0);
-  EXPECT_EQ(mean, 8.0 / 65536);
+  EXPECT_EQ(ResultOf("Mean_8u_C1R", row, 0, {65536, 65536}), 8.0 / 65536);
 }
 
 // Where a channel has its least or greatest value, which NaN is not.
@@ -283,33 +280,17 @@ TEST(FastSums, DependNeitherOnTheWidthNorOnPacking) {
   const int n = 1 << 21;
   std::vector<float> ones(n, 1.0f), rows(2 * n, 1.0f);
   for (const int width : {1, 3, 7, 47, 100}) {
-    double packed = 0, gaps = 0;
     const QvpiSize roi{width, n / width};
-    ASSERT_EQ(qvpiSum_32f_C1R(ones.data(), 4 * width, roi, &packed, qvpAlgHintFast), 0);
-    EXPECT_EQ(packed, roi.width * roi.height);
-    ASSERT_EQ(qvpiSum_32f_C1R(rows.data(), 8 * width, roi, &gaps, qvpAlgHintFast), 0);
-    EXPECT_EQ(gaps, packed);
+    EXPECT_EQ(ResultOf("Sum_32f_C1R", ones.data(), 4 * width, roi), roi.width * roi.height);
+    EXPECT_EQ(ResultOf("Sum_32f_C1R", rows.data(), 8 * width, roi), roi.width * roi.height);
   }
   test::Random random(2);
   for (float& v : ones) v = static_cast<float>(random.Next() % 100000) / 7;
-  const auto sumOf = [&](int width, const auto& function) {
-    double sums[3] = {};
-    function(width, sums);
-    return sums[0];
-  };
-  const auto norm = [&](int width, double* value) {
-    qvpiNorm_L2_32f_C1R(ones.data(), 4 * width, {width, 48000 / width}, value, qvpAlgHintFast);
-  };
-  const auto dot = [&](int width, double* value) {
-    qvpiDotProd_32f64f_C1R(ones.data(), 4 * width, ones.data() + 7, 4 * width, {width, 48000 / width}, value, 1);
-  };
-  const auto mean = [&](int width, double* value) {
-    qvpiMean_32f_C3R(ones.data(), 12 * width, {width, 15000 / width}, value, qvpAlgHintFast);
-  };
-  for (const int width : {1, 2, 5, 24, 100, 375}) {
-    EXPECT_EQ(sumOf(width, norm), sumOf(3000, norm)) << width;
-    EXPECT_EQ(sumOf(width, dot), sumOf(3000, dot)) << width;
-    EXPECT_EQ(sumOf(width, mean), sumOf(3000, mean)) << width;
+  for (const char* function : {"Norm_L2_32f_C1R", "DotProd_32f64f_C1R", "Mean_32f_C3R"}) {
+    const auto of = [&](int width) {
+      return ResultOf(function, ones.data(), 4 * Name(function).channels * width, {width, 48000 / width});
+    };
+    for (const int width : {1, 2, 5, 24, 100, 375}) EXPECT_EQ(of(width), of(3000)) << function << ' ' << width;
   }
 }
 
