@@ -51,11 +51,9 @@ struct Conversion {
 
 std::vector<Conversion> ConversionsOf(const std::string& operation, std::string_view ending) {
   std::vector<Conversion> found;
-  for (const Export& function : test::Exports()) {
-    if (!function.name.starts_with(operation + "_") || !function.name.ends_with(ending)) continue;
-    std::string_view types = std::string_view(function.name).substr(operation.size() + 1);
-    const Element *const from = test::TakeElement(types), *const to = test::TakeElement(types);
-    found.push_back({&function, from, to ? to : from});
+  for (const Export* function : test::FunctionsOf({operation})) {
+    const test::Name name(function->name);
+    if (function->name.ends_with(ending)) found.push_back({function, &name.From(), &name.To()});
   }
   EXPECT_FALSE(found.empty()) << operation << ' ' << ending;
   return found;
@@ -77,7 +75,7 @@ void Check(const Conversion& c, const std::vector<test::Named>& more, const Expe
 
 TEST(Convert, SaturatesEveryValue) {
   for (const char* ending : {"R", "Rs"}) {
-    for (const auto& c : ConversionsOf("qvpiConvert", ending)) {
+    for (const auto& c : ConversionsOf("Convert", ending)) {
       if (c.function->Find("roundMode") >= 0) continue;
       Check(c, {}, [&](Real v) { return Converted(*c.to, v); });
     }
@@ -85,7 +83,7 @@ TEST(Convert, SaturatesEveryValue) {
 }
 
 TEST(Convert, RoundsFloatsInEveryMode) {
-  for (const auto& c : ConversionsOf("qvpiConvert", "R")) {
+  for (const auto& c : ConversionsOf("Convert", "R")) {
     if (c.function->Find("roundMode") < 0) continue;
     for (const int mode : {0, 1, 2, 7, -1}) {
       Check(c, {{"roundMode", mode}}, [&](Real v) { return Converted(*c.to, v, mode); });
@@ -94,7 +92,7 @@ TEST(Convert, RoundsFloatsInEveryMode) {
 }
 
 TEST(Convert, ScalesByPowersOfTwoInEveryMode) {
-  for (const auto& c : ConversionsOf("qvpiConvert", "RSfs")) {
+  for (const auto& c : ConversionsOf("Convert", "RSfs")) {
     for (const int mode : {0, 1, 2}) {
       for (const int scale : {INT32_MIN, -160, -33, -8, -1, 0, 1, 4, 7, 8, 9, 16, 31, 32, 33, 160, INT32_MAX}) {
         Check(c, {{"roundMode", mode}, {"scaleFactor", scale}},
@@ -119,7 +117,7 @@ TEST(Convert, ChecksTheModeOfIntegersOnly) {
 }
 
 TEST(Scale, MapsFullRangesOntoEachOther) {
-  for (const auto& c : ConversionsOf("qvpiScale", "R")) {
+  for (const auto& c : ConversionsOf("Scale", "R")) {
     if (c.function->Find("vMin") >= 0) continue;
     Check(c, {}, [&](Real v) {
       const Real share = (v - c.from->lowest) / (c.from->highest - c.from->lowest);
@@ -129,7 +127,7 @@ TEST(Scale, MapsFullRangesOntoEachOther) {
 }
 
 TEST(Scale, MapsRangesOfFloats) {
-  for (const auto& c : ConversionsOf("qvpiScale", "R")) {
+  for (const auto& c : ConversionsOf("Scale", "R")) {
     if (c.function->Find("vMin") < 0) continue;
     for (const auto& [low, high] : {std::pair{-3, 1000}, {0, 100}, {7, 8}}) {
       Check(c, {{"vMin", low}, {"vMax", high}}, [&, first = Real(low), range = Real(high - low)](Real v) {
@@ -176,7 +174,7 @@ Real ScaledByConstant(const Conversion& c, Real v, double m, double a, int hint)
 }
 
 TEST(ScaleC, ComputesInThePrecisionOfHintAndTypes) {
-  for (const auto& c : ConversionsOf("qvpiScaleC", "R")) {
+  for (const auto& c : ConversionsOf("ScaleC", "R")) {
     for (const auto& k : {std::pair{3, -7}, {-2, 100}, {1, 0}, {0, 70000}}) {
       for (const int hint : {0, 1, 2}) {
         Check(c, {{"mVal", k.first}, {"aVal", k.second}, {"hint", hint}},

@@ -268,50 +268,53 @@ TEST(Fourier, TellsSizesUpToTheLargest) {
   EXPECT_EQ(qvpiFFTInit_R_32f(30, 1, 1, 0, nullptr, nullptr), qvpStatusNullPointer);
 }
 
-// The spectrum of each size, whole, from its packed form by the library. Long sides are processed in pieces.
-TEST(PackedSpectrum, ExtendsPacksMultipliesAndShows) {
-  std::vector<QvpiSize> sizes{{300, 3}, {2, 531}};
-  for (int n = 0; n < 81; ++n) sizes.push_back({n % 9 + 1, n / 9 + 1});
-  for (const QvpiSize s : sizes) {
-    const RealPlan plan = RealOf(s, 8);
-    Image a(s.width, s.height, 5), b(s.width, s.height, 1), whole(2 * s.width, s.height, 3),
-        packed(s.width, s.height, 2), product(s.width, s.height, 4), shown(s.width, s.height, 6);
-    for (Image* image : {&a, &b}) {
-      Fill(*image, s.width, s.height);
-      Call("qvpiDFTFwd_RToPack_32f_C1IR", *image, *image, plan);
-      b.Put(0, 0, 3);
-    }
-    const auto complex = reinterpret_cast<Qvp32fc*>(whole.data());
-    const auto extended = [&](const Image& image) {
-      EXPECT_EQ(qvpiPackToCplxExtend_32f32fc_C1R(image.data(), image.step(), complex, whole.step(), s), 0);
-      return ComplexPixels(whole, s);
-    };
-    const auto xb = extended(b), xa = extended(a);
-    ASSERT_EQ(qvpiCplxExtendToPack_32fc32f_C1R(complex, whole.step(), packed.data(), packed.step(), s), 0);
-    for (int i = 0; i < s.width * s.height; ++i) {
-      const int x = i % s.width, y = i / s.width;
-      ASSERT_EQ(a(x, y), Packed(xa, s, y, x)) << s.width << 'x' << s.height;
-      ASSERT_EQ(packed(x, y), a(x, y));
-      ASSERT_EQ(xa[i], std::conj(xa[(s.height - y) % s.height * s.width + (s.width - x) % s.width]));
-    }
-    for (const auto multiply : {qvpiMulPack_32f_C1R, qvpiMulPackConj_32f_C1R}) {
-      ASSERT_EQ(multiply(a.data(), a.step(), b.data(), b.step(), product.data(), product.step(), s), 0);
-      const auto got = extended(product);
-      for (int i = 0; i < s.width * s.height; ++i) {
-        const Value expected = xa[i] * (multiply == qvpiMulPack_32f_C1R ? xb[i] : std::conj(xb[i]));
-        ASSERT_LE(std::abs(got[i] - expected), 1e-6 * (std::abs(xa[i]) * std::abs(xb[i]) + 1e-30));
-      }
-    }
+// Of two spectra by the library: what is made of them, from the whole spectra that packed ones stand for.
+void CheckPacked(QvpiSize s) {
+  Image a(s.width, s.height, 5), b(s.width, s.height, 1);
+  const Image whole(2 * s.width, s.height, 3), made(s.width, s.height, 2);
+  const auto make = [&](const std::string& name, const Image& src, const Image& dst) {
     const Block buffer(s.width * 4 + 64);
-    ASSERT_EQ(qvpiMagnitudePack_32f_C1R(a.data(), a.step(), shown.data(), shown.step(), s, buffer.data()), 0);
-    for (int i = 0; i < s.width * s.height; ++i) {
-      ASSERT_FLOAT_EQ(shown(i % s.width, i / s.width), static_cast<float>(std::abs(xa[i])));
-    }
-    ASSERT_EQ(qvpiPhasePack_32f_C1R(a.data(), a.step(), shown.data(), shown.step(), s), 0);
-    for (int i = 0; i < s.width * s.height; ++i) {
-      ASSERT_NEAR(shown(i % s.width, i / s.width), std::atan2(xa[i].imag(), xa[i].real()), 3e-7);
-    }
+    ASSERT_EQ(
+        test::CallNamed(
+            "qvpi" + name,
+            {{"pSrc", src}, {"pSrc1", src}, {"pSrc2", b}, {"pDst", dst}, {"roiSize", s}, {"pBuffer", {buffer.data()}}}),
+        0);
+  };
+  const auto extended = [&](const Image& image) {
+    make("PackToCplxExtend_32f32fc_C1R", image, whole);
+    return ComplexPixels(whole, s);
+  };
+  for (Image* image : {&a, &b}) {
+    Fill(*image, s.width, s.height);
+    Call("qvpiDFTFwd_RToPack_32f_C1IR", *image, *image, RealOf(s, 8));
+    b.Put(0, 0, 3);
   }
+  const auto xb = extended(b), xa = extended(a);
+  make("CplxExtendToPack_32fc32f_C1R", whole, made);
+  EXPECT_EQ(RealPixels(made, s), RealPixels(a, s));
+  make("MulPack_32f_C1R", a, made);
+  const auto product = extended(made);
+  make("MulPackConj_32f_C1R", a, made);
+  const auto conjugate = extended(made);
+  const Image magnitude(made), phase(made);
+  make("MagnitudePack_32f_C1R", a, magnitude);
+  make("PhasePack_32f_C1R", a, phase);
+  for (int i = 0; i < s.width * s.height; ++i) {
+    const int x = i % s.width, y = i / s.width;
+    const double error = 1e-6 * (std::abs(xa[i]) * std::abs(xb[i]) + 1e-30);
+    ASSERT_EQ(a(x, y), Packed(xa, s, y, x)) << s.width << 'x' << s.height;
+    ASSERT_EQ(xa[i], std::conj(xa[(s.height - y) % s.height * s.width + (s.width - x) % s.width]));
+    ASSERT_LE(std::abs(product[i] - xa[i] * xb[i]), error);
+    ASSERT_LE(std::abs(conjugate[i] - xa[i] * std::conj(xb[i])), error);
+    ASSERT_FLOAT_EQ(magnitude(x, y), static_cast<float>(std::abs(xa[i])));
+    ASSERT_NEAR(phase(x, y), std::arg(xa[i]), 3e-7);
+  }
+}
+
+// Long sides are processed in pieces.
+TEST(PackedSpectrum, ExtendsPacksMultipliesAndShows) {
+  for (int n = 0; n < 81; ++n) CheckPacked({n % 9 + 1, n / 9 + 1});
+  CheckPacked({300, 3}), CheckPacked({2, 531});
 }
 
 TEST(PackedSpectrum, TreatsEachChannelAlone) {
