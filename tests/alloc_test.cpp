@@ -151,14 +151,12 @@ TEST(Companion, KnowsTheProcessor) {
   EXPECT_EQ(qvp_get_cache_line_size(), 64);
   std::ifstream info("/proc/cpuinfo");
   const std::string text((std::istreambuf_iterator<char>(info)), {});
-  const auto has = [&](const char* flag) { return text.find(std::string(" ") + flag + " ") != std::string::npos; };
-  const uint64_t features = ownGetFeature();
-  EXPECT_EQ((features & qvpFeatureSSE42) != 0, has("sse4_2"));
-  EXPECT_EQ((features & qvpFeatureAVX) != 0, has("avx"));
-  EXPECT_EQ((features & qvpFeatureAVX2) != 0, has("avx2"));
-  EXPECT_EQ((features & qvpFeatureFMA) != 0, has("fma"));
-  EXPECT_EQ((features & qvpFeatureBMI) != 0, has("bmi2"));
-  EXPECT_EQ((features & qvpFeatureAVX512) != 0, has("avx512vl"));
+  constexpr std::pair<uint64_t, const char*> kFeatures[] = {
+      {qvpFeatureSSE42, "sse4_2"}, {qvpFeatureAVX, "avx"},  {qvpFeatureAVX2, "avx2"},
+      {qvpFeatureFMA, "fma"},      {qvpFeatureBMI, "bmi2"}, {qvpFeatureAVX512, "avx512vl"}};
+  for (const auto& [bit, flag] : kFeatures) {
+    EXPECT_EQ((ownGetFeature() & bit) != 0, text.find(std::string(" ") + flag + " ") != std::string::npos) << flag;
+  }
 }
 #else
 // Programs are not shown the caches, and need no more than the baseline.
