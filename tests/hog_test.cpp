@@ -11,18 +11,16 @@ using test::Guard;
 
 constexpr QvpiHOGConfig kPeople{0, 8, 16, 8, 9, 4.0f, 0.2f, {64, 128}};
 
-// A record in memory of exactly the reported size, at an odd address, before a page that cannot be read.
+// A record of the reported size at an odd address, at most a byte before a page that cannot be read.
 struct Record {
   explicit Record(const QvpiHOGConfig& config) {
     int bytes = 0;
     EXPECT_EQ(qvpiHOGGetSize(&config, &bytes), qvpStatusNoError);
-    block = std::make_unique<Block>(bytes + bytes % 2 + 1);
-    data = block->data() + bytes % 2 + 1;
+    block = std::make_unique<Block>(bytes + 1 - bytes % 2);
     EXPECT_EQ(qvpiHOGInit(&config, spec()), qvpStatusNoError);
   }
-  QvpiHOGSpec* spec() const { return reinterpret_cast<QvpiHOGSpec*>(data); }
+  QvpiHOGSpec* spec() const { return reinterpret_cast<QvpiHOGSpec*>(block->data()); }
   std::unique_ptr<Block> block;
-  uint8_t* data;
 };
 
 // An image with a rim of one pixel in memory around its region.

@@ -234,8 +234,10 @@ void ForEachResult(const Export& function, const Request& request, const Check& 
     for (int x = 0; x < size.width; ++x) {
       for (int c = 0; c < step; ++c) {
         const auto result = static_cast<float>(dst(x * step + c, y));
-        if (c >= processed) ASSERT_EQ(result, 77);
-        if (c >= processed) continue;
+        if (c >= processed) {
+          ASSERT_EQ(result, 77);
+          continue;
+        }
         check(result, isJoint ? Group{0, processed} : Group{c, 1}, x - request.Offset(request.tpl.size.width),
               y - request.Offset(request.tpl.size.height));
       }

@@ -70,23 +70,23 @@ struct Part {
 };
 inline Part WholeOf(const Bordered& scene) { return {0, 0, scene.region.size, scene.region.border}; }
 
-// A buffer and a record of the reported sizes, before unreadable pages; the record may begin anywhere.
+// A buffer and a record of the reported sizes. The buffer and every other record end before unreadable pages, so that
+// their sizes tell where they begin; the records between begin anywhere.
 class Prepared {
  public:
   explicit Prepared(int buffer) : buffer_(std::make_unique<Block>(buffer)) {}
   Prepared(int spec, int buffer) : Prepared(buffer) {
-    static int phase = 0;
-    phase_ = phase = (phase + 7) % 64;
-    spec_ = std::make_unique<Block>(spec + phase_);
+    static int turn = 0;
+    ++turn;
+    spec_ = std::make_unique<Block>(spec + (turn % 2 != 0 ? turn * 7 % 64 : 0));
   }
   template <class Spec>
   Spec* record() const {
-    return spec_ ? reinterpret_cast<Spec*>(spec_->data() + phase_) : nullptr;
+    return spec_ ? reinterpret_cast<Spec*>(spec_->data()) : nullptr;
   }
   Qvp8u* buffer() const { return buffer_->data(); }
 
  private:
-  int phase_ = 0;
   std::unique_ptr<Block> buffer_, spec_;
 };
 
