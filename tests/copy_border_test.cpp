@@ -96,28 +96,14 @@ TEST(CopyBorder, EveryMember) {
   }
 }
 
-TEST(CopyBorder, ChecksInOrder) {
+// Of the destination, an image and the border before it leave nothing, or less.
+TEST(CopyBorder, RefusesDestinationsThatAreTooSmall) {
+  const Frame kTooSmall[] = {{{5, 3}, {9, 9}, -1, 0}, {{5, 3}, {9, 9}, 0, -1},        {{5, 3}, {7, 3}, 0, 3},
+                             {{5, 3}, {5, 4}, 2, 0},  {{5, 3}, {9, 9}, INT32_MAX, 0}, {{5, 3}, {9, 9}, 0, INT32_MAX}};
   for (const Member& m : Members()) {
-    Bytes a(600, 3, 0), b(600, 3, 0);
-    const Bytes before(b);
-    const auto copy = [&](const void* src, int srcStep, int dstStep, Frame f) {
-      return m.Copy(src, srcStep, b.data(), dstStep, f);
-    };
-    const Frame bad{{0, 3}, {5, 3}, 0, 0};
-    EXPECT_EQ(copy(nullptr, 0, 0, bad), qvpStatusNullPointer) << m.copy.name;
-    EXPECT_EQ(copy(a.data(), 0, 600, bad), qvpStatusStep) << m.copy.name;
-    EXPECT_EQ(copy(a.data(), 600, -1, bad), qvpStatusStep) << m.copy.name;
-    for (const Frame& f : {bad,
-                           Frame{{5, 0}, {5, 3}, 0, 0},
-                           {{5, 3}, {0, 3}, 0, 0},
-                           {{5, 3}, {5, -1}, 0, 0},
-                           {{5, 3}, {9, 9}, -1, 0},
-                           {{5, 3}, {9, 9}, 0, -1},
-                           {{5, 3}, {7, 3}, 0, 3},
-                           {{5, 3}, {5, 4}, 2, 0},
-                           {{5, 3}, {9, 9}, INT32_MAX, 0},
-                           {{5, 3}, {9, 9}, 0, INT32_MAX}}) {
-      EXPECT_EQ(copy(a.data(), 600, 600, f), qvpStatusSize) << m.copy.name;
+    const Bytes a(600, 3, 0), b(600, 3, 0), before(b);
+    for (const Frame& f : kTooSmall) {
+      EXPECT_EQ(m.Copy(a.data(), 600, b.data(), 600, f), qvpStatusSize) << m.copy.name;
       EXPECT_EQ(m.InPlace(b.data(), 600, f), qvpStatusSize) << m.copy.name;
     }
     EXPECT_EQ(std::memcmp(b.bytes(), before.bytes(), 1800), 0) << m.copy.name;

@@ -106,25 +106,6 @@ TEST(RotateQuarter, TurnsInPlaceByHalfAndTakesRowsUpwards) {
   }
 }
 
-TEST(RotateQuarter, ChecksInOrderAndTellsOverlap) {
-  uint8_t frame[128] = {};
-  const QvpiSize roi{2, 3};
-  const auto at = [&](ptrdiff_t src, int srcStep, ptrdiff_t dst, int dstStep, int turns) {
-    return qvpiRotateQuarter_8u_C1R(frame + src, srcStep, frame + dst, dstStep, roi, turns);
-  };
-  EXPECT_EQ(qvpiRotateQuarter_8u_C1R(frame, 0, frame, 8, {0, 3}, 1), qvpStatusSize);
-  EXPECT_EQ(at(32, 0, 32, 8, 1), qvpStatusStep);
-  EXPECT_EQ(at(32, 8, 34, 0, 2), qvpStatusStep);
-  EXPECT_EQ(at(32, 8, 32, 8, 1), qvpStatusNotSupportedMode);
-  EXPECT_EQ(at(32, 8, 34, 8, 1), qvpStatusNoError);           // side by side
-  EXPECT_EQ(at(32, 8, 33, 8, 3), qvpStatusNotSupportedMode);  // a shared column
-  EXPECT_EQ(at(48, -8, 34, 8, 1), qvpStatusNoError);          // the same, upwards
-  EXPECT_EQ(at(48, -8, 42, -8, -1), qvpStatusNoError);
-  EXPECT_EQ(at(48, -8, 33, 8, 1), qvpStatusNotSupportedMode);
-  EXPECT_EQ(at(32, 8, 56, -8, 1), qvpStatusNotSupportedMode);  // its upper row
-  EXPECT_EQ(at(32, 8, 64, -8, 1), qvpStatusNoError);
-}
-
 // Beyond the caches, and in whole blocks, rows are streamed.
 TEST(Transpose, MovesLargeImages) {
   constexpr int kWidth = 8192, kHeight = 4096;
@@ -145,32 +126,43 @@ TEST(Transpose, MovesLargeImages) {
 TEST(Mirror, ChecksEachPathInItsOrder) {
   uint8_t image[64] = {1, 2, 3, 4}, other[64] = {};
   const QvpiSize wide{3, 2}, none{0, 2};
+  EXPECT_EQ(qvpiMirror_8u_C1R(image, 0, other, 8, none, qvpAxis45), qvpStatusStep);
   EXPECT_EQ(qvpiMirror_8u_C1R(image, 8, other, 8, none, 5), qvpStatusSize);
   EXPECT_EQ(qvpiMirror_8u_C1R(image, 8, other, 8, wide, 5), qvpStatusMirrorFlip);
-  EXPECT_EQ(qvpiMirror_8u_C1R(image, 8, image, 8, wide, -1), qvpStatusMirrorFlip);
-  EXPECT_EQ(qvpiMirror_8u_C1R(image, 0, other, 8, none, qvpAxis45), qvpStatusStep);
-  EXPECT_EQ(qvpiMirror_8u_C1R(image, 8, other, 8, none, qvpAxis45), qvpStatusSize);
-  EXPECT_EQ(qvpiMirror_8u_C1R(image, 8, image, 8, wide, qvpAxis135), qvpStatusNotSupportedMode);
   EXPECT_EQ(qvpiMirror_8u_C1IR(image, 8, wide, qvpAxis45), qvpStatusSize);
   EXPECT_EQ(qvpiTranspose_8u_C1IR(image, 8, wide), qvpStatusSize);
   EXPECT_EQ(qvpiTranspose_8u_C1R(image, 8, image, 8, wide), qvpStatusSize);
 }
 
-// Source 2 wide and 3 high, destination 3 wide and 2 high, in one frame with rows of 8 bytes.
-TEST(Mirror, TellsOverlapFromNeighbourhood) {
+// Source 2 wide and 3 high, destination 3 wide and 2 high, in one frame with rows of 8 bytes. Rows of turns may go
+// upwards.
+TEST(RotateQuarter, TellsOverlapFromNeighbourhoodLikeMirror) {
+  constexpr struct {
+    int src, srcStep, dst, dstStep;
+    bool isApart;
+  } kPlaces[] = {{32, 8, 34, 8, true},    // side by side
+                 {37, 8, 34, 8, true},    // the other way round
+                 {32, 8, 33, 8, false},   // a shared column
+                 {36, 8, 34, 8, false},   //
+                 {32, 8, 32, 8, false},   //
+                 {32, 8, 48, 8, false},   // a shared row
+                 {32, 8, 56, 8, true},    // below
+                 {32, 8, 16, 8, true},    // above
+                 {32, 8, 30, 8, false},   // runs over the row's end into the source
+                 {48, -8, 34, 8, true},   //
+                 {48, -8, 42, -8, true},  //
+                 {48, -8, 33, 8, false},  //
+                 {32, 8, 56, -8, false},  // its upper row
+                 {32, 8, 64, -8, true}};
   const QvpiSize roi{2, 3};
-  const auto at = [&](ptrdiff_t srcOffset, ptrdiff_t dstOffset) {
-    uint8_t frame[128] = {};
-    return qvpiMirror_8u_C1R(frame + srcOffset, 8, frame + dstOffset, 8, roi, qvpAxis45);
-  };
-  EXPECT_EQ(at(32, 34), qvpStatusNoError);           // side by side
-  EXPECT_EQ(at(37, 34), qvpStatusNoError);           // the other way round
-  EXPECT_EQ(at(32, 33), qvpStatusNotSupportedMode);  // a shared column
-  EXPECT_EQ(at(36, 34), qvpStatusNotSupportedMode);
-  EXPECT_EQ(at(32, 48), qvpStatusNotSupportedMode);  // a shared row
-  EXPECT_EQ(at(32, 56), qvpStatusNoError);           // below
-  EXPECT_EQ(at(32, 16), qvpStatusNoError);           // above
-  EXPECT_EQ(at(32, 30), qvpStatusNotSupportedMode);  // runs over the row's end into the source
+  for (const auto& [src, srcStep, dst, dstStep, isApart] : kPlaces) {
+    uint8_t frame[128] = {}, *const from = frame + src, *const to = frame + dst;
+    const QvpStatus expected = isApart ? qvpStatusNoError : qvpStatusNotSupportedMode;
+    EXPECT_EQ(qvpiRotateQuarter_8u_C1R(from, srcStep, to, dstStep, roi, src % 3 ? 1 : -1), expected)
+        << src << ' ' << dst;
+    if (srcStep < 0 || dstStep < 0) continue;
+    EXPECT_EQ(qvpiMirror_8u_C1R(from, srcStep, to, dstStep, roi, qvpAxis45), expected) << src << ' ' << dst;
+  }
 }
 
 }  // namespace

@@ -139,22 +139,23 @@ TEST(VolumeMedians, KnownValues) {
   EXPECT_EQ(medians[2], 2);
 }
 
-TEST(VolumeMedians, ChecksInOrder) {
+TEST(VolumeMedians, HasLimitsOfMasksAndNoNullPlanes) {
   Qvp16u voxels[2] = {5, 6}, found[2];
   Qvp8u buffer[64];
   const Qvp16u *source[] = {voxels, nullptr, voxels}, *const *const planes = source + 1;
   Qvp16u *to[] = {found, nullptr}, *const *const results = to;
-  const auto filter = [&](int step, QvprVolume size, QvprVolume mask, int border, const Qvp16u* value) {
-    return qvprFilterMedianBorder_16u_C1PV(planes, step, results, 2, size, mask, border, value, buffer);
+  const auto filter = [&](QvprVolume size, QvprVolume mask, int border = qvpBorderReplicate) {
+    return qvprFilterMedianBorder_16u_C1PV(planes, 2, results, 2, size, mask, border, nullptr, buffer);
   };
-  EXPECT_EQ(filter(2, {1, 1, 1}, {1, 1, 3}, qvpBorderReplicate, nullptr), qvpStatusNullPointer);  // plane 0 of source
+  EXPECT_EQ(filter({1, 1, 1}, {1, 1, 3}), qvpStatusNullPointer);  // plane 0 of source
   source[1] = voxels;
   source[0] = nullptr;
-  EXPECT_EQ(filter(2, {1, 1, 1}, {1, 1, 3}, qvpBorderReplicate | qvpBorderInMemFront, nullptr), qvpStatusNullPointer);
-  EXPECT_EQ(filter(2, {1, 1, 2}, {1, 1, 1}, qvpBorderReplicate, nullptr), qvpStatusNullPointer);  // of destination
-  int bytes = 7;
-  EXPECT_EQ(qvprFilterMedianBorderGetBufferSize({3, 3, 3}, {1, 1, 33554432}, qvp8u, &bytes), qvpStatusSizeOverflow);
-  EXPECT_EQ(bytes, 0);
+  EXPECT_EQ(filter({1, 1, 1}, {1, 1, 3}, qvpBorderReplicate | qvpBorderInMemFront), qvpStatusNullPointer);
+  EXPECT_EQ(filter({1, 1, 2}, {1, 1, 1}), qvpStatusNullPointer);  // of destination
+  for (const QvprVolume mask : {QvprVolume{2, 1, 1}, {181, 183, 1}, {INT32_MAX, 1, 1}}) {
+    EXPECT_EQ(filter({1, 1, 1}, mask), qvpStatusMaskSize) << test::Shown(mask);
+  }
+  EXPECT_EQ(filter({1, 1, 1}, {1, 1, 1}, qvpBorderReplicate | 0x4000), qvpStatusBorder);
 }
 
 }  // namespace
