@@ -1,29 +1,9 @@
 // Parameters of the filters that sum across, then down.
-#include <stdexcept>
-
 #include "tests/support/lessons.h"
-#include "tests/support/name.h"
+#include "tests/support/preparation.h"
 
 namespace test {
 namespace {
-
-struct Sizes {
-  int spec = 0, buffer = 0;
-};
-
-// What of its scene a function is about; those without images are about bytes of one channel.
-struct Subject {
-  QvpDataType from, to;
-  int channels;
-
-  explicit Subject(const Scene& scene) : from(qvp8u), to(qvp8u), channels(1) {
-    const Name name(scene.function().name);
-    if (name.layout.empty()) return;
-    from = name.From().code;
-    to = name.To().code;
-    channels = name.channels;
-  }
-};
 
 // ---- The separable filter. Each scene has kernels, a way to round and a form of sums of its own.
 
@@ -53,28 +33,13 @@ const void* Kernel(Scene& scene, const Manner& m, int taps) {
   return kernel;
 }
 
-Sizes SeparableSizes(const Scene& scene, const Manner& m) {
-  const Subject s(scene);
-  Sizes sizes;
-  if (qvpiFilterSeparableBorderGetSize(m.kernel, scene.roi(), s.from, s.to, m.type, s.channels, &sizes.spec,
-                                       &sizes.buffer)) {
-    throw std::runtime_error("qvpiFilterSeparableBorderGetSize");
-  }
-  return sizes;
-}
-
-const void* SeparableRecord(Scene& scene, const Manner& m) {
-  const Subject s(scene);
-  auto* spec = reinterpret_cast<QvpiFilterSeparableBorderSpec*>(scene.Input(SeparableSizes(scene, m).spec));
+// The taps are chosen after the record has its place.
+const void* Record(Scene& scene, const Manner& m, std::vector<Named> demand) {
+  uint8_t* const spec = scene.Input(Preparation(scene.function(), scene.roi(), demand).sizes().spec);
   if (scene.Has("Init")) return spec;
-  const void *const row = Kernel(scene, m, m.kernel.width), *const column = Kernel(scene, m, m.kernel.height);
-  const QvpStatus failed =
-      m.type == qvp16s
-          ? qvpiFilterSeparableBorderInit_16s(static_cast<const Qvp16s*>(row), static_cast<const Qvp16s*>(column),
-                                              m.kernel, m.divisor, s.from, s.to, s.channels, m.rounding, spec)
-          : qvpiFilterSeparableBorderInit_32f(static_cast<const Qvp32f*>(row), static_cast<const Qvp32f*>(column),
-                                              m.kernel, s.from, s.to, s.channels, m.rounding, spec);
-  if (failed) throw std::runtime_error("qvpiFilterSeparableBorderInit");
+  demand.push_back({"pRowKernel", {Kernel(scene, m, m.kernel.width)}});
+  demand.push_back({"pColumnKernel", {Kernel(scene, m, m.kernel.height)}});
+  Preparation(scene.function(), scene.roi(), demand).Init(spec, m.type == qvp16s ? "_16s" : "_32f");
   return spec;
 }
 
@@ -93,53 +58,23 @@ Bell BellOf(const Scene& scene) {
   return {any(kMasks), any(kSigmas), any(kSigmas)};
 }
 
-Sizes GaussSizes(const Scene& scene) {
-  const Subject s(scene);
-  Sizes sizes;
-  if (qvpiFilterGaussBorderGetSize(BellOf(scene).mask, scene.roi(), s.from, s.channels, &sizes.spec, &sizes.buffer)) {
-    throw std::runtime_error("qvpiFilterGaussBorderGetSize");
-  }
-  return sizes;
-}
-
-const void* GaussRecord(Scene& scene) {
-  const Subject s(scene);
-  const Bell b = BellOf(scene);
-  auto* spec = reinterpret_cast<QvpiFilterGaussBorderSpec*>(scene.Input(GaussSizes(scene).spec));
-  if (scene.Has("Init")) return spec;
-  if (qvpiFilterGaussBorderInit(b.mask, b.sigmaX, b.sigmaY, s.from, s.channels, spec)) {
-    throw std::runtime_error("qvpiFilterGaussBorderInit");
-  }
-  return spec;
-}
-
 }  // namespace
 
+// Those without images are about bytes of one channel.
 bool SeparableLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
   const Manner m = MannerOf(scene);
-  if (name == "kernelSize") {
-    argument = m.kernel;
-  } else if (name == "pRowKernel") {
+  const std::vector<Named> demand = {
+      {"kernelSize", m.kernel}, {"kernelType", m.type}, {"divisor", m.divisor}, {"roundMode", m.rounding}};
+  if (name == "pRowKernel") {
     argument = {Kernel(scene, m, m.kernel.width)};
   } else if (name == "pColumnKernel") {
     argument = {Kernel(scene, m, m.kernel.height)};
-  } else if (name == "srcType" || name == "dstType") {
-    argument = qvp8u;
-  } else if (name == "kernelType") {
-    argument = m.type;
-  } else if (name == "numChannels") {
-    argument = 1;
-  } else if (name == "divisor") {
-    argument = m.divisor;
-  } else if (name == "roundMode") {
-    argument = m.rounding;
   } else if (name == "pSpec") {
-    argument = {SeparableRecord(scene, m)};
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(SeparableSizes(scene, m).buffer)};
+    argument = {Record(scene, m, demand)};
   } else {
-    return WindowLesson(scene, place, argument);
+    return Choose(name, {{"srcType", qvp8u}, {"dstType", qvp8u}, {"numChannels", 1}}, argument) ||
+           LearnFilter(scene, place, demand, argument) || WindowLesson(scene, place, argument);
   }
   return true;
 }
@@ -147,22 +82,9 @@ bool SeparableLesson(Scene& scene, size_t place, Argument& argument) {
 bool GaussLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
   const Bell b = BellOf(scene);
-  if (name == "maskSize") {
-    argument = b.mask;
-  } else if (name == "sigmaX" || name == "sigmaY") {
-    argument = name == "sigmaX" ? b.sigmaX : b.sigmaY;
-  } else if (name == "dataType") {
-    argument = qvp8u;
-  } else if (name == "numChannels") {
-    argument = 1;
-  } else if (name == "pSpec") {
-    argument = {GaussRecord(scene)};
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(GaussSizes(scene).buffer)};
-  } else {
-    return WindowLesson(scene, place, argument);
-  }
-  return true;
+  return Choose(name, {{"dataType", qvp8u}, {"numChannels", 1}}, argument) ||
+         LearnFilter(scene, place, {{"maskSize", b.mask}, {"sigmaX", b.sigmaX}, {"sigmaY", b.sigmaY}}, argument) ||
+         WindowLesson(scene, place, argument);
 }
 
 }  // namespace test

@@ -165,13 +165,19 @@ const std::vector<Export>& Exports() {
   return exports;
 }
 
-const Export& FunctionNamed(const std::string& name) {
+const Export* FindFunction(const std::string& name) {
   static const auto all = [] {
     std::unordered_map<std::string_view, const Export*> functions;
     for (const Export& function : Exports()) functions[function.name] = &function;
     return functions;
   }();
-  return *all.at(name);
+  const auto found = all.find(name);
+  return found == all.end() ? nullptr : found->second;
+}
+
+const Export& FunctionNamed(const std::string& name) {
+  const Export* const function = FindFunction(name);
+  return function ? *function : throw std::out_of_range(name);
 }
 
 int Export::Find(std::string_view parameter) const {

@@ -84,7 +84,8 @@ struct Export {
 };
 
 const std::vector<Export>& Exports();
-// By its whole name. Throws std::out_of_range if there is none.
+// By its whole name; null if there is none, or throws std::out_of_range.
+const Export* FindFunction(const std::string& name);
 const Export& FunctionNamed(const std::string& name);
 // Calls it with those of the arguments that it takes.
 inline QvpStatus CallNamed(const std::string& name, const std::vector<Named>& arguments) {

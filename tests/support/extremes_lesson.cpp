@@ -1,8 +1,6 @@
 // Parameters of minimum, maximum, erosion and dilation.
-#include <stdexcept>
-
 #include "tests/support/lessons.h"
-#include "tests/support/name.h"
+#include "tests/support/preparation.h"
 
 namespace test {
 namespace {
@@ -22,25 +20,6 @@ Placed PlacedOf(const Scene& scene) {
   return {mask, {x, below(mask.height)}};
 }
 
-bool IsMorphology(const Scene& scene) { return scene.Has("Morphology") || scene.function().Has("pSpec"); }
-
-// Sizes that functions without images ask for are about bytes of one channel.
-struct Sizes {
-  int spec = 0, buffer = 0;
-
-  explicit Sizes(const Scene& scene) {
-    const Name name(scene.function().name);
-    const bool isImage = !name.layout.empty();
-    const QvpiSize mask = PlacedOf(scene).mask;
-    const QvpDataType type = isImage ? name.From().code : qvp8u;
-    const int channels = isImage ? name.channels : 1;
-    const QvpStatus failed = IsMorphology(scene)
-                                 ? qvpiFilterMorphologyBorderGetSize(mask, scene.roi(), type, channels, &spec, &buffer)
-                                 : qvpiFilterMinBorderGetBufferSize(mask, scene.roi(), type, channels, &buffer);
-    if (failed) throw std::runtime_error("the sizes of a filter of extremes");
-  }
-};
-
 // Two of three pixels, all of them in every fourth scene.
 const Qvp8u* Selected(Scene& scene) {
   const QvpiSize mask = PlacedOf(scene).mask;
@@ -54,13 +33,14 @@ const Qvp8u* Selected(Scene& scene) {
   return selected;
 }
 
+// The pixels that are selected are chosen after the record has its place.
 const void* Record(Scene& scene) {
-  auto* const spec = reinterpret_cast<QvpiFilterMorphologyBorderSpec*>(scene.Input(Sizes(scene).spec));
-  if (scene.Has("Init")) return spec;
   const auto [mask, anchor] = PlacedOf(scene);
-  if (qvpiFilterMorphologyBorderInit(Selected(scene), mask, anchor, spec)) {
-    throw std::runtime_error("qvpiFilterMorphologyBorderInit");
-  }
+  const auto preparation = [&, mask = mask, anchor = anchor](const Qvp8u* selected) {
+    return Preparation(scene.function(), scene.roi(), {{"pMask", {selected}}, {"maskSize", mask}, {"anchor", anchor}});
+  };
+  uint8_t* const spec = scene.Input(preparation(nullptr).sizes().spec);
+  if (!scene.Has("Init")) preparation(Selected(scene)).Init(spec);
   return spec;
 }
 
@@ -68,20 +48,11 @@ const void* Record(Scene& scene) {
 
 bool ExtremesLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
-  if (name == "maskSize") {
-    argument = PlacedOf(scene).mask;
-  } else if (name == "anchor") {
-    argument = PlacedOf(scene).anchor;
-  } else if (name == "pMask") {
-    argument = {Selected(scene)};
-  } else if (name == "pSpec") {
-    argument = {Record(scene)};
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(Sizes(scene).buffer)};
-  } else {
-    return WindowLesson(scene, place, argument);
-  }
-  return true;
+  const auto [mask, anchor] = PlacedOf(scene);
+  if (name == "pMask") return argument = {Selected(scene)}, true;
+  if (name == "pSpec") return argument = {Record(scene)}, true;
+  return LearnFilter(scene, place, {{"maskSize", mask}, {"anchor", anchor}}, argument) ||
+         WindowLesson(scene, place, argument);
 }
 
 }  // namespace test

@@ -3,6 +3,7 @@
 
 #include "tests/support/lessons.h"
 #include "tests/support/name.h"
+#include "tests/support/preparation.h"
 
 namespace test {
 namespace {
@@ -42,15 +43,16 @@ Manner MannerOf(const Scene& scene, QvpDataType pixels) {
   return m;
 }
 
-struct Sizes {
-  int spec, buffer;
-};
-Sizes SizesFor(const Scene& scene, const Manner& m, QvpDataType pixels, int channels) {
-  Sizes sizes;
-  if (qvpiFilterBorderGetSize(m.kernel, scene.roi(), pixels, m.kernelType, channels, &sizes.spec, &sizes.buffer)) {
-    throw std::runtime_error("qvpiFilterBorderGetSize");
-  }
-  return sizes;
+// For records of 8-bit pixels and of floats, which Inits are asked about, as well as for those of an image.
+Preparation PreparationFor(const Scene& scene, const Manner& m, QvpDataType pixels, const void* kernel = nullptr) {
+  return {scene.function(),
+          scene.roi(),
+          {{"kernelSize", m.kernel},
+           {"kernelType", m.kernelType},
+           {"dataType", pixels},
+           {"divisor", m.divisor},
+           {"roundMode", m.rounding},
+           {"pKernel", {kernel}}}};
 }
 
 const void* Kernel(Scene& scene, const Manner& m) {
@@ -64,24 +66,12 @@ const void* Kernel(Scene& scene, const Manner& m) {
   return kernel;
 }
 
-QvpStatus Init(Scene& scene, const Manner& m, QvpDataType pixels, int channels, QvpiFilterBorderSpec* spec) {
-  const void* const kernel = Kernel(scene, m);
-  if (m.kernelType == qvp16s) {
-    return qvpiFilterBorderInit_16s(static_cast<const Qvp16s*>(kernel), m.kernel, m.divisor, pixels, channels,
-                                    m.rounding, spec);
-  }
-  if (m.kernelType == qvp32f) {
-    return qvpiFilterBorderInit_32f(static_cast<const Qvp32f*>(kernel), m.kernel, pixels, channels, m.rounding, spec);
-  }
-  return qvpiFilterBorderInit_64f(static_cast<const Qvp64f*>(kernel), m.kernel, pixels, channels, m.rounding, spec);
-}
-
-const void* RecordFor(Scene& scene, QvpDataType pixels, int channels) {
-  const Manner m = MannerOf(scene, pixels);
-  auto* spec = reinterpret_cast<QvpiFilterBorderSpec*>(scene.Input(SizesFor(scene, m, pixels, channels).spec));
-  const bool isReady =
-      Init(scene, m, pixels, channels, spec) == 0 && qvpiFilterBorderSetMode(qvpAlgHintFast, m.offset, spec) == 0;
-  if (!isReady) throw std::runtime_error("qvpiFilterBorderInit");
+const void* RecordFor(Scene& scene, const Manner& m, QvpDataType pixels) {
+  uint8_t* const memory = scene.Input(PreparationFor(scene, m, pixels).sizes().spec);
+  const char* const kind = m.kernelType == qvp16s ? "_16s" : m.kernelType == qvp32f ? "_32f" : "_64f";
+  PreparationFor(scene, m, pixels, Kernel(scene, m)).Init(memory, kind);
+  auto* const spec = reinterpret_cast<QvpiFilterBorderSpec*>(memory);
+  if (qvpiFilterBorderSetMode(qvpAlgHintFast, m.offset, spec)) throw std::runtime_error("qvpiFilterBorderSetMode");
   return spec;
 }
 
@@ -104,7 +94,7 @@ bool FilterInitLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {Kernel(scene, m)};
   } else if (name == "pSpec") {
     // No output: a refused Init takes its identification away.
-    argument = {scene.Input(SizesFor(scene, m, pixels, 1).spec)};
+    argument = {scene.Input(PreparationFor(scene, m, pixels).sizes().spec)};
   } else if (name == "dataType") {
     argument = pixels;
   } else if (name == "roundMode") {
@@ -119,38 +109,29 @@ bool FilterLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
   const Name parts(scene.function().name);
   const QvpDataType pixels = parts.layout.empty() ? qvp8u : parts.From().code;
-  const int channels = std::max(parts.channels, 1);
   const Manner m = MannerOf(scene, pixels);
-  if (name == "kernelSize") {
-    argument = m.kernel;
-  } else if (name == "dstRoiSize") {
-    argument = scene.roi();
-  } else if (name == "pSrc") {
+  if (name == "pSrc") {
     argument = {Source(scene, type)};
-  } else if (name == "srcStep") {
-    argument = StepOf(scene.roi());
-  } else if (name == "roiSize") {
-    argument = scene.roi();
-  } else if (name == "numChannels") {
-    argument = channels;
-  } else if (name == "hint") {
-    argument = qvpAlgHintFast;
-  } else if (name == "divisor") {
-    argument = m.divisor;
-  } else if (name == "offset") {
-    argument = m.offset;
-  } else if (name == "dataType" || name == "kernelType") {
-    argument = qvp32f;
   } else if (name == "pSpec") {
-    argument = {RecordFor(scene, pixels, channels)};
-  } else if (name == "borderType") {
-    argument = m.border;
+    argument = {RecordFor(scene, m, pixels)};
   } else if (name == "borderValue") {
     argument = scene.Constants(type, PlainValue);
   } else if (name == "pBuffer") {
-    argument = {scene.Input(SizesFor(scene, m, pixels, channels).buffer)};
+    argument = {scene.Input(PreparationFor(scene, m, pixels).sizes().buffer)};
   } else {
-    return false;
+    return Choose(name,
+                  {{"kernelSize", m.kernel},
+                   {"srcStep", StepOf(scene.roi())},
+                   {"roiSize", scene.roi()},
+                   {"dstRoiSize", scene.roi()},
+                   {"numChannels", std::max(parts.channels, 1)},
+                   {"hint", qvpAlgHintFast},
+                   {"divisor", m.divisor},
+                   {"offset", m.offset},
+                   {"dataType", qvp32f},
+                   {"kernelType", qvp32f},
+                   {"borderType", m.border}},
+                  argument);
   }
   return true;
 }

@@ -13,6 +13,9 @@ inline bool Choose(std::string_view name, std::initializer_list<Named> choices, 
   return false;
 }
 
+// What a filter is asked for by name, the same in its queries, its Init and its calls, and the memory that it takes.
+bool LearnFilter(Scene& scene, size_t place, const std::vector<Named>& demand, Argument& argument);
+
 bool BilateralLesson(Scene& scene, size_t place, Argument& argument);
 bool CompositeLesson(Scene& scene, size_t place, Argument& argument);
 bool ConvolveLesson(Scene& scene, size_t place, Argument& argument);

@@ -1,8 +1,5 @@
 // Parameters of medians.
-#include <stdexcept>
-
 #include "tests/support/lessons.h"
-#include "tests/support/name.h"
 
 namespace test {
 namespace {
@@ -24,25 +21,11 @@ QvpiBorderType BorderOf(const Scene& scene) {
   return kind | static_cast<int>(random.Next() & qvpBorderInMem);
 }
 
-int BufferSize(const Scene& scene) {
-  const Name name(scene.function().name);
-  const auto query = HasVectors(scene)     ? qvpiFilterMedianVectorBorderGetBufferSize
-                     : scene.Has("Center") ? qvpiFilterMedianCenterBorderGetBufferSize
-                                           : qvpiFilterMedianBorderGetBufferSize;
-  int size = 0;
-  if (query(MaskOf(scene), scene.roi(), name.From().code, name.channels, &size)) {
-    throw std::runtime_error("the size of a median's work buffer");
-  }
-  return size;
-}
-
 }  // namespace
 
 bool MedianLesson(Scene& scene, size_t place, Argument& argument) {
   const std::string_view name = scene.function().parameters[place].name;
-  if (name == "maskSize") {
-    argument = MaskOf(scene);
-  } else if (name == "weight") {
+  if (name == "weight") {
     argument = scene.Any({1, 2, 3, 4, 5, 9, 24, INT32_MAX});
   } else if (name == "normType") {
     argument = scene.Any({qvpNormL1, qvpNormL2});
@@ -52,10 +35,8 @@ bool MedianLesson(Scene& scene, size_t place, Argument& argument) {
     argument = scene.Any({qvp8u, qvp16u, qvp32f});
   } else if (name == "numChannels") {
     argument = HasVectors(scene) ? scene.Any({3, 4}) : scene.Any({1, 3, 4});
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(BufferSize(scene))};
   } else {
-    return WindowLesson(scene, place, argument);
+    return LearnFilter(scene, place, {{"maskSize", MaskOf(scene)}}, argument) || WindowLesson(scene, place, argument);
   }
   return true;
 }

@@ -1,8 +1,6 @@
 // Parameters of the filters that have a mask, a border and a work buffer.
-#include <stdexcept>
-
 #include "tests/support/lessons.h"
-#include "tests/support/name.h"
+#include "tests/support/preparation.h"
 
 namespace test {
 namespace {
@@ -44,16 +42,21 @@ const void* Output(Scene& scene, size_t place, std::string_view type) {
   return image;
 }
 
-int BufferSize(const Scene& scene) {
-  const Name name(scene.function().name);
-  int size = 0;
-  if (qvpiFilterFixedBorderGetBufferSize(MaskOf(scene), scene.roi(), name.From().code, name.channels, &size)) {
-    throw std::runtime_error("the size of a work buffer");
-  }
-  return size;
-}
-
 }  // namespace
+
+bool LearnFilter(Scene& scene, size_t place, const std::vector<Named>& demand, Argument& argument) {
+  const std::string_view name = scene.function().parameters[place].name;
+  for (const Named& choice : demand) {
+    if (choice.name == name) return argument = choice.value, true;
+  }
+  const Preparation preparation(scene.function(), scene.roi(), demand);
+  if (name == "pBuffer") return argument = {scene.Input(preparation.sizes().buffer)}, true;
+  if (name != "pSpec") return false;
+  uint8_t* const spec = scene.Input(preparation.sizes().spec);
+  if (!scene.Has("Init")) preparation.Init(spec);
+  argument = {spec};
+  return true;
+}
 
 bool WindowLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
@@ -65,8 +68,6 @@ bool WindowLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {Output(scene, place, type)};
   } else if (name.ends_with("Step")) {
     argument = OutputStep(scene, place - 1);
-  } else if (name == "maskSize") {
-    argument = MaskOf(scene);
   } else if (name == "normType") {
     argument = scene.Any({qvpNormL1, qvpNormL2, qvpNormInf});
   } else if (name == "borderType") {
@@ -77,10 +78,8 @@ bool WindowLesson(Scene& scene, size_t place, Argument& argument) {
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "numChannels") {
     argument = scene.Any({1, 3, 4});
-  } else if (name == "pBuffer") {
-    argument = {scene.Input(BufferSize(scene))};
   } else {
-    return false;
+    return LearnFilter(scene, place, {{"maskSize", MaskOf(scene)}}, argument);
   }
   return true;
 }
