@@ -13,7 +13,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Prepared;
 using test::Real;
 using test::Region;
 using test::RegionOf;
@@ -42,40 +41,25 @@ Axes RandomAxes(bool isInteger, QvpiSize size, int limit, int divisor = 1, QvpRo
   return axes;
 }
 
-// A record and a buffer for a mask; the sizes have bounds.
-Prepared Memory(QvpiSize mask, QvpiSize roi, int channels, int spec, int buffer) {
-  test::ExpectModest(buffer, mask, roi, channels);
-  EXPECT_LE(spec, 64 * (mask.width + mask.height) + 512);
-  return {spec, buffer};
+auto FilterAll(const Export& function, const Bordered& scene, QvpiSize mask, const std::vector<test::Named>& demand,
+               const char* kind = "") {
+  EXPECT_LE(test::Preparation(function, scene.region.size, demand).sizes().spec, 64 * (mask.width + mask.height) + 512);
+  return test::FilterAll(function, scene, mask, test::kPlain, demand, kind);
 }
 
-Prepared Prepare(const Axes& axes, const Name& name, QvpiSize roi) {
-  const QvpDataType src = name.From().code, dst = name.To().code;
-  int spec = 0, buffer = 0;
-  EXPECT_EQ(qvpiFilterSeparableBorderGetSize(axes.size(), roi, src, dst, axes.isInteger ? qvp16s : qvp32f,
-                                             name.channels, &spec, &buffer),
-            0);
-  Prepared prepared = Memory(axes.size(), roi, name.channels, spec, buffer);
-  auto* const to = prepared.record<QvpiFilterSeparableBorderSpec>();
-  const auto init = [&]<class T>(T) {
-    const std::vector<T> row(axes.row.begin(), axes.row.end()), column(axes.column.begin(), axes.column.end());
-    if constexpr (std::is_same_v<T, Qvp32f>) {
-      return qvpiFilterSeparableBorderInit_32f(row.data(), column.data(), axes.size(), src, dst, name.channels,
-                                               axes.mode, to);
-    } else {
-      return qvpiFilterSeparableBorderInit_16s(row.data(), column.data(), axes.size(), axes.divisor, src, dst,
-                                               name.channels, axes.mode, to);
-    }
-  };
-  EXPECT_EQ(axes.isInteger ? init(Qvp16s()) : init(Qvp32f()), 0);
-  return prepared;
-}
-
-// Filters all of a scene.
-auto FilterAll(const Export& function, const Bordered& scene, const Prepared& prepared) {
-  return [&](const test::Argument& dst) {
-    return test::Filter(function, scene, test::WholeOf(scene), prepared, {{"pDst", dst}});
-  };
+auto Separable(const Export& function, const Bordered& scene, const Axes& axes) {
+  const Element& element = ElementOf(axes.isInteger ? "16s" : "32f");
+  test::Samples row(element, axes.size().width, 1, 0), column(element, axes.size().height, 1, 0);
+  row.Fill([&](int i, int) { return axes.row[i]; });
+  column.Fill([&](int j, int) { return axes.column[j]; });
+  return FilterAll(function, scene, axes.size(),
+                   {{"pRowKernel", {row.bytes()}},
+                    {"pColumnKernel", {column.bytes()}},
+                    {"kernelSize", axes.size()},
+                    {"kernelType", element.code},
+                    {"divisor", axes.divisor},
+                    {"roundMode", axes.mode}},
+                   axes.isInteger ? "_16s" : "_32f");
 }
 
 // Taps are turned; sums in F, each operation rounded, the first product alone.
@@ -98,12 +82,11 @@ F SumOf(const Axes& axes, const std::function<Real(int, int)>& pixel) {
 void CheckSeparable(const Export& function, const Axes& axes, const Region& r) {
   const Name name(function.name);
   const Bordered scene(name.From(), test::ReachOf(axes.size()), r);
-  const Prepared prepared = Prepare(axes, name, r.size);
   const auto expected = [&](const auto& pixel) {
     if (axes.isInteger) return test::Quotient(name.To(), SumOf<int64_t>(axes, pixel), axes.divisor, axes.mode);
     return test::Converted(name.To(), SumOf<float>(axes, pixel), axes.mode);
   };
-  test::ExpectWindows(function, scene, FilterAll(function, scene, prepared), expected, test::Shown(axes.size()));
+  test::ExpectWindows(function, scene, Separable(function, scene, axes), expected, test::Shown(axes.size()));
 }
 
 TEST(FilterSeparable, EveryMemberEqualsItsFormula) {
@@ -139,13 +122,13 @@ TEST(FilterSeparable, NeverWrapsAround) {
           if (size.width > 1) axes.row[0] = -tap - (tap == -32768);
           const Name name(function.name);
           Bordered scene(name.From(), {}, {{33, 1}, 1, qvpBorderReplicate});
-          const Prepared prepared = Prepare(axes, name, scene.region.size);
+          const auto run = Separable(function, scene, axes);
           for (const int pixel : {lowest, highest}) {
             scene.image.Fill([&](int, int) { return pixel; });
             const auto sum = SumOf<int64_t>(axes, [&](int, int) { return Real(pixel); });
             const Real expected = test::Quotient(name.To(), sum, divisor, axes.mode);
             test::ExpectResults(
-                function, scene, FilterAll(function, scene, prepared), [&](int, int, int) { return expected; },
+                function, scene, run, [&](int, int, int) { return expected; },
                 std::to_string(tap) + " / " + std::to_string(divisor));
           }
         }
@@ -164,12 +147,12 @@ TEST(FilterSeparable, RoundsTiesOfLongSums) {
       const Axes axes{true, taps, taps, divisor, mode};
       const Name name(function.name);
       Bordered scene(name.From(), {}, {{33, 1}, 1, qvpBorderReplicate});
-      const Prepared prepared = Prepare(axes, name, scene.region.size);
+      const auto run = Separable(function, scene, axes);
       for (const int pixel : {-9, -5, -3, -2, -1, 1, 2, 3, 4, 5, 9}) {
         scene.image.Fill([&](int, int) { return pixel; });
         const Real expected = test::Quotient(name.To(), int64_t{pixel}, divisor, mode);
         test::ExpectResults(
-            function, scene, FilterAll(function, scene, prepared), [&](int, int, int) { return expected; },
+            function, scene, run, [&](int, int, int) { return expected; },
             std::to_string(pixel) + " / " + std::to_string(divisor));
       }
     }
@@ -182,7 +165,7 @@ TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
   const Region r{{300, 7}, 3, qvpBorderMirror};
   const Bordered scene(ElementOf("8u"), {}, r);
   const test::Samples dst(ElementOf("8u"), 900, 7, 0), other(ElementOf("8u"), 900, 7, 0);
-  ASSERT_EQ(FilterAll(function, scene, Prepare(axes, Name(function.name), r.size))(dst), 0);
+  ASSERT_EQ(Separable(function, scene, axes)(dst), 0);
   std::vector<Qvp16s> product;
   for (const Real c : axes.column) {
     for (const Real k : axes.row) product.push_back(static_cast<Qvp16s>(c * k));
@@ -200,15 +183,8 @@ TEST(FilterSeparable, EqualsTheGeneralFilterWithTheProduct) {
 
 // ---- Gauss
 
-Prepared PrepareGauss(QvpiSize mask, float sigmaX, float sigmaY, const Name& name, QvpiSize roi) {
-  int spec = 0, buffer = 0;
-  const QvpDataType type = name.From().code;
-  EXPECT_EQ(qvpiFilterGaussBorderGetSize(mask, roi, type, name.channels, &spec, &buffer), 0);
-  Prepared prepared = Memory(mask, roi, name.channels, spec, buffer);
-  EXPECT_EQ(qvpiFilterGaussBorderInit(mask, sigmaX, sigmaY, type, name.channels,
-                                      prepared.record<QvpiFilterGaussBorderSpec>()),
-            0);
-  return prepared;
+auto Gauss(const Export& function, const Bordered& scene, QvpiSize mask, float sigmaX, float sigmaY) {
+  return FilterAll(function, scene, mask, {{"maskSize", mask}, {"sigmaX", sigmaX}, {"sigmaY", sigmaY}});
 }
 
 void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigmaY, const Region& r) {
@@ -219,14 +195,13 @@ void CheckGauss(const Export& function, QvpiSize mask, float sigmaX, float sigma
   const std::vector<float> x = floats(test::Weights(mask.width, sigmaX)),
                            y = floats(test::Weights(mask.height, sigmaY));
   const Bordered scene(element, test::ReachOf(mask), r);
-  const Prepared prepared = PrepareGauss(mask, sigmaX, sigmaY, name, r.size);
   const auto expected = [&](const auto& pixel) -> Real {
     if (element.bytes == 1) {
       return (test::SumOfBytes(across, down, pixel) + (int64_t{1} << (down.bits + 5))) >> (down.bits + 6);
     }
     return test::Converted(element, test::SumOfFloats(x, y, pixel));
   };
-  test::ExpectWindows(function, scene, FilterAll(function, scene, prepared), expected, test::Shown(mask));
+  test::ExpectWindows(function, scene, Gauss(function, scene, mask, sigmaX, sigmaY), expected, test::Shown(mask));
 }
 
 TEST(FilterGauss, EveryMemberEqualsItsFormula) {
@@ -252,7 +227,7 @@ TEST(FilterGauss, KnownWeightsAndPictures) {
   Bordered scene(ElementOf("8u"), {}, {{5, 5}, 1, qvpBorderReplicate});
   scene.image.Fill([](int x, int y) { return x == 2 && y == 2 ? 255 : 0; });
   const test::Samples dst(ElementOf("8u"), 5, 5, 0);
-  ASSERT_EQ(FilterAll(function, scene, PrepareGauss({5, 5}, 1.1f, 1.1f, Name(function.name), {5, 5}))(dst), 0);
+  ASSERT_EQ(Gauss(function, scene, {5, 5}, 1.1f, 1.1f)(dst), 0);
   constexpr int kExpected[3][3] = {{35, 23, 7}, {23, 15, 4}, {7, 4, 1}};
   for (int i = 0; i < 9; ++i) EXPECT_EQ(dst(2 + i % 3, 2 + i / 3), kExpected[i / 3][i % 3]);
 }
@@ -264,10 +239,9 @@ TEST(FilterGauss, KeepsConstants) {
     Bordered scene(ElementOf(type), {}, {{40, 2}, 1, qvpBorderMirror});
     scene.image.Fill([v = value](int, int) { return v; });
     for (int side = 1; side <= 1023; side += side < 65 ? 2 : 86) {
-      const Prepared prepared = PrepareGauss({side, side}, side / 4.0f, side / 5.0f, Name(function.name), {40, 2});
       test::ExpectResults(
-          function, scene, FilterAll(function, scene, prepared), [v = value](int, int, int) { return v; },
-          std::to_string(side));
+          function, scene, Gauss(function, scene, {side, side}, side / 4.0f, side / 5.0f),
+          [v = value](int, int, int) { return v; }, std::to_string(side));
     }
   }
 }

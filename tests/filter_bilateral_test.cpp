@@ -8,7 +8,6 @@ using test::Bordered;
 using test::Element;
 using test::Export;
 using test::Name;
-using test::Prepared;
 using test::Real;
 
 struct Disc {
@@ -19,20 +18,12 @@ struct Disc {
   test::Reach reach() const { return {radius, radius, radius, radius}; }
 };
 
-QvpiFilterBilateralBorderSpec* RecordIn(const Prepared& p) { return p.record<QvpiFilterBilateralBorderSpec>(); }
-
-Prepared Prepare(const Disc& disc, const Name& name, QvpiSize roi) {
-  const QvpDataType type = name.From().code;
-  const int64_t side = 2 * disc.radius + 1;
-  int spec = 0, buffer = 0;
-  EXPECT_EQ(qvpiFilterBilateralBorderGetSize(disc.radius, roi, type, name.channels, &spec, &buffer), 0);
-  EXPECT_LE(spec, 8 * side * side + 16384);
-  EXPECT_LE(buffer, 192 * (side + 4) * (roi.width + side) * name.channels + (1 << 20));
-  Prepared prepared(spec, buffer);
-  EXPECT_EQ(qvpiFilterBilateralBorderInit(disc.radius, disc.norm, disc.range, disc.space, type, name.channels,
-                                          RecordIn(prepared)),
-            0);
-  return prepared;
+auto FilterAll(const Export& function, const Bordered& scene, const Disc& disc) {
+  const int side = 2 * disc.radius + 1;
+  const std::vector<test::Named> demand = {
+      {"radius", disc.radius}, {"normType", disc.norm}, {"sigmaRange", disc.range}, {"sigmaSpace", disc.space}};
+  EXPECT_LE(test::Preparation(function, scene.region.size, demand).sizes().spec, 8 * side * side + 16384);
+  return test::FilterAll(function, scene, {side, side}, test::kAmple, demand);
 }
 
 float Exp(float x) { return x < -87 ? 0 : std::exp(x); }
@@ -105,13 +96,9 @@ bool IsClose(const Element& element, const Disc& disc, Real got, Real expected) 
 
 void Check(const Export& function, const Disc& disc, const Bordered& scene) {
   const Name name(function.name);
-  const Prepared prepared = Prepare(disc, name, scene.region.size);
   const Weights weights(disc, name.channels);
   test::ExpectResults(
-      function, scene,
-      [&](const test::Argument& dst) {
-        return test::Filter(function, scene, test::WholeOf(scene), prepared, {{"pDst", dst}});
-      },
+      function, scene, FilterAll(function, scene, disc),
       [&](int x, int y, int c) { return Expected(scene, weights, disc.radius, x, y, c); },
       "radius " + std::to_string(disc.radius) + " sigmas " + std::to_string(disc.range) + ' ' +
           std::to_string(disc.space),
@@ -168,9 +155,7 @@ TEST(FilterBilateral, KnownValues) {
     Bordered scene(name.From(), {}, {{samples / name.channels, rows}, name.channels, qvpBorderReplicate});
     scene.image.Fill([&](int x, int) { return pixels[x]; });
     const test::Samples dst(name.To(), samples, rows, 0);
-    EXPECT_EQ(test::Filter(test::FunctionNamed(function), scene, test::WholeOf(scene),
-                           Prepare(disc, name, scene.region.size), {{"pDst", dst}}),
-              0);
+    EXPECT_EQ(FilterAll(test::FunctionNamed(function), scene, disc)(dst), 0);
     for (int i = 0; i < samples; ++i) pixels[i] = static_cast<int>(dst(i, rows / 2));
     return pixels;
   };
@@ -185,9 +170,7 @@ TEST(FilterBilateral, KnownValues) {
     Bordered scene(test::ElementOf("8u"), {}, {{3, 3}, 3, qvpBorderReplicate});
     scene.image.Fill([](int x, int y) { return y == 1 && x / 3 == 1 ? (Row{40, 60, 30})[x % 3] : 10 + x % 3 * 10; });
     const test::Samples dst(test::ElementOf("8u"), 9, 3, 0);
-    ASSERT_EQ(test::Filter(test::FunctionNamed(colour), scene, test::WholeOf(scene),
-                           Prepare({1, norm, 50, 1}, Name(colour), {3, 3}), {{"pDst", dst}}),
-              0);
+    ASSERT_EQ(FilterAll(test::FunctionNamed(colour), scene, {1, norm, 50, 1})(dst), 0);
     for (int c = 0; c < 3; ++c) EXPECT_EQ(dst(3 + c, 1), expected[c]);
   }
 }

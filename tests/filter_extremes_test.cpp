@@ -10,7 +10,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Prepared;
 using test::Random;
 using test::Real;
 using test::Region;
@@ -57,27 +56,12 @@ bool TakesLeast(const Export& function) {
   return function.name.find("Min") != std::string::npos || function.name.find("Erode") != std::string::npos;
 }
 
-Prepared Prepare(const Export& function, const Mask& mask, QvpiSize roi) {
-  const Name name(function.name);
-  int spec = 0, buffer = 0;
-  if (!function.Has("pSpec")) {
-    const auto query = TakesLeast(function) ? qvpiFilterMinBorderGetBufferSize : qvpiFilterMaxBorderGetBufferSize;
-    EXPECT_EQ(query(mask.size, roi, name.From().code, name.channels, &buffer), 0);
-    return Prepared(buffer);
-  }
-  EXPECT_EQ(qvpiFilterMorphologyBorderGetSize(mask.size, roi, name.From().code, name.channels, &spec, &buffer), 0);
-  test::ExpectModest(buffer, mask.size, roi, name.channels);
-  EXPECT_LE(spec, 16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
-  Prepared prepared(spec, buffer);
-  EXPECT_EQ(qvpiFilterMorphologyBorderInit(mask.selected.data(), mask.size, mask.anchor,
-                                           prepared.record<QvpiFilterMorphologyBorderSpec>()),
-            0);
-  return prepared;
-}
-
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const test::Argument& dst) {
-  return test::Filter(function, scene, test::WholeOf(scene), Prepare(function, mask, scene.region.size),
-                      {{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}});
+auto FilterAll(const Export& function, const Bordered& scene, const Mask& mask) {
+  const std::vector<test::Named> demand = {
+      {"pMask", {mask.selected.data()}}, {"maskSize", mask.size}, {"anchor", mask.anchor}};
+  EXPECT_LE(test::Preparation(function, scene.region.size, demand).sizes().spec,
+            16 * mask.size.height * ((mask.size.width + 1) / 2) + 256);
+  return test::FilterAll(function, scene, mask.size, test::kPlain, demand);
 }
 
 bool IsBelow(Real a, Real b) { return a < b || (a == b && std::signbit(a) && !std::signbit(b)); }
@@ -106,7 +90,7 @@ void Check(const Export& function, const Mask& mask, const Region& r) {
     });
   }
   test::ExpectResults(
-      function, scene, [&](const test::Argument& dst) { return Apply(function, scene, mask, dst); },
+      function, scene, FilterAll(function, scene, mask),
       [&](int x, int y, int c) { return ExtremeAt(scene, mask, TakesLeast(function), x, y, c); },
       test::Shown(mask.size));
 }
@@ -178,7 +162,8 @@ TEST(FilterExtremes, TakeNumbersBeforeNanAndTellZerosApart) {
   scene.image.Fill([&](int x, int) { return kPixels[x]; });
   const auto check = [&](const char* name, std::initializer_list<Real> expected) {
     const test::Samples dst(ElementOf("32f"), 7, 1, 0);
-    ASSERT_EQ(Apply(FunctionNamed(name), scene, Full({3, 1}), dst), 0);
+    const Mask full = Full({3, 1});
+    ASSERT_EQ(FilterAll(FunctionNamed(name), scene, full)(dst), 0);
     for (int x = 0; x < 7; ++x) EXPECT_TRUE(test::AreSame(dst(x, 0), expected.begin()[x])) << name << ' ' << x;
   };
   check("qvpiFilterMinBorder_32f_C1R", {2, -0.0, -0.0, -0.0, 0.0, INFINITY, INFINITY});
@@ -198,7 +183,7 @@ TEST(FilterExtremes, OpeningsLowerOnceAndForAll) {
     scene.image.Fill([&](int x, int y) { return src(x, y); });
     scene.value[0] = static_cast<Qvp8u>(constant);
     const test::Samples dst(ElementOf("8u"), size.width, size.height, 0);
-    EXPECT_EQ(Apply(FunctionNamed(name), scene, m, dst), 0);
+    EXPECT_EQ(FilterAll(FunctionNamed(name), scene, m)(dst), 0);
     return dst;
   };
   const auto open = [&](const test::Samples& src) {

@@ -121,7 +121,7 @@ Real Expected(const std::string& kind, int side, const Element& from, const Elem
 test::Prepared BufferFor(QvpiSize mask, QvpiSize roi, const Element& element, int channels) {
   int bytes = 0;
   EXPECT_EQ(qvpiFilterFixedBorderGetBufferSize(mask, roi, element.code, channels, &bytes), 0);
-  test::ExpectModest(bytes, mask, roi, channels);
+  test::ExpectModest(bytes, test::kPlain, mask, roi, channels);
   return test::Prepared(bytes);
 }
 
@@ -149,10 +149,7 @@ void CheckFixed(const Export& function, int side, const Region& r, test::Guard g
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r, guard);
   test::ExpectWindows(
-      function, scene,
-      [&](const test::Argument& dst) {
-        return Filter(function, scene, mask, {{"pDst", dst}});
-      },
+      function, scene, test::FilterAll(function, scene, mask, test::kPlain, {{"maskSize", mask}}),
       [&, kind = KindOf(function.name)](const auto& pixel) {
         return Expected(kind, side, name.From(), name.To(), pixel);
       },
@@ -317,9 +314,7 @@ void CheckMagnitude(const Export& function, int side, QvpNormType norm, const Re
   const Name name(function.name);
   const QvpiSize mask{side, side};
   const Bordered scene(name.From(), test::ReachOf(mask), r);
-  const auto run = [&](const test::Argument& dst) {
-    return Filter(function, scene, mask, {{"pDst", dst}, {"normType", norm}});
-  };
+  const auto run = test::FilterAll(function, scene, mask, test::kPlain, {{"maskSize", mask}, {"normType", norm}});
   test::ExpectResults(function, scene, run, [&](int x, int y, int) {
     const Gradient g = GradientAt(scene, "Sobel", side, norm, x, y);
     const bool isWhole = name.From().isInteger && norm != qvpNormL2;

@@ -7,24 +7,9 @@ namespace {
 using test::Bordered;
 using test::Export;
 using test::Name;
-using test::Part;
-using test::Prepared;
 using test::Real;
 
 bool IsColor(const Export& function) { return function.name.find("Color") != std::string::npos; }
-
-Prepared Buffer(const Export& function, QvpiSize mask, QvpiSize roi) {
-  const Name name(function.name);
-  int bytes = 0;
-  if (IsColor(function)) {
-    EXPECT_EQ(qvpiFilterGuidedColorBorderGetBufferSize(mask, roi, name.From().code, &bytes), 0);
-  } else {
-    EXPECT_EQ(qvpiFilterGuidedBorderGetBufferSize(mask, roi, name.From().code, name.channels, &bytes), 0);
-  }
-  const int channels = IsColor(function) ? 3 : name.channels;
-  EXPECT_LE(bytes, 192LL * (mask.height + 4) * (roi.width + mask.width) * channels + (1 << 20));
-  return Prepared(bytes);
-}
 
 template <class F>
 struct Grid {
@@ -169,12 +154,10 @@ struct Scenes {
   static test::Reach Reach(QvpiSize mask) { return {mask.width - 1, mask.height - 1, mask.width - 1, mask.height - 1}; }
 };
 
-QvpStatus Apply(const Export& function, const Scenes& scenes, QvpiSize mask, float eps, const Part& part,
-                const test::Argument& dst) {
+auto FilterAll(const Export& function, const Scenes& scenes, QvpiSize mask, float eps) {
   const Bordered& guide = scenes.Guide();
-  return test::Filter(
-      function, scenes.source, part, Buffer(function, mask, part.size),
-      {{"pGuide", {guide.At(part.x, part.y), guide.image.step()}}, {"pDst", dst}, {"maskSize", mask}, {"eps", eps}});
+  return test::FilterAll(function, scenes.source, mask, test::kAmple,
+                         {{"pGuide", {guide.At(0, 0), guide.image.step()}}, {"maskSize", mask}, {"eps", eps}});
 }
 
 template <class S, class F>
@@ -191,8 +174,7 @@ void CheckAs(const Export& function, const Scenes& scenes, QvpiSize mask, float 
     channels.emplace_back(scenes.source.region.size, mask, eps, unit, guides, pixels(scenes.source, c));
   }
   test::ExpectResults(
-      function, scenes.source,
-      [&](const test::Argument& dst) { return Apply(function, scenes, mask, eps, test::WholeOf(scenes.source), dst); },
+      function, scenes.source, FilterAll(function, scenes, mask, eps),
       [&](int x, int y, int c) { return test::Converted(name.To(), channels[c].At(x, y)); },
       test::Shown(mask) + " eps " + std::to_string(eps) + (scenes.guide ? " with a guide" : " by itself"));
 }
@@ -266,7 +248,7 @@ TEST(FilterGuided, KnownValues) {
     Scenes scenes(function, {3, 1}, {{9, 1}, 1, qvpBorderReplicate}, false);
     scenes.Fill([](int x, int) { return x < 4 ? 0 : 100; });
     const test::Samples dst(test::ElementOf("8u"), 9, 1, 0);
-    EXPECT_EQ(Apply(function, scenes, {3, 1}, eps, test::WholeOf(scenes.source), dst), 0);
+    EXPECT_EQ(FilterAll(function, scenes, {3, 1}, eps)(dst), 0);
     std::vector<int> values;
     for (int x = 0; x < 9; ++x) values.push_back(static_cast<int>(dst(x, 0)));
     return values;
@@ -276,25 +258,6 @@ TEST(FilterGuided, KnownValues) {
   EXPECT_EQ(filtered(0.0001f), source);
   EXPECT_EQ(filtered(0.01f), (std::vector<int>{0, 0, 3, 8, 92, 97, 100, 100, 100}));
   EXPECT_EQ(filtered(1), (std::vector<int>{0, 0, 11, 32, 68, 89, 100, 100, 100}));
-}
-
-TEST(FilterGuided, TilesEqualTheWhole) {
-  for (const char* const name : {"qvpiFilterGuidedBorder_8u_C1R", "qvpiFilterGuidedBorder_16u_C1R",
-                                 "qvpiFilterGuidedBorder_32f_C1R", "qvpiFilterGuidedColorBorder_8u_C1R"}) {
-    const Export& function = test::FunctionNamed(name);
-    for (const int kind : {qvpBorderReplicate, qvpBorderMirror}) {
-      const auto compare = [&](QvpiSize size, QvpiSize tile) {
-        const Scenes scenes(function, {}, {size, 1, kind}, true);
-        test::ExpectTilesEqualTheWhole(scenes.source, tile, [&](const Part& part, const test::Argument& dst) {
-          return Apply(function, scenes, {7, 5}, 0.02f, part, dst);
-        });
-      };
-      for (int cut = 6; cut <= 34; ++cut) {
-        if (40 % cut == 0 || 40 % cut >= 6) compare({40, 12}, {cut, cut == 20 ? 6 : 12});
-      }
-      compare({3000, 10}, {1500, 5});
-    }
-  }
 }
 
 }  // namespace

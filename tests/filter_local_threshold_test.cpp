@@ -8,8 +8,6 @@ namespace {
 using test::Bordered;
 using test::Export;
 using test::Name;
-using test::Part;
-using test::Prepared;
 using test::Real;
 
 // A sigma of 0 stands for the mean under a box.
@@ -23,26 +21,14 @@ struct Demand {
   }
 };
 
-Prepared Buffer(const Name& name, const Demand& demand, QvpiSize roi) {
-  const QvpiSize mask = demand.mask;
-  int bytes = 0;
-  const auto query =
-      demand.sigma > 0 ? qvpiThresholdLocalGaussBorderGetBufferSize : qvpiThresholdLocalBoxBorderGetBufferSize;
-  EXPECT_EQ(query(mask, roi, name.From().code, &bytes), 0);
-  EXPECT_LE(bytes, 192LL * (mask.height + 4) * (roi.width + mask.width) + (1 << 20));
-  return Prepared(bytes);
-}
-
-QvpStatus Apply(const Export& function, const Bordered& scene, const Demand& demand, const Part& part,
-                const test::Argument& dst) {
-  return test::Filter(function, scene, part, Buffer(Name(function.name), demand, part.size),
-                      {{"pDst", dst},
-                       {"pSrcDst", {scene.At(part.x, part.y), scene.image.step()}},
-                       {"maskSize", demand.mask},
-                       {"sigma", demand.sigma},
-                       {"delta", demand.delta},
-                       {"valueGT", static_cast<double>(demand.above)},
-                       {"valueLE", static_cast<double>(demand.others)}});
+auto FilterAll(const Export& function, const Bordered& scene, const Demand& demand) {
+  return test::FilterAll(function, scene, demand.mask, test::kAmple,
+                         {{"pSrcDst", {scene.At(0, 0), scene.image.step()}},
+                          {"maskSize", demand.mask},
+                          {"sigma", demand.sigma},
+                          {"delta", demand.delta},
+                          {"valueGT", static_cast<double>(demand.above)},
+                          {"valueLE", static_cast<double>(demand.others)}});
 }
 
 // Exact for integers; sums of floats in double, in the order of the tree.
@@ -87,8 +73,7 @@ void Check(const std::string& types, const Demand& demand, const Bordered& scene
   const Name name(function.name);
   const QvpiSize size = scene.region.size;
   test::ExpectWindows(
-      function, scene,
-      [&](const test::Argument& dst) { return Apply(function, scene, demand, test::WholeOf(scene), dst); },
+      function, scene, FilterAll(function, scene, demand),
       [&](const auto& pixel) {
         const bool isAbove = demand.sigma > 0 ? IsAboveGaussMean(types == "8u", demand, pixel)
                                               : IsAboveBoxMean(name.From().isInteger, demand, pixel);
@@ -96,8 +81,8 @@ void Check(const std::string& types, const Demand& demand, const Bordered& scene
       },
       test::Shown(demand.mask) + " delta " + std::to_string(demand.delta));
   const test::Samples out(name.To(), size.width, size.height, 0);
-  ASSERT_EQ(Apply(function, scene, demand, test::WholeOf(scene), out), 0);
-  ASSERT_EQ(Apply(inPlace, scene, demand, test::WholeOf(scene), {}), 0);
+  ASSERT_EQ(FilterAll(function, scene, demand)(out), 0);
+  ASSERT_EQ(FilterAll(inPlace, scene, demand)({}), 0);
   for (int i = 0; i < size.width * size.height; ++i) {
     const int x = i % size.width, y = i / size.width;
     ASSERT_EQ(scene.element().read(scene.At(x, y)), out(x, y))
@@ -154,7 +139,7 @@ TEST(LocalThreshold, KnownValues) {
     Bordered scene(test::ElementOf("8u"), {}, {{width, 1}, 1, qvpBorderReplicate});
     scene.image.Fill([&](int x, int) { return value(x); });
     const test::Samples dst(test::ElementOf("8u"), width, 1, 0);
-    EXPECT_EQ(Apply(test::FunctionNamed(demand.name("8u_C1R")), scene, demand, test::WholeOf(scene), dst), 0);
+    EXPECT_EQ(FilterAll(test::FunctionNamed(demand.name("8u_C1R")), scene, demand)(dst), 0);
     std::vector<int> values;
     for (int x = 0; x < width; ++x) values.push_back(dst(x, 0) > 0);
     return values;

@@ -24,22 +24,9 @@ struct Manner {
   test::Reach reach() const { return test::ReachOf(mask); }
 };
 
-int BufferSize(const Export& function, const Manner& manner, QvpiSize roi) {
-  const Name name(function.name);
-  const auto query = function.Has("normType") ? qvpiFilterMedianVectorBorderGetBufferSize
-                     : function.Has("weight") ? qvpiFilterMedianCenterBorderGetBufferSize
-                                              : qvpiFilterMedianBorderGetBufferSize;
-  int bytes = 0;
-  EXPECT_EQ(query(manner.mask, roi, name.From().code, name.channels, &bytes), 0);
-  EXPECT_LE(bytes, 192LL * (manner.mask.height + 4) * (roi.width + manner.mask.width) * name.channels + (1 << 20));
-  return bytes;
-}
-
-// Filters a scene with a buffer of the reported size before an unreadable page.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Manner& manner, const test::Argument& dst) {
-  return test::Filter(function, scene, test::WholeOf(scene),
-                      test::Prepared(BufferSize(function, manner, scene.region.size)),
-                      {{"pDst", dst}, {"maskSize", manner.mask}, {"weight", manner.weight}, {"normType", manner.norm}});
+auto FilterAll(const Export& function, const Bordered& scene, const Manner& m) {
+  return test::FilterAll(function, scene, m.mask, test::kAmple,
+                         {{"maskSize", m.mask}, {"weight", m.weight}, {"normType", m.norm}});
 }
 
 // ---- The definition
@@ -95,7 +82,7 @@ void Check(const Export& function, const Manner& manner, const Region& r, int tu
   Bordered scene(name.From(), manner.reach(), r);
   FillScene(scene, turn);
   const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8), before(dst);
-  ASSERT_EQ(Apply(function, scene, manner, dst), 0) << function.name;
+  ASSERT_EQ(FilterAll(function, scene, manner)(dst), 0) << function.name;
   for (int y = 0; y < r.size.height; ++y) {
     for (int i = 0; i < r.size.width * r.channels; ++i) {
       const int x = i / r.channels, c = i % r.channels;
@@ -212,7 +199,7 @@ void CheckVectors(const Export& function, const Manner& manner, const Region& r,
   FillScene(scene, turn);
   const int bytes = scene.element().bytes, beside = manner.mask.width / 2, beyond = manner.mask.height / 2;
   const test::Samples dst(name.To(), r.size.width * r.channels, r.size.height, 8), before(dst);
-  ASSERT_EQ(Apply(function, scene, manner, dst), 0);
+  ASSERT_EQ(FilterAll(function, scene, manner)(dst), 0);
   for (int i = 0; i < r.size.width * r.size.height; ++i) {
     const int x = i % r.size.width, y = i / r.size.width;
     std::vector<Colour> mask;
@@ -258,7 +245,7 @@ std::vector<int> MiddleOf(const char* name, QvpiSize size, const Qvp8u (&pixels)
   Bordered scene(ElementOf("8u"), manner.reach(), {size, channels, qvpBorderReplicate});
   scene.image.Fill([&](int i, int y) { return pixels[y * size.width * channels + i]; });
   const test::Samples dst(ElementOf("8u"), size.width * channels, size.height, 0);
-  EXPECT_EQ(Apply(function, scene, manner, dst), 0);
+  EXPECT_EQ(FilterAll(function, scene, manner)(dst), 0);
   std::vector<int> result;
   for (int c = 0; c < channels; ++c) {
     result.push_back(static_cast<int>(dst(size.width / 2 * channels + c, size.height / 2)));

@@ -11,7 +11,6 @@ using test::ElementOf;
 using test::Export;
 using test::FunctionNamed;
 using test::Name;
-using test::Part;
 using test::Real;
 
 // A mask with its anchor; that of sums along an axis has one row or column.
@@ -30,31 +29,12 @@ Mask For(const Name& name, const Mask& m) {
   return m;
 }
 
-QvpStatus BufferSize(const Name& name, QvpiSize mask, QvpiSize roi, int* size) {
-  const QvpDataType type = name.From().code;
-  if (name.family == "FilterSumRowBorder") {
-    return qvpiFilterSumRowBorderGetBufferSize(mask.width, roi, type, name.channels, size);
-  }
-  if (name.family == "FilterSumColumnBorder") {
-    return qvpiFilterSumColumnBorderGetBufferSize(mask.height, roi, type, name.channels, size);
-  }
-  return qvpiFilterBoxBorderGetBufferSize(mask, roi, type, name.channels, size);
-}
-
-// Filters a part of a scene.
-QvpStatus Apply(const Export& function, const Bordered& scene, const Mask& mask, const Part& part,
-                const test::Argument& dst) {
-  const Name name(function.name);
-  int bytes = 0;
-  EXPECT_EQ(BufferSize(name, mask.size, part.size, &bytes), 0);
-  test::ExpectModest(bytes, mask.size, part.size, name.channels);
-  std::vector<test::Named> others{{"pDst", dst}, {"maskSize", mask.size}, {"anchor", mask.anchor}};
-  if (name.family == "FilterSumRowBorder") {
-    others = {{"pDst", dst}, {"maskSize", mask.size.width}, {"anchor", mask.anchor.x}};
-  } else if (name.family == "FilterSumColumnBorder") {
-    others = {{"pDst", dst}, {"maskSize", mask.size.height}, {"anchor", mask.anchor.y}};
-  }
-  return test::Filter(function, scene, part, test::Prepared(bytes), others);
+auto FilterAll(const Export& function, const Bordered& scene, const Mask& m) {
+  std::vector<test::Named> demand{{"maskSize", m.size}, {"anchor", m.anchor}};
+  const std::string family = Name(function.name).family;
+  if (family == "FilterSumRowBorder") demand = {{"maskSize", m.size.width}, {"anchor", m.anchor.x}};
+  if (family == "FilterSumColumnBorder") demand = {{"maskSize", m.size.height}, {"anchor", m.anchor.y}};
+  return test::FilterAll(function, scene, m.size, test::kPlain, demand);
 }
 
 // Sums of n values from each of `count` places on, `apart` from each other.
@@ -103,11 +83,10 @@ void Check(const Export& function, const Mask& whole, const Bordered& scene) {
   const Name name(function.name);
   const Mask mask = For(name, whole);
   const std::vector<Real> all = Expected(name, scene, mask);
-  const auto run = [&](const test::Argument& dst) { return Apply(function, scene, mask, test::WholeOf(scene), dst); };
   const auto expected = [&](int x, int y, int c) {
     return all[(y * scene.region.size.width + x) * scene.region.channels + c];
   };
-  test::ExpectResults(function, scene, run, expected, test::Shown(mask.size));
+  test::ExpectResults(function, scene, FilterAll(function, scene, mask), expected, test::Shown(mask.size));
 }
 
 std::vector<const Export*> Functions() {
@@ -186,7 +165,7 @@ TEST(FilterSums, KnownValues) {
     std::fill(scene.value, scene.value + sizeof(scene.value), uint8_t{0});
     scene.image.Fill([&](int x, int y) { return pixels[y * width + x]; });
     const test::Samples dst(name.To(), width, height, 0);
-    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, test::WholeOf(scene), dst), 0);
+    ASSERT_EQ(FilterAll(FunctionNamed(function), scene, mask)(dst), 0);
     for (size_t i = 0; i < expected.size(); ++i) {
       EXPECT_EQ(dst(static_cast<int>(i) % width, static_cast<int>(i) / width), expected[i]) << function << ' ' << i;
     }
@@ -209,7 +188,7 @@ TEST(FilterSums, NotANumberReachesItsWindowsAlone) {
     scene.image.Put(100, 11, NAN);
     const test::Samples dst(ElementOf("32f"), 200, 30, 0);
     const Mask mask = For(Name(function), {{13, 7}, {2, 3}});
-    ASSERT_EQ(Apply(FunctionNamed(function), scene, mask, test::WholeOf(scene), dst), 0);
+    ASSERT_EQ(FilterAll(FunctionNamed(function), scene, mask)(dst), 0);
     int count = 0;
     for (int i = 0; i < 200 * 30; ++i) count += std::isnan(dst(i % 200, i / 200));
     EXPECT_EQ(count, expected) << function;

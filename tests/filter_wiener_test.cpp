@@ -7,19 +7,13 @@ namespace {
 using test::Bordered;
 using test::Export;
 using test::Name;
-using test::Prepared;
 using test::Real;
 
-Prepared Buffer(const Name& name, QvpiSize mask, QvpiSize roi) {
-  int bytes = 0;
-  EXPECT_EQ(qvpiFilterWienerBorderGetBufferSize(mask, roi, name.From().code, name.channels, &bytes), 0);
-  EXPECT_LE(bytes, 192LL * (mask.height + 4) * (roi.width + mask.width) * name.channels + (1 << 20));
-  return Prepared(bytes);
-}
-
 // One channel's noise is a number, that of more is pointed at.
-test::Argument NoiseFor(const Name& name, const float* noise) {
-  return name.channels == 1 ? test::Argument(noise[0]) : test::Argument(noise);
+auto FilterAll(const Export& function, const Bordered& scene, QvpiSize mask, const float* noise) {
+  const bool isOne = scene.region.channels == 1;
+  return test::FilterAll(function, scene, mask, test::kAmple,
+                         {{"maskSize", mask}, {"noise", isOne ? test::Argument(noise[0]) : test::Argument(noise)}});
 }
 
 double Product(double a, double b) {
@@ -59,13 +53,8 @@ Real Expected(const Name& name, QvpiSize mask, double noise, const auto& pixel) 
 
 void Check(const Export& function, QvpiSize mask, const float* noise, const Bordered& scene) {
   const Name name(function.name);
-  const Prepared buffer = Buffer(name, mask, scene.region.size);
   test::ExpectResults(
-      function, scene,
-      [&](const test::Argument& dst) {
-        return test::Filter(function, scene, test::WholeOf(scene), buffer,
-                            {{"pDst", dst}, {"maskSize", mask}, {"noise", NoiseFor(name, noise)}});
-      },
+      function, scene, FilterAll(function, scene, mask, noise),
       [&](int x, int y, int c) {
         return Expected(name, mask, noise[c], [&](int dx, int dy) { return scene.Pixel(x + dx, y + dy, c); });
       },
@@ -124,9 +113,8 @@ TEST(FilterWiener, KnownValues) {
     Bordered scene(test::ElementOf("8u"), {}, {{5, 5}, 1, qvpBorderReplicate});
     scene.image.Fill([](int x, int y) { return x == 2 && y == 2 ? 200 : 10; });
     const test::Samples dst(test::ElementOf("8u"), 5, 5, 0);
-    ASSERT_EQ(test::Filter(function, scene, test::WholeOf(scene), Buffer(Name(function.name), {3, 3}, {5, 5}),
-                           {{"pDst", dst}, {"maskSize", QvpiSize{3, 3}}, {"noise", noise}}),
-              0);
+    const float level = noise;
+    ASSERT_EQ(FilterAll(function, scene, {3, 3}, &level)(dst), 0);
     EXPECT_EQ(dst(2, 2), middle) << noise;
     EXPECT_EQ(dst(1, 2), beside) << noise;
     EXPECT_EQ(dst(0, 0), 10) << noise;

@@ -40,17 +40,10 @@ int Label(int code, int p, QvpiLBPMode mode) {
   return ones == 0 ? 0 : ones == p ? p * (p - 1) + 1 : 1 + (ones - 1) * p + begin;
 }
 
-test::Prepared BufferFor(QvpiSize mask, const Region& r, const test::Element& element) {
-  int bytes = 0;
-  EXPECT_EQ(qvpiFilterLBPBorderGetBufferSize(mask, r.size, element.code, r.channels, &bytes), 0);
-  EXPECT_LE(bytes, 8LL * (r.size.width + 4) * r.channels * element.bytes + 4096);
-  return test::Prepared(bytes);
-}
-
-QvpStatus Call(const Export& function, const Bordered& scene, const test::Part& part, const test::Argument& dst,
-               QvpiSize mask, QvpiLBPMode mode) {
-  const test::Prepared prepared = BufferFor(mask, {part.size, scene.region.channels, 0}, scene.element());
-  return test::Filter(function, scene, part, prepared, {{"pDst", dst}, {"maskSize", mask}, {"mode", mode}});
+// Its buffers are smaller than most.
+auto FilterAll(const Export& function, const Bordered& scene, QvpiSize mask, QvpiLBPMode mode) {
+  const test::Bound most{2 * scene.element().bytes, 4096};
+  return test::FilterAll(function, scene, {4, 0}, most, {{"maskSize", mask}, {"mode", mode}});
 }
 
 // Few levels, so that there are ties, among them the ends of the type, and NaN.
@@ -68,8 +61,7 @@ void Check(const Export& function, int side, QvpiLBPMode mode, const Region& r, 
   Bordered scene(name.From(), test::ReachOf(mask), r, guard);
   FillWithTies(scene);
   test::ExpectWindows(
-      function, scene,
-      [&](const test::Argument& dst) { return Call(function, scene, test::WholeOf(scene), dst, mask, mode); },
+      function, scene, FilterAll(function, scene, mask, mode),
       [&](const auto& pixel) { return Label(CodeOf(side, neighbours, pixel), neighbours, mode); },
       test::Shown(mask) + " mode " + std::to_string(mode), guard);
 }
@@ -109,7 +101,7 @@ TEST(LocalPatterns, EveryCodeHasItsLabel) {
     }
     const test::Samples dst(Name(function.name).To(), size.width, size.height, 5);
     for (int mode = qvpLBPCode; mode <= qvpLBPUniformRotation; ++mode) {
-      ASSERT_EQ(Call(function, scene, test::WholeOf(scene), dst, {5, 5}, mode), 0);
+      ASSERT_EQ(FilterAll(function, scene, {5, 5}, mode)(dst), 0);
       for (int i = 0; i < 1 << neighbours; ++i) {
         ASSERT_EQ(dst(5 * (i % across) + 2, 5 * (i / across) + 2), Label(i, neighbours, mode)) << i << " mode " << mode;
       }

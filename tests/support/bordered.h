@@ -5,6 +5,7 @@
 #include "tests/support/element.h"
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
+#include "tests/support/preparation.h"
 #include "tests/support/reference.h"
 
 namespace test {
@@ -80,6 +81,10 @@ class Prepared {
     ++turn;
     spec_ = std::make_unique<Block>(spec + (turn % 2 != 0 ? turn * 7 % 64 : 0));
   }
+  explicit Prepared(const Preparation& preparation, const char* kind = "")
+      : Prepared(preparation.sizes().spec, preparation.sizes().buffer) {
+    if (preparation.sizes().spec > 0) preparation.Init(record<uint8_t>(), kind);
+  }
   template <class Spec>
   Spec* record() const {
     return spec_ ? reinterpret_cast<Spec*>(spec_->data()) : nullptr;
@@ -90,8 +95,14 @@ class Prepared {
   std::unique_ptr<Block> buffer_, spec_;
 };
 
-inline void ExpectModest(int buffer, QvpiSize mask, QvpiSize roi, int channels) {
-  EXPECT_LE(buffer, 64LL * (mask.height + 4) * (roi.width + mask.width) * channels + 65536);
+// Bytes of a buffer: for each sample of the rows under a mask, and others.
+struct Bound {
+  int64_t perSample, others;
+};
+constexpr Bound kPlain{64, 65536}, kAmple{192, 1 << 20};
+
+inline void ExpectModest(int buffer, const Bound& most, QvpiSize mask, QvpiSize roi, int channels) {
+  EXPECT_LE(buffer, most.perSample * (mask.height + 4) * (roi.width + mask.width) * channels + most.others);
 }
 
 // Filters a part of a scene; `others` are its destination and what else it takes.
@@ -106,6 +117,21 @@ inline QvpStatus Filter(const Export& function, const Bordered& scene, const Par
                           {"pBuffer", {prepared.buffer()}}};
   others.insert(others.end(), std::begin(shared), std::end(shared));
   return function(others);
+}
+
+// Filters all of a scene, with what a filter of a mask is asked for by name. `kind` is that of an Init of several.
+inline auto FilterAll(const Export& function, const Bordered& scene, QvpiSize mask, const Bound& most,
+                      std::vector<Named> demand, const char* kind = "") {
+  const QvpiSize roi = scene.region.size;
+  const Preparation preparation(function, roi, demand);
+  const int channels = function.name.find("Color") == std::string::npos ? scene.region.channels : 3;
+  ExpectModest(preparation.sizes().buffer, most, mask, roi, channels);
+  const auto prepared = std::make_shared<Prepared>(preparation, kind);
+  return [=, &function, &scene](const Argument& dst) {
+    std::vector<Named> others = demand;
+    others.push_back({"pDst", dst});
+    return Filter(function, scene, WholeOf(scene), *prepared, others);
+  };
 }
 
 // Compares what run(dst) makes of a scene with expected(x, y, c); alpha that a function keeps is as it was.
@@ -139,26 +165,5 @@ void ExpectWindows(const Export& function, const Bordered& scene, const Run& run
 }
 
 inline std::string Shown(QvpiSize mask) { return std::to_string(mask.width) + "x" + std::to_string(mask.height); }
-
-// run(part, dst) filters the tiles of a scene as it filters all of it. Inner sides are in memory. All tiles, the last
-// ones too, must be at least as long as the operation reaches.
-template <class Run>
-void ExpectTilesEqualTheWhole(const Bordered& scene, QvpiSize most, const Run& run) {
-  const QvpiSize size = scene.region.size;
-  const Samples whole(scene.element(), size.width, size.height, 0), tiled(scene.element(), size.width, size.height, 4);
-  ASSERT_EQ(run(WholeOf(scene), Argument(whole)), 0);
-  for (int y = 0; y < size.height; y += most.height) {
-    for (int x = 0; x < size.width; x += most.width) {
-      const QvpiSize part{std::min(most.width, size.width - x), std::min(most.height, size.height - y)};
-      const int sides = (y > 0 ? qvpBorderInMemTop : 0) | (x > 0 ? qvpBorderInMemLeft : 0) |
-                        (y + part.height < size.height ? qvpBorderInMemBottom : 0) |
-                        (x + part.width < size.width ? qvpBorderInMemRight : 0);
-      ASSERT_EQ(run(Part{x, y, part, sides | scene.region.border}, Argument(tiled.At(x, y), tiled.step())), 0);
-    }
-  }
-  for (int i = 0; i < size.width * size.height; ++i) {
-    ASSERT_EQ(whole(i % size.width, i / size.width), tiled(i % size.width, i / size.width)) << i;
-  }
-}
 
 }  // namespace test
