@@ -3,6 +3,7 @@
 
 #include "tests/support/bordered.h"
 #include "tests/support/gauss.h"
+#include "tests/support/same.h"
 
 namespace {
 using test::Bordered;
@@ -83,12 +84,9 @@ void Check(const std::string& types, const Demand& demand, const Bordered& scene
   const test::Samples out(name.To(), size.width, size.height, 0);
   ASSERT_EQ(FilterAll(function, scene, demand)(out), 0);
   ASSERT_EQ(FilterAll(inPlace, scene, demand)({}), 0);
-  for (int i = 0; i < size.width * size.height; ++i) {
-    const int x = i % size.width, y = i / size.width;
-    ASSERT_EQ(scene.element().read(scene.At(x, y)), out(x, y))
-        << inPlace.name << " mask " << test::Shown(demand.mask) << " border " << scene.region.border << " at " << x
-        << ',' << y;
-  }
+  ExpectImage(
+      out, [&](int x, int y) { return scene.element().read(scene.At(x, y)); },
+      inPlace.name + " mask " + test::Shown(demand.mask) + " border " + std::to_string(scene.region.border));
 }
 
 TEST(LocalThreshold, EveryMemberEqualsItsDefinition) {

@@ -6,6 +6,7 @@
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
+#include "tests/support/same.h"
 
 namespace {
 using test::Element;
@@ -25,12 +26,6 @@ Real Exact(const Element& element, QvpiSize image, int minPeriod, int64_t x, int
   return element.lowest + (element.highest - element.lowest) * (1 + c) / 2;
 }
 
-// Whether a pixel is its exact value rounded, or at a tie the other neighbour.
-bool IsRounded(const Element& element, Real pixel, Real exact) {
-  const Real unit = element.isInteger ? 0.5L : 0x1p-25L;
-  return std::fabs(pixel - exact) <= unit + 1e-14L * (element.isInteger ? element.highest : 1);
-}
-
 struct Case {
   QvpiSize image;
   int minPeriod;
@@ -48,12 +43,12 @@ void Expect(const Export& function, const Case& c) {
                       {"roiSize", c.roi},
                       {"dstOffset", c.offset}}),
             0);
-  for (int y = 0; y < c.roi.height; ++y) {
-    for (int i = 0; i < dst.width(); ++i) {
-      const Real exact = Exact(element, c.image, c.minPeriod, c.offset.x + i / name.channels, c.offset.y + y);
-      ASSERT_PRED3(IsRounded, element, dst(i, y), exact) << function.name << ' ' << i << ',' << y;
-    }
-  }
+  // A pixel is its exact value rounded, or at a tie the other neighbour.
+  const Real rounding = element.isInteger ? 0.5L + 1e-14L * element.highest : 0x1p-25L + 1e-14L;
+  const auto exact = [&](int i, int y) {
+    return Exact(element, c.image, c.minPeriod, c.offset.x + i / name.channels, c.offset.y + y);
+  };
+  ExpectImage(dst, exact, function.name, rounding);
 }
 
 TEST(Jaehne, EveryMemberIsTheFormula) {

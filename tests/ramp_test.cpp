@@ -5,6 +5,7 @@
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
+#include "tests/support/same.h"
 
 namespace {
 using test::Element;
@@ -64,14 +65,12 @@ TEST(Ramp, EveryMemberIsThePlane) {
                              {"roiSize", size},
                              {"dstOffset", offset}}),
                 0);
-      for (int y = 0; y < size.height; ++y) {
-        for (int i = 0; i < dst.width(); ++i) {
-          const int c = i % name.channels;
-          const Real made = test::Converted(element, planes[c].At(offset, i / name.channels, y));
-          ASSERT_PRED2(test::AreSame, dst(i, y), c < name.written ? made : old(i, y))
-              << function->name << ' ' << size.width << ": " << i << ',' << y;
-        }
-      }
+      const auto expected = [&](int i, int y) {
+        const int c = i % name.channels;
+        const Real made = test::Converted(element, planes[c].At(offset, i / name.channels, y));
+        return c < name.written ? made : old(i, y);
+      };
+      ExpectImage(dst, expected, function->name);
     }
   }
 }

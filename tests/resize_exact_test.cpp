@@ -37,13 +37,12 @@ void CheckAverages(std::string_view type, int channels, QvpiSize across, QvpiSiz
   const Samples dst = Resized(FunctionOf(kSuper, type, channels), resize, src);
   const auto columns = AllTapsOf(kSuper, {from.width, to.width}, to.width);
   const auto rows = AllTapsOf(kSuper, {from.height, to.height}, to.height);
-  for (int i = 0; i < dst.width() * to.height; ++i) {
-    const int x = i % dst.width(), y = i / dst.width();
+  const auto expected = [&](int x, int y) {
     const double sum = SumAt(src, columns[x / channels], rows[y], {across.width, down.width}, x % channels);
-    ASSERT_EQ(dst(x, y), std::nearbyint(sum / (across.width * down.width)))
-        << type << ' ' << channels << ' ' << across.width << ':' << across.height << ' ' << down.width << ':'
-        << down.height << " at " << x << ',' << y;
-  }
+    return std::nearbyint(sum / (across.width * down.width));
+  };
+  ExpectImage(dst, expected,
+              std::string(type) + ' ' + std::to_string(channels) + ' ' + test::Shown(across) + ' ' + test::Shown(down));
 }
 
 // Averages of integers are the exact ones, rounded to the nearest, with ties to even.
@@ -87,12 +86,9 @@ void CheckConstant(const Resizing& m, std::string_view type, int channels, QvpiS
                    {src.data() + size_t{1} * at.y * step + at.x * channels * element.bytes, step}, dst,
                    {0, 0, to.width, to.height}, qvpBorderReplicate),
             0);
-  const auto stored = static_cast<double>(element.read(src.data()));
-  for (int i = 0; i < dst.width() * to.height; ++i) {
-    ASSERT_NEAR(static_cast<double>(dst(i % dst.width(), i / dst.width())), stored, tolerance)
-        << m.Operation() << ' ' << type << ' ' << from.width << 'x' << from.height << " to " << to.width << 'x'
-        << to.height;
-  }
+  ExpectImage(
+      dst, [&](int, int) { return element.read(src.data()); },
+      m.Operation() + ' ' + std::string(type) + ' ' + test::Shown(from) + " to " + test::Shown(to), tolerance);
 }
 
 // Averages of equal pixels are these pixels, however many: exactly in integers, and within 2 units of the last place in

@@ -60,21 +60,19 @@ void Check(const Resizing& m, const Export& function, QvpiSize from, QvpiSize to
   const Bordered src = SourceOf(function, resize, from, border);
   const Samples dst = Resized(function, resize, src);
   const Element& element = name.From();
-  const double tolerance = Tolerance(m, element);
   const auto across = AllTapsOf(m, {.from = from.width, .to = to.width, .shift = m.shift[0]}, to.width);
   const auto down = AllTapsOf(m, {.from = from.height, .to = to.height, .shift = m.shift[1]}, to.height);
-  for (int y = 0; y < to.height; ++y) {
-    for (int i = 0; i < to.width * name.channels; ++i) {
-      const auto& columns = across[i / name.channels];
-      const auto at = [&](int u, int v) { return src.Pixel(u, v, i % name.channels); };
-      const double sum =
-          IsInWholeNumbers(m, element) ? InterpolatedBytes(columns, down[y], at) : Interpolated(columns, down[y], at);
-      const test::Real exact = element.isInteger ? std::clamp<test::Real>(sum, element.lowest, element.highest) : sum;
-      ASSERT_NEAR(static_cast<double>(dst(i, y)), static_cast<double>(exact), tolerance)
-          << function.name << ' ' << m.name << ' ' << from.width << 'x' << from.height << " to " << to.width << 'x'
-          << to.height << " at " << i << ',' << y << " border " << border;
-    }
-  }
+  const auto expected = [&](int i, int y) -> test::Real {
+    const auto& columns = across[i / name.channels];
+    const auto at = [&](int u, int v) { return src.Pixel(u, v, i % name.channels); };
+    const double sum =
+        IsInWholeNumbers(m, element) ? InterpolatedBytes(columns, down[y], at) : Interpolated(columns, down[y], at);
+    return element.isInteger ? std::clamp<test::Real>(sum, element.lowest, element.highest) : sum;
+  };
+  ExpectImage(dst, expected,
+              function.name + ' ' + m.name + ' ' + test::Shown(from) + " to " + test::Shown(to) + " border " +
+                  std::to_string(border),
+              Tolerance(m, element));
 }
 
 TEST(Resize, EveryMember) {

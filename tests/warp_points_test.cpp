@@ -106,11 +106,8 @@ TEST(Warp, MeshesOfTheIdentityReturnTheImage) {
   const Mesh mesh(size, 4, 3);
   const Samples src = Numbers(k64f, size.width, size.height, 0), dst = Numbers(k64f, size.width, size.height, 8);
   mesh.Warp(k64f, 2, mesh, src, dst);
-  for (int y = 0; y < size.height; ++y) {
-    for (int x = 0; x < size.width; ++x) {
-      ASSERT_NEAR(static_cast<double>(dst(x, y)), static_cast<double>(src(x, y)), 1e-9) << x << ',' << y;
-    }
-  }
+  ExpectImage(
+      dst, [&](int x, int y) { return src(x, y); }, "", 1e-9);
 }
 
 TEST(Warp, MeshesLeaveNoPixelOut) {
@@ -120,9 +117,7 @@ TEST(Warp, MeshesLeaveNoPixelOut) {
   for (int seed = 1; seed < 9; ++seed) {
     std::memset(dst.bytes(), 0, size_t(dst.step()) * size.height);
     Mesh(size, 6, seed).Warp(k8u, 1 + seed % 2, Mesh(size, 0, 1), src, dst);
-    for (int y = 0; y < size.height; ++y) {
-      for (int x = 0; x < size.width; ++x) ASSERT_EQ(dst(x, y), 7) << seed << ' ' << x << ',' << y;
-    }
+    ExpectSame(dst, src, std::to_string(seed));
   }
 }
 

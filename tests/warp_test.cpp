@@ -213,11 +213,9 @@ TEST(Warp, ReadsSidesInMemory) {
         const ImageWarp whole(Moved(m, left, top), k8u, 1, rule, kTransparent, outer, to, isSmooth);
         some.Whole({src.At(left, top), src.step()}, dst);
         whole.Whole(src, all);
-        for (int i = 0; i < to.width * to.height; ++i) {
-          const int x = i % to.width, y = i / to.width;
-          ASSERT_NEAR(static_cast<double>(dst(x, y)), static_cast<double>(all(x, y)), 1)
-              << &m - maps << ' ' << border << ' ' << turn << ' ' << x << ',' << y;
-        }
+        SCOPED_TRACE(std::to_string(&m - maps) + ' ' + std::to_string(border) + ' ' + std::to_string(turn));
+        ExpectImage(
+            dst, [&](int x, int y) { return all(x, y); }, "", 1);
       }
     }
   }
@@ -267,11 +265,10 @@ TEST(Warp, BytesAreExactBetweenEighths) {
                          size, size);
     const Samples src(k8u, size.width, size.height, 1), dst(k8u, size.width, size.height, 0);
     warp.Whole(src, dst);
-    for (int i = 0; i < size.width * size.height; ++i) {
-      const int x = i % size.width, y = i / size.width;
-      const double value = ValueAt(src, size, {.taps = 2}, 1, {x + eighth / 8.0, y + 0.5}, 0);
-      ASSERT_EQ(dst(x, y), std::nearbyint(value)) << eighth << ' ' << x << ',' << y;
-    }
+    const auto expected = [&](int x, int y) {
+      return std::nearbyint(ValueAt(src, size, {.taps = 2}, 1, {x + eighth / 8.0, y + 0.5}, 0));
+    };
+    ExpectImage(dst, expected, std::to_string(eighth));
   }
 }
 

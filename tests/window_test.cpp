@@ -6,6 +6,7 @@
 #include "tests/support/exports.h"
 #include "tests/support/name.h"
 #include "tests/support/reference.h"
+#include "tests/support/same.h"
 
 namespace {
 using test::Element;
@@ -72,14 +73,12 @@ TEST(Window, EveryMemberMultipliesByTheWeights) {
       const Samples old(src);
       ASSERT_EQ((*function)({{"pSrc", src}, {"pDst", dst}, {"pSrcDst", src}, {"roiSize", size}, {"window", window}}),
                 0);
-      for (int y = 0; y < size.height; ++y) {
-        for (int i = 0; i < src.width(); ++i) {
-          const volatile float weight = down[y] * across[i / name.channels];
-          const volatile float product = static_cast<float>(old(i, y)) * weight;
-          ASSERT_PRED2(test::AreSame, (isInPlace ? src : dst)(i, y), test::Converted(element, product))
-              << function->name << ' ' << i << ',' << y;
-        }
-      }
+      const auto expected = [&](int i, int y) {
+        const volatile float weight = down[y] * across[i / name.channels];
+        const volatile float product = static_cast<float>(old(i, y)) * weight;
+        return test::Converted(element, product);
+      };
+      ExpectImage(isInPlace ? src : dst, expected, function->name);
     }
   }
 }
