@@ -246,7 +246,9 @@ TEST(VolumeFilters, KnowTheirPlanesRecordsAndSizes) {
   const auto init = [&](QvprVolume size, QvprPoint anchor, QvpDataType type) {
     return qvprFilterBorderInit_16s(kernel, size, anchor, 1, type, qvpRoundNear, spec);
   };
-  EXPECT_EQ(init({3, 3, 3}, {0, 0, 3}, qvp8u), qvpStatusAnchor);
+  for (const QvprPoint anchor : {QvprPoint{3, 0, 0}, {0, 3, 0}, {0, 0, 3}}) {
+    EXPECT_EQ(init({3, 3, 3}, anchor, qvp8u), qvpStatusAnchor);
+  }
   EXPECT_EQ(init({3, 3, 3}, {1, 1, 1}, qvp32f), qvpStatusDataType);
   EXPECT_EQ(init({33554432, 1, 1}, {1, 0, 0}, qvp8u), qvpStatusSizeOverflow);
   EXPECT_EQ(init({3, 3, 3}, {1, 1, 1}, qvp16u), qvpStatusNoError);
