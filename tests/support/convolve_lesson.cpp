@@ -75,20 +75,17 @@ bool MatchLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
   if (name == "pSrc" || name == "pTpl") {
     argument = {scene.ImageFor(place, scene.Mostly())};
-  } else if (name == "srcRoiSize") {
-    argument = scene.roi();
-  } else if (name == "tplRoiSize") {
-    argument = ChoiceOf(scene).second;
-  } else if (name == "shape") {
-    argument = MatchChoiceOf(scene).shape;
-  } else if (name == "norm") {
-    argument = MatchChoiceOf(scene).norm;
   } else if (name == "dataType") {
     argument = scene.Any({qvp8u, qvp16u, qvp16s, qvp32f});
   } else if (name == "pBuffer") {
     argument = {scene.Input(MatchBufferSize(scene))};
   } else {
-    return ConvolveLesson(scene, place, argument);
+    const auto [shape, norm] = MatchChoiceOf(scene);
+    return Choose(
+               name,
+               {{"srcRoiSize", scene.roi()}, {"tplRoiSize", ChoiceOf(scene).second}, {"shape", shape}, {"norm", norm}},
+               argument) ||
+           ConvolveLesson(scene, place, argument);
   }
   return true;
 }
@@ -97,18 +94,10 @@ bool ConvolveLesson(Scene& scene, size_t place, Argument& argument) {
   const auto& [type, name] = scene.function().parameters[place];
   if (name == "pSrc1" || name == "pSrc2") {
     argument = {scene.ImageFor(place, scene.Mostly())};
-  } else if (name == "src1Size") {
-    argument = scene.roi();
-  } else if (name == "src2Size") {
-    argument = ChoiceOf(scene).second;
   } else if (name == "pDst") {
     argument = {Output(scene, type)};
-  } else if (name == "dstStep") {
-    argument = OutputStep(scene);
   } else if (name == "divisor") {
     argument = scene.Any({1, 2, 64, 1000, -3, 100000, INT32_MIN});
-  } else if (name == "method") {
-    argument = ChoiceOf(scene).method;
   } else if (name == "dataType") {
     argument = scene.Any({qvp8u, qvp16s, qvp32f});
   } else if (name == "numChannels") {
@@ -116,7 +105,10 @@ bool ConvolveLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "pBuffer") {
     argument = {scene.Input(BufferSize(scene))};
   } else {
-    return false;
+    const auto [second, method] = ChoiceOf(scene);
+    return Choose(name,
+                  {{"src1Size", scene.roi()}, {"src2Size", second}, {"dstStep", OutputStep(scene)}, {"method", method}},
+                  argument);
   }
   return true;
 }

@@ -68,14 +68,6 @@ bool DeconvolutionLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {scene.ImageFor(place, scene.Mostly())};
   } else if (name == "pPsf") {
     argument = {Psf(scene, m)};
-  } else if (name == "psfStep") {
-    argument = PsfStep(m);
-  } else if (name == "psfSize") {
-    argument = m.psf;
-  } else if (name == "borderType") {
-    argument = m.border;
-  } else if (name == "noise" || name == "smoothness" || name == "threshold") {
-    argument = name == "threshold" ? 1e-6 : 0.01;
   } else if (name == "iterations") {
     argument = scene.Any({1, 2, 4});
   } else if (name == "pSpec") {
@@ -83,7 +75,14 @@ bool DeconvolutionLesson(Scene& scene, size_t place, Argument& argument) {
   } else if (name == "pInitBuf" || name == "pBuffer") {
     argument = {scene.Input(name == "pBuffer" ? SizesFor(scene).buffer : SizesFor(scene).init)};
   } else {
-    return false;
+    return Choose(name,
+                  {{"psfStep", PsfStep(m)},
+                   {"psfSize", m.psf},
+                   {"borderType", m.border},
+                   {"noise", 0.01},
+                   {"smoothness", 0.01},
+                   {"threshold", 1e-6}},
+                  argument);
   }
   return true;
 }

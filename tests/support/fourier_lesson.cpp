@@ -19,38 +19,27 @@ QvpiSize SizeOf(const Scene& scene) {
 }
 int StepOf(const Scene& scene, size_t place) { return SizeOf(scene).width * 16 + 17 * static_cast<int>(place + 1); }
 
+// The query or the Init of the transform that a function is about.
+QvpStatus CallOf(const Scene& scene, const std::string& step, std::vector<Named> arguments) {
+  const auto [flag, x, y] = MannerOf(scene);
+  arguments.insert(arguments.end(),
+                   {{"orderX", x}, {"orderY", y}, {"roiSize", scene.roi()}, {"flag", flag}, {"hint", 0}});
+  const char* const kind = scene.Has("FFT") ? "qvpiFFT" : scene.Has("DCT") ? "qvpiDCT" : "qvpiDFT";
+  return CallNamed(kind + step + (scene.Has("DCT") ? "_32f" : scene.Has("32fc") ? "_C_32fc" : "_R_32f"), arguments);
+}
+
 struct Sizes {
   int spec = 0, init = 0, buffer = 0;
 };
-
 Sizes SizesFor(const Scene& scene) {
-  const auto [flag, x, y] = MannerOf(scene);
   Sizes s;
-  if (scene.Has("FFT")) {
-    (scene.Has("32fc") ? qvpiFFTGetSize_C_32fc : qvpiFFTGetSize_R_32f)(x, y, flag, 0, &s.spec, &s.init, &s.buffer);
-  } else {
-    const auto query = scene.Has("DCT")    ? qvpiDCTGetSize_32f
-                       : scene.Has("32fc") ? qvpiDFTGetSize_C_32fc
-                                           : qvpiDFTGetSize_R_32f;
-    query(scene.roi(), flag, 0, &s.spec, &s.init, &s.buffer);
-  }
+  CallOf(scene, "GetSize", {{"pSpecSize", {&s.spec}}, {"pSpecBufferSize", {&s.init}}, {"pBufferSize", {&s.buffer}}});
   return s;
 }
 
 const void* SpecFor(Scene& scene) {
-  const auto [flag, x, y] = MannerOf(scene);
   uint8_t* const spec = scene.Input(SizesFor(scene).spec);  // no output: a refused Init changes it
-  if (scene.Has("FFT") && scene.Has("32fc")) {
-    qvpiFFTInit_C_32fc(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_C_32fc*>(spec), nullptr);
-  } else if (scene.Has("FFT")) {
-    qvpiFFTInit_R_32f(x, y, flag, 0, reinterpret_cast<QvpiFFTSpec_R_32f*>(spec), nullptr);
-  } else if (scene.Has("DCT")) {
-    qvpiDCTInit_32f(scene.roi(), flag, 0, reinterpret_cast<QvpiDCTSpec_32f*>(spec), nullptr);
-  } else if (scene.Has("32fc")) {
-    qvpiDFTInit_C_32fc(scene.roi(), flag, 0, reinterpret_cast<QvpiDFTSpec_C_32fc*>(spec), nullptr);
-  } else {
-    qvpiDFTInit_R_32f(scene.roi(), flag, 0, reinterpret_cast<QvpiDFTSpec_R_32f*>(spec), nullptr);
-  }
+  CallOf(scene, "Init", {{"pSpec", {spec}}, {"pMemInit", {nullptr}}});
   return spec;
 }
 
@@ -71,12 +60,6 @@ bool FourierLesson(Scene& scene, size_t place, Argument& argument) {
     argument = {Floats(scene, place, name == "pDst" || name == "pSrcDst")};
   } else if (name.ends_with("Step")) {
     argument = StepOf(scene, place - 1);
-  } else if (name == "orderX" || name == "orderY") {
-    argument = name == "orderX" ? m.orderX : m.orderY;
-  } else if (name == "flag") {
-    argument = m.flag;
-  } else if (name == "numChannels") {
-    argument = 3;
   } else if (name == "pSpec") {
     argument = {SpecFor(scene)};
   } else if (name == "pMemInit") {
@@ -85,7 +68,7 @@ bool FourierLesson(Scene& scene, size_t place, Argument& argument) {
     const bool isTransform = scene.function().Has("pSpec");
     argument = {scene.Input(isTransform ? SizesFor(scene).buffer : scene.roi().width * 4 + 64)};
   } else {
-    return false;
+    return Choose(name, {{"orderX", m.orderX}, {"orderY", m.orderY}, {"flag", m.flag}, {"numChannels", 3}}, argument);
   }
   return true;
 }
