@@ -35,12 +35,7 @@ Index Expected(const Samples& a, const Samples& b, int channels, int c) {
 }
 
 QvpStatus Call(const Export& function, const Samples& a, const Samples& b, QvpiSize roi, double* values) {
-  return function({{"pSrc1", {a.bytes(), a.step()}},
-                   {"src1Step", a.step()},
-                   {"pSrc2", {b.bytes(), b.step()}},
-                   {"src2Step", b.step()},
-                   {"roiSize", roi},
-                   {"pValue", {values}}});
+  return function({{"pSrc1", a}, {"pSrc2", b}, {"roiSize", roi}, {"pValue", {values}}});
 }
 
 // Images by turns of any pixels, of a few levels alike in both, of the ends of the type, and flat ones.

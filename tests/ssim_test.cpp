@@ -57,8 +57,8 @@ QvpStatus Call(const Export& function, const Samples& a, const Samples& b, QvpiS
   EXPECT_EQ(qvpiSSIMGetBufferSize(roi, choice.window, channels, &bytes), 0);
   EXPECT_LE(bytes, (32LL * (choice.window + 2) + 8) * roi.width * channels + 4096);
   const test::Block buffer(bytes);
-  return function({{"pSrc1", {a.bytes(), a.step()}},
-                   {"pSrc2", {b.bytes(), b.step()}},
+  return function({{"pSrc1", a},
+                   {"pSrc2", b},
                    {"roiSize", roi},
                    {"pValue", {values}},
                    {"windowSize", choice.window},
