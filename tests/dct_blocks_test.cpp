@@ -79,67 +79,58 @@ TEST(DctBlocks, FormulaIsTheCosineTransform) {
   }
 }
 
-struct Plane {
-  QvpiSize size;
-  int BlocksAcross() const { return (size.width + 7) / 8; }
-  int BlocksDown() const { return (size.height + 7) / 8; }
-};
-
 // Values whose coefficients do not all saturate, and some that do.
 Real AnyValue(const Element& element, test::Random& random) {
   if (element.bytes == 1 || random.Next() % 8 == 0) return element.Stored(EdgeValue(element, random));
   return element.Stored(static_cast<Real>(static_cast<int>(random.Next() % 2048)) - 1024);
 }
 
-void CheckForward(const Export& function, Plane plane, const std::vector<Qvp16u>& quantizer, int seed) {
-  const Name name(function.name);
-  const Element &from = name.From(), &to = name.To();
-  const bool isQuantised = function.Has("quantizer");
-  test::Random random(seed);
-  Samples src(from, plane.size.width, plane.size.height, 3), dst(to, 64 * plane.BlocksAcross(), plane.BlocksDown(), 5);
-  src.Fill([&](int, int) { return AnyValue(from, random); });
-  ASSERT_EQ(function({{"pSrc", src}, {"pDst", dst}, {"roiSize", plane.size}, {"quantizer", {quantizer.data()}}}), 0);
-  for (int block = 0; block < plane.BlocksAcross() * plane.BlocksDown(); ++block) {
-    const int left = block % plane.BlocksAcross() * 8, top = block / plane.BlocksAcross() * 8;
-    Block b;
-    for (int i = 0; i < 64; ++i) {
-      const Real pixel =
-          src(std::min(left + i % 8, plane.size.width - 1), std::min(top + i / 8, plane.size.height - 1));
-      b[i] = static_cast<float>(pixel) - (from.bytes == 1 ? 128 : 0);
-    }
-    b = Transformed(b, true);
-    for (int i = 0; i < 64; ++i) {
-      const float value = isQuantised ? Product(b[i], Product(1.0f / quantizer[i], 0.125f)) : Product(b[i], 0.125f);
-      ASSERT_PRED2(test::AreSame, dst(left * 8 + i, top / 8), test::Converted(to, value))
-          << function.name << ' ' << block << ' ' << i;
-    }
+// Beyond the plane are the pixels of its edge.
+Block PixelsAt(const Samples& plane, int left, int top) {
+  Block b;
+  for (int i = 0; i < 64; ++i) {
+    const Real pixel = plane(std::min(left + i % 8, plane.width() - 1), std::min(top + i / 8, plane.height() - 1));
+    b[i] = static_cast<float>(pixel) - (plane.element().bytes == 1 ? 128 : 0);
   }
+  return b;
+}
+Block CoefficientsAt(const Samples& blocks, int left, int top, const Qvp16u* quantizer) {
+  Block b;
+  for (int i = 0; i < 64; ++i) {
+    b[i] = static_cast<float>(blocks(left * 8 + i, top / 8));
+    if (quantizer) b[i] = Product(b[i], quantizer[i]);
+  }
+  return b;
 }
 
-void CheckInverse(const Export& function, Plane plane, const std::vector<Qvp16u>& quantizer, int seed) {
+// Of the pixels or the coefficients of a block, that with number i.
+Real ResultOf(const Element& to, bool isForward, float value, const Qvp16u* quantizer, int i) {
+  const float factor = isForward && quantizer ? Product(1.0f / quantizer[i], 0.125f) : 0.125f;
+  const float result = Product(value, factor);
+  const bool isPixel = !isForward && to.bytes == 1;
+  return isPixel ? std::clamp<Real>(std::nearbyint(result) + 128.0L, 0, 255) : test::Converted(to, result);
+}
+
+void Check(const Export& function, QvpiSize size, const std::vector<Qvp16u>& steps, int seed) {
   const Name name(function.name);
-  const Element &from = name.From(), &to = name.To();
-  const bool isQuantised = function.Has("quantizer");
+  const bool isForward = function.name.find("Fwd") != std::string::npos;
+  const Qvp16u* const quantizer = function.Has("quantizer") ? steps.data() : nullptr;
+  const Element &of = isForward ? name.From() : name.To(), &other = isForward ? name.To() : name.From();
+  Samples plane(of, size.width, size.height, 3), blocks(other, (size.width + 7) / 8 * 64, (size.height + 7) / 8, 5);
+  Samples &src = isForward ? plane : blocks, &dst = isForward ? blocks : plane;
   test::Random random(seed);
-  Samples src(from, 64 * plane.BlocksAcross(), plane.BlocksDown(), 5), dst(to, plane.size.width, plane.size.height, 3);
-  src.Fill([&](int, int) { return AnyValue(from, random); });
-  ASSERT_EQ(function({{"pSrc", src}, {"pDst", dst}, {"roiSize", plane.size}, {"quantizer", {quantizer.data()}}}), 0);
-  for (int y = 0; y < plane.size.height; y += 8) {
-    for (int x = 0; x < plane.size.width; x += 8) {
-      Block b;
-      for (int i = 0; i < 64; ++i) {
-        b[i] = static_cast<float>(src(x * 8 + i, y / 8));
-        if (isQuantised) b[i] = Product(b[i], quantizer[i]);
-      }
-      b = Transformed(b, false);
-      for (int i = 0; i < 64; ++i) {
-        if (x + i % 8 >= plane.size.width || y + i / 8 >= plane.size.height) continue;
-        const float value = Product(b[i], 0.125f);
-        const Real expected =
-            to.bytes == 1 ? std::clamp<Real>(std::nearbyint(value) + 128.0L, 0, 255) : test::Converted(to, value);
-        ASSERT_PRED2(test::AreSame, dst(x + i % 8, y + i / 8), expected)
-            << function.name << ' ' << x << ',' << y << ' ' << i;
-      }
+  src.Fill([&](int, int) { return AnyValue(name.From(), random); });
+  ASSERT_EQ(function({{"pSrc", src}, {"pDst", dst}, {"roiSize", size}, {"quantizer", {steps.data()}}}), 0);
+  for (int k = 0; k < blocks.width() / 64 * blocks.height(); ++k) {
+    const int left = k % (blocks.width() / 64) * 8, top = k / (blocks.width() / 64) * 8;
+    const Block given = isForward ? PixelsAt(src, left, top) : CoefficientsAt(src, left, top, quantizer);
+    const Block result = Transformed(given, isForward);
+    for (int i = 0; i < 64; ++i) {
+      const int x = left + i % 8, y = top + i / 8;
+      if (!isForward && (x >= size.width || y >= size.height)) continue;
+      ASSERT_PRED2(test::AreSame, isForward ? dst(left * 8 + i, top / 8) : dst(x, y),
+                   ResultOf(name.To(), isForward, result[i], quantizer, i))
+          << function.name << " block " << k << ' ' << i;
     }
   }
 }
@@ -152,8 +143,7 @@ TEST(DctBlocks, EveryMemberEqualsItsFormula) {
       std::vector<Qvp16u> quantizer(64);
       test::Random random(++turn);
       for (Qvp16u& q : quantizer) q = random.Next() % 8 ? 1 + random.Next() % 99 : 1 + random.Next() % 65535;
-      (function->name.find("Fwd") != std::string::npos ? CheckForward : CheckInverse)(*function, {size}, quantizer,
-                                                                                      turn);
+      Check(*function, size, quantizer, turn);
     }
   }
 }
