@@ -196,11 +196,13 @@ void ExpectFirst(Scene& scene, const std::vector<QvpStatus>& documented, const R
 }
 
 constexpr QvpStatus kUsual[] = {
-    qvpStatusNullPointer,   qvpStatusSize,          qvpStatusStep,        qvpStatusContextMatch, qvpStatusBorder,
-    qvpStatusDataType,      qvpStatusMaskSize,      qvpStatusChannel,     qvpStatusRoundMode,    qvpStatusFftFlag,
-    qvpStatusNumChannels,   qvpStatusEps,           qvpStatusLutLevels,   qvpStatusWeight,       qvpStatusHistoLevels,
-    qvpStatusFftOrder,      qvpStatusAlgType,       qvpStatusNoiseRange,  qvpStatusStride,       qvpStatusMirrorFlip,
-    qvpStatusInterpolation, qvpStatusWarpDirection, qvpStatusResizeFactor};
+    qvpStatusNullPointer,   qvpStatusSize,          qvpStatusStep,         qvpStatusContextMatch,
+    qvpStatusBorder,        qvpStatusDataType,      qvpStatusMaskSize,     qvpStatusChannel,
+    qvpStatusRoundMode,     qvpStatusFftFlag,       qvpStatusNumChannels,  qvpStatusEps,
+    qvpStatusLutLevels,     qvpStatusWeight,        qvpStatusHistoLevels,  qvpStatusFftOrder,
+    qvpStatusAlgType,       qvpStatusNoiseRange,    qvpStatusStride,       qvpStatusMirrorFlip,
+    qvpStatusInterpolation, qvpStatusWarpDirection, qvpStatusResizeFactor, qvpStatusDecimateFraction,
+    qvpStatusChannelOrder,  qvpStatusAlphaType,     qvpStatusAnchor};
 
 // Whether a status that is documented is about a parameter of this function, not of others in its group. Rows of bytes
 // that are resampled may be any number of bytes apart.
@@ -214,6 +216,8 @@ bool IsOfItsOwn(const Export& function, QvpStatus status) {
     case qvpStatusStep: return !has("const int* srcStep") && !(isResampled && Contains(function.name, "_8u"));
     case qvpStatusContextMatch: return has("const Qvpi") || has("const Qvpr");
     case qvpStatusBorder: return has("BorderType");
+    case qvpStatusAnchor: return has("anchor");
+    case qvpStatusChannelOrder: return has("Order") || has("lumaPlace");
     case qvpStatusDataType: return has("DataType");
     case qvpStatusInterpolation: return has("InterpolationType");
     case qvpStatusWarpDirection: return has("WarpDirection");
