@@ -41,6 +41,8 @@ struct Period {
     while (count > 1 && Weight(count - 1, place) == 0) --count;
     return count;
   }
+  // Behind the last pixel of destination position d.
+  ptrdiff_t End(ptrdiff_t d) const { return First(PlaceOf(d)) + Count(PlaceOf(d)); }
 };
 
 // A strip of columns: its taps with places counted from the first source pixel that it reads.
@@ -102,22 +104,25 @@ void SumDown(D d, const Image<const T>& rows, int count, const Weight& weight, p
   }
 }
 
-// Stores exact sums divided by the area, rounded to the nearest integers. Ties are only met where the area is even.
+// Exact sums divided by the area, to be rounded to the nearest integers. Ties are only met where the area is even.
 // Where it is a power of two, or the sums are further from a tie than a product with the inverse may be off, that is
 // the same.
-template <class T>
-void StoreQuotients(const float* sums, int area, T* dst, ptrdiff_t n) {
-  const hn::ScalableTag<float> d;
-  const bool isPowerOfTwo = (area & (area - 1)) == 0, isOdd = area % 2 != 0;
-  if (isPowerOfTwo || (isOdd && area < 1 << (22 - 8 * sizeof(T)))) {
-    const auto inverse = hn::Set(d, static_cast<float>(1.0 / area));
-    return MapRow<false>(
-        d, dst, n, [=](auto v) HWY_ATTR { return hn::Mul(v, inverse); }, sums);
+struct AreaQuotient {
+  float area;
+  bool isByInverse;
+  float inverse;
+
+  AreaQuotient(int parts, int bits)
+      : area(static_cast<float>(parts)),
+        isByInverse((parts & (parts - 1)) == 0 || (parts % 2 != 0 && parts < 1 << (22 - bits))),
+        inverse(static_cast<float>(1.0 / parts)) {}
+
+  template <class V>
+  HWY_INLINE V Of(V sum) const {
+    const hn::DFromV<V> d;
+    return isByInverse ? hn::Mul(sum, hn::Set(d, inverse)) : hn::Div(sum, hn::Set(d, area));
   }
-  const auto divisor = hn::Set(d, static_cast<float>(area));
-  MapRow<false>(
-      d, dst, n, [=](auto v) HWY_ATTR { return hn::Div(v, divisor); }, sums);
-}
+};
 
 // Sums of two channels across, one after the other; the averages of both need as much memory again behind them.
 class PairSums {
@@ -165,7 +170,7 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
   if (channels == 2) pairs.Clear(strip.pixels);
   if (channels <= 2) plan.to = strip.columns;  // there are sums to read behind the last column's
   const TapPlanes<float> weights{strip.weights, strip.columns};
-  const auto area = static_cast<int>(across.parts * down.parts);
+  const AreaQuotient quotient(static_cast<int>(across.parts * down.parts), 8 * sizeof(T));
   Period::Place place = down.PlaceOf(tile.y);
   for (ptrdiff_t y = 0; y < tile.height; ++y, place = down.Next(place)) {
     const T* row = SourceRow(call, tile, down.First(place)) + strip.source * channels;
@@ -177,7 +182,9 @@ void ResizeStrip(const ResizeCall<T>& call, const ResizeRecord& record, const Ti
     } else {
       FilterAcross(plan, weights, std::array<const float*, 1>{sums}, std::array{averages});
     }
-    StoreQuotients(averages, area, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels);
+    MapRow<false>(
+        d, call.dst.Row(y) + (strip.begin - tile.x) * channels, strip.columns * channels,
+        [=](auto sum) HWY_ATTR { return quotient.Of(sum); }, static_cast<const float*>(averages));
   }
 }
 

@@ -176,4 +176,61 @@ void AverageAreas(const ResizeCall<T>& call, const ResizeRecord& record, const T
   AverageAreasBy<double>(call, record, tile);
 }
 
+// What SumCovered has for one sample, whose first row is at `first`.
+template <class T>
+double SumOfSample(const T* first, ptrdiff_t step, const Coverage& down) {
+  const Image<const T> rows{first, step, Layout::kC1};
+  const auto at = [&](ptrdiff_t y) { return static_cast<double>(LoadScalar(rows.Row(y))); };
+  double sum = at(0) * down.begin;
+  if (down.end > 0) sum += at(1 + down.whole) * down.end;
+  for (ptrdiff_t y = 1, n; y <= down.whole; y += n) {
+    const ptrdiff_t left = down.whole - y + 1;
+    n = left >= 8 ? 8 : left >= 3 ? 3 : 1;
+    double some = 0;
+    for (ptrdiff_t i = 0; i < n; ++i) some += at(y + i);
+    sum += some * down.each;
+  }
+  return sum;
+}
+
+// AverageRow for n successive areas of a column of integers, which are narrow: without rows of sums.
+template <int kChannels, class T>
+void AverageNarrow(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile, const Coverage& across,
+                   Extent areas, double* averages) {
+  for (ptrdiff_t y = areas.begin; y < areas.end; ++y, averages += kChannels) {
+    const Coverage down = CoverageOf(record, record.rows, tile.y + y);
+    const T* first = SourceRow(call, tile, down.first) + across.first * kChannels;
+    double sums[(kLongRun + 1) * kChannels];
+    for (ptrdiff_t i = 0; i < across.Pixels() * kChannels; ++i) sums[i] = SumOfSample(first + i, call.src.step, down);
+    AreaTotal<kChannels, 1, double> total(sums, across.begin);
+    total.AddWhole(sums + kChannels, across.whole);
+    if (across.end > 0) total.AddLast(sums + (1 + across.whole) * kChannels, across.end);
+    total.Average(across.each, across.Total() * down.Total(), averages);
+  }
+}
+
+// One column of areas of integers, on a shifted grid.
+template <int kChannels, class T>
+void AverageColumn(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
+  const Coverage across = CoverageOf(record, record.columns, tile.x);
+  if (across.whole >= kLongRun) return AverageAreasBy<double>(call, record, tile);
+  double averages[kAreasAtOnce * kChannels];
+  T column[kAreasAtOnce * kChannels];
+  for (ptrdiff_t y = 0; y < tile.height; y += kAreasAtOnce) {
+    const ptrdiff_t n = std::min(tile.height - y, kAreasAtOnce);
+    AverageNarrow<kChannels>(call, record, tile, across, {y, y + n}, averages);
+    MapRow<false>(
+        hn::ScalableTag<double>(), column, n * kChannels, [](auto v) { return v; },
+        static_cast<const double*>(averages));
+    for (ptrdiff_t i = 0; i < n; ++i) std::memcpy(call.dst.Row(y + i), column + i * kChannels, kChannels * sizeof(T));
+  }
+}
+
+// That for the layout of a frame's plane.
+template <class T>
+auto AverageColumnFor(Layout layout) {
+  if (layout == Layout::kC1) return AverageColumn<1, T>;
+  return layout == Layout::kC2 ? AverageColumn<2, T> : AverageColumn<4, T>;
+}
+
 }  // namespace qvp::resize

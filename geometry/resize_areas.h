@@ -5,45 +5,45 @@
 
 #include "base/lanes.h"
 #include "base/pack.h"
+#include "geometry/resize_area_exact.h"
 #include "geometry/resize_gather.h"
 
 namespace qvp::resize {
 
-// Bounds of the tables, and of the sums down: 255 * 64 fits int16.
-inline constexpr int kMostAreaParts = 64, kMostAreaPairs = 8;
+// Bounds of the tables, of the sums down, which fit int16, and of those across, which are exact in single floats.
+inline constexpr int kMostAreaPeriod = 64, kMostAreaPairs = 8, kMostPartsDown = 128, kMostAreaParts = 1 << 16;
 
-// Whether averages of integers are the same bits as those of floating point with t taps across and t' down. With odd P
-// there are no ties, N / P is 1 / (2 P) or more away from one, and the error of floating point is less than
-// 255 (t + t' + 4) / 2^24. Where both ratios are whole powers of two, floating point is exact.
-inline bool AreAreasWhole(const ResizeRecord& record) {
-  const ResizeAxis &across = record.columns, &down = record.rows;
-  if (record.IsShifted() || std::max(across.p, down.p) > kMostAreaParts) return false;
-  if (std::max(across.taps, down.taps) > 2 * kMostAreaPairs) return false;
-  const int parts = across.p * down.p;
-  if (parts % 2 == 0) return across.q == 1 && down.q == 1 && (parts & (parts - 1)) == 0;
-  return int64_t{2 * 255} * parts * (across.taps + down.taps + 4) < 1 << 24;
+inline bool AreAreasWhole(const Period& across, const Period& down) {
+  return std::max(across.taps, down.taps) <= 2 * kMostAreaPairs && across.q <= kMostAreaPeriod &&
+         down.parts <= kMostPartsDown && int64_t{across.parts} * down.parts <= kMostAreaParts;
 }
 
 // The columns of a tile, which take the rows of sums down to averages. What they need repeats after q of them.
 class AreaColumns {
  public:
-  AreaColumns(const ResizeRecord& record, const Tile& tile, int channels)
-      : p_(record.columns.p),
-        q_(record.columns.q),
+  AreaColumns(const Period& across, const Period& down, const Tile& tile, int channels)
+      : p_(across.p),
+        q_(across.q),
         begin_(tile.x),
         columns_(tile.width),
         origin_(tile.source.x),
+        end_(across.End(tile.x + tile.width - 1)),
         channels_(channels),
-        pairs_((record.columns.taps + 1) / 2),
-        scale_(static_cast<float>(1.0 / (record.columns.p * record.rows.p))) {
-    FillWeights(record.columns);
-    channels_ <= 2 ? PlanSamples() : PlanPixels();
+        pairs_((across.taps + 1) / 2),
+        quotient_(static_cast<int>(across.parts * down.parts), 8) {
+    walk_ = By(channels <= 2 ? kLanes / channels : kPixels);
+    start_ = PlaceOf(0);
+    last_ = PlaceOf(columns_ - Fewest(channels));
+    FillPhases(across);
+    if (channels_ > 2) PlanPixels();
+    if (channels_ == 2) PlanSamples<2>();
+    if (channels_ == 1) PlanSamples<1>();
   }
 
   // The fewest columns that there are vectors for.
   static ptrdiff_t Fewest(int channels) { return channels <= 2 ? 2 * kLanes / channels : kPixels; }
   // Source pixels of the tile, and samples of a row of sums with what vectors touch behind them.
-  ptrdiff_t Pixels() const { return static_cast<ptrdiff_t>((int64_t{begin_ + columns_} * p_ + q_ - 1) / q_) - origin_; }
+  ptrdiff_t Pixels() const { return end_ - origin_; }
   int64_t RowSamples() const { return (int64_t{Pixels()} + 2 * pairs_ + 1) * channels_ + kBlockBytes; }
 
   // The usual numbers of pairs have loops of their own.
@@ -57,7 +57,7 @@ class AreaColumns {
   using Wide = hn::Repartition<int32_t, GatherTag>;
   using Words = hn::Repartition<int16_t, GatherTag>;
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(Wide()), kPixels = 4;
-  static constexpr ptrdiff_t kPlaces = kMostAreaParts + 2 * kLanes;  // a vector may begin at every place of a period
+  static constexpr ptrdiff_t kPlaces = kMostAreaPeriod + kLanes;  // a vector may begin at every place of a period
 
   // A column's place in its period, and the byte of the sums that the period begins at.
   struct Place {
@@ -80,52 +80,69 @@ class AreaColumns {
     return {at % q_, (at / q_ * p_ - origin_) * channels_ * ptrdiff_t{sizeof(uint16_t)}};
   }
 
-  // The parts of two successive pixels in one number; of two channels for each.
-  void FillWeights(const ResizeAxis& axis) {
-    const ptrdiff_t each = channels_ == 2 ? 2 : 1;
-    for (ptrdiff_t k = 0; k < pairs_; ++k) {
-      for (ptrdiff_t j = 0; j < q_ + 2 * kLanes; ++j) {
-        const int64_t second = 2 * k + 1 < axis.taps ? Overlap(axis, j, 2 * k + 1) : 0;
-        const auto parts = static_cast<int32_t>(Overlap(axis, j, 2 * k) | second << 16);
-        std::fill_n(weights_ + (k * kPlaces + j) * each, each, parts);
-      }
+  // The first pixel of each place, and the parts of two successive pixels in one number; of two channels for each.
+  void FillPhases(const Period& across) {
+    for (ptrdiff_t j = 0; j < q_; ++j) first_[j] = across.index[j];
+    for (ptrdiff_t j = q_; j < q_ + kLanes; ++j) first_[j] = first_[j - q_] + static_cast<int32_t>(p_);
+    for (int k = 0; k < across.taps; k += 2) {
+      int32_t* const weights = weights_ + k / 2 * kPlaces * (channels_ == 2 ? 2 : 1);
+      channels_ == 2 ? FillWeights<2>(across, k, weights) : FillWeights<1>(across, k, weights);
     }
   }
+  template <int kEach>
+  void FillWeights(const Period& across, int k, int32_t* weights) const {
+    const float *first = across.weights + k * q_, *second = first + (k + 1 < across.taps ? q_ : 0);
+    const int unit = k + 1 < across.taps ? 1 << 16 : 0;
+    for (ptrdiff_t j = 0; j < q_; ++j) {
+      std::fill_n(weights + j * kEach, kEach, static_cast<int>(first[j]) + unit * static_cast<int>(second[j]));
+    }
+    for (ptrdiff_t i = q_ * kEach; i < (q_ + kLanes) * kEach; ++i) weights[i] = weights[i - q_ * kEach];
+  }
 
-  // One or two channels: the shuffles of a vector of samples, for each place of its first one.
+  // One or two channels: the shuffles of a vector of samples, for each place of its first one. A lane has a sample and
+  // the one of the next pixel.
+  template <int kChannels>
   void PlanSamples() {
     constexpr int kBytes = sizeof(uint16_t);
-    const auto channels = static_cast<int>(channels_);
-    const GatherShape shape{4, channels, channels * kBytes, 1, kBytes};
-    loads_ = LoadsFor(shape, p_, q_);
-    for (ptrdiff_t j = 0; j < q_; ++j) {
-      const auto place = [this, j](ptrdiff_t s) {
-        return ((j + s / channels_) * p_ / q_ * channels_ + s % channels_) * ptrdiff_t{kBytes};
-      };
-      Gather(shape, loads_, kLanes, INT32_MAX, place, masks_ + j * kGatherBytes, offsets_ + j * loads_ * kGatherBlocks);
+    loads_ = LoadsFor({4, kChannels, kChannels * kBytes, 1, kBytes}, p_, q_);
+    const ptrdiff_t lanesOfLoad = kLanes / (loads_ * kGatherBlocks);
+    int32_t places[kPlaces * kChannels];
+    for (int i = 0; i < (q_ + kLanes) * kChannels; ++i) {
+      places[i] = (first_[i / kChannels] * kChannels + i % kChannels) * kBytes;
     }
+    int32_t* offset = offsets_;
+    for (ptrdiff_t j = 0; j < q_; ++j) {
+      const int32_t* at = places + j * kChannels;
+      for (ptrdiff_t s = 0; s < kLanes; s += lanesOfLoad) *offset++ = at[s];
+      hn::StoreU(Shuffle<kChannels>(hn::LoadU(Wide(), at), loads_), GatherTag(), masks_ + j * kGatherBytes);
+    }
+  }
+  template <int kChannels>
+  static hn::Vec<GatherTag> Shuffle(hn::Vec<Wide> places, int loads) {
+    const auto sample = hn::Set(Wide(), kChannels == 2 ? 0x05040100 : 0x03020100);
+    const auto first = loads == 1 ? hn::Broadcast<0>(places) : loads == 2 ? hn::DupEven(places) : places;
+    return hn::BitCast(GatherTag(), hn::Add(sample, hn::Mul(hn::Sub(places, first), hn::Set(Wide(), 0x01010101))));
   }
 
   // Several channels: where the pixels begin, and the shuffle that brings two successive ones together.
   void PlanPixels() {
     const auto bytes = static_cast<int>(channels_ * sizeof(uint16_t));
-    for (ptrdiff_t j = 0; j < q_ + kPixels; ++j) offsets_[j] = static_cast<int32_t>(j * p_ / q_ * bytes);
+    for (ptrdiff_t j = 0; j < q_ + kPixels; ++j) offsets_[j] = first_[j] * bytes;
     for (int i = 0; i < kBlockBytes; ++i) masks_[i] = static_cast<uint8_t>(i / 4 * 2 + i % 2 + i % 4 / 2 * bytes);
   }
 
   // What the loops read, apart from the class: stores of bytes could change its members.
   struct Tables {
     ptrdiff_t pairs;
-    float scale;
+    AreaQuotient quotient;
     const int32_t *weights, *offsets;
     const uint8_t* masks;
 
     HWY_INLINE hn::Vec<Wide> Averages(hn::Vec<Wide> sums) const {
-      const hn::Rebind<float, Wide> d;
-      return RoundToInt(hn::Mul(hn::ConvertTo(d, sums), hn::Set(d, scale)));
+      return RoundToInt(quotient.Of(hn::ConvertTo(hn::Rebind<float, Wide>(), sums)));
     }
   };
-  Tables Locals() const { return {pairs_, scale_, weights_, offsets_, masks_}; }
+  Tables Locals() const { return {pairs_, quotient_, weights_, offsets_, masks_}; }
   static HWY_INLINE auto Bytes(hn::Vec<Words> words) { return hn::DemoteTo(hn::Rebind<uint8_t, Words>(), words); }
 
   template <int kPairs>
@@ -157,7 +174,7 @@ class AreaColumns {
   template <int kPairs, int kChannels, int kLoads>
   void AverageGathered(const uint16_t* sums, uint8_t* dst) const {
     const Tables tables = Locals();
-    const Walk walk = By(kLanes / kChannels);
+    const Walk walk = walk_;
     const auto* row = reinterpret_cast<const uint8_t*>(sums);
     const auto store = [=](Place place, Place next, uint8_t* out) HWY_ATTR {
       const auto lower = Gathered<kPairs, kChannels, kLoads>(tables, row, place);
@@ -165,14 +182,13 @@ class AreaColumns {
       hn::StoreU(Bytes(PackedInOrder<int16_t>(lower, upper)), hn::Rebind<uint8_t, Words>(), out);
     };
     const ptrdiff_t last = columns_ * kChannels - 2 * kLanes;
-    Place place = PlaceOf(0);
+    Place place = start_;
     for (ptrdiff_t x = 0; x < last; x += 2 * kLanes) {
       const Place next = walk.Next(place);
       store(place, next, dst + x);
       place = walk.Next(next);
     }
-    const Place end = PlaceOf(last / kChannels);
-    store(end, walk.Next(end), dst + last);
+    store(last_, walk.Next(last_), dst + last);
   }
 
   // A pixel in each block of 16 bytes: that of the place and, in the second block, the one two behind it.
@@ -208,7 +224,7 @@ class AreaColumns {
   template <int kPairs, int kChannels>
   void AveragePixels(const uint16_t* sums, uint8_t* dst) const {
     const Tables tables = Locals();
-    const Walk walk = By(kPixels);
+    const Walk walk = walk_;
     const auto* row = reinterpret_cast<const uint8_t*>(sums);
     const auto store = [=](Place place, uint8_t* out) HWY_ATTR {
       const auto pixels = FourPixels<kPairs, kChannels>(tables, row, place);
@@ -219,9 +235,9 @@ class AreaColumns {
       }
     };
     const ptrdiff_t last = columns_ - kPixels;
-    Place place = PlaceOf(0);
+    Place place = start_;
     for (ptrdiff_t x = 0; x < last; x += kPixels, place = walk.Next(place)) store(place, dst + x * kChannels);
-    store(PlaceOf(last), dst + last * kChannels);
+    store(last_, dst + last * kChannels);
   }
 
   // The first three bytes of every four.
@@ -234,12 +250,15 @@ class AreaColumns {
     std::memcpy(dst + 8, &rest, sizeof(rest));
   }
 
-  ptrdiff_t p_, q_, begin_, columns_, origin_, channels_, pairs_;
-  float scale_;
+  ptrdiff_t p_, q_, begin_, columns_, origin_, end_, channels_, pairs_;
+  AreaQuotient quotient_;
+  Walk walk_;
+  Place start_, last_;  // those of the first column, and of the last vector's
   int loads_ = 0;
+  int32_t first_[kPlaces];
   int32_t weights_[kMostAreaPairs * kPlaces * 2];
-  int32_t offsets_[kMostAreaParts * 4 * kGatherBlocks];
-  uint8_t masks_[kMostAreaParts * kGatherBytes];
+  int32_t offsets_[kMostAreaPeriod * 4 * kGatherBlocks];
+  uint8_t masks_[kMostAreaPeriod * kGatherBytes];
 };
 
 }  // namespace qvp::resize

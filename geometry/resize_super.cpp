@@ -17,14 +17,15 @@ int64_t RoomFor(const Tile& tile, int channels) {
   return PlaneOf(int64_t{4} * tile.height) + columns + 2 * samples;
 }
 
-// In integers, a row of sums at a time. False where there is no room for one, or the tile is narrower than a vector.
+// In integers, a row of sums at a time. False where they do not fit the bounds, where there is no room for one, or
+// where the tile is narrower than a vector.
 bool ResizeWhole(const ResizeCall<uint8_t>& call, const ResizeRecord& record, const Tile& tile) {
   const int channels = Channels(call.src.layout);
-  if (tile.width < AreaColumns::Fewest(channels)) return false;
-  const AreaColumns columns(record, tile, channels);
+  const Period across(record, record.columns), down(record, record.rows);
+  if (tile.width < AreaColumns::Fewest(channels) || !AreAreasWhole(across, down)) return false;
+  const AreaColumns columns(across, down, tile, channels);
   auto* sums = reinterpret_cast<uint16_t*>(AtBoundary(call.buffer));
   if (columns.RowSamples() * int64_t{sizeof(*sums)} > RoomFor(tile, channels)) return false;
-  const Period down(record, record.rows);
   Period::Place place = down.PlaceOf(tile.y);
   for (ptrdiff_t y = 0; y < tile.height; ++y, place = down.Next(place)) {
     const auto parts = [&](int k) { return static_cast<uint16_t>(down.Weight(k, place)); };
@@ -71,13 +72,19 @@ bool ResizeChroma(const ResizeCall<T>& call, const ResizeRecord& record, const T
   if (!record.IsOfChroma() || !areExact || ColumnsPerStrip(across, Channels(call.src.layout)) < 1) return false;
   const Extent x = InnerPositions(record, record.columns, tile.x, tile.width);
   const Extent y = InnerPositions(record, record.rows, tile.y, tile.height);
-  const auto inner = [&](const auto& part, const Tile& of) { ResizeStrips(part, record, of); };
+  const auto inner = [&](const auto& part, const Tile& of) {
+    if constexpr (sizeof(T) == 1) {
+      if (ResizeWhole(part, record, of)) return;
+    }
+    ResizeStrips(part, record, of);
+  };
   const auto edge = [&](const auto& part, const Tile& of) { AverageAreas(part, record, of); };
+  const auto column = [&](const auto& part, const Tile& of) { AverageColumnFor<T>(call.src.layout)(part, record, of); };
   WithPart(call, tile, x, y, inner);
   WithPart(call, tile, {0, tile.width}, {0, y.begin}, edge);
   WithPart(call, tile, {0, tile.width}, {y.end, tile.height}, edge);
-  WithPart(call, tile, {0, x.begin}, y, edge);
-  WithPart(call, tile, {x.end, tile.width}, y, edge);
+  WithPart(call, tile, {0, x.begin}, y, column);
+  WithPart(call, tile, {x.end, tile.width}, y, column);
   return true;
 }
 
@@ -88,7 +95,7 @@ void AreaTile(const ResizeCall<T>& call, const ResizeRecord& record, const Tile&
   // Means of integers in floating point are exact: this is the same result.
   if (Halve<std::conditional_t<std::is_integral_v<T>, TiesToEven, Midpoints>>(call, record, tile)) return;
   if constexpr (sizeof(T) == 1) {
-    if (AreAreasWhole(record) && ResizeWhole(call, record, tile)) return;
+    if (!record.IsShifted() && ResizeWhole(call, record, tile)) return;
   }
   if constexpr (std::is_integral_v<T>) {
     if (AreSumsExact<T>(record) && ResizeStrips(call, record, tile)) return;
