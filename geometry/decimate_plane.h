@@ -57,10 +57,12 @@ class Decimation {
     for (ptrdiff_t y = band.top; y < end; y += R::kTo) {
       Rows<R> rows;
       const ptrdiff_t top = R::First(y);
-      Unrolled<R::kFrom>([&](auto i)
-                             QVP_INLINED { rows.from[i] = plane.src + std::min(top + i, last) * plane.srcStep; });
-      Unrolled<R::kTo>([&](auto i)
-                           QVP_INLINED { rows.to[i] = plane.dst + std::min(y + i, lastResult) * plane.dstStep; });
+      rows.from[0] = plane.src + top * plane.srcStep;
+      Unrolled<R::kFrom - 1>(
+          [&](auto i) QVP_INLINED { rows.from[i + 1] = rows.from[i] + (top + i < last ? plane.srcStep : 0); });
+      rows.to[0] = plane.dst + y * plane.dstStep;
+      Unrolled<R::kTo - 1>([&](auto i)
+                               QVP_INLINED { rows.to[i + 1] = rows.to[i] + (y + i < lastResult ? plane.dstStep : 0); });
       rows.results = static_cast<int>(std::min<ptrdiff_t>(R::kTo, end - y));
       use(rows);
     }
