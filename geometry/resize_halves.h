@@ -3,6 +3,8 @@
 
 #include <hwy/cache_control.h>
 
+#include <cstring>
+
 #include "base/blocks.h"
 #include "base/pack.h"
 #include "base/pairs.h"
@@ -43,53 +45,122 @@ HWY_INLINE V SamplesInPairs(D d, V v) {
   }
 }
 
-// Sums of samples and those of the next pixel. Those of unsigned 16 bits are of samples less 2^15.
-template <int kChannels, class T>
-HWY_INLINE auto SumsOfPairs(const T* from) {
-  const hn::ScalableTag<T> d;
-  const auto v = SamplesInPairs<kChannels>(d, hn::LoadU(d, from));
+// Sums of samples that lie in pairs. Those of unsigned 16 bits are of samples less 2^15.
+template <class D, class T = hn::TFromD<D>>
+HWY_INLINE auto SumsOfPairs(D d, hn::Vec<D> v) {
   if constexpr (sizeof(T) == 1) {
-    return MulAddPairs(v, hn::Set(hn::ScalableTag<int8_t>(), 1));
+    return MulAddPairs(v, hn::Set(hn::RebindToSigned<D>(), 1));
   } else {
-    const hn::ScalableTag<int16_t> words;
+    const hn::Rebind<int16_t, D> words;
     const auto centred = std::is_signed_v<T> ? v : hn::Xor(v, hn::Set(d, static_cast<T>(1 << 15)));
     return MulAddPairs(hn::BitCast(words, centred), hn::Set(words, 1));
   }
 }
 
-// A vector of means of samples from two rows.
-template <int kChannels, class Rounding, class T>
-HWY_INLINE hn::Vec<hn::ScalableTag<T>> Means(const T* upper, const T* lower) {
-  const hn::ScalableTag<T> d;
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(d);
-  const auto half = [&](ptrdiff_t i) HWY_ATTR {
-    const auto sum = hn::Add(SumsOfPairs<kChannels>(upper + i), SumsOfPairs<kChannels>(lower + i));
+// A vector of means of samples from two rows: load(row, 0) and load(row, 1) are two vectors of pairs.
+template <class Rounding, class D, class Load, class T = hn::TFromD<D>>
+HWY_INLINE hn::Vec<D> MeansOfPairs(D d, const T* upper, const T* lower, const Load& load) {
+  const auto half = [&](int i) HWY_ATTR {
+    const auto sum = hn::Add(SumsOfPairs(d, load(upper, i)), SumsOfPairs(d, load(lower, i)));
     return Rounding::Quarter(hn::DFromV<decltype(sum)>(), sum);
   };
   if constexpr (sizeof(T) == 1) {
-    return PackedInOrder<T>(half(0), half(kLanes));
+    return PackedInOrder<T>(half(0), half(1));
   } else {
-    const auto means = hn::BitCast(d, PackedInOrder<int16_t>(half(0), half(kLanes)));
+    const auto means = hn::BitCast(d, PackedInOrder<int16_t>(half(0), half(1)));
     return std::is_signed_v<T> ? means : hn::Xor(means, hn::Set(d, static_cast<T>(1 << 15)));
   }
+}
+
+// How sums of samples become vectors: of pixels whose number of channels divides a block.
+template <int kChannels, class T>
+struct HalfVectors {
+  static constexpr hn::ScalableTag<T> d{};
+  static constexpr ptrdiff_t kStep = hn::MaxLanes(d), kSpare = 0;  // samples, and those that are touched behind them
+
+  template <class Rounding>
+  static HWY_INLINE void Halve(const T* upper, const T* lower, T* dst) {
+    const auto load = [](const T* row, int i)
+                          HWY_ATTR { return SamplesInPairs<kChannels>(d, hn::LoadU(d, row + i * kStep)); };
+    hn::StoreU(MeansOfPairs<Rounding>(d, upper, lower, load), d, dst);
+  }
+};
+
+// Of three channels, each block has twelve bytes that count: pairs of pixels, whose sums lie in three lanes of four.
+template <class T>
+struct HalfVectors<3, T> {
+  static constexpr hn::CappedTag<T, 32 / sizeof(T)> d{};
+  using Bytes = hn::Repartition<uint8_t, decltype(d)>;
+  static constexpr int kBlocks = kBlocksOf<Bytes>, kOfBlock = 12;
+  static constexpr ptrdiff_t kStep = kBlocks * kOfBlock / sizeof(T), kSpare = (kBlockBytes - kOfBlock) / sizeof(T);
+
+  static HWY_INLINE auto Load(const T* row) {
+    alignas(16) static constexpr uint8_t kPairs[2][16] = {
+        {0, 3, 1, 4, 2, 5, 0x80, 0x80, 6, 9, 7, 10, 8, 11, 0x80, 0x80},
+        {0, 1, 6, 7, 2, 3, 8, 9, 4, 5, 10, 11, 0x80, 0x80, 0x80, 0x80}};
+    const auto* from = reinterpret_cast<const uint8_t*>(row);
+    const auto samples =
+        FromBlocks(Bytes(), [&](int b) HWY_ATTR { return hn::LoadU(hn::Full128<uint8_t>(), from + b * kOfBlock); });
+    return hn::BitCast(d, hn::TableLookupBytesOr0(samples, hn::LoadDup128(Bytes(), kPairs[sizeof(T) - 1])));
+  }
+
+  template <class Rounding>
+  static HWY_INLINE void Halve(const T* upper, const T* lower, T* dst) {
+    alignas(16) static constexpr uint8_t kThreeOfFour[2][16] = {
+        {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80},
+        {0, 1, 2, 3, 4, 5, 8, 9, 10, 11, 12, 13, 0x80, 0x80, 0x80, 0x80}};
+    const auto load = [](const T* row, int i) HWY_ATTR { return Load(row + i * kStep); };
+    const auto means = hn::BitCast(Bytes(), MeansOfPairs<Rounding>(d, upper, lower, load));
+    const auto packed = hn::TableLookupBytesOr0(means, hn::LoadDup128(Bytes(), kThreeOfFour[sizeof(T) - 1]));
+    auto* to = reinterpret_cast<uint8_t*>(dst);
+    if constexpr (kBlocks == 1) {
+      hn::StoreU(packed, Bytes(), to);
+    } else {
+      hn::StoreU(hn::LowerHalf(packed), hn::Half<Bytes>(), to);
+      hn::StoreU(hn::UpperHalf(hn::Half<Bytes>(), packed), hn::Half<Bytes>(), to + kOfBlock);
+    }
+  }
+};
+
+template <int kChannels, class Rounding, class T>
+void HalveSamples(const T* upper, const T* lower, T* dst, ptrdiff_t begin, ptrdiff_t n) {
+  for (ptrdiff_t i = begin; i < n; ++i) {
+    const ptrdiff_t at = 2 * (i - i % kChannels) + i % kChannels;
+    const auto pair = [&](const T* row) { return LoadScalar(row + at) + LoadScalar(row + at + kChannels); };
+    StoreScalar(dst + i, static_cast<T>(Rounding::Quarter(pair(upper) + pair(lower))));
+  }
+}
+
+// The last samples, as many as a vector has, by copies: vectors touch more than these.
+template <class Rounding, class Vectors, class T>
+void HalveStaged(const T* upper, const T* lower, T* dst) {
+  constexpr ptrdiff_t kStep = Vectors::kStep;
+  T rows[2][2 * kStep + Vectors::kSpare], means[kStep + Vectors::kSpare];
+  std::memcpy(rows[0], upper, 2 * kStep * sizeof(T));
+  std::memcpy(rows[1], lower, 2 * kStep * sizeof(T));
+  Vectors::template Halve<Rounding>(rows[0], rows[1], means);
+  std::memcpy(dst, means, kStep * sizeof(T));
 }
 
 // n samples. `ahead` is how many bytes on the next two rows lie, which are fetched meanwhile: new rows are too short
 // for the CPU to notice their pattern in time.
 template <int kChannels, class Rounding, class T>
 bool HalveRow(const T* upper, const T* lower, ptrdiff_t ahead, T* dst, ptrdiff_t n) {
-  constexpr ptrdiff_t kLanes = hn::MaxLanes(hn::ScalableTag<T>());
+  using Vectors = HalfVectors<kChannels, T>;
   const auto fetch = [&](const T* row) HWY_ATTR { hwy::Prefetch(reinterpret_cast<const uint8_t*>(row) + ahead); };
   ptrdiff_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) {
+  for (; i + Vectors::kStep + Vectors::kSpare <= n; i += Vectors::kStep) {
     fetch(upper + 2 * i);
     fetch(lower + 2 * i);
-    hn::StoreU(Means<kChannels, Rounding>(upper + 2 * i, lower + 2 * i), hn::ScalableTag<T>(), dst + i);
+    Vectors::template Halve<Rounding>(upper + 2 * i, lower + 2 * i, dst + i);
   }
-  for (; i < n; ++i) {
-    const ptrdiff_t at = 2 * (i - i % kChannels) + i % kChannels;
-    const auto pair = [&](const T* row) { return LoadScalar(row + at) + LoadScalar(row + at + kChannels); };
-    StoreScalar(dst + i, static_cast<T>(Rounding::Quarter(pair(upper) + pair(lower))));
+  if (Vectors::kSpare == 0 || n < Vectors::kStep) {
+    HalveSamples<kChannels, Rounding>(upper, lower, dst, i, n);
+  } else {
+    for (; i < n; i += Vectors::kStep) {
+      const ptrdiff_t at = std::min(i, n - Vectors::kStep);
+      HalveStaged<Rounding, Vectors>(upper + 2 * at, lower + 2 * at, dst + at);
+    }
   }
   return true;
 }
@@ -117,30 +188,43 @@ struct Midpoints {
   }
 };
 
+// Samples of two rows for a vector of means, and those of the next pixels.
+template <int kChannels, class D, class V = hn::Vec<D>>
+HWY_INLINE void LoadPairs(D d, const float* row, V& first, V& second) {
+  if constexpr (kChannels == 1 && hn::MaxLanes(d) > 1) {
+    hn::LoadInterleaved2(d, row, first, second);
+  } else if constexpr (hn::MaxLanes(d) > kChannels) {
+    const auto lower = hn::LoadU(d, row), upper = hn::LoadU(d, row + hn::MaxLanes(d));
+    first = hn::ConcatLowerLower(d, upper, lower), second = hn::ConcatUpperUpper(d, upper, lower);
+  } else {
+    first = hn::LoadU(d, row), second = hn::LoadU(d, row + kChannels);
+  }
+}
+
 // n samples. Returns whether all of them are finite.
 template <int kChannels, class Means>
-bool HalveRow(const float* upper, const float* lower, ptrdiff_t, float* dst, ptrdiff_t n) {
+bool HalveRow(const float* upper, const float* lower, ptrdiff_t ahead, float* dst, ptrdiff_t n) {
+  const auto fetch = [&](const float* row) HWY_ATTR { hwy::Prefetch(reinterpret_cast<const uint8_t*>(row) + ahead); };
   const auto halve = [&](auto d, ptrdiff_t i, auto& check) HWY_ATTR {
     hn::Vec<decltype(d)> u0, u1, l0, l1;
-    if constexpr (kChannels == 1 && hn::MaxLanes(d) > 1) {
-      hn::LoadInterleaved2(d, upper + 2 * i, u0, u1);
-      hn::LoadInterleaved2(d, lower + 2 * i, l0, l1);
-    } else {
-      u0 = hn::LoadU(d, upper + 2 * i), u1 = hn::LoadU(d, upper + 2 * i + kChannels);
-      l0 = hn::LoadU(d, lower + 2 * i), l1 = hn::LoadU(d, lower + 2 * i + kChannels);
-    }
+    LoadPairs<kChannels>(d, upper + 2 * i, u0, u1);
+    LoadPairs<kChannels>(d, lower + 2 * i, l0, l1);
     const auto mean = Means::Mean(d, u0, u1, l0, l1);
     hn::StoreU(mean, d, dst + i);
     check = hn::Add(check, hn::Sub(mean, mean));
   };
-  const std::conditional_t<kChannels == 1, hn::ScalableTag<float>, hn::Full128<float>> d;
-  const hn::CappedTag<float, 1> single;
+  const std::conditional_t<kChannels == 1, hn::ScalableTag<float>, hn::CappedTag<float, 8>> d;
+  const hn::CappedTag<float, kChannels> single;  // a pixel
   auto check = hn::Zero(d);
   auto last = hn::Zero(single);
   ptrdiff_t i = 0;
-  for (; i + static_cast<ptrdiff_t>(hn::MaxLanes(d)) <= n; i += hn::MaxLanes(d)) halve(d, i, check);
-  for (; i < n; ++i) halve(single, i, last);
-  return hn::AllTrue(d, hn::Eq(check, hn::Zero(d))) && hn::GetLane(last) == 0;
+  for (; i + static_cast<ptrdiff_t>(hn::MaxLanes(d)) <= n; i += hn::MaxLanes(d)) {
+    fetch(upper + 2 * i);
+    fetch(lower + 2 * i);
+    halve(d, i, check);
+  }
+  for (; i < n; i += kChannels) halve(single, i, last);
+  return hn::AllTrue(d, hn::Eq(check, hn::Zero(d))) && hn::AllTrue(single, hn::Eq(last, hn::Zero(single)));
 }
 
 inline bool IsHalf(const ResizeRecord& record) {
@@ -159,12 +243,16 @@ bool HalveRows(const ResizeCall<T>& call, const Tile& tile) {
   return areFinite;
 }
 
-// False where the tile is not half of its source, has pixels of two or three channels, or where not all is finite.
+// False where the tile is not half of its source, has pixels of two channels or of three floats, or where not all is
+// finite.
 template <class Means, class T>
 bool Halve(const ResizeCall<T>& call, const ResizeRecord& record, const Tile& tile) {
   if (!IsHalf(record)) return false;
   switch (Channels(call.src.layout)) {
     case 1: return HalveRows<1, Means>(call, tile);
+    case 3:
+      if constexpr (std::is_integral_v<T>) return HalveRows<3, Means>(call, tile);
+      return false;
     case 4: return HalveRows<4, Means>(call, tile);
     default: return false;
   }

@@ -88,6 +88,7 @@ TEST(Resize, EveryMember) {
         if (!m.Is(qvpInterpolationSuper)) Check(m, *function, {width, 7}, {width * 3 / 2, 10});
       }
       Check(m, *function, {80, 6}, {5, 2});
+      for (const int half : {3, 31}) Check(m, *function, {2 * half, 8}, {half, 4});
     }
   }
 }
