@@ -55,7 +55,8 @@ void AddImage(const Image<const T>& src, Size roi, double (*moments)[16]) {
     for (ptrdiff_t x = 0; x < roi.width; x += kStretch<T>) {
       const int n = static_cast<int>(std::min(kStretch<T>, roi.width - x));
       ForEachChannel(src.Row(y) + x * Channels(src.layout), n, src.layout, [&](int c, const T* samples) {
-        const PowerSums<double> more = Shifted<double>(SumsOfStretch(samples, n), static_cast<double>(x));
+        PowerSums<double> more = SumsOfStretch(samples, n);
+        if (x > 0 || !std::is_integral_v<T>) more = Shifted<double>(more, static_cast<double>(x));
         for (int m = 0; m < 4; ++m) row[c].s[m] += more.s[m];
       });
     }
