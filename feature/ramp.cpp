@@ -52,7 +52,10 @@ struct Plane {
 class RowStart {
  public:
   RowStart(const Plane& plane, Layout layout)
-      : start_(Doubles(), plane.start, layout), slope_(Doubles(), plane.slopeY, layout), offset_(plane.offset.y) {}
+      : start_(Doubles(), plane.start, layout),
+        slope_(Doubles(), plane.slopeY, layout),
+        offset_(plane.offset.y),
+        period_(layout == Layout::kC1 ? 1 : kPeriod) {}
 
   // For vectors of kSamples.
   template <ptrdiff_t kSamples>
@@ -63,12 +66,13 @@ class RowStart {
       hn::StoreU(hn::Add(start_.From(i), hn::Mul(slope_.From(i), place)), d, lanes_ + i);
     }
   }
-  HWY_INLINE const double* From(ptrdiff_t sample) const { return lanes_ + sample % kPeriod; }
+  HWY_INLINE const double* From(ptrdiff_t sample) const { return period_ == 1 ? lanes_ : lanes_ + sample % kPeriod; }
 
  private:
   static constexpr ptrdiff_t kPeriod = 12, kLanes = hn::MaxLanes(Doubles());
   PerChannel<Doubles> start_, slope_;
   int64_t offset_;
+  ptrdiff_t period_;  // of one channel all lanes are alike: what was stored as a vector is loaded as one
   HWY_ALIGN double lanes_[kPeriod + kRoom + kLanes];
 };
 
