@@ -12,8 +12,7 @@ using GatherTag = hn::CappedTag<uint8_t, 32>;
 inline constexpr ptrdiff_t kGatherBytes = hn::MaxLanes(GatherTag()), kGatherBlocks = kGatherBytes / kBlockBytes;
 
 // What a lane of the gathered vector is made of: the bytes at `first` and, `apart` bytes behind it, a second one. The
-// lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each. For samples of two
-// bytes a lane of 4 has two of them.
+// lane has `lane` bytes: 1 for the first byte alone, 2 for both, 4 for both with zeros behind each.
 struct GatherShape {
   int lane, channels, apart;
   int leastLoads = 1;
@@ -127,9 +126,9 @@ class Gather {
       mask[0] = at;
       if (shape.lane == 2) mask[1] = second;
       if (shape.lane != 4) continue;
-      mask[1] = shape.sampleBytes == 2 ? at + 1 : 0x80;
+      mask[1] = 0x80;
       mask[2] = second;
-      mask[3] = shape.sampleBytes == 2 ? second + 1 : 0x80;
+      mask[3] = 0x80;
     }
     return static_cast<int32_t>(offset);
   }

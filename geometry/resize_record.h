@@ -119,14 +119,6 @@ struct ResizeRecord {
 };
 static_assert(sizeof(ResizeAxis) == 12 * 4 && sizeof(ResizeRecord) == 49 * 4);
 
-// How much of the source position `first + k` the destination position j covers, in units of 1 / q: j covers
-// [j p, (j + 1) p), and `first` is the position that j p lies in.
-inline int64_t Overlap(const ResizeAxis& axis, int64_t j, int64_t k) {
-  const int64_t p = axis.p, q = axis.q, at = j * p / q + k;
-  const int64_t begin = std::max(j * p, at * q), end = std::min((j + 1) * p, (at + 1) * q);
-  return std::max<int64_t>(end - begin, 0);
-}
-
 // The area of destination position j on an axis of a frame, in units of 1 / (Units q) pixels: it has Units p of them.
 // That of chroma on luma samples begins (p - q) / 4 q pixels earlier than that of other samples.
 struct FrameArea {
