@@ -40,7 +40,8 @@ struct By {
   static QvpStatus Warp(const Call<T>& call) {
     if (const QvpStatus failed = Check(call)) return failed;
     if (RecordOf(call.spec)->interpolation != kMethod) return qvpStatusContextMatch;
-    return MakeTile(call, [&](const Record& record, Size size) { WarpTile<sampling::TapsOf(kMethod)>(call, record, size); });
+    return MakeTile(call,
+                    [&](const Record& record, Size size) { WarpTile<sampling::TapsOf(kMethod)>(call, record, size); });
   }
 };
 
@@ -75,9 +76,10 @@ struct ByRecord {
 #define QVP_WARP_LAYOUT(Kind_, Method, type, layout)           \
   QVP_WARP(Kind_, Method, type, layout, , int, , Form::kPlain) \
   QVP_WARP(Kind_, Method, type, layout, _L, QvpSizeL, L, Form::kWide)
-#define QVP_WARP_TYPE(Method, type)                                                                                 \
-  template void qvp::warp::WarpTile<sampling::TapsOf(qvpInterpolation##Method)>(const Call<Qvp##type>&, const Record&, Size); \
-  QVP_C1_C3_C4(QVP_WARP_LAYOUT, Affine, Method, type)                                                               \
+#define QVP_WARP_TYPE(Method, type)                                                                                    \
+  template void qvp::warp::WarpTile<sampling::TapsOf(qvpInterpolation##Method)>(const Call<Qvp##type>&, const Record&, \
+                                                                                Size);                                 \
+  QVP_C1_C3_C4(QVP_WARP_LAYOUT, Affine, Method, type)                                                                  \
   QVP_C1_C3_C4(QVP_WARP_LAYOUT, Perspective, Method, type)
 #define QVP_WARP_TYPES(Method) \
   QVP_WARP_TYPE(Method, 8u)    \
