@@ -222,7 +222,8 @@ void CheckLayouts(const Export& function, QvpiLookupMethod method, int pixels) {
     test::CheckElements(
         function, {pixels, 2}, {{"pSpec", record.spec()}},
         [&](test::Samples& image) {
-          image.Fill([&](int, int) { return Real(random.Next() % 1600) / (std::is_integral_v<T> ? 1 : 16); });
+          const int most = sizeof(T) == 1 ? 255 : 1599;
+          image.Fill([&](int, int) { return Real(random.Next() % (most + 1)) / (std::is_integral_v<T> ? 1 : 16); });
         },
         [&](Real, Real v, int c) {
           const T from = static_cast<T>(v);
