@@ -48,7 +48,7 @@ inline constexpr int kFew = 0, kMany = -1;
 // are loops of their own, and if all taps are read, else kFew or kMany.
 template <class Weights, int... kOwn, class Filter>
 HWY_INLINE void FilterByCount(int count, bool areAllRead, const Filter& filter) {
-  const auto isOwn = [&](auto own) {
+  [[maybe_unused]] const auto isOwn = [&](auto own) {
     if constexpr (own.value <= Weights::kMostTaps) {
       if (areAllRead && count == own.value) return filter(own), true;
     }
