@@ -44,16 +44,58 @@ QvpStatus CheckRange(Size roi, Operands images, double low, double high) {
   return high - low > 0 && high - low < __builtin_inf() ? qvpStatusNoError : qvpStatusScaleRange;
 }
 
-// In double precision. 255 gives the upper end itself, whatever the product is rounded to.
+// first + v (last - first) / 255 of bytes v in double precision. 255 gives the upper end itself, whatever the product
+// is rounded to.
+struct ExactFloats {
+  double first, last, factor = (last - first) / 255;
+
+  template <class V>
+  HWY_INLINE V operator()(V v) const {
+    const hn::DFromV<V> d;
+    const V inside = hn::Add(hn::Set(d, first), hn::Mul(v, hn::Set(d, factor)));
+    return hn::IfThenElse(hn::Eq(v, hn::Set(d, 255.0)), hn::Set(d, last), inside);
+  }
+};
+
+// The same as (255 first + v (last - first)) / 255 in single precision: a numerator that ends of few digits leave
+// exact, by 1 / 255 in two parts.
+struct SingleFloats {
+  static constexpr float kInverse = 1.0f / 255, kRest = static_cast<float>(1.0 / 255 - static_cast<double>(kInverse));
+  float base, range;
+
+  template <class V>
+  HWY_INLINE V operator()(V v) const {
+    const hn::DFromV<V> d;
+    const V numerator = hn::MulAdd(v, hn::Set(d, range), hn::Set(d, base));
+    return hn::MulAdd(numerator, hn::Set(d, kInverse), hn::Mul(numerator, hn::Set(d, kRest)));
+  }
+};
+
+// Whether all bytes become the same floats, bit for bit.
+bool AreSame(const ExactFloats& exact, const SingleFloats& single) {
+  static constexpr auto kBytes = [] {
+    std::array<uint8_t, 256> bytes{};
+    for (size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<uint8_t>(i);
+    return bytes;
+  }();
+  float expected[256], given[256];
+  MapRow<false>(hn::ScalableTag<double>(), expected, 256, exact, kBytes.data());
+  MapRow<false>(hn::ScalableTag<float>(), given, 256, single, kBytes.data());
+  return std::memcmp(expected, given, sizeof(expected)) == 0;
+}
+
+// Single precision takes a fraction of the time, so that from some pixels on it is worth trying whether it may stand
+// for double. Without fused products it hardly ever may.
 QvpStatus ToFloat(const Image<const uint8_t>& src, const Image<float>& dst, Size roi, float low, float high) {
   if (const QvpStatus failed = CheckRange(roi, {src, dst}, low, high)) return failed;
-  const double first = low, last = high, factor = (last - first) / 255;
-  const auto kernel = [=](auto v) HWY_ATTR {
-    const hn::DFromV<decltype(v)> d;
-    const auto inside = hn::Add(hn::Set(d, first), hn::Mul(v, hn::Set(d, factor)));
-    return hn::IfThenElse(hn::Eq(v, hn::Set(d, 255.0)), hn::Set(d, last), inside);
-  };
-  MapImages(hn::ScalableTag<double>(), kernel, roi, dst, src);
+  const ExactFloats exact{low, high};
+  const SingleFloats single{255 * low, high - low};
+  constexpr int64_t kWorthTrying = 1024;
+  if (HWY_NATIVE_FMA && int64_t{roi.width} * roi.height >= kWorthTrying && AreSame(exact, single)) {
+    MapImages(hn::ScalableTag<float>(), single, roi, dst, src);
+  } else {
+    MapImages(hn::ScalableTag<double>(), exact, roi, dst, src);
+  }
   return qvpStatusNoError;
 }
 

@@ -35,6 +35,9 @@ void Rows(QvpiSize size, bool isAsked) {
   AddRow<uint8_t, float>(
       "convert 8u32f C3", size, 3, asked(1.0), [](auto... a) { return qvpiConvert_8u32f_C3R(a...); },
       [](const cv::Mat& a, cv::Mat& b) { a.convertTo(b, CV_32F); });
+  AddRow<uint8_t, float>(
+      "scale 8u32f C1", size, 1, asked(1.0), [](auto... a) { return qvpiScale_8u32f_C1R(a..., 0, 1); },
+      [](const cv::Mat& a, cv::Mat& b) { a.convertTo(b, CV_32F, 1.0 / 255); });
   AddRow<uint8_t, uint16_t>(
       "scale 8u16u C1", size, 1, asked(1.0), [](auto... a) { return qvpiScale_8u16u_C1R(a...); },
       [](const cv::Mat& a, cv::Mat& b) { a.convertTo(b, CV_16U, 257); });

@@ -62,11 +62,9 @@ void FilterPairsBy(const ColumnPlan<uint16_t>& plan, const Weights weights,
 template <size_t kRows, class Weights>
 void FilterPairsAcross(const ColumnPlan<uint16_t>& plan, const Weights& weights,
                        const std::array<const uint16_t*, kRows>& rows, const std::array<float*, kRows>& out) {
-  const int count = plan.taps.count;
-  const auto filter = count == 2   ? FilterPairsBy<2, kRows, Weights>
-                      : count == 4 ? FilterPairsBy<4, kRows, Weights>
-                                   : FilterPairsBy<6, kRows, Weights>;
-  filter(plan, weights, rows, out);
+  FilterByCount<Weights, 2, 4, 6>(plan.taps.count, true, [&](auto n) {
+    if constexpr (n.value > 0) FilterPairsBy<n.value>(plan, weights, rows, out);
+  });
 }
 
 }  // namespace qvp::resize

@@ -139,6 +139,24 @@ TEST(Scale, MapsRangesOfFloats) {
   }
 }
 
+// Large images may take another way, if it gives the same floats.
+TEST(Scale, GivesBytesTheSameFloatsInLargeImagesAsInSmallOnes) {
+  test::Random random(76);
+  std::vector<uint8_t> bytes(2048);
+  std::vector<float> large(2048), small(2048);
+  for (size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<uint8_t>(i);
+  for (int i = 0; i < 3000; ++i) {
+    const int digits = 1 + i % 24;  // of the ends; few leave exact products in single precision
+    const auto end = [&] { return std::ldexp(static_cast<float>(random.Next() % (1u << digits)), i % 50 - 30); };
+    const float low = i % 3 == 0 ? 0 : end() - end(), high = low + end();
+    if (!(high > low)) continue;
+    ASSERT_EQ(qvpiScale_8u32f_C1R(bytes.data(), 2048, large.data(), 8192, {2048, 1}, low, high), qvpStatusNoError);
+    ASSERT_EQ(qvpiScale_8u32f_C1R(bytes.data(), 512, small.data(), 2048, {512, 1}, low, high), qvpStatusNoError);
+    ASSERT_EQ(std::memcmp(large.data(), small.data(), 2048), 0) << low << " to " << high;
+    ASSERT_EQ(std::memcmp(large.data() + 1536, small.data(), 2048), 0) << low << " to " << high;
+  }
+}
+
 TEST(Scale, GivesBothEndsOfEveryRangeAndRefusesWhatIsNone) {
   test::Random random(77);
   const uint8_t bytes[2] = {0, 255};
