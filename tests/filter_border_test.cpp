@@ -215,7 +215,7 @@ void CheckExtremes(std::string_view type, QvpiSize kernel, int coefficient, int 
 }
 
 TEST(FilterBorder, NeverWrapsAround) {
-  for (const int coefficient : {INT16_MIN, -32767, -128, 127, 128, 32766, 32767}) {
+  for (const int coefficient : {INT16_MIN, -32767, -128, -64, 64, 127, 128, 32766, 32767}) {
     for (const int divisor : {1, 4096, 8421376, 100000000, -7}) {
       for (const QvpiSize kernel : {QvpiSize{1, 1}, {3, 2}, {16, 16}, {17, 17}}) {
         CheckExtremes("8u", kernel, coefficient, divisor);

@@ -139,12 +139,10 @@ TEST(Histogram, CountsInBinsOfEqualWidth) {
 
 // The levels are so close that many of them are one number, or are far from where a guess sees them.
 TEST(Histogram, DoesNotTrustGuessesBetweenCloseLevels) {
-  std::vector<std::vector<float>> levels(4, std::vector<float>(50, 1000001));
-  for (auto& l : levels) l[0] = 1000000;
-  levels[1] = {1e-42f, 0, 0, 0, 3e-42f};
-  levels[2] = {-3e38f, 0, 0, 3e38f};
-  levels[3] = {5, 0, 0, 5.000002f};
-  CheckAll(levels, true);
+  std::vector<float> close(50, 1000001);
+  close[0] = 1000000;
+  const std::vector<float> subnormal{1e-42f, 0, 0, 0, 3e-42f}, widest{-3e38f, 0, 0, 3e38f}, few{5, 0, 0, 5.000002f};
+  for (const auto& levels : {close, subnormal, widest, few}) CheckAll({4, levels}, true);
 }
 
 // Bounds of every size and sign, whose levels integers round: the bins of a small region are those of a large one.

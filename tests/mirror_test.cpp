@@ -87,6 +87,16 @@ TEST(RotateQuarter, MovesEveryPixelOfEveryMember) {
   }
 }
 
+TEST(Mirror, TakesOneImageForBothAsInPlace) {
+  for (int axis = 0; axis <= qvpAxisBoth; ++axis) {
+    test::Image<uint8_t> image(3 * 19, 7, 2);
+    test::Image<uint8_t> other(image);
+    ASSERT_EQ(qvpiMirror_8u_C3R(image.data(), image.step(), image.data(), image.step(), {19, 7}, QvpiAxis(axis)), 0);
+    ASSERT_EQ(qvpiMirror_8u_C3IR(other.data(), other.step(), {19, 7}, QvpiAxis(axis)), 0);
+    for (int i = 0; i < 7 * 57; ++i) ASSERT_EQ(image(i % 57, i / 57), other(i % 57, i / 57)) << "axis " << axis;
+  }
+}
+
 TEST(RotateQuarter, TurnsInPlaceByHalfAndTakesRowsUpwards) {
   constexpr int kWidth = 19, kHeight = 6;
   const QvpiSize roi{kWidth, kHeight};

@@ -181,6 +181,8 @@ TEST(Noise, KnownPixels) {
   EXPECT_EQ(noisy([](auto... k) { return qvpiNoiseSaltPepperInit(0.5, 0.5, 0, 255, k...); }),
             (Row{0, 100, 100, 100, 100, 0, 100, 255}));
   EXPECT_EQ(noisy([](auto... k) { return qvpiNoiseSaltPepperInit(0, 1, 0, 255, k...); }), Row(8, 100));
+  EXPECT_EQ(noisy([](auto... k) { return qvpiNoiseSaltPepperInit(0.5, 0, 0, 255, k...); }),
+            (Row{0, 100, 100, 100, 100, 0, 100, 0}));
 }
 
 TEST(Noise, LeavesNaN) {

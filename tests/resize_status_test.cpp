@@ -74,6 +74,7 @@ TEST(Resize, TileQueries) {
   int bytes = 0;
   EXPECT_EQ(qvpiResizeGetBufferSize_8u(record.spec(), {17, 8}, 3, &bytes), qvpStatusSizeWarning);
   EXPECT_EQ(bytes, 32 + 64 + 2 * 192 + 64);
+  EXPECT_EQ(qvpiResizeGetBufferSize_8u(record.spec(), {16, 8}, 3, &bytes), 0);
   EXPECT_EQ(qvpiResizeGetBufferSize_8u(record.spec(), {17, 8}, 5, &bytes), qvpStatusChannel);
   QvpSizeL wide = 0;
   EXPECT_EQ(qvpiResizeGetBufferSize_L(record.spec(), {17, 8}, 3, &wide), qvpStatusContextMatch);

@@ -225,6 +225,19 @@ bool IsOfItsOwn(const Export& function, QvpStatus status) {
   }
 }
 
+// A function that checks steps checks each. Those that resample may take any multiple of an element.
+void ExpectEachStep(const Export& function, const std::vector<Refusal>& refusals) {
+  if (Contains(function.name, "Resize") || Contains(function.name, "Warp")) return;
+  for (size_t place = 0; place < function.parameters.size(); ++place) {
+    if (!function.parameters[place].name.ends_with("Step")) continue;
+    const auto isIt = [&](const Refusal& refusal) {
+      return refusal.place == place && refusal.status == qvpStatusStep && int{refusal.argument.number} == 0;
+    };
+    EXPECT_TRUE(std::any_of(refusals.begin(), refusals.end(), isIt))
+        << function.name << " takes any " << function.parameters[place].name;
+  }
+}
+
 // One wrong argument after the other makes each of the usual statuses that a function documents. Of some it takes
 // several.
 void ExpectUsual(const Export& function, const std::vector<QvpStatus>& documented,
@@ -237,6 +250,7 @@ void ExpectUsual(const Export& function, const std::vector<QvpStatus>& documente
     const auto isIt = [&](const Refusal& refusal) { return refusal.status == status; };
     EXPECT_TRUE(!isUsual || std::any_of(refusals.begin(), refusals.end(), isIt))
         << function.name << " never " << status;
+    if (isUsual && status == qvpStatusStep) ExpectEachStep(function, refusals);
   }
 }
 

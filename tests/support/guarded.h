@@ -16,7 +16,10 @@ namespace test {
 
 class Block {
  public:
-  explicit Block(size_t bytes, Guard guard = Guard::kAfter) : bytes_(bytes), data_(Pages::Take(bytes, guard)) {}
+  // What it holds at first nothing may depend on.
+  explicit Block(size_t bytes, Guard guard = Guard::kAfter) : bytes_(bytes), data_(Pages::Take(bytes, guard)) {
+    std::memset(data_, 0xA5, std::min<size_t>(bytes, 1 << 20));
+  }
   Block(const Block&) = delete;
   ~Block() { Pages::Return(data_, bytes_); }
 
