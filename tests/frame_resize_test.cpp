@@ -254,6 +254,10 @@ TEST(FrameResize, HasLimitsOfSizesAndFactors) {
     return qvpiResize420GetSize(s, d, type, method, 1, &bytes, &init);
   };
   EXPECT_EQ(get({0, -1}, {1, 1}, 0), qvpStatusNoOperation);
+  for (const QvpiSize empty : {QvpiSize{0, 8}, {8, 0}}) {
+    EXPECT_EQ(get(empty, {8, 8}, 2), qvpStatusNoOperation);
+    EXPECT_EQ(get({8, 8}, empty, 2), qvpStatusNoOperation);
+  }
   EXPECT_EQ(get({8, 8}, {1, 1}, qvpInterpolationCubic), qvpStatusInterpolation);
   EXPECT_EQ(get({2, 2}, {1, 1}, qvpInterpolationLinear), qvpStatusSize);
   EXPECT_EQ(get({3, 3}, {1, 1}, qvpInterpolationLinear), qvpStatusAntialiasIgnored);

@@ -123,6 +123,7 @@ TEST(Histogram, CountsBetweenAnyLevels) {
   const std::vector<float> few{-4.5f, 0.5f, 10.2f, 256}, two{-10, 300}, many = Growing(103, -40, 1),
                                                                         most = Growing(700, -300, 0.3f);
   CheckAll({few, two, many, most}, false);
+  CheckAll({4, Growing(1500, -300, 0.3f)}, false, {{37, 3}, {300, 2}});
 }
 
 TEST(Histogram, CountsInBinsOfEqualWidth) {

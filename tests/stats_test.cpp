@@ -170,13 +170,17 @@ TEST(Norms, SkipNaNOnlyWhenTheyLookForTheLargest) {
   }
 }
 
-TEST(Norms, DifferBetweenFastAndAccurateButNotByMuch) {
+TEST(Reductions, DifferBetweenFastAndAccurateButNotByMuch) {
   const std::vector<float> pixels(1000000, 0.1f);
-  const double fast = ResultOf("Norm_L1_32f_C1R", pixels.data(), 4000, {1000, 1000}, qvpAlgHintFast),
-               accurate = ResultOf("Norm_L1_32f_C1R", pixels.data(), 4000, {1000, 1000}, qvpAlgHintAccurate);
-  EXPECT_NE(fast, accurate);
-  EXPECT_NEAR(fast, accurate, accurate * 1e-3);
-  EXPECT_NEAR(accurate, 1e6 * double{0.1f}, 1e-6);
+  for (const auto& [name, exact] : {std::pair{"Norm_L1_32f_C1R", 1e6 * double{0.1f}},
+                                    {"Sum_32f_C1R", 1e6 * double{0.1f}},
+                                    {"Mean_32f_C1R", double{0.1f}}}) {
+    const double fast = ResultOf(name, pixels.data(), 4000, {1000, 1000}, qvpAlgHintFast),
+                 accurate = ResultOf(name, pixels.data(), 4000, {1000, 1000}, qvpAlgHintAccurate);
+    EXPECT_NE(fast, accurate) << name;
+    EXPECT_NEAR(fast, accurate, accurate * 1e-3) << name;
+    EXPECT_NEAR(accurate, exact, exact * 1e-11) << name;
+  }
 }
 
 TEST(Reductions, TakeAnyStepThatIsNotChecked) {

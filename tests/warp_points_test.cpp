@@ -54,6 +54,27 @@ TEST(Warp, TakesKnownPoints) {
   ExpectTaken(quad, {80, 50}, {40, 20}, {39.92508395763, 22.95918367347}, 1e-10);
 }
 
+// The transform has an inverse in whole numbers.
+TEST(Warp, ForwardLeadsPixelsWhereTheTransformSays) {
+  const QvpiSize from{12, 9}, to{40, 30};
+  const double coeffs[2][3] = {{2, 1, -3}, {1, 1, 4}};
+  int bytes = 0, initBytes = 0;
+  ASSERT_EQ(qvpiWarpAffineGetSize(from, to, qvp8u, coeffs, qvpInterpolationNearest, qvpWarpForward,
+                                  qvpBorderTransparent, &bytes, &initBytes),
+            0);
+  const test::Block record(bytes), buffer(64);
+  auto* const spec = reinterpret_cast<QvpiWarpSpec*>(record.data());
+  ASSERT_EQ(
+      qvpiWarpAffineNearestInit(from, to, qvp8u, coeffs, qvpWarpForward, 1, qvpBorderTransparent, nullptr, 0, spec), 0);
+  uint8_t src[9][12], dst[30][40] = {};
+  for (int i = 0; i < 108; ++i) src[i / 12][i % 12] = static_cast<uint8_t>(i + 1);
+  ASSERT_EQ(qvpiWarpAffineNearest_8u_C1R(src[0], 12, dst[0], 40, {0, 0}, to, spec, buffer.data()), 0);
+  for (int i = 0; i < 108; ++i) {
+    const int x = i % 12, y = i / 12;
+    if (2 * x + y >= 3) ASSERT_EQ(dst[x + y + 4][2 * x + y - 3], i + 1) << x << ',' << y;
+  }
+}
+
 // Without a product of coordinates the way back is affine, to the bit where points are not rounded.
 TEST(Warp, WithoutATwistBilinearIsAffine) {
   const Map affine{Kind::kAffine, {0.26, 0.12, 1.3, -0.1, 0.6, 6.2}};
