@@ -28,7 +28,7 @@ TESTS = {
     "feature": ["hog", "jaehne", "lbp", "noise", "ramp", "tiles"],
     "filter": ["copy_border", "filter", "tiles"],
     "geometry": ["decimate", "frame", "mirror", "remap", "resize", "transforms", "warp"],
-    "signal": ["arith", "dct", "fourier", "noise", "window"],
+    "signal": ["arith", "convolve", "dct", "deconvolve", "fourier", "match", "noise", "window"],
     "stats": ["histogram", "match", "moments", "quality_index", "ssim", "stats"],
     "transform": ["convolve", "dct", "deconvolve", "fourier", "wavelet", "window"],
     "volume": ["volume"],
