@@ -159,14 +159,15 @@ TEST(Lookup, RoundsTheExactCurvesOfIntegers) {
   CheckIntegers<int16_t>("16s", 4);
 }
 
-// Levels at distances that differ by up to 2^30, with runs of equal values and turns.
+// Levels at distances that differ by up to 2^30, with runs of equal values and turns, steep or flat.
 Curve RealCurve(Random& random, int n, bool isEven) {
   const auto unit = [&] { return static_cast<float>(random.Next() >> 8) * 0x1p-24f; };
   Curve curve;
   double level = -50 * unit();
+  const float scale = std::ldexp(1.0f, n % 3 * -6);
   for (int k = 0; k < n; ++k) {
     curve.levels.push_back(static_cast<float>(level));
-    curve.values.push_back(k > 0 && random.Next() % 5 == 0 ? curve.values[k - 1] : 300 * unit() - 100);
+    curve.values.push_back(k > 0 && random.Next() % 5 == 0 ? curve.values[k - 1] : (300 * unit() - 100) * scale);
     const double gap = isEven ? 1 : std::ldexp(1 + unit(), -static_cast<int>(random.Next() % 24));
     level = std::max<double>(level + gap, std::nextafterf(curve.levels[k], INFINITY));
   }
