@@ -10,8 +10,8 @@
 
 namespace qvp::resize {
 
-// Bounds of the tables, of the sums down, which fit int16 (255 * 128 < 2^15), and of those of
-// whole areas, which are exact in single floats: below 255 2^16 < 2^24.
+// Bounds of the tables, of the sums down, which fit int16 (255 * 128 < 2^15), and of those of whole areas, which are
+// exact in single floats (255 * 2^16 < 2^24).
 inline constexpr int kMostAreaPeriod = 64, kMostAreaPairs = 8, kMostPartsDown = 128, kMostAreaParts = 1 << 16;
 
 inline bool AreAreasWhole(const Period& across, const Period& down) {
