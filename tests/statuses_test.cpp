@@ -12,6 +12,7 @@ namespace {
 using test::Argument;
 using test::Export;
 using test::Exports;
+using test::Name;
 using test::Parameter;
 using test::Scene;
 
@@ -94,6 +95,13 @@ class WrongArguments {
          {kFirst, kSecond, &Argument::third, &Argument::fourth, &Argument::fifth, &Argument::sixth}) {
       Add(member, -1);
     }
+    const std::string_view name = function_.parameters[place_].name;
+    if (name == "dstOffset" || name == "dstRoiOffset" || name == "anchor") {
+      for (const auto member : {kFirst, kSecond, &Argument::third}) Add(member, 1 << 20);
+    }
+    if (type_ == "QvpDataType" && IsQuery(function_)) {
+      for (int type = qvp8u; type <= qvp64f; ++type) Add(kFirst, type);
+    }
     const bool isSize = Contains(type_, "Size") || Contains(type_, "Volume");
     if (isSize) AddSizes();
     if (Contains(type_, "Border")) {
@@ -110,6 +118,9 @@ class WrongArguments {
     // Records of warps have one size.
     if (!IsQuery(function_) && !(Contains(function_.name, "Warp") && Contains(function_.name, "Init"))) return;
     list.push_back(QvprVolume{huge, huge, huge});
+    if (Contains(function_.name, "Resize")) {  // averages only reduce, each axis
+      for (const auto member : {&Argument::number, &Argument::second, &Argument::third}) Add(member, 1 << 20);
+    }
     if (isMask) list.insert(list.end(), {QvpiSize{1, 257}, QvpiSize{1, 1025}});
   }
 
@@ -180,12 +191,14 @@ std::vector<QvpStatus> DocumentedBy(const Export& function) {
 }
 
 // Of two wrong arguments the one tells the status whose check comes first. Where two checks have the same status, that
-// is not known; a border value is looked at for one border type alone.
+// is not known; a border value is looked at for one border type alone, and two wrong types may suit each other.
 void ExpectFirst(Scene& scene, const std::vector<QvpStatus>& documented, const Refusal& one, const Refusal& other) {
   const auto isOnce = [&](QvpStatus status) { return std::count(documented.begin(), documented.end(), status) == 1; };
   const std::string_view first = scene.function().parameters[one.place].name,
                          second = scene.function().parameters[other.place].name;
   if (!isOnce(one.status) || !isOnce(other.status) || (first == "borderType" && second.ends_with("orderValue"))) return;
+  const auto isType = [&](const Refusal& r) { return scene.function().parameters[r.place].type == "QvpDataType"; };
+  if (isType(one) && isType(other)) return;
   const std::vector<Argument> right = scene.arguments;
   scene.arguments[one.place] = one.argument;
   scene.arguments[other.place] = other.argument;
@@ -274,9 +287,33 @@ TEST(EveryFunction, RefusesInTheDocumentedOrder) {
   }
 }
 
+// Records of these families serve pixels of the type and of the number of channels that they were made for alone.
+TEST(EveryFunction, RefusesRecordsForOtherPixels) {
+  const auto isOfPixels = [](std::string_view type) {
+    const auto names = {"Bilateral", "Gauss", "LeastSquares", "Separable", "QvpiWarp", "Qvpr"};
+    return type.starts_with("const") &&
+           std::any_of(names.begin(), names.end(), [&](auto n) { return Contains(type, n); });
+  };
+  for (const Export& function : Exports()) {
+    const Name name(function.name);
+    const int place = function.Find("pSpec");
+    if (place < 0 || name.layout.empty() || !isOfPixels(function.parameters[place].type)) continue;
+    Scene scene(function, kRoi, 1);
+    const std::vector<uint8_t> before = ContentsOf(scene);
+    for (const Export* other : test::FunctionsOf({name.operation})) {
+      const Name made(other->name);
+      if (made.isWide != name.isWide || (made.type == name.type && made.channels == name.channels)) continue;
+      const Scene others(*other, kRoi, 1);
+      scene.arguments[place] = others.arguments[other->Find("pSpec")];
+      EXPECT_EQ(scene.Call(), qvpStatusContextMatch) << function.name << " with a record of " << other->name;
+      EXPECT_EQ(ContentsOf(scene), before) << function.name << " with a record of " << other->name;
+    }
+  }
+}
+
 // Pointers that an array of them has for a call.
 int PlanesOf(const std::string& function) {
-  const test::Name name(function);
+  const Name name(function);
   if (!name.layout.empty()) return name.written;
   return function == "qvpiHistogramInit" || function == "qvpiLookupInit" ? 3 : 4;
 }
