@@ -37,6 +37,21 @@ TEST(Warp, RefusesQuadranglesAndSizes) {
   }
 }
 
+// Products of the determinant that differ by less than a part in 10^10 are equal; the second is looked at alone where
+// the first is zero.
+TEST(Warp, RefusesTransformsThatFlatten) {
+  const auto statusOf = [](double a, double b, double c, double d) {
+    const double coeffs[2][3] = {{a, b, 7}, {c, d, -9}};
+    int spec = 0, init = 0;
+    return qvpiWarpAffineGetSize({30, 20}, {30, 20}, qvp8u, coeffs, qvpInterpolationNearest, qvpWarpForward,
+                                 qvpBorderTransparent, &spec, &init);
+  };
+  EXPECT_EQ(statusOf(1, 1 - 2e-10, 1, 1), 0);
+  EXPECT_EQ(statusOf(1, 1 - 5e-11, 1, 1), qvpStatusCoefficient);
+  EXPECT_EQ(statusOf(0, 2e-10, 1, 0), 0);
+  EXPECT_EQ(statusOf(0, 5e-11, 1, 0), qvpStatusCoefficient);
+}
+
 TEST(Warp, OtherInits) {
   const double tiny[9] = {1e-6, 0, 0, 0, 1e-6, 0, 0, 0, 1};
   const double fold[8] = {0.5, 1, 0, 0, 0, 0, -1, 0};
