@@ -131,7 +131,7 @@ struct Pair {
 };
 constexpr Pair kPairs[] = {{{1, 1}, {1, 1}},     {{7, 5}, {3, 3}},   {{40, 9}, {5, 4}},  {{33, 12}, {2, 6}},
                            {{64, 50}, {23, 19}}, {{5, 40}, {20, 3}}, {{3, 3}, {17, 20}}, {{19, 1}, {1, 19}},
-                           {{131, 3}, {3, 3}},   {{70, 41}, {5, 5}}};
+                           {{131, 3}, {3, 3}},   {{70, 41}, {5, 5}}, {{9, 20}, {4, 17}}, {{30, 9}, {3, 26}}};
 
 std::vector<const Export*> Convolutions() {
   return test::FunctionsOf({"ConvolveFull", "ConvolveSame", "ConvolveValid"});

@@ -24,6 +24,13 @@ struct Operand {
     Random random(seed);
     pixels.Fill([&](int, int) { return ValueOf(content, pixels.element(), random); });
   }
+  // Gives all integers of a channel the middle of their range.
+  void Flatten(int channel) {
+    const Real middle = (pixels.element().lowest + pixels.element().highest + 1) / 2;
+    for (int i = 0; i < size.width * size.height; ++i) {
+      pixels.Put(i % size.width * channels + channel, i / size.width, middle);
+    }
+  }
   // 0 outside.
   double At(int x, int y, int channel) const {
     if (x < 0 || y < 0 || x >= size.width || y >= size.height) return 0;
