@@ -117,11 +117,12 @@ void Check(const Export& function, const Request& r) {
 
 const Resizing kMethods[] = {kNearest, kLinear, kSpline, kCubic, kLanczos2, kLanczos3, kSuper};
 
-// Enlargement, reduction, axes left alone, and single voxels; averages only reduce.
+// Enlargement, reduction, axes left alone, one and all, and single voxels; averages only reduce.
 TEST(VolumeResize, EveryMemberMethodAndBorder) {
   constexpr QvprVolume kSizes[][2] = {{{5, 4, 3}, {9, 7, 8}},   {{1, 1, 1}, {3, 2, 2}},    {{40, 9, 7}, {23, 4, 5}},
                                       {{37, 5, 4}, {37, 5, 7}}, {{6, 8, 5}, {20, 8, 5}},   {{66, 3, 4}, {33, 3, 2}},
-                                      {{7, 9, 2}, {7, 4, 2}},   {{150, 3, 3}, {16, 3, 1}}, {{2, 2, 6}, {2, 2, 9}}};
+                                      {{7, 9, 2}, {7, 4, 2}},   {{150, 3, 3}, {16, 3, 1}}, {{2, 2, 6}, {2, 2, 9}},
+                                      {{9, 4, 3}, {9, 4, 3}}};
   int turn = 0;
   for (const Export* function : test::FunctionsOf({"qvprResize"})) {
     for (const Resizing& method : kMethods) {
