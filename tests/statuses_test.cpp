@@ -90,24 +90,26 @@ class WrongArguments {
   }
 
   void AddSelectorsAndSizes() {
-    constexpr auto kFirst = &Argument::number, kSecond = &Argument::second;
-    for (const auto member :
-         {kFirst, kSecond, &Argument::third, &Argument::fourth, &Argument::fifth, &Argument::sixth}) {
+    for (const auto member : {&Argument::number, &Argument::second, &Argument::third, &Argument::fourth,
+                              &Argument::fifth, &Argument::sixth}) {
       Add(member, -1);
+    }
+    Contains(type_, "Size") || Contains(type_, "Volume") ? AddSizes() : AddSelectors();
+  }
+
+  // Codes that are none, all kinds of borders, all types where nothing is made for them, and places far outside.
+  void AddSelectors() {
+    Add(&Argument::number, 0x10F);
+    if (Contains(type_, "Border")) {
+      for (int kind = 0; kind < 8; ++kind) Add(&Argument::number, kind);
+    }
+    if (type_ == "QvpDataType" && IsQuery(function_)) {
+      for (int type = qvp8u; type <= qvp64f; ++type) Add(&Argument::number, type);
     }
     const std::string_view name = function_.parameters[place_].name;
     if (name == "dstOffset" || name == "dstRoiOffset" || name == "anchor") {
-      for (const auto member : {kFirst, kSecond, &Argument::third}) Add(member, 1 << 20);
+      for (const auto member : {&Argument::number, &Argument::second, &Argument::third}) Add(member, 1 << 20);
     }
-    if (type_ == "QvpDataType" && IsQuery(function_)) {
-      for (int type = qvp8u; type <= qvp64f; ++type) Add(kFirst, type);
-    }
-    const bool isSize = Contains(type_, "Size") || Contains(type_, "Volume");
-    if (isSize) AddSizes();
-    if (Contains(type_, "Border")) {
-      for (int kind = 0; kind < 8; ++kind) Add(kFirst, kind);
-    }
-    if (!isSize) Add(kFirst, 0x10F);
   }
 
   void AddSizes() {

@@ -255,20 +255,19 @@ TEST(VolumeResize, ReadsNoMoreThanItTells) {
   }
 }
 
-TEST(VolumeResize, KnowsItsPlanesRecordsAndSizes) {
-  const Record record(kLinear, {4, 4, 4}, {8, 8, 8}, qvp16u), bytes(kLinear, {4, 4, 4}, {8, 8, 8}, qvp8u);
+TEST(VolumeResize, KnowsItsPlanesAndSizes) {
+  const Record record(kLinear, {4, 4, 4}, {8, 8, 8}, qvp16u);
   const Block buffer(record.BufferSize({8, 8, 8}));
   Qvp16u voxels[16] = {}, found[64];
   const Qvp16u* planes[] = {voxels, voxels, voxels, nullptr};
   Qvp16u* results[] = {found, nullptr};
-  const auto resize = [&](QvprVolume size, const Record& by, QvprPoint at) {
-    return qvprResize_16u_C1PV(planes, 8, results, 16, at, size, qvpBorderMirror, by.spec(), buffer.data());
+  const auto resize = [&](QvprVolume size, QvprPoint at) {
+    return qvprResize_16u_C1PV(planes, 8, results, 16, at, size, qvpBorderMirror, record.spec(), buffer.data());
   };
-  EXPECT_EQ(resize({8, 8, 1}, bytes, {0, 0, 0}), qvpStatusContextMatch);
-  EXPECT_EQ(resize({8, 8, 1}, record, {0, 0, 8}), qvpStatusOutOfRange);
-  EXPECT_EQ(resize({8, 8, 1}, record, {0, 0, 5}), qvpStatusNullPointer);  // plane 3
-  EXPECT_EQ(resize({8, 8, 2}, record, {0, 0, 0}), qvpStatusNullPointer);  // result 1
-  EXPECT_EQ(resize({9, 8, 1}, record, {0, 0, 0}), qvpStatusSizeWarning);
+  EXPECT_EQ(resize({8, 8, 1}, {0, 0, 8}), qvpStatusOutOfRange);
+  EXPECT_EQ(resize({8, 8, 1}, {0, 0, 5}), qvpStatusNullPointer);  // plane 3
+  EXPECT_EQ(resize({8, 8, 2}, {0, 0, 0}), qvpStatusNullPointer);  // result 1
+  EXPECT_EQ(resize({9, 8, 1}, {0, 0, 0}), qvpStatusSizeWarning);
   int size = 7;
   EXPECT_EQ(qvprResizeGetSize({512, 512, 512}, {256, 256, 256}, qvp8u, qvpInterpolationLinear, &size), 0);
   EXPECT_EQ(size, 6464);
