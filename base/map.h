@@ -17,6 +17,8 @@ class PerChannel {
  public:
   using T = hn::TFromD<D>;
 
+  PerChannel() = default;
+
   // `values` has one entry for each channel; an alpha channel that is kept needs none.
   template <class S>
   PerChannel(D, const S* values, Layout layout) {
@@ -25,6 +27,10 @@ class PerChannel {
       S value;
       std::memcpy(&value, values + c, sizeof(S));
       pixel[c] = static_cast<T>(value);
+    }
+    if (Channels(layout) == 1) {
+      Fill(pixel[0]);
+      return;
     }
     for (int i = 0, c = 0; i < kPeriod; ++i) {
       lanes_[i] = pixel[c];
@@ -40,7 +46,15 @@ class PerChannel {
 
  private:
   static constexpr int kPeriod = 12;
-  static constexpr int kLanes = (static_cast<int>(hn::MaxLanes(D())) / kPeriod + 2) * kPeriod;
+  static constexpr int kVector = hn::MaxLanes(D()), kLanes = (kVector / kPeriod + 2) * kPeriod;
+
+  // By whole vectors, which are loaded sooner than what was stored in parts.
+  HWY_INLINE void Fill(T value) {
+    const auto v = hn::Set(D(), value);
+    for (int i = 0; i < kLanes - kVector; i += kVector) hn::StoreU(v, D(), lanes_ + i);
+    hn::StoreU(v, D(), lanes_ + kLanes - kVector);
+  }
+
   HWY_ALIGN T lanes_[kLanes];
 };
 

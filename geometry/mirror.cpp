@@ -9,82 +9,27 @@
 #include "base/store.h"
 #include "core/channels.h"
 #include "core/copy.h"
+#include "geometry/reverse_rows.h"
 #include "geometry/transpose.h"
 
 namespace qvp::mirror {
 namespace {
 
-using Wide = hn::ScalableTag<uint8_t>;
-using Block = hn::Full128<uint8_t>;
-
-// Byte i of a block whose pixels stand in reverse order comes from byte order[i] of the loaded one. Blocks of pixels
-// that do not divide them have bytes to spare, in front when loaded; they hold 15 or 12 used ones.
-struct Reversal {
-  alignas(kBlockBytes) uint8_t order[kBlockBytes], lastOrder[kBlockBytes], keep[kBlockBytes];
-  int used;
-
-  explicit Reversal(const Bytes& dst) {
-    const int bytes = dst.PixelBytes(), kept = KeepsAlpha(dst.layout) ? dst.elementBytes : 0;
-    used = kBlockBytes / bytes * bytes;
-    const int spare = kBlockBytes - used;
-    for (int i = 0; i < kBlockBytes; ++i) {
-      const auto from = [&](int j) { return static_cast<uint8_t>(used - (j / bytes + 1) * bytes + j % bytes); };
-      order[i] = i < used ? from(i) + spare : 0x80;
-      lastOrder[i] = i < spare ? 0x80 : from(i - spare);  // of the row's first bytes, to its last ones
-      keep[i] = i % bytes >= bytes - kept ? 0xFF : 0;
-    }
-  }
-};
-
-// Row pieces shorter than a block, one pixel after the other.
-HWY_NOINLINE void ReversePixels(const uint8_t* end, uint8_t* dst, ptrdiff_t n, int bytes, int copied) {
-  for (ptrdiff_t i = 0; i < n; i += bytes) std::memcpy(dst + i, end - i - bytes, copied);
-}
-
-// Pixels that divide a block: whole vectors. The last vector may overlap the one before it, as both write one value.
-template <bool kKeep, class D>
-void ReverseVectors(D d, const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
-  constexpr ptrdiff_t kVector = hn::MaxLanes(D());
-  const auto order = hn::LoadDup128(d, reversal.order), keep = hn::LoadDup128(d, reversal.keep);
-  const auto at = [&](ptrdiff_t i) HWY_ATTR {
-    const auto v = hn::TableLookupBytes(hn::ReverseBlocks(d, hn::LoadU(d, end - i - kVector)), order);
-    hn::StoreU(kKeep ? hn::IfVecThenElse(keep, hn::LoadU(d, dst + i), v) : v, d, dst + i);
-  };
-  for (ptrdiff_t i = 0; i + kVector <= n; i += kVector) at(i);
-  if (n % kVector != 0) at(n - kVector);
-}
-
-// Three channels: blocks with spare bytes, which the next block's store overwrites. The last block keeps what its own
-// spare bytes cover.
-void ReverseSpare(const Reversal& reversal, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
-  const Block d;
-  const auto order = hn::Load(d, reversal.order), lastOrder = hn::Load(d, reversal.lastOrder);
-  const ptrdiff_t used = reversal.used;
-  ptrdiff_t i = 0;
-  for (; i + kBlockBytes <= n; i += used) {
-    hn::StoreU(hn::TableLookupBytesOr0(hn::LoadU(d, end - i - kBlockBytes), order), d, dst + i);
-  }
-  if (i == n) return;
-  uint8_t* const last = dst + n - kBlockBytes;
-  const auto before = hn::IfThenElseZero(hn::FirstN(d, kBlockBytes - used), hn::LoadU(d, last));
-  hn::StoreU(hn::Or(before, hn::TableLookupBytesOr0(hn::LoadU(d, end - n), lastOrder)), d, last);
-}
-
-// dst: n bytes, the pixels before `end` from the last to the first. The rows must not overlap.
-template <bool kKeep>
-void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
+// The pixels of every row from the last to the first. The images must not overlap.
+void ReverseRows(const ConstBytes& src, const Bytes& dst, Size roi) {
+  const int pixelBytes = dst.PixelBytes();
+  const Reversal& reversal = kReversals[pixelBytes];
+  const ptrdiff_t n = dst.RowBytes(roi.width);
+  const ReversedRows rows{src.data + n, src.step, dst.data, dst.step, n, roi.height};
   if (n < kBlockBytes) {
-    ReversePixels(end, dst, n, image.PixelBytes(), ProcessedChannels(image.layout) * image.elementBytes);
+    ReversePixels(rows, pixelBytes, ProcessedChannels(dst.layout) * dst.elementBytes);
   } else if (reversal.used != kBlockBytes) {
-    ReverseSpare(reversal, end, dst, n);
+    ReverseTriples(Wide(), reversal, rows);
   } else if (n < static_cast<ptrdiff_t>(hn::MaxLanes(Wide()))) {
-    ReverseVectors<kKeep>(Block(), reversal, end, dst, n);
+    (KeepsAlpha(dst.layout) ? ReverseVectors<true, Block> : ReverseVectors<false, Block>)(Block(), reversal, rows);
   } else {
-    ReverseVectors<kKeep>(Wide(), reversal, end, dst, n);
+    (KeepsAlpha(dst.layout) ? ReverseVectors<true, Wide> : ReverseVectors<false, Wide>)(Wide(), reversal, rows);
   }
-}
-void ReverseRow(const Reversal& reversal, const Bytes& image, const uint8_t* end, uint8_t* dst, ptrdiff_t n) {
-  (KeepsAlpha(image.layout) ? ReverseRow<true> : ReverseRow<false>)(reversal, image, end, dst, n);
 }
 
 ConstBytes Constant(const Bytes& image) { return {image.data, image.step, image.layout, image.elementBytes}; }
@@ -92,12 +37,6 @@ ConstBytes Constant(const Bytes& image) { return {image.data, image.step, image.
 void CopyRows(const ConstBytes& src, const Bytes& dst, Size roi, Store store) {
   if (KeepsAlpha(dst.layout)) return MoveChannels(src, dst, roi, {{0, 1, 2, kKeepChannel}});
   CopyPixels(src, dst, roi, store);
-}
-
-void ReverseRows(const ConstBytes& src, const Bytes& dst, Size roi) {
-  const Reversal reversal(dst);
-  const ptrdiff_t n = dst.RowBytes(roi.width);
-  for (ptrdiff_t y = 0; y < roi.height; ++y) ReverseRow(reversal, dst, src.Row(y) + n, dst.Row(y), n);
 }
 
 // Swaps two pieces of rows, one of them being held back in a buffer; both are reversed if asked.
@@ -108,7 +47,6 @@ class Swap {
   Swap(const Bytes& image, bool reverses)
       : image_(image),
         buffer_{pixels_, 0, image.layout == Layout::kAC4 ? Layout::kC4 : image.layout, image.elementBytes},
-        reversal_(image),
         reverses_(reverses) {}
 
   void operator()(uint8_t* a, uint8_t* b, ptrdiff_t pixels) const {
@@ -120,15 +58,15 @@ class Swap {
 
  private:
   void Put(const uint8_t* from, uint8_t* to, ptrdiff_t n) const {
-    if (reverses_) return ReverseRow(reversal_, image_, from + n, to, n);
     const ConstBytes src{from, n, buffer_.layout, image_.elementBytes};
-    CopyRows(src, Bytes{to, n, image_.layout, image_.elementBytes}, Size(n / image_.PixelBytes(), 1), Store::kOrdinary);
+    const Bytes dst{to, n, image_.layout, image_.elementBytes};
+    const Size row(n / image_.PixelBytes(), 1);
+    reverses_ ? ReverseRows(src, dst, row) : CopyRows(src, dst, row, Store::kOrdinary);
   }
 
   alignas(kStreamedLine) mutable uint8_t pixels_[kMostPixels * 16];
   const Bytes& image_;
   Bytes buffer_;
-  Reversal reversal_;
   bool reverses_;
 };
 

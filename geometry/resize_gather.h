@@ -2,6 +2,8 @@
 // outputs, because their samples are close to each other. The shuffles are made once for a tile.
 #pragma once
 
+#include <cstring>
+
 #include "base/blocks.h"
 #include "base/pairs.h"
 #include "geometry/resize_call.h"
@@ -65,10 +67,17 @@ struct PlacePair {
   ptrdiff_t Least() const { return std::min(first, second); }
 };
 
-// The shuffles for samples [from, to) of a row of outputs, whose sample s needs the byte at place(s) of the source row
-// and the one `apart` behind it; of one channel, place(s) may be a pair of any two places that are near. A vector of
-// outputs has kGatherBytes / lane samples; the last one may overlap the one before it. Loads stay within [places of the
-// first sample, end). `further` bytes behind each load can be read too.
+// The places of the samples of pixels in a source row: of column x from first[x], which never decreases, times
+// `pixelBytes` on, less `origin`; `between` bytes lie from one to the next.
+struct SamplePlaces {
+  const int32_t* first;
+  ptrdiff_t pixelBytes, between = 1, origin = 0;
+};
+
+// The shuffles for a row of outputs, whose sample s needs the byte at its place in the source row and the one `apart`
+// behind it; of one channel, a function may give a pair of any two places that are near. A vector of outputs has
+// kGatherBytes / lane samples; the last one may overlap the one before it. Loads stay within [places of the first
+// sample, end).
 class Gather {
  public:
   // Bytes of memory for n samples. Nothing is kept for a part of a vector.
@@ -80,20 +89,26 @@ class Gather {
   Gather() = default;
 
   // `masks` has room for kGatherBytes a vector, `offsets` for OffsetsOfVector(loads) numbers.
-  template <class Place>
-  Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const Place& place, uint8_t* masks,
-         int32_t* offsets)
-      : masks_(masks), offsets_(offsets), loads_(loads) {
-    const ptrdiff_t perVector = kGatherBytes / shape.lane, perLoad = perVector / OffsetsOfVector(loads);
-    if (samples < perVector || end - Both(shape, place, 0).Least() < kBlockBytes) return;
-    count_ = Vectors(shape, samples);
-    for (ptrdiff_t v = 0; v < count_; ++v) {
-      const ptrdiff_t start = std::min(v * perVector, samples - perVector);
-      for (ptrdiff_t s = start; s < start + perVector; s += perLoad) {
-        *offsets++ = AddLoad(shape, s, perLoad, end, place, masks);
-        masks += perLoad * shape.lane;
+  Gather(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end, const SamplePlaces& places,
+         uint8_t* masks, int32_t* offsets) {
+    if (shape.channels == 1) *this = OfPixels<1>(shape, loads, samples, end, places, masks, offsets);
+    if (shape.channels == 2) *this = OfPixels<2>(shape, loads, samples, end, places, masks, offsets);
+    if (shape.channels == 3) *this = OfPixels<3>(shape, loads, samples, end, places, masks, offsets);
+    if (shape.channels == 4) *this = OfPixels<4>(shape, loads, samples, end, places, masks, offsets);
+  }
+  template <class Pairs>
+  static Gather OfPairs(int loads, ptrdiff_t samples, ptrdiff_t end, const Pairs& pairs, uint8_t* masks,
+                        int32_t* offsets) {
+    const auto add = [&](ptrdiff_t s, ptrdiff_t n, uint8_t* mask) {
+      const ptrdiff_t offset = std::min(pairs(s).Least(), end - kBlockBytes);
+      for (ptrdiff_t i = 0; i < n; ++i) {
+        const PlacePair both = pairs(s + i);
+        mask[2 * i] = static_cast<uint8_t>(both.first - offset);
+        mask[2 * i + 1] = static_cast<uint8_t>(both.second - offset);
       }
-    }
+      return static_cast<int32_t>(offset);
+    };
+    return {2, loads, samples, end - pairs(0).Least(), add, masks, offsets};
   }
 
   ptrdiff_t count() const { return count_; }
@@ -102,33 +117,54 @@ class Gather {
   const int32_t* offsets() const { return offsets_; }
 
  private:
-  template <class Place>
-  static PlacePair Both(const GatherShape& shape, const Place& place, ptrdiff_t s) {
-    if constexpr (std::is_same_v<decltype(place(s)), PlacePair>) {
-      return place(s);
-    } else {
-      const ptrdiff_t first = place(s);
-      return {first, first + shape.apart};
+  // add(s, n, mask) makes the mask of a load for n samples from s on, and tells its offset.
+  template <class Add>
+  Gather(int lane, int loads, ptrdiff_t samples, ptrdiff_t bytes, const Add& add, uint8_t* masks, int32_t* offsets)
+      : masks_(masks), offsets_(offsets), loads_(loads) {
+    const ptrdiff_t perVector = kGatherBytes / lane, perLoad = perVector / OffsetsOfVector(loads);
+    if (samples < perVector || bytes < kBlockBytes) return;
+    count_ = (samples + perVector - 1) / perVector;
+    for (ptrdiff_t v = 0; v < count_; ++v) {
+      const ptrdiff_t start = std::min(v * perVector, samples - perVector);
+      for (ptrdiff_t s = start; s < start + perVector; s += perLoad) {
+        *offsets++ = add(s, perLoad, masks);
+        masks += perLoad * lane;
+      }
     }
   }
 
-  template <class Place>
-  static int32_t AddLoad(const GatherShape& shape, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, const Place& place,
+  template <int kChannels>
+  static Gather OfPixels(const GatherShape& shape, int loads, ptrdiff_t samples, ptrdiff_t end,
+                         const SamplePlaces& places, uint8_t* masks, int32_t* offsets) {
+    const auto make = [&](auto one, uint32_t behind) {
+      using Lane = decltype(one);
+      const auto add = [=](ptrdiff_t s, ptrdiff_t n, uint8_t* mask) {
+        return AddLoad<kChannels>(places, s, n, end, one, static_cast<Lane>(behind), mask);
+      };
+      return Gather(shape.lane, loads, samples, end - PlaceOf<kChannels>(places, 0), add, masks, offsets);
+    };
+    const auto apart = static_cast<uint32_t>(shape.apart);
+    if (shape.lane == 1) return make(uint8_t{1}, 0);
+    if (shape.lane == 2) return make(uint16_t{0x101}, apart << 8);
+    return make(uint32_t{0x10001}, apart << 16 | 0x80008000);
+  }
+
+  template <int kChannels>
+  static ptrdiff_t PlaceOf(const SamplePlaces& p, ptrdiff_t s) {
+    return p.first[s / kChannels] * p.pixelBytes + s % kChannels * p.between - p.origin;
+  }
+
+  // A lane of the mask is a sample's place in the load times `one`, plus `behind`.
+  template <int kChannels, class Lane>
+  static int32_t AddLoad(const SamplePlaces& places, ptrdiff_t s, ptrdiff_t n, ptrdiff_t end, Lane one, Lane behind,
                          uint8_t* mask) {
-    ptrdiff_t offset = Both(shape, place, s).Least();
-    if (shape.channels > 1) {
-      for (ptrdiff_t i = 1; i < n; ++i) offset = std::min(offset, Both(shape, place, s + i).first);
+    ptrdiff_t offset = end - kBlockBytes;
+    for (ptrdiff_t i = 0; i < std::min<ptrdiff_t>(n, kChannels); ++i) {
+      offset = std::min(offset, PlaceOf<kChannels>(places, s + i));
     }
-    offset = std::min(offset, end - kBlockBytes);
-    for (ptrdiff_t i = 0; i < n; ++i, mask += shape.lane) {
-      const PlacePair both = Both(shape, place, s + i);
-      const auto at = static_cast<uint8_t>(both.first - offset), second = static_cast<uint8_t>(both.second - offset);
-      mask[0] = at;
-      if (shape.lane == 2) mask[1] = second;
-      if (shape.lane != 4) continue;
-      mask[1] = 0x80;
-      mask[2] = second;
-      mask[3] = 0x80;
+    for (ptrdiff_t i = 0; i < n; ++i) {
+      const auto lane = static_cast<Lane>((PlaceOf<kChannels>(places, s + i) - offset) * one + behind);
+      std::memcpy(mask + i * ptrdiff_t{sizeof(Lane)}, &lane, sizeof lane);
     }
     return static_cast<int32_t>(offset);
   }

@@ -115,17 +115,16 @@ class LinearColumns : public FixedColumns {
  private:
   template <int kChannels>
   void Plan(const GatherShape& shape, int loads, uint8_t* masks, int32_t* offsets) {
-    const ptrdiff_t samples = ServedSamples(), pixelBytes = pixels_.bytes, between = pixels_.between;
+    const ptrdiff_t samples = ServedSamples(), pixelBytes = pixels_.bytes;
     const int32_t* first = taps.first + served.begin;
     const int16_t* second = weights_ + 2 * served.begin + 1;
     const ptrdiff_t lastColumn = std::min(served.end, taps.length) - 1 - served.begin, last = first[lastColumn];
     const ptrdiff_t end = (std::max(edge(last), edge(last + 1)) + 1) * pixelBytes - pixels_.offset;
     if constexpr (kChannels == 1) {
-      const auto place = [this, lastColumn](ptrdiff_t s) { return PlacesOf(std::min(s, lastColumn)); };
-      gather = Gather(shape, loads, samples, end, place, masks, offsets);
+      const auto pairs = [this, lastColumn](ptrdiff_t s) { return PlacesOf(std::min(s, lastColumn)); };
+      gather = Gather::OfPairs(loads, samples, end, pairs, masks, offsets);
     } else {
-      const auto place = [=](ptrdiff_t s) { return first[s / kChannels] * pixelBytes + s % kChannels * between; };
-      gather = Gather(shape, loads, samples, end, place, masks, offsets);
+      gather = Gather(shape, loads, samples, end, {first, pixelBytes, pixels_.between}, masks, offsets);
     }
     for (ptrdiff_t v = 0; v < gather.count(); ++v) {
       const ptrdiff_t start = std::min(v * kSamples, samples - kSamples);

@@ -38,9 +38,7 @@ class Shuffle {
     const ptrdiff_t origin = tile.source.x, last = (index[tile.width - 1] - origin + 1) * pixelBytes;
     auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, bytes) * kGatherBytes);
     bytes_ = bytes;
-    gather_ = Gather(
-        shape, loads, bytes, last,
-        [=](ptrdiff_t i) { return (index[i / pixelBytes] - origin) * pixelBytes + i % pixelBytes; }, room, offsets);
+    gather_ = Gather(shape, loads, bytes, last, {index, pixelBytes, 1, origin * pixelBytes}, room, offsets);
   }
 
   bool IsUsable() const { return gather_.count() > 0; }

@@ -140,16 +140,21 @@ template <size_t kRows, class T, class Weights>
 void PickAcross(const ColumnPlan<T>& plan, const Weights weights, const std::array<const T*, kRows> rows,
                 const std::array<float*, kRows> out) {
   using D = hn::CappedTag<float, 8>;
+  constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
   const int32_t* first = plan.taps.first;
   const auto lastPicked = static_cast<int32_t>(plan.lastPicked);
-  const auto filter = [=](ptrdiff_t x) HWY_ATTR {
-    const PickedPairs<D, T> pairs(D(), first + x, lastPicked);
+  const auto filter = [=](ptrdiff_t x, int32_t picked) HWY_ATTR QVP_INLINED {
+    const PickedPairs<D, T> pairs(D(), first + x, picked);
     const auto left = weights.Load(D(), 0, x), right = weights.Load(D(), 1, x);
     for (size_t i = 0; i < kRows; ++i) hn::StoreU(pairs.WeightedSum(rows[i], left, right), D(), out[i] + x);
   };
-  const ptrdiff_t last = plan.to - ptrdiff_t{hn::MaxLanes(D())};
-  for (ptrdiff_t x = plan.taps.from; x < last; x += hn::MaxLanes(D())) filter(x);
-  filter(last);
+  const ptrdiff_t last = plan.to - kLanes;
+  ptrdiff_t x = plan.taps.from;
+  for (; x < last && first[x + kLanes - 4] <= lastPicked; x += kLanes) filter(x, INT32_MAX);
+  for (bool isLast = false; !isLast; x += kLanes) {
+    isLast = x >= last;
+    filter(std::min(x, last), lastPicked);
+  }
 }
 
 // One channel. The usual numbers of taps have loops of their own.

@@ -62,10 +62,7 @@ class TapColumns : public FixedColumns {
     const ptrdiff_t end = (taps.first[taps.to - 1] + ptrdiff_t{hasAll_ ? taps.count : 2}) * channels;
     const int32_t* first = taps.first + taps.from;
     const int nc = channels;
-    gather = Gather(
-        shape, loads, ServedSamples(), end,
-        [=](ptrdiff_t s) { return nc == 1 ? ptrdiff_t{first[s]} : first[s / nc] * ptrdiff_t{nc} + s % nc; }, room,
-        offsets);
+    gather = Gather(shape, loads, ServedSamples(), end, {first, nc}, room, offsets);
     for (int i = 0; i < 3 * static_cast<int>(kSamples); ++i) {
       pixelOf_[i] = (i / static_cast<int>(kSamples) + i % static_cast<int>(kSamples)) / nc;
     }

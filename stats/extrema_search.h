@@ -101,15 +101,16 @@ class Extreme {
   static constexpr ptrdiff_t kLanes = hn::MaxLanes(D());
 
   HWY_INLINE explicit Extreme(const Image<const T>& src, Size roi)
-      : src_(src), roi_(roi), pattern_(D(), best_, src.layout) {
-    std::fill_n(best_, 4, Goal::template kWorst<T>);
-    if (KeepsAlpha(src.layout)) best_[3] = Goal::template kBest<T>;
+      : src_(src), roi_(roi), best_{kWorst, kWorst, kWorst, KeepsAlpha(src.layout) ? Goal::template kBest<T> : kWorst} {
     std::fill_n(pieces_, 4, Piece<T>{src.data, 1, 0, 0});
     Spread();
   }
 
   HWY_INLINE V Start(ptrdiff_t lane) const { return pattern_.From(lane); }
-  static HWY_INLINE V Better(V v, V best) { return Goal::Better(v, best); }
+  template <class Lanes>
+  static HWY_INLINE Lanes Better(Lanes v, Lanes best) {
+    return Goal::Better(v, best);
+  }
   HWY_INLINE bool IsBetter(V v, ptrdiff_t lane) const {
     return !hn::AllFalse(D(), Goal::IsBetter(v, pattern_.From(lane)));
   }
@@ -131,6 +132,18 @@ class Extreme {
     HWY_ALIGN T lanes[kLanes];
     hn::Store(v, D(), lanes);
     Update(piece, lanes, kLanes, lane);
+  }
+
+  // Whether all blocks have the same channels in the same lanes, so that a piece's vectors can become one block.
+  bool AreBlocksAlike() const { return Channels(src_.layout) != 3; }
+  void UpdateByBlocks(const Piece<T>& piece, V v) {
+    const hn::Full128<T> d;
+    HWY_ALIGN T lanes[kLanes];
+    hn::Store(v, D(), lanes);
+    auto best = hn::Load(d, lanes);
+    for (ptrdiff_t i = hn::MaxLanes(d); i < kLanes; i += hn::MaxLanes(d)) best = Better(hn::Load(d, lanes + i), best);
+    hn::Store(best, d, lanes);
+    Update(piece, lanes, hn::MaxLanes(d), 0);
   }
 
   // Whether nothing can be better.
@@ -183,7 +196,8 @@ class Extreme {
 
   const Image<const T>& src_;
   Size roi_;
-  T best_[4] = {};
+  static constexpr T kWorst = Goal::template kWorst<T>;
+  T best_[4];
   Piece<T> pieces_[4];
   PerChannel<D> pattern_;
 };
@@ -206,6 +220,11 @@ struct Running {
 
   template <class T>
   HWY_INLINE void Finish(const Piece<T>& piece, ptrdiff_t lastLane) {
+    if (extreme.AreBlocksAlike()) {
+      const V all = E::Better(E::Better(best[0], best[1]), E::Better(best[2], last));
+      if (extreme.IsBetter(all, 0)) extreme.UpdateByBlocks(piece, all);
+      return;
+    }
     for (int k = 0; k < kVectors; ++k) {
       if (extreme.IsBetter(best[k], k * kLanes)) extreme.Update(piece, best[k], k * kLanes);
     }
