@@ -108,14 +108,14 @@ class TripleReversal {
         close_(hn::SetTableIndices(d32, kIndices.close)),
         order_(hn::LoadDup128(D(), reversal.tripleOrder)) {}
 
-  // A row of at least a vector. The bytes that a vector has to spare are overwritten by the next one; those before the
-  // end of the row are stored alone.
+  // A row of at least a vector. The bytes that a vector has to spare are overwritten by the next one; of the last ones,
+  // which end with the row, they are not stored.
   HWY_INLINE void operator()(const uint8_t* end, uint8_t* dst, ptrdiff_t n) const {
     const D d;
     ptrdiff_t i = 0;
     for (; i + kVector <= n; i += kUsed) hn::StoreU(Reversed(end - i - kVector, last_), d, dst + i);
     if (i + kUsed < n) StoreUsed(Reversed(end - i - kUsed, first_), dst + i);
-    if (i < n) StoreUsed(Reversed(end - n, first_), dst + n - kUsed);
+    StoreUsed(Reversed(end - n, first_), dst + n - kUsed);
   }
 
  private:
