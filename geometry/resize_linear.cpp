@@ -11,10 +11,18 @@
 namespace qvp::resize {
 namespace {
 
-void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
-  const hn::ScalableTag<int16_t> d;
+template <class D>
+void BlendRowsBy(D d, const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
   const auto w = hn::Set(d, static_cast<int16_t>(2 * weight));
   StoreBytes(d, dst, samples, [=](ptrdiff_t i) HWY_ATTR { return BlendDown(d, upper + i, lower + i, w); });
+}
+
+// Rows too short for two of the longest vectors take shorter ones.
+void BlendRows(const int16_t* upper, const int16_t* lower, int weight, uint8_t* dst, ptrdiff_t samples) {
+  const hn::ScalableTag<int16_t> d;
+  const hn::CappedTag<int16_t, 16> narrow;
+  if (samples >= 2 * static_cast<ptrdiff_t>(hn::MaxLanes(d))) return BlendRowsBy(d, upper, lower, weight, dst, samples);
+  BlendRowsBy(narrow, upper, lower, weight, dst, samples);
 }
 
 // The columns [begin, end) of a tile.

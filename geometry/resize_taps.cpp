@@ -33,6 +33,8 @@ class TapColumns : public FixedColumns {
     const int loads = hasAll_ ? forAll : LoadsFor(pairs, axis.p, axis.q);
     const bool isRoom = loads < 2 || nc == 1 || taps.count == 6;  // for several loads' places
     if (loads != 0 && isRoom && ServedSamples() > 0) Plan(hasAll_ ? all : pairs, loads, room);
+    for (ptrdiff_t x = 0; x < std::min(taps.from, kPlaced); ++x) FindPlaces(x, left_[x]);
+    for (ptrdiff_t x = taps.to; x < std::min(taps.length, taps.to + kPlaced); ++x) FindPlaces(x, right_[x - taps.to]);
   }
 
   template <int kLoads>
@@ -54,7 +56,8 @@ class TapColumns : public FixedColumns {
  private:
   using Sums = hn::Repartition<int32_t, GatherTag>;
   using Words = hn::Repartition<int16_t, GatherTag>;
-  static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums());
+  using TapOffsets = ptrdiff_t[6];
+  static constexpr ptrdiff_t kSamples = hn::MaxLanes(Sums()), kPlaced = 4;
 
   void Plan(const GatherShape& shape, int loads, uint8_t* room) {
     auto* offsets = reinterpret_cast<int32_t*>(room + Gather::Vectors(shape, ServedSamples()) * kGatherBytes);
@@ -68,16 +71,28 @@ class TapColumns : public FixedColumns {
     }
   }
 
+  // The first samples of what stands for a column's taps. Those of the first and the last columns are found once.
+  void FindPlaces(ptrdiff_t x, TapOffsets& places) const {
+    for (int k = 0; k < taps.count; ++k) places[k] = edge(taps.first[x] + k) * channels;
+  }
+  const ptrdiff_t* PlacesOf(ptrdiff_t x, TapOffsets& found) const {
+    if (x < std::min(taps.from, kPlaced)) return left_[x];
+    if (x >= taps.to && x < taps.to + kPlaced) return right_[x - taps.to];
+    FindPlaces(x, found);
+    return found;
+  }
+
   template <int kChannels>
   void FilterEach(const RowPair& rows, ptrdiff_t begin, ptrdiff_t end, int16_t* out) const {
-    const Edge place = edge;
     const int count = taps.count;
+    TapOffsets found;
     for (ptrdiff_t x = begin; x < end; ++x) {
+      const ptrdiff_t* places = PlacesOf(x, found);
       int sums[2 * kChannels];
       std::fill_n(sums, 2 * kChannels, 1 << (kAcrossShift - 1));
       const int16_t* weights = weights_ + 2 * x;
       for (int k = 0; k < count; ++k) {
-        const ptrdiff_t at = place(taps.first[x] + k) * kChannels;
+        const ptrdiff_t at = places[k];
         for (int i = 0; i < 2 * kChannels; ++i) sums[i] += rows[i % 2][at + i / 2] * weights[k % 2];
         weights += k % 2 * 2 * plane_;
       }
@@ -146,6 +161,7 @@ class TapColumns : public FixedColumns {
   }
 
   ptrdiff_t plane_;
+  TapOffsets left_[kPlaced], right_[kPlaced];
   const int16_t* weights_;
   int32_t pixelOf_[3 * kSamples];  // of the lanes of a vector that begins at each channel of a pixel
   bool hasAll_ = false;            // whether one load has all taps of its outputs
