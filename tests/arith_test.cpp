@@ -255,6 +255,21 @@ TEST(Arithmetic, RefusesConstantsOfZero) {
   }
 }
 
+// Rows are taken together only where those of all images follow each other.
+TEST(Arithmetic, OfPackedImagesBesidePaddedOnes) {
+  for (int choice = 0; choice < 8; ++choice) {
+    const Image<Qvp16s> a(33, 7, choice % 2 * 6), b(33, 7, choice / 2 % 2 * 10), dst(33, 7, choice / 4 * 4);
+    ASSERT_EQ(qvpiSub_16s_C1RSfs(a.data(), a.step(), b.data(), b.step(), dst.data(), dst.step(), {33, 7}, 1), 0);
+    for (int i = 0; i < 33 * 7; ++i) {
+      const int x = i % 33, y = i / 33;
+      ASSERT_EQ(dst(x, y), Scaled(test::ElementOf("16s"), b(x, y) - a(x, y), 1, 1))
+          << x << ',' << y << " of " << choice;
+    }
+    ASSERT_EQ(qvpiAbs_16s_C1R(a.data(), a.step(), dst.data(), dst.step(), {33, 7}), 0);
+    for (int i = 0; i < 33 * 7; ++i) ASSERT_EQ(dst(i % 33, i / 33), std::min(std::abs(a(i % 33, i / 33)), 32767));
+  }
+}
+
 // Results that go past the caches leave in whole lines from any start, and are the same.
 TEST(Arithmetic, OfLargeImages) {
   const int width = 7001, height = 4000, step = 7040;

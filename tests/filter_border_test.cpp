@@ -280,6 +280,14 @@ TEST(FilterBorder, RecordsOfOtherTypesAreSafe) {
   EXPECT_EQ(Apply(scene, doubles, {0, 0, {40, 3}, qvpBorderMirror}, dst), 0);
 }
 
+TEST(FilterBorder, TakesAnElementForEachPixelFromStepToStep) {
+  const Prepared prepared = Prepare(RandomFilter("16s", {3, 3}, 5, 7), {9, 2}, qvp16u, 1);
+  const Bordered scene(ElementOf("16u"), {}, {{9, 2}, 1, qvpBorderReplicate});
+  const test::Samples dst(ElementOf("16u"), 9, 2, 0);
+  EXPECT_EQ(Apply(scene, prepared, test::WholeOf(scene), {dst.bytes(), 18}), 0);
+  EXPECT_EQ(Apply(scene, prepared, test::WholeOf(scene), {dst.bytes(), 17}), qvpStatusStep);
+}
+
 // Accuracy is more than usual for two kinds of records, offsets are for two others.
 TEST(FilterBorder, TakesAccuracyAndOffsetsWhereTheyHaveAnEffect) {
   const Prepared prepared = Prepare(RandomFilter("16s", {3, 3}, 5), {9, 9}, qvp8u, 1);

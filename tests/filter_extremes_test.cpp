@@ -52,6 +52,18 @@ Mask Disc(int side) {
   return mask;
 }
 
+// Pixels of one colour of a board, and every other row: as many runs as masks of few pixels can have.
+Mask Board(QvpiSize size) {
+  Mask mask = Full(size);
+  for (int k = 0; k < size.width * size.height; ++k) mask.selected[k] = (k % size.width + k / size.width) % 2;
+  return mask;
+}
+Mask Striped(QvpiSize size) {
+  Mask mask = Full(size);
+  for (int k = 0; k < size.width * size.height; ++k) mask.selected[k] = k / size.width % 2 == 0;
+  return mask;
+}
+
 bool TakesLeast(const Export& function) {
   return function.name.find("Min") != std::string::npos || function.name.find("Erode") != std::string::npos;
 }
@@ -133,6 +145,7 @@ TEST(FilterExtremes, MasksEqualTheirDefinition) {
     ++turn;
     Check(*function, Full({5, 4}), RegionOf(turn, name, {5, 4}));
     Check(*function, Disc(turn % 2 ? 15 : 5), RegionOf(turn, name, {5, 5}));
+    Check(*function, turn % 2 ? Board({6, 5}) : Striped({12, 3}), RegionOf(turn, name, {12, 3}));
   }
 }
 

@@ -106,6 +106,23 @@ TEST(FilterWiener, LargeMasks) {
   }
 }
 
+// From 0 to below 1, in every channel that is filtered.
+TEST(FilterWiener, RefusesNoise) {
+  for (const Export* function : test::FunctionsOf({"FilterWienerBorder"})) {
+    const Name name(function->name);
+    const Bordered scene(name.From(), {}, {{5, 2}, name.channels, qvpBorderReplicate});
+    const test::Samples dst(name.To(), 5 * name.channels, 2, 0);
+    for (int c = 0; c < name.channels; ++c) {
+      for (const float bad : {1.0f, -1e-30f, NAN}) {
+        float noise[4] = {0.5f, 0.5f, 0.5f, 0.5f};
+        noise[c] = bad;
+        const QvpStatus expected = c < name.written ? qvpStatusNoiseRange : qvpStatusNoError;
+        EXPECT_EQ(FilterAll(*function, scene, {3, 3}, noise)(dst), expected) << name.layout << ' ' << c << ' ' << bad;
+      }
+    }
+  }
+}
+
 TEST(FilterWiener, KnownValues) {
   const Export& function = test::FunctionNamed("qvpiFilterWienerBorder_8u_C1R");
   for (const auto& [noise, middle, beside] :

@@ -267,14 +267,19 @@ TEST(Extrema, AreThoseOfTheFirstPixelThatHasThem) {
 TEST(Extrema, AreFoundInEveryPlace) {
   for (const Export* function : test::FamilyOf({"MinIndx", "MaxIndx", "MinMax"})) {
     const Name name(function->name);
+    const bool isMaximum = name.operation == "MaxIndx";
     for (const int samples : {33 * name.channels, 150 * name.channels}) {
       Samples image(name.From(), samples, 2, 3);
-      image.Fill([](int, int) { return 5; });
-      for (int place = 0; place < samples; place += 1 + place / 40) {
-        image.Put(place, 1, name.operation == "MaxIndx" ? 6 : 4);
-        CheckExtremes(*function, image);
-        image.Put(place, 1, 5);
-      }
+      const auto find = [&](Real found, Real others) {
+        image.Fill([&](int, int) { return others; });
+        for (int place = 0; place < samples; place += 1 + place / 40) {
+          image.Put(place, 1, found);
+          CheckExtremes(*function, image);
+          image.Put(place, 1, others);
+        }
+      };
+      find(isMaximum ? 6 : 4, 5);
+      if (!name.From().isInteger) find(isMaximum ? -INFINITY : INFINITY, NAN);
     }
   }
 }

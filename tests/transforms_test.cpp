@@ -24,6 +24,8 @@ TEST(Transforms, MapCornersOfARectangleToAQuadrangleAndBack) {
   ASSERT_EQ(qvpiGetBilinearBound(roi, bound, bilinear), 0);
   const double expected[] = {-2, -3, 50, 60};
   for (int i = 0; i < 4; ++i) EXPECT_NEAR(bound[i / 2][i % 2], expected[i], 1e-11);
+  const double turned[4][2] = {{0, 0}, {0, 29}, {-19, 29}, {-19, 0}};
+  EXPECT_EQ(qvpiGetAffineTransform(roi, turned, affine), 0);
   const double crossed[4][2] = {{0, 0}, {1, 1}, {1, 0}, {0, 1}}, flat[2][3] = {{1, 1, 0}, {1, 1, 0}};
   EXPECT_EQ(qvpiGetPerspectiveTransform(roi, crossed, perspective), qvpStatusQuad);
   EXPECT_EQ(qvpiGetAffineTransform({0, 0, 1, 4}, quad, affine), qvpStatusCoefficient);
@@ -45,13 +47,16 @@ TEST(Transforms, RotationsAreAccurate) {
   }
 }
 
-// The corners of random quadrangles, some of them far away.
+// The corners of random quadrangles, some of them far away. The coefficients end with their memory.
 TEST(Transforms, TakeQuadranglesToQuadrangles) {
   test::Random random(7);
+  const test::Block two(2 * 3 * sizeof(double)), three(3 * 3 * sizeof(double));
+  auto* const affine = reinterpret_cast<double(*)[3]>(two.data());
+  auto* const perspective = reinterpret_cast<double(*)[3]>(three.data());
   const auto near = [&](double x) { return x + static_cast<double>(random.Next()) * 0x1p-32 * 900; };
   for (int n = 0; n < 200; ++n) {
     const double at = n % 4 * 1000;
-    double from[4][2], to[4][2], affine[2][3], perspective[3][3];
+    double from[4][2], to[4][2];
     for (auto* quad : {from, to}) {
       const double corners[4][2] = {{at, at}, {at + 2000, at}, {at + 2000, at + 2000}, {at, at + 2000}};
       for (int i = 0; i < 8; ++i) quad[(i / 2 + n) % 4][i % 2] = near(corners[i / 2][i % 2]);

@@ -82,7 +82,7 @@ TEST(VolumeBorders, HaveRoomForTheSource) {
   EXPECT_EQ(copy({2, 2, 2}, 1, 1, 1), 0);
   EXPECT_EQ(copy({2, 2, 2}, 2, 0, 0), qvpStatusSize);
   EXPECT_EQ(copy({2, 2, 2}, 0, INT32_MAX, 0), qvpStatusSize);
-  EXPECT_EQ(copy({2, 2, 2}, 0, 0, 1000), qvpStatusSize);
+  EXPECT_EQ(copy({2, 2, 2}, 0, 0, 2), qvpStatusSize);
 }
 
 // ---- Transforms.
@@ -142,6 +142,19 @@ TEST(Space, TransformsProductsInversesAndBounds) {
   ASSERT_EQ(qvprGetRotateTransform(90, axis, center, there), 0);
   ASSERT_EQ(qvprGetAffineBound({0, 0, 0, 15, 13, 11}, bound, there), 0);
   ExpectNear(bound[0], {1, -1, 0, 13, 13, 10}, 0);
+
+  const Matrix sheared = {{1, 0.5, -0.25, 3}, {-2, 1, 0.75, 0}, {0.5, -1, 2, -4}};
+  const int first[] = {1, 2, 3}, last[] = {4, 6, 8};
+  ASSERT_EQ(qvprGetAffineBound({1, 2, 3, 4, 5, 6}, bound, sheared), 0);
+  for (int i = 0; i < 3; ++i) {
+    double least = sheared[i][3], most = least;
+    for (int j = 0; j < 3; ++j) {
+      const auto [low, high] = std::minmax(sheared[i][j] * first[j], sheared[i][j] * last[j]);
+      least += low, most += high;
+    }
+    EXPECT_EQ(bound[0][i], least);
+    EXPECT_EQ(bound[1][i], most);
+  }
 }
 
 TEST(Space, RefusesWhatFlattensSpace) {

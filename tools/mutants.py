@@ -52,11 +52,12 @@ class Mutant:
         self.file, self.begin, self.end, self.new = file, begin, end, new
         self.mutated = text[:begin] + new + text[end:]
         self.line = text.count("\n", 0, begin) + 1
+        self.column = begin - text.rfind("\n", 0, begin)
         self.source = text.splitlines()[self.line - 1].strip()
         self.old = text[begin:end]
 
     def __str__(self):
-        return f"{self.file}:{self.line}: {self.old.strip()} to {self.new.strip()} in: {self.source}"
+        return f"{self.file}:{self.line}:{self.column}: {self.old.strip()} to {self.new.strip()} in: {self.source}"
 
 
 def changes_of(line):
@@ -184,7 +185,7 @@ def examine(library, candidates, options):
             with turn:
                 counts[verdict] += 1
                 if verdict == "SURVIVES":
-                    print(mutant, flush=True)
+                    print(counts["killed"], "killed;", mutant, flush=True)
 
     with ThreadPoolExecutor(options.jobs) as pool:
         for worker in [pool.submit(work) for _ in range(options.jobs)]:

@@ -16,9 +16,9 @@ namespace test {
 
 class Block {
  public:
-  // What it holds at first nothing may depend on.
+  // What it holds at first nothing may depend on: as floating-point numbers it is NaN, which spreads.
   explicit Block(size_t bytes, Guard guard = Guard::kAfter) : bytes_(bytes), data_(Pages::Take(bytes, guard)) {
-    std::memset(data_, 0xA5, std::min<size_t>(bytes, 1 << 20));
+    std::memset(data_, 0xFF, std::min<size_t>(bytes, 1 << 20));
   }
   Block(const Block&) = delete;
   ~Block() { Pages::Return(data_, bytes_); }
