@@ -149,7 +149,7 @@ TEST(Space, TransformsProductsInversesAndBounds) {
   for (int i = 0; i < 3; ++i) {
     double least = sheared[i][3], most = least;
     for (int j = 0; j < 3; ++j) {
-      const auto [low, high] = std::minmax(sheared[i][j] * first[j], sheared[i][j] * last[j]);
+      const auto [low, high] = std::minmax({sheared[i][j] * first[j], sheared[i][j] * last[j]});
       least += low, most += high;
     }
     EXPECT_EQ(bound[0][i], least);
